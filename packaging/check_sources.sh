@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# What a machine can see of the house style: formatting, and includes that would walk around the floors.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+if git rev-parse --is-inside-work-tree >/dev/null 2>&1; then
+    mapfile -t files < <(git ls-files --cached --others --exclude-standard -- '*.cpp' '*.h' | while read -r f; do
+        [ -f "$f" ] && echo "$f"; done)
+else
+    mapfile -t files < <(find libs src tools tests bench fuzz -name '*.cpp' -o -name '*.h')
+fi
+
+if grep -nE '^#include "\.\./' "${files[@]}"; then
+    echo "Includes are written \"folder/header.h\", never relative to a parent folder." >&2
+    exit 1
+fi
+for file in "${files[@]}"; do
+    case "$file" in
+    *.h) grep -q '^#pragma once' "$file" || { echo "$file lacks #pragma once" >&2; exit 1; } ;;
+    esac
+done
+
+formatter=clang-format-14
+command -v $formatter >/dev/null || formatter=clang-format
+printf '%s\0' "${files[@]}" | xargs -0 -n 32 -P 2 $formatter --dry-run -Werror
+echo "${#files[@]} files are as they should be."

@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Installs what is missing of debian-packages.txt. Says what it does; does nothing when all is there.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+mapfile -t wanted < <(grep -vE '^\s*(#|$)' debian-packages.txt)
+missing=()
+for package in "${wanted[@]}"; do
+    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+if ! command -v apt-get >/dev/null; then
+    echo "This machine has no apt-get. Please install the counterparts of: ${missing[*]}" >&2
+    exit 1
+fi
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "Please install as root: ${missing[*]}" >&2; exit 1; }
+    as_root=(sudo)
+fi
+echo "Installing build packages: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

@@ -1,0 +1,1 @@
+// Carries the precompiled headers; a target needs one source file to have them.
