@@ -1,0 +1,160 @@
+// The typed record of system track messages: CAT062.
+
+#include "disassemble.h"
+#include "typed_items.h"
+#include "walker.h"
+
+#include <bit>
+
+namespace korvane::asterix {
+namespace {
+
+// Positions in the presence field of I062/380.
+enum AircraftDerived : unsigned {
+    Address = 0,
+    Identification = 1,
+    MagneticHeading = 2,
+    SelectedAltitude = 5,
+    FinalSelectedAltitude = 6,
+    BarometricRate = 12,
+    TrackAngle = 16,
+    GroundSpeed = 17
+};
+
+std::int32_t altitude13(const unsigned char *at)
+{
+    return static_cast<std::int32_t>(signExtended(be16(at) & 0x1FFF, 13)) * 25;
+}
+
+void readAircraftDerivedField(_ast_datarecord_062_t &out, unsigned position, const unsigned char *at)
+{
+    auto &derived = out.i380;
+    switch (position) {
+    case Address:
+        derived.addressPresent = true;
+        derived.address = be24(at);
+        break;
+    case Identification:
+        derived.callsignPresent = true;
+        readCallsign(derived.callsign, at);
+        break;
+    case MagneticHeading:
+        derived.magneticHeadingPresent = true;
+        derived.magneticHeading = azimuth16(at);
+        break;
+    case SelectedAltitude:
+        derived.selectedAltitudePresent = true;
+        derived.selectedAltitude = altitude13(at);
+        break;
+    case FinalSelectedAltitude:
+        derived.finalSelectedAltitudePresent = true;
+        derived.finalSelectedAltitude = altitude13(at);
+        break;
+    case BarometricRate:
+        derived.verticalRatePresent = true;
+        derived.verticalRate = signed16(at) * 6.25;
+        break;
+    case TrackAngle:
+        derived.trackAnglePresent = true;
+        derived.trackAngle = azimuth16(at);
+        break;
+    case GroundSpeed:
+        derived.groundSpeedPresent = true;
+        derived.groundSpeed = signed16(at) * (3600.0 / 16384);
+        break;
+    default:
+        break;
+    }
+}
+
+void readAircraftDerived(_ast_datarecord_062_t &out, const _ast_datarecord_t &record, const unsigned char *at)
+{
+    if (!at)
+        return;
+    out.i380.present = true;
+    const Node &item = *record.uap->steps[record.uap->typed[static_cast<std::size_t>(Item062::I380)]].node;
+    const unsigned char *const end = record.data + record.length;
+    Fault fault;
+    const std::size_t presence = presenceLength(at, end, fault);
+    const unsigned char *next = at + presence;
+    for (std::size_t octet = 0; octet < presence; ++octet) {
+        unsigned bits = at[octet] & 0xFEU;
+        while (bits) {
+            const auto leading = static_cast<unsigned>(std::countl_zero(static_cast<std::uint8_t>(bits)));
+            bits &= ~(0x80U >> leading);
+            const unsigned position = static_cast<unsigned>(octet) * 7 + leading;
+            readAircraftDerivedField(out, position, next);
+            next += itemLength(item.children[position], next, end, fault);
+        }
+    }
+}
+
+void readStatus(_ast_datarecord_062_t &out, const unsigned char *at)
+{
+    if (!at)
+        return;
+    // Extents that are not sent read as zero.
+    unsigned extents[4] = {at[0]};
+    for (int i = 1; i < 4 && bit(extents[i - 1], 0); ++i)
+        extents[i] = at[i];
+    out.i080 = {true, bit(extents[0], 7), bit(extents[0], 6), bit(extents[0], 5),
+        static_cast<std::uint8_t>(extents[0] >> 2 & 7), bit(extents[0], 1), bit(extents[1], 7), bit(extents[1], 6),
+        bit(extents[1], 5), bit(extents[3], 7)};
+}
+
+void readKinematics(_ast_datarecord_062_t &out, Items items)
+{
+    if (const unsigned char *at = items[Item062::I105]) {
+        constexpr double lsb = 180.0 / 33554432;
+        out.i105 = {true, static_cast<std::int32_t>(be32(at)) * lsb, static_cast<std::int32_t>(be32(at + 4)) * lsb};
+    }
+    if (const unsigned char *at = items[Item062::I100])
+        out.i100 = {true, signed24(at) * 0.5, signed24(at + 3) * 0.5};
+    if (const unsigned char *at = items[Item062::I185])
+        out.i185 = {true, signed16(at) * 0.25, signed16(at + 2) * 0.25};
+    if (const unsigned char *at = items[Item062::I220])
+        out.i220 = {true, signed16(at) * 6.25};
+    if (const unsigned char *at = items[Item062::I200]) {
+        out.i200 = {true, static_cast<std::uint8_t>(at[0] >> 6), static_cast<std::uint8_t>(at[0] >> 4 & 3),
+            static_cast<std::uint8_t>(at[0] >> 2 & 3), bit(at[0], 1)};
+    }
+}
+
+void readLevels(_ast_datarecord_062_t &out, Items items)
+{
+    if (const unsigned char *at = items[Item062::I136])
+        out.i136 = {true, signed16(at)};
+    if (const unsigned char *at = items[Item062::I130])
+        out.i130 = {true, signed16(at) * 6.25};
+    if (const unsigned char *at = items[Item062::I135]) {
+        const unsigned value = be16(at);
+        out.i135 = {true, bit(value, 15), static_cast<double>(signExtended(value & 0x7FFF, 15))};
+    }
+}
+
+} // namespace
+} // namespace korvane::asterix
+
+using namespace korvane::asterix;
+
+void ast_datarecord_062_disassemble(_ast_datarecord_062_t *out, const _ast_datarecord_t &record)
+{
+    *out = {};
+    if (!isReadable(record, 62))
+        return;
+    out->valid = true;
+    const Items items(record);
+    out->i010 = readSacSic(items[Item062::I010]);
+    readTime(out->i070, items[Item062::I070]);
+    readKinematics(*out, items);
+    readMode3A(out->i060, items[Item062::I060]);
+    if (const unsigned char *at = items[Item062::I245]) {
+        out->i245.present = true;
+        readCallsign(out->i245.text, at + 1); // after the source of the identification
+    }
+    readAircraftDerived(*out, record, items[Item062::I380]);
+    if (const unsigned char *at = items[Item062::I040])
+        out->i040 = {true, static_cast<std::uint16_t>(be16(at))};
+    readStatus(*out, items[Item062::I080]);
+    readLevels(*out, items);
+}

@@ -1,0 +1,270 @@
+#include "asterix/json_encoder.h"
+#include "asterix/json_writer.h"
+#include "octets.h"
+#include "random_records.h"
+
+#include <QTest>
+
+using korvane::asterix::appendRecordJson;
+using korvane::asterix::JsonEncoder;
+using korvane::asterix::TextBuffer;
+
+namespace {
+
+// Whether the shortest decimal text that is printed for a value reads back as exactly that value.
+void compareText(const QByteArray &text, double value)
+{
+    bool isNumber = false;
+    const double read = text.toDouble(&isNumber);
+    QVERIFY2(
+        isNumber && read == value, qPrintable(QString("%1 instead of %2").arg(QString(text)).arg(value, 0, 'g', 17)));
+}
+
+// The text between a key and the comma or bracket after its value.
+QByteArray valueText(const QByteArray &json, const QByteArray &key)
+{
+    const auto from = json.indexOf('"' + key + "\":") + key.size() + 3;
+    auto to = from;
+    while (json[to] != ',' && json[to] != '}')
+        ++to;
+    return json.mid(from, to - from);
+}
+
+} // namespace
+
+class TestJson : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void printsRecord_data();
+    void printsRecord();
+    void printsPlace();
+    void printsEveryNumberExactly_data();
+    void printsEveryNumberExactly();
+    void comesBackFromText_data();
+    void comesBackFromText();
+    void putsBlocksTogether();
+    void refusesLine_data();
+    void refusesLine();
+};
+
+void TestJson::printsRecord_data()
+{
+    QTest::addColumn<int>("category");
+    QTest::addColumn<QByteArray>("hex");
+    QTest::addColumn<QByteArray>("items");
+    const auto row = [](const char *name, int category, const char *hex, const char *items) {
+        QTest::newRow(name) << category << QByteArray(hex) << QByteArray(items);
+    };
+    row("no items", 48, "00", "{}");
+    row("group", 48, "80 19C9", R"({"010":{"SAC":25,"SIC":201}})");
+    row("spare bits left out", 48, "08 FFFF", R"({"070":{"V":1,"G":1,"L":1,"MODE3A":"7777"}})");
+    row("octal zeros", 48, "08 0005", R"({"070":{"V":0,"G":0,"L":0,"MODE3A":"0005"}})");
+    row("signed quantity", 48, "04 3FF6", R"({"090":{"V":0,"G":0,"FL":-2.5}})");
+    row("quantity without fraction", 48, "04 0578", R"({"090":{"V":0,"G":0,"FL":350}})");
+    row("callsign without its blanks", 48, "0140 599631CB3820", R"({"240":"VYX123"})");
+    row("callsign of unassigned codes", 48, "0140 000000000000", R"({"240":""})");
+    row("first extent", 48, "20 A0", R"({"020":{"TYP":5,"SIM":0,"RDP":0,"SPI":0,"RAB":0}})");
+    row("group in an extent", 48, "20 010180",
+        R"({"020":{"TYP":0,"SIM":0,"RDP":0,"SPI":0,"RAB":0,"TST":0,"ERR":0,"XPP":0,"ME":0,"MI":0,"FOEFRI":0,)"
+        R"("ADSB":{"EP":1,"VAL":0},"SCN":{"EP":0,"VAL":0},"PAI":{"EP":0,"VAL":0}}})");
+    row("extents of a later edition", 48, "0102 0101FF00",
+        R"({"170":{"CNF":0,"RAD":0,"DOU":0,"MAH":0,"CDM":0,"TRE":0,)"
+        R"("GHO":0,"SUP":0,"TCC":0}})");
+    row("compound", 48, "02 88 01C4", R"({"130":{"SRL":0.0439453125,"PAM":-60}})");
+    row("compound without sub-items", 34, "04 00", R"({"050":{}})");
+    row("group in a compound", 34, "02 84 20 50",
+        R"({"060":{"COM":{"REDRDP":2,"REDXMT":0},"MDS":{"REDRAD":2,"CLU":1}}})");
+    row("repetitions", 34, "0180 02 0801 17FF", R"({"070":[{"TYP":1,"COUNT":1},{"TYP":2,"COUNT":2047}]})");
+    row("no repetitions", 34, "0180 00", R"({"070":[]})");
+    row("elements repeated by FX", 48, "010140 0520", R"({"030":[2,16]})");
+    row("repeated sub-item", 62, "0110 01010110 01 0123456789ABCDEF", R"({"380":{"BDSDATA":["0123456789abcdef"]}})");
+    row("register", 48, "0120 01 01020304050607 40", R"({"250":[{"MBDATA":"01020304050607","BDS1":4,"BDS2":0}]})");
+    row("more than 32 raw bits", 48, "01010180 01020304050607", R"({"260":"01020304050607"})");
+    row("explicit", 48, "01010104 03 ABCD", R"({"SP":"abcd"})");
+    row("explicit without contents", 48, "01010104 01", R"({"SP":""})");
+    row("text with blanks, quotes and octets", 62, "010102 40 225C4120E92000", R"({"390":{"CS":"\"\\A \u00e9"}})");
+    row("unit chosen: speed", 62, "0110 10 0800", R"({"380":{"IAS":{"IM":0,"IAS":0.125}}})");
+    row("unit chosen: Mach number", 62, "0110 10 8320", R"({"380":{"IAS":{"IM":1,"IAS":0.8}}})");
+    row("decimal fraction", 62, "0110 01010104 0063", R"({"380":{"MAC":0.792}})");
+}
+
+void TestJson::printsRecord()
+{
+    QFETCH(int, category);
+    QFETCH(QByteArray, hex);
+    const Octets octets = Octets::block(category, hex);
+    _ast_datablock_t block;
+    ast_datablock_smart_decode(&block, octets.data(), octets.size());
+    QVERIFY2(block.valid && block.records.size() == 1, korvane::asterix::errorText(block.error));
+    const QByteArray line = jsonLine(block.records[0]);
+    const QByteArray head = "\"items\":";
+    const QByteArray items = line.mid(line.indexOf(head) + head.size()).chopped(2);
+    QTEST(items, "items");
+}
+
+void TestJson::printsPlace()
+{
+    const Octets octets = Octets::block(48, "80 19C9");
+    _ast_datablock_t block;
+    ast_datablock_smart_decode(&block, octets.data(), octets.size());
+    TextBuffer text;
+    appendRecordJson(text, block.records[0], {.block = 7, .offset = 12345678901});
+    appendRecordJson(
+        text, block.records[0], {.block = 8, .offset = 0, .hasTime = true, .timeMilliseconds = 1700000000005});
+    QCOMPARE(QByteArray(text.text().data(), static_cast<int>(text.size())),
+        QByteArray(
+            R"({"cat":48,"block":7,"offset":12345678901,"length":3,"items":{"010":{"SAC":25,"SIC":201}}})"
+            "\n"
+            R"({"cat":48,"block":8,"offset":0,"length":3,"time":1700000000.005,"items":{"010":{"SAC":25,"SIC":201}}})"
+            "\n"));
+}
+
+void TestJson::printsEveryNumberExactly_data()
+{
+    QTest::addColumn<int>("category");
+    QTest::addColumn<QByteArray>("path");
+    QTest::addColumn<int>("bits");
+    QTest::addColumn<bool>("isSigned");
+    QTest::addColumn<double>("numerator");
+    QTest::addColumn<double>("denominator");
+    const auto row = [](int category, const char *path, int bits, bool isSigned, double numerator, double denominator) {
+        QTest::newRow(path) << category << QByteArray(path) << bits << isSigned << numerator << denominator;
+    };
+    row(48, "040/RHO", 16, false, 1, 256);
+    row(48, "040/THETA", 16, false, 360, 65536);
+    row(48, "200/GSP", 16, false, 1, 16384);
+    row(48, "140", 24, false, 1, 128);
+    row(34, "120/LAT", 24, true, 180, 8388608);
+    row(62, "105/LON", 32, true, 180, 33554432);
+    row(62, "130", 16, true, 25, 4);
+    row(62, "380/MAC", 16, false, 8, 1000);
+    row(62, "380/RAN", 16, true, 1, 100);
+    row(62, "380/BPS/BPS", 12, false, 1, 10);
+}
+
+void TestJson::printsEveryNumberExactly()
+{
+    QFETCH(int, category);
+    QFETCH(QByteArray, path);
+    QFETCH(int, bits);
+    QFETCH(bool, isSigned);
+    QFETCH(double, numerator);
+    QFETCH(double, denominator);
+    korvane::asterix::BlockEncoder encoder(category);
+    _ast_datablock_t block;
+    const std::uint64_t count = std::uint64_t{1} << bits;
+    // All values of narrow fields, some thousands spread over the others.
+    for (std::uint64_t raw = 0; raw < count; raw += bits <= 16 ? 7 : count / 9973) {
+        encoder.beginBlock();
+        encoder.beginRecord();
+        QVERIFY(encoder.setRaw(path.constData(), raw));
+        encoder.endRecord();
+        ast_datablock_smart_decode(&block, encoder.block().data(), encoder.block().size());
+        const bool isNegative = isSigned && raw >= count / 2;
+        const double value =
+            isNegative ? static_cast<double>(raw) - static_cast<double>(count) : static_cast<double>(raw);
+        const QByteArray key = path.mid(path.lastIndexOf('/') + 1);
+        const QByteArray json = jsonLine(block.records[0]);
+        const QByteArray text = valueText(json.mid(json.lastIndexOf('"' + key + "\":")), key);
+        compareText(text, value * numerator / denominator);
+        // And the number makes the same bits again.
+        encoder.beginRecord();
+        QVERIFY(encoder.set(path.constData(), text.toDouble()));
+        encoder.endRecord();
+        const QByteArray octets = bytesOf(encoder.block()).mid(3);
+        QCOMPARE(octets.left(octets.size() / 2), octets.mid(octets.size() / 2));
+    }
+}
+
+void TestJson::comesBackFromText_data()
+{
+    QTest::addColumn<int>("category");
+    QTest::addColumn<QByteArray>("variation");
+    QTest::newRow("CAT001 plots") << 1 << QByteArray("plot");
+    QTest::newRow("CAT001 tracks") << 1 << QByteArray("track");
+    QTest::newRow("CAT002") << 2 << QByteArray();
+    QTest::newRow("CAT034") << 34 << QByteArray();
+    QTest::newRow("CAT048") << 48 << QByteArray();
+    QTest::newRow("CAT062") << 62 << QByteArray();
+}
+
+void TestJson::comesBackFromText()
+{
+    QFETCH(int, category);
+    QFETCH(QByteArray, variation);
+    RandomRecords random(category, variation.isEmpty() ? nullptr : variation.constData(), 11);
+    _ast_datablock_t block;
+    for (int i = 0; i < 100; ++i) {
+        const Octets octets(bytesOf(random.makeBlock(5).block()));
+        QVERIFY(ast_datablock_smart_decode(&block, octets.data(), octets.size()));
+        QVERIFY2(block.valid, korvane::asterix::errorText(block.error));
+        QCOMPARE(block.records.size(), std::size_t{5});
+        QByteArray again;
+        JsonEncoder encoder([&again](std::span<const unsigned char> encoded) { again += bytesOf(encoded); });
+        for (const _ast_datarecord_t &record : block.records) {
+            const QByteArray line = jsonLine(record);
+            QVERIFY(QJsonDocument::fromJson(line).isObject());
+            QVERIFY2(encoder.addLine({line.constData(), static_cast<std::size_t>(line.size())}),
+                encoder.lastError().c_str());
+        }
+        encoder.finish();
+        QCOMPARE(again.toHex(), bytesOf({octets.data(), octets.size()}).toHex());
+    }
+}
+
+void TestJson::putsBlocksTogether()
+{
+    QList<QByteArray> blocks;
+    JsonEncoder encoder([&blocks](std::span<const unsigned char> block) { blocks.append(bytesOf(block).toHex()); });
+    for (const char *line : {R"({"cat":34,"block":1,"items":{"000":1}})", R"({"items":{"000":2},"block":1,"cat":34})",
+             R"({"cat":48,"block":1,"items":{"020":{"TYP":1}}})", R"( { "cat" : 48 , "block" : 2 , "items" : { } } )",
+             R"({"cat":48,"block":3,"time":1.5e3,"x":[{"y":null}],"items":{"SP":""}})"}) {
+        QVERIFY2(encoder.addLine(line), line);
+    }
+    encoder.finish();
+    encoder.finish();
+    QCOMPARE(blocks, (QList<QByteArray>{"22000740014002", "3000052020", "30000400", "3000080101010401"}));
+}
+
+void TestJson::refusesLine_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QByteArray>("reason"); // part of it
+    QTest::newRow("no JSON") << QByteArray("x") << QByteArray("not an object");
+    QTest::newRow("cut short") << QByteArray(R"({"cat":48,"block":1,"items":{"020":{"TYP":1})") << QByteArray("not an");
+    QTest::newRow("more after it") << QByteArray(R"({"cat":48,"items":{}} {})") << QByteArray("not an object");
+    QTest::newRow("no category") << QByteArray(R"({"block":1,"items":{}})") << QByteArray("not an object");
+    QTest::newRow("category of nine bits") << QByteArray(R"({"cat":304,"items":{}})") << QByteArray("not an object");
+    QTest::newRow("no items") << QByteArray(R"({"cat":48,"block":1})") << QByteArray("not an object");
+    QTest::newRow("no table") << QByteArray(R"({"cat":200,"items":{}})") << QByteArray("category 200");
+    QTest::newRow("unknown item") << QByteArray(R"({"cat":48,"items":{"999":1}})") << QByteArray("999");
+    QTest::newRow("unknown empty item") << QByteArray(R"({"cat":48,"items":{"999":{}}})") << QByteArray("999");
+    QTest::newRow("unknown field") << QByteArray(R"({"cat":48,"items":{"040":{"X":1}}})") << QByteArray("040/X");
+    QTest::newRow("out of range") << QByteArray(R"({"cat":48,"items":{"040":{"RHO":256}}})") << QByteArray("040/RHO");
+    QTest::newRow("odd hexadecimal text") << QByteArray(R"({"cat":48,"items":{"SP":"abc"}})") << QByteArray("SP");
+    QTest::newRow("array of a group") << QByteArray(R"({"cat":48,"items":{"040":[1]}})") << QByteArray("040");
+    QTest::newRow("item of the other UAP") << QByteArray(R"({"cat":1,"items":{"161":1}})") << QByteArray("UAP");
+    QTest::newRow("nested without end") << QByteArray(R"({"cat":48,"a":)" + QByteArray(100000, '['))
+                                        << QByteArray("not an");
+    QTest::newRow("nested items") << QByteArray(
+        R"({"cat":48,"items":{"250":)" + QByteArray(20, '[') + QByteArray(20, ']') + "}}")
+                                  << QByteArray("250");
+}
+
+void TestJson::refusesLine()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(QByteArray, reason);
+    QByteArray encoded;
+    JsonEncoder encoder([&encoded](std::span<const unsigned char> block) { encoded += bytesOf(block); });
+    QVERIFY(!encoder.addLine({line.constData(), static_cast<std::size_t>(line.size())}));
+    QVERIFY2(encoder.lastError().find(reason.constData()) != std::string::npos, encoder.lastError().c_str());
+    // The next line is encoded as if that one had not been there.
+    QVERIFY(encoder.addLine(R"({"cat":48,"block":1,"items":{"010":{"SAC":1,"SIC":2}}})"));
+    encoder.finish();
+    QCOMPARE(encoded.toHex(), QByteArray("300006800102"));
+}
+
+QTEST_GUILESS_MAIN(TestJson)
+#include "tst_json.moc"

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+// What the program is asked to do.
+struct CommandLine {
+    enum class Verb { Help, Version, Decode, Encode, Stat };
+
+    Verb verb = Verb::Help;
+    std::string fileName;
+    std::string outputName; // encode; empty: standard output
+    std::vector<std::pair<int, std::string>> editions; // category and edition, in their order
+
+    // The arguments without the program's name. False, with one line in error, when they make no sense.
+    static bool parse(const std::vector<std::string> &arguments, CommandLine &out, std::string &error);
+
+    static const char *helpText();
+};

@@ -1,0 +1,71 @@
+#include "vyx-asterix/decode_command.h"
+#include "vyx-asterix/encode_command.h"
+#include "vyx-asterix/stat_command.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+bool writeAll(int descriptor, std::string_view text)
+{
+    while (!text.empty()) {
+        const ssize_t written = ::write(descriptor, text.data(), text.size());
+        if (written < 0 && errno != EINTR)
+            return false;
+        if (written > 0)
+            text.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+void printLine(std::string_view line)
+{
+    writeAll(STDERR_FILENO, std::string(line) + '\n');
+}
+
+int openOutput(const CommandLine &command)
+{
+    if (command.outputName.empty())
+        return STDOUT_FILENO;
+    const int descriptor = ::open(command.outputName.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    if (descriptor < 0)
+        printLine(command.outputName + ": " + std::strerror(errno));
+    return descriptor;
+}
+
+int run(const CommandLine &command)
+{
+    const int descriptor = openOutput(command);
+    if (descriptor < 0)
+        return 1;
+    const TextSink out = [descriptor](std::string_view text) { return writeAll(descriptor, text); };
+    switch (command.verb) {
+    case CommandLine::Verb::Decode:
+        return runDecode(command, out, printLine);
+    case CommandLine::Verb::Encode:
+        return runEncode(command, out, printLine);
+    case CommandLine::Verb::Stat:
+        return runStat(command, out, printLine);
+    case CommandLine::Verb::Version:
+        return out("vyx-asterix " VYX_VERSION "\n") ? 0 : 1;
+    default:
+        return out(CommandLine::helpText()) ? 0 : 1;
+    }
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    CommandLine command;
+    std::string error;
+    if (!CommandLine::parse({argv + 1, argv + argc}, command, error)) {
+        printLine("vyx-asterix: " + error);
+        return 2;
+    }
+    return run(command);
+}
