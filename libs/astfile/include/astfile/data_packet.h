@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+
+namespace korvane::astfile {
+
+// One step through a recording: a recorded message, the end of the recording, or the reason why reading stopped.
+struct DataPacket {
+    enum Kind {
+        Data = 0,
+        End = 1, // nothing left to read
+        Error = 2, // the recording cannot be read from offset on; the next packet is End
+    };
+
+    Kind kind = End;
+    QDateTime timeStamp; // UTC, milliseconds; invalid where the format stores none
+    QByteArray data; // payload of one datagram, or one data block of a raw recording; empty unless kind is Data
+    qint64 offset = 0; // octets from the start of the file to the record (of the last fragment) or to the fault
+    QString error; // reason, for Error only
+};
+
+} // namespace korvane::astfile

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace korvane::astfile {
+
+// What kinds of recording files there are and how their names tell them apart.
+class RecFile {
+public:
+    // The values are stored in settings; do not renumber.
+    enum Format {
+        Unknown = 0,
+        Pcap = 1, // network capture
+        PcapNg = 2, // network capture, next generation
+        RawAsterix = 3, // ASTERIX data blocks one after the other, without time stamps
+        FinalFormat = 4, // data blocks in frames with a time stamp each
+        Gps = 5, // data blocks with positioning-system time stamps
+        ModeS = 6, // Mode S frames
+    };
+
+    // By the suffix of the name, in upper or lower case; the file itself is not
+    // looked at. Unknown for any other suffix.
+    static Format formatFromFileName(const QString &fileName);
+
+    // Name for lists and log lines, such as "Network capture".
+    static QString formatName(Format format);
+
+    // Filter for a file dialog: one entry that takes in all the formats, then one each. Formats that are no recording
+    // format are left out; empty when none remains.
+    static QString formatNameFilter(const QList<Format> &formats);
+};
+
+} // namespace korvane::astfile

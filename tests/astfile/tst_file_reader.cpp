@@ -1,0 +1,139 @@
+#include "astfile/file_reader.h"
+#include "astfile/pcap_writer.h"
+#include "astfile/rec_file.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace korvane::astfile;
+
+// Formats by name, raw recordings, and what readers of both kinds promise about end, errors and rewinding.
+class TestFileReader final : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_dir;
+
+    QString write(const QString &name, const QByteArray &octets)
+    {
+        const QString path = m_dir.filePath(name);
+        QFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.write(octets) == octets.size() ? path : QString();
+    }
+
+    // Three datagrams, 10 ms apart.
+    QByteArray capture()
+    {
+        const QString path = m_dir.filePath(QStringLiteral("whole.pcap"));
+        PcapWriter writer;
+        bool written = writer.open(path);
+        for (int i = 0; i < 3; ++i) {
+            const QDateTime time = QDateTime::fromMSecsSinceEpoch(1700000000000 + i * 10, Qt::UTC);
+            written = written && writer.write(time, {}, {}, QByteArray(4, static_cast<char>('a' + i)));
+        }
+        QFile file(path);
+        return written && writer.close() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    // "data", "end" or "error", in the order read, until the first end.
+    static QStringList readAll(FileReader &reader)
+    {
+        QStringList steps;
+        DataPacket packet;
+        do {
+            reader.read(&packet);
+            steps += packet.kind == DataPacket::Data ? QString::fromLatin1(packet.data)
+                : packet.kind == DataPacket::End     ? QStringLiteral("end")
+                                                     : QStringLiteral("error@%1").arg(packet.offset);
+            if (reader.atEnd() != (packet.kind == DataPacket::End)
+                || (packet.kind == DataPacket::Error) == packet.error.isEmpty()) {
+                steps += QStringLiteral("inconsistent");
+            }
+        } while (packet.kind != DataPacket::End);
+        return steps;
+    }
+
+private Q_SLOTS:
+    void formatFollowsTheSuffix_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("format");
+        QTest::newRow("capture") << "a.pcap" << 1;
+        QTest::newRow("next generation capture, upper case") << "/x/A.PCAPNG" << 2;
+        QTest::newRow("raw") << "day.1.ast" << 3;
+        QTest::newRow("final format") << "a.ff" << 4;
+        QTest::newRow("positioning system") << "a.gps" << 5;
+        QTest::newRow("Mode S") << "a.modes" << 6;
+        QTest::newRow("suffix inside the name") << "a.pcap.txt" << 0;
+        QTest::newRow("no suffix") << "pcap" << 0;
+    }
+
+    void formatFollowsTheSuffix()
+    {
+        QFETCH(QString, name);
+        QTEST(int(RecFile::formatFromFileName(name)), "format");
+    }
+
+    void nameFilterListsFormatsOnce()
+    {
+        QCOMPARE(RecFile::formatNameFilter({RecFile::RawAsterix}), QStringLiteral("Raw ASTERIX data blocks (*.ast)"));
+        QCOMPARE(RecFile::formatNameFilter({RecFile::Pcap, RecFile::Unknown, RecFile::RawAsterix}),
+            QStringLiteral("Recording files (*.pcap *.cap *.ast);;Network capture (*.pcap *.cap);;"
+                           "Raw ASTERIX data blocks (*.ast)"));
+        QCOMPARE(RecFile::formatNameFilter({}), QString());
+    }
+
+    void readsToTheEndOrTheFault_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("octets");
+        QTest::addColumn<QStringList>("steps");
+        const QByteArray blocks("\x61\x00\x04z\x62\x00\x05yy", 9);
+        const QStringList both = {QString::fromLatin1(blocks.left(4)), QString::fromLatin1(blocks.mid(4))};
+        const auto row = [](const char *tag, const char *name, const QByteArray &octets, const QStringList &steps) {
+            QTest::newRow(tag) << name << octets << steps;
+        };
+        row("raw, whole", "a.ast", blocks, both + QStringList("end"));
+        row("raw, empty", "a.ast", {}, {"end"});
+        row("raw, header cut short", "a.ast", blocks + "\x30", both + QStringList({"error@9", "end"}));
+        row("raw, body cut short", "a.ast", blocks.left(8), {both[0], "error@4", "end"});
+        row("raw, length below the header's", "a.ast", QByteArray("\x30\x00\x02\x30\x00\x03", 6), {"error@0", "end"});
+        const QByteArray whole = capture();
+        QCOMPARE(whole.size(), 24 + 3 * (16 + 46));
+        row("capture, whole", "a.pcap", whole, {"aaaa", "bbbb", "cccc", "end"});
+        row("capture under the other capture's name", "a.pcapng", whole, {"aaaa", "bbbb", "cccc", "end"});
+        row("capture, no packets", "a.pcap", whole.left(24), {"end"});
+        row("capture, cut in a packet", "a.pcap", whole.chopped(5), {"aaaa", "bbbb", "error@148", "end"});
+        row("capture, cut in a packet's header", "a.pcap", whole.left(24 + 62 + 7), {"aaaa", "error@86", "end"});
+    }
+
+    void readsToTheEndOrTheFault()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, octets);
+        QFETCH(QStringList, steps);
+        const RecFile::Format format = RecFile::formatFromFileName(name);
+        const auto reader = FileReader::create(format);
+        QVERIFY(reader->open(write(name, octets), format));
+        QVERIFY(!reader->atEnd());
+        QCOMPARE(readAll(*reader), steps);
+        QVERIFY(reader->reset());
+        QVERIFY(!reader->atEnd());
+        QCOMPARE(readAll(*reader), steps);
+        QCOMPARE(reader->lastError().isEmpty(), steps.size() < 2 || !steps[steps.size() - 2].startsWith("error"));
+        reader->close();
+        QCOMPARE(readAll(*reader), QStringList("end"));
+        QVERIFY(!reader->reset());
+    }
+
+    void anUnknownLinkTypeDoesNotOpen()
+    {
+        const auto reader = FileReader::create(RecFile::Pcap);
+        QVERIFY(!reader->open(write("wireless.pcap", capture().replace(20, 1, "\x69")), RecFile::Pcap));
+        QVERIFY2(reader->lastError().contains("IEEE802_11"), qPrintable(reader->lastError()));
+        QCOMPARE(readAll(*reader), QStringList("end"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFileReader)
+#include "tst_file_reader.moc"
