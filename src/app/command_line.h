@@ -1,0 +1,50 @@
+#pragma once
+
+#include "app/config.h"
+
+#include <QCoreApplication>
+#include <QString>
+#include <QStringList>
+
+#include <chrono>
+#include <optional>
+
+// What the command line of the terminal asks for. It is read before there is an application object, so that help and
+// errors need no screen; options that the toolkit takes from the command line (-platform, -style, ...) pass unread.
+struct CommandLine {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
+public:
+    struct Input {
+        Config::InputComm comm = Config::InputComm::Udp;
+        QHostAddress group; // null: unicast
+        QNetworkInterface interface; // invalid: the system chooses
+        quint16 port = 0;
+        QString path; // of the serial device or the file
+        int baudRate = 0; // 0: as configured
+    };
+    struct Sensor {
+        SensorType type = UnknownSensor;
+        GeoCoordinate location;
+        QString name;
+    };
+
+    // The program's arguments, its name first. Nothing, and one line of text in error, for arguments that are wrong.
+    static std::optional<CommandLine> parse(const QStringList &arguments, QString *error);
+
+    static QString helpText();
+    static QString versionText();
+
+    // Puts the input and the sensor in the place of the configured ones, the second UDP input out of use.
+    void applyTo(Config &config) const;
+
+    bool help = false;
+    bool version = false;
+    bool start = false; // open the input at once
+    std::optional<QString> demo; // path of the scenario; empty: the one that comes with the program
+    std::optional<Input> input;
+    std::optional<Sensor> sensor;
+    std::optional<std::chrono::milliseconds> exitAfter;
+    QString screenshot; // path of the picture to be written at exit, or empty
+    QString snapshot; // path of the snapshot to be written at exit, or empty
+};

@@ -1,0 +1,210 @@
+#pragma once
+
+#include "geo/geo_coordinate.h"
+#include "modes/mode_s_encapsulation.h"
+#include "tiles/tile_services.h"
+#include "tracking/sensor_type.h"
+
+#include <QColor>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QHostAddress>
+#include <QList>
+#include <QNetworkInterface>
+#include <QSharedPointer>
+#include <QString>
+
+class QObject;
+class SensorInfo;
+
+// Every setting of the terminal, as a plain value. Each key of the settings file is a member of the same name; a
+// member's initialiser is the key's default. A new key needs a member here and a line in config.cpp. The spelling
+// "Altitute" is part of the file format.
+class Config {
+    Q_DECLARE_TR_FUNCTIONS(Config)
+
+public:
+    enum class InputComm { Udp = 0, Serial = 1, File = 2 };
+    enum class ProcessorType { Asterix = 0, ModeS = 1, AleniaSirM = 2 };
+    enum class AsterixFormat { Raw = 0, Hdlc = 1, ManagAir = 2 };
+    enum class AleniaSirMFormat { Raw = 0, Hdlc = 1, ManagAir = 2 };
+
+    static QString inputMethodName(InputComm comm);
+    static QString processorName(ProcessorType type);
+    static QString asterixFormatName(AsterixFormat format);
+    static QString aleniaSirMFormatName(AleniaSirMFormat format);
+
+    // Back to the defaults.
+    void reset();
+
+    // Writes every key to an INI file: whole or, when it cannot be written, not at all. Errors are not reported.
+    void save(const QString &fileName) const;
+    // A key that the file lacks leaves its member as it is, so that older files load, and a missing file changes
+    // nothing. Values are not range-checked; one that does not convert gives zero.
+    void load(const QString &fileName);
+
+    // The one configured sensor as a record. Both are defined in tracking/config_sensor.cpp, a floor above this one,
+    // where the records are known; who calls them links that library.
+    // Copies the fields that every sensor has and those of its own type; false for a null pointer.
+    bool setSensor(const QSharedPointer<SensorInfo> &sensor);
+    // A new record; a null pointer when no sensor type is configured.
+    QSharedPointer<SensorInfo> sensor(QObject *parent) const;
+
+    // Display
+    GeoCoordinate displayCenterCoordinate = GeoCoordinate::fromATCString(QStringLiteral("400300N1164400E"));
+    QString displayLocalTimeZoneName = defaultTimeZoneName(); // IANA identifier, or "LCL" for the system's own
+    QString displayStyle = QStringLiteral("windowsvista"); // key of a widget style
+    QString displayLanguage = QStringLiteral("en"); // empty: the system's
+    bool displayToolbarText = true;
+
+    // Inputs
+    InputComm inputComm = InputComm::Udp;
+    bool inputUdpMulticast1 = true;
+    QNetworkInterface inputUdpMcastLanInterface1; // invalid: the system chooses
+    QHostAddress inputUdpMcastAddress1{QStringLiteral("239.0.0.1")};
+    quint16 inputUdpPort1 = 50000;
+    bool inputEnable2 = false;
+    bool inputUdpMulticast2 = true;
+    QNetworkInterface inputUdpMcastLanInterface2;
+    QHostAddress inputUdpMcastAddress2{QStringLiteral("239.0.0.2")};
+    quint16 inputUdpPort2 = 50001;
+    QString inputSerialDevice;
+    int inputSerialBaudRate = 9600;
+    int inputSerialDataBits = 8;
+    int inputSerialParity = 0; // QSerialPort::Parity
+    int inputSerialStopBits = 1; // QSerialPort::StopBits
+    QFileInfo inputFileName;
+    bool inputFileAutoRewind = false;
+
+    // Processor
+    ProcessorType processorType = ProcessorType::Asterix;
+    AsterixFormat processorAsterixFormat = AsterixFormat::Raw;
+    int processorAsterixUap = 0; // 0: automatic
+    bool processorAsterixIgnoreWgs84Coordinates = false;
+    bool processorAsterixIgnoreCartesianCoordinates = false;
+    bool processorAsterixCorrectLongitudeWrap = false;
+    bool processorAsterixVerifySacSic = false;
+    korvane::modes::ModeSEncapsulation::Format processorModeSEncapsulation = korvane::modes::ModeSEncapsulation::Beast;
+    bool processorModeSIgnoreTimeStamp = true;
+    bool processorModeSBaroAltituteChecking = false;
+    unsigned int processorModeSBaroAltituteCheckingTime = 4;
+    unsigned int processorModeSBaroAltituteMaxChange = 150;
+    unsigned int processorModeSNoUpdatedTargetDeletionTime = 10;
+    AleniaSirMFormat processorAleniaSirMFormat = AleniaSirMFormat::Raw;
+
+    // Sensor
+    SensorType sensorType = UnknownSensor;
+    QString sensorName;
+    quint8 sensorSac = 0;
+    quint8 sensorSic = 0;
+    GeoCoordinate sensorLocation;
+    int sensorRadarAntennaAltitude = 0;
+    double sensorRadarRotationPeriod = 4.0; // seconds
+    bool sensorRadarIsPrimary = false;
+    bool sensorRadarIsSecondary = true;
+    bool sensorRadarIsModeS = true;
+    int sensorRadarCoveragePrimary = 70;
+    int sensorRadarCoverageSecondary = 250;
+    int sensorAdsbCoverage = 250;
+    double sensorAdsbUpdateInterval = 0.0; // seconds
+    int sensorMlatCoverage = 250;
+    int sensorSdpsCoverage = 512;
+    double sensorSdpsUpdateInterval = 0.0; // seconds
+    int sensorSmrAntennaAltitude = 0;
+    double sensorSmrRotationPeriod = 1.0; // seconds
+    double sensorSmrCoverage = 5.0;
+    QString sensorDatabase; // path of the sensor file
+
+    // Online tiles. Directories are in the form of AppPaths::storePath.
+    bool mapSmoothPixmapTransform = false;
+    QColor mapBackgroundColor{173, 173, 173};
+    bool mapTileService = true;
+    bool mapTileVisible = true;
+    bool mapTileTopLayerEnable = false;
+    TileService mapTileTopLayerProvider = TileService::OpenAip;
+    TileService mapTileBottomLayerProvider = TileService::BingMaps;
+    QString mapTileCacheDir = defaultDirectory(QStringLiteral("/TileCache/"));
+    bool mapTileUseProxy = false;
+    QString mapTileProxyHostname = QStringLiteral("localhost");
+    quint16 mapTileProxyPort = 1080;
+    QString mapTileProxyUser;
+    QString mapTileProxyPassword;
+    bool mapTileProxyHostnameLookup = true;
+    BingTileImagery mapBingImagery = BingTileImagery::Aerial;
+    QString mapBingCulture = QStringLiteral("en-US");
+    QString mapBingTileDir = defaultDirectory(QStringLiteral("/BingMaps/"));
+    bool mapBingSaveTileFiles = true;
+    bool mapBingOfflinePriority = true;
+    bool mapBingOfflineOnly = false;
+    QString mapOpenAipApiKey;
+    QString mapOpenAipTileDir = defaultDirectory(QStringLiteral("/OpenAIP/"));
+    bool mapOpenAipSaveTileFiles = true;
+    bool mapOpenAipOfflinePriority = true;
+    bool mapOpenAipOfflineOnly = false;
+    GoogleTileLayer mapGoogleLayer = GoogleTileLayer::Road;
+    QString mapGoogleHostLanguage = QStringLiteral("en");
+    QString mapGoogleGeographyLocation = QStringLiteral("us");
+    bool mapGoogleHiDpiTiles = true;
+    QString mapGoogleTileDir = defaultDirectory(QStringLiteral("/GoogleMaps/"));
+    bool mapGoogleSaveTileFiles = true;
+    bool mapGoogleOfflinePriority = true;
+    bool mapGoogleOfflineOnly = false;
+    TiandituTileLayer mapTiandituLayer = TiandituTileLayer::Imagery;
+    QString mapTiandituApiKey;
+    QString mapTiandituTileDir = defaultDirectory(QStringLiteral("/Tianditu/"));
+    bool mapTiandituSaveTileFiles = true;
+    bool mapTiandituOfflinePriority = true;
+    bool mapTiandituOfflineOnly = false;
+    FaaTileChart mapFaaChart = FaaTileChart::VfrSectional;
+    QString mapFaaTileDir = defaultDirectory(QStringLiteral("/FAA/"));
+    bool mapFaaSaveTileFiles = true;
+    bool mapFaaOfflinePriority = true;
+    bool mapFaaOfflineOnly = false;
+
+    // Weather and video. Opacities are 0 to 255, validities seconds.
+    bool mapWeatherVisible = false;
+    QList<QColor> mapWeatherColor = defaultWeatherColors(); // one an intensity level; its length is fixed
+    int mapWeatherOpacity = 128;
+    int mapWeatherValidity = 900;
+    double mapWeatherVectorWidth = 0.35;
+    bool mapWeatherAutoVectorWidth = true;
+    bool mapWeatherIgnoreEmptyPicture = true;
+    bool mapVideoVisible = false;
+    QColor mapVideoHighColor{255, 255, 0};
+    QColor mapVideoLowColor{255, 255, 190};
+    int mapVideoHighOpacity = 255;
+    int mapVideoLowOpacity = 64;
+    int mapVideoThreshold = 30;
+    int mapVideoValidity = 5;
+
+    // Static maps, sensor layer, range rings
+    QString mapIndex = QStringLiteral("map.idx");
+    QString mapStyleSheet = QStringLiteral("style.mss");
+    bool mapStaticVisible = true;
+    int mapStaticSymbolSize = 32;
+    bool mapSensorVisible = true;
+    bool mapSensorCoverageVisible = true;
+    bool mapSensorRadarNorthMarkerVisible = true;
+    bool mapSensorRadarAntennaLineVisible = true;
+    QColor mapSensorColor{0x00, 0x66, 0x33};
+    QColor mapSensorRadarNorthMarkerColor{Qt::red};
+    QColor mapSensorRadarAntennaLineColor{0x00, 0x66, 0x33};
+    bool mapRangeRingVisible = false;
+    QColor mapRangeRingColor{0x39, 0x3F, 0x42};
+    int mapRangeRingNumber = 5;
+    double mapRangeRingDistance = 50.0;
+
+    // Tracks
+    QColor trackSymbolColor{0x00, 0x8F, 0xCC};
+    QColor trackLabelColor{Qt::white};
+    QColor trackLabelSelectedColor{Qt::green};
+    QColor trackLabelAlertColor{Qt::red};
+    QColor trackLabelBackgroundColor{80, 80, 80};
+    int trackLabelBackgroundOpacity = 100; // 0 to 255
+
+private:
+    static QString defaultTimeZoneName();
+    // A directory in the application data directory, in the form in which paths are stored.
+    static QString defaultDirectory(const QString &suffix);
+    static QList<QColor> defaultWeatherColors();
+};

@@ -1,0 +1,41 @@
+#include "app/ui_state.h"
+
+#include "app/app_paths.h"
+
+#include <QSettings>
+
+namespace {
+const auto geometryKey = QStringLiteral("windowGeometry");
+}
+
+QString UiState::filePath()
+{
+    return AppPaths::configFile(QStringLiteral("uistate"));
+}
+
+void UiState::saveValue(const QString &group, const QString &key, const QByteArray &bytes)
+{
+    QSettings settings(filePath(), QSettings::IniFormat);
+    settings.beginGroup(group);
+    settings.setValue(key, bytes);
+    settings.endGroup();
+}
+
+QByteArray UiState::value(const QString &group, const QString &key)
+{
+    QSettings settings(filePath(), QSettings::IniFormat);
+    settings.beginGroup(group);
+    const auto bytes = settings.value(key).toByteArray();
+    settings.endGroup();
+    return bytes;
+}
+
+void UiState::saveGeometry(const QString &group, const QByteArray &bytes)
+{
+    saveValue(group, geometryKey, bytes);
+}
+
+QByteArray UiState::geometry(const QString &group)
+{
+    return value(group, geometryKey);
+}
