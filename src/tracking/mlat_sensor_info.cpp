@@ -1,0 +1,18 @@
+#include "tracking/mlat_sensor_info.h"
+
+#include "tracking/json_number.h"
+
+QJsonObject MlatSensorInfo::jsonObject() const
+{
+    auto object = SensorInfo::jsonObject();
+    object[QLatin1String("coverage")] = static_cast<qint64>(m_coverage);
+    return object;
+}
+
+bool MlatSensorInfo::setJsonObject(const QJsonObject &object)
+{
+    if (!SensorInfo::setJsonObject(object))
+        return false;
+    m_coverage = unsignedValue(object[QLatin1String("coverage")], m_coverage);
+    return true;
+}

@@ -1,0 +1,211 @@
+#include "tracking/track_manager.h"
+
+#include <algorithm>
+
+namespace {
+
+void fill(TrackSnapshot &snapshot, const Track &track)
+{
+    snapshot.incarnationId = track.incarnationId();
+    snapshot.trackNumber = track.trackNumber();
+    snapshot.icaoAddr = track.icaoAddr();
+    snapshot.icaoAddrValid = track.icaoAddrValid();
+    snapshot.icaoAddrString = track.icaoAddrString();
+    snapshot.callsign = track.modeSCallsign();
+    snapshot.callsignValid = track.modeSCallsignValid();
+    snapshot.modeACode = track.modeACode();
+    snapshot.modeACodeValid = track.modeACodeValid();
+    snapshot.modeACodeSmoothed = track.modeACodeSmoothed();
+    snapshot.modeACodeGarbled = track.modeACodeGarbled();
+    snapshot.modeAString = track.modeAString();
+    snapshot.type = track.type();
+    snapshot.state = track.state();
+    snapshot.coasting = track.coasting();
+    snapshot.geoCoordinate = track.geoCoordinate();
+    snapshot.geoCoordinateValid = track.geoCoordinateValid();
+    snapshot.carCoordinate = track.carCoordinate();
+    snapshot.carCoordinateValid = track.carCoordinateValid();
+    snapshot.groundSpeed = track.groundSpeed();
+    snapshot.groundSpeedValid = track.groundSpeedValid();
+    snapshot.heading = track.heading();
+    snapshot.headingValid = track.headingValid();
+    snapshot.onGround = track.isGround();
+    snapshot.level = track.level();
+    snapshot.levelValid = track.levelValid();
+    snapshot.selectedAltitude = track.selectedAltitude();
+    snapshot.selectedAltitudeValid = track.selectedAltitudeValid();
+    snapshot.verticalRate = track.verticalRate();
+    snapshot.verticalRateValid = track.verticalRateValid();
+    snapshot.verticalTrend = track.verticalTrend();
+    snapshot.lastUpdate = track.lastUpdate();
+    snapshot.alertsString = track.alertsString();
+}
+
+// The newest positions, those without a plane position skipped.
+QList<QPointF> trailOf(const std::deque<TrackHistoryElement> &history, int trailDots)
+{
+    QList<QPointF> trail;
+    trail.reserve(std::min(static_cast<qsizetype>(history.size()), static_cast<qsizetype>(trailDots)));
+    for (const auto &element : history) {
+        if (trail.size() >= trailDots)
+            break;
+        if (element.carCoordinateValid())
+            trail.append(element.carCoordinate());
+    }
+    return trail;
+}
+
+} // namespace
+
+TrackManager::TrackManager(QObject *parent)
+    : QObject(parent), m_lifeTimer(this), m_clock(&QDateTime::currentDateTimeUtc)
+{
+    connect(&m_lifeTimer, &QTimer::timeout, this, &TrackManager::checkLife);
+    m_lifeTimer.start(1000);
+}
+
+TrackManager::~TrackManager() = default;
+
+void TrackManager::reset()
+{
+    m_trackList.clear();
+    m_tracksByNumber.clear();
+    m_tracksByIcaoAddr.clear();
+    m_tracksByOtherTrackNumber.clear();
+    m_nextTrackNumber = 1;
+}
+
+// Numbers go round, so that a number that has become free rests as long as possible. One number fewer is tried than the
+// range holds: with all but one in use the search may miss the free one.
+unsigned int TrackManager::nextValidTrackNum()
+{
+    const unsigned int span = m_maxTrackNumber - m_minTrackNumber;
+    for (unsigned int i = 0; i < span; ++i) {
+        if (m_nextTrackNumber < m_minTrackNumber || m_nextTrackNumber > m_maxTrackNumber)
+            m_nextTrackNumber = m_minTrackNumber;
+        const unsigned int candidate = m_nextTrackNumber++;
+        if (!hasTrackNum(candidate))
+            return candidate;
+    }
+    return 0;
+}
+
+QSharedPointer<Track> TrackManager::insertNewTrack(unsigned int trackNumber)
+{
+    auto track = QSharedPointer<Track>::create(trackNumber, now());
+    track->setIncarnationId(m_nextIncarnationId++);
+    m_tracksByNumber.insert(trackNumber, track);
+    return track;
+}
+
+QSharedPointer<Track> TrackManager::createTrack()
+{
+    const unsigned int number = nextValidTrackNum();
+    return number == 0 ? QSharedPointer<Track>() : insertNewTrack(number);
+}
+
+QSharedPointer<Track> TrackManager::createTrack(unsigned int trackNumber)
+{
+    const auto existing = findTrackByTrackNum(trackNumber);
+    return existing ? existing : insertNewTrack(trackNumber);
+}
+
+void TrackManager::registerTrack(const QSharedPointer<Track> &track)
+{
+    if (!track)
+        return;
+    if (track->incarnationId() == 0)
+        track->setIncarnationId(m_nextIncarnationId++);
+    m_tracksByNumber.insert(track->trackNumber(), track);
+    if (track->icaoAddrValid())
+        m_tracksByIcaoAddr.insert(track->icaoAddr(), track);
+    if (track->otherTrackNumberValid())
+        m_tracksByOtherTrackNumber.insert(track->otherTrackNumber(), track);
+}
+
+void TrackManager::removeTrack(const QSharedPointer<Track> &track)
+{
+    if (!track)
+        return;
+    m_tracksByNumber.remove(track->trackNumber());
+    if (track->icaoAddrValid())
+        m_tracksByIcaoAddr.remove(track->icaoAddr());
+    if (track->otherTrackNumberValid())
+        m_tracksByOtherTrackNumber.remove(track->otherTrackNumber());
+}
+
+QSharedPointer<Track> TrackManager::findTrackByTrackNum(unsigned int trackNumber) const
+{
+    return m_tracksByNumber.value(trackNumber);
+}
+
+// Looks the key up and, when it is not indexed, goes through all tracks and indexes what it finds.
+template <typename Matches>
+QSharedPointer<Track> TrackManager::find(const Index &index, unsigned int key, Matches matches)
+{
+    if (const auto indexed = index.constFind(key); indexed != index.constEnd())
+        return *indexed;
+    const auto found = std::find_if(m_tracksByNumber.cbegin(), m_tracksByNumber.cend(), matches);
+    if (found == m_tracksByNumber.cend())
+        return {};
+    const auto track = *found;
+    registerTrack(track);
+    return track;
+}
+
+QSharedPointer<Track> TrackManager::findTrackByICAOAddr(unsigned int address)
+{
+    return find(m_tracksByIcaoAddr, address,
+        [address](const auto &track) { return track->icaoAddrValid() && track->icaoAddr() == address; });
+}
+
+QSharedPointer<Track> TrackManager::findTrackByOtherTrackNum(unsigned int number)
+{
+    return find(m_tracksByOtherTrackNumber, number,
+        [number](const auto &track) { return track->otherTrackNumberValid() && track->otherTrackNumber() == number; });
+}
+
+const QList<QSharedPointer<Track>> &TrackManager::allTracks()
+{
+    m_trackList = m_tracksByNumber.values();
+    return m_trackList;
+}
+
+void TrackManager::setTrackLifeSpan(unsigned int coastingMs, unsigned int terminationMs)
+{
+    m_coastingSpan = coastingMs;
+    m_terminationSpan = std::max(coastingMs, terminationMs);
+}
+
+void TrackManager::checkLife()
+{
+    const auto time = now();
+    const auto tracks = m_tracksByNumber.values(); // a copy: tracks are removed on the way
+    for (const auto &track : tracks) {
+        age(track, time);
+        if (track->terminated())
+            removeTrack(track);
+    }
+}
+
+void TrackManager::age(const QSharedPointer<Track> &track, const QDateTime &now)
+{
+    const qint64 elapsed = track->lastUpdate().msecsTo(now);
+    if (elapsed >= m_terminationSpan && !track->terminated())
+        track->setState(Track::Terminated);
+    else if (elapsed >= m_coastingSpan && !track->coasting() && !track->terminated())
+        track->setState(Track::Coasting);
+}
+
+QList<TrackSnapshot> TrackManager::snapshotTracks(int trailDots) const
+{
+    QList<TrackSnapshot> snapshots;
+    snapshots.reserve(m_tracksByNumber.size());
+    for (const auto &track : m_tracksByNumber) {
+        auto &snapshot = snapshots.emplaceBack();
+        fill(snapshot, *track);
+        if (trailDots > 0)
+            snapshot.trail = trailOf(track->history(), trailDots);
+    }
+    return snapshots;
+}
