@@ -1,0 +1,220 @@
+#include "engine_rig.h"
+
+#include "astfile/pcap_writer.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using korvane::astfile::PcapWriter;
+
+// Playing recordings. Times in a recording are milliseconds after its beginning.
+class TestDataEngineReplay final : public QObject {
+    Q_OBJECT
+
+private:
+    const QDateTime m_begin = QDateTime({2024, 5, 1}, {12, 0}, Qt::UTC);
+    QTemporaryDir m_dir;
+
+    // A capture with plot i+1 (and so track i+1) at the i-th time.
+    QString capture(const QList<int> &times)
+    {
+        const QString path = m_dir.filePath("times.pcap");
+        PcapWriter writer;
+        bool written = writer.open(path);
+        quint8 number = 0;
+        for (const int time : times) {
+            written = written && writer.write(m_begin.addMSecs(time), {}, {}, plotBlock(++number));
+        }
+        return written && writer.close() ? path : QString();
+    }
+
+    QString file(const QString &name, const QByteArray &octets)
+    {
+        QFile output(m_dir.filePath(name));
+        return output.open(QIODevice::WriteOnly) && output.write(octets) == octets.size() ? output.fileName()
+                                                                                          : QString();
+    }
+
+    void open(EngineRig &rig, const QString &path, const QDateTime &start = {})
+    {
+        rig.config.inputComm = Config::InputComm::File;
+        rig.config.inputFileName = QFileInfo(path);
+        rig.open(1, EngineRig::radar(), start);
+    }
+
+private Q_SLOTS:
+    void delayFollowsTheSpeed_data()
+    {
+        QTest::addColumn<qint64>("recorded");
+        QTest::addColumn<QList<qint64>>("delays"); // at 0.5x, 1x, 2x, 4x, 8x, Max
+        QTest::newRow("a second") << 1000LL << QList<qint64>{2000, 1000, 500, 250, 125, 0};
+        QTest::newRow("rounded toward zero") << 7LL << QList<qint64>{14, 7, 3, 1, 0, 0};
+        QTest::newRow("backwards") << -1000LL << QList<qint64>{0, 0, 0, 0, 0, 0};
+        QTest::newRow("a month") << 2678400000LL
+                                 << QList<qint64>{5356800000, 2678400000, 1339200000, 669600000, 334800000, 0};
+    }
+
+    void delayFollowsTheSpeed()
+    {
+        QFETCH(qint64, recorded);
+        QList<qint64> delays;
+        QStringList names;
+        for (const ReplaySpeed::Speed speed : ReplaySpeed::values()) {
+            delays += ReplaySpeed::delay(recorded, speed);
+            names += ReplaySpeed::name(speed);
+        }
+        QTEST(delays, "delays");
+        QCOMPARE(names, QStringList({"0.5x", "1x", "2x", "4x", "8x", "Max"}));
+    }
+
+    void playsEveryPacketAndCloses()
+    {
+        EngineRig rig;
+        rig.engine.setReplaySpeed(ReplaySpeed::Max);
+        QSignalSpy progress(&rig.engine, &DataEngine::replayProgress);
+        const QString path = capture({0, 3600000, 7200000});
+        open(rig, path);
+        QCOMPARE(rig.opened.size(), 1);
+        QCOMPARE(rig.log, QStringList({"I Open recording file: " + path, "I Replay start from 2024-05-01 12:00:00"}));
+        QTRY_COMPARE(rig.closed.size(), 1);
+        QCOMPARE(rig.log.last(), QStringLiteral("I Reach end of recording file."));
+        QCOMPARE(rig.tracks().size(), 3);
+        QCOMPARE(rig.engine.messagesReceived(), 3ULL);
+        QCOMPARE(progress, QList<QVariantList>({{m_begin}})); // the other two came within 200 ms
+    }
+
+    void pauseHoldsThePosition()
+    {
+        EngineRig rig;
+        rig.engine.setReplaySpeed(ReplaySpeed::Max);
+        open(rig, capture({0, 1, 2}));
+        rig.engine.pauseInput(true);
+        QTest::qWait(150);
+        QCOMPARE(rig.tracks().size(), 0);
+        rig.engine.pauseInput(false);
+        QTRY_COMPARE(rig.closed.size(), 1);
+        QCOMPARE(rig.tracks().size(), 3);
+    }
+
+    void startTimeIsSought_data()
+    {
+        QTest::addColumn<int>("start");
+        QTest::addColumn<QStringList>("log"); // after the line that names the file
+        QTest::addColumn<int>("played");
+        const QStringList seeking = {"I Replay start time: 2024-05-01 12:00:0%1", "I Seeking replay start time."};
+        const auto row = [&](const char *tag, int start, const QStringList &log, int played) {
+            QTest::newRow(tag) << start << seeking + log + QStringList("I Reach end of recording file.") << played;
+        };
+        row("on a packet", 2000, {"I Replay start from 2024-05-01 12:00:02"}, 2);
+        row("between two packets", 2001, {"I Replay start from 2024-05-01 12:00:04"}, 1);
+        row("before the first", -3600000, {"I Replay start from 2024-05-01 12:00:00"}, 3);
+        row("after the last", 9000, {}, 0);
+    }
+
+    void startTimeIsSought()
+    {
+        QFETCH(int, start);
+        QFETCH(QStringList, log);
+        EngineRig rig;
+        rig.engine.setReplaySpeed(ReplaySpeed::Max);
+        open(rig, capture({0, 2000, 4000}), m_begin.addMSecs(start));
+        log.first() =
+            start < 0 ? QStringLiteral("I Replay start time: 2024-05-01 11:00:00") : log.first().arg(start / 1000);
+        QTRY_COMPARE(rig.closed.size(), 1);
+        QCOMPARE(rig.log.mid(1), log);
+        QTEST(int(rig.tracks().size()), "played");
+    }
+
+    void autoRewindStartsAgainAtTheStartTime()
+    {
+        EngineRig rig;
+        rig.config.inputFileAutoRewind = true;
+        rig.engine.setReplaySpeed(ReplaySpeed::Max);
+        open(rig, capture({0, 1, 2}), m_begin.addMSecs(1));
+        QTRY_VERIFY(rig.log.count("I Reach end of recording file, restarting replay.") >= 3);
+        QVERIFY(rig.engine.messagesReceived() >= 6);
+        QCOMPARE(rig.tracks().size(), 2); // the first packet stays out every time
+        rig.engine.closeInput();
+        QCOMPARE(rig.closed.size(), 1);
+        const quint64 played = rig.engine.messagesReceived();
+        QTest::qWait(10);
+        QCOMPARE(rig.engine.messagesReceived(), played);
+    }
+
+    void nothingToRepeatEndsTheReplay()
+    {
+        for (const QList<int> &times : {QList<int>{}, QList<int>{0, 1}}) { // all before the start time
+            EngineRig rig;
+            rig.config.inputFileAutoRewind = true;
+            open(rig, capture(times), m_begin.addMSecs(5000));
+            QTRY_COMPARE(rig.closed.size(), 1);
+            QCOMPARE(rig.log.last(), QStringLiteral("W Recording file contains no replayable data."));
+            QCOMPARE(rig.engine.messagesReceived(), 0ULL);
+        }
+    }
+
+    // In their recorded time, the third packet, stamped before the second, at once. A chain of timers that outlived its
+    // input would play the next one faster.
+    void packetsComeInTheirTimeHoweverOftenReopened()
+    {
+        EngineRig rig;
+        for (int i = 0; i < 4; ++i) {
+            rig.engine.closeInput();
+            open(rig, capture({0, 50, 30, 130}));
+        }
+        QElapsedTimer timer;
+        timer.start();
+        QTRY_COMPARE(rig.tracks().size(), 3);
+        QVERIFY(timer.elapsed() >= 49);
+        QTRY_COMPARE(rig.closed.size(), 4);
+        QVERIFY(timer.elapsed() >= 149);
+        QCOMPARE(rig.engine.messagesReceived(), 4ULL);
+    }
+
+    void whatCannotBePlayedFails_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QDateTime>("start");
+        QTest::addColumn<QString>("line");
+        file("text.pcap", "this is no capture");
+        file("short.ast", "\x30");
+        file("raw.ast", plotBlock(1));
+        const QDateTime none;
+        QTest::newRow("unknown suffix") << "a.txt" << none << "C Recording file format is not supported.";
+        QTest::newRow("no reader") << "a.ff" << none << "C Failed to crate recording file reader.";
+        QTest::newRow("no file") << "none.ast" << none << "W Failed to open recording file: %1";
+        QTest::newRow("no capture") << "text.pcap" << none << "W Failed to open recording file: %1";
+        QTest::newRow("broken") << "short.ast" << none << "W The file ends within a data block's header. (at octet 0)";
+        QTest::newRow("no time to seek") << "raw.ast" << m_begin
+                                         << "W The recording contains no timestamp, its start time cannot be sought.";
+    }
+
+    void whatCannotBePlayedFails()
+    {
+        QFETCH(QString, name);
+        QFETCH(QDateTime, start);
+        QFETCH(QString, line);
+        EngineRig rig;
+        open(rig, m_dir.filePath(name), start);
+        QCOMPARE(rig.failed.size(), 1);
+        line.replace("%1", m_dir.filePath(name));
+        QVERIFY2(rig.log.contains(line), qPrintable(rig.log.join('\n')));
+        rig.engine.closeInput();
+        QCOMPARE(rig.opened.size() + rig.closed.size(), 0);
+    }
+
+    void rawRecordingsPlayWithoutTimesUpToAFault()
+    {
+        EngineRig rig;
+        open(rig, file("fault.ast", plotBlock(1) + northMarkerBlock() + QByteArray::fromHex("300002") + plotBlock(2)));
+        QTRY_COMPARE(rig.closed.size(), 1);
+        QCOMPARE(rig.log.mid(1),
+            QStringList({"I Recording file contains no timestamp, replay from the beginning.",
+                "W Error occured when reading recording file.",
+                "W A data block's length field says 2. (at octet 20)"}));
+        QCOMPARE(rig.tracks().size() + rig.northCrossed.size(), 2);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDataEngineReplay)
+#include "tst_data_engine_replay.moc"

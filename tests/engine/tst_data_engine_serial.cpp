@@ -1,0 +1,113 @@
+#include "engine_rig.h"
+
+#include <QTest>
+
+#include <pty.h>
+#include <unistd.h>
+
+// The serial line, at one end of a pseudo-terminal.
+class TestDataEngineSerial final : public QObject {
+    Q_OBJECT
+
+private:
+    int m_far = -1;
+    QString m_device;
+
+    void closeFarEnd()
+    {
+        if (m_far >= 0) {
+            ::close(m_far);
+        }
+        m_far = -1;
+    }
+
+    void send(const QByteArray &data) { QCOMPARE(::write(m_far, data.constData(), data.size()), data.size()); }
+
+    void open(EngineRig &rig)
+    {
+        rig.config.inputComm = Config::InputComm::Serial;
+        rig.config.inputSerialDevice = m_device;
+        rig.open(2);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        int near = -1;
+        char name[128] = {};
+        QCOMPARE(openpty(&m_far, &near, name, nullptr, nullptr), 0);
+        ::close(near);
+        m_device = QString::fromLocal8Bit(name);
+    }
+
+    void cleanup() { closeFarEnd(); }
+
+    void chunksAreMessages()
+    {
+        EngineRig rig;
+        open(rig);
+        QCOMPARE(rig.opened.size(), 1);
+        QCOMPARE(rig.log.mid(0, 6),
+            QStringList({"I Open async serial device: " + m_device, "I Device path: " + m_device, "I Description: ",
+                "I Manufacturer: ", "I Vendor Identifier: Not exist", "I Product Identifier: Not exist"}));
+        // Octets that a terminal in its ordinary mode would swallow or change, among them 0x0a, 0x0d, 0x11 and 0x13.
+        send(plotBlock(1, 0x0a0d) + plotBlock(2, 0x1113) + plotBlock(3, 0x0304));
+        QTRY_COMPARE(rig.tracks().size(), 3);
+        QCOMPARE(rig.engine.bytesReceived(), 39ULL);
+
+        rig.engine.closeInput();
+        QCOMPARE(rig.log.last(), QStringLiteral("I Close async serial device"));
+        QCOMPARE(rig.closed, QList<QVariantList>({{2ULL}}));
+        open(rig);
+        QCOMPARE(rig.opened.size(), 2);
+    }
+
+    void refusedSettingsAreWarnedOf()
+    {
+        EngineRig rig;
+        rig.config.inputSerialBaudRate = 0;
+        open(rig);
+        QCOMPARE(rig.opened.size(), 1);
+        QCOMPARE(rig.log.filter("W The serial device refuses its baud rate").size(), 1);
+        send(plotBlock(1));
+        QTRY_COMPARE(rig.tracks().size(), 1);
+    }
+
+    void aDeviceThatIsGoneClosesTheInput()
+    {
+        EngineRig rig;
+        open(rig);
+        closeFarEnd();
+        QTRY_COMPARE(rig.closed, QList<QVariantList>({{2ULL}}));
+        QCOMPARE(rig.log.filter("W The serial device is gone: ").size(), 1);
+    }
+
+    void whatIsNoLineFails_data()
+    {
+        QTest::addColumn<QString>("device");
+        QTest::addColumn<QString>("line");
+        const QString program = QCoreApplication::applicationFilePath();
+        QTest::newRow("name without a port") << "ttyNone"
+                                             << "I Serial device not found: ttyNone";
+        QTest::newRow("path without a device") << "/dev/ttyNone"
+                                               << "I Serial device not found: /dev/ttyNone";
+        QTest::newRow("file") << program << "I Serial device not found: " + program;
+        QTest::newRow("device of another kind") << "/dev/null"
+                                                << "I Failed to open serial device: 7";
+    }
+
+    void whatIsNoLineFails()
+    {
+        EngineRig rig;
+        QFETCH(QString, device);
+        m_device = device;
+        open(rig);
+        QCOMPARE(rig.failed.size(), 1);
+        QTEST(rig.log.last(), "line");
+        rig.engine.closeInput();
+        QCOMPARE(rig.closed.size(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDataEngineSerial)
+#include "tst_data_engine_serial.moc"

@@ -1,0 +1,192 @@
+#include "engine_rig.h"
+
+#include <QRegularExpression>
+#include <QTest>
+#include <QThread>
+
+#include <algorithm>
+
+// The sockets, over the loopback interface.
+class TestDataEngineUdp final : public QObject {
+    Q_OBJECT
+
+private:
+    QNetworkInterface m_loopback;
+    QUdpSocket m_sender;
+
+    void send(const QByteArray &data, quint16 port, const QHostAddress &to = QHostAddress(QHostAddress::LocalHost))
+    {
+        QCOMPARE(m_sender.writeDatagram(data, to, port), data.size());
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        for (const QNetworkInterface &candidate : QNetworkInterface::allInterfaces()) {
+            if (candidate.flags().testFlag(QNetworkInterface::IsLoopBack)) {
+                m_loopback = candidate;
+            }
+        }
+        QVERIFY(m_loopback.isValid());
+        QVERIFY(m_sender.bind(QHostAddress::LocalHost, 0));
+        m_sender.setMulticastInterface(m_loopback);
+    }
+
+    void bothInputsFeedThePicture()
+    {
+        EngineRig rig;
+        rig.config.inputUdpPort1 = EngineRig::freePort();
+        rig.config.inputEnable2 = true;
+        rig.config.inputUdpPort2 = EngineRig::freePort();
+        rig.open();
+        QVERIFY(rig.log.contains(QStringLiteral("I Start UDP input :%1").arg(rig.config.inputUdpPort1)));
+        QVERIFY(rig.log.contains(QStringLiteral("I Start UDP input :%1").arg(rig.config.inputUdpPort2)));
+        QCOMPARE(rig.log.filter(QRegularExpression("^D UDP socket receive buffer size: [0-9]{6,} bytes$")).size(), 2);
+        send(plotBlock(1), rig.config.inputUdpPort1);
+        send(plotBlock(2), rig.config.inputUdpPort2);
+        send({}, rig.config.inputUdpPort1); // an empty datagram neither ends the drain nor the input
+        send(plotBlock(3), rig.config.inputUdpPort1);
+        QTRY_COMPARE(rig.tracks().size(), 3);
+        rig.engine.closeInput();
+        QCOMPARE(rig.log.last(), QStringLiteral("I Stop UDP input"));
+        send(plotBlock(4), rig.config.inputUdpPort1);
+        QTest::qWait(20);
+        QCOMPARE(rig.tracks().size(), 3);
+    }
+
+    // Two groups on one port: each input must take its own group alone, or everything comes twice.
+    void multicastInputsTakeTheirOwnGroupOnly()
+    {
+        EngineRig rig;
+        rig.config.inputUdpMulticast1 = true;
+        rig.config.inputUdpMcastAddress1 = QHostAddress("239.255.77.1");
+        rig.config.inputUdpMcastLanInterface1 = m_loopback;
+        rig.config.inputUdpPort1 = EngineRig::freePort();
+        rig.open();
+        QCOMPARE(rig.opened.size(), 1);
+        QCOMPARE(rig.log.last(),
+            QStringLiteral("I Start UDP multicast input 239.255.77.1:%1 on interface %2")
+                .arg(rig.config.inputUdpPort1)
+                .arg(m_loopback.humanReadableName()));
+        QUdpSocket neighbour;
+        QVERIFY(neighbour.bind(
+            QHostAddress::AnyIPv4, rig.config.inputUdpPort1, QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint));
+        QVERIFY(neighbour.joinMulticastGroup(QHostAddress("239.255.77.2"), m_loopback));
+
+        send(northMarkerBlock(), rig.config.inputUdpPort1, QHostAddress("239.255.77.2"));
+        send(plotBlock(1), rig.config.inputUdpPort1, QHostAddress("239.255.77.1"));
+        QTRY_COMPARE(rig.tracks().size(), 1);
+        QCOMPARE(rig.northCrossed.size(), 0);
+    }
+
+    void openFailsWholeWhenOneSocketDoes_data()
+    {
+        QTest::addColumn<bool>("portTaken");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("port taken") << true << "I Failed to bind UDP port %1.";
+        QTest::newRow("group not joined") << false << "I Failed to join UDP multicast group 10.9.8.7 on interface %2";
+    }
+
+    // The second socket fails; the first must not stay bound.
+    void openFailsWholeWhenOneSocketDoes()
+    {
+        QFETCH(bool, portTaken);
+        QFETCH(QString, line);
+        EngineRig rig;
+        rig.config.inputUdpPort1 = EngineRig::freePort();
+        rig.config.inputEnable2 = true;
+        rig.config.inputUdpPort2 = EngineRig::freePort();
+        rig.config.inputUdpMulticast2 = !portTaken;
+        rig.config.inputUdpMcastAddress2 = QHostAddress("10.9.8.7");
+        rig.config.inputUdpMcastLanInterface2 = m_loopback;
+        QUdpSocket other;
+        QVERIFY(
+            !portTaken || other.bind(QHostAddress::AnyIPv4, rig.config.inputUdpPort2, QUdpSocket::DontShareAddress));
+        rig.open(6);
+        QCOMPARE(rig.failed, QList<QVariantList>({{6ULL}}));
+        line.replace("%1", QString::number(rig.config.inputUdpPort2)).replace("%2", m_loopback.humanReadableName());
+        QCOMPARE(rig.log.last(), line);
+        QUdpSocket exclusive;
+        QVERIFY(exclusive.bind(QHostAddress::AnyIPv4, rig.config.inputUdpPort1, QUdpSocket::DontShareAddress));
+    }
+
+    void pausedInputsAreDrainedAndNotDecoded()
+    {
+        EngineRig rig;
+        rig.config.inputUdpPort1 = EngineRig::freePort();
+        rig.open();
+        rig.engine.pauseInput(true);
+        for (int i = 0; i < 200; ++i) {
+            send(plotBlock(1), rig.config.inputUdpPort1);
+        }
+        QTest::qWait(50);
+        QCOMPARE(rig.tracks().size(), 0);
+        rig.engine.pauseInput(false);
+        send(plotBlock(9, 100), rig.config.inputUdpPort1);
+        QTRY_COMPARE(rig.tracks().size(), 1); // not one from the pause
+        QCOMPARE(rig.engine.messagesReceived(), 1ULL);
+    }
+
+    // Each datagram takes a while: timers and requests must get their turn in between, and nothing may be lost.
+    void floodsAreWorkedOffInShares()
+    {
+        EngineRig rig;
+        rig.config.inputUdpPort1 = EngineRig::freePort();
+        rig.open();
+        connect(&rig.engine, &DataEngine::antennaNorthCrossed, this, [] { QThread::usleep(1000); });
+        constexpr int Datagrams = 300; // fit into the smallest receive buffer
+        for (int i = 0; i < Datagrams; ++i) {
+            send(northMarkerBlock(), rig.config.inputUdpPort1);
+        }
+        QList<qsizetype> seenByTimer;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] { seenByTimer += rig.northCrossed.size(); });
+        timer.start(0);
+        QTRY_COMPARE(rig.northCrossed.size(), Datagrams);
+        const auto turns = std::count_if(seenByTimer.begin(), seenByTimer.end(),
+            [](qsizetype seen) { return seen > 0 && seen < Datagrams && seen % 64 == 0; });
+        QVERIFY2(turns >= 3, QByteArray::number(qlonglong(turns)).constData());
+        // The next datagram is noticed too, although the last drain left nothing for the notification on its way.
+        send(northMarkerBlock(), rig.config.inputUdpPort1);
+        QTRY_COMPARE(rig.northCrossed.size(), Datagrams + 1);
+    }
+
+    void backlogIsReportedOnce()
+    {
+        EngineRig rig;
+        rig.config.inputUdpPort1 = EngineRig::freePort();
+        rig.open();
+        send(plotBlock(1), rig.config.inputUdpPort1);
+        QTRY_COMPARE(rig.tracks().size(), 1);
+        QCOMPARE(rig.log.filter("backlog").size(), 0);
+        const QByteArray large = plotBlock(2) + QByteArray(1400, '\0');
+        for (int burst = 0; burst < 2; ++burst) {
+            for (int i = 0; i < 800; ++i) {
+                send(large, rig.config.inputUdpPort1);
+            }
+            QTest::qWait(20);
+        }
+        QCOMPARE(rig.log
+                     .filter(QRegularExpression("^W UDP input backlog: [0-9]+ KB pending, decoding cannot keep up, "
+                                                "datagrams may be dropped by the OS\\.$"))
+                     .size(),
+            1);
+    }
+
+    void inputMayBeClosedByWhatItReads()
+    {
+        EngineRig rig;
+        rig.config.inputUdpPort1 = EngineRig::freePort();
+        rig.open();
+        connect(&rig.engine, &DataEngine::antennaNorthCrossed, &rig.engine, [&rig] { rig.engine.closeInput(); });
+        for (int i = 0; i < 3; ++i) {
+            send(northMarkerBlock(), rig.config.inputUdpPort1);
+        }
+        QTRY_COMPARE(rig.closed.size(), 1);
+        QTest::qWait(10);
+        QCOMPARE(rig.northCrossed.size(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDataEngineUdp)
+#include "tst_data_engine_udp.moc"
