@@ -1,0 +1,45 @@
+#include "traffic/earth.h"
+
+#include "geo/geo_coordinate.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace Earth {
+
+double radians(double degrees)
+{
+    return degrees * std::numbers::pi / 180;
+}
+
+double normalized(double degrees)
+{
+    const double rest = std::fmod(degrees, 360.0);
+    const double positive = rest < 0 ? rest + 360 : rest;
+    return positive >= 360 ? 0 : positive;
+}
+
+double turnBetween(double from, double to)
+{
+    const double right = normalized(to - from);
+    return right > 180 ? right - 360 : right;
+}
+
+double distance(double fromLatitude, double fromLongitude, double toLatitude, double toLongitude)
+{
+    return GeoCoordinate(fromLatitude, fromLongitude).distanceTo(GeoCoordinate(toLatitude, toLongitude));
+}
+
+double bearing(double fromLatitude, double fromLongitude, double toLatitude, double toLongitude)
+{
+    return GeoCoordinate(fromLatitude, fromLongitude).azimuthTo(GeoCoordinate(toLatitude, toLongitude));
+}
+
+void advance(double &latitude, double &longitude, double bearing, double metres)
+{
+    const QGeoCoordinate moved = GeoCoordinate(latitude, longitude).atDistanceAndAzimuth(metres, bearing);
+    latitude = moved.latitude();
+    longitude = moved.longitude();
+}
+
+} // namespace Earth
