@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class Config;
+class GeoView;
+class QPainter;
+
+// One layer of the map under the tracks. GUI thread only.
+class GeoLayer : public QObject {
+    Q_OBJECT
+
+public:
+    // The name is for the paint times; it is not shown on the map.
+    explicit GeoLayer(const QString &name, QObject *parent = nullptr);
+
+    const QString &name() const { return m_name; }
+    bool visible() const { return m_visible; }
+
+    // Called only while visible. The painter comes with the view's screen transform as its world transform (so plane
+    // coordinates can be drawn as they are) and no antialiasing; its state is restored afterwards.
+    virtual void paint(QPainter &painter, const GeoView &view) = 0;
+
+    // Takes over the keys that concern the layer.
+    virtual void applyConfig(const Config &config);
+
+public Q_SLOTS:
+    void setVisible(bool visible);
+
+Q_SIGNALS:
+    // The layer looks different now and wants to be painted again.
+    void polluted();
+
+private:
+    const QString m_name;
+    bool m_visible = true;
+};

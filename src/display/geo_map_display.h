@@ -1,0 +1,70 @@
+#pragma once
+
+#include "display/geo_layer.h"
+
+#include <QColor>
+#include <QList>
+#include <QObject>
+#include <QSharedPointer>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+class GeoRangeRingMap;
+class GeoSensorMap;
+class Projector;
+class SensorInfo;
+
+// The ground colour and the map layers over it, in drawing order. GUI thread only.
+class GeoMapDisplay final : public QObject {
+    Q_OBJECT
+
+public:
+    struct LayerTime {
+        QString name;
+        double milliseconds = 0.0; // of the last paint; 0 while hidden
+    };
+
+    // The projector must outlive the display.
+    explicit GeoMapDisplay(Projector *projector, QObject *parent = nullptr);
+    ~GeoMapDisplay() override;
+
+    // Fills the view and paints the visible layers. The painter comes with the view's screen transform as its world
+    // transform and leaves with it.
+    void paint(QPainter &painter, const GeoView &view);
+    // The same for the view that the painter shows.
+    void paint(QPainter &painter);
+
+    // Owned by the display, never null.
+    GeoSensorMap *sensorMap() const { return m_sensorMap; }
+    GeoRangeRingMap *rangeRingMap() const { return m_rangeRingMap; }
+
+    QColor backgroundColor() const { return m_backgroundColor; }
+    QList<LayerTime> layerTimes() const;
+
+    // Hands the configuration to every layer.
+    void applyConfig(const Config &config);
+
+public Q_SLOTS:
+    void setBackgroundColor(const QColor &color);
+    // Shows this sensor, and puts the range rings round it unless the operator has placed them. Null: no sensor.
+    void setSensor(const QSharedPointer<SensorInfo> &sensor);
+
+Q_SIGNALS:
+    void polluted();
+
+private:
+    struct Entry {
+        std::unique_ptr<GeoLayer> layer;
+        double milliseconds = 0.0;
+    };
+
+    template <typename Layer, typename... Arguments>
+    Layer *addLayer(Arguments &&...arguments);
+
+    std::vector<Entry> m_layers; // bottom first
+    GeoSensorMap *m_sensorMap = nullptr;
+    GeoRangeRingMap *m_rangeRingMap = nullptr;
+    QColor m_backgroundColor = QColor(173, 173, 173);
+};

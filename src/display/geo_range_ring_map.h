@@ -1,0 +1,50 @@
+#pragma once
+
+#include "display/geo_layer.h"
+
+#include <QColor>
+#include <QPolygonF>
+
+#include <vector>
+
+class Projector;
+
+// Rings at equal true distances over the ground around a centre, each with its distance. Until setRings places it, the
+// centre is the default one.
+class GeoRangeRingMap final : public GeoLayer {
+    Q_OBJECT
+
+public:
+    // The projector must outlive the layer.
+    explicit GeoRangeRingMap(Projector *projector, QObject *parent = nullptr);
+
+    void paint(QPainter &painter, const GeoView &view) override;
+    // Takes colour, visibility, number and distance; the default centre becomes the configured sensor's place, or the
+    // display centre when there is none.
+    void applyConfig(const Config &config) override;
+
+    QPointF center() const { return m_centerSet ? m_center : m_defaultCenter; } // plane metres
+    int number() const { return m_number; }
+    double distance() const { return m_distance; } // nautical miles from ring to ring
+    QColor color() const { return m_color; }
+
+public Q_SLOTS:
+    // Plane metres; a number outside 0 to 100 is brought into it, a distance that is not positive draws nothing.
+    void setRings(const QPointF &center, int number, double distanceNauticalMiles);
+    void setDefaultCenter(const QPointF &center);
+    void setColor(const QColor &color);
+
+private:
+    void layOut();
+    void paintDistances(QPainter &painter, const GeoView &view) const;
+
+    Projector *m_projector;
+    QPointF m_center;
+    QPointF m_defaultCenter;
+    bool m_centerSet = false;
+    int m_number = 5;
+    double m_distance = 50.0;
+    QColor m_color = QColor(0x39, 0x3F, 0x42);
+    bool m_layoutValid = false;
+    std::vector<QPolygonF> m_rings; // plane, inner first
+};

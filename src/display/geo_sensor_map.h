@@ -1,0 +1,76 @@
+#pragma once
+
+#include "display/antenna_sweep.h"
+#include "display/geo_layer.h"
+#include "geo/geo_coordinate.h"
+
+#include <QColor>
+#include <QPolygonF>
+#include <QSharedPointer>
+
+#include <functional>
+#include <vector>
+
+class Projector;
+class SensorInfo;
+
+// The sensor: its site and name, its coverage, and for a turning antenna the line where it looks and a flash of the
+// north marker when it passes north.
+class GeoSensorMap final : public GeoLayer {
+    Q_OBJECT
+
+public:
+    // The projector must outlive the layer.
+    explicit GeoSensorMap(Projector *projector, QObject *parent = nullptr);
+
+    void paint(QPainter &painter, const GeoView &view) override;
+    void applyConfig(const Config &config) override;
+
+    bool coverageVisible() const { return m_coverageVisible; }
+    bool northMarkerVisible() const { return m_northMarkerVisible; }
+    bool antennaLineVisible() const { return m_antennaLineVisible; }
+
+    // False, and nothing written, without a located sensor.
+    bool sitePosition(QPointF &planePoint) const;
+
+    // Replaces the steady clock, milliseconds from any start.
+    void setClock(std::function<qint64()> clock);
+
+public Q_SLOTS:
+    // Takes a copy of what it draws; null shows nothing. Forgets where the antenna was.
+    void setSensor(const QSharedPointer<SensorInfo> &sensor);
+    void showCoverage(bool visible);
+    void showNorthMarker(bool visible);
+    void showAntennaLine(bool visible);
+
+    // Sector crossing, degrees clockwise from true north.
+    void antennaRotated(double azimuthDegrees);
+    void antennaNorthCrossed();
+
+private:
+    void layOut();
+    void paintCoverage(QPainter &painter, const GeoView &view) const;
+    void paintNorthMarker(QPainter &painter, const GeoView &view) const;
+    void paintAntennaLine(QPainter &painter, const GeoView &view) const;
+    void paintSite(QPainter &painter, const GeoView &view) const;
+
+    Projector *m_projector;
+    std::function<qint64()> m_clock;
+    AntennaSweep m_sweep;
+
+    QString m_sensorName;
+    GeoCoordinate m_location;
+    std::vector<double> m_coverages; // nautical miles, largest first
+    bool m_turning = false;
+
+    QPointF m_site; // plane
+    std::vector<QPolygonF> m_coverageRings; // plane, one a coverage
+    QPolygonF m_rim; // plane, where the antenna line ends: one point a degree from north, clockwise
+
+    bool m_coverageVisible = true;
+    bool m_northMarkerVisible = true;
+    bool m_antennaLineVisible = true;
+    QColor m_color = QColor(0x00, 0x66, 0x33);
+    QColor m_northMarkerColor = Qt::red;
+    QColor m_antennaLineColor = QColor(0x00, 0x66, 0x33);
+};

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPointF>
+#include <QString>
+
+class QPainter;
+
+// The small monospaced font of texts on the map.
+QFont mapFont();
+
+// A text on a halo that keeps it apart from the lines below it, centred on a point; pixels, whatever the view's
+// rotation. The halo is white or black, whichever the colour stands out from more.
+void drawMapText(QPainter &painter, const QPointF &center, const QString &text, const QColor &color);

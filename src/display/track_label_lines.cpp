@@ -1,0 +1,144 @@
+#include "display/track_label_lines.h"
+
+#include "tracking/track_snapshot.h"
+
+#include <array>
+#include <cmath>
+#include <cstdio>
+
+namespace {
+
+constexpr QChar CoastingMark(0x2798); // ➘
+constexpr QChar ClimbingMark(0x2191); // ↑
+constexpr QChar DescendingMark(0x2193); // ↓
+constexpr int Climbing = 2; // Track::VerticalTrend
+constexpr int Descending = 3;
+
+// Appends the number with zeros in front up to the width; a sign counts. Labels are written at each new snapshot: this
+// takes a fifth of what QString::arg does.
+void appendNumber(QString &line, int number, int width)
+{
+    std::array<char, 16> digits;
+    const int length = std::snprintf(digits.data(), digits.size(), "%0*d", width, number);
+    line += QLatin1String(digits.data(), length);
+}
+
+// Three digits, or dashes for a value that is not valid.
+void appendValue(QString &line, bool valid, int number)
+{
+    if (valid)
+        appendNumber(line, number, 3);
+    else
+        line += QLatin1String("---");
+}
+
+// Whole hundreds, halves away from zero.
+int hundreds(int value)
+{
+    return int(std::lround(value / 100.0));
+}
+
+void appendBlank(QString &line)
+{
+    if (!line.isEmpty() && !line.endsWith(ClimbingMark) && !line.endsWith(DescendingMark))
+        line += QLatin1Char(' ');
+}
+
+QString identityLine(const TrackSnapshot &track, const TrackLabelFields &fields)
+{
+    QString line;
+    if (fields.trackNum) {
+        line = QLatin1Char('#');
+        appendNumber(line, int(track.trackNumber), 4);
+    }
+    if (fields.icaoAddr) {
+        appendBlank(line);
+        line += track.icaoAddrString;
+    }
+    return line;
+}
+
+QString callsignLine(const TrackSnapshot &track, const TrackLabelFields &fields)
+{
+    QString line;
+    if (fields.callsign)
+        line = track.callsign;
+    if (track.coasting)
+        line += CoastingMark;
+    if (fields.squawk) {
+        if (!track.coasting)
+            appendBlank(line);
+        line += track.modeACodeValid ? track.modeAString : QStringLiteral("----");
+    }
+    return line;
+}
+
+QString levelLine(const TrackSnapshot &track, const TrackLabelFields &fields)
+{
+    QString line;
+    if (fields.level) {
+        line = QLatin1Char('F');
+        appendValue(line, track.levelValid, track.level / 100);
+        if (track.verticalTrend == Climbing)
+            line += ClimbingMark;
+        else if (track.verticalTrend == Descending)
+            line += DescendingMark;
+    }
+    if (fields.selectedAltitude) {
+        appendBlank(line);
+        line += QLatin1Char('F');
+        appendValue(line, track.selectedAltitudeValid, hundreds(track.selectedAltitude));
+    }
+    if (fields.groundSpeed) {
+        appendBlank(line);
+        appendValue(line, track.groundSpeedValid, int(std::lround(track.groundSpeed)));
+    }
+    return line;
+}
+
+void appendRate(QString &line, const TrackSnapshot &track)
+{
+    const int rate = hundreds(track.verticalRate);
+    if (!track.verticalRateValid) {
+        line += QLatin1String(" --");
+    } else if (rate == 0) {
+        line += QLatin1String(" 00");
+    } else if (rate > 0) {
+        line += QLatin1Char('+');
+        appendNumber(line, rate, 2);
+    } else {
+        appendNumber(line, rate, 3);
+    }
+}
+
+QString rateLine(const TrackSnapshot &track, const TrackLabelFields &fields)
+{
+    QString line;
+    if (fields.verticalRate)
+        appendRate(line, track);
+    if (fields.heading) {
+        appendBlank(line);
+        appendValue(line, track.headingValid, int(std::lround(track.heading)));
+        line += QChar(0x00B0); // °
+    }
+    return line;
+}
+
+} // namespace
+
+bool TrackLabelFields::any() const
+{
+    return *this != TrackLabelFields{false, false, false, false, false, false, false, false, false, false};
+}
+
+TrackLabelLines trackLabelLines(const TrackSnapshot &track, const TrackLabelFields &fields)
+{
+    TrackLabelLines lines;
+    if (fields.alertIndicator)
+        lines.text[TrackLabelLines::Alert] = track.alertsString;
+    lines.text[TrackLabelLines::Identity] = identityLine(track, fields);
+    lines.text[TrackLabelLines::Callsign] = callsignLine(track, fields);
+    lines.text[TrackLabelLines::Level] = levelLine(track, fields);
+    lines.text[TrackLabelLines::Rate] = rateLine(track, fields);
+    return lines;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+struct TrackSnapshot;
+
+// Which fields a track label shows.
+struct TrackLabelFields {
+    bool alertIndicator = true;
+    bool trackNum = false;
+    bool callsign = true;
+    bool icaoAddr = false;
+    bool squawk = true;
+    bool level = true;
+    bool selectedAltitude = false;
+    bool verticalRate = false;
+    bool groundSpeed = true;
+    bool heading = false;
+
+    bool any() const;
+    bool operator==(const TrackLabelFields &other) const = default;
+};
+
+// The lines of a track label from top to bottom. A place for each kind of line; an empty one is not shown.
+struct TrackLabelLines {
+    enum Line { Alert, Identity, Callsign, Level, Rate, Count };
+
+    std::array<QString, Count> text;
+
+    bool operator==(const TrackLabelLines &other) const = default;
+};
+
+TrackLabelLines trackLabelLines(const TrackSnapshot &track, const TrackLabelFields &fields);

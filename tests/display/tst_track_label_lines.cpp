@@ -1,0 +1,120 @@
+#include "display/track_label_lines.h"
+#include "tracking/track_snapshot.h"
+
+#include <QTest>
+
+#include <functional>
+
+using Change = std::function<void(TrackSnapshot &)>;
+Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(TrackLabelFields)
+
+class tst_TrackLabelLines : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void line_data();
+    void line();
+};
+
+namespace {
+
+constexpr TrackLabelFields Nothing{false, false, false, false, false, false, false, false, false, false};
+
+TrackLabelFields only(std::initializer_list<bool TrackLabelFields::*> shown)
+{
+    TrackLabelFields fields = Nothing;
+    for (bool TrackLabelFields::*field : shown)
+        fields.*field = true;
+    return fields;
+}
+
+} // namespace
+
+void tst_TrackLabelLines::line_data()
+{
+    using F = TrackLabelFields;
+    using L = TrackLabelLines;
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<TrackLabelFields>("fields");
+    QTest::addColumn<int>("line");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, int line, const F &fields, const char *text, Change change = {}) {
+        QTest::newRow(name) << change << fields << line << QString::fromUtf8(text);
+    };
+    using T = TrackSnapshot;
+
+    const auto alerted = [](T &t) { t.alertsString = QStringLiteral("MSAW STCA"); };
+    row("alert", L::Alert, only({&F::alertIndicator}), "MSAW STCA", alerted);
+    row("alert indicator off", L::Alert, Nothing, "", alerted);
+
+    row("track number", L::Identity, only({&F::trackNum}), "#0042");
+    row("address", L::Identity, only({&F::icaoAddr}), "78009A");
+    row("number and address", L::Identity, only({&F::trackNum, &F::icaoAddr}), "#0042 78009A");
+    row("long track number", L::Identity, only({&F::trackNum}), "#12345", [](T &t) { t.trackNumber = 12345; });
+    row("no identity", L::Identity, F{}, "");
+
+    const auto coasting = [](T &t) { t.coasting = true; };
+    row("callsign and squawk", L::Callsign, F{}, "ABC123 7000");
+    row("coasting", L::Callsign, F{}, "ABC123➘7000", coasting);
+    row("coasting without squawk", L::Callsign, only({&F::callsign}), "ABC123➘", coasting);
+    row("coasting without callsign", L::Callsign, only({&F::squawk}), "➘7000", coasting);
+    row("squawk alone", L::Callsign, F{}, "7000", [](T &t) { t.callsign.clear(); });
+    row("no valid squawk", L::Callsign, F{}, "ABC123 ----", [](T &t) { t.modeACodeValid = false; });
+
+    const F all = only({&F::level, &F::selectedAltitude, &F::groundSpeed});
+    const auto climbing = [](T &t) { t.verticalTrend = 2; };
+    const auto descending = [](T &t) { t.verticalTrend = 3; };
+    row("level and speed", L::Level, F{}, "F350 452");
+    row("climbing", L::Level, F{}, "F350↑452", climbing);
+    row("descending", L::Level, F{}, "F350↓452", descending);
+    row("level flight has no arrow", L::Level, F{}, "F350 452", [](T &t) { t.verticalTrend = 1; });
+    row("selected altitude after an arrow", L::Level, all, "F350↑F181 452", [](T &t) {
+        t.verticalTrend = 2;
+        t.selectedAltitude = 18050;
+    });
+    row("nothing valid", L::Level, all, "F--- F--- ---",
+        [](T &t) { t.levelValid = t.selectedAltitudeValid = t.groundSpeedValid = false; });
+    row("level cut, not rounded", L::Level, only({&F::level}), "F009", [](T &t) { t.level = 999; });
+    row("below the sea", L::Level, only({&F::level}), "F-03", [](T &t) { t.level = -399; });
+    row("speed alone", L::Level, only({&F::groundSpeed}), "090", [](T &t) { t.groundSpeed = 89.5; });
+    row("no arrow without level", L::Level, only({&F::groundSpeed}), "452", climbing);
+
+    const F rate = only({&F::verticalRate});
+    const auto at = [](int feetPerMinute) { return [=](T &t) { t.verticalRate = feetPerMinute; }; };
+    row("climb rate", L::Rate, rate, "+05", at(500));
+    row("descent rate", L::Rate, rate, "-13", at(-1250));
+    row("small descent", L::Rate, rate, "-05", at(-500));
+    row("rounds to level", L::Rate, rate, " 00", at(40));
+    row("rounds to level from below", L::Rate, rate, " 00", at(-49));
+    row("half rounds up", L::Rate, rate, "+01", at(50));
+    row("half rounds down", L::Rate, rate, "-01", at(-50));
+    row("no rate", L::Rate, rate, " --", [](T &t) { t.verticalRateValid = false; });
+    row("rate and heading", L::Rate, only({&F::verticalRate, &F::heading}), "+05 008°", at(500));
+    row("heading alone", L::Rate, only({&F::heading}), "---°", [](T &t) { t.headingValid = false; });
+}
+
+void tst_TrackLabelLines::line()
+{
+    QFETCH(Change, change);
+    QFETCH(TrackLabelFields, fields);
+    QFETCH(int, line);
+    QFETCH(QString, text);
+    TrackSnapshot track;
+    track.trackNumber = 42;
+    track.icaoAddrString = QStringLiteral("78009A");
+    track.callsign = QStringLiteral("ABC123");
+    track.modeAString = QStringLiteral("7000");
+    track.level = 35000;
+    track.selectedAltitude = 18000;
+    track.groundSpeed = 452.4;
+    track.heading = 7.6;
+    track.modeACodeValid = track.levelValid = track.selectedAltitudeValid = track.groundSpeedValid = true;
+    track.headingValid = track.verticalRateValid = true;
+    if (change)
+        change(track);
+    QCOMPARE(trackLabelLines(track, fields).text[std::size_t(line)], text);
+}
+
+QTEST_GUILESS_MAIN(tst_TrackLabelLines)
+#include "tst_track_label_lines.moc"
