@@ -1,0 +1,189 @@
+#include "ui/actions.h"
+
+#include "ui/action_icon.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+namespace {
+
+// clang-format off
+// The translation context is "Actions".
+constexpr ActionSpec specs[] = {
+    {ActionId::Start, QT_TRANSLATE_NOOP("Actions", "Start"), QT_TRANSLATE_NOOP("Actions", "Start"),
+        QT_TRANSLATE_NOOP("Actions", "Start Input"), "", "start", false, MenuId::File, ToolBarId::General, false},
+    {ActionId::Stop, QT_TRANSLATE_NOOP("Actions", "Stop"), QT_TRANSLATE_NOOP("Actions", "Stop"),
+        QT_TRANSLATE_NOOP("Actions", "Stop Input"), "", "stop", false, MenuId::File, ToolBarId::General, false},
+    {ActionId::Pause, QT_TRANSLATE_NOOP("Actions", "Pause"), QT_TRANSLATE_NOOP("Actions", "Pause"),
+        QT_TRANSLATE_NOOP("Actions", "Pause"), "", "pause", true, MenuId::File, ToolBarId::General, false},
+    {ActionId::Settings, QT_TRANSLATE_NOOP("Actions", "Settings..."), QT_TRANSLATE_NOOP("Actions", "Settings"),
+        "", "F10", "settings", false, MenuId::File, ToolBarId::General, true},
+    {ActionId::Exit, QT_TRANSLATE_NOOP("Actions", "Exit"), "", "", "", "exit", false,
+        MenuId::File, ToolBarId::None, true},
+
+    {ActionId::ZoomIn, QT_TRANSLATE_NOOP("Actions", "Zoom In"), QT_TRANSLATE_NOOP("Actions", "In"),
+        "", "=", "zoom-in", false, MenuId::View, ToolBarId::View, false},
+    {ActionId::ZoomOut, QT_TRANSLATE_NOOP("Actions", "ZoomOut"), QT_TRANSLATE_NOOP("Actions", "Out"),
+        "", "-", "zoom-out", false, MenuId::View, ToolBarId::View, false},
+    {ActionId::RotateRight, QT_TRANSLATE_NOOP("Actions", "Rotate Right"), QT_TRANSLATE_NOOP("Actions", "CW"),
+        QT_TRANSLATE_NOOP("Actions", "Rotate Right"), "]", "rotate-right", false, MenuId::View, ToolBarId::View, true},
+    {ActionId::RotateLeft, QT_TRANSLATE_NOOP("Actions", "Rotate Left"), QT_TRANSLATE_NOOP("Actions", "CCW"),
+        QT_TRANSLATE_NOOP("Actions", "Rotate Left"), "[", "rotate-left", false, MenuId::View, ToolBarId::View, false},
+    {ActionId::RotateNorthUp, QT_TRANSLATE_NOOP("Actions", "Rotate North Up"),
+        QT_TRANSLATE_NOOP("Actions", "North Up"), QT_TRANSLATE_NOOP("Actions", "Rotate North Up"), "", "north-up",
+        false, MenuId::View, ToolBarId::View, false},
+    {ActionId::Rotate, QT_TRANSLATE_NOOP("Actions", "Rotate..."), "", QT_TRANSLATE_NOOP("Actions", "Rotate view"),
+        "", "rotate-view", false, MenuId::View, ToolBarId::None, false},
+    {ActionId::MoveLeft, QT_TRANSLATE_NOOP("Actions", "Move Left"), QT_TRANSLATE_NOOP("Actions", "Left"),
+        "", "Left", "move-left", false, MenuId::View, ToolBarId::None, true},
+    {ActionId::MoveUp, QT_TRANSLATE_NOOP("Actions", "Move Up"), QT_TRANSLATE_NOOP("Actions", "Up"),
+        "", "Up", "move-up", false, MenuId::View, ToolBarId::None, false},
+    {ActionId::MoveDown, QT_TRANSLATE_NOOP("Actions", "Move Down"), QT_TRANSLATE_NOOP("Actions", "Down"),
+        "", "Down", "move-down", false, MenuId::View, ToolBarId::None, false},
+    {ActionId::MoveRight, QT_TRANSLATE_NOOP("Actions", "Move Right"), QT_TRANSLATE_NOOP("Actions", "Right"),
+        "", "Right", "move-right", false, MenuId::View, ToolBarId::None, false},
+    {ActionId::GoTo, QT_TRANSLATE_NOOP("Actions", "Go To..."), QT_TRANSLATE_NOOP("Actions", "Go To"),
+        QT_TRANSLATE_NOOP("Actions", "Go to specified location..."), "Ctrl+G", "go-to", false,
+        MenuId::View, ToolBarId::View, true},
+    {ActionId::FullScreen, QT_TRANSLATE_NOOP("Actions", "Full Screen"), "", "", "Alt+F11", "full-screen", true,
+        MenuId::View, ToolBarId::None, true},
+    {ActionId::ResizeMainWindow, QT_TRANSLATE_NOOP("Actions", "Resize Main Window"), "", "", "", "resize-window",
+        false, MenuId::View, ToolBarId::None, false},
+
+    {ActionId::SensorManager, QT_TRANSLATE_NOOP("Actions", "Sensor Manager..."), "", "", "", "sensor-manager", false,
+        MenuId::Tools, ToolBarId::None, false},
+
+    {ActionId::ToggleTrackLabel, QT_TRANSLATE_NOOP("Actions", "Toggle Track Label"),
+        QT_TRANSLATE_NOOP("Actions", "Label"), "", "", "track-label", true, MenuId::Track, ToolBarId::Track, false},
+    {ActionId::TrackLabelFormat, QT_TRANSLATE_NOOP("Actions", "Track Label Format..."),
+        QT_TRANSLATE_NOOP("Actions", "Format"), "", "", "track-label-format", false,
+        MenuId::Track, ToolBarId::Track, false},
+    {ActionId::FollowSelectedTrack, QT_TRANSLATE_NOOP("Actions", "Follow Selected Track"), "",
+        QT_TRANSLATE_NOOP("Actions", "Selected track will always be put at the center of map"), "", "follow-track",
+        true, MenuId::Track, ToolBarId::None, true},
+    {ActionId::ToggleTrackList, QT_TRANSLATE_NOOP("Actions", "Toggle Track List"), "", "", "", "track-list", true,
+        MenuId::Track, ToolBarId::None, true},
+    {ActionId::ToggleAlertList, QT_TRANSLATE_NOOP("Actions", "Toggle Alert List"), "", "", "", "alert-list", true,
+        MenuId::Track, ToolBarId::None, false},
+
+    {ActionId::ToggleSensorMap, QT_TRANSLATE_NOOP("Actions", "Toggle Sensor Map"),
+        QT_TRANSLATE_NOOP("Actions", "Sensor"), QT_TRANSLATE_NOOP("Actions", "Toggle Sensor Map"), "", "sensor-map",
+        true, MenuId::Map, ToolBarId::View, true},
+    {ActionId::ToggleRangeRings, QT_TRANSLATE_NOOP("Actions", "Toggle Range Rings"),
+        QT_TRANSLATE_NOOP("Actions", "Rings"), "", "", "range-rings", true, MenuId::Map, ToolBarId::View, false},
+    {ActionId::RangeRings, QT_TRANSLATE_NOOP("Actions", "Rang Rings ..."), "", "", "", "range-rings-settings", false,
+        MenuId::Map, ToolBarId::None, true},
+    {ActionId::SetRangeRingsCenter, QT_TRANSLATE_NOOP("Actions", "Set Range Rings Center"), "", "", "F4",
+        "range-rings-center", false, MenuId::Map, ToolBarId::None, false},
+
+    {ActionId::CheatSheet, QT_TRANSLATE_NOOP("Actions", "Cheat Sheet..."), "",
+        QT_TRANSLATE_NOOP("Actions", "Show Cheat Sheet"), "F1", "cheat-sheet", false, MenuId::Help, ToolBarId::None,
+        false},
+    {ActionId::WhatsNew, QT_TRANSLATE_NOOP("Actions", "What's New?..."), "", "", "", "whats-new", false,
+        MenuId::Help, ToolBarId::None, false},
+    {ActionId::About, QT_TRANSLATE_NOOP("Actions", "About..."), QT_TRANSLATE_NOOP("Actions", "About"),
+        "", "", "about", false, MenuId::Help, ToolBarId::About, true},
+};
+// clang-format on
+
+static_assert(std::size(specs) == static_cast<std::size_t>(ActionId::Count), "each action stands in the table once");
+
+bool given(const char *text)
+{
+    return *text != '\0';
+}
+
+} // namespace
+
+std::span<const ActionSpec> actionTable()
+{
+    return specs;
+}
+
+Actions::Actions(QMainWindow *window) : QObject(window), m_window(window)
+{
+    setObjectName("actions");
+    makeMenus(window);
+    makeToolBars(window);
+    for (const ActionSpec &spec : specs) {
+        makeAction(spec, window);
+    }
+    updateIcons();
+}
+
+void Actions::makeMenus(QMainWindow *window)
+{
+    const auto add = [this, window](MenuId id, const QString &title) {
+        m_menus[static_cast<std::size_t>(id)] = window->menuBar()->addMenu(title);
+    };
+    add(MenuId::File, tr("&File"));
+    add(MenuId::View, tr("&View"));
+    add(MenuId::Tools, tr("&Tools"));
+    add(MenuId::Track, tr("&Track"));
+    add(MenuId::Map, tr("&Map"));
+    add(MenuId::Help, tr("&Help"));
+}
+
+void Actions::makeToolBars(QMainWindow *window)
+{
+    const auto add = [this, window](ToolBarId id, const QString &title, const QString &name) {
+        QToolBar *bar = window->addToolBar(title);
+        bar->setObjectName(name); // under which the window's state remembers it
+        bar->setIconSize({20, 20});
+        m_toolBars[static_cast<std::size_t>(id)] = bar;
+    };
+    add(ToolBarId::General, tr("General"), "generalToolBar");
+    add(ToolBarId::View, tr("View"), "viewToolBar");
+    add(ToolBarId::Track, tr("Track"), "trackToolBar");
+    add(ToolBarId::About, tr("About"), "aboutToolBar");
+}
+
+void Actions::makeAction(const ActionSpec &spec, QMainWindow *window)
+{
+    auto *action = new QAction(tr(spec.text), window);
+    if (given(spec.iconText)) {
+        action->setIconText(tr(spec.iconText));
+    }
+    if (given(spec.toolTip)) {
+        action->setToolTip(tr(spec.toolTip));
+    }
+    if (given(spec.shortcut)) {
+        action->setShortcut(QKeySequence::fromString(spec.shortcut, QKeySequence::PortableText));
+    }
+    action->setCheckable(spec.checkable);
+    // The window holds the action itself too, so that its shortcut works while menu bar and tool bars are hidden.
+    window->addAction(action);
+    m_actions[static_cast<std::size_t>(spec.id)] = action;
+
+    QMenu *holder = menu(spec.menu);
+    if (spec.startsGroup && !holder->isEmpty()) {
+        holder->addSeparator();
+    }
+    holder->addAction(action);
+    if (spec.toolBar == ToolBarId::None) {
+        return;
+    }
+    QToolBar *bar = toolBar(spec.toolBar);
+    if (spec.startsGroup && !bar->actions().isEmpty()) {
+        bar->addSeparator();
+    }
+    bar->addAction(action);
+}
+
+void Actions::setToolBarText(bool shown)
+{
+    for (QToolBar *bar : m_toolBars) {
+        bar->setToolButtonStyle(shown ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    }
+}
+
+void Actions::updateIcons()
+{
+    for (const ActionSpec &spec : specs) {
+        (*this)[spec.id]->setIcon(actionIcon(spec.icon, m_window->palette()));
+    }
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QColor>
+#include <QToolButton>
+
+// Shows a colour and its code; a click opens the colour chooser.
+class ColorButton final : public QToolButton {
+    Q_OBJECT
+
+public:
+    explicit ColorButton(const QString &chooserTitle, QWidget *parent = nullptr);
+
+    QColor color() const { return m_color; }
+    void setColor(const QColor &color);
+
+private:
+    void choose();
+
+    QString m_chooserTitle;
+    QColor m_color;
+};

@@ -1,0 +1,12 @@
+#include "ui/config_page.h"
+
+#include "ui/field_form.h"
+
+#include <QVBoxLayout>
+
+ConfigPage::ConfigPage(const QString &title, QWidget *parent)
+    : QWidget(parent), m_title(title), m_form(new FieldForm(this))
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_form);
+}

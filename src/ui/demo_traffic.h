@@ -1,0 +1,47 @@
+#pragma once
+
+#include "app/log_level.h"
+
+#include <QObject>
+#include <QProcess>
+#include <QSharedPointer>
+
+class Config;
+class SensorInfo;
+
+// The scenario generator running beside the terminal, sending to a loopback port of its own choice. It ends with this
+// object, and with the process if that is killed.
+class DemoTraffic final : public QObject {
+    Q_OBJECT
+
+public:
+    // An empty scenario is the one that comes with the generator.
+    explicit DemoTraffic(const QString &scenario, const QString &program = findProgram(), QObject *parent = nullptr);
+    ~DemoTraffic() override;
+
+    // The generator beside the executable, else in the path; empty when there is none.
+    static QString findProgram();
+
+    // Asks the generator for the scenario's sensor and finds a free port. False, with one line in error, when that
+    // fails. Waits for the generator, a moment.
+    bool prepare(QString *error);
+    // Input and sensor of the demonstration. Only after prepare().
+    void applyTo(Config &config) const;
+
+    // Sends from now on; a second call does nothing.
+    void start();
+
+Q_SIGNALS:
+    void message(LogLevel level, const QString &text);
+
+private:
+    bool readSensor(const QByteArray &json, QString *error);
+    bool findPort(QString *error);
+    void reportEnd(int exitCode, QProcess::ExitStatus status);
+
+    const QString m_scenario;
+    const QString m_program;
+    QSharedPointer<SensorInfo> m_sensor;
+    quint16 m_port = 0;
+    QProcess m_process;
+};

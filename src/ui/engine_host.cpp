@@ -1,0 +1,98 @@
+#include "ui/engine_host.h"
+
+#include "engine/data_engine.h"
+
+#include <QThread>
+
+#include <utility>
+#include <vector>
+
+namespace {
+constexpr int stopWaitMs = 5000;
+}
+
+EngineHost::EngineHost(QObject *parent)
+    : QObject(parent), m_shared(std::make_shared<Shared>()),
+      m_engine(new DataEngine(&m_shared->projector, &m_shared->display, &m_shared->video, &m_shared->weather))
+{
+    if (qEnvironmentVariableIsSet("VYXDISPLAY_NO_DATA_THREAD")) {
+        return;
+    }
+    m_thread = new QThread;
+    m_thread->setObjectName("data");
+    m_engine->moveToThread(m_thread);
+    connect(m_thread, &QThread::started, m_engine, &DataEngine::init);
+    connect(m_thread, &QThread::finished, m_engine, &QObject::deleteLater);
+    connect(m_thread, &QThread::finished, m_thread, &QObject::deleteLater);
+}
+
+EngineHost::~EngineHost()
+{
+    stop(stopWaitMs);
+}
+
+void EngineHost::start()
+{
+    if (m_thread) {
+        m_thread->start(QThread::InheritPriority);
+    } else {
+        m_engine->init();
+    }
+}
+
+void EngineHost::openInput(const Config &config, const QSharedPointer<SensorInfo> &sensor, quint64 requestId)
+{
+    if (m_engine) {
+        QMetaObject::invokeMethod(
+            m_engine,
+            [engine = m_engine, config, sensor, requestId] { engine->openInput(config, sensor, {}, requestId); },
+            Qt::QueuedConnection);
+    }
+}
+
+void EngineHost::closeInput()
+{
+    if (m_engine) {
+        QMetaObject::invokeMethod(m_engine, &DataEngine::closeInput, Qt::QueuedConnection);
+    }
+}
+
+void EngineHost::pauseInput(bool paused)
+{
+    if (m_engine) {
+        QMetaObject::invokeMethod(
+            m_engine, [engine = m_engine, paused] { engine->pauseInput(paused); }, Qt::QueuedConnection);
+    }
+}
+
+void EngineHost::setSnapshotTrailDots(int dots)
+{
+    if (m_engine) {
+        QMetaObject::invokeMethod(
+            m_engine, [engine = m_engine, dots] { engine->setSnapshotTrailDots(dots); }, Qt::QueuedConnection);
+    }
+}
+
+bool EngineHost::stop(int waitMs)
+{
+    DataEngine *engine = std::exchange(m_engine, nullptr);
+    QThread *thread = std::exchange(m_thread, nullptr);
+    if (!thread) {
+        delete engine;
+        return true;
+    }
+    // A thread that was never started has no finished signal to come.
+    if (!thread->isRunning()) {
+        delete engine;
+        delete thread;
+        return true;
+    }
+    thread->quit();
+    if (thread->wait(waitMs)) {
+        return true;
+    }
+    // It still reads the projector and writes the slots, so these must never go.
+    static std::vector<std::shared_ptr<Shared>> abandoned;
+    abandoned.push_back(m_shared);
+    return false;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/log_level.h"
+
+#include <QPlainTextEdit>
+
+// The application log on the screen: formatted lines, newest last, only as many as anybody scrolls back.
+class LogPane final : public QPlainTextEdit {
+    Q_OBJECT
+
+public:
+    static constexpr int MaximumLines = 5000;
+
+    explicit LogPane(QWidget *parent = nullptr);
+
+    // Follows the newest line unless the operator has scrolled back.
+    void appendLine(LogLevel level, const QString &line);
+
+protected:
+    bool event(QEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
+private:
+    QTextCharFormat format(LogLevel level) const;
+};

@@ -1,0 +1,155 @@
+// The dialogs that the operator opens, and what they change.
+
+#include "app/app_paths.h"
+#include "display/geo_map_display.h"
+#include "display/geo_range_ring_map.h"
+#include "display/geo_widget.h"
+#include "tracking/sensor_manager.h"
+#include "ui/about_window.h"
+#include "ui/actions.h"
+#include "ui/changelog_window.h"
+#include "ui/cheat_sheet_window.h"
+#include "ui/config_window.h"
+#include "ui/main_window.h"
+#include "ui/range_ring_window.h"
+#include "ui/rotation_window.h"
+#include "ui/sensor_manager_window.h"
+#include "ui/set_center_window.h"
+#include "ui/track_label_format_window.h"
+
+#include <QAction>
+
+namespace {
+
+// Blocks the main window only, not the program: the picture goes on.
+void openOver(QDialog *dialog)
+{
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void bringUp(QDialog *dialog)
+{
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
+}
+
+} // namespace
+
+void MainWindow::connectDialogActions()
+{
+    const auto on = [this](ActionId id, auto slot) { connect((*m_actions)[id], &QAction::triggered, this, slot); };
+    on(ActionId::Settings, &MainWindow::showConfigWindow);
+    on(ActionId::Rotate, &MainWindow::showRotationWindow);
+    on(ActionId::GoTo, &MainWindow::showSetCenterWindow);
+    on(ActionId::RangeRings, &MainWindow::showRangeRingWindow);
+    on(ActionId::TrackLabelFormat, &MainWindow::showTrackLabelFormatWindow);
+    on(ActionId::SensorManager, &MainWindow::launchSensorManager);
+    on(ActionId::CheatSheet, &MainWindow::showCheatSheet);
+    on(ActionId::WhatsNew, &MainWindow::showChangelog);
+    on(ActionId::About, &MainWindow::showAbout);
+}
+
+void MainWindow::showConfigWindow()
+{
+    auto *window = new ConfigWindow(m_config.live(), m_sensors.get(), this);
+    connect(window, &ConfigWindow::configApplied, this, [this](const Config &edited) {
+        const QString sensorDatabase = m_config.live().sensorDatabase;
+        m_config.apply(edited);
+        applyConfig();
+        applySensor();
+        if (edited.sensorDatabase != sensorDatabase) {
+            loadSensorDatabase();
+        }
+    });
+    openOver(window);
+}
+
+void MainWindow::showRotationWindow()
+{
+    auto *window = new RotationWindow(this);
+    window->setRotation(m_geoWidget->currentRotation());
+    connect(window, &RotationWindow::rotationEntered, m_geoWidget,
+        [this](double degrees) { m_geoWidget->rotate(degrees - m_geoWidget->currentRotation()); });
+    openOver(window);
+}
+
+void MainWindow::showSetCenterWindow()
+{
+    auto *window = new SetCenterWindow(this);
+    window->setCenter(viewCenter());
+    connect(window, &SetCenterWindow::centerEntered, m_geoWidget, [this](const GeoCoordinate &center) {
+        const QPointF point = planePoint(center);
+        m_geoWidget->jumpTo(point.x(), point.y());
+    });
+    openOver(window);
+}
+
+void MainWindow::showRangeRingWindow()
+{
+    if (!m_rangeRingWindow) {
+        m_rangeRingWindow = new RangeRingWindow(this);
+        connect(m_rangeRingWindow, &RangeRingWindow::ringsEntered, this, &MainWindow::setRangeRings);
+    }
+    const GeoRangeRingMap *rings = m_mapDisplay->rangeRingMap();
+    m_rangeRingWindow->setRings(coordinate(rings->center()), rings->number(), rings->distance());
+    bringUp(m_rangeRingWindow);
+}
+
+void MainWindow::setRangeRings(const GeoCoordinate &center, int number, double distanceNauticalMiles)
+{
+    editConfig([number, distanceNauticalMiles](Config &config) {
+        config.mapRangeRingNumber = number;
+        config.mapRangeRingDistance = distanceNauticalMiles;
+        config.mapRangeRingVisible = true;
+    });
+    m_ringCenterPlaced = true;
+    m_mapDisplay->rangeRingMap()->setRings(planePoint(center), number, distanceNauticalMiles);
+}
+
+void MainWindow::showTrackLabelFormatWindow()
+{
+    if (!m_trackLabelFormatWindow) {
+        m_trackLabelFormatWindow = new TrackLabelFormatWindow(m_trackDisplay.get(), this);
+    }
+    bringUp(m_trackLabelFormatWindow);
+}
+
+void MainWindow::showCheatSheet()
+{
+    QList<QAction *> actions;
+    for (const ActionSpec &spec : actionTable()) {
+        actions.append((*m_actions)[spec.id]);
+    }
+    openOver(new CheatSheetWindow(actions, this));
+}
+
+void MainWindow::showAbout()
+{
+    openOver(new AboutWindow(this));
+}
+
+void MainWindow::showChangelog()
+{
+    openOver(new ChangelogWindow(this));
+}
+
+void MainWindow::launchSensorManager()
+{
+    auto *window =
+        new SensorManagerWindow(m_sensors.get(), AppPaths::resolvePath(m_config.live().sensorDatabase), this);
+    connect(window, &SensorManagerWindow::sensorChosen, this, &MainWindow::chooseSensor);
+    connect(window, &SensorManagerWindow::databaseFileChanged, this, [this](const QString &file) {
+        editConfig([&file](Config &config) { config.sensorDatabase = AppPaths::storePath(file); });
+    });
+    openOver(window);
+}
+
+void MainWindow::chooseSensor(const QSharedPointer<SensorInfo> &sensor)
+{
+    editConfig([&sensor](Config &config) { config.setSensor(sensor); });
+    applySensor();
+    showInitialView();
+}

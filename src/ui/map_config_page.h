@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ui/config_page.h"
+
+class ColorButton;
+class QCheckBox;
+class QDoubleSpinBox;
+class QSpinBox;
+
+// Settings of the map layers: the sensor and the range rings.
+class MapConfigPage final : public ConfigPage {
+    Q_OBJECT
+
+public:
+    explicit MapConfigPage(QWidget *parent = nullptr);
+
+    void load(const Config &config) override;
+    bool validate() override { return true; } // nothing can be entered wrongly
+    void store(Config *config) const override;
+
+private:
+    void addSensorRows();
+    void addRangeRingRows();
+
+    QCheckBox *m_sensorVisible = nullptr;
+    ColorButton *m_sensorColor = nullptr;
+    QCheckBox *m_coverageVisible = nullptr;
+    QCheckBox *m_northMarkerVisible = nullptr;
+    ColorButton *m_northMarkerColor = nullptr;
+    QCheckBox *m_antennaLineVisible = nullptr;
+    ColorButton *m_antennaLineColor = nullptr;
+    QCheckBox *m_ringsVisible = nullptr;
+    ColorButton *m_ringColor = nullptr;
+    QSpinBox *m_ringNumber = nullptr;
+    QDoubleSpinBox *m_ringDistance = nullptr;
+};

@@ -1,0 +1,43 @@
+#include "ui/rotation_window.h"
+
+#include "display/geo_view.h"
+#include "ui/field_form.h"
+
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QVBoxLayout>
+
+RotationWindow::RotationWindow(QWidget *parent)
+    : GeometryDialog(QStringLiteral("RotationWindow"), parent), m_rotation(new QDoubleSpinBox)
+{
+    setWindowTitle(tr("Rotate View"));
+    m_rotation->setObjectName(QStringLiteral("rotation"));
+    m_rotation->setRange(-180.0, 180.0);
+    m_rotation->setDecimals(1);
+    m_rotation->setSuffix(QStringLiteral("°"));
+    m_rotation->setWrapping(true);
+    m_rotation->setToolTip(tr("Positive turns the picture clockwise"));
+    auto *form = new FieldForm(this);
+    form->addField(tr("&Rotation, clockwise:"), m_rotation);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, Qt::Horizontal, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &RotationWindow::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &RotationWindow::reject);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(form);
+    layout->addSpacing(8);
+    layout->addStretch(1);
+    layout->addWidget(buttons);
+}
+
+void RotationWindow::setRotation(double degrees)
+{
+    m_rotation->setValue(GeoView::normalizedRotation(degrees));
+    m_rotation->selectAll();
+    m_rotation->setFocus();
+}
+
+void RotationWindow::accept()
+{
+    Q_EMIT rotationEntered(m_rotation->value());
+    QDialog::accept();
+}

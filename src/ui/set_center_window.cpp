@@ -1,0 +1,77 @@
+#include "ui/set_center_window.h"
+
+#include "app/ui_state.h"
+#include "ui/coordinate_edit.h"
+#include "ui/field_form.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr qsizetype maximumRecent = 10;
+const QString recentKey = QStringLiteral("recentCenters");
+
+} // namespace
+
+SetCenterWindow::SetCenterWindow(QWidget *parent)
+    : GeometryDialog(QStringLiteral("SetCenterWindow"), parent), m_form(new FieldForm(this)),
+      m_center(new CoordinateEdit(GeoCoordinate::NormalPrecision)), m_recent(new QComboBox)
+{
+    setWindowTitle(tr("Go To"));
+    m_center->setObjectName(QStringLiteral("center"));
+    m_recent->setObjectName(QStringLiteral("recent"));
+    m_recent->setPlaceholderText(tr("choose one"));
+    m_form->addField(tr("&Coordinate:"), m_center);
+    m_form->addField(tr("&Recent:"), m_recent);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, Qt::Horizontal, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &SetCenterWindow::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &SetCenterWindow::reject);
+    connect(m_center, &QLineEdit::textChanged, this, [this] { m_form->clearNotes(); });
+    connect(m_recent, &QComboBox::textActivated, m_center, &QLineEdit::setText);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_form);
+    layout->addSpacing(8);
+    layout->addStretch(1);
+    layout->addWidget(buttons);
+    const QString recent = QString::fromLatin1(UiState::value(stateGroup(), recentKey));
+    m_recent->addItems(recent.split(u' ', Qt::SkipEmptyParts));
+    m_recent->setCurrentIndex(-1);
+    m_recent->setEnabled(m_recent->count() > 0);
+}
+
+void SetCenterWindow::setCenter(const GeoCoordinate &center)
+{
+    m_center->setCoordinate(center);
+    m_center->selectAll();
+    m_center->setFocus();
+}
+
+void SetCenterWindow::accept()
+{
+    const GeoCoordinate center = m_center->coordinate();
+    if (!m_form->check(m_center, center.isValid() ? QString() : tr("INVALID COORDINATE"))) {
+        m_center->setFocus();
+        return;
+    }
+    remember(center.toATCString());
+    Q_EMIT centerEntered(center);
+    QDialog::accept();
+}
+
+void SetCenterWindow::remember(const QString &text)
+{
+    const int known = m_recent->findText(text);
+    if (known >= 0)
+        m_recent->removeItem(known);
+    m_recent->insertItem(0, text);
+    while (m_recent->count() > maximumRecent)
+        m_recent->removeItem(m_recent->count() - 1);
+    m_recent->setCurrentIndex(-1);
+    m_recent->setEnabled(true);
+    QStringList texts;
+    for (int i = 0; i < m_recent->count(); ++i)
+        texts.append(m_recent->itemText(i));
+    UiState::saveValue(stateGroup(), recentKey, texts.join(u' ').toLatin1());
+}

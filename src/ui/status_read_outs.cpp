@@ -1,0 +1,100 @@
+#include "ui/status_read_outs.h"
+
+#include "geo/geo_coordinate.h"
+#include "geo/projector.h"
+#include "ui/figure_font.h"
+
+#include <QDateTime>
+#include <QStatusBar>
+
+#include <cmath>
+
+StatusReadOuts::StatusReadOuts(QStatusBar *bar, Projector *projector)
+    : QObject(bar), m_projector(projector),
+      m_cursor(addReadOut(bar, "8959599N 17959599W", tr("Position under the pointer"))),
+      m_scale(addReadOut(bar, "SCL 14000", tr("Scale, metres per pixel"))),
+      m_rotation(addReadOut(bar, "ROT +000180", tr("Rotation of the view, degrees clockwise")))
+{
+    const char *const names[] = {"MSAW", "APW", "STCA"};
+    const QString explanations[] = {
+        tr("Minimum safe altitude warning"), tr("Area proximity warning"), tr("Short-term conflict alert")};
+    for (std::size_t i = 0; i < m_alerts.size(); ++i) {
+        m_alerts[i] = addReadOut(bar, " MSAW ", explanations[i]);
+        m_alerts[i]->setText(names[i]);
+        showAlertStatus(static_cast<int>(i) + 1, false);
+    }
+    m_localClock = addReadOut(bar, "CEST 00:00:00", {});
+    m_utcClock = addReadOut(bar, "UTC 00:00:00", tr("Coordinated universal time"));
+    setTimeZone("UTC");
+}
+
+QLabel *StatusReadOuts::addReadOut(QStatusBar *bar, const QString &widestText, const QString &toolTip)
+{
+    auto *label = new QLabel(bar);
+    label->setFont(figureFont());
+    label->setAlignment(Qt::AlignCenter);
+    label->setFixedWidth(QFontMetrics(label->font()).horizontalAdvance(widestText) + 8);
+    label->setToolTip(toolTip);
+    label->setTextFormat(Qt::PlainText);
+    bar->addPermanentWidget(label);
+    return label;
+}
+
+void StatusReadOuts::showCursorPosition(const QPointF &planePoint)
+{
+    double latitude = 0.0;
+    double longitude = 0.0;
+    if (!m_projector->toWgs84(&latitude, &longitude, planePoint.x(), planePoint.y())) {
+        m_cursor->clear();
+        return;
+    }
+    m_cursor->setText(GeoCoordinate(latitude, longitude).toATCString(GeoCoordinate::NormalPrecisionSpace));
+}
+
+void StatusReadOuts::showZoom(double metresPerPixel)
+{
+    m_scale->setText(tr("SCL %1").arg(std::llround(metresPerPixel), 5, 10, QChar(' ')));
+}
+
+void StatusReadOuts::showRotation(double degrees)
+{
+    // The view's angle comes out of its matrix with a little noise, which must show neither as figures nor as a sign.
+    const double shown = std::round(degrees * 100.0) / 100.0;
+    m_rotation->setText(tr("ROT %1%2").arg(shown >= 0.0 ? "+" : "-").arg(std::abs(shown), 6, 'g', -1, QChar('0')));
+}
+
+void StatusReadOuts::showAlertStatus(int type, bool on)
+{
+    if (type < 1 || type > static_cast<int>(m_alerts.size())) {
+        return;
+    }
+    m_alerts[static_cast<std::size_t>(type) - 1]->setStyleSheet(
+        on ? "color: white; background-color: green" : "color: white; background-color: gray");
+}
+
+void StatusReadOuts::setTimeZone(const QString &name)
+{
+    m_systemZone = name == "LCL";
+    m_zone = m_systemZone ? QTimeZone::systemTimeZone() : QTimeZone(name.toUtf8());
+    const bool ownZone = m_systemZone || (m_zone.isValid() && !m_zone.id().endsWith("UTC"));
+    m_localClock->setVisible(ownZone);
+    m_localClock->setToolTip(ownZone ? tr("Local time, %1").arg(QString::fromUtf8(m_zone.id())) : QString());
+}
+
+void StatusReadOuts::showTime(const QDateTime &now)
+{
+    if (!m_localClock->isHidden()) {
+        m_localClock->setText(tr("%1 %2").arg(zoneLabel(now), now.toTimeZone(m_zone).toString("HH:mm:ss")));
+    }
+    m_utcClock->setText(now.toUTC().toString("'UTC' HH:mm:ss"));
+}
+
+QString StatusReadOuts::zoneLabel(const QDateTime &now) const
+{
+    if (m_systemZone) {
+        return "LCL";
+    }
+    // Zones without letters of their own come as "+08"; LCL says more to whoever reads it.
+    const QString letters = m_zone.abbreviation(now);
+    return letters.isEmpty() || !letters[0].isLetter() || letters.size() > 4 ? QString("LCL") : letters;
+}

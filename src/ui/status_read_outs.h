@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QLabel>
+#include <QPointF>
+#include <QTimeZone>
+
+class Projector;
+class QStatusBar;
+
+#include <array>
+
+// The read-outs at the right of the status bar: cursor position, scale, rotation, alert indicators and clock. Each is
+// as wide as its widest text, so that nothing moves when a figure changes.
+class StatusReadOuts final : public QObject {
+    Q_OBJECT
+
+public:
+    // The read-outs become the bar's; the projector must outlive this object.
+    StatusReadOuts(QStatusBar *bar, Projector *projector);
+
+    // Plane metres; empty where the plane point is off the globe.
+    void showCursorPosition(const QPointF &planePoint);
+    void showZoom(double metresPerPixel);
+    // Degrees clockwise.
+    void showRotation(double degrees);
+    // Types are Alert::Type; any other number is ignored.
+    void showAlertStatus(int type, bool on);
+    // An IANA id, or "LCL" for the system's own zone under just that label; an unknown id gives UTC alone.
+    void setTimeZone(const QString &name);
+    void showTime(const QDateTime &now);
+
+    QLabel *cursor() const { return m_cursor; }
+    QLabel *scale() const { return m_scale; }
+    QLabel *rotation() const { return m_rotation; }
+    QLabel *localClock() const { return m_localClock; }
+    QLabel *utcClock() const { return m_utcClock; }
+    // MSAW, APW, STCA.
+    QLabel *alertIndicator(int index) const { return m_alerts.at(static_cast<std::size_t>(index)); }
+
+private:
+    QLabel *addReadOut(QStatusBar *bar, const QString &widestText, const QString &toolTip);
+    QString zoneLabel(const QDateTime &now) const;
+
+    Projector *m_projector;
+    QTimeZone m_zone;
+    bool m_systemZone = false;
+    QLabel *m_cursor;
+    QLabel *m_scale;
+    QLabel *m_rotation;
+    std::array<QLabel *, 3> m_alerts = {};
+    QLabel *m_localClock;
+    QLabel *m_utcClock;
+};

@@ -1,0 +1,92 @@
+#include "ui/alert_list_model.h"
+#include "ui/list_sort_model.h"
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+namespace {
+
+AlertSnapshot conflict(unsigned int id, quint64 firstTrack, quint64 secondTrack)
+{
+    AlertSnapshot alert;
+    alert.id = id;
+    alert.type = 3;
+    alert.state = 1;
+    alert.stateString = "Active";
+    alert.startTime = QDateTime(QDate(2024, 5, 1), QTime(23, 59, 50), Qt::UTC).addSecs(id);
+    alert.track1.incarnationId = firstTrack;
+    alert.track1.text = "VYX1";
+    alert.track2Applicable = true;
+    alert.track2.incarnationId = secondTrack;
+    alert.track2.text = "VYX2";
+    return alert;
+}
+
+} // namespace
+
+class TestAlertListModel : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsAlerts();
+    void sortsTimesAcrossMidnight();
+    void findsTheTrack_data();
+    void findsTheTrack();
+};
+
+void TestAlertListModel::showsAlerts()
+{
+    AlertListModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    AlertSnapshot area = conflict(2, 7, 0);
+    area.type = 2;
+    area.objectName = "LO-R 16";
+    area.track2Applicable = false;
+    area.endTime = area.startTime.addSecs(5);
+    model.setAlerts({conflict(1, 7, 8), area});
+
+    const auto row = [&model](int number) {
+        QStringList texts;
+        for (int column = 0; column < AlertListModel::ColumnCount; ++column) {
+            texts.append(model.index(number, column).data().toString());
+        }
+        return texts;
+    };
+    QCOMPARE(row(0), QStringList({"STCA", "VYX1", "VYX2", "", "Active", "23:59:51", ""}));
+    QCOMPARE(row(1), QStringList({"APW", "VYX1", "", "LO-R 16", "Active", "23:59:52", "23:59:57"}));
+
+    model.setAlerts({area});
+    QCOMPARE(model.rowCount(), 1);
+    QCOMPARE(model.record(0).id, 2u);
+}
+
+void TestAlertListModel::sortsTimesAcrossMidnight()
+{
+    AlertListModel model;
+    model.setAlerts({conflict(20, 1, 2), conflict(1, 1, 2)}); // 00:00:10 the next day, 23:59:51
+    ListSortModel sorted(&model);
+    sorted.sort(AlertListModel::Start, Qt::DescendingOrder);
+    QCOMPARE(sorted.index(0, AlertListModel::Start).data().toString(), "00:00:10");
+}
+
+void TestAlertListModel::findsTheTrack_data()
+{
+    QTest::addColumn<quint64>("first");
+    QTest::addColumn<quint64>("second");
+    QTest::addColumn<quint64>("found");
+    QTest::newRow("both held") << quint64(7) << quint64(8) << quint64(7);
+    QTest::newRow("only the second held") << quint64(0) << quint64(8) << quint64(8);
+    QTest::newRow("neither held") << quint64(0) << quint64(0) << quint64(0);
+}
+
+void TestAlertListModel::findsTheTrack()
+{
+    QFETCH(quint64, first);
+    QFETCH(quint64, second);
+    AlertListModel model;
+    model.setAlerts({conflict(1, first, second)});
+    QTEST(model.trackId(0), "found");
+}
+
+QTEST_MAIN(TestAlertListModel)
+#include "tst_alert_list_model.moc"

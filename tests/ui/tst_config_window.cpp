@@ -1,0 +1,312 @@
+#include "tracking/radar_sensor_info.h"
+#include "tracking/sensor_manager.h"
+#include "ui/config_window.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+using Edits = QList<std::pair<QString, QString>>; // field and what the operator enters
+
+class TestConfigWindow : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void applyWithoutEditsChangesNothing_data();
+    void applyWithoutEditsChangesNothing();
+    void appliesWhatWasEntered_data();
+    void appliesWhatWasEntered();
+    void refusesInWords_data();
+    void refusesInWords();
+    void opensThePageOfTheRefusedField();
+    void takesTheSensorChosenFromTheFile();
+
+private:
+    QStringList changedKeys(const Config &before, const Config &after);
+
+    QTemporaryDir m_dir;
+};
+
+namespace {
+
+// A record without a single default among the keys that the window shows.
+Config unusualConfig()
+{
+    Config config;
+    config.displayCenterCoordinate = GeoCoordinate(-33.5, -70.25);
+    config.displayLocalTimeZoneName = QStringLiteral("LCL");
+    config.displayStyle = QStringLiteral("fusion");
+    config.displayToolbarText = false;
+    config.mapBackgroundColor = QColor(1, 2, 3);
+    config.inputComm = Config::InputComm::Serial;
+    config.inputUdpMulticast1 = false;
+    config.inputUdpMcastLanInterface1 = QNetworkInterface::interfaceFromName(QStringLiteral("lo"));
+    config.inputUdpMcastAddress1 = QHostAddress(QStringLiteral("10.1.2.3"));
+    config.inputUdpPort1 = 1;
+    config.inputEnable2 = true;
+    config.inputUdpPort2 = 65535;
+    config.inputSerialDevice = QStringLiteral("ttyNoSuch7");
+    config.inputSerialBaudRate = 31250;
+    config.inputSerialDataBits = 7;
+    config.inputSerialParity = 2;
+    config.inputSerialStopBits = 3;
+    config.inputFileName.setFile(QStringLiteral("/no/such/file.pcap"));
+    config.inputFileAutoRewind = true;
+    config.processorType = Config::ProcessorType::ModeS;
+    config.processorAsterixFormat = Config::AsterixFormat::ManagAir;
+    config.processorAsterixUap = 7;
+    config.processorAsterixVerifySacSic = true;
+    config.processorAsterixIgnoreWgs84Coordinates = true;
+    config.processorAsterixIgnoreCartesianCoordinates = true;
+    config.mapSensorVisible = false;
+    config.mapSensorCoverageVisible = false;
+    config.mapSensorRadarNorthMarkerVisible = false;
+    config.mapSensorRadarAntennaLineVisible = false;
+    config.mapSensorColor = QColor(4, 5, 6);
+    config.mapSensorRadarNorthMarkerColor = QColor(7, 8, 9);
+    config.mapSensorRadarAntennaLineColor = QColor(10, 11, 12);
+    config.mapRangeRingVisible = true;
+    config.mapRangeRingColor = QColor(13, 14, 15);
+    config.mapRangeRingNumber = 50;
+    config.mapRangeRingDistance = 0.25;
+    config.trackSymbolColor = QColor(16, 17, 18);
+    config.trackLabelColor = QColor(19, 20, 21);
+    config.trackLabelSelectedColor = QColor(22, 23, 24);
+    config.trackLabelAlertColor = QColor(25, 26, 27);
+    config.trackLabelBackgroundColor = QColor(28, 29, 30);
+    config.trackLabelBackgroundOpacity = 255;
+    return config;
+}
+
+// The same with the fields of one type of sensor.
+Config unusualSensor(SensorType type)
+{
+    Config config = unusualConfig();
+    config.sensorType = type;
+    config.sensorName = QStringLiteral("West");
+    config.sensorSac = 255;
+    config.sensorSic = 7;
+    config.sensorLocation = GeoCoordinate::fromATCString(QStringLiteral("010203S0040506W"));
+    config.sensorRadarAntennaAltitude = -12;
+    config.sensorRadarRotationPeriod = 9.875;
+    config.sensorRadarIsPrimary = true;
+    config.sensorRadarIsModeS = false;
+    config.sensorRadarCoveragePrimary = 61;
+    config.sensorRadarCoverageSecondary = 201;
+    config.sensorAdsbCoverage = 199;
+    config.sensorAdsbUpdateInterval = 0.5;
+    config.sensorMlatCoverage = 31;
+    config.sensorSdpsCoverage = 800;
+    config.sensorSdpsUpdateInterval = 5.0;
+    config.sensorSmrAntennaAltitude = 88;
+    config.sensorSmrRotationPeriod = 0.9;
+    config.sensorSmrCoverage = 2.75;
+    return config;
+}
+
+void enter(const ConfigWindow &window, const Edits &edits)
+{
+    for (const auto &[name, value] : edits) {
+        auto *field = window.findChild<QWidget *>(name);
+        QVERIFY2(field, qPrintable(name));
+        if (auto *line = qobject_cast<QLineEdit *>(field))
+            line->setText(value);
+        else if (auto *combo = qobject_cast<QComboBox *>(field))
+            combo->setCurrentText(value);
+        else if (auto *number = qobject_cast<QSpinBox *>(field))
+            number->setValue(value.toInt());
+        else if (auto *box = qobject_cast<QCheckBox *>(field))
+            box->setChecked(value == QLatin1String("on"));
+    }
+}
+
+bool shows(const ConfigWindow &window, const QString &text)
+{
+    const QList<QLabel *> labels = window.findChildren<QLabel *>();
+    return std::any_of(labels.begin(), labels.end(),
+        [&](const QLabel *label) { return label->text() == text && label->isVisibleTo(label->parentWidget()); });
+}
+
+} // namespace
+
+void TestConfigWindow::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+}
+
+QStringList TestConfigWindow::changedKeys(const Config &before, const Config &after)
+{
+    const QString first = m_dir.filePath(QStringLiteral("before.conf"));
+    const QString second = m_dir.filePath(QStringLiteral("after.conf"));
+    QFile::remove(first);
+    QFile::remove(second);
+    before.save(first);
+    after.save(second);
+    const QSettings a(first, QSettings::IniFormat);
+    const QSettings b(second, QSettings::IniFormat);
+    QStringList changed;
+    const QStringList keys = a.allKeys();
+    for (const QString &key : keys) {
+        if (a.value(key) != b.value(key))
+            changed.append(key);
+    }
+    return changed;
+}
+
+void TestConfigWindow::applyWithoutEditsChangesNothing_data()
+{
+    QTest::addColumn<Config>("config");
+    QTest::newRow("defaults") << Config();
+    QTest::newRow("no default value anywhere") << unusualConfig();
+    for (const SensorType type : {RadarSensor, AdsbSensor, MlatSensor, SdpsSensor, SmrSensor})
+        QTest::newRow(qPrintable(sensorTypeFullName(type) + QStringLiteral(" sensor"))) << unusualSensor(type);
+}
+
+void TestConfigWindow::applyWithoutEditsChangesNothing()
+{
+    QFETCH(Config, config);
+    ConfigWindow window(config, nullptr);
+    QVERIFY(window.apply());
+    QCOMPARE(changedKeys(config, window.config()).join(u' '), QString());
+}
+
+void TestConfigWindow::appliesWhatWasEntered_data()
+{
+    QTest::addColumn<Edits>("edits");
+    QTest::addColumn<QStringList>("changed");
+    using Keys = QStringList;
+    QTest::newRow("centre in lower case")
+        << Edits{{"displayCenter", "395427n1162317w"}} << Keys{"displayCenterCoordinate"};
+    QTest::newRow("time zone") << Edits{{"displayTimeZone", "Asia/Tokyo"}} << Keys{"displayLocalTimeZoneName"};
+    QTest::newRow("lowest and highest group") << Edits{{"udpGroup1", "224.0.0.0"}, {"udpEnable2", "on"},
+        {"udpGroup2", "239.255.255.255"}} << Keys{"inputEnable2", "inputUdpMcastAddress1", "inputUdpMcastAddress2"};
+    QTest::newRow("unicast needs no group")
+        << Edits{{"udpMulticast1", "off"}, {"udpGroup1", "1.2."}} << Keys{"inputUdpMulticast1"};
+    QTest::newRow("input that is off needs no group") << Edits{{"udpGroup2", "1.2.3.4"}} << Keys{};
+    QTest::newRow("two groups on one port")
+        << Edits{{"udpEnable2", "on"}, {"udpPort2", "50000"}} << Keys{"inputEnable2", "inputUdpPort2"};
+    QTest::newRow("serial line") << Edits{{"inputComm", "Async Serial"}, {"serialDevice", "ttyUSB0"},
+        {"serialBaudRate", "19200"}}
+                                 << Keys{"inputComm", "inputSerialBaudRate", "inputSerialDevice"};
+    QTest::newRow("what a hidden input holds is not asked for")
+        << Edits{{"udpGroup1", "nonsense"}, {"inputComm", "Async Serial"}, {"serialDevice", "ttyS1"}}
+        << Keys{"inputComm", "inputSerialDevice"};
+    QTest::newRow("recording file") << Edits{{"inputComm", "Recording File"},
+        {"fileName", QCoreApplication::applicationFilePath()}}
+                                    << Keys{"inputComm", "inputFileName"};
+    QTest::newRow("envelope, profile and identity check")
+        << Edits{{"asterixFormat", "HDLC Frame"}, {"asterixUap", "Standard"}, {"asterixVerifySacSic", "on"}}
+        << Keys{"processorAsterixFormat", "processorAsterixUap", "processorAsterixVerifySacSic"};
+    QTest::newRow("typed-in radar") << Edits{{"sensorType", "Radar"}, {"sensorName", " North "}, {"sensorSac", "25"},
+        {"sensorSic", "3"}, {"sensorLocation", "401020n0203040e"}, {"radarCoverageSecondary", "200"}}
+                                    << Keys{"sensorLocation", "sensorName", "sensorRadarCoverageSecondary", "sensorSac",
+                                           "sensorSic", "sensorType"};
+}
+
+void TestConfigWindow::appliesWhatWasEntered()
+{
+    QFETCH(Edits, edits);
+    QFETCH(QStringList, changed);
+    ConfigWindow window(Config(), nullptr);
+    const QSignalSpy applied(&window, &ConfigWindow::configApplied);
+    enter(window, edits);
+    window.accept();
+    QCOMPARE(applied.size(), 1);
+    QCOMPARE(window.result(), static_cast<int>(QDialog::Accepted));
+    QCOMPARE(changedKeys(Config(), applied.first().first().value<Config>()), changed);
+}
+
+void TestConfigWindow::refusesInWords_data()
+{
+    QTest::addColumn<Edits>("edits");
+    QTest::addColumn<QString>("words");
+    const auto row = [](const char *name, const Edits &edits, const QString &words) {
+        QTest::newRow(name) << edits << words;
+    };
+    const QString range = QStringLiteral("A multicast group lies between 224.0.0.0 and 239.255.255.255.");
+    row("incomplete centre", {{"displayCenter", "3954"}}, "INVALID COORDINATE");
+    row("no centre", {{"displayCenter", ""}}, "INVALID COORDINATE");
+    row("unknown time zone", {{"displayTimeZone", "Mars/Olympus"}}, "There is no time zone \"Mars/Olympus\".");
+    row("no time zone", {{"displayTimeZone", " "}}, "Choose a time zone.");
+    row("group below the range", {{"udpGroup1", "223.255.255.255"}}, range);
+    row("group above the range", {{"udpGroup1", "240.0.0.0"}}, range);
+    row("group of the second input", {{"udpEnable2", "on"}, {"udpGroup2", "10.0.0.1"}}, range);
+    row("incomplete group", {{"udpGroup1", "239.0.0"}}, "This is no IP address.");
+    row("same group and port", {{"udpEnable2", "on"}, {"udpGroup2", "239.0.0.1"}, {"udpPort2", "50000"}},
+        "Both inputs have the same group and port.");
+    row("same port for unicast", {{"udpEnable2", "on"}, {"udpMulticast2", "off"}, {"udpPort2", "50000"}},
+        "Both inputs have the same port.");
+    row("no serial device", {{"inputComm", "Async Serial"}, {"serialDevice", " "}}, "Name the serial device.");
+    row("baud rate of zero", {{"inputComm", "Async Serial"}, {"serialDevice", "x"}, {"serialBaudRate", "0"}},
+        "Enter a rate in bits per second.");
+    row("no recording", {{"inputComm", "Recording File"}}, "Choose a recording file.");
+    row("recording that is not there", {{"inputComm", "Recording File"}, {"fileName", "/no/such/file"}},
+        "This file does not exist.");
+    row("directory as a recording", {{"inputComm", "Recording File"}, {"fileName", "/"}}, "This file cannot be read.");
+    row("sensor without a name", {{"sensorType", "Radar"}, {"sensorLocation", "401020N0203040E"}},
+        "A sensor needs a name.");
+    row("sensor without a place", {{"sensorType", "Radar"}, {"sensorName", "R"}}, "INVALID COORDINATE");
+}
+
+void TestConfigWindow::refusesInWords()
+{
+    QFETCH(Edits, edits);
+    QFETCH(QString, words);
+    ConfigWindow window(Config(), nullptr);
+    const QSignalSpy applied(&window, &ConfigWindow::configApplied);
+    // A good edit beside the bad one must not slip through.
+    enter(window, edits + Edits{{"labelOpacity", "3"}});
+    window.accept();
+    QVERIFY(shows(window, words));
+    QCOMPARE(applied.size(), 0);
+    QCOMPARE(changedKeys(Config(), window.config()), QStringList());
+    QVERIFY(window.result() != QDialog::Accepted);
+}
+
+void TestConfigWindow::opensThePageOfTheRefusedField()
+{
+    ConfigWindow window(Config(), nullptr);
+    auto *pages = window.findChild<QListWidget *>();
+    pages->setCurrentRow(pages->count() - 1);
+    enter(window, {{"udpGroup1", "1.2.3.4"}});
+    QVERIFY(!window.apply());
+    QCOMPARE(pages->currentItem()->text(), QStringLiteral("Input"));
+    enter(window, {{"udpGroup1", "225.2.3.4"}});
+    QVERIFY(window.apply());
+    QVERIFY(!shows(window, QStringLiteral("A multicast group lies between 224.0.0.0 and 239.255.255.255.")));
+}
+
+void TestConfigWindow::takesTheSensorChosenFromTheFile()
+{
+    const GeoCoordinate location = GeoCoordinate::fromATCString(QStringLiteral("395427.35N1162317.08E"));
+    const auto radar = QSharedPointer<RadarSensorInfo>::create();
+    radar->setName(QStringLiteral("R1"));
+    radar->setLocation(location);
+    radar->setRadarType(false, true, false);
+    radar->setRotationPeriod(11.5);
+    SensorManager sensors;
+    sensors.addSensor(radar);
+    ConfigWindow window(Config(), &sensors);
+    auto *choice = window.findChild<QComboBox *>(QStringLiteral("sensorChoice"));
+    choice->setCurrentIndex(choice->findText(QStringLiteral("R1")));
+    Q_EMIT choice->activated(choice->currentIndex());
+    QVERIFY(window.apply());
+    QCOMPARE(window.config().sensorType, RadarSensor);
+    QCOMPARE(window.config().sensorName, QStringLiteral("R1"));
+    QCOMPARE(window.config().sensorRadarRotationPeriod, 11.5);
+    QCOMPARE(window.config().sensorRadarIsModeS, false);
+    // The page shows whole seconds; the hundredths come through all the same.
+    QCOMPARE(window.config().sensorLocation, location);
+}
+
+QTEST_MAIN(TestConfigWindow)
+#include "tst_config_window.moc"
