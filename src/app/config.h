@@ -200,7 +200,7 @@ public:
     QColor trackLabelSelectedColor{Qt::green};
     QColor trackLabelAlertColor{Qt::red};
     QColor trackLabelBackgroundColor{80, 80, 80};
-    int trackLabelBackgroundOpacity = 100; // 0 to 255
+    int trackLabelBackgroundOpacity = 100; // percent
 
 private:
     static QString defaultTimeZoneName();

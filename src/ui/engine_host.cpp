@@ -1,5 +1,6 @@
 #include "ui/engine_host.h"
 
+#include "app/crash_handler.h"
 #include "engine/data_engine.h"
 
 #include <QThread>
@@ -21,6 +22,7 @@ EngineHost::EngineHost(QObject *parent)
     m_thread = new QThread;
     m_thread->setObjectName("data");
     m_engine->moveToThread(m_thread);
+    connect(m_thread, &QThread::started, m_engine, [] { prepareThreadForCrashHandler(); });
     connect(m_thread, &QThread::started, m_engine, &DataEngine::init);
     connect(m_thread, &QThread::finished, m_engine, &QObject::deleteLater);
     connect(m_thread, &QThread::finished, m_thread, &QObject::deleteLater);

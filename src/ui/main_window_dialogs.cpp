@@ -114,6 +114,7 @@ void MainWindow::showTrackLabelFormatWindow()
     if (!m_trackLabelFormatWindow) {
         m_trackLabelFormatWindow = new TrackLabelFormatWindow(m_trackDisplay.get(), this);
     }
+    m_trackLabelFormatWindow->setGround(m_config.live().mapBackgroundColor);
     bringUp(m_trackLabelFormatWindow);
 }
 

@@ -23,6 +23,7 @@
 namespace {
 
 constexpr double metresPerNauticalMile = 1852.0;
+constexpr double firstViewReach = 120.0; // nautical miles; labels crowd each other in a first view of more
 constexpr auto viewKey = "view";
 
 // How far the configured sensor sees, nautical miles.
@@ -161,9 +162,9 @@ void MainWindow::showInitialView()
     if (!center.isValid()) {
         return;
     }
-    // The whole coverage, with a margin for labels. A metre over the ground is longer in the plane towards the poles.
-    const double reach =
-        coverage(m_config.live()) * metresPerNauticalMile / std::cos(qDegreesToRadians(center.latitude()));
+    // The coverage, with a margin for labels. A metre over the ground is longer in the plane towards the poles.
+    const double reach = std::min(coverage(m_config.live()), firstViewReach) * metresPerNauticalMile
+        / std::cos(qDegreesToRadians(center.latitude()));
     const QPointF middle = planePoint(center);
     m_geoWidget->setView(middle.x(), middle.y(), 2.1 * reach / std::min(m_geoWidget->width(), m_geoWidget->height()));
 }
