@@ -35,9 +35,10 @@ QFont defaultLabelFont()
 
 GeoTrackDisplay::GeoTrackDisplay(QObject *parent)
     : QObject(parent), m_labelPen(Qt::white), m_labelSelectedPen(Qt::green), m_labelAlertPen(Qt::red),
-      m_labelBackgroundColor(80, 80, 80), m_labelFont(defaultLabelFont()), m_labelOffset(DefaultLabelOffset),
+      m_labelBackgroundColor(80, 80, 80), m_labelOffset(DefaultLabelOffset),
       m_symbols(DefaultSymbolSize, DefaultSymbolColor)
 {
+    setLabelFont(defaultLabelFont());
     setSymbolColor(DefaultSymbolColor);
     setLabelAlertColor(Qt::red);
 }
@@ -175,6 +176,8 @@ void GeoTrackDisplay::setSymbolSize(int pixels)
 void GeoTrackDisplay::setLabelFont(const QFont &font)
 {
     m_labelFont = font;
+    // Glyphs on whole pixels are sharper at this size, and cheaper to paint than at fractions of one.
+    m_labelFont.setHintingPreference(QFont::PreferFullHinting);
     clearLabelLayouts();
 }
 

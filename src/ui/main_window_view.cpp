@@ -23,7 +23,7 @@
 namespace {
 
 constexpr double metresPerNauticalMile = 1852.0;
-constexpr double firstViewReach = 120.0; // nautical miles; labels crowd each other in a first view of more
+constexpr double firstViewReach = 90.0; // nautical miles; labels crowd each other in a first view of more
 constexpr auto viewKey = "view";
 
 // How far the configured sensor sees, nautical miles.
