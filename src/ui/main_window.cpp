@@ -72,6 +72,10 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
 MainWindow::~MainWindow()
 {
     AsterixLogHandler::setWindow(nullptr);
+    // The docks are hidden when the base class goes, after the members that their lists are made of.
+    for (QDockWidget *dock : {m_trackDock, m_alertDock}) {
+        disconnect(dock, nullptr, this, nullptr);
+    }
 }
 
 bool MainWindow::isDebugMode()

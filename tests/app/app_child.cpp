@@ -92,7 +92,6 @@ void printPaths(const QStringList &paths)
     print("exeDir", AppPaths::exeDir());
     print("appDataDir", AppPaths::appDataDir());
     print("configDir", AppPaths::configDir());
-    print("configFile", AppPaths::configFile());
     print("crashLogFile", AppPaths::crashLogFile());
     for (const auto &path : paths) {
         print("stored", AppPaths::storePath(path));

@@ -10,26 +10,6 @@
 
 #include <csignal>
 
-class tst_CrashHandler : public QObject {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void writesNumbersAndTimes_data();
-    void writesNumbersAndTimes();
-    void writesMoreThanItsBuffer();
-    void reportsACrash_data();
-    void reportsACrash();
-    void appendsToEarlierReports();
-    void diesAlikeWithoutALog();
-
-private:
-    QString path(const char *name) const { return m_directory.filePath(QLatin1String(name)); }
-    // Runs the child until it crashes; the number of the signal that ended it, 0 when none did.
-    int crash(const QString &kind, const QString &logFile) const;
-
-    QTemporaryDir m_directory;
-};
-
 namespace {
 
 QString textOf(const QString &fileName)
@@ -44,9 +24,9 @@ QStringList linesLike(const QString &text, const QString &pattern)
     return text.split('\n').filter(QRegularExpression(QRegularExpression::anchoredPattern(pattern)));
 }
 
-int count(const QString &text, const QString &pattern)
+qsizetype count(const QString &text, const QString &pattern)
 {
-    return static_cast<int>(linesLike(text, pattern).size());
+    return linesLike(text, pattern).size();
 }
 
 // The hexadecimal number in parentheses in the pattern, of the first line like it.
@@ -58,116 +38,111 @@ quint64 number(const QString &text, const QString &pattern)
 
 } // namespace
 
-int tst_CrashHandler::crash(const QString &kind, const QString &logFile) const
-{
-    QProcess child;
-    child.start(QCoreApplication::applicationDirPath() + "/app_child", {"crash", kind, logFile});
-    child.waitForFinished();
-    return child.exitStatus() == QProcess::CrashExit ? child.exitCode() : 0;
-}
+class tst_CrashHandler : public QObject {
+    Q_OBJECT
 
-void tst_CrashHandler::writesNumbersAndTimes_data()
-{
-    QTest::addColumn<qint64>("seconds");
-    QTest::addColumn<quint64>("value");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("zero") << qint64{0} << quint64{0} << "1970-01-01 00:00:00|0|0";
-    QTest::newRow("leap day") << qint64{951868799} << quint64{0xabc0} << "2000-02-29 23:59:59|abc0|43968";
-    QTest::newRow("first of March") << qint64{951868800} << quint64{16} << "2000-03-01 00:00:00|10|16";
-    QTest::newRow("end of a year") << qint64{1798761599} << quint64{0xffffffff}
-                                   << "2026-12-31 23:59:59|ffffffff|4294967295";
-    QTest::newRow("no leap year") << qint64{4107542400} << quint64{0x7fffdeadbeef1234}
-                                  << "2100-03-01 00:00:00|7fffdeadbeef1234|3203338804";
-}
-
-void tst_CrashHandler::writesNumbersAndTimes()
-{
-    QFETCH(const qint64, seconds);
-    QFETCH(const quint64, value);
-    QFETCH(const QString, expected);
-    const auto fileName = path(QTest::currentDataTag());
+private Q_SLOTS:
+    void writesNumbersAndTimes()
     {
-        CrashLogWriter writer(QFile::encodeName(fileName).constData());
-        writer.dateTime(seconds).text("|").hex(value).text("|").decimal(static_cast<unsigned int>(value));
-    }
-    QCOMPARE(textOf(fileName), expected);
-}
-
-void tst_CrashHandler::writesMoreThanItsBuffer()
-{
-    QString expected;
-    {
-        CrashLogWriter writer(QFile::encodeName(path("long")).constData());
-        for (int line = 0; line < 3000; ++line) {
-            writer.text("line ").decimal(static_cast<unsigned int>(line), 7).text("\n");
-            expected += QStringLiteral("line %1\n").arg(line, 7, 10, QLatin1Char('0'));
+        const std::tuple<qint64, quint64, const char *> rows[]{{0, 0, "1970-01-01 00:00:00|0|0"},
+            {951868799, 0xabc0, "2000-02-29 23:59:59|abc0|43968"},
+            {1798761599, 0xffffffff, "2026-12-31 23:59:59|ffffffff|4294967295"},
+            {4107542400, 0x7fffdeadbeef1234, "2100-03-01 00:00:00|7fffdeadbeef1234|3203338804"}};
+        for (const auto &[seconds, value, expected] : rows) {
+            const auto fileName = path(expected);
+            {
+                CrashLogWriter writer(QFile::encodeName(fileName).constData());
+                writer.dateTime(seconds).text("|").hex(value).text("|").decimal(static_cast<unsigned int>(value));
+            }
+            QCOMPARE(textOf(fileName), QString(expected));
         }
     }
-    QCOMPARE(textOf(path("long")), expected);
-}
 
-void tst_CrashHandler::reportsACrash_data()
-{
-    QTest::addColumn<int>("signal");
-    QTest::addColumn<QString>("access"); // the end of the header line
-    QTest::newRow("null-write") << SIGSEGV << " access=1 data=0x0";
-    QTest::newRow("low-read") << SIGSEGV << " access=0 data=0x10";
-    QTest::newRow("null-call") << SIGSEGV << " access=8 data=0x0";
-    QTest::newRow("abort") << SIGABRT << "";
-    QTest::newRow("signal") << SIGSEGV << "";
-    QTest::newRow("stack") << SIGSEGV << " access=1 data=0x[0-9a-f]+";
-    QTest::newRow("thread-stack") << SIGSEGV << " access=1 data=0x[0-9a-f]+";
-}
+    void writesMoreThanItsBuffer()
+    {
+        QString expected;
+        {
+            CrashLogWriter writer(QFile::encodeName(path("long")).constData());
+            for (int line = 0; line < 3000; ++line) {
+                writer.text("line ").decimal(static_cast<unsigned int>(line), 7).text("\n");
+                expected += QStringLiteral("line %1\n").arg(line, 7, 10, QLatin1Char('0'));
+            }
+        }
+        QCOMPARE(textOf(path("long")), expected);
+    }
 
-void tst_CrashHandler::reportsACrash()
-{
-    QFETCH(const int, signal);
-    QFETCH(const QString, access);
-    const auto before = QDateTime::currentDateTime().addSecs(-1); // the log has whole seconds
-    const auto logFile = path(qPrintable(QString("new directory/%1.log").arg(QTest::currentDataTag())));
-    QCOMPARE(crash(QTest::currentDataTag(), logFile), signal);
+    void reportsACrash_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<QString>("access"); // the end of the header line
+        QTest::newRow("null-write") << SIGSEGV << " access=1 data=0x0";
+        QTest::newRow("low-read") << SIGSEGV << " access=0 data=0x10";
+        QTest::newRow("null-call") << SIGSEGV << " access=8 data=0x0";
+        QTest::newRow("abort") << SIGABRT << "";
+        QTest::newRow("signal") << SIGSEGV << "";
+        QTest::newRow("stack") << SIGSEGV << " access=1 data=0x[0-9a-f]+";
+        QTest::newRow("thread-stack") << SIGSEGV << " access=1 data=0x[0-9a-f]+";
+    }
 
-    setApplicationIdentity();
-    const auto log = textOf(logFile);
-    const auto header = log.section('\n', 0, 0);
-    const auto expected =
-        QStringLiteral("\\S+ \\S+ version=%1 git=%2 exception=0x%3 rip=0x[0-9a-f]+ base=0x[0-9a-f]+%4")
-            .arg(QCoreApplication::applicationVersion(), buildRevision(), QString::number(signal, 16), access);
-    QVERIFY2(count(header, expected) == 1, qPrintable(header));
-    const auto time = QDateTime::fromString(header.left(19), "yyyy-MM-dd hh:mm:ss");
-    QVERIFY(time >= before && time <= QDateTime::currentDateTime());
+    void reportsACrash()
+    {
+        QFETCH(const int, signal);
+        QFETCH(const QString, access);
+        const auto before = QDateTime::currentDateTime().addSecs(-1); // the log has whole seconds
+        const auto logFile = path(qPrintable(QString("new directory/%1.log").arg(QTest::currentDataTag())));
+        QCOMPARE(crash(QTest::currentDataTag(), logFile), signal);
 
-    const int frames = count(log, "  0x[0-9a-f]+");
-    QVERIFY(frames > 1 && frames <= 64);
-    QCOMPARE(
-        count(log, "  rsp=0x\\w+ rbp=0x\\w+ rax=0x\\w+ rbx=0x\\w+ rcx=0x\\w+ rdx=0x\\w+ rsi=0x\\w+ rdi=0x\\w+"), 1);
-    QVERIFY(count(log, "  stack 0x[0-9a-f]+") > 1);
-    QVERIFY(count(log, "  mod 0x[0-9a-f]+ size=0x[0-9a-f]+ /\\S+\\.so\\S*") > 1);
+        setApplicationIdentity();
+        const auto log = textOf(logFile);
+        const auto header = log.section('\n', 0, 0);
+        const auto expected =
+            QStringLiteral("\\S+ \\S+ version=%1 git=%2 exception=0x%3 rip=0x[0-9a-f]+ base=0x[0-9a-f]+%4")
+                .arg(QCoreApplication::applicationVersion(), buildRevision(), QString::number(signal, 16), access);
+        QVERIFY2(count(header, expected) == 1, qPrintable(header));
+        const auto time = QDateTime::fromString(header.left(19), "yyyy-MM-dd hh:mm:ss");
+        QVERIFY(time >= before && time <= QDateTime::currentDateTime());
 
-    const auto base = number(header, ".* base=0x([0-9a-f]+).*");
-    const auto program = QStringLiteral("  mod 0x%1 size=0x([0-9a-f]+) .*/app_child").arg(base, 0, 16);
-    QCOMPARE(count(log, program), 1);
-    const auto end = base + number(log, program);
-    const auto stackWord = number(log, "  stack 0x([0-9a-f]+)");
-    QVERIFY(stackWord > base && stackWord < end);
-}
+        const auto frames = count(log, "  0x[0-9a-f]+");
+        QVERIFY(frames > 1 && frames <= 64);
+        QCOMPARE(
+            count(log, "  rsp=0x\\w+ rbp=0x\\w+ rax=0x\\w+ rbx=0x\\w+ rcx=0x\\w+ rdx=0x\\w+ rsi=0x\\w+ rdi=0x\\w+"), 1);
+        QVERIFY(count(log, "  stack 0x[0-9a-f]+") > 1);
+        QVERIFY(count(log, "  mod 0x[0-9a-f]+ size=0x[0-9a-f]+ /\\S+\\.so\\S*") > 1);
 
-void tst_CrashHandler::appendsToEarlierReports()
-{
-    const auto logFile = path("appended.log");
-    crash("abort", logFile);
-    const auto first = textOf(logFile);
-    crash("null-write", logFile);
-    const auto both = textOf(logFile);
-    QVERIFY(!first.isEmpty());
-    QVERIFY(both.startsWith(first));
-    QCOMPARE(count(both, ".* exception=0x.*"), 2);
-}
+        const auto base = number(header, ".* base=0x([0-9a-f]+).*");
+        const auto program = QStringLiteral("  mod 0x%1 size=0x([0-9a-f]+) .*/app_child").arg(base, 0, 16);
+        QCOMPARE(count(log, program), 1);
+        const auto end = base + number(log, program);
+        const auto stackWord = number(log, "  stack 0x([0-9a-f]+)");
+        QVERIFY(stackWord > base && stackWord < end);
+    }
 
-void tst_CrashHandler::diesAlikeWithoutALog()
-{
-    QCOMPARE(crash("null-write", "/proc/no such directory/crash.log"), SIGSEGV);
-}
+    void appendsToEarlierReports()
+    {
+        const auto logFile = path("appended.log");
+        crash("abort", logFile);
+        const auto first = textOf(logFile);
+        crash("null-write", logFile);
+        const auto both = textOf(logFile);
+        QVERIFY(!first.isEmpty());
+        QVERIFY(both.startsWith(first));
+        QCOMPARE(count(both, ".* exception=0x.*"), 2);
+        QCOMPARE(crash("null-write", "/proc/no such directory/crash.log"), SIGSEGV); // dies alike without a log
+    }
+
+private:
+    QString path(const char *name) const { return m_directory.filePath(QLatin1String(name)); }
+    // Runs the child until it crashes; the number of the signal that ended it, 0 when none did.
+    int crash(const QString &kind, const QString &logFile) const
+    {
+        QProcess child;
+        child.start(QCoreApplication::applicationDirPath() + "/app_child", {"crash", kind, logFile});
+        child.waitForFinished();
+        return child.exitStatus() == QProcess::CrashExit ? child.exitCode() : 0;
+    }
+
+    QTemporaryDir m_directory;
+};
 
 QTEST_GUILESS_MAIN(tst_CrashHandler)
 #include "tst_crash_handler.moc"

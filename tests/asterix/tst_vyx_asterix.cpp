@@ -45,222 +45,175 @@ Outcome run(int (*command)(const CommandLine &, const TextSink &, const LineSink
 class TestVyxAsterix : public QObject {
     Q_OBJECT
 
-private Q_SLOTS:
-    void readsArguments_data();
-    void readsArguments();
-    void decodesBlocks_data();
-    void decodesBlocks();
-    void decodesCaptures_data();
-    void decodesCaptures();
-    void reportsUnreadableFile();
-    void encodesWhatItDecoded();
-    void reportsLinesThatDoNotEncode();
-    void countsBySource();
-
 private:
-    QString write(const QByteArray &contents);
-    QString writeCapture(const QList<QByteArray> &datagrams);
-
     QTemporaryDir m_folder;
-};
 
-QString TestVyxAsterix::write(const QByteArray &contents)
-{
-    const QString name = m_folder.filePath("input");
-    QFile file(name);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        return {};
-    return name;
-}
-
-QString TestVyxAsterix::writeCapture(const QList<QByteArray> &datagrams)
-{
-    const QString name = m_folder.filePath("input.pcap");
-    korvane::astfile::PcapWriter writer;
-    writer.open(name);
-    QDateTime time = QDateTime::fromMSecsSinceEpoch(1700000000250, Qt::UTC);
-    for (const QByteArray &datagram : datagrams) {
-        writer.write(time, {0x7F000001, 5000}, {0x7F000001, 8600}, datagram);
-        time = time.addMSecs(500);
+    QString write(const QByteArray &contents)
+    {
+        const QString name = m_folder.filePath("input");
+        QFile file(name);
+        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+            return {};
+        return name;
     }
-    writer.close();
-    return name;
-}
 
-void TestVyxAsterix::readsArguments_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("verb"); // -1: refused
-    QTest::addColumn<QString>("error"); // part of it
-    const auto good = [](const QStringList &arguments, Verb verb) {
-        QTest::addRow("%s", qPrintable(arguments.join(' '))) << arguments << static_cast<int>(verb) << QString();
-    };
-    const auto bad = [](const QStringList &arguments, const char *error) {
-        QTest::addRow("refused: %s", qPrintable(arguments.join(' '))) << arguments << -1 << QString(error);
-    };
-    good({"--help"}, Verb::Help);
-    good({"--version"}, Verb::Version);
-    good({"decode", "--help"}, Verb::Help);
-    good({"decode", "FILE"}, Verb::Decode);
-    good({"decode", "--uap", "48=1.32", "--uap", "62=1.21", "FILE"}, Verb::Decode);
-    good({"decode", "FILE", "--uap", "48=1.32"}, Verb::Decode);
-    good({"encode", "-", "-o", "OUT"}, Verb::Encode);
-    good({"stat", "FILE"}, Verb::Stat);
-    bad({}, "decode, encode or stat");
-    bad({"print", "FILE"}, "unknown command");
-    bad({"decode"}, "needs a file");
-    bad({"decode", "A", "B"}, "one argument too many");
-    bad({"--version", "A"}, "one argument too many");
-    bad({"decode", "--uap"}, "needs a value");
-    bad({"decode", "--uap", "48", "FILE"}, "CATEGORY=EDITION");
-    bad({"decode", "--uap", "x=1.32", "FILE"}, "CATEGORY=EDITION");
-    bad({"decode", "--uap", "48=9.9", "FILE"}, "edition \"9.9\" of category 48");
-    bad({"decode", "--uap", "-48=1.32", "FILE"}, "no table");
-    bad({"decode", "--uap", "4800=1.32", "FILE"}, "no table");
-    bad({"decode", "-o", "OUT", "FILE"}, "unknown option");
-    bad({"stat", "--all", "FILE"}, "unknown option");
-}
-
-void TestVyxAsterix::readsArguments()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, error);
-    std::vector<std::string> words;
-    for (const QString &argument : arguments)
-        words.push_back(argument.toStdString());
-    CommandLine line;
-    std::string reason;
-    const bool isGood = CommandLine::parse(words, line, reason);
-    QTEST(isGood ? static_cast<int>(line.verb) : -1, "verb");
-    QVERIFY2(QString::fromStdString(reason).contains(error), reason.c_str());
-    QVERIFY(!QString::fromStdString(reason).contains('\n'));
-    QCOMPARE(line.editions.size(), isGood ? static_cast<std::size_t>(arguments.count("--uap")) : line.editions.size());
-}
-
-void TestVyxAsterix::decodesBlocks_data()
-{
-    QTest::addColumn<QByteArray>("contents");
-    QTest::addColumn<QList<int>>("blocks"); // of each record
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("err"); // after the name of the file
-    const QByteArray weather = QByteArray::fromHex("FA000401");
-    QTest::newRow("empty file") << QByteArray() << QList<int>{} << 0 << QString();
-    QTest::newRow("good blocks") << plotBlock + plotBlock << QList<int>{1, 2} << 0 << QString();
-    QTest::newRow("malformed block among good ones") << plotBlock + brokenBlock
-            + plotBlock << QList<int>{1, 2, 3} << 1 << QString("octet 15: CAT048: item runs past the end of the block");
-    QTest::newRow("block cut short") << plotBlock + plotBlock.left(5) << QList<int>{1} << 1
-                                     << QString("octet 11: CAT048: block runs past the end of the data");
-    QTest::newRow("block length zero") << plotBlock + QByteArray(9, '\0') + plotBlock << QList<int>{1} << 1
-                                       << QString("octet 7: CAT000: block length is zero");
-    QTest::newRow("category without a table") << plotBlock + weather + weather + plotBlock << QList<int>{1, 4} << 0
-                                              << QString("2 of CAT250 passed over: no table for this category");
-}
-
-void TestVyxAsterix::decodesBlocks()
-{
-    QFETCH(QByteArray, contents);
-    QFETCH(QList<int>, blocks);
-    QFETCH(QString, err);
-    const Outcome outcome = run(runDecode, write(contents));
-    QTEST(outcome.status, "status");
-    QCOMPARE(outcome.err.join('\n'), err.isEmpty() ? QString() : m_folder.filePath("input") + ": " + err);
-    QList<int> printed;
-    for (const QByteArray &line : outcome.out.split('\n')) {
-        if (!line.isEmpty())
-            printed.append(QJsonDocument::fromJson(line).object().value("block").toInt());
+    QString writeCapture(const QList<QByteArray> &datagrams)
+    {
+        const QString name = m_folder.filePath("input.pcap");
+        korvane::astfile::PcapWriter writer;
+        writer.open(name);
+        QDateTime time = QDateTime::fromMSecsSinceEpoch(1700000000250, Qt::UTC);
+        for (const QByteArray &datagram : datagrams) {
+            writer.write(time, {0x7F000001, 5000}, {0x7F000001, 8600}, datagram);
+            time = time.addMSecs(500);
+        }
+        writer.close();
+        return name;
     }
-    QCOMPARE(printed, blocks);
-}
 
-void TestVyxAsterix::decodesCaptures_data()
-{
-    QTest::addColumn<QList<QByteArray>>("datagrams");
-    QTest::addColumn<QList<double>>("times"); // of each record, from the first datagram
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("err");
-    using Datagrams = QList<QByteArray>;
-    const QByteArray trailer = QByteArray::fromHex("AABBCCDDEEFF00112233");
-    QTest::newRow("two blocks in one") << Datagrams{plotBlock + plotBlock, plotBlock} << QList<double>{0, 0, 0.5} << 0
-                                       << QString();
-    QTest::newRow("octets of the recorder")
-        << Datagrams{plotBlock + trailer, plotBlock + QByteArray::fromHex("0000")} << QList<double>{0, 0.5} << 0
-        << QString("2 datagrams end in octets that are no data block");
-    QTest::newRow("malformed block") << Datagrams{plotBlock + brokenBlock + plotBlock, plotBlock}
-                                     << QList<double>{0, 0, 0.5} << 1
-                                     << QString("datagram 1, octet 15: CAT048: item runs past the end of the block");
-    QTest::newRow("block cut short") << Datagrams{plotBlock + plotBlock.left(5), plotBlock} << QList<double>{0, 0.5}
-                                     << 1
-                                     << QString("datagram 1, octet 11: CAT048: block runs past the end of the data");
-    QTest::newRow("no block at all") << Datagrams{trailer, plotBlock} << QList<double>{0.5} << 1
-                                     << QString("datagram 1, octet 10: CAT170: block runs past the end of the data");
-}
-
-void TestVyxAsterix::decodesCaptures()
-{
-    QFETCH(QList<QByteArray>, datagrams);
-    QFETCH(QList<double>, times);
-    QFETCH(QString, err);
-    const Outcome outcome = run(runDecode, writeCapture(datagrams));
-    QTEST(outcome.status, "status");
-    QCOMPARE(outcome.err.join('\n'), err.isEmpty() ? QString() : m_folder.filePath("input.pcap") + ": " + err);
-    QList<double> printed;
-    for (const QByteArray &line : outcome.out.split('\n')) {
-        if (!line.isEmpty())
-            printed.append(QJsonDocument::fromJson(line).object().value("time").toDouble() - 1700000000.25);
+private Q_SLOTS:
+    void readsArguments_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("verb"); // -1: refused
+        QTest::addColumn<QString>("error"); // part of it
+        const auto good = [](const QStringList &arguments, Verb verb) {
+            QTest::addRow("%s", qPrintable(arguments.join(' '))) << arguments << static_cast<int>(verb) << QString();
+        };
+        const auto bad = [](const QStringList &arguments, const char *error) {
+            QTest::addRow("refused: %s", qPrintable(arguments.join(' '))) << arguments << -1 << QString(error);
+        };
+        good({"--help"}, Verb::Help);
+        good({"decode", "--uap", "48=1.32", "--uap", "62=1.21", "FILE"}, Verb::Decode);
+        good({"encode", "-", "-o", "OUT"}, Verb::Encode);
+        bad({}, "decode, encode or stat");
+        bad({"decode", "A", "B"}, "one argument too many");
+        bad({"decode", "--uap"}, "needs a value");
+        bad({"decode", "--uap", "48", "FILE"}, "CATEGORY=EDITION");
+        bad({"decode", "--uap", "48=9.9", "FILE"}, "edition \"9.9\" of category 48");
+        bad({"decode", "--uap", "-48=1.32", "FILE"}, "no table");
+        bad({"decode", "-o", "OUT", "FILE"}, "unknown option");
     }
-    QCOMPARE(printed, times);
-}
 
-void TestVyxAsterix::reportsUnreadableFile()
-{
-    for (const auto command : {runDecode, runEncode, runStat}) {
-        const Outcome outcome = run(command, m_folder.filePath("missing"));
+    void readsArguments()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, error);
+        std::vector<std::string> words;
+        for (const QString &argument : arguments)
+            words.push_back(argument.toStdString());
+        CommandLine line;
+        std::string reason;
+        const bool isGood = CommandLine::parse(words, line, reason);
+        QTEST(isGood ? static_cast<int>(line.verb) : -1, "verb");
+        QVERIFY2(QString::fromStdString(reason).contains(error), reason.c_str());
+        QVERIFY(!QString::fromStdString(reason).contains('\n'));
+        QCOMPARE(
+            line.editions.size(), isGood ? static_cast<std::size_t>(arguments.count("--uap")) : line.editions.size());
+    }
+
+    void decodes_data()
+    {
+        QTest::addColumn<QList<QByteArray>>("datagrams");
+        QTest::addColumn<bool>("isCapture");
+        QTest::addColumn<QList<double>>("printed"); // block of each record or seconds from the first datagram
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("err"); // after the name of the file
+        const auto blocks = [](const char *name, const QByteArray &contents, const QList<double> &printed, int status,
+                                const char *err) {
+            QTest::newRow(name) << QList{contents} << false << printed << status << QString(err);
+        };
+        const auto capture = [](const char *name, const QList<QByteArray> &datagrams, const QList<double> &printed,
+                                 int status, const char *err) {
+            QTest::newRow(name) << datagrams << true << printed << status << QString(err);
+        };
+        const QByteArray &good = plotBlock;
+        const QByteArray weather = QByteArray::fromHex("FA000401");
+        blocks("malformed block among good ones", good + brokenBlock + good, {1, 2, 3}, 1,
+            "octet 15: CAT048: item runs past the end of the block");
+        blocks("block cut short", good + good.left(5), {1}, 1, "octet 11: CAT048: block runs past the end of the data");
+        blocks("block length zero", good + QByteArray(9, '\0') + good, {1}, 1, "octet 7: CAT000: block length is zero");
+        blocks("category without a table", good + weather + weather + good, {1, 4}, 0,
+            "2 of CAT250 passed over: no table for this category");
+        const QByteArray trailer = QByteArray::fromHex("AABBCCDDEEFF00112233");
+        capture("two blocks in a datagram", {good + good, good}, {0, 0, 0.5}, 0, "");
+        capture("octets of the recorder", {good + trailer, good + QByteArray::fromHex("0000")}, {0, 0.5}, 0,
+            "2 datagrams end in octets that are no data block");
+        capture("malformed block in a datagram", {good + brokenBlock + good, good}, {0, 0, 0.5}, 1,
+            "datagram 1, octet 15: CAT048: item runs past the end of the block");
+        capture("no block at all", {trailer, good}, {0.5}, 1,
+            "datagram 1, octet 10: CAT170: block runs past the end of the data");
+    }
+
+    void decodes()
+    {
+        QFETCH(QList<QByteArray>, datagrams);
+        QFETCH(bool, isCapture);
+        QFETCH(QString, err);
+        const QString fileName = isCapture ? writeCapture(datagrams) : write(datagrams.front());
+        const Outcome outcome = run(runDecode, fileName);
+        QTEST(outcome.status, "status");
+        QCOMPARE(outcome.err.join('\n'), err.isEmpty() ? QString() : fileName + ": " + err);
+        QList<double> printed;
+        for (const QByteArray &line : outcome.out.split('\n')) {
+            const QJsonObject object = QJsonDocument::fromJson(line).object();
+            if (!line.isEmpty())
+                printed.append(isCapture ? object["time"].toDouble() - 1700000000.25 : object["block"].toDouble());
+        }
+        QTEST(printed, "printed");
+    }
+
+    void reportsUnreadableFile()
+    {
+        for (const auto command : {runDecode, runEncode, runStat}) {
+            const Outcome outcome = run(command, m_folder.filePath("missing"));
+            QCOMPARE(outcome.status, 1);
+            QCOMPARE(outcome.err.size(), 1);
+            QVERIFY(outcome.err[0].startsWith(m_folder.filePath("missing") + ": "));
+        }
+        // A capture that ends amid a packet.
+        const QString name = writeCapture({plotBlock, plotBlock});
+        QFile(name).resize(QFile(name).size() - 3);
+        const Outcome outcome = run(runDecode, name);
+        QCOMPARE(outcome.status, 1);
+        QCOMPARE(outcome.out.count('\n'), 1);
+    }
+
+    void encodesWhatItDecoded()
+    {
+        const QByteArray contents = plotBlock + QByteArray::fromHex("30000C 80 19C9 08 0E00 20 A0 00")
+            + QByteArray::fromHex("22000A C0 19C9 02 40 01 00") + plotBlock;
+        const Outcome decoded = run(runDecode, write(contents), {{48, "1.32"}});
+        QCOMPARE(decoded.status, 0);
+        const Outcome encoded = run(runEncode, write(decoded.out + "\n \n"));
+        QCOMPARE(encoded.status, 0);
+        QCOMPARE(encoded.out.toHex(), contents.toHex());
+    }
+
+    void reportsLinesThatDoNotEncode()
+    {
+        const QByteArray good = R"({"cat":34,"block":1,"items":{"000":1}})"
+                                "\n";
+        const Outcome outcome = run(runEncode, write(good + "\nnonsense\n" + good));
         QCOMPARE(outcome.status, 1);
         QCOMPARE(outcome.err.size(), 1);
-        QVERIFY(outcome.err[0].startsWith(m_folder.filePath("missing") + ": "));
+        QVERIFY(outcome.err[0].startsWith(m_folder.filePath("input") + ": line 3: "));
+        QCOMPARE(outcome.out.toHex(), QByteArray("22000740014001"));
     }
-    // A capture that ends amid a packet.
-    const QString name = writeCapture({plotBlock, plotBlock});
-    QFile(name).resize(QFile(name).size() - 3);
-    const Outcome outcome = run(runDecode, name);
-    QCOMPARE(outcome.status, 1);
-    QCOMPARE(outcome.out.count('\n'), 1);
-}
 
-void TestVyxAsterix::encodesWhatItDecoded()
-{
-    const QByteArray contents = plotBlock + QByteArray::fromHex("30000C 80 19C9 08 0E00 20 A0 00")
-        + QByteArray::fromHex("22000A C0 19C9 02 40 01 00") + plotBlock;
-    const Outcome decoded = run(runDecode, write(contents), {{48, "1.32"}});
-    QCOMPARE(decoded.status, 0);
-    const Outcome encoded = run(runEncode, write(decoded.out + "\n \n"));
-    QCOMPARE(encoded.status, 0);
-    QCOMPARE(encoded.out.toHex(), contents.toHex());
-}
-
-void TestVyxAsterix::reportsLinesThatDoNotEncode()
-{
-    const QByteArray good = R"({"cat":34,"block":1,"items":{"000":1}})"
-                            "\n";
-    const Outcome outcome = run(runEncode, write(good + "\nnonsense\n" + good));
-    QCOMPARE(outcome.status, 1);
-    QCOMPARE(outcome.err.size(), 1);
-    QVERIFY(outcome.err[0].startsWith(m_folder.filePath("input") + ": line 3: "));
-    QCOMPARE(outcome.out.toHex(), QByteArray("22000740014001"));
-}
-
-void TestVyxAsterix::countsBySource()
-{
-    const QByteArray sector = QByteArray::fromHex("22000A E0 19C9 02 A8BFC0"); // 86399.5 s
-    const QByteArray nextDay = QByteArray::fromHex("22000A E0 19C9 02 000040"); // 0.5 s
-    const Outcome blocks = run(runStat, write(sector + nextDay + plotBlock));
-    QCOMPARE(blocks.status, 0);
-    QCOMPARE(blocks.out.simplified(),
-        QByteArray("category SAC/SIC blocks records octets records/s "
-                   "CAT034 25/201 2 2 14 2.0 CAT048 25/201 1 1 3 -"));
-    const Outcome capture = run(runStat, writeCapture({plotBlock, plotBlock + plotBlock}));
-    QCOMPARE(capture.out.simplified().split(' ').mid(6).join(' '), QByteArray("CAT048 25/201 3 3 9 6.0"));
-}
+    void countsBySource()
+    {
+        const QByteArray sector = QByteArray::fromHex("22000A E0 19C9 02 A8BFC0"); // 86399.5 s
+        const QByteArray nextDay = QByteArray::fromHex("22000A E0 19C9 02 000040"); // 0.5 s
+        const Outcome blocks = run(runStat, write(sector + nextDay + plotBlock));
+        QCOMPARE(blocks.status, 0);
+        QCOMPARE(blocks.out.simplified(),
+            QByteArray("category SAC/SIC blocks records octets records/s "
+                       "CAT034 25/201 2 2 14 2.0 CAT048 25/201 1 1 3 -"));
+        const Outcome capture = run(runStat, writeCapture({plotBlock, plotBlock + plotBlock}));
+        QCOMPARE(capture.out.simplified().split(' ').mid(6).join(' '), QByteArray("CAT048 25/201 3 3 9 6.0"));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestVyxAsterix)
 #include "tst_vyx_asterix.moc"

@@ -56,28 +56,21 @@ public:
 
     int ink() const { return inkIn(m_image.rect()); }
 
-    int count(const QColor &color) const { return int(pixels(color).size()); }
+    int count(const QColor &color) const { return found(color).second; }
 
     // The smallest rectangle around every pixel of the very colour; empty without any.
-    QRect extent(const QColor &color) const
-    {
-        QRect rect;
-        for (const QPoint &pixel : pixels(color))
-            rect |= QRect(pixel, QSize(1, 1));
-        return rect;
-    }
+    QRect extent(const QColor &color) const { return found(color).first; }
 
 private:
-    QList<QPoint> pixels(const QColor &color) const
+    std::pair<QRect, int> found(const QColor &color) const
     {
-        QList<QPoint> found;
-        for (int y = 0; y < Size; ++y) {
-            for (int x = 0; x < Size; ++x) {
-                if (at(QPoint(x, y)) == color)
-                    found.append(QPoint(x, y));
-            }
+        std::pair<QRect, int> result;
+        for (int i = 0; i < Size * Size; ++i) {
+            const QPoint pixel(i % Size, i / Size);
+            if (at(pixel) == color)
+                result = {result.first | QRect(pixel, QSize(1, 1)), result.second + 1};
         }
-        return found;
+        return result;
     }
 
     GeoView m_view;

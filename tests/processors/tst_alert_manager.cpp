@@ -27,166 +27,126 @@ class TestAlertManager : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void transition_data();
-    void transition();
-    void life();
-    void removalUnlinksTracks();
-    void trackText_data();
-    void trackText();
-    void secondSide_data();
-    void secondSide();
-};
-
-void TestAlertManager::transition_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("requested");
-    QTest::addColumn<int>("result");
-    // Seconds of the time stamps after the request at second 9; -1 for invalid.
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("end");
-    QTest::addColumn<int>("update");
-    const auto row = [](const char *name, int from, int requested, int result, int start, int end, int update) {
-        QTest::newRow(name) << from << requested << result << start << end << update;
-    };
-    row("active becomes initial", Alert::Active, Alert::Initial, Alert::Initial, -1, -1, -1);
-    row("initial becomes active", Alert::Initial, Alert::Active, Alert::Active, 9, -1, 9);
-    row("active is refreshed", Alert::Active, Alert::Active, Alert::Active, 1, -1, 9);
-    row("ended becomes active again", Alert::End, Alert::Active, Alert::Active, 9, 2, 9);
-    row("terminated becomes active again", Alert::Terminated, Alert::Active, Alert::Active, 9, 2, 9);
-    row("initial ends", Alert::Initial, Alert::End, Alert::End, 0, 9, 9);
-    row("active ends", Alert::Active, Alert::End, Alert::End, 1, 9, 9);
-    row("ended ends only once", Alert::End, Alert::End, Alert::End, 1, 2, 2);
-    row("terminated does not end", Alert::Terminated, Alert::End, Alert::Terminated, 1, 2, 2);
-    row("ended terminates without a new end", Alert::End, Alert::Terminated, Alert::Terminated, 1, 2, 2);
-    row("active terminates and ends", Alert::Active, Alert::Terminated, Alert::Terminated, 1, 9, 9);
-    row("initial terminates and ends", Alert::Initial, Alert::Terminated, Alert::Terminated, 0, 9, 9);
-    row("no such state", Alert::Active, 9, Alert::Active, 1, -1, 1);
-}
-
-void TestAlertManager::transition()
-{
-    QFETCH(int, from);
-    QFETCH(int, requested);
-    const auto alert = alertIn(static_cast<Alert::State>(from));
-    alert->setState(static_cast<Alert::State>(requested), second(9));
-    const auto seconds = [](const QDateTime &time) { return time.isValid() ? int(Start.secsTo(time)) : -1; };
-    QTEST(int(alert->state()), "result");
-    QTEST(seconds(alert->startTime()), "start");
-    QTEST(seconds(alert->endTime()), "end");
-    QTEST(seconds(alert->lastUpdate()), "update");
-}
-
-void TestAlertManager::life()
-{
-    AlertManager manager;
-    manager.setAlertLifeSpan(8000, 3000);
-    const auto waiting = manager.createAlert(6);
-    const auto alert = manager.createAlert(5);
-    QCOMPARE(manager.createAlert(5), alert);
-    const auto tick = [&manager](int now) {
-        manager.setClock([now] { return second(now); });
-        manager.checkLife();
-    };
-    for (int now = 0; now <= 37; ++now) {
-        if (now % 5 == 0 && now <= 30)
-            alert->setState(Alert::Active, second(now));
-        tick(now);
-        QVERIFY(alert->active());
+    void transition_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("requested");
+        QTest::addColumn<int>("result");
+        // Seconds of the time stamps after the request at second 9; -1 for invalid.
+        QTest::addColumn<int>("start");
+        QTest::addColumn<int>("end");
+        QTest::addColumn<int>("update");
+        const auto row = [](const char *name, int from, int requested, int result, int start, int end, int update) {
+            QTest::newRow(name) << from << requested << result << start << end << update;
+        };
+        row("initial becomes active", Alert::Initial, Alert::Active, Alert::Active, 9, -1, 9);
+        row("active is refreshed", Alert::Active, Alert::Active, Alert::Active, 1, -1, 9);
+        row("ended becomes active again", Alert::End, Alert::Active, Alert::Active, 9, 2, 9);
+        row("active ends", Alert::Active, Alert::End, Alert::End, 1, 9, 9);
+        row("ended ends only once", Alert::End, Alert::End, Alert::End, 1, 2, 2);
+        row("terminated does not end", Alert::Terminated, Alert::End, Alert::Terminated, 1, 2, 2);
+        row("ended terminates without a new end", Alert::End, Alert::Terminated, Alert::Terminated, 1, 2, 2);
+        row("active terminates and ends", Alert::Active, Alert::Terminated, Alert::Terminated, 1, 9, 9);
+        row("no such state", Alert::Active, 9, Alert::Active, 1, -1, 1);
     }
-    tick(50); // long past both spans: ends first, and its end counts from here
-    QVERIFY(alert->end());
-    tick(52);
-    QVERIFY(manager.hasAlert(5));
-    tick(53);
-    QVERIFY(alert->terminated());
-    QVERIFY(!manager.findAlertById(5));
-    QVERIFY(waiting->initial()); // never ages
-}
 
-void TestAlertManager::removalUnlinksTracks()
-{
-    AlertManager manager;
-    const auto track1 = QSharedPointer<Track>::create(1);
-    const auto track2 = QSharedPointer<Track>::create(2);
-    const auto alert = manager.createAlert(5);
-    alert->setTrack1(track1);
-    alert->setTrack2(track2);
-    const auto other = manager.createAlert(6);
-    for (const auto &track : {track1, track2}) {
-        track->addAlert(alert);
-        track->addAlert(other);
+    void transition()
+    {
+        QFETCH(int, from);
+        QFETCH(int, requested);
+        const auto alert = alertIn(static_cast<Alert::State>(from));
+        alert->setState(static_cast<Alert::State>(requested), second(9));
+        const auto seconds = [](const QDateTime &time) { return time.isValid() ? int(Start.secsTo(time)) : -1; };
+        QTEST(int(alert->state()), "result");
+        QTEST(seconds(alert->startTime()), "start");
+        QTEST(seconds(alert->endTime()), "end");
+        QTEST(seconds(alert->lastUpdate()), "update");
     }
-    manager.removeAlert(alert);
-    QCOMPARE(track1->alerts(), QSet{other});
-    QCOMPARE(track2->alerts(), QSet{other});
-    QCOMPARE(manager.allAlerts(), QList{other});
-}
 
-void TestAlertManager::trackText_data()
-{
-    QTest::addColumn<bool>("local");
-    QTest::addColumn<QString>("callsign");
-    QTest::addColumn<bool>("localModeA");
-    QTest::addColumn<bool>("alertModeA");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("call sign") << true << "VYX12" << true << true << "VYX12";
-    QTest::newRow("code of the local track") << true << "" << true << true << "A0017";
-    QTest::newRow("number of the local track") << true << "" << false << true << "#0008";
-    QTest::newRow("code from the server") << false << "" << false << true << "[A1234]";
-    QTest::newRow("number from the server") << false << "" << false << false << "[#0042]";
-}
+    void life()
+    {
+        AlertManager manager;
+        manager.setAlertLifeSpan(8000, 3000);
+        const auto waiting = manager.createAlert(6);
+        const auto alert = manager.createAlert(5);
+        QCOMPARE(manager.createAlert(5), alert);
+        const auto tick = [&manager](int now) {
+            manager.setClock([now] { return second(now); });
+            manager.checkLife();
+        };
+        for (int now = 0; now <= 37; ++now) {
+            if (now % 5 == 0 && now <= 30)
+                alert->setState(Alert::Active, second(now));
+            tick(now);
+            QVERIFY(alert->active());
+        }
+        tick(50); // long past both spans: ends first, and its end counts from here
+        QVERIFY(alert->end());
+        tick(52);
+        QVERIFY(manager.hasAlert(5));
+        tick(53);
+        QVERIFY(alert->terminated());
+        QVERIFY(!manager.findAlertById(5));
+        QVERIFY(waiting->initial()); // never ages
+    }
 
-void TestAlertManager::trackText()
-{
-    QFETCH(bool, local);
-    QFETCH(QString, callsign);
-    QFETCH(bool, localModeA);
-    QFETCH(bool, alertModeA);
-    auto track = QSharedPointer<Track>::create(8);
-    track->setIncarnationId(99);
-    track->setModeSCallsign(callsign);
-    track->setModeACode(017);
-    track->setModeACodeValid(localModeA);
-    AlertManager manager;
-    const auto alert = manager.createAlert(5);
-    alert->setTrack1(track);
-    alert->setTrack1ModeACode(01234);
-    alert->setTrack1ModeACodeValid(alertModeA);
-    alert->setTrack1OtherTrackNumber(42);
-    if (!local)
+    void removalUnlinksTracks()
+    {
+        AlertManager manager;
+        const auto track1 = QSharedPointer<Track>::create(1);
+        const auto track2 = QSharedPointer<Track>::create(2);
+        const auto alert = manager.createAlert(5);
+        alert->setTrack1(track1);
+        alert->setTrack2(track2);
+        const auto other = manager.createAlert(6);
+        for (const auto &track : {track1, track2}) {
+            track->addAlert(alert);
+            track->addAlert(other);
+        }
+        manager.removeAlert(alert);
+        QCOMPARE(track1->alerts(), QSet{other});
+        QCOMPARE(track2->alerts(), QSet{other});
+        QCOMPARE(manager.allAlerts(), QList{other});
+    }
+
+    void trackText()
+    {
+        auto track = QSharedPointer<Track>::create(8);
+        track->setIncarnationId(99);
+        track->setModeACode(017);
+        AlertManager manager;
+        const auto alert = manager.createAlert(5);
+        alert->setTrack1(track);
+        alert->setTrack1ModeACode(01234);
+        alert->setTrack1ModeACodeValid(true);
+        const auto side = [&manager] { return manager.snapshotAlerts().first().track1; };
+        QCOMPARE(side().text, QStringLiteral("#0008"));
+        track->setModeACodeValid(true);
+        QCOMPARE(side().text, QStringLiteral("A0017"));
+        track->setModeSCallsign("VYX12");
+        QCOMPARE(side().text, QStringLiteral("VYX12"));
+        QCOMPARE(side().incarnationId, 99u);
         track.reset(); // an alert does not keep its track alive
-    const auto side = manager.snapshotAlerts().first().track1;
-    QTEST(side.text, "text");
-    QCOMPARE(side.incarnationId, local ? 99u : 0u);
-}
+        QCOMPARE(side().text, QStringLiteral("[A1234]"));
+        QCOMPARE(side().incarnationId, 0u);
+    }
 
-void TestAlertManager::secondSide_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("objectName");
-    QTest::addColumn<bool>("applies");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("second track of a conflict") << int(Alert::STCA) << "ZONE" << true << "[#0077]";
-    QTest::newRow("area by name") << int(Alert::APW) << "ZONE" << false << "ZONE";
-    QTest::newRow("area without a name") << int(Alert::APW) << "" << false << "N/A";
-    QTest::newRow("terrain") << int(Alert::MSAW) << "ZONE" << false << "---";
-    QTest::newRow("no such type") << 7 << "ZONE" << false << "---";
-}
-
-void TestAlertManager::secondSide()
-{
-    QFETCH(int, type);
-    QFETCH(QString, objectName);
-    AlertManager manager;
-    const auto alert = manager.createAlert(5);
-    alert->setType(static_cast<Alert::Type>(type));
-    alert->setObjectName(objectName);
-    alert->setTrack2OtherTrackNumber(77);
-    const auto snapshot = manager.snapshotAlerts().first();
-    QTEST(snapshot.track2Applicable, "applies");
-    QTEST(snapshot.track2.text, "text");
-}
+    void secondSide()
+    {
+        const std::tuple<Alert::Type, QString, bool, QString> rows[]{{Alert::STCA, "ZONE", true, "[#0077]"},
+            {Alert::APW, "ZONE", false, "ZONE"}, {Alert::APW, "", false, "N/A"}, {Alert::MSAW, "ZONE", false, "---"}};
+        for (const auto &[type, objectName, applies, text] : rows) {
+            AlertManager manager;
+            const auto alert = manager.createAlert(5);
+            alert->setType(type);
+            alert->setObjectName(objectName);
+            alert->setTrack2OtherTrackNumber(77);
+            const auto snapshot = manager.snapshotAlerts().first();
+            QCOMPARE(snapshot.track2Applicable, applies);
+            QCOMPARE(snapshot.track2.text, text);
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(TestAlertManager)
 #include "tst_alert_manager.moc"

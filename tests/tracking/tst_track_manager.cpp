@@ -6,181 +6,142 @@ class TestTrackManager : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void numbersGoRound();
-    void searchStopsOneShortOfTheRange();
-    void findersIndexWhatTheyFind();
-    void removalGoesByKey();
-    void life_data();
-    void life();
-    void snapshotIsACopy();
-    void trail_data();
-    void trail();
+    void init()
+    {
+        m_now = m_start;
+        m_manager = std::make_unique<TrackManager>();
+        m_manager->setClock([this] { return m_now; });
+    }
+
+    void numbersGoRound()
+    {
+        QCOMPARE(m_manager->createTrack()->trackNumber(), 1u);
+        const auto second = m_manager->createTrack();
+        m_manager->removeTrack(second);
+        QCOMPARE(m_manager->createTrack()->trackNumber(), 3u); // the free 2 waits for its turn
+        for (unsigned int number = 4; number <= 4096; ++number)
+            m_manager->removeTrack(m_manager->createTrack());
+        const auto wrapped = m_manager->createTrack(); // 1 is in use
+        QCOMPARE(wrapped->trackNumber(), 2u);
+        QVERIFY(wrapped->incarnationId() != second->incarnationId());
+        m_manager->reset();
+        QCOMPARE(m_manager->createTrack(7), m_manager->createTrack(7)); // does not move the rotation
+        const auto afterReset = m_manager->createTrack();
+        QCOMPARE(afterReset->trackNumber(), 1u);
+        QVERIFY(afterReset->incarnationId() > wrapped->incarnationId());
+    }
+
+    void findersIndexWhatTheyFind()
+    {
+        const auto track = m_manager->createTrack();
+        QVERIFY(!m_manager->findTrackByICAOAddr(0)); // no address is not an address
+        QVERIFY(!m_manager->findTrackByOtherTrackNum(0));
+        track->setIcaoAddr(0x4b1a2c);
+        track->setOtherTrackNumber(77);
+        QCOMPARE(m_manager->findTrackByICAOAddr(0x4b1a2c), track);
+        track->setIcaoAddr(0x4b1a2d);
+        QCOMPARE(m_manager->findTrackByICAOAddr(0x4b1a2c), track); // indexed by the search before, and left there
+        QCOMPARE(m_manager->findTrackByICAOAddr(0x4b1a2d), track);
+        QCOMPARE(m_manager->findTrackByOtherTrackNum(77), track);
+        QVERIFY(!m_manager->findTrackByOtherTrackNum(78));
+    }
+
+    void removalGoesByKey()
+    {
+        const auto first = m_manager->createTrack();
+        const auto second = m_manager->createTrack();
+        for (const auto &track : {first, second}) {
+            track->setIcaoAddr(0xabcdef);
+            track->setOtherTrackNumber(5);
+            m_manager->registerTrack(track);
+        }
+        QCOMPARE(m_manager->findTrackByICAOAddr(0xabcdef), second);
+        m_manager->removeTrack(first);
+        QVERIFY(!m_manager->hasTrackNum(first->trackNumber()));
+        QCOMPARE(m_manager->findTrackByICAOAddr(0xabcdef), second); // found by search again
+        m_manager->removeTrack(second);
+        QVERIFY(!m_manager->findTrackByICAOAddr(0xabcdef));
+        QVERIFY(!m_manager->findTrackByOtherTrackNum(5));
+        QCOMPARE(m_manager->trackCount(), 0);
+    }
+
+    void life_data()
+    {
+        QTest::addColumn<int>("termination"); // span; tracks coast after 5000 ms
+        QTest::addColumn<int>("before");
+        QTest::addColumn<int>("age");
+        QTest::addColumn<int>("after");
+        const auto row = [](const char *name, Track::State before, int age, Track::State after,
+                             int termination = 12000) {
+            QTest::newRow(name) << termination << int(before) << age << int(after);
+        };
+        row("young", Track::Confirmed, 4999, Track::Confirmed);
+        row("coasts at the span", Track::Confirmed, 5000, Track::Coasting);
+        row("ageing never confirms", Track::Coasting, 100, Track::Coasting);
+        row("terminates at the span", Track::Coasting, 12000, Track::Terminated);
+        row("terminated by a tracker", Track::Terminated, 0, Track::Terminated);
+        row("not terminated before it would coast", Track::Confirmed, 4999, Track::Confirmed, 3000);
+        row("terminates where it would coast", Track::Confirmed, 5000, Track::Terminated, 3000);
+    }
+
+    void life()
+    {
+        QFETCH(int, termination);
+        QFETCH(int, before);
+        QFETCH(int, age);
+        m_manager->setTrackLifeSpan(5000, termination);
+        const auto track = m_manager->createTrack(); // without a position it ages from its creation
+        track->setState(static_cast<Track::State>(before));
+        m_now = m_start.addMSecs(age);
+        m_manager->checkLife();
+        QTEST(int(track->state()), "after");
+        QCOMPARE(m_manager->hasTrackNum(track->trackNumber()), !track->terminated());
+    }
+
+    void snapshotIsACopy()
+    {
+        const auto track = m_manager->createTrack();
+        track->setState(Track::Coasting);
+        track->setModeSCallsign(QStringLiteral("VYX1"));
+        track->setIcaoAddr(0x00b1a2);
+        track->setLevel(35000);
+        track->setLevelValid(true);
+        track->setGeoCoordinate({50.0, 8.0});
+        m_manager->createTrack(9)->setState(Track::Terminated);
+        auto snapshots = m_manager->snapshotTracks(0);
+        track->setLevel(0);
+        track->setGeoCoordinate({51.0, 8.0});
+        track->setModeSCallsign(QString());
+        QCOMPARE(snapshots.size(), 2); // terminated ones are shown as well
+        if (snapshots[0].trackNumber != 1)
+            snapshots.swapItemsAt(0, 1);
+        QVERIFY(snapshots[0].coasting);
+        QCOMPARE(snapshots[0].level, 35000);
+        QCOMPARE(snapshots[0].callsign, QStringLiteral("VYX1"));
+        QCOMPARE(snapshots[0].icaoAddrString, QStringLiteral("00B1A2"));
+        QCOMPARE(snapshots[0].geoCoordinate.latitude(), 50.0);
+        QCOMPARE(snapshots[1].icaoAddrString, QStringLiteral("------"));
+    }
+
+    void trail()
+    {
+        const auto source = m_manager->createTrack();
+        source->setGeoCoordinate({50.0, 8.0});
+        source->recordHistory(); // not projected yet
+        for (int i = 1; i <= 4; ++i) {
+            source->setCarCoordinate(QPointF(i, i));
+            source->recordHistory();
+        }
+        const QList<QPointF> newestFirst{{4, 4}, {3, 3}, {2, 2}, {1, 1}};
+        for (const int dots : {-1, 0, 2, 9})
+            QCOMPARE(m_manager->snapshotTracks(dots).first().trail, newestFirst.first(std::clamp(dots, 0, 4)));
+    }
 
 private:
     const QDateTime m_start = QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC);
     QDateTime m_now;
     std::unique_ptr<TrackManager> m_manager;
 };
-
-void TestTrackManager::init()
-{
-    m_now = m_start;
-    m_manager = std::make_unique<TrackManager>();
-    m_manager->setClock([this] { return m_now; });
-}
-
-void TestTrackManager::numbersGoRound()
-{
-    QCOMPARE(m_manager->createTrack()->trackNumber(), 1u);
-    const auto second = m_manager->createTrack();
-    m_manager->removeTrack(second);
-    QCOMPARE(m_manager->createTrack()->trackNumber(), 3u); // the free 2 waits for its turn
-    for (unsigned int number = 4; number <= 4096; ++number)
-        m_manager->removeTrack(m_manager->createTrack());
-    const auto wrapped = m_manager->createTrack(); // 1 is in use
-    QCOMPARE(wrapped->trackNumber(), 2u);
-    QVERIFY(wrapped->incarnationId() != second->incarnationId());
-    m_manager->reset();
-    QCOMPARE(m_manager->createTrack(7), m_manager->createTrack(7)); // does not move the rotation
-    const auto afterReset = m_manager->createTrack();
-    QCOMPARE(afterReset->trackNumber(), 1u);
-    QVERIFY(afterReset->incarnationId() > wrapped->incarnationId());
-}
-
-void TestTrackManager::searchStopsOneShortOfTheRange()
-{
-    for (unsigned int number = 1; number <= 4095; ++number)
-        m_manager->createTrack(number);
-    QVERIFY(!m_manager->createTrack()); // 1 to 4095 tried; 4096 would have been free
-    QCOMPARE(m_manager->trackCount(), 4095);
-    QCOMPARE(m_manager->createTrack()->trackNumber(), 4096u); // where the last search stopped
-    QVERIFY(!m_manager->createTrack());
-}
-
-void TestTrackManager::findersIndexWhatTheyFind()
-{
-    const auto track = m_manager->createTrack();
-    QVERIFY(!m_manager->findTrackByICAOAddr(0)); // no address is not an address
-    QVERIFY(!m_manager->findTrackByOtherTrackNum(0));
-    track->setIcaoAddr(0x4b1a2c);
-    track->setOtherTrackNumber(77);
-    QCOMPARE(m_manager->findTrackByICAOAddr(0x4b1a2c), track);
-    track->setIcaoAddr(0x4b1a2d);
-    QCOMPARE(m_manager->findTrackByICAOAddr(0x4b1a2c), track); // indexed by the search before, and left there
-    QCOMPARE(m_manager->findTrackByICAOAddr(0x4b1a2d), track);
-    QCOMPARE(m_manager->findTrackByOtherTrackNum(77), track);
-    QVERIFY(!m_manager->findTrackByOtherTrackNum(78));
-}
-
-void TestTrackManager::removalGoesByKey()
-{
-    const auto first = m_manager->createTrack();
-    const auto second = m_manager->createTrack();
-    for (const auto &track : {first, second}) {
-        track->setIcaoAddr(0xabcdef);
-        track->setOtherTrackNumber(5);
-        m_manager->registerTrack(track);
-    }
-    QCOMPARE(m_manager->findTrackByICAOAddr(0xabcdef), second);
-    m_manager->removeTrack(first);
-    QVERIFY(!m_manager->hasTrackNum(first->trackNumber()));
-    QCOMPARE(m_manager->findTrackByICAOAddr(0xabcdef), second); // found by search again
-    m_manager->removeTrack(second);
-    QVERIFY(!m_manager->findTrackByICAOAddr(0xabcdef));
-    QVERIFY(!m_manager->findTrackByOtherTrackNum(5));
-    m_manager->removeTrack({});
-    m_manager->registerTrack({});
-    QCOMPARE(m_manager->trackCount(), 0);
-}
-
-void TestTrackManager::life_data()
-{
-    QTest::addColumn<int>("termination"); // span; tracks coast after 5000 ms
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("age");
-    QTest::addColumn<int>("after");
-    const auto row = [](const char *name, Track::State before, int age, Track::State after, int termination = 12000) {
-        QTest::newRow(name) << termination << int(before) << age << int(after);
-    };
-    row("young", Track::Confirmed, 4999, Track::Confirmed);
-    row("coasts at the span", Track::Confirmed, 5000, Track::Coasting);
-    row("tentative coasts too", Track::Tentative, 5000, Track::Coasting);
-    row("ageing never confirms", Track::Coasting, 100, Track::Coasting);
-    row("coasts to the end", Track::Coasting, 11999, Track::Coasting);
-    row("terminates at the span", Track::Coasting, 12000, Track::Terminated);
-    row("straight from tentative", Track::Tentative, 12000, Track::Terminated);
-    row("terminated by a tracker", Track::Terminated, 0, Track::Terminated);
-    row("not terminated before it would coast", Track::Confirmed, 4999, Track::Confirmed, 3000);
-    row("terminates where it would coast", Track::Confirmed, 5000, Track::Terminated, 3000);
-}
-
-void TestTrackManager::life()
-{
-    QFETCH(int, termination);
-    QFETCH(int, before);
-    QFETCH(int, age);
-    m_manager->setTrackLifeSpan(5000, termination);
-    const auto track = m_manager->createTrack(); // without a position it ages from its creation
-    track->setState(static_cast<Track::State>(before));
-    m_now = m_start.addMSecs(age);
-    m_manager->checkLife();
-    QTEST(int(track->state()), "after");
-    QCOMPARE(m_manager->hasTrackNum(track->trackNumber()), !track->terminated());
-}
-
-void TestTrackManager::snapshotIsACopy()
-{
-    const auto track = m_manager->createTrack();
-    track->setState(Track::Coasting);
-    track->setModeSCallsign(QStringLiteral("VYX1"));
-    track->setIcaoAddr(0x00b1a2);
-    track->setLevel(35000);
-    track->setLevelValid(true);
-    track->setGeoCoordinate({50.0, 8.0});
-    m_manager->createTrack(9)->setState(Track::Terminated);
-    auto snapshots = m_manager->snapshotTracks(0);
-    track->setLevel(0);
-    track->setGeoCoordinate({51.0, 8.0});
-    track->setModeSCallsign(QString());
-    track->setIcaoAddr(0);
-    QCOMPARE(snapshots.size(), 2); // terminated ones are shown as well
-    if (snapshots[0].trackNumber != 1)
-        snapshots.swapItemsAt(0, 1);
-    QVERIFY(snapshots[0].coasting);
-    QCOMPARE(snapshots[0].incarnationId, track->incarnationId());
-    QCOMPARE(snapshots[0].level, 35000);
-    QCOMPARE(snapshots[0].callsign, QStringLiteral("VYX1"));
-    QCOMPARE(snapshots[0].icaoAddrString, QStringLiteral("00B1A2"));
-    QCOMPARE(snapshots[0].geoCoordinate.latitude(), 50.0);
-    QCOMPARE(snapshots[1].callsign, QStringLiteral("-------"));
-    QCOMPARE(snapshots[1].icaoAddrString, QStringLiteral("------"));
-    QCOMPARE(track->icaoAddrString(), QStringLiteral("------"));
-    QCOMPARE(snapshots[1].modeAString, QStringLiteral("----"));
-}
-
-void TestTrackManager::trail_data()
-{
-    QTest::addColumn<int>("dots");
-    QTest::addColumn<QList<QPointF>>("trail");
-    QTest::newRow("none wanted") << 0 << QList<QPointF>{};
-    QTest::newRow("negative") << -1 << QList<QPointF>{};
-    QTest::newRow("newest first, positions not projected skipped") << 2 << QList<QPointF>{{4, 4}, {3, 3}};
-    QTest::newRow("more than there are") << 9 << QList<QPointF>{{4, 4}, {3, 3}, {2, 2}, {1, 1}};
-}
-
-void TestTrackManager::trail()
-{
-    QFETCH(int, dots);
-    const auto source = m_manager->createTrack();
-    source->setGeoCoordinate({50.0, 8.0});
-    source->recordHistory(); // not projected yet
-    for (int i = 1; i <= 4; ++i) {
-        source->setCarCoordinate(QPointF(i, i));
-        source->recordHistory();
-    }
-    QTEST(m_manager->snapshotTracks(dots).first().trail, "trail");
-}
 
 QTEST_GUILESS_MAIN(TestTrackManager)
 #include "tst_track_manager.moc"

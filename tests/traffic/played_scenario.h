@@ -40,17 +40,6 @@ struct PlayedScenario {
         }
     }
 
-    // Reports of one call sign.
-    std::vector<Target> of(const QByteArray &callsign) const
-    {
-        std::vector<Target> found;
-        for (const Target &target : targets) {
-            if (callsign == target.record.i240.text)
-                found.push_back(target);
-        }
-        return found;
-    }
-
 private:
     void take(const QByteArray &datagram, double time)
     {

@@ -6,7 +6,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -21,13 +20,11 @@ class TestConfigWindow : public QObject {
 
 private Q_SLOTS:
     void initTestCase();
-    void applyWithoutEditsChangesNothing_data();
     void applyWithoutEditsChangesNothing();
     void appliesWhatWasEntered_data();
     void appliesWhatWasEntered();
     void refusesInWords_data();
     void refusesInWords();
-    void opensThePageOfTheRefusedField();
     void takesTheSensorChosenFromTheFile();
 
 private:
@@ -39,20 +36,27 @@ private:
 namespace {
 
 // A record without a single default among the keys that the window shows.
-Config unusualConfig()
+Config unusualConfig(SensorType type)
 {
+    using C = Config;
     Config config;
+    for (bool C::*flag : {&C::displayToolbarText, &C::inputUdpMulticast1, &C::inputEnable2, &C::inputFileAutoRewind,
+             &C::processorAsterixVerifySacSic, &C::processorAsterixIgnoreWgs84Coordinates,
+             &C::processorAsterixIgnoreCartesianCoordinates, &C::mapSensorVisible, &C::mapSensorCoverageVisible,
+             &C::mapSensorRadarNorthMarkerVisible, &C::mapSensorRadarAntennaLineVisible, &C::mapRangeRingVisible})
+        config.*flag = !(config.*flag);
+    int red = 0;
+    for (QColor C::*color : {&C::mapBackgroundColor, &C::mapSensorColor, &C::mapSensorRadarNorthMarkerColor,
+             &C::mapSensorRadarAntennaLineColor, &C::mapRangeRingColor, &C::trackSymbolColor, &C::trackLabelColor,
+             &C::trackLabelSelectedColor, &C::trackLabelAlertColor, &C::trackLabelBackgroundColor})
+        config.*color = QColor(++red, 2, 3);
     config.displayCenterCoordinate = GeoCoordinate(-33.5, -70.25);
     config.displayLocalTimeZoneName = QStringLiteral("LCL");
     config.displayStyle = QStringLiteral("fusion");
-    config.displayToolbarText = false;
-    config.mapBackgroundColor = QColor(1, 2, 3);
     config.inputComm = Config::InputComm::Serial;
-    config.inputUdpMulticast1 = false;
     config.inputUdpMcastLanInterface1 = QNetworkInterface::interfaceFromName(QStringLiteral("lo"));
     config.inputUdpMcastAddress1 = QHostAddress(QStringLiteral("10.1.2.3"));
     config.inputUdpPort1 = 1;
-    config.inputEnable2 = true;
     config.inputUdpPort2 = 65535;
     config.inputSerialDevice = QStringLiteral("ttyNoSuch7");
     config.inputSerialBaudRate = 31250;
@@ -60,38 +64,15 @@ Config unusualConfig()
     config.inputSerialParity = 2;
     config.inputSerialStopBits = 3;
     config.inputFileName.setFile(QStringLiteral("/no/such/file.pcap"));
-    config.inputFileAutoRewind = true;
     config.processorType = Config::ProcessorType::ModeS;
     config.processorAsterixFormat = Config::AsterixFormat::ManagAir;
     config.processorAsterixUap = 7;
-    config.processorAsterixVerifySacSic = true;
-    config.processorAsterixIgnoreWgs84Coordinates = true;
-    config.processorAsterixIgnoreCartesianCoordinates = true;
-    config.mapSensorVisible = false;
-    config.mapSensorCoverageVisible = false;
-    config.mapSensorRadarNorthMarkerVisible = false;
-    config.mapSensorRadarAntennaLineVisible = false;
-    config.mapSensorColor = QColor(4, 5, 6);
-    config.mapSensorRadarNorthMarkerColor = QColor(7, 8, 9);
-    config.mapSensorRadarAntennaLineColor = QColor(10, 11, 12);
-    config.mapRangeRingVisible = true;
-    config.mapRangeRingColor = QColor(13, 14, 15);
     config.mapRangeRingNumber = 50;
     config.mapRangeRingDistance = 0.25;
-    config.trackSymbolColor = QColor(16, 17, 18);
-    config.trackLabelColor = QColor(19, 20, 21);
-    config.trackLabelSelectedColor = QColor(22, 23, 24);
-    config.trackLabelAlertColor = QColor(25, 26, 27);
-    config.trackLabelBackgroundColor = QColor(28, 29, 30);
     config.trackLabelBackgroundOpacity = 255;
-    return config;
-}
-
-// The same with the fields of one type of sensor.
-Config unusualSensor(SensorType type)
-{
-    Config config = unusualConfig();
     config.sensorType = type;
+    if (type == UnknownSensor)
+        return config;
     config.sensorName = QStringLiteral("West");
     config.sensorSac = 255;
     config.sensorSic = 7;
@@ -162,67 +143,51 @@ QStringList TestConfigWindow::changedKeys(const Config &before, const Config &af
     return changed;
 }
 
-void TestConfigWindow::applyWithoutEditsChangesNothing_data()
-{
-    QTest::addColumn<Config>("config");
-    QTest::newRow("defaults") << Config();
-    QTest::newRow("no default value anywhere") << unusualConfig();
-    for (const SensorType type : {RadarSensor, AdsbSensor, MlatSensor, SdpsSensor, SmrSensor})
-        QTest::newRow(qPrintable(sensorTypeFullName(type) + QStringLiteral(" sensor"))) << unusualSensor(type);
-}
-
 void TestConfigWindow::applyWithoutEditsChangesNothing()
 {
-    QFETCH(Config, config);
-    ConfigWindow window(config, nullptr);
-    QVERIFY(window.apply());
-    QCOMPARE(changedKeys(config, window.config()).join(u' '), QString());
+    QList<Config> configs{Config()};
+    for (const SensorType type : {UnknownSensor, RadarSensor, AdsbSensor, MlatSensor, SdpsSensor, SmrSensor})
+        configs.append(unusualConfig(type));
+    for (const Config &config : configs) {
+        ConfigWindow window(config, nullptr);
+        QVERIFY(window.apply());
+        QCOMPARE(changedKeys(config, window.config()).join(u' '), QString());
+    }
 }
 
 void TestConfigWindow::appliesWhatWasEntered_data()
 {
     QTest::addColumn<Edits>("edits");
-    QTest::addColumn<QStringList>("changed");
-    using Keys = QStringList;
-    QTest::newRow("centre in lower case")
-        << Edits{{"displayCenter", "395427n1162317w"}} << Keys{"displayCenterCoordinate"};
-    QTest::newRow("time zone") << Edits{{"displayTimeZone", "Asia/Tokyo"}} << Keys{"displayLocalTimeZoneName"};
-    QTest::newRow("lowest and highest group") << Edits{{"udpGroup1", "224.0.0.0"}, {"udpEnable2", "on"},
-        {"udpGroup2", "239.255.255.255"}} << Keys{"inputEnable2", "inputUdpMcastAddress1", "inputUdpMcastAddress2"};
-    QTest::newRow("unicast needs no group")
-        << Edits{{"udpMulticast1", "off"}, {"udpGroup1", "1.2."}} << Keys{"inputUdpMulticast1"};
-    QTest::newRow("input that is off needs no group") << Edits{{"udpGroup2", "1.2.3.4"}} << Keys{};
-    QTest::newRow("two groups on one port")
-        << Edits{{"udpEnable2", "on"}, {"udpPort2", "50000"}} << Keys{"inputEnable2", "inputUdpPort2"};
-    QTest::newRow("serial line") << Edits{{"inputComm", "Async Serial"}, {"serialDevice", "ttyUSB0"},
-        {"serialBaudRate", "19200"}}
-                                 << Keys{"inputComm", "inputSerialBaudRate", "inputSerialDevice"};
-    QTest::newRow("what a hidden input holds is not asked for")
-        << Edits{{"udpGroup1", "nonsense"}, {"inputComm", "Async Serial"}, {"serialDevice", "ttyS1"}}
-        << Keys{"inputComm", "inputSerialDevice"};
-    QTest::newRow("recording file") << Edits{{"inputComm", "Recording File"},
-        {"fileName", QCoreApplication::applicationFilePath()}}
-                                    << Keys{"inputComm", "inputFileName"};
-    QTest::newRow("envelope, profile and identity check")
-        << Edits{{"asterixFormat", "HDLC Frame"}, {"asterixUap", "Standard"}, {"asterixVerifySacSic", "on"}}
-        << Keys{"processorAsterixFormat", "processorAsterixUap", "processorAsterixVerifySacSic"};
-    QTest::newRow("typed-in radar") << Edits{{"sensorType", "Radar"}, {"sensorName", " North "}, {"sensorSac", "25"},
-        {"sensorSic", "3"}, {"sensorLocation", "401020n0203040e"}, {"radarCoverageSecondary", "200"}}
-                                    << Keys{"sensorLocation", "sensorName", "sensorRadarCoverageSecondary", "sensorSac",
-                                           "sensorSic", "sensorType"};
+    QTest::addColumn<QString>("changed");
+    const auto row = [](const char *name, const Edits &edits, const char *changed) {
+        QTest::newRow(name) << edits << QString::fromLatin1(changed);
+    };
+    row("centre in lower case", {{"displayCenter", "395427n1162317w"}}, "displayCenterCoordinate");
+    row("lowest and highest group",
+        {{"udpGroup1", "224.0.0.0"}, {"udpEnable2", "on"}, {"udpGroup2", "239.255.255.255"}},
+        "inputEnable2 inputUdpMcastAddress1 inputUdpMcastAddress2");
+    row("unicast needs no group", {{"udpMulticast1", "off"}, {"udpGroup1", "1.2."}}, "inputUdpMulticast1");
+    row("input that is off needs no group", {{"udpGroup2", "1.2.3.4"}}, "");
+    row("what a hidden input holds is not asked for",
+        {{"udpGroup1", "nonsense"}, {"inputComm", "Async Serial"}, {"serialDevice", "ttyS1"}},
+        "inputComm inputSerialDevice");
+    row("typed-in radar",
+        {{"sensorType", "Radar"}, {"sensorName", " North "}, {"sensorSac", "25"},
+            {"sensorLocation", "401020n0203040e"}},
+        "sensorLocation sensorName sensorSac sensorType");
 }
 
 void TestConfigWindow::appliesWhatWasEntered()
 {
     QFETCH(Edits, edits);
-    QFETCH(QStringList, changed);
+    QFETCH(QString, changed);
     ConfigWindow window(Config(), nullptr);
     const QSignalSpy applied(&window, &ConfigWindow::configApplied);
     enter(window, edits);
     window.accept();
     QCOMPARE(applied.size(), 1);
     QCOMPARE(window.result(), static_cast<int>(QDialog::Accepted));
-    QCOMPARE(changedKeys(Config(), applied.first().first().value<Config>()), changed);
+    QCOMPARE(changedKeys(Config(), applied.first().first().value<Config>()).join(u' '), changed);
 }
 
 void TestConfigWindow::refusesInWords_data()
@@ -234,10 +199,7 @@ void TestConfigWindow::refusesInWords_data()
     };
     const QString range = QStringLiteral("A multicast group lies between 224.0.0.0 and 239.255.255.255.");
     row("incomplete centre", {{"displayCenter", "3954"}}, "INVALID COORDINATE");
-    row("no centre", {{"displayCenter", ""}}, "INVALID COORDINATE");
     row("unknown time zone", {{"displayTimeZone", "Mars/Olympus"}}, "There is no time zone \"Mars/Olympus\".");
-    row("no time zone", {{"displayTimeZone", " "}}, "Choose a time zone.");
-    row("group below the range", {{"udpGroup1", "223.255.255.255"}}, range);
     row("group above the range", {{"udpGroup1", "240.0.0.0"}}, range);
     row("group of the second input", {{"udpEnable2", "on"}, {"udpGroup2", "10.0.0.1"}}, range);
     row("incomplete group", {{"udpGroup1", "239.0.0"}}, "This is no IP address.");
@@ -245,16 +207,11 @@ void TestConfigWindow::refusesInWords_data()
         "Both inputs have the same group and port.");
     row("same port for unicast", {{"udpEnable2", "on"}, {"udpMulticast2", "off"}, {"udpPort2", "50000"}},
         "Both inputs have the same port.");
-    row("no serial device", {{"inputComm", "Async Serial"}, {"serialDevice", " "}}, "Name the serial device.");
     row("baud rate of zero", {{"inputComm", "Async Serial"}, {"serialDevice", "x"}, {"serialBaudRate", "0"}},
         "Enter a rate in bits per second.");
     row("no recording", {{"inputComm", "Recording File"}}, "Choose a recording file.");
-    row("recording that is not there", {{"inputComm", "Recording File"}, {"fileName", "/no/such/file"}},
-        "This file does not exist.");
-    row("directory as a recording", {{"inputComm", "Recording File"}, {"fileName", "/"}}, "This file cannot be read.");
     row("sensor without a name", {{"sensorType", "Radar"}, {"sensorLocation", "401020N0203040E"}},
         "A sensor needs a name.");
-    row("sensor without a place", {{"sensorType", "Radar"}, {"sensorName", "R"}}, "INVALID COORDINATE");
 }
 
 void TestConfigWindow::refusesInWords()
@@ -270,19 +227,6 @@ void TestConfigWindow::refusesInWords()
     QCOMPARE(applied.size(), 0);
     QCOMPARE(changedKeys(Config(), window.config()), QStringList());
     QVERIFY(window.result() != QDialog::Accepted);
-}
-
-void TestConfigWindow::opensThePageOfTheRefusedField()
-{
-    ConfigWindow window(Config(), nullptr);
-    auto *pages = window.findChild<QListWidget *>();
-    pages->setCurrentRow(pages->count() - 1);
-    enter(window, {{"udpGroup1", "1.2.3.4"}});
-    QVERIFY(!window.apply());
-    QCOMPARE(pages->currentItem()->text(), QStringLiteral("Input"));
-    enter(window, {{"udpGroup1", "225.2.3.4"}});
-    QVERIFY(window.apply());
-    QVERIFY(!shows(window, QStringLiteral("A multicast group lies between 224.0.0.0 and 239.255.255.255.")));
 }
 
 void TestConfigWindow::takesTheSensorChosenFromTheFile()

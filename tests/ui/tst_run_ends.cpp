@@ -26,13 +26,10 @@ class TestRunEnds : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void demoNeedsAnAnswer_data();
     void demoNeedsAnAnswer();
-    void demoEndIsReported_data();
     void demoEndIsReported();
     void demoTrafficEndsWithTheTerminal();
     void reportIsWrittenAtTheEnd();
-    void unwritableReportIsAFailure();
     void signalsAskForTheEnd();
 
 private:
@@ -52,62 +49,42 @@ QString TestRunEnds::script(const QString &text)
     return file.fileName();
 }
 
-void TestRunEnds::demoNeedsAnAnswer_data()
-{
-    QTest::addColumn<QString>("text"); // of the generator; empty: there is none
-    QTest::addColumn<QString>("error");
-    QTest::newRow("no generator") << ""
-                                  << "was found neither";
-    QTest::newRow("says why it cannot") << "echo no such scenario >&2; exit 2"
-                                        << "no such scenario";
-    QTest::newRow("fails silently") << "exit 1"
-                                    << "does not answer";
-    QTest::newRow("answers no sensor") << "echo '{\"type\":\"kettle\"}'"
-                                       << "names no sensor";
-    QTest::newRow("answers rubbish") << "echo hello"
-                                     << "names no sensor";
-}
-
 void TestRunEnds::demoNeedsAnAnswer()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, error);
-    DemoTraffic demo({}, text.isEmpty() ? QString() : script(text));
-    QString reason;
-    QVERIFY(!demo.prepare(&reason));
-    QVERIFY2(reason.contains(error), qPrintable(reason));
-    QVERIFY(!reason.contains('\n'));
-}
-
-void TestRunEnds::demoEndIsReported_data()
-{
-    QTest::addColumn<QString>("ending");
-    QTest::addColumn<LogLevel>("level");
-    QTest::newRow("scenario over") << "exit 0" << LogLevel::Info;
-    QTest::newRow("failure") << "exit 3" << LogLevel::Warning;
-    QTest::newRow("killed") << "kill -9 $$" << LogLevel::Warning;
+    const QList<std::pair<const char *, const char *>> answers{{"", "was found neither"},
+        {"echo no such scenario >&2; exit 2", "no such scenario"}, {"exit 1", "does not answer"},
+        {"echo '{\"type\":\"kettle\"}'", "names no sensor"}, {"echo hello", "names no sensor"}};
+    for (const auto &[text, error] : answers) {
+        DemoTraffic demo({}, *text ? script(text) : QString());
+        QString reason;
+        QVERIFY2(!demo.prepare(&reason), text);
+        QVERIFY2(reason.contains(error) && !reason.contains('\n'), qPrintable(reason));
+    }
 }
 
 void TestRunEnds::demoEndIsReported()
 {
-    QFETCH(QString, ending);
-    DemoTraffic demo("a scenario.json",
-        script(QString(sensorAnswer) + "echo \"$@\" > '" + m_directory.filePath("arguments") + "'\n" + ending));
-    QString reason;
-    QVERIFY2(demo.prepare(&reason), qPrintable(reason));
-    Config config;
-    demo.applyTo(config);
-    QCOMPARE(config.sensorName, "SHOW");
-    QVERIFY(!config.inputUdpMulticast1);
+    const QList<std::pair<QString, LogLevel>> endings{
+        {"exit 0", LogLevel::Info}, {"exit 3", LogLevel::Warning}, {"kill -9 $$", LogLevel::Warning}};
+    for (const auto &[ending, level] : endings) {
+        QFile arguments(m_directory.filePath("arguments"));
+        DemoTraffic demo("a scenario.json",
+            script(QString(sensorAnswer) + "echo \"$@\" > '" + arguments.fileName() + "'\n" + ending));
+        QString reason;
+        QVERIFY2(demo.prepare(&reason), qPrintable(reason));
+        Config config;
+        demo.applyTo(config);
+        QCOMPARE(config.sensorName, "SHOW");
+        QVERIFY(!config.inputUdpMulticast1);
 
-    QSignalSpy messages(&demo, &DemoTraffic::message);
-    demo.start();
-    QTRY_COMPARE(messages.size(), 1);
-    QTEST(messages[0][0].value<LogLevel>(), "level");
-    QFile arguments(m_directory.filePath("arguments"));
-    QVERIFY(arguments.open(QFile::ReadOnly));
-    QCOMPARE(QString::fromUtf8(arguments.readAll()).trimmed(),
-        QString("a scenario.json --with-parent --to udp:127.0.0.1:%1").arg(config.inputUdpPort1));
+        QSignalSpy messages(&demo, &DemoTraffic::message);
+        demo.start();
+        QTRY_COMPARE(messages.size(), 1);
+        QCOMPARE(messages[0][0].value<LogLevel>(), level);
+        QVERIFY(arguments.open(QFile::ReadOnly));
+        QCOMPARE(QString::fromUtf8(arguments.readAll()).trimmed(),
+            QString("a scenario.json --with-parent --to udp:127.0.0.1:%1").arg(config.inputUdpPort1));
+    }
 }
 
 void TestRunEnds::demoTrafficEndsWithTheTerminal()
@@ -136,21 +113,14 @@ void TestRunEnds::reportIsWrittenAtTheEnd()
     const QString screenshot = m_directory.filePath("window.png");
     const QString snapshot = m_directory.filePath("snapshot.json");
     const ExitReport report(window.get(), screenshot, snapshot);
+    const ExitReport unwritable(window.get(), {}, m_directory.filePath("missing/snapshot.json"));
     QVERIFY(fixture.close(*window));
     QVERIFY(report.succeeded());
+    QVERIFY(!unwritable.succeeded());
     QCOMPARE(QImage(screenshot).size(), window->size());
     QFile file(snapshot);
     QVERIFY(file.open(QFile::ReadOnly));
     QVERIFY(QJsonDocument::fromJson(file.readAll()).object()["tracks"].isArray());
-}
-
-void TestRunEnds::unwritableReportIsAFailure()
-{
-    WindowFixture fixture;
-    const auto window = fixture.makeWindow();
-    const ExitReport report(window.get(), {}, m_directory.filePath("missing/snapshot.json"));
-    QVERIFY(fixture.close(*window));
-    QVERIFY(!report.succeeded());
 }
 
 void TestRunEnds::signalsAskForTheEnd()

@@ -42,6 +42,12 @@ public:
         return window;
     }
 
+    static void missingSerialLine(Config &config)
+    {
+        config.inputComm = Config::InputComm::Serial;
+        config.inputSerialDevice = "no-such-line";
+    }
+
     static bool openInput(MainWindow &window)
     {
         window.openInput();

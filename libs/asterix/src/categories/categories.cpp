@@ -10,6 +10,7 @@ std::span<const Edition *const> allEditions()
         &cat034Edition129,
         &cat048Edition132,
         &cat062Edition121,
+        &cat065Edition16,
     };
     return editions;
 }
