@@ -1,5 +1,7 @@
 #include "modes/mode_s_encapsulation.h"
 
+#include "extractors.h"
+
 #include <algorithm>
 #include <array>
 
@@ -7,43 +9,64 @@ namespace korvane::modes {
 
 namespace {
 
-struct FormatTexts {
+// Everything that differs between the encapsulations.
+struct FormatEntry {
     ModeSEncapsulation::Format format;
     const char *identifier;
     const char *name;
+    std::size_t (*extract)(std::string_view data, std::vector<ModeSFrame> &frames);
 };
 
-constexpr std::array formatTexts{
-    FormatTexts{ModeSEncapsulation::Raw, "raw", "Raw Frames (7 or 14 Octets)"},
-    FormatTexts{ModeSEncapsulation::Avr, "avr", "AVR Text"},
-    FormatTexts{ModeSEncapsulation::Beast, "beast", "Beast Binary"},
-    FormatTexts{ModeSEncapsulation::RawRssi, "raw-rssi", "Raw Frames with Signal Level"},
+constexpr std::array formatTable{
+    FormatEntry{ModeSEncapsulation::Raw, "raw", "Raw Frames (7 or 14 Octets)", extractRaw},
+    FormatEntry{ModeSEncapsulation::Avr, "avr", "AVR Text", extractAvr},
+    FormatEntry{ModeSEncapsulation::Beast, "beast", "Beast Binary", extractBeast},
+    FormatEntry{ModeSEncapsulation::RawRssi, "raw-rssi", "Raw Frames with Signal Level", extractRawRssi},
 };
 
-const FormatTexts &textsOf(ModeSEncapsulation::Format format)
+const FormatEntry &entryOf(ModeSEncapsulation::Format format)
 {
-    const auto matches = [format](const FormatTexts &texts) { return texts.format == format; };
-    const auto *const found = std::find_if(formatTexts.begin(), formatTexts.end(), matches);
-    return found != formatTexts.end() ? *found : textsOf(ModeSEncapsulation::DefaultFormat);
+    const auto matches = [format](const FormatEntry &entry) { return entry.format == format; };
+    const auto *const found = std::find_if(formatTable.begin(), formatTable.end(), matches);
+    return found != formatTable.end() ? *found : entryOf(ModeSEncapsulation::DefaultFormat);
 }
 
 } // namespace
 
+std::vector<std::shared_ptr<ModeSEncapsulation>> ModeSEncapsulation::extract(std::string &buffer, const Format &format)
+{
+    std::vector<ModeSFrame> frames;
+    buffer.erase(0, extractAll(buffer, format, frames));
+    const auto block = std::make_shared<std::vector<ModeSEncapsulation>>();
+    block->reserve(frames.size());
+    std::vector<std::shared_ptr<ModeSEncapsulation>> encapsulations;
+    encapsulations.reserve(frames.size());
+    for (const ModeSFrame &frame : frames)
+        encapsulations.emplace_back(block, &block->emplace_back(frame, format));
+    return encapsulations;
+}
+
+std::size_t ModeSEncapsulation::extractAll(std::string_view data, Format format, std::vector<ModeSFrame> &frames)
+{
+    frames.clear();
+    return entryOf(format).extract(data, frames);
+}
+
 std::string ModeSEncapsulation::identifier(const Format &format)
 {
-    return textsOf(format).identifier;
+    return entryOf(format).identifier;
 }
 
 ModeSEncapsulation::Format ModeSEncapsulation::fromIdentifier(const std::string &identifier)
 {
-    const auto matches = [&identifier](const FormatTexts &texts) { return identifier == texts.identifier; };
-    const auto *const found = std::find_if(formatTexts.begin(), formatTexts.end(), matches);
-    return found != formatTexts.end() ? found->format : DefaultFormat;
+    const auto matches = [&identifier](const FormatEntry &entry) { return identifier == entry.identifier; };
+    const auto *const found = std::find_if(formatTable.begin(), formatTable.end(), matches);
+    return found != formatTable.end() ? found->format : DefaultFormat;
 }
 
 std::string ModeSEncapsulation::name(const Format &format)
 {
-    return textsOf(format).name;
+    return entryOf(format).name;
 }
 
 } // namespace korvane::modes

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+namespace korvane::modes {
+
+class LibModeS {
+public:
+    static std::string version();
+};
+
+} // namespace korvane::modes
