@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <random>
 #include <string>
+#include <vector>
 
 // Fills one record after the other with random contents of every item that its table has.
 class RandomRecords {
@@ -14,11 +15,11 @@ class RandomRecords {
     using Node = korvane::asterix::Node;
 
 public:
-    // variation: null where the category has one UAP only.
-    RandomRecords(int category, const char *variation, std::uint32_t seed)
-        : m_encoder(category, nullptr, variation),
-          m_uap(variation ? korvane::asterix::findTable(category)->variation(variation)
-                          : korvane::asterix::findTable(category)->uaps.front().get()),
+    // edition: null for the standard one. variation: null where the category has one UAP only.
+    RandomRecords(int category, const char *edition, const char *variation, std::uint32_t seed)
+        : m_encoder(category, edition, variation),
+          m_uap(variation ? korvane::asterix::findTable(category, edition)->variation(variation)
+                          : korvane::asterix::findTable(category, edition)->uaps.front().get()),
           m_random(seed)
     {
     }
@@ -64,6 +65,8 @@ private:
     {
         if (node.kind == Kind::Icao || node.kind == Kind::Ascii) {
             m_encoder.setText(path, text(node.bits / (node.kind == Kind::Icao ? 6 : 8)));
+        } else if (node.bits > 64 && korvane::asterix::isElement(node.kind)) {
+            fillWide(node, path);
         } else if (korvane::asterix::isElement(node.kind) || node.kind == Kind::Case) {
             m_encoder.setRaw(path, bits(node.bits));
         } else if (node.isRepetitive()) {
@@ -76,11 +79,19 @@ private:
         }
     }
 
+    void fillWide(const Node &node, const std::string &path)
+    {
+        std::vector<unsigned char> octets(node.bits / 8U);
+        for (unsigned char &octet : octets)
+            octet = static_cast<unsigned char>(below(256));
+        m_encoder.setExplicit(path, octets);
+    }
+
     void fillRepetitions(const Node &node, const std::string &path)
     {
         for (unsigned count = 1 + below(3); count > 0; --count) {
             if (node.plainElements) {
-                m_encoder.setRaw(path, bits(node.children[0].bits));
+                fill(node.children[0], path);
             } else {
                 m_encoder.addRepetition(path);
                 fillChildren(node.children[0], path);

@@ -53,6 +53,12 @@ private Q_SLOTS:
         });
         row("unit chosen by another field", 62, "0110108320",
             [](E &e) { return e.set("380/IAS/IM", 1) && e.set("380/IAS/IAS", 0.8); });
+        row("sub-items of an expansion", 62, "01010101040730fffc000080",
+            [](E &e) { return e.set("RE/TVS/VX", -1) && e.set("RE/STS/FDR", 1) && e.setPresent("RE/STS"); });
+        row("contents instead of sub-items", 62, "010101010402aa", [](E &e) {
+            const unsigned char contents[] = {0xAA};
+            return e.set("RE/TVS/VX", 1) && e.setExplicit("RE", contents);
+        });
         row("present though empty", 34, "0400", [](E &e) { return e.setPresent("050"); });
     }
 
@@ -135,6 +141,20 @@ private Q_SLOTS:
         QVERIFY(ast_datablock_smart_decode(&block, octets.data(), octets.size()));
         QVERIFY(block.valid);
         QCOMPARE(block.records.size(), std::size_t{255});
+    }
+
+    void refusesExpansionTooLong()
+    {
+        BlockEncoder encoder(48);
+        for (const int links : {125, 126}) {
+            encoder.beginBlock();
+            encoder.beginRecord();
+            for (int i = 0; i < links; ++i)
+                QVERIFY(encoder.set("RE/RTC/ATL", i));
+            // Length, the two presence fields and the count: four octets beside the links.
+            QCOMPARE(encoder.endRecord(), links == 125);
+            QCOMPARE(encoder.block().size(), std::size_t(links == 125 ? 3 + 4 + 254 : 3));
+        }
     }
 
     void choosesUapOfCat001()

@@ -1,5 +1,6 @@
 #include "asterix/json_encoder.h"
 #include "asterix/json_writer.h"
+#include "asterix/profile.h"
 #include "octets.h"
 #include "random_records.h"
 
@@ -52,6 +53,8 @@ private Q_SLOTS:
     void printsEveryNumberExactly();
     void comesBackFromText_data();
     void comesBackFromText();
+    void expandsReservedField_data();
+    void expandsReservedField();
     void putsBlocksTogether();
     void refusesLine_data();
 
@@ -63,8 +66,8 @@ void TestJson::printsRecord_data()
     QTest::addColumn<int>("category");
     QTest::addColumn<QByteArray>("hex");
     QTest::addColumn<QByteArray>("items");
-    const auto row = [](const char *name, int category, const char *hex, const char *items) {
-        QTest::newRow(name) << category << QByteArray(hex) << QByteArray(items);
+    const auto row = [](const char *name, int category, const QByteArray &hex, const QByteArray &items) {
+        QTest::newRow(name) << category << hex << items;
     };
     row("spare bits left out", 48, "08 FFFF", R"({"070":{"V":1,"G":1,"L":1,"MODE3A":"7777"}})");
     row("signed quantity", 48, "04 3FF6", R"({"090":{"V":0,"G":0,"FL":-2.5}})");
@@ -76,6 +79,13 @@ void TestJson::printsRecord_data()
     row("more than 32 raw bits", 48, "01010180 01020304050607", R"({"260":"01020304050607"})");
     row("explicit", 48, "01010104 03 ABCD", R"({"SP":"abcd"})");
     row("text with blanks, quotes and octets", 62, "010102 40 225C4120E92000", R"({"390":{"CS":"\"\\A \u00e9"}})");
+    row("flags chosen by two other fields", 4, "4120 07 40 1C",
+        R"({"000":7,"120":{"CC":{"TID":1,"CPC":{"LPF":1,"CPF":1,"MHF":0},"CS":0}}})");
+    row("code where they choose no flags", 4, "4120 07 40 0C", R"({"000":7,"120":{"CC":{"TID":0,"CPC":6,"CS":0}}})");
+    row("code where what would choose is missing", 4, "0120 40 1C", R"({"120":{"CC":{"TID":1,"CPC":6,"CS":0}}})");
+    row("extents of more than an octet", 8, "0140 F8FFFE", R"({"100":{"F":-1,"R":0,"Q":32767}})");
+    row("video cells", 240, "0120 01" + QByteArray(128, 'A'), R"({"051":[")" + QByteArray(128, 'a') + R"("]})");
+    row("expansion left as it is", 48, "01010102 03 08A5", R"({"RE":"08a5"})");
     row("unit chosen: Mach number", 62, "0110 10 8320", R"({"380":{"IAS":{"IM":1,"IAS":0.8}}})");
 }
 
@@ -156,25 +166,33 @@ void TestJson::printsEveryNumberExactly()
 void TestJson::comesBackFromText_data()
 {
     QTest::addColumn<int>("category");
+    QTest::addColumn<QByteArray>("edition");
     QTest::addColumn<QByteArray>("variation");
-    for (const auto &[category, variation] : std::initializer_list<std::pair<int, const char *>>{
-             {1, "plot"}, {1, "track"}, {2, ""}, {34, ""}, {48, ""}, {62, ""}})
-        QTest::addRow("CAT%03d %s", category, variation) << category << QByteArray(variation);
+    for (const korvane::asterix::EditionName &name : korvane::asterix::editions()) {
+        const bool isChosenByRecord = name.category == 1;
+        for (const char *variation : isChosenByRecord ? QList<const char *>{"plot", "track"} : QList{""})
+            QTest::addRow("CAT%03d %s %s", name.category, name.edition.c_str(), variation)
+                << name.category << QByteArray::fromStdString(name.edition) << QByteArray(variation);
+    }
 }
 
 void TestJson::comesBackFromText()
 {
     QFETCH(int, category);
+    QFETCH(QByteArray, edition);
     QFETCH(QByteArray, variation);
-    RandomRecords random(category, variation.isEmpty() ? nullptr : variation.constData(), 11);
+    RandomRecords random(category, edition.constData(), variation.isEmpty() ? nullptr : variation.constData(), 11);
+    korvane::asterix::Profile profile;
+    QVERIFY(profile.select(category, edition.toStdString()));
     _ast_datablock_t block;
     for (int i = 0; i < 100; ++i) {
         const Octets octets(bytesOf(random.makeBlock(5).block()));
-        QVERIFY(ast_datablock_smart_decode(&block, octets.data(), octets.size()));
+        QVERIFY(ast_datablock_decode(&block, octets.data(), octets.size(), profile.uap()));
         QVERIFY2(block.valid, korvane::asterix::errorText(block.error));
         QCOMPARE(block.records.size(), std::size_t{5});
         QByteArray again;
         JsonEncoder encoder([&again](std::span<const unsigned char> encoded) { again += bytesOf(encoded); });
+        encoder.select(category, edition.toStdString());
         for (const _ast_datarecord_t &record : block.records) {
             const QByteArray line = jsonLine(record);
             QVERIFY(QJsonDocument::fromJson(line).isObject());
@@ -184,6 +202,52 @@ void TestJson::comesBackFromText()
         encoder.finish();
         QCOMPARE(again.toHex(), bytesOf({octets.data(), octets.size()}).toHex());
     }
+}
+
+void TestJson::expandsReservedField_data()
+{
+    QTest::addColumn<int>("category");
+    QTest::addColumn<QByteArray>("hex"); // of the field with its length
+    QTest::addColumn<QByteArray>("contents");
+    const auto row = [](const char *name, int category, const char *hex, const char *contents) {
+        QTest::newRow(name) << category << QByteArray(hex) << QByteArray(contents);
+    };
+    row("two sub-items", 21, "06 C0 0FFF 0E00", R"({"BPS":{"BPS":409.5},"SH":{"HDR":1,"STAT":1,"SH":360}})");
+    row("eighth sub-item, a compound", 21, "04 01 10 21",
+        R"({"MES":{"XP":{"XP":1,"X5":0,"XC":0,"X3":0,"X2":0,"X1":1}}})");
+    row("extents of two octets and of one", 21, "05 08 0011 20",
+        R"({"SGV":{"STP":0,"HTS":0,"HTT":0,"HRD":0,"GSS":1,"HGT":45}})");
+    row("all of eight bits for sub-items", 48, "05 01 10 00C8", R"({"GEN48":{"RCSDB":{"RCSDB":2}}})");
+    row("repetitions", 62, "06 40 01 0102 03", R"({"CSN":[{"SAC":1,"SIC":2,"TYP":3}]})");
+    // What does not fit the table to the last octet.
+    row("empty", 48, "01", R"("")");
+    row("no sub-item", 48, "02 00", R"("00")");
+    row("octet too many", 48, "04 20 00 00", R"("200000")");
+    row("sub-item cut short", 48, "04 08 0001", R"("080001")");
+    row("repetitions cut short", 62, "04 80 FF 01", R"("80ff01")");
+    row("sub-item that there is not", 62, "03 04 00", R"("0400")");
+    row("no table for its contents", 34, "03 80 00", R"("8000")");
+}
+
+void TestJson::expandsReservedField()
+{
+    QFETCH(int, category);
+    QFETCH(QByteArray, hex);
+    QFETCH(QByteArray, contents);
+    const QMap<int, QByteArray> fspecs{{21, "01010101010104"}, {34, "0104"}, {48, "01010102"}, {62, "0101010104"}};
+    const Octets octets = Octets::block(category, fspecs[category] + hex);
+    _ast_datablock_t block;
+    QVERIFY(ast_datablock_decode(&block, octets.data(), octets.size(), AST_UAP_STANDARD));
+    QVERIFY2(block.valid && block.records.size() == 1, korvane::asterix::errorText(block.error));
+    TextBuffer text;
+    appendRecordJson(text, block.records[0], {.block = 1}, korvane::asterix::Expansion::AsObject);
+    const QByteArray line(text.text().data(), static_cast<int>(text.size()));
+    QCOMPARE(line.mid(line.indexOf("\"RE\":") + 5).chopped(3), contents);
+    QByteArray again;
+    JsonEncoder encoder([&again](std::span<const unsigned char> encoded) { again += bytesOf(encoded); });
+    QVERIFY2(encoder.addLine(text.text()), encoder.lastError().c_str());
+    encoder.finish();
+    QCOMPARE(again.toHex(), bytesOf({octets.data(), octets.size()}).toHex());
 }
 
 void TestJson::putsBlocksTogether()

@@ -85,6 +85,7 @@ private Q_SLOTS:
         };
         good({"--help"}, Verb::Help);
         good({"decode", "--uap", "48=1.32", "--uap", "62=1.21", "FILE"}, Verb::Decode);
+        good({"decode", "--expand", "FILE"}, Verb::Decode);
         good({"encode", "-", "-o", "OUT"}, Verb::Encode);
         bad({}, "decode, encode or stat");
         bad({"decode", "A", "B"}, "one argument too many");
@@ -93,6 +94,7 @@ private Q_SLOTS:
         bad({"decode", "--uap", "48=9.9", "FILE"}, "edition \"9.9\" of category 48");
         bad({"decode", "--uap", "-48=1.32", "FILE"}, "no table");
         bad({"decode", "-o", "OUT", "FILE"}, "unknown option");
+        bad({"stat", "--expand", "FILE"}, "unknown option");
     }
 
     void readsArguments()
@@ -108,6 +110,7 @@ private Q_SLOTS:
         QTEST(isGood ? static_cast<int>(line.verb) : -1, "verb");
         QVERIFY2(QString::fromStdString(reason).contains(error), reason.c_str());
         QVERIFY(!QString::fromStdString(reason).contains('\n'));
+        QCOMPARE(line.isExpanding, isGood && arguments.contains("--expand"));
         QCOMPARE(
             line.editions.size(), isGood ? static_cast<std::size_t>(arguments.count("--uap")) : line.editions.size());
     }
@@ -188,6 +191,24 @@ private Q_SLOTS:
         const Outcome encoded = run(runEncode, write(decoded.out + "\n \n"));
         QCOMPARE(encoded.status, 0);
         QCOMPARE(encoded.out.toHex(), contents.toHex());
+    }
+
+    void expandsReservedFieldsOnlyWhenAsked()
+    {
+        const QString fileName = write(QByteArray::fromHex("30000A 01010102 03 2000"));
+        CommandLine line;
+        line.fileName = fileName.toStdString();
+        for (const bool isExpanding : {false, true}) {
+            line.isExpanding = isExpanding;
+            QByteArray printed;
+            const TextSink out = [&](std::string_view text) {
+                printed.append(text.data(), static_cast<int>(text.size()));
+                return true;
+            };
+            QCOMPARE(runDecode(line, out, [](std::string_view) {}), 0);
+            QVERIFY2(
+                printed.contains(isExpanding ? R"("RE":{"M4E":{"FOEFRI":0}})" : R"("RE":"2000")"), printed.constData());
+        }
     }
 
     void reportsLinesThatDoNotEncode()

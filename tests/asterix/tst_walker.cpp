@@ -178,13 +178,20 @@ private Q_SLOTS:
         QVERIFY(block.records.empty() || !itemsOf(block.records[0]).contains("161"));
     }
 
+    void reusesItsMemory_data()
+    {
+        QTest::addColumn<int>("category");
+        QTest::addColumn<QByteArray>("record");
+        QTest::newRow("plots") << 48 << QByteArray("F0 19C9 546000 A0 3D804000");
+        QTest::newRow("an edition is chosen") << 21 << QByteArray("C110 19C9 00 4CA123");
+    }
+
     void reusesItsMemory()
     {
-        QByteArray records;
-        for (int i = 0; i < 300; ++i)
-            records += "F0 19C9 546000 A0 3D804000";
-        const Octets large = Octets::block(48, records);
-        const Octets small = Octets::block(48, "80 19C9");
+        QFETCH(int, category);
+        QFETCH(QByteArray, record);
+        const Octets large = Octets::block(category, record.repeated(300));
+        const Octets small = Octets::block(category, "80 19C9");
         _ast_datablock_t block;
         ast_datablock_smart_decode(&block, large.data(), large.size());
         QCOMPARE(block.records.size(), std::size_t{300});
@@ -194,8 +201,8 @@ private Q_SLOTS:
         for (int i = 0; i < 10; ++i) {
             const Octets &octets = i % 2 ? large : small;
             ast_datablock_smart_decode(&block, octets.data(), octets.size());
-            for (const _ast_datarecord_t &record : block.records)
-                ast_datarecord_048_disassemble(&typed, record);
+            for (const _ast_datarecord_t &decoded : block.records)
+                ast_datarecord_048_disassemble(&typed, decoded);
         }
         QCOMPARE(allocations - before, 0);
         QCOMPARE(block.records.data(), first);

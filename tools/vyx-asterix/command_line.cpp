@@ -2,6 +2,7 @@
 
 #include "asterix/profile.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace {
@@ -37,9 +38,41 @@ bool parseVerb(const std::string &text, CommandLine::Verb &verb)
     return false;
 }
 
+bool isHelp(const std::string &argument)
+{
+    return argument == "--help" || argument == "-h";
+}
+
 bool isInformation(CommandLine::Verb verb)
 {
     return verb == CommandLine::Verb::Help || verb == CommandLine::Verb::Version;
+}
+
+// The argument at index, and the value that follows it where it takes one.
+bool parseArgument(const std::vector<std::string> &arguments, std::size_t &index, CommandLine &out, std::string &error)
+{
+    const std::string &argument = arguments[index];
+    const bool takesValue = argument == "--uap" || argument == "-o";
+    if (takesValue && index + 1 == arguments.size()) {
+        error = argument + " needs a value";
+        return false;
+    }
+    if (argument == "--uap")
+        return parseEdition(arguments[++index], out, error);
+    if (argument == "-o" && out.verb == CommandLine::Verb::Encode) {
+        out.outputName = arguments[++index];
+    } else if (argument == "--expand" && out.verb == CommandLine::Verb::Decode) {
+        out.isExpanding = true;
+    } else if (argument.size() > 1 && argument.front() == '-') {
+        error = "unknown option \"" + argument + "\"";
+        return false;
+    } else if (!out.fileName.empty() || isInformation(out.verb)) {
+        error = "one argument too many: \"" + argument + "\"";
+        return false;
+    } else {
+        out.fileName = argument;
+    }
+    return true;
 }
 
 } // namespace
@@ -52,31 +85,13 @@ bool CommandLine::parse(const std::vector<std::string> &arguments, CommandLine &
                                   : "unknown command \"" + arguments.front() + "\"; try --help";
         return false;
     }
+    if (std::any_of(arguments.begin(), arguments.end(), isHelp)) {
+        out.verb = Verb::Help;
+        return true;
+    }
     for (std::size_t i = 1; i < arguments.size(); ++i) {
-        const std::string &argument = arguments[i];
-        const bool takesValue = argument == "--uap" || argument == "-o";
-        if (argument == "--help" || argument == "-h") {
-            out.verb = Verb::Help;
-            return true;
-        }
-        if (takesValue && i + 1 == arguments.size()) {
-            error = argument + " needs a value";
+        if (!parseArgument(arguments, i, out, error))
             return false;
-        }
-        if (argument == "--uap") {
-            if (!parseEdition(arguments[++i], out, error))
-                return false;
-        } else if (argument == "-o" && out.verb == Verb::Encode) {
-            out.outputName = arguments[++i];
-        } else if (argument.size() > 1 && argument.front() == '-') {
-            error = "unknown option \"" + argument + "\"";
-            return false;
-        } else if (!out.fileName.empty() || isInformation(out.verb)) {
-            error = "one argument too many: \"" + argument + "\"";
-            return false;
-        } else {
-            out.fileName = argument;
-        }
     }
     if (out.fileName.empty() && !isInformation(out.verb)) {
         error = arguments.front() + " needs a file";
@@ -89,11 +104,12 @@ const char *CommandLine::helpText()
 {
     return R"(vyx-asterix: ASTERIX data blocks to text and back
 
-  vyx-asterix decode [--uap CAT=EDITION]... FILE
+  vyx-asterix decode [--uap CAT=EDITION]... [--expand] FILE
         One line of JSON a record on standard output:
         {"cat":48,"block":3,"offset":31,"length":17,"time":1700000000.125,"items":{...}}
         block numbers the data blocks from 1; offset is the record's place in the file, in a capture its place in
         the datagram; time, in captures only, is that of reception in seconds since 1970 UTC.
+        --expand writes reserved expansion fields ("RE") whose contents are known as objects; encode takes both.
   vyx-asterix encode [--uap CAT=EDITION]... FILE.ndjson [-o OUT.ast]
         Such lines back to data blocks, on standard output or in OUT.ast; lines of one block make one data block.
   vyx-asterix stat [--uap CAT=EDITION]... FILE

@@ -11,6 +11,7 @@ struct CommandLine {
     Verb verb = Verb::Help;
     std::string fileName;
     std::string outputName; // encode; empty: standard output
+    bool isExpanding = false; // decode: reserved expansion fields as objects
     std::vector<std::pair<int, std::string>> editions; // category and edition, in their order
 
     // The arguments without the program's name. False, with one line in error, when they make no sense.

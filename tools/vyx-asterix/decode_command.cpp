@@ -7,6 +7,7 @@
 namespace {
 
 using korvane::asterix::appendRecordJson;
+using korvane::asterix::Expansion;
 using korvane::asterix::RecordPlace;
 using korvane::asterix::TextBuffer;
 
@@ -15,7 +16,7 @@ constexpr std::size_t FlushSize = 1U << 18;
 // Writes the records of each block and passes the text on in large pieces.
 class RecordPrinter {
 public:
-    explicit RecordPrinter(const TextSink &out) : m_out(out) { }
+    RecordPrinter(const TextSink &out, Expansion expansion) : m_out(out), m_expansion(expansion) { }
 
     bool isOpen() const { return m_isOpen; }
 
@@ -27,7 +28,7 @@ public:
         place.timeMilliseconds = block.message.timeMilliseconds;
         for (const _ast_datarecord_t &record : block.decoded.records) {
             place.offset = static_cast<std::uint64_t>(record.data - block.message.data);
-            appendRecordJson(m_text, record, place);
+            appendRecordJson(m_text, record, place, m_expansion);
             if (m_text.size() >= FlushSize)
                 flush();
         }
@@ -41,6 +42,7 @@ public:
 
 private:
     const TextSink &m_out;
+    Expansion m_expansion;
     TextBuffer m_text;
     bool m_isOpen = true;
 };
@@ -52,7 +54,7 @@ int runDecode(const CommandLine &command, const TextSink &out, const LineSink &e
     korvane::asterix::Profile profile;
     for (const auto &[category, edition] : command.editions)
         profile.select(category, edition);
-    RecordPrinter printer(out);
+    RecordPrinter printer(out, command.isExpanding ? Expansion::AsObject : Expansion::AsHexText);
     BlockReader reader(
         command.fileName, profile.uap(), [&](const BlockReader::Block &block) { printer.print(block); }, err);
     std::string error;

@@ -1,22 +1,9 @@
 // The typed records of plot and track messages: CAT001 and CAT048.
 
 #include "disassemble.h"
-#include "icao_text.h"
 #include "typed_items.h"
 
 namespace korvane::asterix {
-
-void readCallsign(char *text, const unsigned char *at)
-{
-    const std::uint64_t bits = beOctets(at, 6);
-    int length = 0;
-    for (int i = 0; i < 8; ++i) {
-        text[i] = IcaoAlphabet[bits >> (42 - 6 * i) & 63];
-        if (text[i] != ' ')
-            length = i + 1;
-    }
-    text[length] = '\0';
-}
 
 namespace {
 
@@ -54,8 +41,7 @@ void readModeS048(_ast_datarecord_048_t &out, Items items)
         out.i240.present = true;
         readCallsign(out.i240.text, at);
     }
-    if (const unsigned char *at = items[Item048::I250])
-        out.i250 = {true, at[0], at + 1};
+    readRegisters(out.i250, items[Item048::I250]);
     if (const unsigned char *at = items[Item048::I230])
         out.i230 = {true, static_cast<std::uint8_t>(at[0] >> 5), static_cast<std::uint8_t>(at[0] >> 2 & 7)};
 }

@@ -2,9 +2,6 @@
 
 #include "disassemble.h"
 #include "typed_items.h"
-#include "walker.h"
-
-#include <bit>
 
 namespace korvane::asterix {
 namespace {
@@ -72,31 +69,29 @@ void readAircraftDerived(_ast_datarecord_062_t &out, const _ast_datarecord_t &re
     if (!at)
         return;
     out.i380.present = true;
-    const Node &item = *record.uap->steps[record.uap->typed[static_cast<std::size_t>(Item062::I380)]].node;
-    const unsigned char *const end = record.data + record.length;
-    Fault fault;
-    const std::size_t presence = presenceLength(at, end, fault);
-    const unsigned char *next = at + presence;
-    for (std::size_t octet = 0; octet < presence; ++octet) {
-        unsigned bits = at[octet] & 0xFEU;
-        while (bits) {
-            const auto leading = static_cast<unsigned>(std::countl_zero(static_cast<std::uint8_t>(bits)));
-            bits &= ~(0x80U >> leading);
-            const unsigned position = static_cast<unsigned>(octet) * 7 + leading;
-            readAircraftDerivedField(out, position, next);
-            next += itemLength(item.children[position], next, end, fault);
-        }
-    }
+    visitSubItems(record, Item062::I380, at,
+        [&out](unsigned position, const unsigned char *next) { readAircraftDerivedField(out, position, next); });
+}
+
+void readFlightPlan(_ast_datarecord_062_t &out, const _ast_datarecord_t &record, const unsigned char *at)
+{
+    constexpr unsigned callsign = 1; // position in the presence field
+    constexpr int callsignLength = 7;
+    if (!at)
+        return;
+    visitSubItems(record, Item062::I390, at, [&out](unsigned position, const unsigned char *next) {
+        if (position != callsign)
+            return;
+        out.i390.callsignPresent = true;
+        readAscii(out.i390.callsign, next, callsignLength);
+    });
 }
 
 void readStatus(_ast_datarecord_062_t &out, const unsigned char *at)
 {
     if (!at)
         return;
-    // Extents that are not sent read as zero.
-    unsigned extents[4] = {at[0]};
-    for (int i = 1; i < 4 && bit(extents[i - 1], 0); ++i)
-        extents[i] = at[i];
+    const auto extents = readExtents<4>(at);
     out.i080 = {true, bit(extents[0], 7), bit(extents[0], 6), bit(extents[0], 5),
         static_cast<std::uint8_t>(extents[0] >> 2 & 7), bit(extents[0], 1), bit(extents[1], 7), bit(extents[1], 6),
         bit(extents[1], 5), bit(extents[3], 7)};
@@ -106,7 +101,9 @@ void readKinematics(_ast_datarecord_062_t &out, Items items)
 {
     if (const unsigned char *at = items[Item062::I105]) {
         constexpr double lsb = 180.0 / 33554432;
-        out.i105 = {true, static_cast<std::int32_t>(be32(at)) * lsb, static_cast<std::int32_t>(be32(at + 4)) * lsb};
+        const auto latitude = static_cast<std::int32_t>(be32(at));
+        const auto longitude = static_cast<std::int32_t>(be32(at + 4));
+        out.i105 = {true, latitude * lsb, longitude * lsb, latitude, longitude, lsb};
     }
     if (const unsigned char *at = items[Item062::I100])
         out.i100 = {true, signed24(at) * 0.5, signed24(at + 3) * 0.5};
@@ -153,6 +150,7 @@ void ast_datarecord_062_disassemble(_ast_datarecord_062_t *out, const _ast_datar
         readCallsign(out->i245.text, at + 1); // after the source of the identification
     }
     readAircraftDerived(*out, record, items[Item062::I380]);
+    readFlightPlan(*out, record, items[Item062::I390]);
     if (const unsigned char *at = items[Item062::I040])
         out->i040 = {true, static_cast<std::uint16_t>(be16(at))};
     readStatus(*out, items[Item062::I080]);

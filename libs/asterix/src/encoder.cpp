@@ -50,6 +50,7 @@ struct BlockEncoder::State {
     std::vector<unsigned char> block;
     std::uint32_t serial = 1;
     std::size_t records = 0;
+    bool tooLong = false; // an explicit item of the record at hand has more contents than its length octet can say
 
     explicit State(const CategoryTable &ofTable) : table(&ofTable)
     {
@@ -205,8 +206,7 @@ struct BlockEncoder::State {
             emitRepetitiveFx(node);
             break;
         case Kind::Explicit:
-            block.push_back(static_cast<unsigned char>(slot(node).octets.size() + 1));
-            emitOctets(slot(node).octets);
+            emitExplicit(node);
             break;
         default:
             emitOctets(slot(node).octets);
@@ -234,18 +234,42 @@ struct BlockEncoder::State {
         emitOctets(image.octets);
     }
 
+    bool isSent(const Node &child) const { return child.kind != Kind::Vacant && isSet(child); }
+
     void emitCompound(const Node &node)
     {
         const std::size_t presence = block.size();
         block.push_back(0);
         for (std::size_t i = 0; i < node.children.size(); ++i) {
-            if (node.children[i].kind != Kind::Vacant && isSet(node.children[i]))
+            if (isSent(node.children[i]))
                 markPresent(presence, i);
         }
+        emitChildren(node);
+    }
+
+    void emitChildren(const Node &node)
+    {
         for (const Node &child : node.children) {
-            if (child.kind != Kind::Vacant && isSet(child))
+            if (isSent(child))
                 emit(child);
         }
+    }
+
+    // Contents as they were given, or else the sub-items that were set.
+    void emitExplicit(const Node &node)
+    {
+        const std::size_t start = block.size();
+        block.push_back(0);
+        emitOctets(slot(node).octets);
+        unsigned presence = 0;
+        for (std::size_t i = 0; i < node.children.size(); ++i)
+            presence |= isSent(node.children[i]) ? 0x80U >> i : 0U;
+        if (slot(node).octets.empty() && presence != 0) {
+            block.push_back(static_cast<unsigned char>(presence));
+            emitChildren(node);
+        }
+        tooLong = tooLong || block.size() - start > MaxExplicitContents + 1;
+        block[start] = static_cast<unsigned char>(block.size() - start);
     }
 
     // Sets the bit of a position in the presence field or FSPEC that begins at start and ends the block so far.
@@ -285,6 +309,7 @@ struct BlockEncoder::State {
     bool emitRecord(const Uap &uap)
     {
         const std::size_t fspec = block.size();
+        tooLong = false;
         block.push_back(0);
         int sent = 0;
         for (int i = 0; i < uap.count; ++i) {
@@ -300,7 +325,7 @@ struct BlockEncoder::State {
                 emit(*item);
         }
         // An item that the UAP has no place for is no record that was asked for.
-        return sent == static_cast<int>(items.size()) && block.size() <= MaxBlockOctets;
+        return sent == static_cast<int>(items.size()) && !tooLong && block.size() <= MaxBlockOctets;
     }
 };
 

@@ -26,7 +26,9 @@ enum class Kind : std::uint8_t {
     Compound, // a presence field, then the sub-items that it names
     Repetitive, // one octet of count, then so many elements or groups
     RepetitiveFx, // elements or groups, an FX bit at the end of each
-    Explicit, // one octet of length (itself included), then contents
+    // One octet of length (itself included), then contents. Where they are known: one octet of presence bits, all eight
+    // of them for sub-items, then those.
+    Explicit,
     Case, // the same bits, read by the value of other fields
 };
 
@@ -79,6 +81,14 @@ constexpr Field integer(const char *name, int bits)
     return element(Kind::Integer, name, bits);
 }
 
+// Two's complement.
+constexpr Field signedInteger(const char *name, int bits)
+{
+    Field field = integer(name, bits);
+    field.isSigned = true;
+    return field;
+}
+
 constexpr Field octal(const char *name, int bits)
 {
     return element(Kind::Octal, name, bits);
@@ -102,7 +112,6 @@ constexpr Field quantity(const char *name, int bits, Lsb lsb, const char *unit)
     return field;
 }
 
-// Two's complement.
 constexpr Field signedQuantity(const char *name, int bits, Lsb lsb, const char *unit)
 {
     Field field = quantity(name, bits, lsb, unit);
@@ -165,6 +174,13 @@ constexpr Field explicitLength(const char *name)
     return element(Kind::Explicit, name, 0);
 }
 
+// An explicit field with contents of its own document, the reserved expansion field.
+template <std::size_t N>
+constexpr Field expansion(const char *name, const Field (&fields)[N])
+{
+    return structure(Kind::Explicit, name, fields);
+}
+
 // A field that the value at selector reads one way or another; a raw value where no alternative fits.
 template <std::size_t N>
 constexpr Field caseOf(const char *name, const char *selector, const Field (&alternatives)[N])
@@ -174,10 +190,24 @@ constexpr Field caseOf(const char *name, const char *selector, const Field (&alt
     return field;
 }
 
+template <std::size_t N>
+constexpr Field caseOf(const char *name, const char *first, const char *second, const Field (&alternatives)[N])
+{
+    Field field = caseOf(name, first, alternatives);
+    field.selectors[1] = second;
+    return field;
+}
+
 constexpr Field when(std::uint32_t value, Field alternative)
 {
     alternative.selected[0] = value;
     return alternative;
+}
+
+constexpr Field when(std::uint32_t first, std::uint32_t second, Field alternative)
+{
+    alternative.selected[1] = second;
+    return when(first, alternative);
 }
 
 // A whole item: its title as published.

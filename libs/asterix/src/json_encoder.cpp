@@ -190,7 +190,7 @@ bool JsonEncoder::addLine(std::string_view text)
     if (!reader.readItems())
         m_lastError = "no such field, or its value does not fit: " + reader.faultyPath();
     else if (!encoder->endRecord())
-        m_lastError = "item of another UAP, or the block is longer than 65535 octets";
+        m_lastError = "item of another UAP, an explicit item longer than 255 octets or a block longer than 65535";
     return m_lastError.empty();
 }
 

@@ -138,8 +138,9 @@ char *closeList(char *out, char bracket)
 
 class RecordWriter {
 public:
-    RecordWriter(TextBuffer &buffer, const _ast_datarecord_t &record)
-        : m_buffer(buffer), m_record(record), m_end(record.data + record.length)
+    RecordWriter(TextBuffer &buffer, const _ast_datarecord_t &record, Expansion expansion)
+        : m_buffer(buffer), m_record(record), m_end(record.data + record.length),
+          m_expand(expansion == Expansion::AsObject)
     {
     }
 
@@ -208,7 +209,10 @@ private:
             writeRepetitionsFx(node, at);
             break;
         case Kind::Explicit:
-            writeExplicit(at);
+            if (m_expand && !node.children.empty() && hasKnownContents(node, at))
+                writeCompound(node, at);
+            else
+                writeExplicit(at);
             break;
         case Kind::Group:
             if (node.octets <= 8)
@@ -287,12 +291,11 @@ private:
     void writeCompound(const Node &node, const unsigned char *at)
     {
         Fault none;
-        const std::size_t presence = presenceLength(at, m_end, none);
-        const unsigned char *next = at + presence;
-        const std::size_t positions = std::min(presence * 7, node.children.size());
+        const Presence presence(node, at);
+        const unsigned char *next = presence.contents();
         *m_out++ = '{';
-        for (std::size_t i = 0; i < positions; ++i) {
-            if (!(at[i / 7] >> (7 - i % 7) & 1))
+        for (std::size_t i = 0; i < presence.positions(); ++i) {
+            if (!presence.has(i))
                 continue;
             const Node &child = node.children[i];
             ensure(node.jsonSize);
@@ -341,6 +344,7 @@ private:
     TextBuffer &m_buffer;
     const _ast_datarecord_t &m_record;
     const unsigned char *m_end;
+    bool m_expand;
     char *m_out = nullptr;
 };
 
@@ -359,9 +363,9 @@ char *TextBuffer::reserve(std::size_t room)
     return m_data.get() + m_size;
 }
 
-void appendRecordJson(TextBuffer &out, const _ast_datarecord_t &record, const RecordPlace &place)
+void appendRecordJson(TextBuffer &out, const _ast_datarecord_t &record, const RecordPlace &place, Expansion expansion)
 {
-    RecordWriter(out, record).write(place);
+    RecordWriter(out, record, expansion).write(place);
 }
 
 } // namespace korvane::asterix

@@ -75,6 +75,7 @@ private:
             compileCase(node, field);
             break;
         case Kind::Compound:
+        case Kind::Explicit:
             for (std::size_t i = 0; i < node.children.size(); ++i) {
                 compile(node.children[i], field.fields[i], &node, nullptr, 0);
                 node.jsonSize += node.children[i].jsonSize;
@@ -184,6 +185,7 @@ std::unique_ptr<Uap> makeUap(const Layout &layout, const Variation &variation)
         if (const int slot = uap->slotOf(layout.find(typed[i])); slot >= 0)
             uap->typed[i] = static_cast<std::uint8_t>(slot);
     }
+    uap->reportFields = findReportFields(*uap);
     return uap;
 }
 

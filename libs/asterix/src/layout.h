@@ -4,6 +4,7 @@
 // once.
 
 #include "field.h"
+#include "report_fields.h"
 
 #include <array>
 #include <cstdint>
@@ -99,6 +100,7 @@ struct Uap {
     // FRN minus 1 of the items that the category's typed record reads, in its own order; NoSlot where absent.
     std::array<std::uint8_t, MaxTypedItems> typed;
     std::uint8_t sacSic = NoSlot; // of item 010
+    ReportFields reportFields; // of categories of target reports
 
     // FRN minus 1 of an item, -1 where this UAP does not have it.
     int slotOf(const Node *item) const;

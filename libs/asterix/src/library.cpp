@@ -2,6 +2,7 @@
 
 #include "layout.h"
 #include "profile.h"
+#include "smart_decode.h"
 #include "walker.h"
 
 #include <atomic>
@@ -11,6 +12,8 @@ namespace korvane::asterix {
 namespace {
 
 constexpr std::size_t HeaderOctets = 3;
+// The category whose edition smart decoding chooses.
+constexpr unsigned char EditionsToChoose = 21;
 constexpr int LogDebug = 0;
 
 std::atomic<_ast_log_handler_t> logHandler{nullptr};
@@ -26,31 +29,38 @@ void logFault(const _ast_datablock_t &block)
     handler(LogDebug, text);
 }
 
-bool refuse(_ast_datablock_t &block, Error error, std::size_t offset, bool isWhole)
+void refuse(_ast_datablock_t &block, Error error, std::size_t offset)
 {
     block.error = error;
     block.errorOffset = static_cast<std::uint32_t>(offset);
-    logFault(block);
-    return isWhole;
 }
 
-void walkRecords(_ast_datablock_t &block, const unsigned char *data, const _ast_uap_t &profile)
+// Reads the header. True: there is a whole block with a body to decode. False: result is what to return.
+bool beginBlock(_ast_datablock_t &block, const unsigned char *data, std::size_t length, bool &result)
 {
-    const CategoryTable &table = *profile.tables[block.category];
-    const Uap *forced = profile.forced && profile.forced->layout == &table.layout ? profile.forced : nullptr;
-    const unsigned char *at = data + HeaderOctets;
-    const unsigned char *const end = data + block.size;
-    Fault fault;
-    while (at < end) {
-        _ast_datarecord_t &record = block.records.emplace_back();
-        if (!walkRecord(table, forced, at, end, record, fault)) {
-            block.records.pop_back();
-            refuse(block, fault.error, static_cast<std::size_t>(fault.at - data), true);
-            return;
-        }
-        at += record.length;
+    block.category = length > 0 ? data[0] : 0;
+    block.valid = false;
+    block.size = 0;
+    block.records.clear();
+    block.error = Error::None;
+    block.errorOffset = 0;
+    result = false;
+    if (length < HeaderOctets) {
+        refuse(block, Error::BlockHeaderTruncated, length);
+    } else {
+        block.size = std::uint32_t{data[1]} << 8 | data[2];
+        result = block.size == 0;
+        if (block.size == 0)
+            refuse(block, Error::BlockLengthZero, 1);
+        else if (block.size < HeaderOctets)
+            refuse(block, Error::BlockLengthTooShort, 1);
+        else if (block.size > length)
+            refuse(block, Error::BlockTruncated, length);
+        else
+            return true;
     }
-    block.valid = true;
+    logFault(block);
+    return false;
 }
 
 } // namespace
@@ -96,7 +106,7 @@ using namespace korvane::asterix;
 
 void ast_library_init()
 {
-    findTable(0); // makes the tables now rather than with the first datagram
+    prepareSmartDecoding(); // makes the tables, too, now rather than with the first datagram
 }
 
 const char *ast_library_version()
@@ -111,30 +121,31 @@ void ast_log_handler_reg(_ast_log_handler_t handler)
 
 bool ast_datablock_decode(_ast_datablock_t *block, const unsigned char *data, std::size_t length, const _ast_uap_t *uap)
 {
-    block->category = length > 0 ? data[0] : 0;
-    block->valid = false;
-    block->size = 0;
-    block->records.clear();
-    block->error = Error::None;
-    block->errorOffset = 0;
-    if (length < HeaderOctets)
-        return refuse(*block, Error::BlockHeaderTruncated, length, false);
-    block->size = std::uint32_t{data[1]} << 8 | data[2];
-    if (block->size == 0)
-        return refuse(*block, Error::BlockLengthZero, 1, true);
-    if (block->size < HeaderOctets)
-        return refuse(*block, Error::BlockLengthTooShort, 1, false);
-    if (block->size > length)
-        return refuse(*block, Error::BlockTruncated, length, false);
-    if (!uap->tables[block->category])
-        return refuse(*block, Error::UnknownCategory, 0, true);
-    walkRecords(*block, data, *uap);
+    bool result = false;
+    if (!beginBlock(*block, data, length, result))
+        return result;
+    const CategoryTable *table = uap->tables[block->category];
+    if (table)
+        decodeRecords(*block, data, *table, uap->forced);
+    else
+        refuse(*block, Error::UnknownCategory, 0);
+    if (!block->valid)
+        logFault(*block);
     return true;
 }
 
 bool ast_datablock_smart_decode(_ast_datablock_t *block, const unsigned char *data, std::size_t length)
 {
-    return ast_datablock_decode(block, data, length, AST_UAP_STANDARD);
+    // In CAT001 each record says which UAP it has; the standard table follows it.
+    if (length == 0 || data[0] != EditionsToChoose)
+        return ast_datablock_decode(block, data, length, AST_UAP_STANDARD);
+    bool result = false;
+    if (!beginBlock(*block, data, length, result))
+        return result;
+    decodeCat021(*block, data);
+    if (!block->valid)
+        logFault(*block);
+    return true;
 }
 
 char *ast_category_to_str(char *buffer, std::size_t size, std::uint32_t category)

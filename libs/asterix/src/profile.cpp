@@ -5,13 +5,6 @@
 namespace korvane::asterix {
 namespace {
 
-// A category that a profile decodes otherwise than the standard one.
-struct Exchange {
-    int category;
-    const char *edition; // null: the standard one
-    const char *variation; // forced on every record; null: each record chooses
-};
-
 _ast_uap_t standardProfile()
 {
     _ast_uap_t profile;
@@ -20,22 +13,40 @@ _ast_uap_t standardProfile()
     return profile;
 }
 
-_ast_uap_t makeProfile(std::initializer_list<Exchange> exchanges)
+void place(_ast_uap_t &profile, const ProfileRow &row)
+{
+    const CategoryTable *table = findTable(row.category, row.edition);
+    if (!table)
+        return;
+    profile.tables[static_cast<std::size_t>(row.category)] = table;
+    if (row.variation)
+        profile.forced = table->variation(row.variation);
+}
+
+// The standard profile with one category exchanged.
+_ast_uap_t standardBut(const ProfileRow &row)
 {
     _ast_uap_t profile = standardProfile();
-    for (const Exchange &exchange : exchanges) {
-        const CategoryTable *table = findTable(exchange.category, exchange.edition);
-        if (!table)
-            continue;
-        profile.tables[static_cast<std::size_t>(exchange.category)] = table;
-        if (exchange.variation)
-            profile.forced = table->variation(exchange.variation);
-    }
+    place(profile, row);
     return profile;
 }
 
-const _ast_uap_t standard = makeProfile({});
-const _ast_uap_t cat001Plot = makeProfile({{1, nullptr, "plot"}});
+_ast_uap_t profileOf(std::span<const ProfileRow> rows)
+{
+    _ast_uap_t profile;
+    for (const ProfileRow &row : rows)
+        place(profile, row);
+    return profile;
+}
+
+const _ast_uap_t standard = standardProfile();
+const _ast_uap_t cat001Plot = standardBut({1, nullptr, "plot"});
+const _ast_uap_t asr10ss = profileOf(asr10ssProfile());
+const _ast_uap_t cat021Edition023Profile = standardBut({21, "0.23"});
+const _ast_uap_t cat021Edition026Profile = standardBut({21, "0.26"});
+const _ast_uap_t cat021Edition21Profile = standardBut({21, "2.1"});
+const _ast_uap_t cat021Edition27Profile = standardBut({21, "2.7"});
+const _ast_uap_t thales = profileOf(thalesProfile());
 
 } // namespace
 
@@ -63,12 +74,11 @@ bool Profile::select(int category, std::string_view edition)
 
 } // namespace korvane::asterix
 
-// Editions that a profile names and that have no table of their own are decoded with the standard one.
 const _ast_uap_t *const AST_UAP_STANDARD = &korvane::asterix::standard;
 const _ast_uap_t *const AST_UAP_CAT001_PLOT = &korvane::asterix::cat001Plot;
-const _ast_uap_t *const AST_UAP_ASR10SS = &korvane::asterix::standard;
-const _ast_uap_t *const AST_UAP_CAT021_VER023 = &korvane::asterix::standard;
-const _ast_uap_t *const AST_UAP_CAT021_VER026 = &korvane::asterix::standard;
-const _ast_uap_t *const AST_UAP_CAT021_VER21 = &korvane::asterix::standard;
-const _ast_uap_t *const AST_UAP_CAT021_VER27 = &korvane::asterix::standard;
-const _ast_uap_t *const AST_UAP_THALES = &korvane::asterix::standard;
+const _ast_uap_t *const AST_UAP_ASR10SS = &korvane::asterix::asr10ss;
+const _ast_uap_t *const AST_UAP_CAT021_VER023 = &korvane::asterix::cat021Edition023Profile;
+const _ast_uap_t *const AST_UAP_CAT021_VER026 = &korvane::asterix::cat021Edition026Profile;
+const _ast_uap_t *const AST_UAP_CAT021_VER21 = &korvane::asterix::cat021Edition21Profile;
+const _ast_uap_t *const AST_UAP_CAT021_VER27 = &korvane::asterix::cat021Edition27Profile;
+const _ast_uap_t *const AST_UAP_THALES = &korvane::asterix::thales;

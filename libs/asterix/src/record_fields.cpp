@@ -13,10 +13,10 @@ const unsigned char *subItem(
     const Node &compound, const Node &wanted, const unsigned char *at, const unsigned char *end)
 {
     Fault fault;
-    const std::size_t presence = presenceLength(at, end, fault);
-    const unsigned char *next = at + presence;
-    for (std::size_t i = 0; i < compound.children.size() && i < presence * 7; ++i) {
-        if (!(at[i / 7] >> (7 - i % 7) & 1))
+    const Presence presence(compound, at);
+    const unsigned char *next = presence.contents();
+    for (std::size_t i = 0; i < presence.positions(); ++i) {
+        if (!presence.has(i))
             continue;
         if (&compound.children[i] == &wanted)
             return next;

@@ -195,6 +195,23 @@ const Uap *selectUap(const CategoryTable &table, const Fspec &fspec, const unsig
     return table.uaps[chosen < table.uaps.size() ? chosen : 0].get();
 }
 
+// One record from at on. False, with fault set, when it is malformed; record is then undefined.
+bool walkRecord(const CategoryTable &table, const Uap *forced, const unsigned char *at, const unsigned char *end,
+    _ast_datarecord_t &record, Fault &fault)
+{
+    const Fspec fspec = readFspec(at, end, fault);
+    if (!fspec.next)
+        return false;
+    const Uap *uap = forced ? forced : selectUap(table, fspec, end);
+    if (const std::uint64_t spare = fspec.present & ~uap->defined; spare) [[unlikely]] {
+        fail(fault, Error::SpareFspecBit, at + std::countl_zero(spare) / 7);
+        return false;
+    }
+    record.data = at;
+    record.uap = uap;
+    return Walk{*uap, end, record, fault}.items(fspec.present, fspec.next);
+}
+
 } // namespace
 
 std::size_t presenceLength(const unsigned char *at, const unsigned char *end, Fault &fault)
@@ -205,6 +222,26 @@ std::size_t presenceLength(const unsigned char *at, const unsigned char *end, Fa
             return fail(fault, Error::ItemTruncated, end);
     } while (*next++ & 1);
     return static_cast<std::size_t>(next - at);
+}
+
+bool hasKnownContents(const Node &node, const unsigned char *at)
+{
+    const unsigned char *const end = at + at[0];
+    const std::size_t known = std::min<std::size_t>(node.children.size(), 8);
+    if (at[0] < 2 || at[1] == 0 || (known < 8 && (at[1] & (0xFFU >> known))))
+        return false;
+    const Presence presence(node, at);
+    const unsigned char *next = presence.contents();
+    Fault fault;
+    for (std::size_t i = 0; i < presence.positions(); ++i) {
+        if (!presence.has(i))
+            continue;
+        const std::size_t length = itemLength(node.children[i], next, end, fault);
+        if (length == 0)
+            return false;
+        next += length;
+    }
+    return next == end;
 }
 
 std::size_t itemLength(const Node &node, const unsigned char *at, const unsigned char *end, Fault &fault)
@@ -225,20 +262,29 @@ std::size_t itemLength(const Node &node, const unsigned char *at, const unsigned
     }
 }
 
-bool walkRecord(const CategoryTable &table, const Uap *forced, const unsigned char *at, const unsigned char *end,
-    _ast_datarecord_t &record, Fault &fault)
+void decodeRecords(_ast_datablock_t &block, const unsigned char *data, const CategoryTable &table, const Uap *forced)
 {
-    const Fspec fspec = readFspec(at, end, fault);
-    if (!fspec.next)
-        return false;
-    const Uap *uap = forced ? forced : selectUap(table, fspec, end);
-    if (const std::uint64_t spare = fspec.present & ~uap->defined; spare) [[unlikely]] {
-        fail(fault, Error::SpareFspecBit, at + std::countl_zero(spare) / 7);
-        return false;
+    if (forced && forced->layout != &table.layout)
+        forced = nullptr;
+    constexpr std::size_t headerOctets = 3;
+    const unsigned char *at = data + headerOctets;
+    const unsigned char *const end = data + block.size;
+    block.records.clear();
+    block.valid = false;
+    block.error = Error::None;
+    block.errorOffset = 0;
+    Fault fault;
+    while (at < end) {
+        _ast_datarecord_t &record = block.records.emplace_back();
+        if (!walkRecord(table, forced, at, end, record, fault)) {
+            block.records.pop_back();
+            block.error = fault.error;
+            block.errorOffset = static_cast<std::uint32_t>(fault.at - data);
+            return;
+        }
+        at += record.length;
     }
-    record.data = at;
-    record.uap = uap;
-    return Walk{*uap, end, record, fault}.items(fspec.present, fspec.next);
+    block.valid = true;
 }
 
 } // namespace korvane::asterix

@@ -75,14 +75,15 @@ public:
     bool addRepetition(std::string_view path);
     bool addRepetition(Handle repetitive);
     // Sets the contents, without the length octet, of an explicit item (RE, SP: at most 254 octets), or a whole field
-    // of any width (I048/250 MBDATA: exactly its octets).
+    // of any width (I048/250 MBDATA: exactly its octets). The sub-items of a reserved expansion field whose contents
+    // have a table can be set instead ("RE/STA/ES"); contents that are set as a whole take their place.
     bool setExplicit(std::string_view path, std::span<const unsigned char> contents);
     bool setExplicit(Handle field, std::span<const unsigned char> contents);
     // Marks an item or sub-item as present with all that is not set in it zero: for items that are sent empty.
     bool setPresent(std::string_view path);
 
     // Appends the record to the block. False, with the block as it was, when it does not fit (a block ends at 65,535
-    // octets) or has an item that its UAP has no place for.
+    // octets, an explicit item at 255) or has an item that its UAP has no place for.
     bool endRecord();
 
     // The whole block, category and length included, valid until the next call that is not const.

@@ -36,6 +36,14 @@ struct RecordPlace {
     std::int64_t timeMilliseconds = 0; // of reception, since 1970 UTC, not negative
 };
 
+// How a reserved expansion field is written.
+enum class Expansion : std::uint8_t {
+    AsHexText, // like any explicit item
+    // As an object of its sub-items, where its contents have a table (CAT021 from edition 2.1 on, CAT048, CAT062) and
+    // fit it to the last octet; as hexadecimal text otherwise.
+    AsObject,
+};
+
 // Appends one line
 //     {"cat":48,"block":3,"offset":31,"length":17,"time":1700000000.125,"items":{"010":{"SAC":25,"SIC":201},...}}
 // with every sub-field of the record in the order of its UAP. A value is
@@ -47,6 +55,7 @@ struct RecordPlace {
 //     repetitive          an array
 //     explicit            the contents without their length, as hexadecimal text
 // Numbers read back as the same double that the typed records have. The record must be valid.
-void appendRecordJson(TextBuffer &out, const _ast_datarecord_t &record, const RecordPlace &place);
+void appendRecordJson(TextBuffer &out, const _ast_datarecord_t &record, const RecordPlace &place,
+    Expansion expansion = Expansion::AsHexText);
 
 } // namespace korvane::asterix

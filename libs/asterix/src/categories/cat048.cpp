@@ -128,7 +128,7 @@ constexpr Field items[] = {
     item("Aircraft Identification", icao("240", 48)),
     item("BDS Register Data", repetitive("250", item250)),
     item("ACAS Resolution Advisory Report", raw("260", 56)),
-    item("Reserved Expansion Field", explicitLength("RE")),
+    item("Reserved Expansion Field", expansion("RE", cat048Expansion)),
     item("Special Purpose Field", explicitLength("SP")),
 };
 

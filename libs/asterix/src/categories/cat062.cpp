@@ -268,7 +268,7 @@ constexpr Field items[] = {
     item("Flight Plan Related Data", compound("390", item390)),
     item("Estimated Accuracies", compound("500", item500)),
     item("Composed Track Number", repetitiveFx("510", item510)),
-    item("Reserved Expansion Field", explicitLength("RE")),
+    item("Reserved Expansion Field", expansion("RE", cat062Expansion)),
     item("Special Purpose Field", explicitLength("SP")),
 };
 

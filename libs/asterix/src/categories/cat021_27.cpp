@@ -1,0 +1,211 @@
+#include "categories/categories.h"
+
+namespace korvane::asterix {
+namespace {
+
+// I021/008 Aircraft Operational Status
+constexpr Field item008[] = {
+    raw("RA", 1), raw("TC", 2), raw("TS", 1), raw("ARV", 1), raw("CDTIA", 1), raw("NOTTCAS", 1), raw("SA", 1)};
+
+// I021/010 Data Source Identification
+constexpr Field item010[] = {raw("SAC", 8), raw("SIC", 8)};
+
+// I021/040 Target Report Descriptor
+constexpr Field item040Tbc[] = {raw("EP", 1), integer("VAL", 6)};
+constexpr Field item040Mbc[] = {raw("EP", 1), integer("VAL", 6)};
+constexpr Field item040[] = {
+    raw("ATP", 3), raw("ARC", 2), raw("RC", 1), raw("RAB", 1), fx, //
+    raw("DCR", 1), raw("GBS", 1), raw("SIM", 1), raw("TST", 1), raw("SAA", 1), raw("CL", 2), fx, //
+    spare(1), raw("LLC", 1), raw("IPC", 1), raw("NOGO", 1), raw("CPR", 1), raw("LDPJ", 1), raw("RCF", 1), fx, //
+    group("TBC", item040Tbc), fx, //
+    group("MBC", item040Mbc), fx, //
+};
+
+// I021/070 Mode 3/A Code in Octal Representation
+constexpr Field item070[] = {spare(4), octal("MODE3A", 12)};
+
+// I021/074 Time of Message Reception of Position-High Precision
+constexpr Field item074[] = {raw("FSI", 2), quantity("TOMRP", 30, {1, 1073741824}, "s")};
+
+// I021/076 Time of Message Reception of Velocity-High Precision
+constexpr Field item076[] = {raw("FSI", 2), quantity("TOMRP", 30, {1, 1073741824}, "s")};
+
+// I021/090 Quality Indicators
+constexpr Field item090Valstate[] = {raw("EP", 1), raw("VAL", 2)};
+constexpr Field item090[] = {
+    raw("NUCRNACV", 3), raw("NUCPNIC", 4), fx, //
+    raw("NICBARO", 1), raw("SIL", 2), raw("NACP", 4), fx, //
+    spare(2), raw("SILS", 1), raw("SDA", 2), raw("GVA", 2), fx, //
+    raw("PIC", 4), raw("SRC", 1), spare(2), fx, //
+    spare(2), group("VALSTATE", item090Valstate), raw("VD", 1), raw("VQ", 1), fx, //
+    quantity("VALDISTP1", 7, {128, 1}, "m"), fx, //
+    quantity("VALDISTP2", 7, {1, 1}, "m"), fx, //
+    quantity("VALDISTQUALP1", 7, {128, 1}, "m"), fx, //
+    quantity("VALDISTQUALP2", 7, {1, 1}, "m"), fx, //
+};
+
+// I021/110 Trajectory Intent
+constexpr Field item110Tis[] = {
+    raw("NAV", 1), raw("NVB", 1), spare(5), fx, //
+};
+constexpr Field item110Tid[] = {raw("TCA", 1), raw("NC", 1), raw("TCPN", 6), signedQuantity("ALT", 16, {10, 1}, "ft"),
+    signedQuantity("LAT", 24, {180, 8388608}, "°"), signedQuantity("LON", 24, {180, 8388608}, "°"), raw("PT", 4),
+    raw("TD", 2), raw("TRA", 1), raw("TOA", 1), quantity("TOV", 24, {1, 1}, "s"), quantity("TTR", 16, {1, 100}, "NM")};
+constexpr Field item110[] = {
+    extended("TIS", item110Tis),
+    repetitive("TID", item110Tid),
+};
+
+// I021/130 Position in WGS-84 Co-ordinates
+constexpr Field item130[] = {
+    signedQuantity("LAT", 24, {180, 8388608}, "°"), signedQuantity("LON", 24, {180, 8388608}, "°")};
+
+// I021/131 High-Resolution Position in WGS-84 Co-ordinates
+constexpr Field item131[] = {
+    signedQuantity("LAT", 32, {180, 1073741824}, "°"), signedQuantity("LON", 32, {180, 1073741824}, "°")};
+
+// I021/146 Selected Altitude
+constexpr Field item146[] = {raw("SAS", 1), raw("S", 2), signedQuantity("ALT", 13, {25, 1}, "ft")};
+
+// I021/148 Final State Selected Altitude
+constexpr Field item148[] = {raw("MV", 1), raw("AH", 1), raw("AM", 1), signedQuantity("ALT", 13, {25, 1}, "ft")};
+
+// I021/150 Air Speed
+constexpr Field item150AsCases[] = {
+    when(0, quantity("AS", 15, {1, 16384}, "NM/s")), when(1, quantity("AS", 15, {1, 1000}, "Mach"))};
+constexpr Field item150[] = {raw("IM", 1), caseOf("AS", "150/IM", item150AsCases)};
+
+// I021/151 True Airspeed
+constexpr Field item151[] = {raw("RE", 1), quantity("TAS", 15, {1, 1}, "kt")};
+
+// I021/155 Barometric Vertical Rate
+constexpr Field item155[] = {raw("RE", 1), signedQuantity("BVR", 15, {25, 4}, "ft/min")};
+
+// I021/157 Geometric Vertical Rate
+constexpr Field item157[] = {raw("RE", 1), signedQuantity("GVR", 15, {25, 4}, "ft/min")};
+
+// I021/160 Airborne Ground Vector
+constexpr Field item160[] = {
+    raw("RE", 1), quantity("GS", 15, {1, 16384}, "NM/s"), quantity("TA", 16, {360, 65536}, "°")};
+
+// I021/161 Track Number
+constexpr Field item161[] = {spare(4), raw("TRNUM", 12)};
+
+// I021/165 Track Angle Rate
+constexpr Field item165[] = {spare(6), signedQuantity("TAR", 10, {1, 32}, "°/s")};
+
+// I021/200 Target Status
+constexpr Field item200[] = {raw("ICF", 1), raw("LNAV", 1), raw("ME", 1), raw("PS", 3), raw("SS", 2)};
+
+// I021/210 MOPS Version
+constexpr Field item210[] = {spare(1), raw("VNS", 1), raw("VN", 3), raw("LTT", 3)};
+
+// I021/220 Met Information
+constexpr Field item220[] = {
+    quantity("WS", 16, {1, 1}, "kt"),
+    quantity("WD", 16, {1, 1}, "°"),
+    signedQuantity("TMP", 16, {1, 4}, "°C"),
+    integer("TRB", 8),
+};
+
+// I021/250 Mode S MB Data
+constexpr Field item250[] = {raw(nullptr, 64)};
+
+// I021/260 ACAS Resolution Advisory Report
+constexpr Field item260[] = {raw("TYP", 5), raw("STYP", 3), raw("ARA", 14), raw("RAC", 4), raw("RAT", 1), raw("MTE", 1),
+    raw("TTI", 2), raw("TID", 26)};
+
+// I021/271 Surface Capabilities and Characteristics
+constexpr Field item271[] = {
+    spare(2), raw("POA", 1), raw("CDTIS", 1), raw("B2LOW", 1), raw("RAS", 1), raw("IDENT", 1), fx, //
+    raw("LW", 4), spare(3), fx, //
+};
+
+// I021/295 Data Ages
+constexpr Field item295[] = {
+    quantity("AOS", 8, {1, 10}, "s"),
+    quantity("TRD", 8, {1, 10}, "s"),
+    quantity("M3A", 8, {1, 10}, "s"),
+    quantity("QI", 8, {1, 10}, "s"),
+    quantity("TI1", 8, {1, 10}, "s"),
+    quantity("MAM", 8, {1, 10}, "s"),
+    quantity("GH", 8, {1, 10}, "s"),
+    quantity("FL", 8, {1, 10}, "s"),
+    quantity("SAL", 8, {1, 10}, "s"),
+    quantity("FSA", 8, {1, 10}, "s"),
+    quantity("AS", 8, {1, 10}, "s"),
+    quantity("TAS", 8, {1, 10}, "s"),
+    quantity("MH", 8, {1, 10}, "s"),
+    quantity("BVR", 8, {1, 10}, "s"),
+    quantity("GVR", 8, {1, 10}, "s"),
+    quantity("GV", 8, {1, 10}, "s"),
+    quantity("TAR", 8, {1, 10}, "s"),
+    quantity("TI2", 8, {1, 10}, "s"),
+    quantity("TS", 8, {1, 10}, "s"),
+    quantity("MET", 8, {1, 10}, "s"),
+    quantity("ROA", 8, {1, 10}, "s"),
+    quantity("ARA", 8, {1, 10}, "s"),
+    quantity("SCC", 8, {1, 10}, "s"),
+};
+
+constexpr Field items[] = {
+    item("Aircraft Operational Status", group("008", item008)),
+    item("Data Source Identification", group("010", item010)),
+    item("Service Identification", raw("015", 8)),
+    item("Service Management", quantity("016", 8, {1, 2}, "s")),
+    item("Emitter Category", raw("020", 8)),
+    item("Target Report Descriptor", extended("040", item040)),
+    item("Mode 3/A Code in Octal Representation", group("070", item070)),
+    item("Time of Applicability for Position", quantity("071", 24, {1, 128}, "s")),
+    item("Time of Applicability for Velocity", quantity("072", 24, {1, 128}, "s")),
+    item("Time of Message Reception for Position", quantity("073", 24, {1, 128}, "s")),
+    item("Time of Message Reception of Position-High Precision", group("074", item074)),
+    item("Time of Message Reception for Velocity", quantity("075", 24, {1, 128}, "s")),
+    item("Time of Message Reception of Velocity-High Precision", group("076", item076)),
+    item("Time of ASTERIX Report Transmission", quantity("077", 24, {1, 128}, "s")),
+    item("Target Address", raw("080", 24)),
+    item("Quality Indicators", extended("090", item090)),
+    item("Trajectory Intent", compound("110", item110)),
+    item("Position in WGS-84 Co-ordinates", group("130", item130)),
+    item("High-Resolution Position in WGS-84 Co-ordinates", group("131", item131)),
+    item("Message Amplitude", signedQuantity("132", 8, {1, 1}, "dBm")),
+    item("Geometric Height", signedQuantity("140", 16, {25, 4}, "ft")),
+    item("Flight Level", signedQuantity("145", 16, {1, 4}, "FL")),
+    item("Selected Altitude", group("146", item146)),
+    item("Final State Selected Altitude", group("148", item148)),
+    item("Air Speed", group("150", item150)),
+    item("True Airspeed", group("151", item151)),
+    item("Magnetic Heading", quantity("152", 16, {360, 65536}, "°")),
+    item("Barometric Vertical Rate", group("155", item155)),
+    item("Geometric Vertical Rate", group("157", item157)),
+    item("Airborne Ground Vector", group("160", item160)),
+    item("Track Number", group("161", item161)),
+    item("Track Angle Rate", group("165", item165)),
+    item("Target Identification", icao("170", 48)),
+    item("Target Status", group("200", item200)),
+    item("MOPS Version", group("210", item210)),
+    item("Met Information", compound("220", item220)),
+    item("Roll Angle", signedQuantity("230", 16, {1, 100}, "°")),
+    item("Mode S MB Data", repetitive("250", item250)),
+    item("ACAS Resolution Advisory Report", group("260", item260)),
+    item("Surface Capabilities and Characteristics", extended("271", item271)),
+    item("Data Ages", compound("295", item295)),
+    item("Receiver ID", raw("400", 8)),
+    item("Reserved Expansion Field", expansion("RE", cat021Expansion)),
+    item("Special Purpose Field", explicitLength("SP")),
+};
+
+// Item names by field reference number.
+constexpr const char *order[] = {"010", "040", "161", "015", "071", "130", "131", "072", "150", "151", "080", "073",
+    "074", "075", "076", "140", "090", "210", "070", "230", "145", "152", "200", "155", "157", "160", "165", "077",
+    "170", "020", "220", "146", "148", "110", "016", "008", "271", "132", "250", "260", "400", "295", Unused, Unused,
+    Unused, Unused, Unused, "RE", "SP"};
+
+constexpr Variation variations[] = {variation("", order)};
+
+} // namespace
+
+constexpr Edition cat021Edition27{
+    21, "2.7", "ADS-B Target Reports", items, std::size(items), variations, std::size(variations)};
+
+} // namespace korvane::asterix
