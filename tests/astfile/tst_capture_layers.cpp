@@ -32,10 +32,12 @@ QByteArray udp(const QByteArray &payload)
 }
 
 // flagsAndOffset as in the header: 0x2000 more fragments, the rest the offset in units of eight octets.
-QByteArray ipv4(const QByteArray &body, int flagsAndOffset = 0, int identification = 7)
+QByteArray ipv4(const QByteArray &body, int flagsAndOffset = 0, int identification = 7, const QByteArray &options = {})
 {
-    return hex("4500") + big16(static_cast<int>(body.size()) + 20) + big16(identification) + big16(flagsAndOffset)
-        + hex("4011 0000 0a000001 0a000002") + body;
+    const int headerSize = 20 + static_cast<int>(options.size());
+    return QByteArray(1, static_cast<char>(0x40 | headerSize / 4)) + '\0'
+        + big16(static_cast<int>(body.size()) + headerSize) + big16(identification) + big16(flagsAndOffset)
+        + hex("4011 0000 0a000001 0a000002") + options + body;
 }
 
 QByteArray ipv6(const QByteArray &body, int nextHeader = 17)
@@ -107,11 +109,15 @@ private Q_SLOTS:
         };
         row("Ethernet, IPv4", Ethernet, ethernet(hex("0800"), v4));
         row("Ethernet, IPv4, padded to the shortest frame", Ethernet, ethernet(hex("0800"), v4) + QByteArray(13, '\0'));
+        row("IPv4 with options", Ethernet, ethernet(hex("0800"), ipv4(udp("hello"), 0, 7, hex("94040000 01010100"))));
+        row("IPv4, TCP beside it", Ethernet, ethernet(hex("0800"), QByteArray(v4).replace(9, 1, "\x06")), false);
+        row("IPv6, TCP beside it", RawIp, ipv6(udp("hello"), 6), false);
         row("Ethernet, two VLAN tags", Ethernet, ethernet(hex("88a8 0002 8100 0064 86dd"), v6));
         row("Ethernet, VLAN tag cut short", Ethernet, ethernet(hex("8100 00"), {}), false);
         row("cooked, first version", CookedV1, hex("0000 0001 0006 020000000001 0000 0800") + v4);
         row("cooked, second version", CookedV2, hex("86dd 0000 00000002 0001 00 06 0200000000010000") + v6);
         row("loopback, IPv6, family in the other octet order", 0, hex("0000001e") + v6);
+        row("loopback of the other kind, IPv4", 108, hex("00000002") + v4);
         row("raw, neither", RawIp, hex("55") + v4, false);
         row("IPv4 header shorter than can be", RawIp, QByteArray(v4).replace(0, 1, "\x44"), false);
         row("IPv4 length shorter than its header", RawIp, QByteArray(v4).replace(2, 2, hex("0013")), false);

@@ -60,9 +60,12 @@ private Q_SLOTS:
         QCOMPARE(RecFile::formatFromFileName("day.1.ast"), RecFile::RawAsterix);
         QCOMPARE(RecFile::formatFromFileName("a.pcap.txt"), RecFile::Unknown);
         QCOMPARE(RecFile::formatFromFileName("pcap"), RecFile::Unknown);
+        QCOMPARE(RecFile::formatFromFileName("day.ff.GZ"), RecFile::FinalFormat);
+        QCOMPARE(RecFile::formatFromFileName("day.gz"), RecFile::Unknown);
         QCOMPARE(RecFile::formatNameFilter({RecFile::Pcap, RecFile::Unknown, RecFile::RawAsterix}),
-            QStringLiteral("Recording files (*.pcap *.cap *.ast);;Network capture (*.pcap *.cap);;"
-                           "Raw ASTERIX data blocks (*.ast)"));
+            QStringLiteral("Recording files (*.pcap *.pcap.gz *.cap *.cap.gz *.ast *.ast.gz);;"
+                           "Network capture (*.pcap *.pcap.gz *.cap *.cap.gz);;"
+                           "Raw ASTERIX data blocks (*.ast *.ast.gz)"));
     }
 
     void readsToTheEndOrTheFault_data()

@@ -3,7 +3,6 @@
 #include "link_layer.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <pcap/pcap.h>
 
@@ -28,59 +27,79 @@ void CaptureReader::Closer::operator()(pcap *capture) const
     pcap_close(capture);
 }
 
-bool CaptureReader::open(const QString &fileName, const RecFile::Format &format)
+bool CaptureReader::openFile(const QString &fileName, RecFile::Format format)
 {
-    close();
-    m_lastError.clear();
     if (format != RecFile::Pcap && format != RecFile::PcapNg) {
         return fail(tr("This reader reads network captures only."));
     }
-    m_fileName = fileName;
-    return openCapture();
+    auto source = OctetSource::open(fileName, &m_lastError);
+    if (!source) {
+        return false;
+    }
+    m_stream = std::make_unique<CaptureStream>(std::move(source));
+    if (openCapture(m_stream->openWhole())) {
+        return true;
+    }
+    closeFile();
+    return false;
 }
 
-void CaptureReader::close()
+void CaptureReader::closeFile()
 {
     m_capture.reset();
+    m_file = nullptr;
+    m_stream.reset();
     m_extractor.clear();
-    m_broken = false;
-    m_atEnd = true;
+    m_stopped = true;
 }
 
-bool CaptureReader::reset()
+bool CaptureReader::rewindFile()
 {
-    m_lastError.clear();
-    if (!m_capture) {
-        return fail(tr("No file is open."));
+    m_capture.reset();
+    return openCapture(m_stream->openWhole());
+}
+
+bool CaptureReader::resumeAt(const RecordingIndex::Entry &entry)
+{
+    m_capture.reset();
+    return openCapture(m_stream->openAt(entry.prologue, entry.offset));
+}
+
+bool CaptureReader::openCapture(std::FILE *stream)
+{
+    m_extractor.clear();
+    m_stopped = true;
+    if (!stream) {
+        return fail(reasonOf(std::strerror(errno)));
     }
-    close();
-    return openCapture();
-}
-
-bool CaptureReader::openCapture()
-{
     char reason[PCAP_ERRBUF_SIZE] = {};
-    m_capture.reset(pcap_open_offline(QFile::encodeName(m_fileName).constData(), reason));
+    m_file = stream;
+    m_capture.reset(pcap_fopen_offline(stream, reason));
     if (!m_capture) {
-        return fail(QString::fromLocal8Bit(reason));
+        std::fclose(stream);
+        return fail(reasonOf(reason));
     }
     m_linkType = pcap_datalink(m_capture.get());
     if (!linkTypeKnown(m_linkType)) {
         const char *name = pcap_datalink_val_to_name(m_linkType);
-        close();
         return fail(
             tr("Link type %1 is not supported.").arg(name ? QString::fromLatin1(name) : QString::number(m_linkType)));
     }
-    m_atEnd = false;
+    m_stopped = false;
     return true;
 }
 
-void CaptureReader::read(DataPacket *packet)
+// Of two the cause: why the file could not be read, or what libpcap made of it.
+QString CaptureReader::reasonOf(const char *libraryReason) const
 {
-    setEnd(packet);
-    m_atEnd = m_atEnd || m_broken;
-    while (!m_atEnd) {
-        const qint64 offset = position();
+    const QString cause = m_stream->source()->error();
+    return cause.isEmpty() ? QString::fromLocal8Bit(libraryReason) : cause;
+}
+
+void CaptureReader::readNext(DataPacket *packet)
+{
+    while (!m_stopped) {
+        const qint64 offset = m_stream->fileOffset(m_file);
         pcap_pkthdr *header = nullptr;
         const unsigned char *frame = nullptr;
         const int result = pcap_next_ex(m_capture.get(), &header, &frame);
@@ -89,12 +108,11 @@ void CaptureReader::read(DataPacket *packet)
                 packet->offset = offset;
                 return;
             }
-        } else if (result == PCAP_ERROR_BREAK) {
-            m_atEnd = true;
-        } else {
-            m_broken = true;
-            setError(packet, offset, QString::fromLocal8Bit(pcap_geterr(m_capture.get())));
-            return;
+            continue;
+        }
+        m_stopped = true;
+        if (result != PCAP_ERROR_BREAK) {
+            setError(packet, offset, reasonOf(pcap_geterr(m_capture.get())));
         }
     }
 }
@@ -117,9 +135,9 @@ bool CaptureReader::takeDatagram(const pcap_pkthdr &header, const unsigned char 
     return true;
 }
 
-qint64 CaptureReader::position() const
+const QByteArray *CaptureReader::prologueAt(qint64 offset)
 {
-    return ftello(pcap_file(m_capture.get()));
+    return m_stream->prologueAt(offset);
 }
 
 } // namespace korvane::astfile

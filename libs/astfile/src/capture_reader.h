@@ -1,6 +1,7 @@
 #pragma once
 
 #include "astfile/file_reader.h"
+#include "capture_stream.h"
 #include "udp_extractor.h"
 
 struct pcap;
@@ -11,30 +12,33 @@ namespace korvane::astfile {
 // Network captures of both kinds: a packet is the payload of one UDP datagram, stamped as its last fragment was.
 class CaptureReader final : public FileReader {
 public:
+    CaptureReader() = default;
     ~CaptureReader() override;
 
-    bool open(const QString &fileName, const RecFile::Format &format) override;
-    void close() override;
-    using FileReader::read;
-    void read(DataPacket *packet) override;
-    bool atEnd() const override { return m_atEnd; }
-    bool reset() override;
+protected:
+    bool openFile(const QString &fileName, RecFile::Format format) override;
+    void closeFile() override;
+    bool rewindFile() override;
+    void readNext(DataPacket *packet) override;
+    bool resumeAt(const RecordingIndex::Entry &entry) override;
+    const QByteArray *prologueAt(qint64 offset) override;
+    OctetSource *source() const override { return m_stream ? m_stream->source() : nullptr; }
 
 private:
     struct Closer {
         void operator()(pcap *capture) const;
     };
 
-    bool openCapture();
+    bool openCapture(std::FILE *stream);
     bool takeDatagram(const pcap_pkthdr &header, const unsigned char *frame, DataPacket *packet);
-    qint64 position() const;
+    QString reasonOf(const char *libraryReason) const;
 
-    QString m_fileName;
+    std::unique_ptr<CaptureStream> m_stream; // outlives the capture that reads from it
     std::unique_ptr<pcap, Closer> m_capture;
+    std::FILE *m_file = nullptr; // the capture's
     int m_linkType = 0;
     UdpExtractor m_extractor;
-    bool m_broken = false; // after an error nothing can be read
-    bool m_atEnd = true;
+    bool m_stopped = true; // after an error
 };
 
 } // namespace korvane::astfile

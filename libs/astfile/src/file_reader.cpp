@@ -1,11 +1,23 @@
 #include "astfile/file_reader.h"
 
 #include "capture_reader.h"
-#include "raw_block_reader.h"
+#include "octet_source.h"
+#include "stream_reader.h"
 
 #include <QCoreApplication>
 
 namespace korvane::astfile {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("FileReader", text);
+}
+
+} // namespace
+
+FileReader::~FileReader() = default;
 
 std::unique_ptr<FileReader> FileReader::create(const RecFile::Format &format, QString *error)
 {
@@ -14,14 +26,47 @@ std::unique_ptr<FileReader> FileReader::create(const RecFile::Format &format, QS
     case RecFile::PcapNg:
         return std::make_unique<CaptureReader>();
     case RecFile::RawAsterix:
-        return std::make_unique<RawBlockReader>();
-    default:
-        if (error) {
-            *error = QCoreApplication::translate("FileReader", "%1 (format %2) cannot be read.")
-                         .arg(RecFile::formatName(format), QString::number(format));
-        }
-        return nullptr;
+    case RecFile::FinalFormat:
+    case RecFile::Gps:
+    case RecFile::ModeS:
+        return std::make_unique<StreamReader>();
+    case RecFile::Unknown:
+        break;
     }
+    if (error) {
+        *error = tr("%1 (format %2) cannot be read.").arg(RecFile::formatName(format), QString::number(format));
+    }
+    return nullptr;
+}
+
+bool FileReader::open(const QString &fileName, const RecFile::Format &format)
+{
+    close();
+    m_lastError.clear();
+    m_open = openFile(fileName, format);
+    m_atEnd = !m_open;
+    return m_open;
+}
+
+void FileReader::close()
+{
+    closeFile();
+    m_index = {};
+    m_isHeld = false;
+    m_open = false;
+    m_atEnd = true;
+}
+
+void FileReader::read(DataPacket *packet)
+{
+    setEnd(packet);
+    if (m_isHeld) {
+        std::swap(*packet, m_held);
+        m_isHeld = false;
+    } else if (m_open && !m_atEnd) {
+        readNext(packet);
+    }
+    m_atEnd = packet->kind == DataPacket::End;
 }
 
 DataPacket FileReader::read()
@@ -29,6 +74,69 @@ DataPacket FileReader::read()
     DataPacket packet;
     read(&packet);
     return packet;
+}
+
+bool FileReader::reset()
+{
+    m_lastError.clear();
+    if (!m_open) {
+        return fail(tr("No file is open."));
+    }
+    m_isHeld = false;
+    m_atEnd = !rewindFile();
+    return !m_atEnd;
+}
+
+bool FileReader::seek(const QDateTime &time)
+{
+    const qint64 timeMs = time.toMSecsSinceEpoch();
+    if (!positionBefore(timeMs)) {
+        return false;
+    }
+    bool anyTime = false;
+    do {
+        setEnd(&m_held);
+        readNext(&m_held);
+        anyTime = anyTime || m_held.timeStamp.isValid();
+    } while (m_held.kind == DataPacket::Data
+        && (!m_held.timeStamp.isValid() || m_held.timeStamp.toMSecsSinceEpoch() < timeMs));
+    if (m_held.kind == DataPacket::Error) {
+        return false;
+    }
+    m_isHeld = true;
+    return anyTime || (!m_index.isNull() && m_index.first().isValid()) || fail(tr("The recording has no time stamps."));
+}
+
+bool FileReader::positionBefore(qint64 timeMs)
+{
+    const RecordingIndex::Entry *entry = m_open ? m_index.entryBefore(timeMs) : nullptr;
+    if (!entry) {
+        return reset();
+    }
+    m_lastError.clear();
+    m_isHeld = false;
+    m_atEnd = !resumeAt(*entry);
+    return !m_atEnd;
+}
+
+bool FileReader::setIndex(const RecordingIndex &index)
+{
+    if (!m_open || index.isNull() || index.fileSize() != octetsTotal()) {
+        return false;
+    }
+    m_index = index;
+    source()->setMarks(index.marks());
+    return true;
+}
+
+qint64 FileReader::octetsRead() const
+{
+    return m_open ? source()->octetsRead() : 0;
+}
+
+qint64 FileReader::octetsTotal() const
+{
+    return m_open ? source()->octetsTotal() : 0;
 }
 
 bool FileReader::fail(const QString &reason)

@@ -112,11 +112,8 @@ void appendUdp(QByteArray &octets, std::uint16_t length, const PcapWriter::Endpo
 
 bool PcapWriter::open(const QString &fileName, LinkType linkType)
 {
-    m_lastError.clear();
-    m_file.close();
-    m_file.setFileName(fileName);
-    if (!m_file.open(QIODevice::WriteOnly)) {
-        return fail(m_file.errorString());
+    if (!openFile(fileName)) {
+        return false;
     }
     m_linkType = linkType;
     m_identification = 0;
@@ -127,14 +124,14 @@ bool PcapWriter::open(const QString &fileName, LinkType linkType)
     appendLittle<std::uint64_t>(header, 0); // time zone and accuracy, unused
     appendLittle(header, SnapLength);
     appendLittle(header, static_cast<std::uint32_t>(linkType));
-    return m_file.write(header) == header.size() || fail(m_file.errorString());
+    return append(header);
 }
 
 bool PcapWriter::write(
     const QDateTime &timeStamp, const Endpoint &source, const Endpoint &destination, const QByteArray &payload)
 {
-    if (!m_file.isOpen()) {
-        return fail(tr("No file is open."));
+    if (!writable()) {
+        return false;
     }
     if (payload.size() > MaxPayload) {
         return fail(tr("A payload of %1 octets does not fit into a datagram.").arg(payload.size()));
@@ -156,24 +153,7 @@ bool PcapWriter::write(
     }
     appendIpv4Header(m_record, m_identification++, udpLength, source, destination);
     appendUdp(m_record, udpLength, source, destination, payload);
-    return m_file.write(m_record) == m_record.size() || fail(m_file.errorString());
-}
-
-bool PcapWriter::close()
-{
-    if (!m_file.isOpen()) {
-        return true;
-    }
-    const bool written = m_file.flush();
-    const QString reason = m_file.errorString();
-    m_file.close();
-    return written || fail(reason);
-}
-
-bool PcapWriter::fail(const QString &reason)
-{
-    m_lastError = reason;
-    return false;
+    return append(m_record);
 }
 
 } // namespace korvane::astfile

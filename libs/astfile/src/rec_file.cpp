@@ -14,17 +14,21 @@ namespace {
 struct FormatRow {
     RecFile::Format format;
     const char *name;
-    std::array<const char *, 2> suffixes; // the second may be null
+    std::array<const char *, 3> suffixes; // null where there are fewer
 };
 
 constexpr std::array Formats = {
-    FormatRow{RecFile::Pcap, QT_TRANSLATE_NOOP("RecFile", "Network capture"), {"pcap", "cap"}},
-    FormatRow{RecFile::PcapNg, QT_TRANSLATE_NOOP("RecFile", "Network capture, next generation"), {"pcapng", nullptr}},
-    FormatRow{RecFile::RawAsterix, QT_TRANSLATE_NOOP("RecFile", "Raw ASTERIX data blocks"), {"ast", nullptr}},
-    FormatRow{RecFile::FinalFormat, QT_TRANSLATE_NOOP("RecFile", "Final format recording"), {"ff", nullptr}},
-    FormatRow{RecFile::Gps, QT_TRANSLATE_NOOP("RecFile", "GPS recording"), {"gps", nullptr}},
-    FormatRow{RecFile::ModeS, QT_TRANSLATE_NOOP("RecFile", "Mode S recording"), {"modes", nullptr}},
+    FormatRow{RecFile::Pcap, QT_TRANSLATE_NOOP("RecFile", "Network capture"), {"pcap", "cap", nullptr}},
+    FormatRow{RecFile::PcapNg, QT_TRANSLATE_NOOP("RecFile", "Network capture, next generation"),
+        {"pcapng", nullptr, nullptr}},
+    FormatRow{RecFile::RawAsterix, QT_TRANSLATE_NOOP("RecFile", "Raw ASTERIX data blocks"), {"ast", nullptr, nullptr}},
+    FormatRow{RecFile::FinalFormat, QT_TRANSLATE_NOOP("RecFile", "Final format recording"), {"ff", nullptr, nullptr}},
+    FormatRow{RecFile::Gps, QT_TRANSLATE_NOOP("RecFile", "GPS recording"), {"gps", nullptr, nullptr}},
+    FormatRow{RecFile::ModeS, QT_TRANSLATE_NOOP("RecFile", "Mode S recording"), {"modes", "beast", "avr"}},
 };
+
+// Of packed files, behind the format's own.
+constexpr QLatin1String CompressedSuffix(".gz");
 
 const FormatRow *rowOf(RecFile::Format format)
 {
@@ -45,7 +49,8 @@ QStringList patternsOf(const FormatRow &row)
     QStringList patterns;
     for (const char *suffix : row.suffixes) {
         if (suffix) {
-            patterns += QStringLiteral("*.") + QLatin1String(suffix);
+            const QString pattern = QStringLiteral("*.") + QLatin1String(suffix);
+            patterns += {pattern, pattern + CompressedSuffix};
         }
     }
     return patterns;
@@ -60,7 +65,8 @@ QString filterEntry(const QString &name, const QStringList &patterns)
 
 RecFile::Format RecFile::formatFromFileName(const QString &fileName)
 {
-    const QString suffix = QFileInfo(fileName).suffix();
+    const bool packed = fileName.endsWith(CompressedSuffix, Qt::CaseInsensitive);
+    const QString suffix = QFileInfo(packed ? fileName.chopped(CompressedSuffix.size()) : fileName).suffix();
     for (const FormatRow &row : Formats) {
         if (hasSuffix(row, suffix)) {
             return row.format;

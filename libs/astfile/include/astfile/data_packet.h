@@ -15,9 +15,13 @@ struct DataPacket {
     };
 
     Kind kind = End;
-    QDateTime timeStamp; // UTC, milliseconds; invalid where the format stores none
-    QByteArray data; // payload of one datagram, or one data block of a raw recording; empty unless kind is Data
-    qint64 offset = 0; // octets from the start of the file to the record (of the last fragment) or to the fault
+    // UTC, milliseconds; invalid where the recording tells none. Formats that store a time of day alone begin on the
+    // day on which the file was last modified (the day before, where its time of day had not come by then); midnights
+    // are counted up. Mode S recordings count from midnight of that day.
+    QDateTime timeStamp;
+    QByteArray
+        data; // payload of one datagram or frame, or one data block of a raw recording; empty unless kind is Data
+    qint64 offset = 0; // octets from the start of the (unpacked) file to the record (of the last fragment) or fault
     QString error; // reason, for Error only
 };
 

@@ -13,14 +13,14 @@ public:
         Unknown = 0,
         Pcap = 1, // network capture
         PcapNg = 2, // network capture, next generation
-        RawAsterix = 3, // ASTERIX data blocks one after the other, without time stamps
+        RawAsterix = 3, // ASTERIX data blocks one after the other, without time stamps of their own
         FinalFormat = 4, // data blocks in frames with a time stamp each
         Gps = 5, // data blocks with positioning-system time stamps
-        ModeS = 6, // Mode S frames
+        ModeS = 6, // Mode S frames as receivers hand them out, binary or text
     };
 
-    // By the suffix of the name, in upper or lower case; the file itself is not
-    // looked at. Unknown for any other suffix.
+    // By the suffix of the name, in upper or lower case, with or without ".gz" behind it; the file itself is not looked
+    // at. Unknown for any other suffix.
     static Format formatFromFileName(const QString &fileName);
 
     // Name for lists and log lines, such as "Network capture".
