@@ -1,6 +1,7 @@
 #include "app/config.h"
 
 #include "app/app_paths.h"
+#include "app/weather_color_scheme.h"
 
 #include <QSettings>
 #include <QTimeZone>
@@ -462,9 +463,9 @@ QString Config::defaultDirectory(const QString &suffix)
     return AppPaths::storePath(AppPaths::appDataDir() + suffix);
 }
 
-// Green over yellow and red to purple, the sequence of reflectivity scales, from the weakest echo to the strongest.
 QList<QColor> Config::defaultWeatherColors()
 {
-    return {QColor(0x9B, 0xD7, 0x9B), QColor(0x4C, 0xB4, 0x4C), QColor(0x1E, 0x82, 0x2D), QColor(0xF0, 0xDC, 0x3C),
-        QColor(0xF0, 0x9B, 0x28), QColor(0xDC, 0x3C, 0x28), QColor(0xAF, 0x1E, 0x46), QColor(0x91, 0x3C, 0xAF)};
+    QList<QColor> colors = WeatherColorScheme::defaultScheme().colors();
+    colors.resize(WeatherColorScheme::Levels);
+    return colors;
 }

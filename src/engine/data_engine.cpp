@@ -3,7 +3,10 @@
 #include "astfile/file_reader.h"
 #include "engine/track_life_span.h"
 #include "processors/alert_manager.h"
+#include "processors/alert_processor.h"
+#include "tracking/adsb_tracker.h"
 #include "tracking/radar_tracker.h"
+#include "tracking/sdps_tracker.h"
 #include "tracking/track_manager.h"
 #include "tracking/tracker.h"
 
@@ -30,6 +33,8 @@ void DataEngine::init()
 {
     m_trackManager = QSharedPointer<TrackManager>::create();
     m_alertManager = QSharedPointer<AlertManager>::create();
+    makeProcessors();
+    connectRecorder();
     m_receiveBuffer.resize(ReceiveBufferSize);
     m_clock.start();
 
@@ -42,6 +47,19 @@ void DataEngine::init()
         timer->start(PublishPeriodMs);
     }
     publishSnapshot();
+}
+
+void DataEngine::makeProcessors()
+{
+    m_alertProcessor = QSharedPointer<AlertProcessor>::create(m_alertManager, m_trackManager);
+    connect(m_alertProcessor.data(), &AlertProcessor::message, this, &DataEngine::logMessage);
+    connect(m_alertProcessor.data(), &AlertProcessor::alertStatusChanged, this, &DataEngine::alertStatusChanged);
+    m_weatherProcessor = QSharedPointer<WeatherProcessor>::create();
+    connect(m_weatherProcessor.data(), &WeatherProcessor::message, this, &DataEngine::logMessage);
+    connect(m_weatherProcessor.data(), &WeatherProcessor::pictureReady, this, &DataEngine::publishWeatherPicture);
+    m_videoProcessor = QSharedPointer<VideoProcessor>::create();
+    connect(m_videoProcessor.data(), &VideoProcessor::message, this, &DataEngine::logMessage);
+    connect(m_videoProcessor.data(), &VideoProcessor::radialReady, this, &DataEngine::accumulateVideoRadial);
 }
 
 void DataEngine::openInput(
@@ -61,6 +79,7 @@ void DataEngine::openInput(
     }
     createTracker();
     m_alertManager->reset();
+    m_alertProcessor->resetAlertStatus();
     publishSnapshot();
 
     if (!processorAvailable() || !openInputByKind()) {
@@ -75,9 +94,15 @@ void DataEngine::openInput(
 void DataEngine::discardInputState()
 {
     m_mismatchingSources.clear();
+    m_modesDecoder = std::make_unique<korvane::modes::ModeSDecoder>();
+    m_modesMessage = std::make_shared<korvane::modes::ModeSMessage>();
+    m_receiverClock = {};
+    m_modesBuffer.clear();
+    m_aleniaSirMFailureReported = false;
     m_backlogTimer.invalidate();
     m_udpDrops = {};
     m_progressTimer.invalidate();
+    m_weatherProcessor->reset();
     m_videoBatch.reset();
     m_meter.reset();
     m_trackManager->reset();
@@ -93,16 +118,36 @@ void DataEngine::createTracker()
         return;
     }
     connect(m_tracker.data(), &Tracker::message, this, &DataEngine::logMessage);
+    configureTracker();
+}
+
+void DataEngine::configureTracker()
+{
     if (const auto *radar = qobject_cast<RadarTracker *>(m_tracker.data())) {
         connect(radar, &RadarTracker::antennaRotated, this, &DataEngine::antennaRotated);
         connect(radar, &RadarTracker::antennaNorthCrossed, this, &DataEngine::antennaNorthCrossed);
+    }
+    if (auto *system = qobject_cast<SystemTracker *>(m_tracker.data())) {
+        system->setIgnoreWgs84Coordinates(m_config.processorAsterixIgnoreWgs84Coordinates);
+        system->setIgnoreCartesianCoordinates(m_config.processorAsterixIgnoreCartesianCoordinates);
+    }
+    if (auto *sdps = qobject_cast<SdpsTracker *>(m_tracker.data())) {
+        sdps->setCorrectLongitudeWrap(m_config.processorAsterixCorrectLongitudeWrap);
+    }
+    if (auto *adsb = qobject_cast<AdsbTracker *>(m_tracker.data())) {
+        adsb->setAltituteBaroChecking(m_config.processorModeSBaroAltituteChecking,
+            m_config.processorModeSBaroAltituteCheckingTime, m_config.processorModeSBaroAltituteMaxChange);
+        adsb->setNoUpdatedTargetDeletionTime(m_config.processorModeSNoUpdatedTargetDeletionTime);
     }
 }
 
 // An input whose messages nothing decodes would look alive and show nothing, so it is not opened.
 bool DataEngine::processorAvailable()
 {
-    if (m_config.processorType == Config::ProcessorType::Asterix) {
+    switch (m_config.processorType) {
+    case Config::ProcessorType::Asterix:
+    case Config::ProcessorType::ModeS:
+    case Config::ProcessorType::AleniaSirM:
         return true;
     }
     Q_EMIT logMessage(LogLevel::Warning,
@@ -142,6 +187,8 @@ void DataEngine::closeInput()
         break;
     }
     m_inputOpen = false;
+    m_recorder.stop();
+    m_alertProcessor->resetAlertStatus();
     Q_EMIT inputClosed(m_requestId);
 }
 

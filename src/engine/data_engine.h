@@ -4,12 +4,17 @@
 #include "app/log_level.h"
 #include "asterix/asterix.h"
 #include "astfile/data_packet.h"
+#include "astfile/recording_index.h"
 #include "engine/display_snapshot.h"
+#include "engine/input_recorder.h"
 #include "engine/pipeline_meter.h"
 #include "engine/pipeline_stats.h"
 #include "engine/replay_speed.h"
 #include "engine/snapshot_slot.h"
 #include "engine/video_batch.h"
+#include "modes/mode_s_decoder.h"
+#include "modes/receiver_clock.h"
+#include "processors/alert.h"
 #include "processors/video_processor.h"
 #include "processors/weather_processor.h"
 
@@ -26,8 +31,11 @@
 
 #include <array>
 #include <memory>
+#include <string>
+#include <vector>
 
 class AlertManager;
+class AlertProcessor;
 class Projector;
 class QSerialPort;
 class QUdpSocket;
@@ -79,6 +87,14 @@ public Q_SLOTS:
     // From the next packet on.
     void setReplaySpeed(ReplaySpeed::Speed speed);
 
+    // Makes seeking in the recording that it was made of quick; of no effect on others. From the next opening on.
+    void setRecordingIndex(const korvane::astfile::RecordingIndex &index) { m_recordingIndex = index; }
+
+    // What the live input receives, paused or not, is written to a capture from now on, until stopped or the input is
+    // closed. Answers with recordingStarted and, at its end or when it fails, recordingStopped.
+    void startRecording(const QString &fileName);
+    void stopRecording();
+
     // Past positions per track in the snapshots from the next one on; 0 when nobody draws them.
     void setSnapshotTrailDots(int count);
 
@@ -99,11 +115,17 @@ Q_SIGNALS:
     void antennaRotated(double azimuthDegrees);
     void antennaNorthCrossed();
     void pipelineStats(const PipelineStats &stats);
+    void recordingStarted(const QString &fileName);
+    void recordingStopped();
+    // A safety net was reported as running or not; off for all that ran when the input closes.
+    void alertStatusChanged(Alert::Type type, bool on);
 
 private:
     // Life cycle.
+    void makeProcessors();
     void discardInputState();
     void createTracker();
+    void configureTracker();
     bool processorAvailable();
     bool openInputByKind();
 
@@ -147,11 +169,22 @@ private:
     void logReadError(const QString &summary);
     void closeInputFile();
 
+    // Writing a recording.
+    void connectRecorder();
+    void recordDatagram(
+        const QByteArray &data, const QUdpSocket *socket, const QHostAddress &sender, quint16 senderPort);
+    void recordSerialData(const QByteArray &data);
+
     // Routing.
     void procAsterixMessage(const QByteArray &data);
     bool decodeBlock(const unsigned char *data, std::size_t length);
     bool fromConfiguredSensor();
     void routeBlock();
+    void logUnsupportedCategory();
+    void procModeSMessage(const QByteArray &data);
+    void procModeSFrame(korvane::modes::ModeSFrame &frame);
+    void procAleniaSirMMessage(const QByteArray &data);
+    void logAleniaSirMFailure(qsizetype size);
 
     Projector *const m_projector;
     SnapshotSlot<DisplaySnapshot> *const m_displaySlot;
@@ -167,6 +200,9 @@ private:
 
     QSharedPointer<TrackManager> m_trackManager;
     QSharedPointer<AlertManager> m_alertManager;
+    QSharedPointer<AlertProcessor> m_alertProcessor;
+    QSharedPointer<WeatherProcessor> m_weatherProcessor;
+    QSharedPointer<VideoProcessor> m_videoProcessor;
     QSharedPointer<Tracker> m_tracker; // null for sensors that none serves
 
     // Children. A closed input may be closing while it is being read, so they are deleted later.
@@ -179,13 +215,24 @@ private:
     QPointer<QSerialPort> m_serialPort;
 
     std::unique_ptr<korvane::astfile::FileReader> m_fileReader;
+    korvane::astfile::RecordingIndex m_recordingIndex; // null where none was given
     korvane::astfile::DataPacket m_packet; // the one that is due
     ReplaySpeed::Speed m_replaySpeed = ReplaySpeed::Normal;
     QTimer m_replayTimer{this}; // children, so that they follow the engine to its thread
     QElapsedTimer m_progressTimer; // since the last replayProgress
 
+    InputRecorder m_recorder{this};
+
     _ast_datablock_t m_block; // reused by every block
     QSet<quint16> m_mismatchingSources; // SAC * 256 + SIC, already reported
+
+    // Per input; frames and message are reused.
+    std::unique_ptr<korvane::modes::ModeSDecoder> m_modesDecoder;
+    korvane::modes::ReceiverClock m_receiverClock;
+    std::string m_modesBuffer; // the beginning of a frame whose rest is to come
+    std::vector<korvane::modes::ModeSFrame> m_modesFrames;
+    std::shared_ptr<korvane::modes::ModeSMessage> m_modesMessage;
+    bool m_aleniaSirMFailureReported = false;
 
     int m_trailDots = 0;
     QTimer m_snapshotTimer{this};

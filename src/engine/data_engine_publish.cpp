@@ -1,5 +1,6 @@
 #include "engine/data_engine.h"
 #include "processors/alert_manager.h"
+#include "processors/alert_processor.h"
 #include "tracking/track_manager.h"
 
 void DataEngine::setSnapshotTrailDots(int count)
@@ -14,7 +15,8 @@ void DataEngine::publishSnapshot()
     const auto snapshot = QSharedPointer<DisplaySnapshot>::create();
     snapshot->tracks = m_trackManager->snapshotTracks(m_trailDots);
     snapshot->alerts = m_alertManager->snapshotAlerts();
-    // The alert status stays all clear: nothing evaluates safety-net messages yet.
+    snapshot->alertStatus = {m_alertProcessor->alertStatus(Alert::MSAW), m_alertProcessor->alertStatus(Alert::APW),
+        m_alertProcessor->alertStatus(Alert::STCA)};
     m_displaySlot->publish(snapshot);
     m_meter.countSnapshot(stopwatch.elapsed());
 

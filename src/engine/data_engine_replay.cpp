@@ -41,8 +41,11 @@ bool DataEngine::openInputFile()
     if (!m_fileReader->open(fileName, format)) {
         Q_EMIT logMessage(LogLevel::Warning, tr("Failed to open recording file: %1").arg(fileName));
         Q_EMIT logMessage(LogLevel::Warning, m_fileReader->lastError());
-    } else if (startInputFileReplay()) {
-        return true;
+    } else {
+        m_fileReader->setIndex(m_recordingIndex);
+        if (startInputFileReplay()) {
+            return true;
+        }
     }
     m_fileReader.reset();
     return false;
@@ -76,13 +79,12 @@ bool DataEngine::seekReplayStart()
             LogLevel::Warning, tr("The recording contains no timestamp, its start time cannot be sought."));
         return false;
     }
-    while (m_packet.kind == DataPacket::Data && m_packet.timeStamp < m_replayStart) {
-        m_fileReader->read(&m_packet);
-    }
-    if (m_packet.kind == DataPacket::Error) {
-        logReadError(tr("The recording cannot be read up to the replay start time."));
+    if (!m_fileReader->seek(m_replayStart)) {
+        Q_EMIT logMessage(LogLevel::Warning,
+            tr("The recording cannot be read up to the replay start time: %1").arg(m_fileReader->lastError()));
         return false;
     }
+    m_fileReader->read(&m_packet);
     return true;
 }
 

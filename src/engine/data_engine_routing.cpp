@@ -1,21 +1,29 @@
 #include "engine/data_engine.h"
+#include "processors/alert_processor.h"
+#include "sirm/alenia_sir_m_radar_decoder.h"
 #include "tracking/sensor_info.h"
+#include "tracking/track_manager.h"
 #include "tracking/tracker.h"
 
 #include <algorithm>
 #include <array>
 
+using korvane::modes::ModeSEncapsulation;
+using korvane::modes::ModeSFrame;
+using korvane::modes::ModeSMessage;
+
 namespace {
 
-// Octets before the data blocks; what they say is not needed.
-qsizetype envelopeSize(Config::AsterixFormat format)
+// Octets before the data; what they say is not needed.
+template <typename Format>
+qsizetype envelopeSize(Format format)
 {
     switch (format) {
-    case Config::AsterixFormat::Hdlc:
+    case Format::Hdlc:
         return 2;
-    case Config::AsterixFormat::ManagAir:
+    case Format::ManagAir:
         return 16;
-    case Config::AsterixFormat::Raw:
+    case Format::Raw:
         break;
     }
     return 0;
@@ -42,8 +50,14 @@ bool isTrackerCategory(std::uint32_t category)
 void DataEngine::procMessage(const QByteArray &data)
 {
     m_meter.countMessage(data.size());
-    // ASTERIX is the one message format whose inputs open.
-    procAsterixMessage(data);
+    switch (m_config.processorType) {
+    case Config::ProcessorType::Asterix:
+        return procAsterixMessage(data);
+    case Config::ProcessorType::ModeS:
+        return procModeSMessage(data);
+    case Config::ProcessorType::AleniaSirM:
+        return procAleniaSirMMessage(data);
+    }
 }
 
 void DataEngine::procAsterixMessage(const QByteArray &data)
@@ -109,8 +123,81 @@ void DataEngine::routeBlock()
         }
         return;
     }
+    switch (m_block.category) {
+    case 4:
+        return m_alertProcessor->procMessage(m_block);
+    case 8:
+        return m_weatherProcessor->procAsterixMessage(m_block);
+    case 240:
+        return m_videoProcessor->procAsterixMessage(m_block);
+    default:
+        logUnsupportedCategory();
+    }
+}
+
+void DataEngine::logUnsupportedCategory()
+{
     std::array<char, 8> name = {};
     ast_category_to_str(name.data(), name.size(), m_block.category);
     Q_EMIT logMessage(
         LogLevel::Debug, tr("Unsupported ASTERIX catetory received: %1").arg(QString::fromLatin1(name.data())));
+}
+
+// Frames may be spread over messages: what is left over waits for the next one.
+void DataEngine::procModeSMessage(const QByteArray &data)
+{
+    m_modesBuffer.append(data.constData(), static_cast<std::size_t>(data.size()));
+    const std::size_t taken =
+        ModeSEncapsulation::extractAll(m_modesBuffer, m_config.processorModeSEncapsulation, m_modesFrames);
+    m_modesBuffer.erase(0, taken);
+    if (m_modesFrames.empty()) {
+        Q_EMIT logMessage(LogLevel::Debug, tr("Failed to extract Mode-S encapsulation."));
+    }
+    for (ModeSFrame &frame : m_modesFrames) {
+        procModeSFrame(frame);
+    }
+}
+
+// Receivers count from whenever they were switched on; the tracker needs UTC in any case.
+void DataEngine::procModeSFrame(ModeSFrame &frame)
+{
+    const auto now = static_cast<unsigned long long>(m_trackManager->now().toMSecsSinceEpoch());
+    frame.timeStamp = m_config.processorModeSIgnoreTimeStamp ? now : m_receiverClock.toUtc(frame, now);
+    m_modesDecoder->decode(ModeSMessage::AnyDownlink, frame, *m_modesMessage);
+    if (!m_modesMessage->valid()) {
+        Q_EMIT logMessage(LogLevel::Debug, tr("Failed to decode Mode-S message."));
+    } else if (m_tracker) {
+        m_tracker->procModeSMessage(m_modesMessage);
+    }
+}
+
+// Datagrams and chunks may hold several messages. What follows the last one, such as the check sequence of a frame, is
+// no failure.
+void DataEngine::procAleniaSirMMessage(const QByteArray &data)
+{
+    const qsizetype envelope = std::min(envelopeSize(m_config.processorAleniaSirMFormat), data.size());
+    const auto *octets = reinterpret_cast<const unsigned char *>(data.constData()) + envelope;
+    auto left = static_cast<std::size_t>(data.size() - envelope);
+    auto result = AleniaSirMRadarDecoder::decode(octets, left);
+    if (!result.valid()) {
+        logAleniaSirMFailure(data.size() - envelope);
+        return;
+    }
+    while (result.valid() && m_tracker) {
+        m_tracker->procAleniaSirMMessage(QSharedPointer<AleniaSirMRadarMessage>(result.message.release()));
+        octets += result.size;
+        left -= result.size;
+        result = AleniaSirMRadarDecoder::decode(octets, left);
+    }
+}
+
+void DataEngine::logAleniaSirMFailure(qsizetype size)
+{
+    if (m_aleniaSirMFailureReported) {
+        Q_EMIT logMessage(LogLevel::Debug, tr("Failed to decode Alenia SIR-M message (%1 bytes).").arg(size));
+        return;
+    }
+    m_aleniaSirMFailureReported = true;
+    Q_EMIT logMessage(LogLevel::Warning,
+        tr("Failed to decode Alenia SIR-M message (%1 bytes), further failures are logged as debug.").arg(size));
 }

@@ -121,8 +121,15 @@ void DataEngine::procInputSerial()
     }
     m_receiveBuffer.resize(std::max(m_receiveBuffer.size(), m_serialPort->bytesAvailable()));
     const qint64 size = m_serialPort->read(m_receiveBuffer.data(), m_receiveBuffer.size());
-    if (size > 0 && !m_inputPaused) {
-        procMessage(QByteArray::fromRawData(m_receiveBuffer.constData(), size));
+    if (size <= 0) {
+        return;
+    }
+    const QByteArray chunk = QByteArray::fromRawData(m_receiveBuffer.constData(), size);
+    if (m_recorder.active()) {
+        recordSerialData(chunk);
+    }
+    if (!m_inputPaused) {
+        procMessage(chunk);
     }
 }
 

@@ -115,12 +115,21 @@ bool DataEngine::readUdpDatagram(QUdpSocket *socket)
     if (socket->state() != QAbstractSocket::BoundState) {
         return false;
     }
-    const qint64 size = socket->readDatagram(m_receiveBuffer.data(), m_receiveBuffer.size());
+    QHostAddress sender;
+    quint16 senderPort = 0;
+    // Addresses cost time and are wanted by recordings only.
+    const qint64 size = m_recorder.active()
+        ? socket->readDatagram(m_receiveBuffer.data(), m_receiveBuffer.size(), &sender, &senderPort)
+        : socket->readDatagram(m_receiveBuffer.data(), m_receiveBuffer.size());
     if (size < 0) {
         return false;
     }
+    const QByteArray datagram = QByteArray::fromRawData(m_receiveBuffer.constData(), size);
+    if (m_recorder.active()) {
+        recordDatagram(datagram, socket, sender, senderPort);
+    }
     if (!m_inputPaused) {
-        procMessage(QByteArray::fromRawData(m_receiveBuffer.constData(), size));
+        procMessage(datagram);
     }
     return true;
 }

@@ -1,11 +1,19 @@
 #pragma once
 
+#include "app/log_level.h"
+
 #include <QList>
 #include <QMetaType>
+#include <QObject>
 
-// Weather as a monoradar sends it (CAT008): for now the picture that the engine hands to the display; nothing makes
-// such pictures yet.
-class WeatherProcessor {
+struct _ast_datablock_t;
+struct _ast_datarecord_008_t;
+
+// Weather as a monoradar sends it (CAT008): gathers polar vectors from a start-of-picture message to the end-of-picture
+// message and hands on the finished picture. One thread.
+class WeatherProcessor final : public QObject {
+    Q_OBJECT
+
 public:
     // One stretch along one azimuth where the precipitation has one intensity.
     struct PolarVector {
@@ -19,6 +27,34 @@ public:
         double timeOfDay = -1.0; // seconds since midnight UTC; -1.0 when the picture's start carried none
         QList<PolarVector> vectors;
     };
+
+    explicit WeatherProcessor(QObject *parent = nullptr);
+
+    // Blocks that are not whole or of another category are passed over.
+    void procAsterixMessage(const _ast_datablock_t &block);
+    void procCat008Record(const _ast_datarecord_008_t &record);
+
+    // Forgets the picture in progress and the scale, which belong to the radar that sent them.
+    void reset();
+
+Q_SIGNALS:
+    // Never without vectors.
+    void pictureReady(const WeatherProcessor::Picture &picture);
+    void message(LogLevel level, const QString &text);
+
+private:
+    void procStartOfPicture(const _ast_datarecord_008_t &record);
+    void procPolarVectors(const _ast_datarecord_008_t &record);
+    void procEndOfPicture(const _ast_datarecord_008_t &record);
+    bool acceptsPolarVectors(const _ast_datarecord_008_t &record);
+    void debug(const QString &text) { Q_EMIT message(LogLevel::Debug, text); }
+    void warn(const QString &text) { Q_EMIT message(LogLevel::Warning, text); }
+
+    bool m_inPicture = false;
+    bool m_scaleKnown = false; // once received, it also holds for pictures that start without it
+    int m_scale = 0; // exponent f: ranges count 2^(f-7) nautical miles
+    double m_timeOfDay = -1.0;
+    QList<PolarVector> m_vectors;
 };
 
 Q_DECLARE_METATYPE(WeatherProcessor::Picture)

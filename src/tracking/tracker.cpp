@@ -1,7 +1,28 @@
 #include "tracking/tracker.h"
 
 #include "geo/projector.h"
+#include "tracking/adsb_tracker.h"
+#include "tracking/mlat_tracker.h"
 #include "tracking/radar_tracker.h"
+#include "tracking/sdps_tracker.h"
+#include "tracking/smr_tracker.h"
+
+namespace {
+
+constexpr qint64 ExhaustionWarningPeriodMs = 10000;
+
+// Part of the time between two reports. More than half, so that two aircraft under one address cannot take the track
+// from each other for ever; less than one, so that an aircraft's new number, reported a little early, is taken.
+constexpr double NumberInUse = 0.75;
+
+// A track that was reported under its own number a moment ago is another aircraft, or a reflection, with the same
+// address.
+bool isNumberInUse(const Track &track, const QDateTime &now, double reportPeriod)
+{
+    return static_cast<double>(track.lastUpdate().msecsTo(now)) < reportPeriod * NumberInUse * 1000.0;
+}
+
+} // namespace
 
 Tracker::Tracker(const QSharedPointer<TrackManager> &trackManager, Projector *projector, QObject *parent)
     : QObject(parent), m_trackManager(trackManager), m_projector(projector)
@@ -13,7 +34,88 @@ QSharedPointer<Tracker> Tracker::create(const QSharedPointer<SensorInfo> &sensor
 {
     if (const auto radar = sensor.dynamicCast<RadarSensorInfo>())
         return QSharedPointer<RadarTracker>::create(radar, trackManager, projector, parent);
+    if (const auto adsb = sensor.dynamicCast<AdsbSensorInfo>())
+        return QSharedPointer<AdsbTracker>::create(adsb, trackManager, projector, parent);
+    if (const auto mlat = sensor.dynamicCast<MlatSensorInfo>())
+        return QSharedPointer<MlatTracker>::create(mlat, trackManager, projector, parent);
+    if (const auto sdps = sensor.dynamicCast<SdpsSensorInfo>())
+        return QSharedPointer<SdpsTracker>::create(sdps, trackManager, projector, parent);
+    if (const auto smr = sensor.dynamicCast<SmrSensorInfo>())
+        return QSharedPointer<SmrTracker>::create(smr, trackManager, projector, parent);
     return {};
+}
+
+void Tracker::procAleniaSirMMessage(const QSharedPointer<AleniaSirMRadarMessage> &) { }
+
+QSharedPointer<Track> Tracker::createTrack()
+{
+    auto track = m_trackManager->createTrack();
+    if (track)
+        return track;
+    const auto now = m_trackManager->now();
+    if (!m_lastExhaustion.isValid() || m_lastExhaustion.msecsTo(now) >= ExhaustionWarningPeriodMs) {
+        m_lastExhaustion = now;
+        Q_EMIT message(
+            LogLevel::Warning, tr("All system track numbers are in use, reports of further targets are not shown."));
+    }
+    return {};
+}
+
+QSharedPointer<Track> Tracker::findOrCreate(unsigned int number)
+{
+    if (const auto known = findByNumber(number))
+        return known;
+    const auto track = createTrack();
+    if (track) {
+        track->setOtherTrackNumber(number);
+        m_trackManager->registerTrack(track);
+    }
+    return track;
+}
+
+// A known track number decides. Otherwise the aircraft address does, so that a track first seen by its address keeps
+// its identity when the sensor gives it a number, or gives it a new one after having lost it. Finders may return a
+// track that has gone on to another key; such an entry does not count as known.
+QSharedPointer<Track> Tracker::associate(const Identity &identity, const QDateTime &now)
+{
+    QSharedPointer<Track> track;
+    if (identity.number != 0)
+        track = findByNumber(identity.number);
+    if (!track && identity.address.value_or(0) != 0)
+        track = findByAddress(identity, now);
+    if (!track)
+        track = createTrack();
+    if (!track)
+        return {};
+    if (identity.address)
+        track->setIcaoAddr(*identity.address);
+    if (identity.number != 0)
+        track->setOtherTrackNumber(identity.number);
+    m_trackManager->registerTrack(track);
+    return track;
+}
+
+QSharedPointer<Track> Tracker::findByNumber(unsigned int number)
+{
+    const auto track = m_trackManager->findTrackByOtherTrackNum(number);
+    return track && track->otherTrackNumber() == number ? track : QSharedPointer<Track>();
+}
+
+QSharedPointer<Track> Tracker::findByAddress(const Identity &identity, const QDateTime &now)
+{
+    const auto track = m_trackManager->findTrackByICAOAddr(*identity.address);
+    if (!track || track->icaoAddr() != *identity.address)
+        return {};
+    const bool renumbered =
+        identity.number != 0 && track->otherTrackNumberValid() && track->otherTrackNumber() != identity.number;
+    const bool otherAircraft = renumbered && isNumberInUse(*track, now, identity.reportPeriod);
+    return otherAircraft ? QSharedPointer<Track>() : track;
+}
+
+void Tracker::place(Track &track, const GeoCoordinate &origin, double distance, double bearing) const
+{
+    track.setGeoCoordinate(origin.atDistanceAndAzimuth(distance, bearing));
+    project(track);
 }
 
 void Tracker::project(Track &track) const

@@ -8,7 +8,14 @@
 #include <QObject>
 #include <QSharedPointer>
 
+#include <memory>
+#include <optional>
+
+class AleniaSirMRadarMessage;
 class Projector;
+namespace korvane::modes {
+class ModeSMessage;
+}
 
 // Turns the decoded reports of one sensor into tracks: association, position, identity, kinematics. It neither filters
 // nor ages. One per open input, on the thread of its track manager.
@@ -23,9 +30,11 @@ public:
     virtual SensorInfo::Type type() const { return SensorInfo::UnknownSensor; }
     // Takes a decoded block; blocks of other categories and invalid blocks are ignored.
     virtual void procAsterixMessage(const _ast_datablock_t &block) = 0;
+    // Takes a valid message; the message may be reused by the decoder after the call.
+    virtual void procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &message) = 0;
+    virtual void procAleniaSirMMessage(const QSharedPointer<AleniaSirMRadarMessage> &message);
 
-    // The tracker for the sensor's type; null for a null sensor and for a type without a tracker. There is one for
-    // radars today.
+    // The tracker for the sensor's type; null for a null sensor and for a type without a tracker.
     static QSharedPointer<Tracker> create(const QSharedPointer<SensorInfo> &sensor,
         const QSharedPointer<TrackManager> &trackManager, Projector *projector, QObject *parent = nullptr);
 
@@ -33,11 +42,37 @@ Q_SIGNALS:
     void message(LogLevel level, const QString &text);
 
 protected:
+    // What a report names its track by.
+    struct Identity {
+        unsigned int number = 0; // the sensor's own track number; 0: none
+        std::optional<unsigned int> address; // 24-bit aircraft address; 0 is sent by who has none
+        double reportPeriod = 0.0; // seconds between two reports of one track
+
+        bool usable() const { return number != 0 || address.value_or(0) != 0; }
+    };
+
     TrackManager &trackManager() const { return *m_trackManager; }
+    Projector &projector() const { return *m_projector; }
+
+    // A new track; null when no system track number is free, which is reported at most once in ten seconds.
+    QSharedPointer<Track> createTrack();
+    // The track of a sensor that numbers its tracks once and for all, new where there was none. Null as createTrack().
+    QSharedPointer<Track> findOrCreate(unsigned int number);
+    // The track of a sensor that may know an aircraft by number, by address or by both, new where there was none; its
+    // identity is brought up to date. The identity must be usable. Null as createTrack().
+    QSharedPointer<Track> associate(const Identity &identity, const QDateTime &now);
+
+    // Sets the track's position and plane position to the point at so many metres over ground and degrees clockwise
+    // from north.
+    void place(Track &track, const GeoCoordinate &origin, double distance, double bearing) const;
     // Sets the track's plane position from its WGS-84 position, if that is valid.
     void project(Track &track) const;
 
 private:
+    QSharedPointer<Track> findByNumber(unsigned int number);
+    QSharedPointer<Track> findByAddress(const Identity &identity, const QDateTime &now);
+
     QSharedPointer<TrackManager> m_trackManager;
     Projector *m_projector;
+    QDateTime m_lastExhaustion; // when it was last reported that no track number is free
 };

@@ -34,7 +34,6 @@ private Q_SLOTS:
     void inputsThatCannotWorkFailWithAReason()
     {
         const std::tuple<int, int, QString> rows[]{
-            {0, 1, "W The input is not opened: this version has no decoder for \"1090ES ADS-B Processor\"."},
             {0, 3, "W The input is not opened: this version has no decoder for \"Unknown Processor\"."},
             {3, 0, "W Unknown Input Method"}};
         for (const auto &[comm, processor, line] : rows) {

@@ -1,6 +1,10 @@
 #include "engine_rig.h"
+#include "modes/encoder.h"
+#include "sirm/alenia_sir_m_radar_encoder.h"
 
 #include <QTest>
+
+namespace modes = korvane::modes;
 
 // From a message to its consumers.
 class TestDataEngineRouting final : public QObject {
@@ -9,15 +13,38 @@ class TestDataEngineRouting final : public QObject {
 private:
     // An open input; messages are handed over directly.
     struct OpenRig : EngineRig {
-        explicit OpenRig(const std::function<void(Config &)> &configure = {})
+        explicit OpenRig(
+            const std::function<void(Config &)> &configure = {}, const QSharedPointer<SensorInfo> &sensor = radar())
         {
             config.inputUdpPort1 = freePort();
             if (configure)
                 configure(config);
-            open();
+            open(1, sensor);
             log.clear();
         }
     };
+
+    using Format = modes::ModeSEncapsulation::Format;
+
+    static QByteArray encapsulated(Format format, const modes::ModeSFrame &frame)
+    {
+        std::string octets;
+        modes::appendEncapsulated(octets, frame, format);
+        return QByteArray::fromStdString(octets);
+    }
+
+    static QByteArray identification(Format format, quint32 address)
+    {
+        return encapsulated(format, modes::encodeIdentification(address, 'A', 3, "VYX12"));
+    }
+
+    static auto decodeModeS(Format format)
+    {
+        return [format](Config &config) {
+            config.processorType = Config::ProcessorType::ModeS;
+            config.processorModeSEncapsulation = format;
+        };
+    }
 
     static void verifySacSic(Config &config) { config.processorAsterixVerifySacSic = true; }
 
@@ -131,6 +158,69 @@ private Q_SLOTS:
             OpenRig rig(verifySacSic);
             rig.engine.procMessage(QByteArray::fromHex(block));
             QVERIFY2(rig.northCrossed.size() == norths, block);
+        }
+    }
+
+    void modeSFramesAreCutFromMessages()
+    {
+        const QString incomplete = "D Failed to extract Mode-S encapsulation.";
+        for (const auto format : {Format::Raw, Format::Avr, Format::Beast, Format::RawRssi}) {
+            const auto a = identification(format, 0x4b1a2c), b = identification(format, 0x3c0001);
+            auto damaged = modes::encodeAllCall(0x4b1a2c);
+            damaged.octets[5] ^= 0x12;
+            const std::tuple<QList<QByteArray>, int, QStringList> rows[]{{{a + b}, 2, {}},
+                {{a.left(9), a.mid(9) + b}, 2, {incomplete}}, {{a + b.chopped(2)}, 1, {}},
+                {{encapsulated(format, damaged) + b}, 1, {"D Failed to decode Mode-S message."}},
+                {{QByteArray()}, 0, {incomplete}}};
+            for (const auto &[messages, tracks, log] : rows) {
+                OpenRig rig(decodeModeS(format), SensorInfo::create(SensorInfo::AdsbSensor));
+                for (const auto &message : messages)
+                    rig.engine.procMessage(message);
+                QCOMPARE(rig.tracks().size(), tracks);
+                QCOMPARE(rig.log, log);
+            }
+        }
+    }
+
+    void modeSRemainderEndsWithTheInput()
+    {
+        const auto sensor = SensorInfo::create(SensorInfo::AdsbSensor);
+        OpenRig rig(decodeModeS(Format::Beast), sensor);
+        const auto frame = identification(Format::Beast, 0x4b1a2c);
+        rig.engine.procMessage(frame.left(12));
+        rig.engine.closeInput();
+        rig.open(2, sensor);
+        rig.engine.procMessage(frame.mid(12));
+        QCOMPARE(rig.tracks().size(), 0);
+    }
+
+    // In each envelope: what cannot be decoded is reported once per input and then only to those who debug.
+    void aleniaSirMMessages()
+    {
+        const auto octets = AleniaSirMRadarEncoder::encode(AleniaSirMRadarNorthMarkerMessage());
+        const QByteArray marker(reinterpret_cast<const char *>(octets.data()), qsizetype(octets.size()));
+        const std::pair<QByteArray, int> rows[]{{marker, 1}, {marker + marker, 2}, {marker + "\x8a\x3f", 1},
+            {marker.chopped(1), 0}, {"\xff" + marker, 0}, {{}, 0}};
+        for (const auto &[format, envelope] : {std::pair(0, 0), {1, 2}, {2, 16}}) {
+            for (const auto &[message, norths] : rows) {
+                OpenRig rig([format = format](Config &config) {
+                    config.processorType = Config::ProcessorType::AleniaSirM;
+                    config.processorAleniaSirMFormat = static_cast<Config::AleniaSirMFormat>(format);
+                });
+                const auto text =
+                    QStringLiteral(" Failed to decode Alenia SIR-M message (%1 bytes)").arg(message.size());
+                const QStringList failures{
+                    'W' + text + ", further failures are logged as debug.", 'D' + text + '.', 'D' + text + '.'};
+                for (int opening = 0; opening < 2; ++opening) {
+                    rig.log.clear();
+                    for (int i = 0; i < 3; ++i)
+                        rig.engine.procMessage(QByteArray(envelope, '\1') + message);
+                    QCOMPARE(rig.log, norths > 0 ? QStringList() : failures);
+                    rig.engine.closeInput();
+                    rig.open(2);
+                }
+                QCOMPARE(rig.northCrossed.size(), norths * 6);
+            }
         }
     }
 };

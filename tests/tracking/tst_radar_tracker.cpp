@@ -1,58 +1,69 @@
-#include "asterix/encoder.h"
-#include "geo/mercator_projector.h"
+#include "sirm/alenia_sir_m_radar_message.h"
+#include "tracker_rig.h"
 #include "tracking/radar_tracker.h"
 
 #include <QSignalSpy>
 #include <QTest>
 
-#include <optional>
+using SirMRecord = AleniaSirMRadarTrackRecord;
 
 namespace {
 
 constexpr int None = -1;
-constexpr int RotationPeriod = 4; // seconds
 
-struct Value {
-    const char *path;
-    double value;
-};
-using Values = QList<Value>;
-
-struct Register {
-    int code;
-    quint64 bits; // 56, the first one highest
-};
-using Registers = QList<Register>;
-
-// A status bit, numbered from 1 as in the register's layout, and the value in so many bits after it.
-quint64 field(int status, int valueBits, std::optional<int> value)
-{
-    const quint64 mask = (1u << valueBits) - 1;
-    return value ? (quint64(1) << valueBits | (quint64(*value) & mask)) << (56 - status - valueBits) : 0;
-}
-
-// Selected altitudes in 16 ft.
-Register vertical(std::optional<int> mcp, std::optional<int> fms)
-{
-    return {0x40, field(1, 12, mcp) | field(14, 12, fms)};
-}
-
-// Vertical rates in 32 feet per minute.
-Register speed(std::optional<int> baro, std::optional<int> inertial)
-{
-    return {0x60, field(35, 10, baro) | field(46, 10, inertial)};
-}
-
-struct Report {
+struct Sighting {
     double second;
     int trackNumber = None;
     int address = None;
 };
 
-struct Rates {
-    double second;
-    std::optional<int> baro;
-    std::optional<int> inertial;
+struct Row {
+    const char *name;
+    int category;
+    const char *reports;
+    const char *expected;
+};
+
+// Positions worked out with vectors on the sphere of 6371007.2 m, and ellipsoidal Mercator.
+const Row rows[]{
+    {"polar before Cartesian", 48, "161/TRN=7 040/RHO=10 040/THETA=90 042/X=1 042/Y=2",
+        "lat 49.99971, lon 8.25911, x 919400, y 6413475, dots 1"},
+    {"polar, far north-west", 48, "161/TRN=7 040/RHO=255.5 040/THETA=326.25",
+        "lat 53.47442, lon 4.02823, x 448420, y 7036879"},
+    {"no more position", 48, "161/TRN=7 042/X=-10 042/Y=0; 161/TRN=7",
+        "lat 49.99971, lon 7.74089, x 861712, y 6413475, dots 2"},
+    {"Cartesian, south-west", 48, "161/TRN=7 042/X=-3 042/Y=-4", "lat 49.93335, lon 7.92237, x 881915, y 6402022"},
+    {"CAT001, polar", 1, "161=7 040/RHO=10 040/THETA=90", "lat 49.99971, lon 8.25911"},
+    {"CAT001, Cartesian, north-east", 1, "161=7 042/X=3 042/Y=4", "lat 50.06660, lon 8.07784, x 899221, y 6425034"},
+    {"all fields", 48,
+        "161/TRN=7 070/V=1 070/G=1 070/L=1 070/MODE3A=07421 090/V=1 090/FL=101.25 200/GSP=0.125 200/HDG=270 240=VYX12",
+        "tracks 1, code 7421GS, call VYX12, level 10125, speed 450.0, heading 270.0, state 1, type 0"},
+    {"garbled level, new call sign", 48,
+        "161/TRN=7 070/MODE3A=1 090/FL=1 200/GSP=0.1 240=VYX12; 161/TRN=7 090/G=1 090/FL=102 240=VYX13",
+        "call VYX13, code 0001, level -, speed -, heading -"},
+    {"code 0, negative level, blank call sign", 48,
+        "161/TRN=7 240=VYX12; 161/TRN=7 070/MODE3A=0 090/FL=-3.5 240=", "code 0000, level -350, call -------"},
+    {"tentative", 48, "161/TRN=7 170/CNF=1", "state 0"},
+    {"then confirmed", 48, "161/TRN=7 170/CNF=1; 161/TRN=7 170/CNF=0", "state 1"},
+    {"tentative, then no status", 48, "161/TRN=7 020/TYP=2 170/CNF=1; 161/TRN=7", "state 1, type 2"},
+    {"CAT001", 1, "161=7 070/MODE3A=01234 170/CON=1; 161=7 090/HGT=81.5 200/GSP=0.0625 200/HDG=45",
+        "tracks 1, code 1234, level 8150, speed 225.0, heading 45.0, state 1"},
+    {"CAT001, tentative", 1, "161=7 170/CON=1", "state 0"},
+    {"CAT001, 0 is a number", 1, "161=0; 161=0", "tracks 2"},
+    {"CAT001 without number", 1, "040/RHO=10", "tracks 0"},
+    {"autopilot's altitude first", 48, "161/TRN=7 bds40=2188/600; @4 161/TRN=7", "selected 35008"},
+    {"other altitude", 48, "161/TRN=7 bds40=-/600; @12 161/TRN=7", "selected 9600"},
+    {"altitude too old", 48, "161/TRN=7 bds40=625/-; @12.001 161/TRN=7", "selected -"},
+    {"first register of a code", 48, "161/TRN=7 bds40=-/- bds40=625/- bds60=-/- bds60=7/-", "selected -, rate -"},
+    {"climb", 48, "161/TRN=7 bds40=625/- bds60=7/-62", "rate 224, trend 2"},
+    {"descent", 48, "161/TRN=7 bds60=-7/-", "rate -224, trend 3"},
+    {"level flight", 48, "161/TRN=7 bds60=-6/-", "rate -192, trend 1"},
+    {"inertial rate alone", 48, "161/TRN=7 bds60=-/-31", "rate -992, trend 3"},
+    {"barometric rate too large", 48, "161/TRN=7 bds60=188/38", "rate 1216, trend 2"},
+    {"both too large", 48, "161/TRN=7 bds60=188/-188", "rate -, trend 0"},
+    {"kept for 12 s", 48, "161/TRN=7 bds60=7/-; @12 161/TRN=7 bds60=188/-", "rate 224, trend 2"},
+    {"then forgotten", 48, "161/TRN=7 bds60=7/-; @12.001 161/TRN=7 bds60=188/-", "rate -, trend 0"},
+    {"counting anew", 48, "161/TRN=7 bds60=7/-; @8 161/TRN=7 bds60=-10/-; @20 161/TRN=7", "rate -320, trend 3"},
 };
 
 } // namespace
@@ -61,29 +72,18 @@ class TestRadarTracker : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_now = m_start;
-        m_manager = QSharedPointer<TrackManager>::create();
-        m_manager->setClock([this] { return m_now; });
-        const auto sensor = QSharedPointer<RadarSensorInfo>::create();
-        sensor->setLocation({50.0, 8.0});
-        sensor->setRotationPeriod(RotationPeriod);
-        m_tracker = std::make_unique<RadarTracker>(sensor, m_manager, &m_projector);
-    }
-
     void antenna()
     {
+        TrackerRig rig(RadarSensor);
         for (const int category : {2, 34}) {
-            QSignalSpy rotated(m_tracker.get(), &RadarTracker::antennaRotated);
-            QSignalSpy north(m_tracker.get(), &RadarTracker::antennaNorthCrossed);
-            send(category, {{"000", 2}}); // a sector crossing without azimuth
-            send(category, {{"000", 3}, {"020", 90}}); // another message
+            QSignalSpy rotated(rig.as<RadarTracker>(), &RadarTracker::antennaRotated);
+            QSignalSpy north(rig.as<RadarTracker>(), &RadarTracker::antennaNorthCrossed);
+            rig.send(category, "000=2; 000=3 020=90"); // no azimuth, another message
             QCOMPARE(rotated.size() + north.size(), 0);
-            send(category, {{"000", 2}, {"020", 123.75}});
+            rig.send(category, "000=2 020=123.75");
             QCOMPARE(rotated, QList<QVariantList>({{123.75}}));
             QCOMPARE(north.size(), 0);
-            send(category, {{"000", 1}, {"020", 0}});
+            rig.send(category, "000=1 020=0");
             QCOMPARE(rotated.size(), 1);
             QCOMPARE(north.size(), 1);
         }
@@ -93,10 +93,10 @@ private Q_SLOTS:
     {
         // One aircraft a letter.
         constexpr int a = 0x4b1a2c, b = 0x3c0001;
-        QTest::addColumn<QList<Report>>("reports");
+        QTest::addColumn<QList<Sighting>>("sightings");
         QTest::addColumn<QList<int>>("incarnations"); // updated by each report; 0: none
-        const auto row = [](const char *name, const QList<Report> &reports, const QList<int> &incarnations) {
-            QTest::newRow(name) << reports << incarnations;
+        const auto row = [](const char *name, const QList<Sighting> &sightings, const QList<int> &incarnations) {
+            QTest::newRow(name) << sightings << incarnations;
         };
         row("known number", {{0, 7}, {4, 7}, {5, 8}}, {1, 1, 2});
         row("known address", {{0, None, a}, {4, None, a}, {5, None, b}}, {1, 1, 2});
@@ -113,227 +113,123 @@ private Q_SLOTS:
 
     void association()
     {
-        QFETCH(QList<Report>, reports);
-        QSignalSpy messages(m_tracker.get(), &Tracker::message);
+        QFETCH(QList<Sighting>, sightings);
+        TrackerRig rig(RadarSensor);
+        QSignalSpy messages(rig.tracker.data(), &Tracker::message);
         QList<int> incarnations;
-        for (const auto &[second, trackNumber, address] : reports) {
-            setTime(second + 0.001); // no report at the time when the store was made
-            Values values{{"040/RHO", 10}};
-            if (trackNumber != None)
-                values.append({"161/TRN", double(trackNumber)});
-            if (address != None)
-                values.append({"220", double(address)});
-            send(48, values);
+        for (const auto &[second, trackNumber, address] : sightings) {
+            rig.setTime(second + 0.001); // no report at the time when the store was made
+            const auto number = trackNumber == None ? QString() : QStringLiteral(" 161/TRN=%1").arg(trackNumber);
+            const auto icao = address == None ? QString() : QStringLiteral(" 220=%1").arg(address);
+            rig.send(48, "040/RHO=10" + number + icao);
             int updated = 0;
-            for (const auto &each : m_manager->allTracks())
-                updated += each->lastUpdate() == m_now ? int(each->incarnationId()) : 0;
+            for (const auto &each : rig.manager->allTracks())
+                updated += each->lastUpdate() == rig.now ? int(each->incarnationId()) : 0;
             incarnations.append(updated);
         }
         QTEST(incarnations, "incarnations");
         QCOMPARE(messages.size(), incarnations.count(0));
     }
 
-    void positions_data()
+    void reports()
     {
-        // Worked out with vectors on the sphere of 6371007.2 m, and ellipsoidal Mercator.
-        QTest::addColumn<Values>("values");
-        QTest::addColumn<double>("latitude");
-        QTest::addColumn<double>("longitude");
-        QTest::addColumn<QPointF>("plane");
-        const auto row = [](const char *name, const Values &values, double latitude, double longitude, QPointF plane) {
-            QTest::newRow(name) << values << latitude << longitude << plane;
-        };
-        row("polar before Cartesian", {{"040/RHO", 10}, {"040/THETA", 90}, {"042/X", 1}, {"042/Y", 2}}, 49.9997115,
-            8.2591113, {919400.06, 6413474.77});
-        row("polar, far north-west", {{"040/RHO", 255.5}, {"040/THETA", 326.25}}, 53.4744216, 4.0282270,
-            {448420.17, 7036878.75});
-        row("west", {{"042/X", -10}, {"042/Y", 0}}, 49.9997115, 7.7408887, {861711.79, 6413474.77});
-        row("north-east", {{"042/X", 3}, {"042/Y", 4}}, 50.0665957, 8.0778416, {899221.21, 6425033.78});
-        row("south-west", {{"042/X", -3}, {"042/Y", -4}}, 49.9333524, 7.9223739, {881914.63, 6402022.47});
-    }
-
-    void positions()
-    {
-        QFETCH(Values, values);
-        QFETCH(double, latitude);
-        QFETCH(double, longitude);
-        QFETCH(QPointF, plane);
-        for (const int category : {1, 48}) {
-            init();
-            auto report = values;
-            report.append({category == 1 ? "161" : "161/TRN", 7});
-            if (category == 1 && values.first().value > 250)
-                continue; // CAT001 does not reach as far
-            send(category, report);
-            const auto position = track()->geoCoordinate();
-            QVERIFY2(qAbs(position.latitude() - latitude) < 1e-6 && qAbs(position.longitude() - longitude) < 1e-6,
-                qPrintable(position.toATCString(GeoCoordinate::DecimalDegrees)));
-            const auto error = track()->carCoordinate() - plane;
-            QVERIFY(std::hypot(error.x(), error.y()) < 0.1);
-            QCOMPARE(track()->history().size(), 1u);
-            QCOMPARE(track()->history().front().carCoordinate(), track()->carCoordinate());
-            send(category, {report.last()}); // a report without position is recorded at the last one
-            QCOMPARE(track()->geoCoordinate(), position);
-            QCOMPARE(track()->history().size(), 2u);
+        for (const auto &[name, category, reports, expected] : rows) {
+            TrackerRig rig(RadarSensor);
+            rig.send(category, reports);
+            QVERIFY2(shown(rig, expected) == expected, qPrintable(name + (": " + shown(rig, expected))));
         }
-    }
-
-    void typeAndState()
-    {
-        constexpr std::array types{Track::Unknown, Track::Psr, Track::Ssr, Track::PsrSsr, Track::ModeS, Track::ModeS,
-            Track::ModeSPsr, Track::ModeSPsr};
-        for (int value = 0; value < 8; ++value) {
-            send(48, {{"161/TRN", 7}, {"020/TYP", double(value)}, {"170/CNF", 1}});
-            QCOMPARE(track()->type(), types[value]);
-            QVERIFY(track()->tentative());
-            send(48, {{"161/TRN", 7}, {"170/CNF", 0}});
-            QVERIFY(track()->confirmed());
-            QCOMPARE(track()->type(), types[value]); // no descriptor: as it was
-            send(1, {{"161", 7}, {"020/SSRPSR", double(value % 4)}, {"170/CON", value > 3 ? 1.0 : 0.0}});
-            QCOMPARE(track()->type(), types[value % 4]);
-            QCOMPARE(track()->tentative(), value > 3);
+        constexpr int types[]{0, 1, 2, 3, 4, 4, 5, 5};
+        for (int detection = 0; detection < 8; ++detection) {
+            TrackerRig rig(RadarSensor);
+            rig.send(48, QStringLiteral("161/TRN=7 020/TYP=%1").arg(detection));
+            QCOMPARE(shown(rig, "type"), QStringLiteral("type %1").arg(types[detection]));
+            rig.send(1, QStringLiteral("161=7 020/SSRPSR=%1").arg(detection % 4));
+            QCOMPARE(shown(rig, "tracks, type"), QStringLiteral("tracks 1, type %1").arg(detection % 4));
         }
-        track()->setState(Track::Coasting);
-        send(48, {{"161/TRN", 7}});
-        QVERIFY(track()->confirmed());
-    }
-
-    void plainFields()
-    {
-        const Value number{"161/TRN", 7};
-        send(48,
-            {number, {"070/V", 1}, {"070/G", 1}, {"070/L", 1}, {"070/MODE3A", 07421}, {"090/V", 1}, {"090/FL", 101.25},
-                {"200/GSP", 0.125}, {"200/HDG", 270}},
-            "VYX12");
-        QCOMPARE(track()->modeAString(), QStringLiteral("7421GS"));
-        QCOMPARE(track()->modeSCallsign(), QStringLiteral("VYX12"));
-        QCOMPARE(track()->level(), 10125);
-        QCOMPARE(track()->groundSpeed(), 450.0);
-        QCOMPARE(track()->heading(), 270.0);
-        send(48, {number, {"090/G", 1}, {"090/FL", 102}}, "VYX13"); // a garbled level is none
-        QCOMPARE(track()->modeSCallsign(), QStringLiteral("VYX13"));
-        QCOMPARE(track()->modeAString(), QStringLiteral("7421GS")); // kept
-        QVERIFY(!track()->levelValid());
-        QVERIFY(!track()->groundSpeedValid() && !track()->headingValid());
-        send(48, {number, {"070/MODE3A", 0}, {"090/FL", -3.5}}, "");
-        QCOMPARE(track()->modeAString(), QStringLiteral("0000"));
-        QCOMPARE(track()->level(), -350);
-        QVERIFY(!track()->modeSCallsignValid());
-    }
-
-    void selectedAltitude()
-    {
-        // The seconds until a report without registers, and what is left then.
-        const std::tuple<Registers, double, int> rows[]{{{vertical(2188, 600)}, 4.0, 35008}, // the autopilot's first
-            {{vertical({}, 600)}, 4.0, 9600}, {{{0x40, {}}, vertical(625, {})}, 4.0, None}, // the first of its code
-            {{vertical(625, {})}, 12.0, 10000}, {{vertical(625, {})}, 12.001, None}};
-        for (const auto &[registers, silence, altitude] : rows) {
-            init();
-            send(48, {{"161/TRN", 7}}, nullptr, registers);
-            setTime(silence);
-            send(48, {{"161/TRN", 7}});
-            QCOMPARE(track()->selectedAltitudeValid() ? track()->selectedAltitude() : None, altitude);
-        }
-    }
-
-    void verticalRate_data()
-    {
-        QTest::addColumn<QList<Rates>>("reports"); // in 32 feet per minute
-        QTest::addColumn<int>("rate"); // None: not valid
-        QTest::addColumn<int>("trend");
-        const auto row = [](const char *name, const QList<Rates> &reports, int rate, Track::VerticalTrend trend) {
-            QTest::newRow(name) << reports << rate << int(trend);
-        };
-        row("climb", {{0, 7, -62}}, 224, Track::TrendClimbing);
-        row("descent", {{0, -7, {}}}, -224, Track::TrendDescending);
-        row("inertial rate alone", {{0, {}, -31}}, -992, Track::TrendDescending);
-        row("barometric rate too large", {{0, 188, 38}}, 1216, Track::TrendClimbing);
-        row("both too large", {{0, 188, -188}}, None, Track::TrendUnknown);
-        row("kept for 12 s", {{0, 7, {}}, {12, 188, {}}}, 224, Track::TrendClimbing);
-        row("then forgotten", {{0, 7, {}}, {12.001, 188, {}}}, None, Track::TrendUnknown);
-        row("a new rate counts anew", {{0, 7, {}}, {8, -10, {}}, {20, {}, {}}}, -320, Track::TrendDescending);
-    }
-
-    void verticalRate()
-    {
-        QFETCH(QList<Rates>, reports);
-        for (const auto &[second, baro, inertial] : reports) {
-            setTime(second);
-            send(48, {{"161/TRN", 7}}, nullptr, {vertical(625, {}), speed(baro, inertial)});
-        }
-        QTEST(track()->verticalRateValid() ? track()->verticalRate() : None, "rate");
-        QTEST(int(track()->verticalTrend()), "trend");
-    }
-
-    void cat001Association()
-    {
-        QSignalSpy messages(m_tracker.get(), &Tracker::message);
-        send(1, {{"040/RHO", 10}});
-        QCOMPARE(m_manager->trackCount(), 0);
-        QCOMPARE(messages.size(), 1);
-        send(1, {{"161", 7}, {"070/MODE3A", 01234}, {"090/HGT", 80}});
-        send(1, {{"161", 7}, {"040/RHO", 11}, {"090/HGT", 81.5}, {"200/GSP", 0.0625}, {"200/HDG", 45}});
-        QCOMPARE(m_manager->trackCount(), 1);
-        QCOMPARE(track()->modeAString(), QStringLiteral("1234"));
-        QCOMPARE(track()->level(), 8150);
-        QCOMPARE(track()->groundSpeed(), 225.0);
-        QCOMPARE(track()->heading(), 45.0);
-        send(1, {{"161", 0}});
-        QCOMPARE(m_manager->trackCount(), 2); // 0 is a number in this category
-        QCOMPARE(messages.size(), 1);
     }
 
     void damagedBlockIsIgnored()
     {
-        auto octets = encoded(48, {{"161/TRN", 7}, {"040/RHO", 10}}, nullptr, {});
-        receive(octets.chopped(1));
-        octets.chop(1);
+        TrackerRig rig(RadarSensor);
+        auto octets = encodedReport(48, "161/TRN=7 040/RHO=10").chopped(1);
+        rig.receive(octets);
         octets[2] = static_cast<char>(octets.size()); // a block of that length, with its record cut short
-        receive(octets);
-        QCOMPARE(m_manager->trackCount(), 0);
+        rig.receive(octets);
+        QCOMPARE(rig.manager->trackCount(), 0);
     }
 
-private:
-    void setTime(double second) { m_now = m_start.addMSecs(qRound64(second * 1000)); }
-    QByteArray encoded(int category, const Values &values, const char *callsign, const Registers &registers)
+    void sirMNorthMarkersTellOfChanges()
     {
-        korvane::asterix::BlockEncoder encoder(category, nullptr, category == 1 ? "track" : nullptr);
-        encoder.beginBlock();
-        encoder.beginRecord();
-        bool complete = encoder.set("010/SAC", 25);
-        for (const auto &[path, value] : values)
-            complete = encoder.set(path, value) && complete;
-        if (callsign)
-            complete = encoder.setText("240", callsign) && complete;
-        for (const auto &[code, bits] : registers) {
-            complete = encoder.addRepetition("250") && encoder.setRaw("250/MBDATA", bits)
-                && encoder.set("250/BDS1", code >> 4) && encoder.set("250/BDS2", code & 15) && complete;
+        TrackerRig rig(RadarSensor);
+        QStringList log;
+        connect(rig.tracker.data(), &Tracker::message, this,
+            [&log](LogLevel level, const QString &text) { log += QString::number(int(level)) + ' ' + text; });
+        QSignalSpy rotated(rig.as<RadarTracker>(), &RadarTracker::antennaRotated);
+        QSignalSpy north(rig.as<RadarTracker>(), &RadarTracker::antennaNorthCrossed);
+        for (const auto &[northLost, clockLost] : {std::pair(0, 0), {1, 0}, {1, 0}, {0, 1}, {0, 0}}) {
+            const auto marker = QSharedPointer<AleniaSirMRadarNorthMarkerMessage>::create();
+            marker->setNorthNotSynchronized(northLost);
+            marker->setClockNotSynchronized(clockLost);
+            rig.tracker->procAleniaSirMMessage(marker);
         }
-        if (!complete || !encoder.endRecord())
-            qFatal("a report of the test cannot be encoded");
-        const auto block = encoder.block();
-        return QByteArray(reinterpret_cast<const char *>(block.data()), static_cast<qsizetype>(block.size()));
+        const QString text = "%1 Alenia SIR-M Tracker: radar %2 synchronized.";
+        QCOMPARE(log,
+            QStringList({text.arg(3).arg("north is not"), text.arg(1).arg("north is"), text.arg(3).arg("clock is not"),
+                text.arg(1).arg("clock is")}));
+        QCOMPARE(rotated, QList<QVariantList>({{0.0}, {0.0}, {0.0}}));
+        QCOMPARE(north.size(), 5);
     }
 
-    void receive(const QByteArray &octets)
+    void sirMTrackRecords()
     {
-        _ast_datablock_t block;
-        ast_datablock_smart_decode(&block, reinterpret_cast<const unsigned char *>(octets.constData()), octets.size());
-        m_tracker->procAsterixMessage(block);
+        const auto plain = [](SirMRecord &) {};
+        const auto full = [](SirMRecord &record) {
+            record.setModeACode(07421);
+            record.setModeCHeight(-12.5);
+            record.setRateOfClimbDescent(-10);
+            record.setVerticalTrend(2);
+            record.setVelocity(-120, 160);
+            record.setCoasting(true);
+        };
+        const auto unsettled = [](SirMRecord &record) {
+            record.setVelocity(100, 0, false);
+            record.setVerticalTrend(3);
+            record.setTrackType(4);
+        };
+        const auto over = [](SirMRecord &record) { record.setTrackType(0); };
+        const auto end = [](SirMRecord &record) { record.setTrackEnd(true); };
+        const auto otherEnd = [](SirMRecord &record) {
+            record.setTrackNumber(8);
+            record.setTrackEnd(true);
+        };
+        using Change = std::function<void(SirMRecord &)>;
+        const std::pair<QList<Change>, const char *> sequences[]{
+            {{plain},
+                "type 3, state 1, lat 50.35896, lon 7.57711, code ----, level -, rate -, trend 1, speed -, dots 1"},
+            {{full}, "state 2, code 7421, level -13, rate -1969, trend 3, speed 388.8, heading 323.1"},
+            {{full, plain}, "tracks 1, state 1, code ----, level -, rate -, speed -, heading -, dots 2"},
+            {{unsettled}, "speed -, heading -, trend 0, type 0"}, {{plain, over}, "tracks 0"},
+            {{plain, end}, "tracks 0"}, {{over, end}, "tracks 0"}, {{plain, end, plain, otherEnd}, "tracks 1, dots 1"}};
+        for (const auto &[changes, expected] : sequences) {
+            TrackerRig rig(RadarSensor);
+            QSignalSpy rotated(rig.as<RadarTracker>(), &RadarTracker::antennaRotated);
+            const auto data = QSharedPointer<AleniaSirMRadarDataMessage>::create();
+            for (const auto &change : changes) {
+                SirMRecord record;
+                record.setTrackNumber(7);
+                record.setTrackType(3);
+                record.setPosition(-30, 40);
+                change(record);
+                data->addTrackRecord(record);
+            }
+            rig.tracker->procAleniaSirMMessage(data);
+            QCOMPARE(shown(rig, expected), QString(expected));
+            QCOMPARE(rotated.size(), 0);
+            data->setSector(5);
+            rig.tracker->procAleniaSirMMessage(data);
+            QCOMPARE(rotated, QList<QVariantList>({{112.5}}));
+        }
     }
-
-    void send(int category, const Values &values, const char *callsign = nullptr, const Registers &registers = {})
-    {
-        receive(encoded(category, values, callsign, registers));
-    }
-
-    QSharedPointer<Track> track() { return m_manager->findTrackByOtherTrackNum(7); }
-
-    const QDateTime m_start = QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC);
-    QDateTime m_now;
-    MercatorProjector m_projector;
-    QSharedPointer<TrackManager> m_manager;
-    std::unique_ptr<RadarTracker> m_tracker;
 };
 
 QTEST_GUILESS_MAIN(TestRadarTracker)

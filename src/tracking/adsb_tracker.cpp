@@ -1,0 +1,136 @@
+#include "tracking/adsb_tracker.h"
+
+#include "tracking/report_items.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr qint64 ReportLifeSpan = 4000; // milliseconds that selected altitude and vertical rate stay valid
+constexpr qint64 CleanupPauseMs = 4000;
+
+void setModeA(Track &track, const korvane::modes::ADSBTarget &target)
+{
+    if (target.squawkValid())
+        reports::setModeA(track, target.squawk(), false, false);
+}
+
+void setMovement(Track &track, const _ast_datarecord_t &record)
+{
+    const auto speed = ast_datarecord_get_speed(record);
+    track.setGroundSpeed(speed.speed);
+    track.setGroundSpeedValid(speed.present);
+    const auto heading = ast_datarecord_get_heading(record);
+    const bool available = heading.present && (heading.trackAngleAvailable || heading.magneticHeadingAvailable);
+    track.setHeading(available ? heading.heading : 0.0);
+    track.setHeadingValid(available);
+}
+
+// In feet, without fractions.
+std::optional<int> whole(const _ast_altitude_t &altitude)
+{
+    return altitude.present ? std::optional(static_cast<int>(altitude.altitude)) : std::nullopt;
+}
+
+void setVerticalMovement(Track &track, const _ast_datarecord_t &record, const QDateTime &now)
+{
+    reports::setLevel(track, whole(ast_datarecord_get_flightlevel(record)));
+    reports::setSelectedAltitude(track, whole(ast_datarecord_021_get_selaltitude(record)), now, ReportLifeSpan);
+    const auto rate = ast_datarecord_get_vrate(record);
+    reports::setVerticalRate(track, rate.present ? std::optional(rate.rate) : std::nullopt, now, ReportLifeSpan);
+}
+
+} // namespace
+
+AdsbTracker::AdsbTracker(const QSharedPointer<AdsbSensorInfo> &sensor, const QSharedPointer<TrackManager> &trackManager,
+    Projector *projector, QObject *parent)
+    : Tracker(trackManager, projector, parent)
+{
+    if (sensor->location().isValid())
+        m_modesTracker.setReferencePosition(sensor->location().latitude(), sensor->location().longitude());
+}
+
+void AdsbTracker::setAltituteBaroChecking(bool enable, unsigned int checkingTime, unsigned int maxChange)
+{
+    m_modesTracker.setAltituteBaroChecking(enable, checkingTime, maxChange);
+}
+
+void AdsbTracker::procAsterixMessage(const _ast_datablock_t &block)
+{
+    if (!block.valid || block.category != 21)
+        return;
+    for (const auto &record : block.records)
+        procCat021Record(record);
+}
+
+void AdsbTracker::procCat021Record(const _ast_datarecord_t &record)
+{
+    const auto now = trackManager().now();
+    const auto address = ast_datarecord_get_icaoaddr(record);
+    const auto track = record.valid && address.present ? trackOf(address.address) : QSharedPointer<Track>();
+    if (!track)
+        return;
+    track->setState(Track::Confirmed);
+    if (const auto callsign = ast_datarecord_get_callsign(record); callsign.present)
+        reports::setCallsign(*track, callsign.text);
+    if (const auto position = ast_datarecord_get_wgs84coord(record); position.present) {
+        track->setGeoCoordinate({position.latitude, position.longitude});
+        project(*track);
+    }
+    reports::setModeA(*track, ast_datarecord_021_get_squawk(record));
+    setMovement(*track, record);
+    setVerticalMovement(*track, record, now);
+    track->recordHistory(now);
+}
+
+QSharedPointer<Track> AdsbTracker::trackOf(unsigned int address)
+{
+    // Stations send 0 for want of an address: what has it would become a new track with every report.
+    if (address == 0)
+        return {};
+    if (const auto known = trackManager().findTrackByICAOAddr(address))
+        return known;
+    const auto track = createTrack();
+    if (track) {
+        track->setType(Track::Adsb);
+        track->setIcaoAddr(address);
+        trackManager().registerTrack(track);
+    }
+    return track;
+}
+
+void AdsbTracker::procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &message)
+{
+    const auto target = m_modesTracker.procModeSMsg(message);
+    if (!target || !target->icaoAddrValid())
+        return;
+    const auto track = trackOf(target->icaoAddr());
+    if (!track)
+        return;
+    track->setState(Track::Confirmed);
+    if (target->callsignValid())
+        reports::setCallsign(*track, target->callsign().c_str());
+    if (target->positionValid()) {
+        track->setGeoCoordinate({target->latitude(), target->longitude()});
+        project(*track);
+    }
+    setModeA(*track, *target);
+    track->setGroundSpeed(target->groundSpeedValid() ? target->groundSpeed() : 0.0);
+    track->setGroundSpeedValid(target->groundSpeedValid());
+    track->setHeading(target->headingValid() ? target->heading() : 0.0);
+    track->setHeadingValid(target->headingValid());
+    reports::setLevel(*track, target->altitudeBaroValid() ? std::optional(target->altitudeBaro()) : std::nullopt);
+    track->recordHistory(trackManager().now());
+    cleanUpTargets();
+}
+
+// Runs after a pause only: what is flying is heard all the time, and the library's memory of it is worth keeping.
+void AdsbTracker::cleanUpTargets()
+{
+    const auto now = trackManager().now();
+    if (m_lastTargetCleanup.isValid() && m_lastTargetCleanup.msecsTo(now) > CleanupPauseMs) {
+        const auto oldest = now.toMSecsSinceEpoch() - qint64(m_noUpdatedTargetDeletionTime) * 1000;
+        m_modesTracker.killTargets(static_cast<unsigned long long>(oldest));
+    }
+    m_lastTargetCleanup = now;
+}

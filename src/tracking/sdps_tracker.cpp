@@ -1,0 +1,111 @@
+#include "tracking/sdps_tracker.h"
+
+#include "tracking/report_items.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr qint64 ReportLifeSpan = 10000; // milliseconds that selected altitude and vertical rate stay valid
+constexpr double FeetPerQuarterLevel = 25.0;
+constexpr qint64 HalfCircleCounts = 0x2000000; // of I062/105
+
+constexpr double ShortestUpdateInterval = 1.0; // seconds; anything shorter was not entered
+constexpr double AssumedUpdateInterval = 4.0; // seconds
+
+void addHalfCircleToWesternLongitude(_ast_datarecord_062_t &record)
+{
+    auto &position = record.i105;
+    if (position.present && position.longitudeCount < 0)
+        position.longitude = static_cast<double>(position.longitudeCount + HalfCircleCounts) * position.resolution;
+}
+
+// The measured level, else the calculated one unless it is an altitude above the sea.
+std::optional<int> levelOf(const _ast_datarecord_062_t &record)
+{
+    if (record.i136.present)
+        return static_cast<int>(std::lround(record.i136.level * FeetPerQuarterLevel));
+    if (record.i135.present && !record.i135.qnhApplied)
+        return static_cast<int>(std::lround(record.i135.level * FeetPerQuarterLevel));
+    return {};
+}
+
+Track::VerticalTrend trendOf(unsigned int value)
+{
+    constexpr Track::VerticalTrend trends[] = {
+        Track::TrendLevel, Track::TrendClimbing, Track::TrendDescending, Track::TrendUnknown};
+    return trends[value & 3];
+}
+
+void setCallsign(Track &track, const _ast_datarecord_062_t &record)
+{
+    if (record.i390.callsignPresent)
+        reports::setCallsign(track, record.i390.callsign);
+    else if (record.i380.callsignPresent)
+        reports::setCallsign(track, record.i380.callsign);
+}
+
+void setVerticalMovement(Track &track, const _ast_datarecord_062_t &record, const QDateTime &now)
+{
+    const auto altitude =
+        record.i380.selectedAltitudePresent ? std::optional<int>(record.i380.selectedAltitude) : std::nullopt;
+    reports::setSelectedAltitude(track, altitude, now, ReportLifeSpan);
+    const auto rate = record.i220.present ? std::optional(record.i220.rate) : std::nullopt;
+    reports::setVerticalRate(track, rate, now, ReportLifeSpan);
+    if (record.i200.present)
+        track.setVerticalTrend(trendOf(record.i200.vertical));
+}
+
+} // namespace
+
+SdpsTracker::SdpsTracker(const QSharedPointer<SdpsSensorInfo> &sensor, const QSharedPointer<TrackManager> &trackManager,
+    Projector *projector, QObject *parent)
+    : SystemTracker(sensor->location(), trackManager, projector, parent), m_sensor(sensor)
+{
+}
+
+void SdpsTracker::procAsterixMessage(const _ast_datablock_t &block)
+{
+    if (!block.valid || block.category != 62)
+        return;
+    reports::forEachRecord<_ast_datarecord_062_t>(block, ast_datarecord_062_disassemble, [this](auto &record) {
+        applyOptions(record.i105, record.i100);
+        if (m_correctLongitudeWrap)
+            addHalfCircleToWesternLongitude(record);
+        procCat062Message(record);
+    });
+}
+
+void SdpsTracker::procCat062Message(const _ast_datarecord_062_t &record)
+{
+    const auto now = trackManager().now();
+    const auto track = trackOf(record, now);
+    if (!track)
+        return;
+    track->setType(record.i380.present ? Track::SdpsModeS : Track::Sdps);
+    track->setState(record.i080.present && record.i080.cnf ? Track::Tentative : Track::Confirmed);
+    setCallsign(*track, record);
+    placeReported(*track, record.i105, record.i100);
+    reports::setModeA(*track, record.i060);
+    reports::setLevel(*track, levelOf(record));
+    setVerticalMovement(*track, record, now);
+    reports::setVelocityFromComponents(*track, record.i185.present, record.i185.vx, record.i185.vy);
+    track->recordHistory(now);
+}
+
+QSharedPointer<Track> SdpsTracker::trackOf(const _ast_datarecord_062_t &record, const QDateTime &now)
+{
+    Identity identity;
+    if (record.i040.present)
+        identity.number = record.i040.trackNumber;
+    if (record.i380.addressPresent)
+        identity.address = record.i380.address;
+    identity.reportPeriod =
+        m_sensor->updateInterval() < ShortestUpdateInterval ? AssumedUpdateInterval : m_sensor->updateInterval();
+    if (identity.usable())
+        return associate(identity, now);
+    Q_EMIT message(LogLevel::Debug,
+        tr("SDPS Tracker: CAT062 message has neither valid track number (I062/040) nor valid Mode-S address "
+           "(I062/380/ADR), ignore."));
+    return {};
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "tracking/tracker.h"
+
+#include <QPointF>
+
+// What the sources have in common that report positions on the globe, in metres around their own location, or both.
+class SystemTracker : public Tracker {
+    Q_OBJECT
+
+public:
+    void procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &) final { } // they send none
+
+    // Positions of the kind are taken as if they had not been sent. Off at first.
+    bool ignoreWgs84Coordinates() const { return m_ignoreWgs84Coordinates; }
+    void setIgnoreWgs84Coordinates(bool ignore) { m_ignoreWgs84Coordinates = ignore; }
+    bool ignoreCartesianCoordinates() const { return m_ignoreCartesianCoordinates; }
+    void setIgnoreCartesianCoordinates(bool ignore) { m_ignoreCartesianCoordinates = ignore; }
+
+protected:
+    SystemTracker(const GeoCoordinate &location, const QSharedPointer<TrackManager> &trackManager, Projector *projector,
+        QObject *parent);
+
+    // Leaves a record's positions out as the options ask for.
+    template <typename Wgs84Item, typename CartesianItem>
+    void applyOptions(Wgs84Item &wgs84, CartesianItem &cartesian) const
+    {
+        wgs84.present = wgs84.present && !m_ignoreWgs84Coordinates;
+        cartesian.present = cartesian.present && !m_ignoreCartesianCoordinates;
+    }
+
+    // Each position as it is reported, or derived from the other where only that one is; both are left as they were
+    // where there is none. Items as _ast_item_wgs84_t and _ast_item_cartesian_t.
+    template <typename Wgs84Item, typename CartesianItem>
+    void placeReported(Track &track, const Wgs84Item &wgs84, const CartesianItem &cartesian) const
+    {
+        if (wgs84.present)
+            track.setGeoCoordinate({wgs84.latitude, wgs84.longitude});
+        if (cartesian.present)
+            placeOnPlane(track, m_sensorPlanePosition + QPointF(cartesian.x, cartesian.y), !wgs84.present);
+        else if (wgs84.present)
+            project(track);
+    }
+
+private:
+    void placeOnPlane(Track &track, const QPointF &position, bool deriveWgs84) const;
+
+    QPointF m_sensorPlanePosition;
+    bool m_ignoreWgs84Coordinates = false;
+    bool m_ignoreCartesianCoordinates = false;
+};

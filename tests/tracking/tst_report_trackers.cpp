@@ -1,0 +1,201 @@
+#include "modes/encoder.h"
+#include "modes/mode_s_decoder.h"
+#include "tracker_rig.h"
+#include "tracking/adsb_tracker.h"
+#include "tracking/sdps_tracker.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+namespace modes = korvane::modes;
+
+namespace {
+
+enum Option { NoOption, IgnoreWgs84, IgnoreCartesian, CorrectLongitudeWrap };
+
+struct Row {
+    const char *name;
+    int category;
+    const char *reports;
+    const char *expected;
+    Option option = NoOption;
+};
+
+// On the plane the sensor stands at (890556, 6413525).
+const Row rows[]{
+    {"all fields", 20,
+        "161/TRN=7 220=0x4b1a2c 245/CHR=VYX12 070/G=1 070/L=1 070/MODE3A=07421 090/G=1 090/FL=101.25 202/VX=100",
+        "tracks 1, type 7, state 1, address 4B1A2C, call VYX12, code 7421GS, level 10125, speed 194.4, heading 90.0, "
+        "trend 0, ground 0"},
+    {"not repeated", 20, "161/TRN=7 070/MODE3A=1 090/FL=1 202/VX=1; 161/TRN=7",
+        "code 0001, level -, speed -, heading -"},
+    {"tentative before all", 20, "161/TRN=7 170/CNF=1 170/CST=1 170/TRE=1", "state 0"},
+    {"coasting before the end", 20, "161/TRN=7 170/CST=1 170/TRE=1", "state 2"},
+    {"end", 20, "161/TRN=7 170/TRE=1", "state 3"},
+    {"no more status", 20, "161/TRN=7 170/CST=1; 161/TRN=7", "state 1"},
+    {"movement 0 before the rate", 20, "161/TRN=7 170/CDM=0 bds60=-7/-", "rate -224, trend 2"},
+    {"movement 1", 20, "161/TRN=7 170/CDM=1", "trend 3"},
+    {"movement 2", 20, "161/TRN=7 170/CDM=2", "trend 1"},
+    {"movement 3", 20, "161/TRN=7 170/CDM=3 bds60=-7/-", "trend 0"},
+    {"downlinked 4 s ago", 20, "161/TRN=7 bds40=625/- bds60=7/-; @4 161/TRN=7", "rate 224, trend 2, selected 10000"},
+    {"and a moment more", 20, "161/TRN=7 bds40=625/- bds60=7/-; @4.001 161/TRN=7", "rate -, trend 0, selected -"},
+    {"address, then number", 20, "220=99; @1 161/TRN=7 220=99; @2 220=99; @3 161/TRN=7", "tracks 1"},
+    {"two under one address", 20, "161/TRN=7 220=99 041/LAT=50; @0.5 161/TRN=8 220=99", "tracks 2"},
+    {"globe", 20, "161/TRN=7 041/LAT=50.625 041/LON=8.4375", "lat 50.62500, lon 8.43750, x 939258, y 6522177, dots 1"},
+    {"plane", 20, "161/TRN=7 042/X=1000 042/Y=-2000", "lat 49.98842, lon 8.00898, x 891556, y 6411525, dots 1"},
+    {"globe and plane", 20, "161/TRN=7 041/LAT=50.625 041/LON=8.4375 042/X=1000 042/Y=-2000",
+        "lat 50.62500, lon 8.43750, x 891556, y 6411525, dots 1"},
+    {"globe ignored", 20, "161/TRN=7 041/LAT=50.625 041/LON=8.4375 042/X=1000 042/Y=-2000", "lat 49.98842, x 891556",
+        IgnoreWgs84},
+    {"plane ignored", 20, "161/TRN=7 041/LAT=50.625 041/LON=8.4375 042/X=1000 042/Y=-2000", "lat 50.62500, x 939258",
+        IgnoreCartesian},
+    {"nothing left", 20, "161/TRN=7 041/LAT=50.625", "tracks 1, lat -, x -, dots 0", IgnoreWgs84},
+
+    {"all fields", 62,
+        "040=7 380/ADR=0x4b1a2c 380/ID=VYX12 060/G=1 060/MODE3A=07421 136=101.25 135/CTB=90 185/VX=-100 185/VY=100 "
+        "380/SAL/ALT=12000 220=-206.25 105/LAT=50.625 105/LON=8.4375",
+        "tracks 1, type 9, state 1, address 4B1A2C, call VYX12, code 7421G, level 10125, speed 274.9, heading 315.0, "
+        "selected 12000, rate -206, trend 3, lat 50.62500, lon 8.43750, x 939258, y 6522177, dots 1"},
+    {"plane", 62, "040=7 100/X=1000 100/Y=-2000", "lat 49.98842, lon 8.00898, x 891556, y 6411525, dots 1"},
+    {"globe ignored", 62, "040=7 105/LAT=50.625 100/X=1000 100/Y=-2000", "lat 49.98842", IgnoreWgs84},
+    {"plane ignored", 62, "040=7 105/LAT=50.625 105/LON=8.4375 100/X=1000", "x 939258", IgnoreCartesian},
+    {"aircraft-derived data end", 62, "380/ADR=99; @1 040=7 380/ADR=99; @2 040=7", "tracks 1, type 10, address 000063"},
+    {"tentative", 62, "040=7 080/CNF=1", "state 0"},
+    {"flight plan's call sign", 62, "040=7 380/ID=VYX12 390/CS=PLAN7", "call PLAN7"},
+    {"target identification", 62, "040=7 245/CHR=VYX12", "call -------"},
+    {"calculated level", 62, "040=7 135/CTB=-3.25", "level -325"},
+    {"altitude above the sea", 62, "040=7 135/CTB=50 135/QNH=1", "level -"},
+    {"movement 0 before the rate", 62, "040=7 200/VERT=0 220=300", "rate 300, trend 1"},
+    {"movement 1", 62, "040=7 200/VERT=1", "trend 2"},
+    {"movement 2", 62, "040=7 200/VERT=2", "trend 3"},
+    {"movement 3", 62, "040=7 200/VERT=3 220=300", "trend 0"},
+    {"200 ft/min", 62, "040=7 220=200", "rate 200, trend 1"},
+    {"-200 ft/min", 62, "040=7 220=-200", "rate -200, trend 1"},
+    {"halves are rounded up", 62, "040=7 220=12.5", "rate 13"},
+    {"or down", 62, "040=7 220=-12.5", "rate -13"},
+    {"sent 10 s ago", 62, "040=7 380/SAL/ALT=12000 220=206.25; @10 040=7", "rate 206, trend 2, selected 12000"},
+    {"and a moment more", 62, "040=7 380/SAL/ALT=12000 220=300; @10.001 040=7", "rate -, trend 0, selected -"},
+    {"south-west", 62, "040=7 185/VX=-50 185/VY=-50", "speed 137.5, heading 225.0"},
+    {"western longitude", 62, "040=7 105/LAT=50.625 105/LON=-168.75", "lon -168.75000"},
+    {"turned", 62, "040=7 105/LAT=50.625 105/LON=-168.75", "lon 11.25000, x 1252344", CorrectLongitudeWrap},
+    {"eastern one left", 62, "040=7 105/LAT=50.625 105/LON=11.25", "lon 11.25000", CorrectLongitudeWrap},
+
+    {"all fields", 21,
+        "080=0x4b1a2c 170=VYX12 130/LAT=50.625 130/LON=8.4375 070/MODE3A=07421 145=101.25 146/ALT=12000 "
+        "155/BVR=-206.25 "
+        "160/GS=0.125 160/TA=270",
+        "tracks 1, type 6, state 1, address 4B1A2C, call VYX12, code 7421, lat 50.62500, lon 8.43750, x 939258, "
+        "y 6522177, level 10125, selected 12000, rate -206, trend 3, speed 450.0, heading 270.0, dots 1"},
+    {"not repeated", 21, "080=99 170=VYX12 145=1 160/GS=0.1 070/MODE3A=1; 080=99",
+        "tracks 1, call VYX12, code 0001, level -, speed -, heading -"},
+    {"magnetic heading, level below zero", 21, "080=99 152=45 145=-3.25", "speed -, heading 45.0, level -325"},
+    {"sent 4 s ago", 21, "080=99 146/ALT=12000 155/BVR=300; @4 080=99", "rate 300, trend 2, selected 12000"},
+    {"and a moment more", 21, "080=99 146/ALT=12000 155/BVR=300; @4.001 080=99", "rate -, trend 0, selected -"},
+    {"no address", 21, "170=VYX12; 080=0", "tracks 0"},
+
+    {"all fields", 10, "161/TRK=7 040/RHO=3000 040/TH=90 200/GSP=0.0078125 200/TRA=45 220=99 090/FL=1",
+        "tracks 1, type 8, state 1, ground 1, lat 49.99999, lon 8.04197, x 895228, y 6413523, speed 28.1, "
+        "heading 45.0, address ------, level -, dots 1"},
+    {"tentative, without velocity", 10, "161/TRK=7 040/RHO=1 200/GSP=0.01; 161/TRK=7 040/RHO=1 170/CNF=1",
+        "tracks 1, state 0, speed -, heading -, dots 2"},
+    {"positions of other kinds", 10, "161/TRK=7 041/LAT=50 042/X=10", "tracks 0"},
+};
+
+const QHash<int, SensorType> sensors{{10, SmrSensor}, {20, MlatSensor}, {21, AdsbSensor}, {62, SdpsSensor}};
+
+} // namespace
+
+// The trackers whose sources report finished tracks: ADS-B, multilateration, system tracks, surface movement.
+class TestReportTrackers : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void reports_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int i = 0; i < int(std::size(rows)); ++i)
+            QTest::addRow("CAT%03d, %s", rows[i].category, rows[i].name) << i;
+    }
+
+    void reports()
+    {
+        QFETCH(int, index);
+        const auto &[name, category, reports, expected, option] = rows[index];
+        TrackerRig rig(sensors[category]);
+        if (auto *system = rig.as<SystemTracker>()) {
+            system->setIgnoreWgs84Coordinates(option == IgnoreWgs84);
+            system->setIgnoreCartesianCoordinates(option == IgnoreCartesian);
+        }
+        if (auto *sdps = rig.as<SdpsTracker>())
+            sdps->setCorrectLongitudeWrap(option == CorrectLongitudeWrap);
+        rig.send(48, "161/TRN=99 220=99"); // another category
+        rig.send(category, reports);
+        QCOMPARE(shown(rig, expected), QString(expected));
+    }
+
+    void reportsThatNameNoTrack()
+    {
+        const std::tuple<int, const char *, const char *> unnamed[]{
+            {20, "161/TRN=0 220=0",
+                "MLAT Tracker: CAT020 message has neither valid track number (I020/161) nor valid Mode-S address "
+                "(I020/220), ignore."},
+            {62, "040=0 380/ID=VYX12",
+                "SDPS Tracker: CAT062 message has neither valid track number (I062/040) nor valid Mode-S address "
+                "(I062/380/ADR), ignore."},
+            {10, "040/RHO=500", "SMR Tracker: CAT010 message has no valid track number (I010/161), ignore."}};
+        for (const auto &[category, report, text] : unnamed) {
+            TrackerRig rig(sensors[category]);
+            QSignalSpy messages(rig.tracker.data(), &Tracker::message);
+            rig.send(category, report);
+            QCOMPARE(rig.manager->trackCount(), 0);
+            QCOMPARE(messages, QList<QVariantList>({{QVariant::fromValue(LogLevel::Debug), QString(text)}}));
+        }
+    }
+
+    void exhaustedTrackNumbersAreReportedNowAndThen()
+    {
+        for (const auto &[category, report] :
+            {std::pair(20, "161/TRN=7"), {10, "161/TRK=7 040/RHO=1"}, {21, "080=7"}}) {
+            TrackerRig rig(sensors[category]);
+            while (rig.manager->createTrack()) { }
+            QSignalSpy messages(rig.tracker.data(), &Tracker::message);
+            rig.send(category, QStringLiteral("%1; @9.999 %1").arg(report));
+            QCOMPARE(messages.size(), 1);
+            rig.send(category, QStringLiteral("@10 %1").arg(report));
+            QCOMPARE(messages.size(), 2);
+        }
+    }
+
+    void libraryTargetsAreForgottenAfterAPause()
+    {
+        // The seconds at which another aircraft is heard, the deletion time, and whether the first one is still known.
+        const std::tuple<QList<double>, unsigned int, bool> histories[]{{{4, 8, 12, 16, 20}, 10, true},
+            {{4, 8, 12, 16, 20.001}, 10, false}, {{4, 5, 10}, 10, true}, {{20, 24}, 30, true}};
+        for (const auto &[others, deletionTime, known] : histories) {
+            TrackerRig rig(AdsbSensor);
+            rig.as<AdsbTracker>()->setNoUpdatedTargetDeletionTime(deletionTime);
+            receive(rig, 0, modes::encodeIdentification(0x4b1a2c, 'A', 3, "VYX12"));
+            for (const double second : others)
+                receive(rig, second, modes::encodeVelocity(0x3c0001, 450, 270, 0));
+            rig.manager->reset(); // what comes back is the library's
+            receive(rig, others.last(), modes::encodeVelocity(0x4b1a2c, 450, 270, 0));
+            QCOMPARE(shown(rig, "call"), known ? "call VYX12" : "call -------");
+        }
+    }
+
+private:
+    void receive(TrackerRig &rig, double second, modes::ModeSFrame frame)
+    {
+        rig.setTime(second);
+        frame.timeStamp = static_cast<unsigned long long>(rig.now.toMSecsSinceEpoch());
+        const auto message = std::make_shared<modes::ModeSMessage>();
+        m_decoder.decode(modes::ModeSMessage::AnyDownlink, frame, *message);
+        QVERIFY(message->valid());
+        rig.tracker->procModeSMessage(message);
+    }
+
+    modes::ModeSDecoder m_decoder;
+};
+
+QTEST_GUILESS_MAIN(TestReportTrackers)
+#include "tst_report_trackers.moc"
