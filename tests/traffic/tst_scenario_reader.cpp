@@ -1,5 +1,7 @@
 #include "traffic/scenario_reader.h"
 
+#include "traffic/sensor_json.h"
+
 #include "geo/geo_coordinate.h"
 
 #include <QTest>
@@ -78,7 +80,7 @@ private Q_SLOTS:
     void sensorJsonIsThatOfASensorFile()
     {
         ScenarioReader reader;
-        const QJsonObject sensor = sensorJson(reader.read(QStringLiteral("demo"))->radars.front());
+        const QJsonObject sensor = sensorJson(*reader.read(QStringLiteral("demo")));
         QCOMPARE(sensor.value(QLatin1String("type")).toString(), QStringLiteral("radar"));
         QCOMPARE(sensor.value(QLatin1String("sac")).toInt(), 25);
         QCOMPARE(sensor.value(QLatin1String("rotation_period")).toDouble(), 4.0);

@@ -1,7 +1,8 @@
-// vyx-traffic: plays air traffic scenarios as the radars of an area would report them.
+// vyx-traffic: plays air traffic scenarios as the sensors of an area would report them.
 
 #include "traffic/command_line.h"
 #include "traffic/scenario_reader.h"
+#include "traffic/sensor_json.h"
 #include "traffic/traffic_run.h"
 
 #include <QCoreApplication>
@@ -56,6 +57,16 @@ int print(const QString &text)
     return 0;
 }
 
+// One line each: the name, and what is to be seen.
+QString listOfScenarios()
+{
+    QString list;
+    const QStringList names = ScenarioReader::builtInNames();
+    for (const QString &name : names)
+        list += QStringLiteral("%1  %2\n").arg(name, -8).arg(ScenarioReader::description(name));
+    return list;
+}
+
 int runScenario(const TrafficOptions &options)
 {
     ScenarioReader reader;
@@ -63,7 +74,7 @@ int runScenario(const TrafficOptions &options)
     if (!scenario)
         return fail(ExitWrongArguments, reader.error());
     if (options.action == TrafficOptions::Action::SensorJson)
-        return print(QString::fromUtf8(QJsonDocument(sensorJson(scenario->radars.front())).toJson()));
+        return print(QString::fromUtf8(QJsonDocument(sensorJson(*scenario)).toJson()));
     catchSignals();
     if (options.withParent)
         endWithParent();
@@ -86,7 +97,7 @@ int main(int argc, char *argv[])
     case TrafficOptions::Action::Version:
         return print(QStringLiteral("vyx-traffic %1\n").arg(QLatin1String(VYX_VERSION)));
     case TrafficOptions::Action::List:
-        return print(ScenarioReader::builtInNames().join(QLatin1Char('\n')) + QLatin1Char('\n'));
+        return print(listOfScenarios());
     default:
         return runScenario(commandLine.options());
     }

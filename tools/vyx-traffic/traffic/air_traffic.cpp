@@ -31,8 +31,13 @@ bool AirTarget::hiddenAt(double time, double rotationPeriod) const
     });
 }
 
-AirTraffic::AirTraffic(const Scenario &scenario, std::uint64_t seed, double lingering)
-    : m_randomFlights(scenario.random, seed), m_randomCount(scenario.random.count), m_lingering(lingering)
+bool isEmergency(std::uint16_t squawk)
+{
+    return squawk == 07500 || squawk == 07600 || squawk == 07700;
+}
+
+AirTraffic::AirTraffic(const Scenario &scenario, std::uint64_t seed)
+    : m_randomFlights(scenario.random, seed), m_randomCount(scenario.random.count)
 {
     for (const ScenarioFlight &flight : scenario.flights)
         m_departures.push_back({std::make_shared<ScenarioFlight>(flight), flight.start});

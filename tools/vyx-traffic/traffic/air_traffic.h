@@ -22,12 +22,17 @@ struct AirTarget {
     bool hiddenAt(double time, double rotationPeriod) const;
 };
 
+// 7500, 7600 or 7700.
+bool isEmergency(std::uint16_t squawk);
+
 // Everything that flies at a moment of the scenario: the flights of the file and those made up from the seed.
 class AirTraffic {
 public:
-    // lingering: seconds for which an aircraft flies on after the end of its route, so that every radar can see it once
-    // more and end its track.
-    AirTraffic(const Scenario &scenario, std::uint64_t seed, double lingering);
+    AirTraffic(const Scenario &scenario, std::uint64_t seed);
+
+    // Seconds for which an aircraft flies on after the end of its route, so that whoever tracks it can see it once more
+    // and end its track; 0 until set.
+    void setLingering(double seconds) { m_lingering = seconds; }
 
     // Seconds from the scenario's start; not before the time of the call before.
     void advanceTo(double time);

@@ -8,11 +8,11 @@
 namespace {
 
 constexpr double LongestStep = 1.0; // seconds
-constexpr double Acceleration = 1.5; // knots per second
 constexpr double HoldOutbound = 60; // seconds
 constexpr double LevelOff = 3; // feet per minute for each foot that is left, so that the rate fades out
 constexpr double SlowestRate = 300; // feet per minute
-constexpr double CaptureDistance = 200; // metres
+constexpr double CaptureDistance = 200; // metres, of what is fast
+constexpr double CaptureTime = 2.5; // seconds, of what is slow
 
 } // namespace
 
@@ -95,7 +95,7 @@ bool Aircraft::turnInHold(double track, double seconds)
 
 void Aircraft::changeSpeed(double seconds)
 {
-    const double most = Acceleration * seconds;
+    const double most = m_performance.acceleration * seconds;
     m_state.speed += std::clamp(m_selectedSpeed - m_state.speed, -most, most);
 }
 
@@ -129,7 +129,7 @@ bool Aircraft::atWaypoint() const
     const double ahead = Earth::bearing(m_state.latitude, m_state.longitude, next.latitude, next.longitude);
     if (distance < 3 * radius && std::abs(Earth::turnBetween(m_state.track, ahead)) > 90)
         return true;
-    double lead = CaptureDistance;
+    double lead = std::min(CaptureDistance, CaptureTime * metresPerSecond);
     if (m_leg + 1 < m_route.size() && next.holdTurns == 0) {
         const ScenarioWaypoint &after = m_route[m_leg + 1];
         const double out = Earth::bearing(next.latitude, next.longitude, after.latitude, after.longitude);

@@ -20,8 +20,8 @@ const QHash<QString, Action> OptionsOfAction{{QStringLiteral("--list"), Action::
 QString TrafficCommandLine::helpText()
 {
     return tr("Usage: vyx-traffic [OPTION]... [SCENARIO.json|NAME]\n"
-              "Plays an air traffic scenario (\"demo\" unless another is named) and sends or records what its radars "
-              "report.\n"
+              "Plays an air traffic scenario (\"demo\" unless another is named) and sends or records what its "
+              "sources report.\n"
               "\n"
               "  --to udp:HOST:PORT              send datagrams there\n"
               "  --to udp:GROUP:PORT@INTERFACE   send them to a multicast group\n"
@@ -36,7 +36,7 @@ QString TrafficCommandLine::helpText()
               "  --category 048|001              target reports of this category from all radars\n"
               "  --with-parent                   end when the program that started this one ends\n"
               "  --aircraft N --rate R           load: R datagrams a second, each with one plot of one of N aircraft\n"
-              "  --sensor-json                   print the first radar as an object of a sensor file\n"
+              "  --sensor-json                   print the scenario's sensor as an object of a sensor file\n"
               "  --list                          print the built-in scenarios\n"
               "  --help, --version               print this, or the version\n");
 }

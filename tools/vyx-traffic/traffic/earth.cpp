@@ -2,6 +2,7 @@
 
 #include "geo/geo_coordinate.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -40,6 +41,20 @@ void advance(double &latitude, double &longitude, double bearing, double metres)
     const QGeoCoordinate moved = GeoCoordinate(latitude, longitude).atDistanceAndAzimuth(metres, bearing);
     latitude = moved.latitude();
     longitude = moved.longitude();
+}
+
+Plane plane(double originLatitude, double originLongitude, double latitude, double longitude)
+{
+    const double metres = distance(originLatitude, originLongitude, latitude, longitude);
+    const double angle = radians(bearing(originLatitude, originLongitude, latitude, longitude));
+    return {metres * std::sin(angle), metres * std::cos(angle)};
+}
+
+double radioHorizon(double targetAltitude, double antennaAltitude)
+{
+    constexpr double MilesOfRootFoot = 1.23;
+    return MilesOfRootFoot
+        * (std::sqrt(std::max(targetAltitude, 0.0)) + std::sqrt(std::max(antennaAltitude / MetresPerFoot, 0.0)));
 }
 
 } // namespace Earth

@@ -19,4 +19,15 @@ double bearing(double fromLatitude, double fromLongitude, double toLatitude, dou
 // Moves the position along the bearing.
 void advance(double &latitude, double &longitude, double bearing, double metres);
 
+struct Plane {
+    double east = 0; // metres
+    double north = 0;
+};
+// Where a position lies from an origin: at its distance and bearing from there.
+Plane plane(double originLatitude, double originLongitude, double latitude, double longitude);
+
+// How far away a target at an altitude in feet is seen from an antenna at an altitude in metres, in nautical miles, for
+// an Earth with four thirds of its radius.
+double radioHorizon(double targetAltitude, double antennaAltitude);
+
 } // namespace Earth

@@ -19,6 +19,8 @@ public:
         double low;
         double high; // included
     };
+    static constexpr Range Latitudes{-89, 89};
+    static constexpr Range Longitudes{-180, 180};
 
     // path: where the value stands in the document, empty for the document itself. error: empty so long as all is well;
     // outlives the reader.

@@ -15,10 +15,9 @@ constexpr int TurnRegisterInterval = 3; // every third turn the radar reads BDS 
 } // namespace
 
 RadarModel::RadarModel(const ScenarioRadar &radar, std::size_t index, std::uint64_t seed, double magneticVariation)
-    : m_radar(radar), m_random(seed, FirstNoiseStream + index), m_magneticVariation(magneticVariation)
+    : m_radar(radar), m_random(seed, FirstNoiseStream + index), m_magneticVariation(magneticVariation),
+      m_numbers(LastTrackNumber)
 {
-    for (std::uint16_t number = 1; number <= LastTrackNumber; ++number)
-        m_freeNumbers.push_back(number);
 }
 
 double RadarModel::nextSectorTime() const
@@ -89,7 +88,7 @@ RadarModel::Look RadarModel::lookAt(const AirTarget &target, double azimuth, dou
     look.distance = Earth::distance(m_radar.latitude, m_radar.longitude, state.latitude, state.longitude);
     look.height = state.altitude * Earth::MetresPerFoot - m_radar.antennaAltitude;
     const double miles = look.distance / Earth::MetresPerNauticalMile;
-    const bool visible = aboveHorizon(look, state.altitude);
+    const bool visible = !target.flight->vehicle && aboveHorizon(look, state.altitude);
     const bool transponder = target.flight->transponder != ScenarioFlight::Transponder::None;
     look.inPrimary = visible && m_radar.psr && target.flight->primaryEcho && miles <= m_radar.coveragePrimary;
     look.inSecondary = visible && (m_radar.ssr || m_radar.modeS) && transponder && miles <= m_radar.coverageSecondary;
@@ -99,8 +98,7 @@ RadarModel::Look RadarModel::lookAt(const AirTarget &target, double azimuth, dou
 bool RadarModel::aboveHorizon(const Look &look, double altitude) const
 {
     const double miles = look.distance / Earth::MetresPerNauticalMile;
-    const double antenna = std::max(m_radar.antennaAltitude / Earth::MetresPerFoot, 0.0);
-    if (m_radar.horizon && miles > 1.23 * (std::sqrt(std::max(altitude, 0.0)) + std::sqrt(antenna)))
+    if (m_radar.horizon && miles > Earth::radioHorizon(altitude, m_radar.antennaAltitude))
         return false;
     return std::atan2(look.height, look.distance) >= Earth::radians(m_radar.minimumElevation);
 }
@@ -111,10 +109,18 @@ bool RadarModel::detects(bool inCoverage, const AirTarget &target, double time)
         && !target.hiddenAt(time, m_radar.rotationPeriod);
 }
 
-// A track that is not detected is carried on silently, until a report without position ends it.
+// A track that is not detected is carried on, silently where the category knows no coasting, until a last report ends
+// it.
 void RadarModel::missed(Track &track, const AirTarget &target, const Look &look, std::vector<TargetReport> &reports)
 {
-    if (track.number == 0 || ++track.misses < m_radar.missesToDrop)
+    if (track.number == 0)
+        return;
+    const bool isOver = ++track.misses >= m_radar.missesToDrop;
+    if (!isOver && m_radar.category == ScenarioRadar::TargetCategory::SirM) {
+        reports.push_back(reportOf(track, target, look));
+        reports.back().coasting = true;
+    }
+    if (!isOver)
         return;
     TargetReport report;
     report.time = look.time;
@@ -129,28 +135,31 @@ void RadarModel::missed(Track &track, const AirTarget &target, const Look &look,
 
 void RadarModel::detected(Track &track, const AirTarget &target, const Look &look, std::vector<TargetReport> &reports)
 {
-    if (track.number == 0) {
-        if (m_freeNumbers.empty())
-            return;
-        track.number = m_freeNumbers.front();
-        m_freeNumbers.pop_front();
-    }
+    if (track.number == 0)
+        track.number = m_numbers.take();
+    if (track.number == 0)
+        return;
     ++track.reports;
     track.misses = 0;
+    reports.push_back(reportOf(track, target, look));
+    reports.back().trackEnd = target.endedAt || (!look.inPrimary && !look.inSecondary);
+}
+
+TargetReport RadarModel::reportOf(const Track &track, const AirTarget &target, const Look &look)
+{
     TargetReport report;
     report.time = look.time;
     report.trackNumber = track.number;
     report.byPrimary = track.byPrimary;
     report.bySecondary = track.bySecondary;
     report.tentative = track.reports <= TentativeReports;
-    report.trackEnd = target.endedAt || (!look.inPrimary && !look.inSecondary);
     report.speed = target.aircraft.state().speed;
     report.track = target.aircraft.state().track;
     report.verticalRate = target.aircraft.state().verticalRate;
     measure(report, look);
     if (track.bySecondary)
         interrogate(report, target, look, track.reports);
-    reports.push_back(std::move(report));
+    return report;
 }
 
 void RadarModel::measure(TargetReport &report, const Look &look)
@@ -184,11 +193,16 @@ void RadarModel::interrogate(TargetReport &report, const AirTarget &target, cons
 
 void RadarModel::endTrack(Track &track)
 {
-    if (track.number != 0)
-        m_freeNumbers.push_back(track.number);
+    m_numbers.giveBack(track.number);
     const double lastLook = track.lastLook;
     track = Track();
     track.lastLook = lastLook;
+}
+
+std::uint16_t RadarModel::trackNumber(std::uint64_t target) const
+{
+    const auto track = m_tracks.find(target);
+    return track == m_tracks.end() ? 0 : track->second.number;
 }
 
 // A target that left the air without a last look takes its number with it no longer than three turns.

@@ -3,9 +3,9 @@
 #include "traffic/air_traffic.h"
 #include "traffic/mode_s_registers.h"
 #include "traffic/scenario.h"
+#include "traffic/track_number_pool.h"
 #include "traffic/traffic_random.h"
 
-#include <deque>
 #include <map>
 #include <vector>
 
@@ -18,6 +18,7 @@ struct TargetReport {
     bool byModeS = false; // the secondary detection came from a Mode S roll call
     bool tentative = false;
     bool trackEnd = false; // the last report under this track number
+    bool coasting = false; // not detected: all that follows is a prediction
     bool positionValid = false;
     double slantRange = 0; // nautical miles
     double azimuth = 0; // degrees clockwise from north
@@ -55,6 +56,8 @@ public:
     SectorReport enterSector(const AirTraffic &traffic);
 
     const ScenarioRadar &radar() const { return m_radar; }
+    // 0: has no track of it.
+    std::uint16_t trackNumber(std::uint64_t target) const;
 
 private:
     struct Look // the target as it stands at the moment of the look
@@ -82,6 +85,7 @@ private:
     bool detects(bool inCoverage, const AirTarget &target, double time);
     void missed(Track &track, const AirTarget &target, const Look &look, std::vector<TargetReport> &reports);
     void detected(Track &track, const AirTarget &target, const Look &look, std::vector<TargetReport> &reports);
+    TargetReport reportOf(const Track &track, const AirTarget &target, const Look &look);
     void measure(TargetReport &report, const Look &look);
     void interrogate(TargetReport &report, const AirTarget &target, const Look &look, int turn) const;
     void endTrack(Track &track);
@@ -92,5 +96,5 @@ private:
     double m_magneticVariation = 0;
     std::int64_t m_sectorsEntered = 0;
     std::map<std::uint64_t, Track> m_tracks; // by target
-    std::deque<std::uint16_t> m_freeNumbers; // the one unused for longest first
+    TrackNumberPool m_numbers;
 };

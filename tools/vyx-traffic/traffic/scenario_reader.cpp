@@ -1,6 +1,6 @@
 #include "traffic/scenario_reader.h"
 
-#include "geo/geo_coordinate.h"
+#include "traffic/source_reader.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,10 +11,8 @@
 
 namespace {
 
-constexpr JsonObjectReader::Range Latitudes{-89, 89};
-constexpr JsonObjectReader::Range Longitudes{-180, 180};
 constexpr JsonObjectReader::Range Altitudes{-1000, 60000};
-constexpr JsonObjectReader::Range Speeds{20, 1200};
+constexpr JsonObjectReader::Range Speeds{3, 1200};
 constexpr JsonObjectReader::Range Times{-86400, 864000};
 constexpr std::uint32_t HighestAddress = 0xFFFFFF;
 constexpr std::uint32_t HighestSquawk = 07777;
@@ -36,6 +34,13 @@ QStringList ScenarioReader::builtInNames()
     for (const QString &file : files)
         names.append(file.chopped(5));
     return names;
+}
+
+QString ScenarioReader::description(const QString &builtInName)
+{
+    ScenarioReader reader;
+    const std::optional<Scenario> scenario = reader.read(builtInName);
+    return scenario ? scenario->description : QString();
 }
 
 std::optional<Scenario> ScenarioReader::read(const QString &nameOrFile)
@@ -77,51 +82,45 @@ void ScenarioReader::readScenario(JsonObjectReader &reader, Scenario &scenario)
     if (!scenario.startTime.isValid())
         reader.fail("startTime", tr("must be a time like 2025-06-01T08:00:00Z"));
     scenario.duration = reader.number("duration", {0, 8640000}, 0);
-    scenario.magneticVariation = reader.number("magneticVariation", {-180, 180}, 0);
-    reader.eachObject("radars", [&](JsonObjectReader &radar) { readRadar(radar, scenario); });
-    if (scenario.radars.empty())
-        reader.fail("radars", tr("must hold at least one radar"));
     m_fixes.clear();
+    if (reader.has("trafficOf"))
+        readTrafficOf(reader, scenario);
+    scenario.magneticVariation = reader.number("magneticVariation", {-180, 180}, scenario.magneticVariation);
     reader.eachObject("fixes", [this](JsonObjectReader &fix) { readFix(fix, m_fixes); });
+    SourceReader(scenario, m_fixes).read(reader);
     reader.eachObject("flights", [&](JsonObjectReader &flight) { readFlight(flight, scenario); });
     reader.object("random", [&](JsonObjectReader &random) { readRandom(random, scenario.random); });
 }
 
-void ScenarioReader::readRadar(JsonObjectReader &reader, Scenario &scenario)
+// Fixes, flights and random flights of another scenario; what the scenario has itself is added to them. The other one
+// may not do so in its turn.
+void ScenarioReader::readTrafficOf(JsonObjectReader &reader, Scenario &scenario)
 {
-    ScenarioRadar radar;
-    radar.name = reader.text("name");
-    radar.description = reader.text("description", QString());
-    radar.sac = static_cast<std::uint8_t>(reader.integer("sac", {0, 255}));
-    radar.sic = static_cast<std::uint8_t>(reader.integer("sic", {0, 255}));
-    radar.latitude = reader.number("lat", Latitudes);
-    radar.longitude = reader.number("lon", Longitudes);
-    radar.antennaAltitude = reader.integer("antennaAltitude", {-500, 9000}, 0);
-    radar.rotationPeriod = reader.number("rotationPeriod", {0.5, 60}, radar.rotationPeriod);
-    radar.sectors = reader.integer("sectors", {4, 256}, radar.sectors);
-    radar.psr = reader.flag("psr", true);
-    radar.modeS = reader.flag("modes", true);
-    radar.ssr = reader.flag("ssr", true) || radar.modeS;
-    radar.coveragePrimary = reader.integer("coveragePrimary", {1, 250}, radar.coveragePrimary);
-    radar.coverageSecondary = reader.integer("coverageSecondary", {1, 250}, radar.coverageSecondary);
-    const int category = reader.choice("category", {QStringLiteral("048"), QStringLiteral("001")}, 0);
-    radar.category = category == 0 ? ScenarioRadar::TargetCategory::Cat048 : ScenarioRadar::TargetCategory::Cat001;
-    radar.rangeSigma = reader.number("rangeSigma", {0, 5}, 0);
-    radar.azimuthSigma = reader.number("azimuthSigma", {0, 5}, 0);
-    radar.detectionProbability = reader.number("detectionProbability", {0, 1}, 1);
-    radar.horizon = reader.flag("horizon", true);
-    radar.minimumElevation = reader.number("minimumElevation", {-90, 90}, -90);
-    radar.missesToDrop = reader.integer("missesToDrop", {1, 100}, radar.missesToDrop);
-    radar.portOffset = reader.integer("portOffset", {0, 1000}, 0);
-    scenario.radars.push_back(radar);
+    ScenarioReader other;
+    const QString name = reader.text("trafficOf");
+    const std::optional<Scenario> read = m_isNested ? std::nullopt : other.readNested(name);
+    if (!read) {
+        reader.fail("trafficOf", m_isNested ? tr("%1 has no traffic of its own").arg(name) : other.error());
+        return;
+    }
+    m_fixes = other.m_fixes;
+    scenario.flights = read->flights;
+    scenario.random = read->random;
+    scenario.magneticVariation = read->magneticVariation;
 }
 
-void ScenarioReader::readFix(JsonObjectReader &reader, Fixes &fixes)
+std::optional<Scenario> ScenarioReader::readNested(const QString &nameOrFile)
+{
+    m_isNested = true;
+    return read(nameOrFile);
+}
+
+void ScenarioReader::readFix(JsonObjectReader &reader, ScenarioFixes &fixes)
 {
     ScenarioFix fix;
     fix.name = reader.text("name");
-    fix.latitude = reader.number("lat", Latitudes);
-    fix.longitude = reader.number("lon", Longitudes);
+    fix.latitude = reader.number("lat", JsonObjectReader::Latitudes);
+    fix.longitude = reader.number("lon", JsonObjectReader::Longitudes);
     if (reader.has("elevation"))
         fix.elevation = reader.number("elevation", Altitudes);
     if (fixes.contains(fix.name))
@@ -139,6 +138,7 @@ void ScenarioReader::readFlight(JsonObjectReader &reader, Scenario &scenario) co
     const int transponder =
         reader.choice("transponder", {QStringLiteral("none"), QStringLiteral("modeac"), QStringLiteral("modes")}, 2);
     flight.transponder = static_cast<ScenarioFlight::Transponder>(transponder);
+    flight.vehicle = reader.flag("vehicle", false);
     flight.primaryEcho = reader.flag("primaryEcho", true);
     flight.start = reader.number("start", Times, 0);
     if (reader.has("repeatAfter"))
@@ -174,27 +174,18 @@ void ScenarioReader::readPerformance(JsonObjectReader &reader, ScenarioPerforman
     performance.climbRate = reader.number("climbRate", {100, 20000}, performance.climbRate);
     performance.descentRate = reader.number("descentRate", {100, 20000}, performance.descentRate);
     performance.turnRate = reader.number("turnRate", {0.1, 30}, performance.turnRate);
+    performance.acceleration = reader.number("acceleration", {0.1, 20}, performance.acceleration);
 }
 
 // The name of a fix, or an object with a fix or a position and what else is to happen there.
 void ScenarioReader::readWaypoint(
     const QJsonValue &value, const QString &path, QString &error, ScenarioFlight &flight) const
 {
-    QJsonObject object = value.toObject();
-    if (value.isString())
-        object.insert(QStringLiteral("fix"), value);
-    JsonObjectReader reader(value.isString() ? QJsonValue(object) : value, path, error);
+    JsonObjectReader reader(pointObject(value), path, error);
     ScenarioWaypoint waypoint;
-    if (reader.has("fix")) {
-        const QString name = reader.text("fix");
-        if (!m_fixes.contains(name))
-            reader.fail("fix", tr("there is no fix %1").arg(name));
-        waypoint.latitude = m_fixes.value(name).latitude;
-        waypoint.longitude = m_fixes.value(name).longitude;
-    } else {
-        waypoint.latitude = reader.number("lat", Latitudes);
-        waypoint.longitude = reader.number("lon", Longitudes);
-    }
+    const ScenarioPoint point = readPoint(reader, m_fixes);
+    waypoint.latitude = point.latitude;
+    waypoint.longitude = point.longitude;
     if (reader.has("altitude"))
         waypoint.altitude = reader.number("altitude", Altitudes);
     if (reader.has("speed"))
@@ -212,7 +203,7 @@ void ScenarioReader::readRandom(JsonObjectReader &reader, ScenarioRandomTraffic 
     random.lowestLevel = reader.integer("lowestLevel", {10, 600}, random.lowestLevel);
     random.highestLevel = reader.integer("highestLevel", {10, 600}, random.highestLevel);
     const QStringList prefixes = reader.texts("callsignPrefixes");
-    random.callsignPrefixes.assign(prefixes.begin(), prefixes.end());
+    random.callsignPrefixes.insert(random.callsignPrefixes.end(), prefixes.begin(), prefixes.end());
     const QStringList blocks = reader.texts("addressBlocks");
     for (const QString &block : blocks) {
         bool ok = false;
@@ -242,27 +233,4 @@ void ScenarioReader::readAirways(JsonObjectReader &reader, ScenarioRandomTraffic
             reader.fail("airways", tr("an airway needs at least two fixes"));
         random.airways.push_back(std::move(fixes));
     }
-}
-
-QJsonObject sensorJson(const ScenarioRadar &radar)
-{
-    const GeoCoordinate location(radar.latitude, radar.longitude);
-    return {
-        {QStringLiteral("type"), QStringLiteral("radar")},
-        {QStringLiteral("name"), radar.name},
-        {QStringLiteral("description"), radar.description},
-        {QStringLiteral("manufacturer"), QString()},
-        {QStringLiteral("model"), QString()},
-        {QStringLiteral("commission_year"), QJsonValue()},
-        {QStringLiteral("sac"), radar.sac},
-        {QStringLiteral("sic"), radar.sic},
-        {QStringLiteral("location"), location.toATCString(GeoCoordinate::HighPrecision)},
-        {QStringLiteral("antenna_altitude"), radar.antennaAltitude},
-        {QStringLiteral("rotation_period"), radar.rotationPeriod},
-        {QStringLiteral("psr"), radar.psr},
-        {QStringLiteral("ssr"), radar.ssr},
-        {QStringLiteral("modes"), radar.modeS},
-        {QStringLiteral("psr_coverage"), radar.coveragePrimary},
-        {QStringLiteral("ssr_coverage"), radar.coverageSecondary},
-    };
 }

@@ -2,9 +2,7 @@
 
 #include "traffic/json_object_reader.h"
 #include "traffic/scenario.h"
-
-#include <QHash>
-#include <QJsonObject>
+#include "traffic/source_reader.h"
 
 // Reads scenarios from files and from those that are built in.
 class ScenarioReader {
@@ -14,6 +12,9 @@ public:
     // Names of the built-in scenarios, sorted.
     static QStringList builtInNames();
 
+    // Nothing where there is none of that name.
+    static QString description(const QString &builtInName);
+
     // A built-in scenario's name, or a file's. Nothing on failure: error() then is one line with file, place and
     // reason.
     std::optional<Scenario> read(const QString &nameOrFile);
@@ -22,10 +23,9 @@ public:
     QString error() const { return m_error; }
 
 private:
-    using Fixes = QHash<QString, ScenarioFix>;
-
-    static void readRadar(JsonObjectReader &reader, Scenario &scenario);
-    static void readFix(JsonObjectReader &reader, Fixes &fixes);
+    std::optional<Scenario> readNested(const QString &nameOrFile);
+    void readTrafficOf(JsonObjectReader &reader, Scenario &scenario);
+    static void readFix(JsonObjectReader &reader, ScenarioFixes &fixes);
     void readFlight(JsonObjectReader &reader, Scenario &scenario) const;
     static void readSquawks(JsonObjectReader &reader, ScenarioFlight &flight);
     static void readPerformance(JsonObjectReader &reader, ScenarioPerformance &performance);
@@ -34,9 +34,7 @@ private:
     void readAirways(JsonObjectReader &reader, ScenarioRandomTraffic &random) const;
     void readScenario(JsonObjectReader &reader, Scenario &scenario);
 
-    Fixes m_fixes;
+    ScenarioFixes m_fixes;
+    bool m_isNested = false; // read for another scenario's sake
     QString m_error;
 };
-
-// The radar as an object of a sensor file; coverage in nautical miles, antenna altitude in metres.
-QJsonObject sensorJson(const ScenarioRadar &radar);

@@ -9,11 +9,6 @@ namespace {
 constexpr double SecondsAnHour = 3600;
 constexpr std::uint64_t TimeUnitsADay = 86400ULL * 128;
 
-bool emergency(std::uint16_t squawk)
-{
-    return squawk == 07500 || squawk == 07600 || squawk == 07700;
-}
-
 // Monoradar target reports with Mode S data.
 class Cat048Writer : public TargetWriter {
 public:
@@ -78,7 +73,7 @@ void Cat048Writer::writeModeS(const TargetReport &report)
         m_encoder.setRaw(m_bds2, bds.code & 0x0F);
     }
     m_encoder.setRaw(m_communications, 1);
-    m_encoder.setRaw(m_flightStatus, emergency(report.squawk) ? 2 : 0);
+    m_encoder.setRaw(m_flightStatus, isEmergency(report.squawk) ? 2 : 0);
     m_encoder.setRaw(m_specificServices, 1);
     m_encoder.setRaw(m_fineAltitude, 1);
     m_encoder.setRaw(m_identification, 1);
@@ -124,7 +119,7 @@ void Cat001Writer::write(const TargetReport &report, double secondsOfDay)
     m_encoder.setRaw(m_simulated, 1);
     m_encoder.setRaw(
         m_detection, static_cast<std::uint64_t>((report.byPrimary ? 1 : 0) + (report.bySecondary ? 2 : 0)));
-    if (emergency(report.squawk))
+    if (isEmergency(report.squawk))
         m_encoder.setRaw(m_emergency, (report.squawk >> 6 & 7) - 4U);
     writePosition(report, 512);
     writeVelocity(report);

@@ -41,7 +41,7 @@ bool TrafficOutput::openBlocks(const QString &fileName)
         || fail(QStringLiteral("%1: %2").arg(fileName, m_blocks->errorString()));
 }
 
-bool TrafficOutput::write(const QByteArray &datagram, const QDateTime &time, std::size_t radar, int portOffset)
+bool TrafficOutput::write(const QByteArray &datagram, const QDateTime &time, std::size_t station, int portOffset)
 {
     const auto *octets = reinterpret_cast<const unsigned char *>(datagram.constData());
     const bool sent = !m_sender || m_sender->send({octets, static_cast<std::size_t>(datagram.size())}, portOffset);
@@ -49,7 +49,7 @@ bool TrafficOutput::write(const QByteArray &datagram, const QDateTime &time, std
     if (m_pcap) {
         auto destination = m_pcapDestination;
         destination.port = static_cast<std::uint16_t>(destination.port + portOffset);
-        const auto sender = static_cast<std::uint32_t>(FirstSenderAddress + radar);
+        const auto sender = static_cast<std::uint32_t>(FirstSenderAddress + station);
         if (!m_pcap->write(time, {sender, SenderPort}, destination, datagram))
             return fail(m_pcap->lastError());
     }

@@ -19,9 +19,9 @@ class TrafficOutput {
 public:
     // False, with lastError() set, when one of them cannot be opened.
     bool open(const TrafficOptions &options);
-    // time: for the capture, UTC. radar: index in the scenario; names the sender in the capture. False when a file
-    // cannot be written any more; a datagram that the network refuses is only counted.
-    bool write(const QByteArray &datagram, const QDateTime &time, std::size_t radar, int portOffset);
+    // time: for the capture, UTC. station: its index in the scenario; names the sender in the capture. False when a
+    // file cannot be written any more; a datagram that the network refuses is only counted.
+    bool write(const QByteArray &datagram, const QDateTime &time, std::size_t station, int portOffset);
     bool close();
 
     // Null where nothing is sent.

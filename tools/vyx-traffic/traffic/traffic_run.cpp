@@ -44,8 +44,10 @@ TrafficRun::TrafficRun(const TrafficOptions &options, Scenario scenario, const s
     m_scenario.startTime = options.startTime.value_or(m_scenario.startTime);
     if (options.wallClock)
         m_scenario.startTime = QDateTime::currentDateTimeUtc();
-    for (ScenarioRadar &radar : m_scenario.radars)
-        radar.category = options.category.value_or(radar.category);
+    for (ScenarioRadar &radar : m_scenario.radars) {
+        if (radar.category != ScenarioRadar::TargetCategory::SirM)
+            radar.category = options.category.value_or(radar.category);
+    }
     if (!options.destination)
         m_options.speed = 0;
 }
@@ -75,7 +77,7 @@ bool TrafficRun::runScenario()
         reached = sending.time;
         const QDateTime time = m_scenario.startTime.addMSecs(std::llround(sending.time * 1000));
         for (const QByteArray &datagram : *sending.datagrams) {
-            if (!output.write(datagram, time, sending.radar, m_scenario.radars[sending.radar].portOffset))
+            if (!output.write(datagram, time, sending.station, sending.portOffset))
                 return fail(output.lastError());
         }
     }
@@ -84,6 +86,8 @@ bool TrafficRun::runScenario()
 
 bool TrafficRun::runLoad()
 {
+    if (m_scenario.radars.empty())
+        return fail(tr("scenario %1 has no radar to send load for").arg(m_scenario.name));
     TrafficOutput output;
     if (!output.open(m_options))
         return fail(output.lastError());
