@@ -3,13 +3,17 @@
 #include "app/config.h"
 #include "display/geo_range_ring_map.h"
 #include "display/geo_sensor_map.h"
+#include "display/geo_video_map.h"
 #include "display/geo_view.h"
+#include "display/geo_weather_map.h"
 
 #include <QElapsedTimer>
 #include <QPainter>
 
 GeoMapDisplay::GeoMapDisplay(Projector *projector, QObject *parent) : QObject(parent)
 {
+    m_weatherMap = addLayer<GeoWeatherMap>(projector);
+    m_videoMap = addLayer<GeoVideoMap>(projector);
     m_sensorMap = addLayer<GeoSensorMap>(projector);
     m_rangeRingMap = addLayer<GeoRangeRingMap>(projector);
 }
@@ -73,6 +77,8 @@ void GeoMapDisplay::setBackgroundColor(const QColor &color)
 
 void GeoMapDisplay::setSensor(const QSharedPointer<SensorInfo> &sensor)
 {
+    m_weatherMap->setSensor(sensor);
+    m_videoMap->setSensor(sensor);
     m_sensorMap->setSensor(sensor);
     QPointF site;
     if (m_sensorMap->sitePosition(site))

@@ -13,6 +13,8 @@
 
 class GeoRangeRingMap;
 class GeoSensorMap;
+class GeoVideoMap;
+class GeoWeatherMap;
 class Projector;
 class SensorInfo;
 
@@ -37,6 +39,8 @@ public:
     void paint(QPainter &painter);
 
     // Owned by the display, never null.
+    GeoWeatherMap *weatherMap() const { return m_weatherMap; }
+    GeoVideoMap *videoMap() const { return m_videoMap; }
     GeoSensorMap *sensorMap() const { return m_sensorMap; }
     GeoRangeRingMap *rangeRingMap() const { return m_rangeRingMap; }
 
@@ -64,6 +68,8 @@ private:
     Layer *addLayer(Arguments &&...arguments);
 
     std::vector<Entry> m_layers; // bottom first
+    GeoWeatherMap *m_weatherMap = nullptr;
+    GeoVideoMap *m_videoMap = nullptr;
     GeoSensorMap *m_sensorMap = nullptr;
     GeoRangeRingMap *m_rangeRingMap = nullptr;
     QColor m_backgroundColor = QColor(173, 173, 173);

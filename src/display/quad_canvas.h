@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QImage>
+#include <QPointF>
+#include <QRect>
+
+#include <array>
+#include <vector>
+
+// A transparent picture for many small convex quadrangles. Each one replaces every pixel that it touches: nothing is
+// too small to be seen, and neighbours leave neither gaps nor seams between them.
+class QuadCanvas {
+public:
+    QuadCanvas() = default;
+    Q_DISABLE_COPY(QuadCanvas)
+
+    using Quad = std::array<QPointF, 4>; // corners in either sense, pixels
+
+    // Empties the picture.
+    void reset(const QSize &size);
+    // Corners that are no numbers, or too far away to be told from such, draw nothing.
+    void fill(const Quad &quad, QRgb premultiplied);
+
+    const QImage &image() const { return m_image; }
+    // Rectangles without overlap that hold all that was filled.
+    std::vector<QRect> filledParts() const;
+
+private:
+    static constexpr int TileWidth = 64;
+    static constexpr int TileHeight = 16;
+
+    void addEdge(const QPointF &from, const QPointF &to);
+    void fillRow(int row, QRgb premultiplied);
+
+    QImage m_image;
+    QRgb *m_pixels = nullptr; // of the image; its lines follow each other without padding
+    int m_tileColumns = 0;
+    std::vector<char> m_filledTiles; // row by row
+
+    // How far the quadrangle at hand reaches in each of its rows.
+    struct Extent {
+        double left = 0.0;
+        double right = 0.0;
+    };
+    int m_top = 0;
+    std::vector<Extent> m_rows;
+};
