@@ -189,6 +189,7 @@ void DataEngine::closeInput()
     m_inputOpen = false;
     m_recorder.stop();
     m_alertProcessor->resetAlertStatus();
+    publishSnapshot(); // what came in since the last one; it stays
     Q_EMIT inputClosed(m_requestId);
 }
 
