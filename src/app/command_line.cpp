@@ -140,6 +140,16 @@ std::optional<std::chrono::milliseconds> parsedSeconds(const QString &text, QStr
     return {};
 }
 
+std::optional<QString> parsedSpeed(const QString &text, QString *error)
+{
+    for (const char *name : {"0.5x", "1x", "2x", "4x", "8x", "Max"}) {
+        if (text.compare(QLatin1String(name), Qt::CaseInsensitive) == 0)
+            return QString::fromLatin1(name);
+    }
+    *error = CommandLine::tr("'%1' is not a speed (0.5x, 1x, 2x, 4x, 8x, Max)").arg(text);
+    return {};
+}
+
 void applyInput(const Input &input, Config &config)
 {
     config.inputComm = input.comm;
@@ -202,12 +212,21 @@ private:
         m_option = equals < 0 ? argument : argument.left(equals);
         m_inlineValue = equals < 0 ? std::nullopt : std::optional(argument.mid(equals + 1));
         const auto name = m_option.mid(m_option.startsWith(QLatin1String("--")) ? 2 : 1);
-        if (name.isEmpty() || !argument.startsWith(QLatin1Char('-')))
+        if (!argument.startsWith(QLatin1Char('-')) && !argument.isEmpty() && !m_result.input)
+            takeRecording(argument);
+        else if (name.isEmpty() || !argument.startsWith(QLatin1Char('-')))
             m_error = CommandLine::tr("unexpected argument '%1'").arg(argument);
         else if (isToolkitOption(name))
             value();
         else if (!isToolkitSwitch(name) && !takeSwitch() && !takeOptionWithValue())
             m_error = CommandLine::tr("unknown option '%1'").arg(m_option);
+    }
+
+    // A recording named by itself is played at once.
+    void takeRecording(const QString &path)
+    {
+        m_result.input = fileInput(path, &m_error);
+        m_result.start = true;
     }
 
     bool takeSwitch()
@@ -218,6 +237,8 @@ private:
             m_result.version = true;
         else if (m_option == QLatin1String("--start"))
             m_result.start = true;
+        else if (m_option == QLatin1String("--exit-at-end"))
+            m_result.exitAtEnd = true;
         else
             return false;
         if (m_inlineValue)
@@ -235,6 +256,8 @@ private:
             m_result.sensor = parsedValue(parsedSensor);
         else if (m_option == QLatin1String("--exit-after"))
             m_result.exitAfter = parsedValue(parsedSeconds);
+        else if (m_option == QLatin1String("--replay-speed"))
+            m_result.replaySpeed = parsedValue(parsedSpeed).value_or(QString());
         else if (m_option == QLatin1String("--screenshot"))
             m_result.screenshot = value();
         else if (m_option == QLatin1String("--snapshot"))
@@ -291,10 +314,12 @@ std::optional<CommandLine> CommandLine::parse(const QStringList &arguments, QStr
 
 QString CommandLine::helpText()
 {
-    return tr("Usage: vyxdisplay [options]\n"
+    return tr("Usage: vyxdisplay [options] [RECORDING]\n"
               "Air-traffic surveillance display.\n"
               "\n"
-              "  --demo [SCENARIO]     show simulated traffic, with settings of its own\n"
+              "  --demo [SCENARIO]     show simulated traffic, with settings of its own;\n"
+              "                        SCENARIO is a file or one of those that --demo list\n"
+              "                        prints\n"
               "  --input INPUT         in place of the configured input, for this run:\n"
               "                          udp:PORT\n"
               "                          udp:GROUP:PORT[@INTERFACE]\n"
@@ -304,7 +329,10 @@ QString CommandLine::helpText()
               "                        in place of the configured sensor, for this run;\n"
               "                        TYPE is radar, adsb, mlat, sdps or smr, the location\n"
               "                        decimal degrees or 395427N1162317E\n"
+              "  RECORDING             play that file, as --input file:RECORDING --start\n"
+              "  --replay-speed SPEED  of recordings: 0.5x, 1x, 2x, 4x, 8x or Max\n"
               "  --start               open the input at once\n"
+              "  --exit-at-end         exit when the input has ended, as recordings do\n"
               "  --exit-after SECONDS  exit after that time\n"
               "  --screenshot FILE     at exit, write the window as a PNG picture\n"
               "  --snapshot FILE       at exit, write the newest tracks and alerts as JSON\n"

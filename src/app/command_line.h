@@ -41,7 +41,9 @@ public:
     bool help = false;
     bool version = false;
     bool start = false; // open the input at once
-    std::optional<QString> demo; // path of the scenario; empty: the one that comes with the program
+    bool exitAtEnd = false; // when the input has ended
+    QString replaySpeed; // name of the speed, or empty
+    std::optional<QString> demo; // scenario, file or "list"; empty: the one shown first
     std::optional<Input> input;
     std::optional<Sensor> sensor;
     std::optional<std::chrono::milliseconds> exitAfter;

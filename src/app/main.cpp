@@ -3,6 +3,7 @@
 #include "app/command_line.h"
 #include "app/config.h"
 #include "app/crash_handler.h"
+#include "engine/replay_speed.h"
 #include "ui/demo_traffic.h"
 #include "ui/exit_report.h"
 #include "ui/first_frame.h"
@@ -101,6 +102,14 @@ int runWindow(const CommandLine &commandLine, DemoTraffic *demo, QSplashScreen &
         QObject::connect(demo, &DemoTraffic::message, &window, &MainWindow::showLog);
         QObject::connect(&window, &MainWindow::inputOpened, demo, &DemoTraffic::start);
     }
+    if (commandLine.exitAtEnd) {
+        QObject::connect(&window, &MainWindow::inputClosed, &window, &MainWindow::requestExit, Qt::QueuedConnection);
+    }
+    for (const ReplaySpeed::Speed speed : ReplaySpeed::values()) {
+        if (ReplaySpeed::name(speed) == commandLine.replaySpeed) {
+            window.setReplaySpeed(speed);
+        }
+    }
     if (demo || commandLine.start) {
         window.openInput();
     }
@@ -160,6 +169,10 @@ int qMain(int argc, char *argv[])
     }
     if (commandLine->version) {
         return print(CommandLine::versionText());
+    }
+    if (commandLine->demo == "list") {
+        const QString scenarios = DemoTraffic::list(&error);
+        return scenarios.isEmpty() ? complain(error) : print(scenarios);
     }
     if (!screenAvailable(arguments)) {
         return complain(QCoreApplication::translate(

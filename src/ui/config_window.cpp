@@ -7,6 +7,8 @@
 #include "ui/processor_config_page.h"
 #include "ui/sensor_config_page.h"
 #include "ui/track_config_page.h"
+#include "ui/video_config_page.h"
+#include "ui/weather_config_page.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -28,6 +30,8 @@ ConfigWindow::ConfigWindow(const Config &config, SensorManager *sensors, QWidget
     addPage(new ProcessorConfigPage(this));
     addPage(new SensorConfigPage(sensors, this));
     addPage(new MapConfigPage(this));
+    addPage(new WeatherConfigPage(this));
+    addPage(new VideoConfigPage(this));
     addPage(new TrackConfigPage(this));
     m_pageList->setFixedWidth(m_pageList->sizeHintForColumn(0) + 40);
     connect(m_pageList, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);

@@ -5,7 +5,6 @@
 #include "tracking/sensor_info.h"
 
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QStandardPaths>
 #include <QUdpSocket>
 
@@ -14,6 +13,17 @@ namespace {
 constexpr auto programName = "vyx-traffic";
 constexpr int answerWaitMs = 10000;
 constexpr int endWaitMs = 1000;
+
+using Encapsulation = korvane::modes::ModeSEncapsulation;
+
+Config::ProcessorType processorOf(const QJsonObject &source)
+{
+    const QString processor = source["processor"].toString();
+    if (processor == "modes") {
+        return Config::ProcessorType::ModeS;
+    }
+    return processor == "sirm" ? Config::ProcessorType::AleniaSirM : Config::ProcessorType::Asterix;
+}
 
 } // namespace
 
@@ -44,25 +54,38 @@ DemoTraffic::~DemoTraffic()
     }
 }
 
-bool DemoTraffic::prepare(QString *error)
+// What the generator prints when run with the arguments; null, with one line in error, when that fails.
+QByteArray DemoTraffic::answer(const QString &program, const QStringList &arguments, QString *error)
 {
-    if (m_program.isEmpty()) {
+    if (program.isEmpty()) {
         *error = tr("%1 was found neither beside the executable nor in the path").arg(programName);
-        return false;
+        return {};
     }
     QProcess query;
-    query.start(m_program, {m_scenario, "--sensor-json"});
+    query.start(program, arguments);
     if (!query.waitForFinished(answerWaitMs) || query.exitStatus() != QProcess::NormalExit || query.exitCode() != 0) {
         const QString reason = QString::fromUtf8(query.readAllStandardError()).trimmed().section('\n', 0, 0);
-        *error = reason.isEmpty() ? tr("%1 does not answer").arg(m_program) : reason;
-        return false;
+        *error = reason.isEmpty() ? tr("%1 does not answer").arg(program) : reason;
+        return {};
     }
-    return readSensor(query.readAllStandardOutput(), error) && findPort(error);
+    return query.readAllStandardOutput();
+}
+
+QString DemoTraffic::list(QString *error, const QString &program)
+{
+    return QString::fromUtf8(answer(program, {"--list"}, error));
+}
+
+bool DemoTraffic::prepare(QString *error)
+{
+    const QByteArray json = answer(m_program, {m_scenario, "--sensor-json"}, error);
+    return !json.isNull() && readSensor(json, error) && findPort(error);
 }
 
 bool DemoTraffic::readSensor(const QByteArray &json, QString *error)
 {
-    m_sensor = SensorInfo::create(QJsonDocument::fromJson(json).object());
+    m_source = QJsonDocument::fromJson(json).object();
+    m_sensor = SensorInfo::create(m_source);
     if (!m_sensor) {
         *error = tr("%1 names no sensor for the scenario").arg(m_program);
     }
@@ -86,9 +109,15 @@ void DemoTraffic::applyTo(Config &config) const
     config.inputUdpMulticast1 = false;
     config.inputUdpPort1 = m_port;
     config.inputEnable2 = false;
-    config.processorType = Config::ProcessorType::Asterix;
+    config.processorType = processorOf(m_source);
+    config.processorModeSEncapsulation =
+        Encapsulation::fromIdentifier(m_source["encapsulation"].toString().toStdString());
+    config.processorAleniaSirMFormat = Config::AleniaSirMFormat::Raw;
     config.processorAsterixFormat = Config::AsterixFormat::Raw;
     config.processorAsterixUap = 0;
+    config.processorAsterixVerifySacSic = false; // weather and alerts may come from elsewhere
+    config.mapWeatherVisible = m_source["weather"].toBool();
+    config.mapVideoVisible = m_source["video"].toBool();
     config.setSensor(m_sensor);
 }
 

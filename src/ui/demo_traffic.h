@@ -2,6 +2,7 @@
 
 #include "app/log_level.h"
 
+#include <QJsonObject>
 #include <QObject>
 #include <QProcess>
 #include <QSharedPointer>
@@ -28,6 +29,10 @@ public:
     // Input and sensor of the demonstration. Only after prepare().
     void applyTo(Config &config) const;
 
+    // The scenarios that come with the generator, a line each; empty, with one line in error, when that cannot be
+    // asked.
+    static QString list(QString *error, const QString &program = findProgram());
+
     // Sends from now on; a second call does nothing.
     void start();
 
@@ -35,6 +40,7 @@ Q_SIGNALS:
     void message(LogLevel level, const QString &text);
 
 private:
+    static QByteArray answer(const QString &program, const QStringList &arguments, QString *error);
     bool readSensor(const QByteArray &json, QString *error);
     bool findPort(QString *error);
     void reportEnd(int exitCode, QProcess::ExitStatus status);
@@ -42,6 +48,7 @@ private:
     const QString m_scenario;
     const QString m_program;
     QSharedPointer<SensorInfo> m_sensor;
+    QJsonObject m_source; // what the generator says of the sensor, and of how it sends
     quint16 m_port = 0;
     QProcess m_process;
 };

@@ -2,11 +2,16 @@
 
 #include <QMetaType>
 
-// Pictures that were replaced before the window took them, since the program started.
+// What did not reach the screen, or reached it late, since the program started.
 struct DropStats {
+    // Pictures that were replaced before the window took them.
     quint64 snapshots = 0;
     quint64 videoBatches = 0;
     quint64 weatherPictures = 0;
+    quint64 emptyWeatherPictures = 0; // taken, but passed over because they held nothing
+    // Largest delay of a live picture, from its own time of day to when the window took it; milliseconds.
+    int weatherDelayMs = 0;
+    int videoDelayMs = 0;
 
     bool operator==(const DropStats &other) const = default;
 };

@@ -42,37 +42,54 @@ void EngineHost::start()
     }
 }
 
-void EngineHost::openInput(const Config &config, const QSharedPointer<SensorInfo> &sensor, quint64 requestId)
+template <typename Command>
+void EngineHost::post(Command command)
 {
     if (m_engine) {
         QMetaObject::invokeMethod(
-            m_engine,
-            [engine = m_engine, config, sensor, requestId] { engine->openInput(config, sensor, {}, requestId); },
-            Qt::QueuedConnection);
+            m_engine, [engine = m_engine, command] { command(engine); }, Qt::QueuedConnection);
     }
+}
+
+void EngineHost::openInput(
+    const Config &config, const QSharedPointer<SensorInfo> &sensor, const QDateTime &replayStart, quint64 requestId)
+{
+    post([=](DataEngine *engine) { engine->openInput(config, sensor, replayStart, requestId); });
 }
 
 void EngineHost::closeInput()
 {
-    if (m_engine) {
-        QMetaObject::invokeMethod(m_engine, &DataEngine::closeInput, Qt::QueuedConnection);
-    }
+    post([](DataEngine *engine) { engine->closeInput(); });
 }
 
 void EngineHost::pauseInput(bool paused)
 {
-    if (m_engine) {
-        QMetaObject::invokeMethod(
-            m_engine, [engine = m_engine, paused] { engine->pauseInput(paused); }, Qt::QueuedConnection);
-    }
+    post([paused](DataEngine *engine) { engine->pauseInput(paused); });
+}
+
+void EngineHost::setReplaySpeed(ReplaySpeed::Speed speed)
+{
+    post([speed](DataEngine *engine) { engine->setReplaySpeed(speed); });
+}
+
+void EngineHost::setRecordingIndex(const korvane::astfile::RecordingIndex &index)
+{
+    post([index](DataEngine *engine) { engine->setRecordingIndex(index); });
+}
+
+void EngineHost::startRecording(const QString &fileName)
+{
+    post([fileName](DataEngine *engine) { engine->startRecording(fileName); });
+}
+
+void EngineHost::stopRecording()
+{
+    post([](DataEngine *engine) { engine->stopRecording(); });
 }
 
 void EngineHost::setSnapshotTrailDots(int dots)
 {
-    if (m_engine) {
-        QMetaObject::invokeMethod(
-            m_engine, [engine = m_engine, dots] { engine->setSnapshotTrailDots(dots); }, Qt::QueuedConnection);
-    }
+    post([dots](DataEngine *engine) { engine->setSnapshotTrailDots(dots); });
 }
 
 bool EngineHost::stop(int waitMs)

@@ -2,6 +2,7 @@
 
 #include "app/config.h"
 #include "engine/display_snapshot.h"
+#include "engine/replay_speed.h"
 #include "engine/snapshot_slot.h"
 #include "engine/video_batch.h"
 #include "geo/mercator_projector.h"
@@ -13,6 +14,9 @@
 class DataEngine;
 class QThread;
 class SensorInfo;
+namespace korvane::astfile {
+class RecordingIndex;
+}
 
 #include <memory>
 
@@ -41,9 +45,15 @@ public:
     DataEngine *engine() const { return m_engine; }
     Shared &shared() const { return *m_shared; }
 
-    void openInput(const Config &config, const QSharedPointer<SensorInfo> &sensor, quint64 requestId);
+    // replayStart, for recordings: where to begin; invalid: at the beginning.
+    void openInput(const Config &config, const QSharedPointer<SensorInfo> &sensor, const QDateTime &replayStart,
+        quint64 requestId);
     void closeInput();
     void pauseInput(bool paused);
+    void setReplaySpeed(ReplaySpeed::Speed speed);
+    void setRecordingIndex(const korvane::astfile::RecordingIndex &index);
+    void startRecording(const QString &fileName);
+    void stopRecording();
     void setSnapshotTrailDots(int dots);
 
     // Ends engine and thread, waiting for the thread this long. False when it did not stop in time: it is then left
@@ -51,6 +61,10 @@ public:
     bool stop(int waitMs);
 
 private:
+    // Queues a call on the engine's thread; nothing once the engine is gone.
+    template <typename Command>
+    void post(Command command);
+
     std::shared_ptr<Shared> m_shared;
     DataEngine *m_engine = nullptr; // deletes itself when its thread has finished; without a thread, deleted by stop()
     QThread *m_thread = nullptr; // deletes itself when it has finished

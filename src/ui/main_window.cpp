@@ -20,6 +20,7 @@
 #include "ui/status_read_outs.h"
 #include "ui/track_label_format_window.h"
 #include "ui/track_list_model.h"
+#include "ui/weather_intensity_window.h"
 
 #include <QAction>
 #include <QDateTime>
@@ -57,9 +58,11 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     connectEngine();
     connectDisplay();
     connectInputActions();
+    connectReplay();
     connectViewActions();
     connectTrackActions();
     connectMapActions();
+    connectRadarPicture();
     connectDialogActions();
     loadSensorDatabase();
     applyConfig();
@@ -152,6 +155,7 @@ void MainWindow::connectEngine()
     connect(engine, &DataEngine::inputOpened, this, &MainWindow::onEngineInputOpened);
     connect(engine, &DataEngine::inputOpenFailed, this, &MainWindow::onEngineInputOpenFailed);
     connect(engine, &DataEngine::inputClosed, this, &MainWindow::onEngineInputClosed);
+    connect(engine, &DataEngine::alertStatusChanged, this, &MainWindow::updateAlertStatus);
     connect(engine, &DataEngine::antennaRotated, m_mapDisplay->sensorMap(), &GeoSensorMap::antennaRotated);
     connect(engine, &DataEngine::antennaNorthCrossed, m_mapDisplay->sensorMap(), &GeoSensorMap::antennaNorthCrossed);
     connect(m_trackDisplay.get(), &GeoTrackDisplay::shownTrailDotsChanged, &m_host, &EngineHost::setSnapshotTrailDots);
@@ -212,6 +216,11 @@ void MainWindow::applyConfig()
     m_readOuts->setTimeZone(config.displayLocalTimeZoneName);
     m_actions->setToolBarText(config.displayToolbarText);
     (*m_actions)[ActionId::ToggleSensorMap]->setChecked(config.mapSensorVisible);
+    (*m_actions)[ActionId::ToggleWeatherMap]->setChecked(config.mapWeatherVisible);
+    (*m_actions)[ActionId::ToggleVideoMap]->setChecked(config.mapVideoVisible);
+    if (m_weatherIntensityWindow) {
+        m_weatherIntensityWindow->refresh();
+    }
     (*m_actions)[ActionId::ToggleRangeRings]->setChecked(config.mapRangeRingVisible);
     updateClock();
     updateNotices();
@@ -221,6 +230,7 @@ void MainWindow::applySensor()
 {
     m_sensor = m_config.live().sensor(nullptr);
     m_mapDisplay->setSensor(m_sensor);
+    beginRadarPicture();
     updateNotices();
 }
 

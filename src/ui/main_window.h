@@ -2,6 +2,7 @@
 
 #include "app/log_level.h"
 #include "engine/display_snapshot.h"
+#include "engine/replay_speed.h"
 #include "processors/alert.h"
 #include "processors/video_processor.h"
 #include "processors/weather_processor.h"
@@ -22,15 +23,23 @@ class GeoWidget;
 class ListView;
 class LogPane;
 class RangeRingWindow;
+class RecordingScan;
+class ReplayWindow;
 class ScopeNotice;
 class SensorManager;
+class StatsWindow;
 class StatusReadOuts;
 class TrackLabelFormatWindow;
 class TrackListModel;
+class WeatherIntensityWindow;
+namespace korvane::astfile {
+class RecordingIndex;
+}
 
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 
 // The one top-level window. Owns all that lives on the GUI thread, carries the operator's commands to the engine and
 // shows what comes back. Loads its own settings; its window state is restored by loadUi().
@@ -72,8 +81,28 @@ public Q_SLOTS:
     void onEngineInputOpened(unsigned long long requestId);
     void onEngineInputOpenFailed(unsigned long long requestId);
     void onEngineInputClosed(unsigned long long requestId);
+    void onEngineReplayProgress(const QDateTime &time);
+
+    // Asks for a recording and plays it.
+    void openRecordingFile();
+    // Plays a recording from its beginning, in place of the input that is open. A file of no known format is refused.
+    void playRecording(const QString &fileName);
+    // For this and all later recordings.
+    void setReplaySpeed(ReplaySpeed::Speed speed);
+    void changeReplaySpeed(QAction *action);
+    void updateReplaySpeedMenu();
+    // Makes the recording the input of this run.
+    void applyReplayConfig(const QFileInfo &file);
+    // Shows the file in the playback window and reads it to find its times.
+    void updateInputFileMeta(const QFileInfo &file);
+    // Back to the input that was there before the first recording.
+    void returnToLiveInput();
+    // Asks for a file and records the live input to it, or ends the recording.
+    void recordInput(bool on);
 
     void pullSlots();
+    void procWeatherPicture(const WeatherProcessor::Picture &picture);
+    void procVideoRadial(const VideoProcessor::Radial &radial);
     void updateTrackList();
     void updateAlertList();
     void clearTrackList();
@@ -94,9 +123,12 @@ public Q_SLOTS:
     void showCurrentRotation(double degrees);
 
     void showConfigWindow();
+    void showReplayWindow();
+    void showStatsWindow();
     void showRotationWindow();
     void showSetCenterWindow();
     void showRangeRingWindow();
+    void showWeatherIntensityWindow();
     void showTrackLabelFormatWindow();
     void showCheatSheet();
     void showAbout();
@@ -111,6 +143,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void inputOpened();
+    // The input has ended, and no other one takes its place at once.
+    void inputClosed();
     // Once a minute.
     void dropStats(const DropStats &stats);
     // The picture is still as it was; nothing has been stopped yet.
@@ -118,6 +152,8 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -132,9 +168,12 @@ private:
     void connectEngine();
     void connectDisplay();
     void connectInputActions();
+    void connectReplay();
+    void initReplaySpeedMenu();
     void connectViewActions();
     void connectTrackActions();
     void connectMapActions();
+    void connectRadarPicture();
     void connectDialogActions();
     void setRangeRings(const GeoCoordinate &center, int number, double distanceNauticalMiles);
     void chooseSensor(const QSharedPointer<SensorInfo> &sensor);
@@ -144,6 +183,8 @@ private:
     void applyConfig();
     // Starts the sensor's picture anew; not while an input is open.
     void applySensor();
+    // Forgets weather and video, and learns anew where radars stand.
+    void beginRadarPicture();
     void editConfig(const std::function<void(Config &)> &change);
     void loadSensorDatabase();
 
@@ -156,6 +197,12 @@ private:
     QString scopeNotice() const;
     QString inputDescription() const;
     void publishDropStats();
+
+    // Replay.
+    bool replaying() const { return m_config.live().inputComm == Config::InputComm::File; }
+    void startReplay(const QDateTime &start);
+    void showIndex(const korvane::astfile::RecordingIndex &index, const QString &error);
+    void updateReplayWindow();
 
     // View.
     void showInitialView();
@@ -196,7 +243,10 @@ private:
     QDockWidget *m_trackDock = nullptr;
     QDockWidget *m_alertDock = nullptr;
     QPointer<RangeRingWindow> m_rangeRingWindow;
+    QPointer<WeatherIntensityWindow> m_weatherIntensityWindow;
     QPointer<TrackLabelFormatWindow> m_trackLabelFormatWindow;
+    ReplayWindow *m_replayWindow = nullptr;
+    StatsWindow *m_statsWindow = nullptr;
 
     QTimer m_pullTimer;
     QTimer m_trackListTimer;
@@ -208,7 +258,7 @@ private:
     SlotReader<VideoBatch> m_videoReader;
     SlotReader<WeatherProcessor::Picture> m_weatherReader;
     QSharedPointer<const DisplaySnapshot> m_snapshot;
-    std::array<bool, 3> m_alertStatus = {}; // as shown
+    std::array<bool, 3> m_alertStatus = {}; // as in the newest snapshot
     bool m_updatingList = false; // the program moves the selection, not the operator
 
     InputState m_inputState = InputState::Closed;
@@ -216,6 +266,13 @@ private:
     bool m_inputWasOpen = false; // there is a last picture to look at
     bool m_paused = false;
     bool m_ringCenterPlaced = false;
+
+    ReplaySpeed::Speed m_replaySpeed = ReplaySpeed::Normal;
+    QDateTime m_replayStart; // of the next opening; invalid: the beginning
+    bool m_reopenInput = false; // as soon as the one that is being closed has closed
+    RecordingScan *m_recordingScan = nullptr;
+    QFileInfo m_scannedFile;
+    std::optional<Config::InputComm> m_liveInput; // the kind of input before the first recording
 
     LogLevel m_minimumLevel = LogLevel::Info;
     Shutdown m_shutdown = Shutdown::NotBegun;

@@ -16,6 +16,7 @@
 #include "ui/sensor_manager_window.h"
 #include "ui/set_center_window.h"
 #include "ui/track_label_format_window.h"
+#include "ui/weather_intensity_window.h"
 
 #include <QAction>
 
@@ -45,6 +46,7 @@ void MainWindow::connectDialogActions()
     on(ActionId::Rotate, &MainWindow::showRotationWindow);
     on(ActionId::GoTo, &MainWindow::showSetCenterWindow);
     on(ActionId::RangeRings, &MainWindow::showRangeRingWindow);
+    on(ActionId::WeatherIntensity, &MainWindow::showWeatherIntensityWindow);
     on(ActionId::TrackLabelFormat, &MainWindow::showTrackLabelFormatWindow);
     on(ActionId::SensorManager, &MainWindow::launchSensorManager);
     on(ActionId::CheatSheet, &MainWindow::showCheatSheet);
@@ -107,6 +109,14 @@ void MainWindow::setRangeRings(const GeoCoordinate &center, int number, double d
     });
     m_ringCenterPlaced = true;
     m_mapDisplay->rangeRingMap()->setRings(planePoint(center), number, distanceNauticalMiles);
+}
+
+void MainWindow::showWeatherIntensityWindow()
+{
+    if (!m_weatherIntensityWindow) {
+        m_weatherIntensityWindow = new WeatherIntensityWindow(m_mapDisplay->weatherMap(), this);
+    }
+    bringUp(m_weatherIntensityWindow);
 }
 
 void MainWindow::showTrackLabelFormatWindow()

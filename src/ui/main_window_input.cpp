@@ -1,6 +1,8 @@
 // The input: its commands, its state, and what it brings in.
 
+#include "display/geo_map_display.h"
 #include "display/geo_track_display.h"
+#include "display/geo_weather_map.h"
 #include "display/geo_widget.h"
 #include "ui/actions.h"
 #include "ui/alert_list_model.h"
@@ -12,7 +14,10 @@
 
 #include <QAction>
 #include <QDockWidget>
+#include <QGuiApplication>
 #include <QScopedValueRollback>
+
+#include <utility>
 
 void MainWindow::connectInputActions()
 {
@@ -33,8 +38,10 @@ void MainWindow::openInput()
         return;
     }
     ++m_requestId;
+    beginRadarPicture();
     setInputState(InputState::Opening);
-    m_host.openInput(m_config.live(), m_sensor, m_requestId);
+    m_host.openInput(m_config.live(), m_sensor, m_replayStart, m_requestId);
+    m_replayStart = QDateTime();
 }
 
 void MainWindow::closeInput()
@@ -91,7 +98,14 @@ void MainWindow::inputEnded(unsigned long long requestId)
     setInputState(InputState::Closed);
     if (m_shutdown == Shutdown::Begun) {
         continueShutdown();
+        return;
     }
+    if (std::exchange(m_reopenInput, false)) {
+        openInput();
+        return;
+    }
+    pullSlots(); // the input's last picture
+    Q_EMIT inputClosed();
 }
 
 void MainWindow::setInputState(InputState state)
@@ -111,14 +125,22 @@ void MainWindow::updateInputActions()
     QAction *pause = (*m_actions)[ActionId::Pause];
     pause->setEnabled(m_inputState == InputState::Open);
     pause->setChecked(m_paused);
+    QAction *record = (*m_actions)[ActionId::Record];
+    record->setEnabled(m_inputState == InputState::Open && !replaying());
+    updateReplaySpeedMenu();
+    updateReplayWindow();
 }
 
 void MainWindow::updateNotices()
 {
     m_scopeNotice->showText(scopeNotice());
     const bool running = m_inputState == InputState::Open;
-    m_trackView->setEmptyText(
-        running ? tr("No tracks. Listening on %1.").arg(inputDescription()) : tr("No input is running."));
+    m_trackView->setEmptyText(!running ? tr("No input is running.")
+            : replaying()              ? tr("No tracks yet in %1.").arg(inputDescription())
+                                       : tr("No tracks. Listening on %1.").arg(inputDescription()));
+    setWindowTitle(replaying()
+            ? tr("%1 - %2").arg(m_config.live().inputFileName.fileName(), QGuiApplication::applicationDisplayName())
+            : QGuiApplication::applicationDisplayName());
     m_alertView->setEmptyText(running ? tr("No alerts.") : tr("No input is running."));
 }
 
@@ -157,9 +179,14 @@ QString MainWindow::inputDescription() const
 
 void MainWindow::pullSlots()
 {
-    // Radar video and weather are counted only; nothing draws them yet.
-    m_videoReader.take(m_host.shared().video);
-    m_weatherReader.take(m_host.shared().weather);
+    if (const auto batch = m_videoReader.take(m_host.shared().video)) {
+        for (const VideoProcessor::Radial &radial : batch->radials) {
+            procVideoRadial(radial);
+        }
+    }
+    if (const auto picture = m_weatherReader.take(m_host.shared().weather)) {
+        procWeatherPicture(*picture);
+    }
     const QSharedPointer<const DisplaySnapshot> snapshot = m_displayReader.take(m_host.shared().display);
     if (!snapshot) {
         return;
@@ -176,7 +203,8 @@ void MainWindow::pullSlots()
 
 void MainWindow::publishDropStats()
 {
-    Q_EMIT dropStats({m_displayReader.dropped(), m_videoReader.dropped(), m_weatherReader.dropped()});
+    Q_EMIT dropStats({m_displayReader.dropped(), m_videoReader.dropped(), m_weatherReader.dropped(),
+        m_mapDisplay->weatherMap()->emptyPictures()});
 }
 
 void MainWindow::updateTrackList()

@@ -4,8 +4,10 @@
 #include "display/geo_map_display.h"
 #include "display/geo_range_ring_map.h"
 #include "display/geo_track_display.h"
+#include "display/geo_video_map.h"
+#include "display/geo_weather_map.h"
 #include "display/geo_widget.h"
-#include "tracking/sensor_info.h"
+#include "tracking/sensor_manager.h"
 #include "ui/actions.h"
 #include "ui/main_window.h"
 #include "ui/status_read_outs.h"
@@ -95,6 +97,38 @@ void MainWindow::connectMapActions()
         [this](bool on) { editConfig([on](Config &config) { config.mapRangeRingVisible = on; }); });
     connect((*m_actions)[ActionId::SetRangeRingsCenter], &QAction::triggered, m_geoWidget,
         &GeoWidget::startSettingRangeRingsCenter);
+}
+
+void MainWindow::connectRadarPicture()
+{
+    connect((*m_actions)[ActionId::ToggleWeatherMap], &QAction::triggered, this,
+        [this](bool on) { editConfig([on](Config &config) { config.mapWeatherVisible = on; }); });
+    connect((*m_actions)[ActionId::ToggleVideoMap], &QAction::triggered, this,
+        [this](bool on) { editConfig([on](Config &config) { config.mapVideoVisible = on; }); });
+    connect(m_mapDisplay->videoMap(), &GeoVideoMap::siteUnknown, this, [this](unsigned char sac, unsigned char sic) {
+        showLog(LogLevel::Warning,
+            tr("Radar video of SAC %1, SIC %2 is not shown: no sensor has this identification.").arg(sac).arg(sic));
+    });
+}
+
+void MainWindow::beginRadarPicture()
+{
+    QList<QSharedPointer<SensorInfo>> sensors;
+    for (const QString &name : m_sensors->sensorNames()) {
+        sensors.append(m_sensors->findSensor(name));
+    }
+    m_mapDisplay->videoMap()->setKnownSensors(sensors);
+    m_mapDisplay->weatherMap()->clear();
+}
+
+void MainWindow::procWeatherPicture(const WeatherProcessor::Picture &picture)
+{
+    m_mapDisplay->weatherMap()->setPicture(picture);
+}
+
+void MainWindow::procVideoRadial(const VideoProcessor::Radial &radial)
+{
+    m_mapDisplay->videoMap()->addRadial(radial);
 }
 
 void MainWindow::toggleFullScreen()

@@ -84,6 +84,14 @@ private Q_SLOTS:
         QVERIFY(parsed({"-platform", "offscreen", "--style=fusion", "-reverse", "--start"}).start); // the toolkit's own
     }
 
+    void playsARecordingThatIsNamedByItself()
+    {
+        const auto replay = parsed({"--replay-speed", "max", "a.pcap", "--exit-at-end"});
+        QVERIFY(replay.start && replay.exitAtEnd);
+        QCOMPARE(replay.replaySpeed, QStringLiteral("Max"));
+        QCOMPARE(replay.input.value_or(CommandLine::Input()).path, QStringLiteral("a.pcap"));
+    }
+
     void demoTakesNoOptionForItsScenario()
     {
         for (const char *scenario : {"--demo busy.json", "--demo=busy.json", "--start --demo busy.json --start"})
@@ -102,8 +110,9 @@ private Q_SLOTS:
         };
         row("unknown option", {"--frobnicate"}, "'--frobnicate'");
         row("one dash too few", {"-start"}, "'-start'");
-        row("positional argument", {"file.pcap"}, "'file.pcap'");
-        row("second scenario", {"--demo", "a", "b"}, "'b'");
+        row("second recording", {"a.pcap", "b.pcap"}, "'b.pcap'");
+        row("recording beside a demo", {"--demo", "a", "b.pcap"}, "--demo");
+        row("no speed", {"--replay-speed", "3x"}, "'3x'");
         row("value for a switch", {"--start=yes"}, "--start");
         for (const auto *option : {"--input", "--sensor", "--exit-after", "--screenshot", "--snapshot"}) {
             row(qPrintable(QString("%1 at the end").arg(option)), {option}, option);

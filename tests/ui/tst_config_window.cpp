@@ -43,12 +43,15 @@ Config unusualConfig(SensorType type)
     for (bool C::*flag : {&C::displayToolbarText, &C::inputUdpMulticast1, &C::inputEnable2, &C::inputFileAutoRewind,
              &C::processorAsterixVerifySacSic, &C::processorAsterixIgnoreWgs84Coordinates,
              &C::processorAsterixIgnoreCartesianCoordinates, &C::mapSensorVisible, &C::mapSensorCoverageVisible,
-             &C::mapSensorRadarNorthMarkerVisible, &C::mapSensorRadarAntennaLineVisible, &C::mapRangeRingVisible})
+             &C::mapSensorRadarNorthMarkerVisible, &C::mapSensorRadarAntennaLineVisible, &C::mapRangeRingVisible,
+             &C::mapWeatherVisible, &C::mapWeatherAutoVectorWidth, &C::mapWeatherIgnoreEmptyPicture,
+             &C::mapVideoVisible})
         config.*flag = !(config.*flag);
     int red = 0;
     for (QColor C::*color : {&C::mapBackgroundColor, &C::mapSensorColor, &C::mapSensorRadarNorthMarkerColor,
              &C::mapSensorRadarAntennaLineColor, &C::mapRangeRingColor, &C::trackSymbolColor, &C::trackLabelColor,
-             &C::trackLabelSelectedColor, &C::trackLabelAlertColor, &C::trackLabelBackgroundColor})
+             &C::mapVideoHighColor, &C::mapVideoLowColor, &C::trackLabelSelectedColor, &C::trackLabelAlertColor,
+             &C::trackLabelBackgroundColor})
         config.*color = QColor(++red, 2, 3);
     config.displayCenterCoordinate = GeoCoordinate(-33.5, -70.25);
     config.displayLocalTimeZoneName = QStringLiteral("LCL");
@@ -67,6 +70,15 @@ Config unusualConfig(SensorType type)
     config.processorType = Config::ProcessorType::ModeS;
     config.processorAsterixFormat = Config::AsterixFormat::ManagAir;
     config.processorAsterixUap = 7;
+    config.mapWeatherOpacity = 0;
+    config.mapWeatherValidity = 86400;
+    config.mapWeatherVectorWidth = 0.352;
+    config.mapWeatherColor[3] = QColor();
+    config.mapWeatherColor[7] = QColor(1, 2, 3);
+    config.mapVideoHighOpacity = 254;
+    config.mapVideoLowOpacity = 0;
+    config.mapVideoThreshold = 255;
+    config.mapVideoValidity = 3600;
     config.mapRangeRingNumber = 50;
     config.mapRangeRingDistance = 0.25;
     config.trackLabelBackgroundOpacity = 255;

@@ -4,6 +4,7 @@
 #include "display/geo_track_display.h"
 #include "display/geo_widget.h"
 #include "ui/actions.h"
+#include "ui/alert_list_model.h"
 #include "ui/asterix_log_handler.h"
 #include "ui/list_view.h"
 #include "ui/log_pane.h"
@@ -73,6 +74,7 @@ private Q_SLOTS:
     void failedOpeningIsReported();
     void refusesWhatMakesNoSense();
     void selectionGoesBothWays();
+    void alertsReachIndicatorsAndList();
     void keysReachTheMap();
     void stateSurvivesARun();
     void firstViewShowsTheCoverage();
@@ -204,6 +206,33 @@ void TestMainWindow::selectionGoesBothWays()
     window->closeInput();
     QTRY_VERIFY(notice->isVisible());
     QVERIFY(notice->text().contains("last picture"));
+}
+
+void TestMainWindow::alertsReachIndicatorsAndList()
+{
+    WindowFixture fixture;
+    const auto window = fixture.makeWindow();
+    QVERIFY(fixture.openInput(*window));
+    const auto *readOuts = window->findChild<StatusReadOuts *>();
+    const auto running = [readOuts](
+                             int index) { return readOuts->alertIndicator(index)->styleSheet().endsWith("green"); };
+    QUdpSocket server;
+    // Two tracks, the safety nets MSAW and STCA as running, and a conflict of the two.
+    for (const char *datagram : {"30000d91100102 0a00 0000 0065", "30000d91100102 0a00 4000 0066", "040006 42 01 12",
+             "04000d 498140 07 004d 0065 0066"}) {
+        server.writeDatagram(QByteArray::fromHex(datagram), QHostAddress::LocalHost, fixture.port);
+    }
+    QTRY_VERIFY(running(0) && !running(1) && running(2));
+    auto *model = window->findChild<AlertListModel *>();
+    QTRY_VERIFY((window->updateAlertList(), model->rowCount() == 1));
+    window->updateTrackList();
+    window->findChild<ListView *>("alertList")->selectRow(0);
+    QVERIFY(model->trackId(0) != 0);
+    QCOMPARE(window->geoWidget()->trackDisplay()->selectedTrackId(), model->trackId(0));
+
+    window->closeInput();
+    QTRY_VERIFY(!running(0) && !running(2));
+    QCOMPARE(model->rowCount(), 1); // the last picture
 }
 
 void TestMainWindow::keysReachTheMap()

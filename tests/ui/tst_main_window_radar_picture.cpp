@@ -1,0 +1,106 @@
+#include "display/geo_map_display.h"
+#include "display/geo_video_map.h"
+#include "display/geo_weather_map.h"
+#include "display/geo_widget.h"
+#include "ui/weather_intensity_window.h"
+#include "window_fixture.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QTest>
+
+// Weather and radar video: their road from the slots to their layers, and the actions that show them.
+class TestMainWindowRadarPicture : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void actionsShowTheLayers();
+    void weatherReachesItsLayerAndItsWindow();
+    void videoOfStrangersIsReported();
+
+private:
+    WindowFixture m_fixture;
+};
+
+namespace {
+
+QAction *action(const MainWindow &window, const QString &text)
+{
+    const QList<QAction *> actions = window.actions();
+    const auto found =
+        std::find_if(actions.begin(), actions.end(), [&text](const QAction *one) { return one->text() == text; });
+    return found == actions.end() ? nullptr : *found;
+}
+
+QString shownLevels(const WeatherIntensityWindow &window)
+{
+    QString levels;
+    for (int level = 0; level < GeoWeatherMap::LevelCount; ++level) {
+        const auto *box = window.findChild<QCheckBox *>(QStringLiteral("level%1").arg(level));
+        levels += box->isEnabled() && box->isChecked() ? QString::number(level) : QStringLiteral("-");
+    }
+    return levels;
+}
+
+} // namespace
+
+void TestMainWindowRadarPicture::actionsShowTheLayers()
+{
+    const auto window = WindowFixture::makeWindow();
+    const GeoMapDisplay *map = window->geoWidget()->mapDisplay();
+    for (const auto &[text, layer] : {std::pair<QString, const GeoLayer *>("Toggle Weather Map", map->weatherMap()),
+             std::pair<QString, const GeoLayer *>("Toggle Video Map", map->videoMap())}) {
+        QVERIFY(!layer->visible() && !action(*window, text)->isChecked());
+        action(*window, text)->trigger();
+        QVERIFY(layer->visible() && action(*window, text)->isChecked());
+    }
+    QVERIFY(window->config().mapWeatherVisible && window->config().mapVideoVisible);
+    QVERIFY(WindowFixture::close(*window));
+}
+
+void TestMainWindowRadarPicture::weatherReachesItsLayerAndItsWindow()
+{
+    const auto window = WindowFixture::makeWindow();
+    GeoWeatherMap *weather = window->geoWidget()->mapDisplay()->weatherMap();
+    weather->setLevelVisible(2, false);
+    action(*window, "Weather Intensity")->trigger();
+    const auto *intensity = window->findChild<WeatherIntensityWindow *>();
+    QCOMPARE(shownLevels(*intensity), QStringLiteral("01-34567"));
+    auto picture = QSharedPointer<WeatherProcessor::Picture>::create();
+    picture->vectors = {{4, 10.0, 20.0, 90.0}, {4, 10.0, 20.0, 91.0}};
+    window->engineHost().shared().weather.publish(picture);
+    window->pullSlots();
+    QCOMPARE(intensity->findChild<QLabel *>("count4")->text(), QStringLiteral("2"));
+    intensity->findChild<QCheckBox *>("level5")->click();
+    QVERIFY(!weather->levelVisible(5) && weather->levelVisible(4));
+    // What the last input left behind is not the next one's weather.
+    window->openInput();
+    QCOMPARE(intensity->findChild<QLabel *>("count4")->text(), QStringLiteral("0"));
+    QVERIFY(WindowFixture::close(*window));
+}
+
+void TestMainWindowRadarPicture::videoOfStrangersIsReported()
+{
+    const auto window = WindowFixture::makeWindow([](Config &config) { config.mapVideoVisible = true; });
+    auto batch = QSharedPointer<VideoBatch>::create();
+    for (const auto &[sac, sic] : {std::pair<int, int>(1, 2), {7, 8}, {7, 8}}) {
+        VideoProcessor::Radial radial;
+        radial.sac = static_cast<unsigned char>(sac);
+        radial.sic = static_cast<unsigned char>(sic);
+        radial.cellSize = 50.0;
+        radial.endAzimuth = 1.0;
+        radial.amplitudes = {200, 200};
+        batch->radials.append(radial);
+    }
+    window->engineHost().shared().video.publish(batch);
+    window->pullSlots();
+    const QString log = window->findChild<QPlainTextEdit *>()->toPlainText();
+    QCOMPARE(log.count("Radar video of SAC 7, SIC 8 is not shown"), 1);
+    QCOMPARE(log.count("Radar video of"), 1);
+    QVERIFY(WindowFixture::close(*window));
+}
+
+QTEST_MAIN(TestMainWindowRadarPicture)
+#include "tst_main_window_radar_picture.moc"
