@@ -41,7 +41,18 @@ RecFile::Format captureFormat(const std::string &contents)
     return contents.compare(0, 4, "\x0A\x0D\x0D\x0A") == 0 ? RecFile::PcapNg : RecFile::Unknown;
 }
 
-bool readCapture(const std::string &fileName, RecFile::Format format,
+// Captures are known by their contents, other recordings by their names. Unknown: a file of blocks.
+RecFile::Format recordingFormat(const std::string &fileName, const std::string &contents)
+{
+    const RecFile::Format byContents = captureFormat(contents);
+    if (byContents != RecFile::Unknown)
+        return byContents;
+    const RecFile::Format byName = RecFile::formatFromFileName(QString::fromStdString(fileName));
+    const bool isPacked = contents.compare(0, 2, "\x1F\x8B") == 0;
+    return byName == RecFile::FinalFormat || byName == RecFile::Gps || isPacked ? byName : RecFile::Unknown;
+}
+
+bool readRecording(const std::string &fileName, RecFile::Format format,
     const std::function<bool(const InputMessage &)> &handler, std::string &error)
 {
     QString reason;
@@ -85,9 +96,18 @@ bool readInputFile(
     std::string contents;
     if (!readWholeFile(fileName, contents, error))
         return false;
-    if (const RecFile::Format format = captureFormat(contents); format != RecFile::Unknown) {
+    const RecFile::Format format = recordingFormat(fileName, contents);
+    if (format == RecFile::RawAsterix) {
+        contents.clear();
+        const auto append = [&contents](const InputMessage &block) {
+            contents.append(reinterpret_cast<const char *>(block.data), block.size);
+            return true;
+        };
+        if (!readRecording(fileName, format, append, error))
+            return false;
+    } else if (format != RecFile::Unknown) {
         contents = {};
-        return readCapture(fileName, format, handler, error);
+        return readRecording(fileName, format, handler, error);
     }
     InputMessage message;
     message.data = reinterpret_cast<const unsigned char *>(contents.data());

@@ -14,9 +14,9 @@ struct InputMessage {
     std::int64_t timeMilliseconds = 0; // since 1970 UTC
 };
 
-// Opens a file of blocks or a capture and hands over its messages: one for a file of blocks, one a datagram for a
-// capture. The octets are valid during the call; false from the handler ends the reading.
-// False, with one line in error, when the file cannot be read to its end.
+// Opens a file of blocks or a recording, packed by gzip or not, and hands over its messages: one for a file of blocks,
+// one a datagram for a recording. The octets are valid during the call; false from the handler ends the reading. False,
+// with one line in error, when the file cannot be read to its end.
 bool readInputFile(
     const std::string &fileName, const std::function<bool(const InputMessage &)> &handler, std::string &error);
 
