@@ -4,7 +4,7 @@
 #include "processors/alert_snapshot.h"
 #include "tracking/clock.h"
 
-#include <QHash>
+#include <QMap>
 #include <QList>
 #include <QObject>
 #include <QSharedPointer>
@@ -45,7 +45,7 @@ public Q_SLOTS:
     void checkLife();
 
 private:
-    QHash<quint32, QSharedPointer<Alert>> m_alerts;
+    QMap<quint32, QSharedPointer<Alert>> m_alerts; // by identifier
     QList<QSharedPointer<Alert>> m_alertList;
     QTimer m_lifeTimer;
     unsigned int m_activeLifeSpan = 8000;
