@@ -3,19 +3,23 @@
 #include "app/config.h"
 #include "display/geo_range_ring_map.h"
 #include "display/geo_sensor_map.h"
+#include "display/geo_static_map.h"
 #include "display/geo_video_map.h"
 #include "display/geo_view.h"
 #include "display/geo_weather_map.h"
+#include "display/map_editor_layer.h"
 
 #include <QElapsedTimer>
 #include <QPainter>
 
 GeoMapDisplay::GeoMapDisplay(Projector *projector, QObject *parent) : QObject(parent)
 {
+    m_staticMap = addLayer<GeoStaticMap>(projector);
     m_weatherMap = addLayer<GeoWeatherMap>(projector);
     m_videoMap = addLayer<GeoVideoMap>(projector);
     m_sensorMap = addLayer<GeoSensorMap>(projector);
     m_rangeRingMap = addLayer<GeoRangeRingMap>(projector);
+    m_mapEditorLayer = addLayer<MapEditorLayer>();
 }
 
 GeoMapDisplay::~GeoMapDisplay() = default;

@@ -13,8 +13,10 @@
 
 class GeoRangeRingMap;
 class GeoSensorMap;
+class GeoStaticMap;
 class GeoVideoMap;
 class GeoWeatherMap;
+class MapEditorLayer;
 class Projector;
 class SensorInfo;
 
@@ -39,10 +41,12 @@ public:
     void paint(QPainter &painter);
 
     // Owned by the display, never null.
+    GeoStaticMap *staticMap() const { return m_staticMap; }
     GeoWeatherMap *weatherMap() const { return m_weatherMap; }
     GeoVideoMap *videoMap() const { return m_videoMap; }
     GeoSensorMap *sensorMap() const { return m_sensorMap; }
     GeoRangeRingMap *rangeRingMap() const { return m_rangeRingMap; }
+    MapEditorLayer *mapEditorLayer() const { return m_mapEditorLayer; }
 
     QColor backgroundColor() const { return m_backgroundColor; }
     QList<LayerTime> layerTimes() const;
@@ -68,9 +72,11 @@ private:
     Layer *addLayer(Arguments &&...arguments);
 
     std::vector<Entry> m_layers; // bottom first
+    GeoStaticMap *m_staticMap = nullptr;
     GeoWeatherMap *m_weatherMap = nullptr;
     GeoVideoMap *m_videoMap = nullptr;
     GeoSensorMap *m_sensorMap = nullptr;
     GeoRangeRingMap *m_rangeRingMap = nullptr;
+    MapEditorLayer *m_mapEditorLayer = nullptr;
     QColor m_backgroundColor = QColor(173, 173, 173);
 };

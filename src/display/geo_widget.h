@@ -10,6 +10,7 @@
 #include <QWidget>
 
 class GeoMapDisplay;
+class GeoPointerTool;
 class GeoTrackDisplay;
 
 // The plan view: owns the transform between the projection plane (metres, x east, y north) and the screen, paints the
@@ -40,6 +41,11 @@ public:
     // True from startSettingRangeRingsCenter() to the next release of the left button.
     bool settingRangeRingsCenter() const { return m_settingRangeRingsCenter; }
     bool followSelectedTrack() const { return m_followSelectedTrack; }
+
+    // Offers the left button and the keys to the tool first; it stays the caller's, who takes it back (null) before it
+    // goes. Also to be called when the tool's cursor has changed.
+    void setPointerTool(GeoPointerTool *tool);
+    GeoPointerTool *pointerTool() const { return m_pointerTool; }
 
 public Q_SLOTS:
     void setMapDisplay(GeoMapDisplay *display); // null is ignored
@@ -108,12 +114,14 @@ private:
     void dragLabel(const QPoint &delta);
     void placeRangeRings(const QPointF &position);
     void showIdleCursor();
+    bool toolTakes(const QMouseEvent &event, bool (GeoPointerTool::*handler)(const QPointF &, const QTransform &));
 
     QTimer m_repaintTimer;
     QTransform m_viewTransform;
     GeoView m_view;
     QPointer<GeoMapDisplay> m_mapDisplay;
     QPointer<GeoTrackDisplay> m_trackDisplay;
+    GeoPointerTool *m_pointerTool = nullptr; // the caller's
     bool m_panning = false;
     bool m_draggingLabel = false;
     QPointF m_lastMousePosition;

@@ -1,4 +1,5 @@
 #include "display/geo_map_display.h"
+#include "display/geo_pointer_tool.h"
 #include "display/geo_range_ring_map.h"
 #include "display/geo_track_display.h"
 #include "display/geo_widget.h"
@@ -25,11 +26,25 @@ int wheelDelta(const QWheelEvent &event)
 
 } // namespace
 
+void GeoWidget::setPointerTool(GeoPointerTool *tool)
+{
+    m_pointerTool = tool;
+    if (!m_panning && !m_draggingLabel)
+        showIdleCursor();
+}
+
+bool GeoWidget::toolTakes(
+    const QMouseEvent &event, bool (GeoPointerTool::*handler)(const QPointF &, const QTransform &))
+{
+    return m_pointerTool && !m_settingRangeRingsCenter && (m_pointerTool->*handler)(event.position(), screenTransform());
+}
+
 void GeoWidget::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::RightButton)
         startRightDrag(event->position());
-    else if (event->button() == Qt::LeftButton && !m_settingRangeRingsCenter)
+    else if (event->button() == Qt::LeftButton && !m_settingRangeRingsCenter
+        && !toolTakes(*event, &GeoPointerTool::pressed))
         selectTrackAt(event->position().toPoint());
 }
 
@@ -69,6 +84,7 @@ void GeoWidget::mouseMoveEvent(QMouseEvent *event)
         dragLabel(position.toPoint() - m_lastMousePosition.toPoint());
         m_lastMousePosition = position;
     } else {
+        toolTakes(*event, &GeoPointerTool::moved);
         const QPoint pixel = position.toPoint();
         const QPointF planePoint = screenTransform().inverted().map(QPointF(pixel));
         Q_EMIT cursorMoved(planePoint, pixel);
@@ -96,6 +112,8 @@ void GeoWidget::mouseReleaseEvent(QMouseEvent *event)
         notifyViewRectChange();
     } else if (event->button() == Qt::LeftButton && m_settingRangeRingsCenter) {
         placeRangeRings(event->position());
+    } else if (event->button() == Qt::LeftButton) {
+        toolTakes(*event, &GeoPointerTool::released);
     }
 }
 
@@ -113,14 +131,16 @@ void GeoWidget::placeRangeRings(const QPointF &position)
 
 void GeoWidget::showIdleCursor()
 {
-    setCursor(m_settingRangeRingsCenter ? Qt::CrossCursor : Qt::ArrowCursor);
+    const Qt::CursorShape free = m_pointerTool ? m_pointerTool->cursorShape() : Qt::ArrowCursor;
+    setCursor(m_settingRangeRingsCenter ? Qt::CrossCursor : free);
 }
 
 void GeoWidget::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::RightButton) {
-        // The second press of a quick pair of clicks is a press like any other.
-        mousePressEvent(event);
+        // Unless a tool knows better, the second press of a quick pair of clicks is a press like any other.
+        if (event->button() != Qt::LeftButton || !toolTakes(*event, &GeoPointerTool::doubleClicked))
+            mousePressEvent(event);
         return;
     }
     const QPoint pixel = event->position().toPoint();
@@ -143,6 +163,8 @@ void GeoWidget::wheelEvent(QWheelEvent *event)
 
 void GeoWidget::keyPressEvent(QKeyEvent *event)
 {
+    if (m_pointerTool && m_pointerTool->keyPressed(*event))
+        return;
     const double step = event->modifiers().testFlag(Qt::AltModifier) ? FineKeyRotation : KeyRotation;
     if (event->key() == Qt::Key_F12)
         rotate(step);

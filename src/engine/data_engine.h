@@ -86,6 +86,8 @@ public Q_SLOTS:
 
     // From the next packet on.
     void setReplaySpeed(ReplaySpeed::Speed speed);
+    // Whether the recording that is being played starts again at its end.
+    void setReplayAutoRewind(bool on) { m_config.inputFileAutoRewind = on; }
 
     // Makes seeking in the recording that it was made of quick; of no effect on others. From the next opening on.
     void setRecordingIndex(const korvane::astfile::RecordingIndex &index) { m_recordingIndex = index; }

@@ -1,7 +1,5 @@
 #include "geo/geo_coordinate.h"
 
-#include <QRegularExpression>
-
 #include <cmath>
 
 namespace {
@@ -22,23 +20,24 @@ SexagesimalAngle split(double degrees)
         static_cast<int>(rest % 100)};
 }
 
-QString field(int value, int width)
+void appendField(QString &text, int value, int width)
 {
-    return QString::number(value).rightJustified(width, QLatin1Char('0'));
+    for (int unit = width > 2 ? 100 : 10; unit > 0; unit /= 10)
+        text += QLatin1Char(static_cast<char>('0' + value / unit % 10));
 }
 
-QString wholeSeconds(const SexagesimalAngle &angle, int degreeDigits)
-{
-    return field(angle.degrees, degreeDigits) + field(angle.minutes, 2) + field(angle.seconds, 2);
-}
-
-QString axisText(double degrees, int degreeDigits, QLatin1Char positive, QLatin1Char negative, bool withHundredths)
+void appendAxis(
+    QString &text, double degrees, int degreeDigits, QLatin1Char positive, QLatin1Char negative, bool withHundredths)
 {
     const auto angle = split(degrees);
-    auto text = wholeSeconds(angle, degreeDigits);
-    if (withHundredths)
-        text += QLatin1Char('.') + field(angle.hundredths, 2);
-    return text + (degrees < 0.0 ? negative : positive);
+    appendField(text, angle.degrees, degreeDigits);
+    appendField(text, angle.minutes, 2);
+    appendField(text, angle.seconds, 2);
+    if (withHundredths) {
+        text += QLatin1Char('.');
+        appendField(text, angle.hundredths, 2);
+    }
+    text += degrees < 0.0 ? negative : positive;
 }
 
 QLatin1String separator(GeoCoordinate::ATCStringFormat format)
@@ -55,61 +54,80 @@ QLatin1String separator(GeoCoordinate::ATCStringFormat format)
     }
 }
 
-// The patterns end with \z and not with $, which would also match before a line break.
-const QRegularExpression &normalPrecisionPattern()
-{
-    static const QRegularExpression regexpNormalPrecision(QStringLiteral("^\\d{6}[NS]\\d{6,7}[EW]\\z"));
-    return regexpNormalPrecision;
-}
-
-const QRegularExpression &highPrecisionPattern()
-{
-    static const QRegularExpression regexpHighPrecision(QStringLiteral("^\\d{6}\\.\\d{2}[NS]\\d{6,7}\\.\\d{2}[EW]\\z"));
-    return regexpHighPrecision;
-}
-
-// Reads digits and a hemisphere letter one after the other from a text that a pattern has already matched.
-class AxisReader {
+// Reads the fields of one text one after the other; maps have a million of them to read.
+template <class Text>
+class AtcReader {
 public:
-    explicit AxisReader(const QString &text) : m_text(text) { }
+    explicit AtcReader(Text text) : m_text(text) { }
 
-    double axis(int degreeDigits, bool withHundredths, QLatin1Char positive)
+    // Invalid unless the whole text is a coordinate.
+    GeoCoordinate coordinate(bool withHundredths)
     {
-        const double degrees = number(degreeDigits);
-        const double minutes = number(2);
-        const double seconds = number(2);
-        double value = 0.0;
-        if (withHundredths) {
-            ++m_at; // the point
-            value = (degrees * 360000.0 + minutes * 6000.0 + seconds * 100.0 + number(2)) / 360000.0;
-        } else {
-            value = (degrees * 3600.0 + minutes * 60.0 + seconds) / 3600.0;
-        }
-        return m_text.at(m_at++) == positive ? value : -value;
+        constexpr qsizetype lengthWithThreeDegreeDigits = 15;
+        const qsizetype extra = withHundredths ? 6 : 0;
+        if (m_text.size() != lengthWithThreeDegreeDigits + extra
+            && m_text.size() + 1 != lengthWithThreeDegreeDigits + extra)
+            return {};
+        const bool threeDigits = m_text.size() == lengthWithThreeDegreeDigits + extra;
+        const double latitude = axis(2, withHundredths, u'N', u'S');
+        const double longitude = axis(threeDigits ? 3 : 2, withHundredths, u'E', u'W');
+        GeoCoordinate coordinate;
+        if (!m_good)
+            return coordinate;
+        coordinate.setLatitude(latitude);
+        coordinate.setLongitude(longitude);
+        return coordinate;
     }
 
 private:
-    double number(int digits)
+    double axis(int degreeDigits, bool withHundredths, char16_t positive, char16_t negative)
     {
-        const double value = m_text.mid(m_at, digits).toDouble();
-        m_at += digits;
-        return value;
+        const int degrees = number(degreeDigits);
+        const int minutes = number(2);
+        double value = (degrees * 60 + minutes) * 60 + number(2);
+        double unit = 3600.0;
+        if (withHundredths) {
+            m_good = m_good && next() == u'.';
+            value = value * 100.0 + number(2);
+            unit = 360000.0;
+        }
+        const char16_t side = next();
+        m_good = m_good && (side == positive || side == negative);
+        return side == positive ? value / unit : -(value / unit);
     }
 
-    const QString &m_text;
-    int m_at = 0;
+    int number(int digits)
+    {
+        int value = 0;
+        for (; digits > 0; --digits) {
+            const char16_t digit = next();
+            m_good = m_good && digit >= u'0' && digit <= u'9';
+            value = value * 10 + (digit - u'0');
+        }
+        return m_good ? value : 0;
+    }
+
+    char16_t next() { return QChar(m_text[m_at++]).unicode(); }
+
+    const Text m_text;
+    qsizetype m_at = 0;
+    bool m_good = true;
 };
 
-GeoCoordinate parse(const QString &text, bool withHundredths)
+template <class Text>
+GeoCoordinate parse(Text text, GeoCoordinate::ATCStringFormat format)
 {
-    constexpr int lengthWithThreeDegreeDigits = 15;
-    const int extra = withHundredths ? 6 : 0;
-    const int longitudeDigits = text.size() == lengthWithThreeDegreeDigits + extra ? 3 : 2;
-    AxisReader reader(text);
-    GeoCoordinate coordinate;
-    coordinate.setLatitude(reader.axis(2, withHundredths, QLatin1Char('N')));
-    coordinate.setLongitude(reader.axis(longitudeDigits, withHundredths, QLatin1Char('E')));
-    return coordinate;
+    if (format != GeoCoordinate::NormalPrecision && format != GeoCoordinate::HighPrecision)
+        return {};
+    return AtcReader<Text>(text).coordinate(format == GeoCoordinate::HighPrecision);
+}
+
+// The formats' texts differ in length.
+template <class Text>
+GeoCoordinate parse(Text text)
+{
+    constexpr qsizetype longestNormal = 15;
+    return parse(text, text.size() <= longestNormal ? GeoCoordinate::NormalPrecision : GeoCoordinate::HighPrecision);
 }
 
 } // namespace
@@ -121,21 +139,26 @@ QString GeoCoordinate::toATCString(ATCStringFormat format) const
     if (format == DecimalDegrees)
         return QStringLiteral("%1,%2").arg(QString::number(latitude(), 'f', 6), QString::number(longitude(), 'f', 6));
     const bool withHundredths = format == HighPrecision;
-    return axisText(latitude(), 2, QLatin1Char('N'), QLatin1Char('S'), withHundredths) + separator(format)
-        + axisText(longitude(), 3, QLatin1Char('E'), QLatin1Char('W'), withHundredths);
+    constexpr qsizetype longest = 21;
+    QString text;
+    text.reserve(longest);
+    appendAxis(text, latitude(), 2, QLatin1Char('N'), QLatin1Char('S'), withHundredths);
+    text += separator(format);
+    appendAxis(text, longitude(), 3, QLatin1Char('E'), QLatin1Char('W'), withHundredths);
+    return text;
 }
 
 GeoCoordinate GeoCoordinate::fromATCString(const QString &text)
 {
-    const auto coordinate = fromATCString(text, NormalPrecision);
-    return normalPrecisionPattern().match(text).hasMatch() ? coordinate : fromATCString(text, HighPrecision);
+    return parse(QStringView(text));
+}
+
+GeoCoordinate GeoCoordinate::fromATCString(QLatin1String text)
+{
+    return parse(text);
 }
 
 GeoCoordinate GeoCoordinate::fromATCString(const QString &text, ATCStringFormat format)
 {
-    if (format == NormalPrecision && normalPrecisionPattern().match(text).hasMatch())
-        return parse(text, false);
-    if (format == HighPrecision && highPrecisionPattern().match(text).hasMatch())
-        return parse(text, true);
-    return {};
+    return parse(QStringView(text), format);
 }

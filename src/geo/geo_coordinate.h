@@ -28,6 +28,7 @@ public:
 
     // NormalPrecision or HighPrecision, found by the text; upper-case hemisphere letters; invalid when neither matches.
     static GeoCoordinate fromATCString(const QString &text);
+    static GeoCoordinate fromATCString(QLatin1String text);
     // One format; only NormalPrecision and HighPrecision can be read, any other gives an invalid coordinate. Fields are
     // not range-checked: 996000N reads as 100 degrees, which makes the coordinate invalid.
     static GeoCoordinate fromATCString(const QString &text, ATCStringFormat format);

@@ -2,7 +2,9 @@
 
 #include "app/app_identity.h"
 
+#include "airdb/lib_air_db.h"
 #include "asterix/asterix.h"
+#include "modes/lib_mode_s.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -18,6 +20,8 @@ QString AboutWindow::versionText()
         tr("%1 %2").arg(QGuiApplication::applicationDisplayName(), QCoreApplication::applicationVersion()),
         tr("Revision %1").arg(buildRevision()),
         tr("ASTERIX library %1").arg(QString::fromLatin1(ast_library_version())),
+        tr("Mode S library %1").arg(QString::fromStdString(korvane::modes::LibModeS::version())),
+        tr("Aircraft database library %1").arg(QString::fromLatin1(korvane::airdb::LibAirDB::version())),
         tr("Qt %1 (built with %2)").arg(QString::fromLatin1(qVersion()), QStringLiteral(QT_VERSION_STR)),
         tr("%1, %2").arg(QSysInfo::prettyProductName(), QSysInfo::buildAbi()),
     };

@@ -25,12 +25,15 @@ void ColorButton::setColor(const QColor &color)
     painter.drawRect(QRectF(0.5, 0.5, iconSize().width() - 1.0, iconSize().height() - 1.0));
     painter.end();
     setIcon(QIcon(swatch));
-    setText(color.name().toUpper());
+    setText(color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb).toUpper());
 }
 
 void ColorButton::choose()
 {
-    const QColor chosen = QColorDialog::getColor(m_color, this, m_chooserTitle);
-    if (chosen.isValid())
-        setColor(chosen);
+    const QColor chosen = QColorDialog::getColor(m_color, this, m_chooserTitle,
+        m_alphaShown ? QColorDialog::ShowAlphaChannel : QColorDialog::ColorDialogOptions());
+    if (!chosen.isValid())
+        return;
+    setColor(chosen);
+    Q_EMIT colorChosen(chosen);
 }

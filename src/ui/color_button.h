@@ -12,10 +12,17 @@ public:
 
     QColor color() const { return m_color; }
     void setColor(const QColor &color);
+    // Lets the operator choose how much shows through as well.
+    void setAlphaShown(bool shown) { m_alphaShown = shown; }
+
+Q_SIGNALS:
+    // By the operator.
+    void colorChosen(const QColor &color);
 
 private:
     void choose();
 
     QString m_chooserTitle;
     QColor m_color;
+    bool m_alphaShown = false;
 };

@@ -67,6 +67,11 @@ void EngineHost::pauseInput(bool paused)
     post([paused](DataEngine *engine) { engine->pauseInput(paused); });
 }
 
+void EngineHost::setReplayAutoRewind(bool on)
+{
+    post([on](DataEngine *engine) { engine->setReplayAutoRewind(on); });
+}
+
 void EngineHost::setReplaySpeed(ReplaySpeed::Speed speed)
 {
     post([speed](DataEngine *engine) { engine->setReplaySpeed(speed); });

@@ -51,6 +51,7 @@ public:
     void closeInput();
     void pauseInput(bool paused);
     void setReplaySpeed(ReplaySpeed::Speed speed);
+    void setReplayAutoRewind(bool on);
     void setRecordingIndex(const korvane::astfile::RecordingIndex &index);
     void startRecording(const QString &fileName);
     void stopRecording();

@@ -44,7 +44,12 @@ public:
         const QPalette::ColorGroup group = cell.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
         painter->setFont(cell.font);
         painter->setPen(cell.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text));
-        const QRect inner = cell.rect.adjusted(cellPadding, 0, -cellPadding, 0);
+        QRect inner = cell.rect.adjusted(cellPadding, 0, -cellPadding, 0);
+        if (!cell.icon.isNull()) {
+            const QRect iconPlace(inner.left(), inner.top(), inner.height() * 4 / 3, inner.height());
+            cell.icon.paint(painter, iconPlace.adjusted(0, 2, 0, -2), Qt::AlignLeft | Qt::AlignVCenter);
+            inner.setLeft(iconPlace.right() + cellPadding / 2);
+        }
         painter->drawText(inner, static_cast<int>(cell.displayAlignment | Qt::TextSingleLine),
             cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, inner.width()));
     }

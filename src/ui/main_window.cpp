@@ -1,5 +1,6 @@
 #include "ui/main_window.h"
 
+#include "airdb/lib_air_db.h"
 #include "app/app_log.h"
 #include "app/app_paths.h"
 #include "asterix/asterix.h"
@@ -9,10 +10,11 @@
 #include "display/geo_track_display.h"
 #include "display/geo_widget.h"
 #include "engine/data_engine.h"
+#include "maps/map_library.h"
 #include "tracking/sensor_manager.h"
 #include "ui/actions.h"
 #include "ui/alert_list_model.h"
-#include "ui/asterix_log_handler.h"
+#include "ui/library_log.h"
 #include "ui/list_view.h"
 #include "ui/log_pane.h"
 #include "ui/range_ring_window.h"
@@ -52,8 +54,8 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
         showLog(LogLevel::Debug, tr("Debug functions enabled"));
     }
     ast_library_init();
-    AsterixLogHandler::setWindow(this);
-    ast_log_handler_reg(&AsterixLogHandler::log);
+    LibraryLog::setWindow(this);
+    LibraryLog::install(isDebugMode());
 
     connectEngine();
     connectDisplay();
@@ -63,8 +65,11 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     connectTrackActions();
     connectMapActions();
     connectRadarPicture();
+    connectStaticMaps();
+    connectLayouts();
     connectDialogActions();
     loadSensorDatabase();
+    loadAircraftDatabase();
     applyConfig();
     applySensor();
     setInputState(InputState::Closed);
@@ -74,11 +79,12 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
 
 MainWindow::~MainWindow()
 {
-    AsterixLogHandler::setWindow(nullptr);
+    LibraryLog::setWindow(nullptr);
     // The docks are hidden when the base class goes, after the members that their lists are made of.
     for (QDockWidget *dock : {m_trackDock, m_alertDock}) {
         disconnect(dock, nullptr, this, nullptr);
     }
+    deleteMapWindows();
 }
 
 bool MainWindow::isDebugMode()
@@ -215,6 +221,7 @@ void MainWindow::applyConfig()
     m_trackDisplay->applyConfig(config);
     m_readOuts->setTimeZone(config.displayLocalTimeZoneName);
     m_actions->setToolBarText(config.displayToolbarText);
+    (*m_actions)[ActionId::ToggleStaticMaps]->setChecked(config.mapStaticVisible);
     (*m_actions)[ActionId::ToggleSensorMap]->setChecked(config.mapSensorVisible);
     (*m_actions)[ActionId::ToggleWeatherMap]->setChecked(config.mapWeatherVisible);
     (*m_actions)[ActionId::ToggleVideoMap]->setChecked(config.mapVideoVisible);
@@ -222,6 +229,9 @@ void MainWindow::applyConfig()
         m_weatherIntensityWindow->refresh();
     }
     (*m_actions)[ActionId::ToggleRangeRings]->setChecked(config.mapRangeRingVisible);
+    if (!m_mapLibrary->indexFile().isEmpty()) {
+        loadMaps(); // the first time when the window is shown
+    }
     updateClock();
     updateNotices();
 }
@@ -229,6 +239,7 @@ void MainWindow::applyConfig()
 void MainWindow::applySensor()
 {
     m_sensor = m_config.live().sensor(nullptr);
+    placeDefaultLayout();
     m_mapDisplay->setSensor(m_sensor);
     beginRadarPicture();
     updateNotices();
@@ -246,6 +257,16 @@ void MainWindow::loadSensorDatabase()
     if (!file.isEmpty() && !m_sensors->loadFromJsonFile(QFileInfo(file))) {
         showLog(LogLevel::Warning, tr("Cannot read the sensor file %1").arg(file));
     }
+}
+
+void MainWindow::loadAircraftDatabase()
+{
+    const QFileInfo file(AppPaths::exeDir() + "/../share/korvane_airdb/airdb.dat");
+    korvane::airdb::LibAirDB database;
+    if (!database.loadFromDataFile(file)) {
+        showLog(LogLevel::Warning, tr("Cannot load the aircraft database: %1").arg(database.lastError()));
+    }
+    m_trackModel->setAddresses(database.getICAOAddrDict());
 }
 
 void MainWindow::changeEvent(QEvent *event)

@@ -8,6 +8,7 @@
 #include "processors/weather_processor.h"
 #include "ui/drop_stats.h"
 #include "ui/engine_host.h"
+#include "ui/largest_delay.h"
 #include "ui/run_config.h"
 #include "ui/slot_reader.h"
 
@@ -22,11 +23,15 @@ class GeoTrackDisplay;
 class GeoWidget;
 class ListView;
 class LogPane;
+class MapLayout;
+class MapEditorWindow;
+class MapLibrary;
 class RangeRingWindow;
 class RecordingScan;
 class ReplayWindow;
 class ScopeNotice;
 class SensorManager;
+class StaticMapsWindow;
 class StatsWindow;
 class StatusReadOuts;
 class TrackLabelFormatWindow;
@@ -121,6 +126,11 @@ public Q_SLOTS:
     void showCursorPosition(const QPointF &planePoint, const QPoint &screenPoint);
     void showCurrentZoom(double metresPerPixel);
     void showCurrentRotation(double degrees);
+    // Of a map that is being loaded.
+    void showMapLoadInfo(const QFileInfo &file, const QString &progress);
+    // Shows the layout that the action of the layout menu is for, now and at the next start.
+    void loadLayout(QAction *action);
+    void updateMapLayoutMenu();
 
     void showConfigWindow();
     void showReplayWindow();
@@ -134,6 +144,10 @@ public Q_SLOTS:
     void showAbout();
     void showChangelog();
     void launchSensorManager();
+    void showMapWindow();
+    // Empty: no map yet.
+    void launchStaticMapEditor(const QString &path);
+    void showLayoutSaveWindow();
 
     // The operator's Exit: refused while an input is open.
     void exitApplication();
@@ -174,6 +188,8 @@ private:
     void connectTrackActions();
     void connectMapActions();
     void connectRadarPicture();
+    void connectStaticMaps();
+    void connectLayouts();
     void connectDialogActions();
     void setRangeRings(const GeoCoordinate &center, int number, double distanceNauticalMiles);
     void chooseSensor(const QSharedPointer<SensorInfo> &sensor);
@@ -187,6 +203,7 @@ private:
     void beginRadarPicture();
     void editConfig(const std::function<void(Config &)> &change);
     void loadSensorDatabase();
+    void loadAircraftDatabase();
 
     // Input.
     bool isCurrentAnswer(unsigned long long requestId) const { return requestId == m_requestId; }
@@ -204,7 +221,23 @@ private:
     void showIndex(const korvane::astfile::RecordingIndex &index, const QString &error);
     void updateReplayWindow();
 
+    // Maps and layouts.
+    void loadMaps();
+    void showEditedMap(const QString &path);
+    // False when one stays open.
+    bool closeMapWindows();
+    void deleteMapWindows();
+    void loadLayouts();
+    void saveLayouts();
+    void placeDefaultLayout();
+    // The built-in one is current from now on.
+    void leaveLayout();
+    // A layout other than the built-in one.
+    bool layoutChosen() const;
+
     // View.
+    // Where the built-in views are centred; invalid: nowhere.
+    GeoCoordinate homeCoordinate() const;
     void showInitialView();
     bool restoreView();
     void saveView() const;
@@ -230,6 +263,8 @@ private:
     std::unique_ptr<GeoMapDisplay> m_mapDisplay;
     std::unique_ptr<GeoTrackDisplay> m_trackDisplay;
     GeoWidget *m_geoWidget = nullptr;
+    MapLibrary *m_mapLibrary = nullptr;
+    MapLayout *m_layouts = nullptr;
     ScopeNotice *m_scopeNotice = nullptr;
 
     Actions *m_actions = nullptr;
@@ -245,6 +280,8 @@ private:
     QPointer<RangeRingWindow> m_rangeRingWindow;
     QPointer<WeatherIntensityWindow> m_weatherIntensityWindow;
     QPointer<TrackLabelFormatWindow> m_trackLabelFormatWindow;
+    QPointer<StaticMapsWindow> m_staticMapsWindow;
+    QPointer<MapEditorWindow> m_mapEditorWindow;
     ReplayWindow *m_replayWindow = nullptr;
     StatsWindow *m_statsWindow = nullptr;
 
@@ -257,6 +294,8 @@ private:
     SlotReader<DisplaySnapshot> m_displayReader;
     SlotReader<VideoBatch> m_videoReader;
     SlotReader<WeatherProcessor::Picture> m_weatherReader;
+    LargestDelay m_videoDelay;
+    LargestDelay m_weatherDelay;
     QSharedPointer<const DisplaySnapshot> m_snapshot;
     std::array<bool, 3> m_alertStatus = {}; // as in the newest snapshot
     bool m_updatingList = false; // the program moves the selection, not the operator

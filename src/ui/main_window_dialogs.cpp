@@ -162,5 +162,6 @@ void MainWindow::chooseSensor(const QSharedPointer<SensorInfo> &sensor)
 {
     editConfig([&sensor](Config &config) { config.setSensor(sensor); });
     applySensor();
+    leaveLayout(); // it was made for another place
     showInitialView();
 }

@@ -179,13 +179,20 @@ QString MainWindow::inputDescription() const
 
 void MainWindow::pullSlots()
 {
+    const bool live = !replaying(); // a recording's times of day are of another day
     if (const auto batch = m_videoReader.take(m_host.shared().video)) {
         for (const VideoProcessor::Radial &radial : batch->radials) {
             procVideoRadial(radial);
         }
+        if (live && !batch->radials.isEmpty()) {
+            m_videoDelay.add(batch->radials.constFirst().timeOfDay, QDateTime::currentDateTimeUtc());
+        }
     }
     if (const auto picture = m_weatherReader.take(m_host.shared().weather)) {
         procWeatherPicture(*picture);
+        if (live) {
+            m_weatherDelay.add(picture->timeOfDay, QDateTime::currentDateTimeUtc());
+        }
     }
     const QSharedPointer<const DisplaySnapshot> snapshot = m_displayReader.take(m_host.shared().display);
     if (!snapshot) {
@@ -204,7 +211,7 @@ void MainWindow::pullSlots()
 void MainWindow::publishDropStats()
 {
     Q_EMIT dropStats({m_displayReader.dropped(), m_videoReader.dropped(), m_weatherReader.dropped(),
-        m_mapDisplay->weatherMap()->emptyPictures()});
+        m_mapDisplay->weatherMap()->emptyPictures(), m_weatherDelay.milliseconds(), m_videoDelay.milliseconds()});
 }
 
 void MainWindow::updateTrackList()

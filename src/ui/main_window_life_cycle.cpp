@@ -34,6 +34,8 @@ void MainWindow::loadUi()
     if (!restoreView()) {
         showInitialView();
     }
+    loadLayouts();
+    loadMaps();
     m_geoWidget->setFocus();
 }
 
@@ -116,6 +118,9 @@ void MainWindow::closeEvent(QCloseEvent *event)
     event->ignore();
     if (m_shutdown == Shutdown::Begun || (m_inputState != InputState::Closed && !m_exitQuestion())) {
         return;
+    }
+    if (!closeMapWindows()) {
+        return; // the operator wants to look after his unsaved changes
     }
     // While the question stood open the program may have been told to end.
     if (m_shutdown == Shutdown::NotBegun) {

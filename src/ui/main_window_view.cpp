@@ -189,10 +189,14 @@ GeoCoordinate MainWindow::viewCenter() const
     return coordinate(m_geoWidget->screenTransform().inverted().map(middle));
 }
 
+GeoCoordinate MainWindow::homeCoordinate() const
+{
+    return m_sensor && m_sensor->location().isValid() ? m_sensor->location() : m_config.live().displayCenterCoordinate;
+}
+
 void MainWindow::showInitialView()
 {
-    const GeoCoordinate center =
-        m_sensor && m_sensor->location().isValid() ? m_sensor->location() : m_config.live().displayCenterCoordinate;
+    const GeoCoordinate center = homeCoordinate();
     if (!center.isValid()) {
         return;
     }

@@ -1,19 +1,52 @@
 #include "ui/map_config_page.h"
 
+#include "app/app_paths.h"
 #include "app/config.h"
 #include "ui/color_button.h"
 #include "ui/field_form.h"
+#include "ui/file_edit.h"
+#include "ui/map_places.h"
 #include "ui/range_ring_window.h"
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
+#include <QFileInfo>
 #include <QSpinBox>
+
+namespace {
+
+QString folder(const QString &configured)
+{
+    return QFileInfo(MapPlaces::resolve(configured)).absolutePath();
+}
+
+} // namespace
 
 MapConfigPage::MapConfigPage(QWidget *parent) : ConfigPage(tr("Map Layers"), parent)
 {
+    addStaticMapRows();
     addSensorRows();
     addRangeRingRows();
     form()->addStretch();
+}
+
+void MapConfigPage::addStaticMapRows()
+{
+    m_staticVisible = new QCheckBox(tr("Show static ma&ps"));
+    m_staticVisible->setObjectName(QStringLiteral("staticVisible"));
+    m_index = new FileEdit(tr("Select Map Index"), tr("Map Index (*.idx);;All files (*)"));
+    m_index->setObjectName(QStringLiteral("mapIndex"));
+    m_styleSheet = new FileEdit(tr("Select Map Style Sheet"), tr("Map Style Sheet (*.mss)"));
+    m_styleSheet->setObjectName(QStringLiteral("mapStyleSheet"));
+    m_symbolSize = new QSpinBox;
+    m_symbolSize->setObjectName(QStringLiteral("symbolSize"));
+    m_symbolSize->setRange(4, 256);
+    m_symbolSize->setSuffix(tr(" pixels"));
+    form()->addHeading(tr("Static maps"));
+    form()->addField(m_staticVisible);
+    form()->addField(tr("Map inde&x:"), m_index);
+    form()->addField(tr("S&tyle sheet:"), m_styleSheet);
+    form()->addField(tr("Symbol si&ze:"), m_symbolSize);
 }
 
 void MapConfigPage::addSensorRows()
@@ -51,6 +84,12 @@ void MapConfigPage::addRangeRingRows()
 
 void MapConfigPage::load(const Config &config)
 {
+    m_staticVisible->setChecked(config.mapStaticVisible);
+    m_index->setPath(config.mapIndex);
+    m_index->setBaseDir(folder(config.mapIndex));
+    m_styleSheet->setPath(config.mapStyleSheet);
+    m_styleSheet->setBaseDir(folder(config.mapStyleSheet));
+    m_symbolSize->setValue(config.mapStaticSymbolSize);
     m_sensorVisible->setChecked(config.mapSensorVisible);
     m_sensorColor->setColor(config.mapSensorColor);
     m_coverageVisible->setChecked(config.mapSensorCoverageVisible);
@@ -64,8 +103,24 @@ void MapConfigPage::load(const Config &config)
     m_ringColor->setColor(config.mapRangeRingColor);
 }
 
+bool MapConfigPage::validate()
+{
+    bool valid = true;
+    for (FileEdit *file : {m_index, m_styleSheet}) {
+        const bool found = QFileInfo(MapPlaces::resolve(file->path())).isFile();
+        // A name without a folder is that of a file still to be made.
+        const bool usable = found || QFileInfo(file->path()).fileName() == file->path();
+        valid &= form()->check(file, !file->path().isEmpty() && usable ? QString() : tr("There is no such file."));
+    }
+    return valid;
+}
+
 void MapConfigPage::store(Config *config) const
 {
+    config->mapStaticVisible = m_staticVisible->isChecked();
+    config->mapIndex = AppPaths::storePath(m_index->path());
+    config->mapStyleSheet = AppPaths::storePath(m_styleSheet->path());
+    config->mapStaticSymbolSize = m_symbolSize->value();
     config->mapSensorVisible = m_sensorVisible->isChecked();
     config->mapSensorColor = m_sensorColor->color();
     config->mapSensorCoverageVisible = m_coverageVisible->isChecked();

@@ -3,11 +3,12 @@
 #include "ui/config_page.h"
 
 class ColorButton;
+class FileEdit;
 class QCheckBox;
 class QDoubleSpinBox;
 class QSpinBox;
 
-// Settings of the map layers: the sensor and the range rings.
+// Settings of the map layers: static maps, the sensor and the range rings.
 class MapConfigPage final : public ConfigPage {
     Q_OBJECT
 
@@ -15,13 +16,18 @@ public:
     explicit MapConfigPage(QWidget *parent = nullptr);
 
     void load(const Config &config) override;
-    bool validate() override { return true; } // nothing can be entered wrongly
+    bool validate() override;
     void store(Config *config) const override;
 
 private:
+    void addStaticMapRows();
     void addSensorRows();
     void addRangeRingRows();
 
+    QCheckBox *m_staticVisible = nullptr;
+    FileEdit *m_index = nullptr;
+    FileEdit *m_styleSheet = nullptr;
+    QSpinBox *m_symbolSize = nullptr;
     QCheckBox *m_sensorVisible = nullptr;
     ColorButton *m_sensorColor = nullptr;
     QCheckBox *m_coverageVisible = nullptr;

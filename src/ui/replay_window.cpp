@@ -337,8 +337,7 @@ void ReplayWindow::sliderReleased()
     if (!time.isValid()) {
         return;
     }
-    m_position = time;
-    showPosition();
+    setPosition(time);
     if (m_state != State::Stopped) {
         Q_EMIT jumpRequested(time);
     }
@@ -346,5 +345,6 @@ void ReplayWindow::sliderReleased()
 
 void ReplayWindow::jump()
 {
-    Q_EMIT jumpRequested(m_jumpTime->dateTime());
+    setPosition(m_jumpTime->dateTime());
+    Q_EMIT jumpRequested(m_position);
 }

@@ -12,34 +12,6 @@
 
 namespace {
 
-TrackListEntry entryFor(const TrackSnapshot &track)
-{
-    TrackListEntry entry;
-    entry.incarnationId = track.incarnationId;
-    entry.callsign = track.callsignValid ? track.callsign : QString();
-    entry.squawk = track.modeACodeValid ? track.modeAString : QString();
-    entry.icaoAddr = track.icaoAddrValid ? track.icaoAddrString : QString();
-    if (track.levelValid) {
-        entry.level = track.level / 100;
-    }
-    entry.verticalTrend = track.verticalTrend;
-    if (track.groundSpeedValid) {
-        entry.groundSpeed = static_cast<int>(std::lround(track.groundSpeed));
-    }
-    if (track.headingValid) {
-        const long degrees = std::lround(track.heading) % 360;
-        entry.heading = static_cast<int>(degrees > 0 ? degrees : degrees + 360);
-    }
-    if (track.verticalRateValid) {
-        entry.verticalRate = track.verticalRate;
-    }
-    entry.type = track.type;
-    entry.state = track.state;
-    entry.trackNumber = track.trackNumber;
-    entry.alerts = track.alertsString;
-    return entry;
-}
-
 QString typeText(int type)
 {
     static const char *const texts[] = {"", QT_TR_NOOP("PSR"), QT_TR_NOOP("SSR"), QT_TR_NOOP("PSR+SSR"),
@@ -120,6 +92,10 @@ QVariant TrackListModel::data(const QModelIndex &index, int role) const
         return foreground(entry);
     case Qt::FontRole:
         return m_figures;
+    case Qt::DecorationRole:
+        return index.column() == Country ? flag(entry) : QVariant();
+    case Qt::ToolTipRole:
+        return index.column() == Country ? textOrNone(entry.countryName) : QVariant();
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(
             isNumeric(index.column()) ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
@@ -132,12 +108,13 @@ QVariant TrackListModel::headerData(int section, Qt::Orientation orientation, in
 {
     static const char *const titles[] = {QT_TR_NOOP("Callsign"), QT_TR_NOOP("Squawk"), QT_TR_NOOP("Level"),
         QT_TR_NOOP("Speed"), QT_TR_NOOP("Hdg"), QT_TR_NOOP("Rate"), QT_TR_NOOP("Type"), QT_TR_NOOP("State"),
-        QT_TR_NOOP("Address"), QT_TR_NOOP("Number"), QT_TR_NOOP("Alert")};
+        QT_TR_NOOP("Reg"), QT_TR_NOOP("Address"), QT_TR_NOOP("Number"), QT_TR_NOOP("Alert")};
     static_assert(std::size(titles) == ColumnCount);
     static const char *const explanations[] = {QT_TR_NOOP("Aircraft identification"), QT_TR_NOOP("Mode 3/A code"),
         QT_TR_NOOP("Flight level and vertical trend"), QT_TR_NOOP("Ground speed, knots"),
         QT_TR_NOOP("Track over ground, degrees"), QT_TR_NOOP("Vertical rate, feet per minute"),
-        QT_TR_NOOP("What sees the track"), QT_TR_NOOP("Life state"), QT_TR_NOOP("24-bit aircraft address"),
+        QT_TR_NOOP("What sees the track"), QT_TR_NOOP("Life state"),
+        QT_TR_NOOP("Country of registration, by the aircraft address"), QT_TR_NOOP("24-bit aircraft address"),
         QT_TR_NOOP("Track number"), QT_TR_NOOP("Active safety-net alerts")};
     static_assert(std::size(explanations) == ColumnCount);
     if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount) {
@@ -159,14 +136,48 @@ QVariant TrackListModel::headerData(int section, Qt::Orientation orientation, in
 QStringList TrackListModel::widestTexts()
 {
     return {"WWWW9999", "7777GS", QString("000%1").arg(QChar(0x2191)), "9999", "360", "-9999", tr("SDPS Mode S"),
-        tr("Terminated"), "AAAAAA", "99999", "MSAW STCA"};
+        tr("Terminated"), "WWWWW", "AAAAAA", "99999", "MSAW STCA"};
+}
+
+TrackListEntry TrackListModel::entryFor(const TrackSnapshot &track) const
+{
+    TrackListEntry entry;
+    entry.incarnationId = track.incarnationId;
+    entry.callsign = track.callsignValid ? track.callsign : QString();
+    entry.squawk = track.modeACodeValid ? track.modeAString : QString();
+    entry.icaoAddr = track.icaoAddrValid ? track.icaoAddrString : QString();
+    if (track.icaoAddrValid) {
+        const auto info = m_addresses.getICAOAddrInfo(korvane::airdb::ICAOAddr(track.icaoAddr));
+        entry.country = info.country().isoCode2();
+        entry.countryName = info.country().name();
+    }
+    if (track.levelValid) {
+        entry.level = track.level / 100;
+    }
+    entry.verticalTrend = track.verticalTrend;
+    if (track.groundSpeedValid) {
+        entry.groundSpeed = static_cast<int>(std::lround(track.groundSpeed));
+    }
+    if (track.headingValid) {
+        const long degrees = std::lround(track.heading) % 360;
+        entry.heading = static_cast<int>(degrees > 0 ? degrees : degrees + 360);
+    }
+    if (track.verticalRateValid) {
+        entry.verticalRate = track.verticalRate;
+    }
+    entry.type = track.type;
+    entry.state = track.state;
+    entry.trackNumber = track.trackNumber;
+    entry.alerts = track.alertsString;
+    return entry;
 }
 
 void TrackListModel::setTracks(const QList<TrackSnapshot> &tracks)
 {
     std::vector<TrackListEntry> entries;
     entries.reserve(static_cast<std::size_t>(tracks.size()));
-    std::transform(tracks.cbegin(), tracks.cend(), std::back_inserter(entries), entryFor);
+    std::transform(tracks.cbegin(), tracks.cend(), std::back_inserter(entries),
+        [this](const TrackSnapshot &track) { return entryFor(track); });
     replaceRecords(std::move(entries), &TrackListEntry::incarnationId);
 }
 
@@ -182,6 +193,8 @@ QString TrackListModel::text(const TrackListEntry &entry, int column) const
         return entry.callsign;
     case Squawk:
         return entry.squawk;
+    case Country:
+        return entry.country;
     case IcaoAddr:
         return entry.icaoAddr;
     case Level:
@@ -234,4 +247,16 @@ QVariant TrackListModel::foreground(const TrackListEntry &entry) const
         return QBrush(quietTextColor(QGuiApplication::palette()));
     }
     return {};
+}
+
+QVariant TrackListModel::flag(const TrackListEntry &entry) const
+{
+    if (entry.country.isEmpty()) {
+        return {};
+    }
+    auto found = m_flags.find(entry.country);
+    if (found == m_flags.end()) {
+        found = m_flags.insert(entry.country, QPixmap(QString(":/flags/%1.png").arg(entry.country.toLower())));
+    }
+    return found->isNull() ? QVariant() : QVariant(*found);
 }

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "airdb/icao_addr_dictionary.h"
 #include "tracking/track_snapshot.h"
 #include "ui/record_table_model.h"
 
 #include <QFont>
+#include <QHash>
+#include <QPixmap>
 #include <QStringList>
 
 // What the list shows of one track. Numbers are held as they are shown, so that a row counts as changed only when its
@@ -13,6 +16,8 @@ struct TrackListEntry {
     QString callsign;
     QString squawk;
     QString icaoAddr;
+    QString country; // of registration, by the address: ISO 3166-1 code of two letters
+    QString countryName;
     std::optional<int> level; // hundreds of feet
     int verticalTrend = 0;
     std::optional<int> groundSpeed; // knots
@@ -40,6 +45,7 @@ public:
         VerticalRate,
         Type,
         State,
+        Country,
         IcaoAddr,
         TrackNumber,
         Alerts,
@@ -55,6 +61,9 @@ public:
     // A text per column that its width should hold.
     static QStringList widestTexts();
 
+    // Where the countries of registration are looked up, from the next tracks on.
+    void setAddresses(const korvane::airdb::ICAOAddrDictionary &addresses) { m_addresses = addresses; }
+
     void setTracks(const QList<TrackSnapshot> &tracks);
     void clear();
 
@@ -64,6 +73,10 @@ private:
     QString text(const TrackListEntry &entry, int column) const;
     QVariant sortValue(const TrackListEntry &entry, int column) const;
     QVariant foreground(const TrackListEntry &entry) const;
+    QVariant flag(const TrackListEntry &entry) const;
+    TrackListEntry entryFor(const TrackSnapshot &track) const;
 
+    korvane::airdb::ICAOAddrDictionary m_addresses;
+    mutable QHash<QString, QPixmap> m_flags; // by country, as they are asked for
     QFont m_figures;
 };

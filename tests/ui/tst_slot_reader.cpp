@@ -1,3 +1,4 @@
+#include "ui/largest_delay.h"
 #include "ui/slot_reader.h"
 
 #include "engine/snapshot_slot.h"
@@ -25,6 +26,19 @@ private Q_SLOTS:
         slot.publish(QSharedPointer<const int>::create(9));
         QCOMPARE(*reader.take(slot), 9);
         QCOMPARE(reader.dropped(), quint64(4));
+    }
+
+    void delaysCrossMidnight()
+    {
+        QCOMPARE(LargestDelay::between(86399.5, 0.2), 700);
+        QCOMPARE(LargestDelay::between(3600.0, 3600.25), 250);
+        LargestDelay delay;
+        const QDateTime noon({2026, 3, 1}, {12, 0}, Qt::UTC);
+        delay.add(-1.0, noon); // a picture without a time
+        QCOMPARE(delay.milliseconds(), 0);
+        delay.add(43199.0, noon);
+        delay.add(43199.9, noon);
+        QCOMPARE(delay.milliseconds(), 1000);
     }
 };
 

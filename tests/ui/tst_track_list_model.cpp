@@ -1,3 +1,4 @@
+#include "airdb/lib_air_db.h"
 #include "tracking/track.h"
 #include "ui/list_sort_model.h"
 #include "ui/list_view.h"
@@ -62,14 +63,21 @@ void TestTrackListModel::showsValues()
     unknown.callsignValid = unknown.modeACodeValid = unknown.levelValid = false;
     unknown.groundSpeedValid = unknown.headingValid = unknown.verticalRateValid = false;
     unknown.type = 99;
+    known.icaoAddr = 0x49F123;
+    known.icaoAddrString = "49F123";
+    known.icaoAddrValid = true;
+    korvane::airdb::LibAirDB database;
+    QVERIFY2(database.loadFromDataFile(QFileInfo(AIRDB_FILE)), qPrintable(database.lastError()));
     TrackListModel model;
+    model.setAddresses(database.getICAOAddrDict());
     model.setTracks({known, unknown});
     const QList<std::pair<int, QString>> texts{{M::Callsign, "VYX12"}, {M::Squawk, "7500G"},
         {M::Level, QString("059") + QChar(0x2193)}, {M::GroundSpeed, "452"}, {M::Heading, "360"},
-        {M::VerticalRate, "+1250"}, {M::Type, "Mode S+PSR"}, {M::IcaoAddr, ""}};
+        {M::VerticalRate, "+1250"}, {M::Type, "Mode S+PSR"}, {M::Country, "CZ"}, {M::IcaoAddr, "49F123"}};
     for (const auto &[column, text] : texts) {
         QCOMPARE(shown(model, column), QStringList({text, ""}));
     }
+    QCOMPARE(model.index(0, M::Country).data(Qt::ToolTipRole).toString(), QString("Czech Republic"));
 }
 
 void TestTrackListModel::changesOnlyWhatChanged()

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QImage>
+#include <QList>
+#include <QRect>
+#include <QTransform>
+
+class GeoView;
+
+// A picture of a view that is kept while the view stays, and moved along with it.
+class StaticMapPicture {
+public:
+    // To be painted anew.
+    void invalidate() { m_valid = false; }
+
+    // Brings the picture to another view. Returns the parts of the screen that have to be painted: they are transparent
+    // now. Logical pixels.
+    QList<QRect> turnTo(const GeoView &view);
+
+    const QImage &image() const { return m_image; }
+    QImage &image() { return m_image; }
+
+private:
+    bool findShift(const GeoView &view, QPoint &shift) const;
+    QList<QRect> move(const QRect &screen, const QPoint &shift);
+
+    bool m_valid = false;
+    QTransform m_transform; // of the view that it shows
+    QImage m_image;
+    QImage m_spare;
+};

@@ -1,0 +1,74 @@
+#include "maps/map_xml_reader.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+constexpr qint64 CharactersPerStep = 65536;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("MapXmlReader", text);
+}
+
+} // namespace
+
+QXmlStreamReader::TokenType MapXmlReader::next()
+{
+    if (m_xml.atEnd())
+        return QXmlStreamReader::Invalid;
+    const auto token = m_xml.readNext();
+    if (token == QXmlStreamReader::StartElement)
+        ++m_depth;
+    else if (token == QXmlStreamReader::EndElement)
+        --m_depth;
+    check();
+    return m_xml.hasError() ? QXmlStreamReader::Invalid : m_xml.tokenType();
+}
+
+void MapXmlReader::check()
+{
+    if (m_depth > MaxDepth)
+        m_xml.raiseError(tr("Elements are nested too deeply."));
+    else if (m_xml.isDTD() && m_xml.text().contains(QLatin1Char('[')))
+        m_xml.raiseError(tr("Definitions of entities are not read."));
+    if (!m_step || m_xml.characterOffset() - m_lastStep < CharactersPerStep)
+        return;
+    m_lastStep = m_xml.characterOffset();
+    if (!m_step(m_lastStep))
+        m_xml.raiseError(QString());
+}
+
+bool MapXmlReader::nextChild()
+{
+    for (;;) {
+        switch (next()) {
+        case QXmlStreamReader::StartElement:
+            return true;
+        case QXmlStreamReader::EndElement:
+        case QXmlStreamReader::EndDocument:
+        case QXmlStreamReader::Invalid:
+            return false;
+        default:
+            break;
+        }
+    }
+}
+
+QString MapXmlReader::text()
+{
+    const int depth = m_depth;
+    QString text;
+    for (auto token = next(); token != QXmlStreamReader::Invalid && m_depth >= depth; token = next()) {
+        const bool readable = token == QXmlStreamReader::Characters || token == QXmlStreamReader::EntityReference;
+        if (readable && m_depth == depth)
+            text += m_xml.text();
+    }
+    return text;
+}
+
+void MapXmlReader::finish()
+{
+    while (next() != QXmlStreamReader::Invalid)
+        continue;
+}

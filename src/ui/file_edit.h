@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QWidget>
+
+class QLineEdit;
+
+// A line edit for the path of an existing file, with a button that opens the file dialog.
+class FileEdit final : public QWidget {
+    Q_OBJECT
+
+public:
+    // Title and name filter of the dialog.
+    FileEdit(const QString &title, const QString &filter, QWidget *parent = nullptr);
+
+    // With the separators of Qt.
+    QString path() const;
+    void setPath(const QString &path);
+    // The folder that the dialog begins in while the path is relative.
+    void setBaseDir(const QString &dir) { m_baseDir = dir; }
+
+private:
+    void browse();
+
+    QString m_title;
+    QString m_filter;
+    QString m_baseDir;
+    QLineEdit *m_edit = nullptr;
+};

@@ -1,0 +1,139 @@
+#include "vyx-map/convert_command.h"
+#include "vyx-map/info_command.h"
+
+#include "maps/map_index.h"
+#include "maps/map_style_sheet.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+class TestVyxMap : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+    QStringList m_out;
+    QStringList m_err;
+
+    // The exit status of a command line; 2 where it makes no sense.
+    int run(const QStringList &arguments)
+    {
+        m_out.clear();
+        m_err.clear();
+        CommandLine command;
+        QString error;
+        if (!CommandLine::parse(arguments, command, error)) {
+            m_err.append(error);
+            return 2;
+        }
+        const LineSink out = [this](const QString &line) { m_out.append(line.simplified()); };
+        const LineSink err = [this](const QString &line) { m_err.append(line); };
+        return command.verb == CommandLine::Verb::Info ? runInfo(command, {}, out, err) : runConvert(command, {}, err);
+    }
+
+    QString written(const QString &name, const QByteArray &contents)
+    {
+        QFile file(m_folder.filePath(name));
+        return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() ? file.fileName() : QString();
+    }
+
+    static MapData readMap(const QString &name, MapFile::Format format)
+    {
+        const auto file = MapFile::create(format);
+        return file->open(QFileInfo(name), format, QIODevice::ReadOnly) ? file->read() : MapData();
+    }
+
+private Q_SLOTS:
+    void refusesArguments_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("error"); // part of it
+        QTest::newRow("nothing") << QStringList{} << "--help";
+        QTest::newRow("unknown suffix") << QStringList{"info", "a.txt"} << "--from";
+        QTest::newRow("option of convert") << QStringList{"info", "--tolerance", "5", "a.kml"} << "unknown option";
+        QTest::newRow("no output") << QStringList{"convert", "a.map"} << "a file to write";
+        QTest::newRow("read only") << QStringList{"convert", "a.map", "b.mapx"} << "no format \"legacy\"";
+        QTest::newRow("system") << QStringList{"info", "a.kml", "--epsg", "WGS84"} << "reference system";
+        QTest::newRow("no value") << QStringList{"info", "a.kml", "--layer"} << "needs a value";
+    }
+
+    void refusesArguments()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, error);
+        QCOMPARE(run(arguments), 2);
+        QVERIFY2(m_err.value(0).contains(error), qPrintable(m_err.value(0)));
+    }
+
+    void convertsBetweenFormats()
+    {
+        const QString legacy = written("old.mapx", R"(<airport><default title="Old" edition="3"/>
+            <line class="coast" comment="north"><point lat="50" lon="14"/><point lat="51" lon="15"/></line>
+            <label class="fix" name="VLM" content="Vlasim" lat="49.5" lon="15"/></airport>)");
+        const QString binary = m_folder.filePath("new.map");
+        const QString xml = m_folder.filePath("new.xml");
+        QCOMPARE(run({"convert", legacy, binary}), 0);
+        QCOMPARE(run({"convert", binary, xml}), 0);
+        const MapData map = readMap(binary, MapFile::Map);
+        QCOMPARE(map.title, "Old");
+        QCOMPARE(map.groups.size(), 2);
+        QCOMPARE(readMap(xml, MapFile::Xml), map);
+
+        QCOMPARE(run({"info", binary}), 0);
+        for (const char *line : {"format map", "title Old", "version 3", "bounds 493000N0140000E to 510000N0150000E",
+                 "coast coast 1 0 2 0 0 0", "fix fix 0 0 0 0 1 0"})
+            QVERIFY2(m_out.contains(line), qPrintable(m_out.join('\n')));
+    }
+
+    void importsWithOptions()
+    {
+        const QString file = written("town.geojson", R"({"type":"Feature","properties":{"title":"Praha"},
+            "geometry":{"type":"Point","coordinates":[14.4,50.1]}})");
+        const QString out = m_folder.filePath("town.xml");
+        const int status = run({"convert", "--class", "town", "--name-property", "x,title", "--symbol", "square",
+            "--no-labels", "--to", "xml", file, out});
+        if (!MapImport::available()) {
+            QCOMPARE(status, 1);
+            QVERIFY(m_err.join(' ').contains(MapImport::missingText()));
+            return;
+        }
+        QCOMPARE(status, 0);
+        const MapElementGroup group = readMap(out, MapFile::Xml).groups.value(0);
+        QCOMPARE(group.className, "town");
+        QCOMPARE(group.symbols, (QList<MapSymbolElement>{{"Praha", "square", {50.1, 14.4}}}));
+        QVERIFY(group.labels.isEmpty());
+    }
+
+    void saysWhatIsWrong()
+    {
+        QCOMPARE(run({"info", m_folder.filePath("absent.map")}), 1);
+        QVERIFY(m_err.value(0).contains("does not exist"));
+        const QString xml = written("images.xml",
+            R"(<map><group name="g" class="c"><image name="i"><file>absent.png</file></image></group></map>)");
+        QCOMPARE(run({"info", xml}), 0);
+        QCOMPARE(m_out.last(), "missing image: absent.png");
+        QCOMPARE(run({"convert", xml, m_folder.filePath("no/such/folder.map")}), 1);
+        QCOMPARE(m_err.size(), 2); // about the image and about the folder
+    }
+
+    void defaultMapsAreWhole()
+    {
+        const QDir folder(MAPS_FOLDER);
+        QString error;
+        const QList<MapIndexEntry> index = readMapIndex(folder.filePath("map.idx"), &error);
+        QVERIFY2(index.size() >= 2, qPrintable(error));
+        for (const char *sheetName : {"style.mss", "style-dark.mss", "style-light.mss"}) {
+            MapStyleSheet sheet;
+            QVERIFY2(sheet.load(folder.filePath(sheetName), &error), qPrintable(error));
+            for (const MapIndexEntry &entry : index) {
+                const MapData map = readMap(folder.filePath(entry.file), entry.format);
+                QVERIFY2(!map.groups.isEmpty(), qPrintable(entry.file));
+                for (const MapElementGroup &group : map.groups)
+                    QVERIFY2(sheet.contains(group.className), qPrintable(group.className));
+            }
+        }
+    }
+};
+
+QTEST_MAIN(TestVyxMap)
+#include "tst_vyx_map.moc"

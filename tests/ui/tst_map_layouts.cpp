@@ -1,0 +1,191 @@
+#include "window_fixture.h"
+
+#include "display/geo_widget.h"
+#include "maps/map_library.h"
+#include "tracking/radar_sensor_info.h"
+#include "ui/actions.h"
+#include "ui/layout_save_window.h"
+#include "ui/log_pane.h"
+#include "ui/sensor_manager_window.h"
+#include "ui/static_maps_window.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QMenu>
+#include <QSettings>
+#include <QSignalSpy>
+
+// Layouts of the view and static maps, as the main window keeps them from run to run.
+class TestMapLayouts : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_fixture = std::make_unique<WindowFixture>(); }
+    void nameIsLookedAt();
+    void currentLayoutComesBack();
+    void menuFollowsTheLayouts();
+    void mapsAreLoadedAndToggled();
+
+private:
+    static QAction *action(const MainWindow &window, ActionId id) { return (*window.findChild<Actions *>())[id]; }
+    static QMenu *menu(const MainWindow &window) { return action(window, ActionId::LoadLayout)->menu(); }
+    // The names in the menu, the current one in brackets.
+    static QString names(const MainWindow &window);
+    static void choose(const MainWindow &window, const QString &name);
+    static void saveLayout(MainWindow &window, const QString &name, bool makeCurrent = true);
+
+    std::unique_ptr<WindowFixture> m_fixture;
+};
+
+QString TestMapLayouts::names(const MainWindow &window)
+{
+    QStringList list;
+    for (const QAction *entry : menu(window)->actions()) {
+        if (entry->isCheckable()) {
+            const QString name = entry->data().toString();
+            list.append(entry->isChecked() ? '[' + name + ']' : name);
+        }
+    }
+    return list.join(' ');
+}
+
+void TestMapLayouts::choose(const MainWindow &window, const QString &name)
+{
+    for (QAction *entry : menu(window)->actions()) {
+        if (entry->isCheckable() && entry->data().toString() == name) {
+            entry->trigger();
+            return;
+        }
+    }
+    QFAIL("there is no such layout");
+}
+
+void TestMapLayouts::saveLayout(MainWindow &window, const QString &name, bool makeCurrent)
+{
+    window.showLayoutSaveWindow();
+    auto *dialog = window.findChild<LayoutSaveWindow *>();
+    dialog->setReplaceQuestion([](const QString &) { return true; });
+    dialog->setName(name);
+    dialog->findChild<QCheckBox *>("makeCurrent")->setChecked(makeCurrent);
+    dialog->accept();
+    QTest::qWait(0); // it is deleted
+}
+
+void TestMapLayouts::nameIsLookedAt()
+{
+    struct Entry {
+        QString typed;
+        bool replace;
+        QString saved; // empty: refused
+    };
+    for (const Entry &entry : {Entry{"", true, ""}, Entry{"  ", true, ""}, Entry{"default", true, ""},
+             Entry{" Default", true, "Default"}, Entry{"old", false, ""}, Entry{"old ", true, "old"}}) {
+        LayoutSaveWindow window({"old"});
+        window.setReplaceQuestion([&entry](const QString &) { return entry.replace; });
+        const QSignalSpy named(&window, &LayoutSaveWindow::layoutNamed);
+        window.show();
+        window.findChild<QLineEdit *>("layoutName")->setText(entry.typed);
+        window.accept();
+        QCOMPARE(named.value(0).value(0).toString(), entry.saved);
+        QCOMPARE(window.isVisible(), entry.saved.isEmpty());
+    }
+}
+
+void TestMapLayouts::currentLayoutComesBack()
+{
+    const auto run = [](const std::function<void(MainWindow &)> &work) {
+        const auto window = WindowFixture::makeWindow();
+        work(*window);
+        QVERIFY(WindowFixture::close(*window));
+    };
+    run([](MainWindow &window) {
+        QCOMPARE(names(window), "[default]");
+        window.geoWidget()->setView(1e6, 5e6, 250.0);
+        window.geoWidget()->rotate(30.0);
+        saveLayout(window, "north");
+        window.geoWidget()->setView(0.0, 0.0, 1000.0);
+    });
+    run([](MainWindow &window) {
+        QCOMPARE(names(window), "default [north]");
+        QVERIFY(std::abs(window.geoWidget()->currentZoom() - 250.0) < 0.01);
+        QVERIFY(std::abs(window.geoWidget()->currentRotation() - 30.0) < 0.01);
+        choose(window, "default");
+        QCOMPARE(names(window), "[default] north");
+        QVERIFY(std::abs(window.geoWidget()->currentZoom() - 330.873) < 0.01);
+        window.geoWidget()->setView(2e6, 3e6, 77.0);
+    });
+    run([](MainWindow &window) {
+        QCOMPARE(names(window), "[default] north");
+        QVERIFY2(std::abs(window.geoWidget()->currentZoom() - 77.0) < 0.01, "the view begins where it was left");
+    });
+}
+
+void TestMapLayouts::menuFollowsTheLayouts()
+{
+    const auto window = WindowFixture::makeWindow();
+    saveLayout(*window, "b");
+    saveLayout(*window, "a & c", false);
+    QCOMPARE(names(*window), "default a & c [b]");
+    choose(*window, "a & c");
+    QCOMPARE(names(*window), "default [a & c] b");
+    const QMenu *removal = menu(*window)->findChild<QMenu *>();
+    QCOMPARE(removal->actions().size(), 2);
+    removal->actions().first()->trigger();
+    QCOMPARE(names(*window), "[default] b");
+    const QSettings file(AppPaths::configFile("layout"), QSettings::IniFormat);
+    QCOMPARE(file.value("defaultLayout").toString(), "default");
+    QCOMPARE(file.value("layouts/size").toInt(), 1);
+
+    choose(*window, "b");
+    window->launchSensorManager();
+    Q_EMIT window->findChild<SensorManagerWindow *>()->sensorChosen(QSharedPointer<RadarSensorInfo>::create());
+    QCOMPARE(names(*window), "[default] b"); // which was made for the place of the one before
+}
+
+void TestMapLayouts::mapsAreLoadedAndToggled()
+{
+    const QTemporaryDir maps;
+    const auto write = [&maps](const char *name, const QByteArray &contents) {
+        QFile file(maps.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+    };
+    write("good.xml", "<map><data><group class='land'/></data></map>");
+    write("bad.xml", "<map><data");
+    write("map.idx", "<index><file>bad.xml</file><file>good.xml</file></index>");
+    write("style.mss", "<map><style><class name='land'/></style></map>");
+    Config config;
+    config.load(AppPaths::configFile());
+    config.mapIndex = maps.filePath("map.idx");
+    config.mapStyleSheet = maps.filePath("style.mss");
+    config.save(AppPaths::configFile());
+
+    const auto window = WindowFixture::makeWindow();
+    const auto *library = window->findChild<MapLibrary *>();
+    QTRY_VERIFY(!library->loading());
+    QVERIFY(!library->maps().at(0).data && library->maps().at(1).data);
+    QVERIFY(library->styleSheet().contains("land"));
+    const QString log = window->findChild<LogPane *>()->toPlainText();
+    QVERIFY(log.contains("bad.xml") && !log.contains("good.xml"));
+    QVERIFY(log.contains("Loading stylesheet: " + maps.filePath("style.mss")));
+
+    QAction *toggle = action(*window, ActionId::ToggleStaticMaps);
+    QVERIFY(toggle->isChecked());
+    toggle->trigger();
+    Config saved;
+    saved.load(AppPaths::configFile());
+    QVERIFY(!saved.mapStaticVisible);
+
+    window->showMapWindow();
+    auto *list = window->findChild<StaticMapsWindow *>();
+    list->addFiles({maps.filePath("new.xml")});
+    list->setUnsavedQuestion([] { return QMessageBox::Cancel; });
+    window->close();
+    QTest::qWait(50);
+    QVERIFY2(window->isVisible() && list->isVisible(), "unsaved changes are not lost");
+}
+
+QTEST_MAIN(TestMapLayouts)
+#include "tst_map_layouts.moc"

@@ -1,0 +1,292 @@
+#include "ui/static_maps_window.h"
+
+#include "app/app_identity.h"
+#include "app/app_paths.h"
+#include "map_import/map_import.h"
+#include "maps/map_library.h"
+#include "ui/map_conversion.h"
+#include "ui/map_places.h"
+#include "ui/static_maps_model.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+
+using Column = StaticMapsModel::Column;
+
+// The list of static maps, over files of its own.
+class TestStaticMapsWindow : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void editsInPlace_data();
+    void editsInPlace();
+    void reordersAndRemoves();
+    void drags();
+    void saysWhatFailed();
+    void addsFiles();
+    void asksBeforeChangesAreLost();
+    void goesToAMap();
+    void installedIndexIsCopied();
+    void convertsForeignFiles();
+
+private:
+    QString path(const QString &name) const { return m_directory->filePath(name); }
+    void write(const QString &name, const QByteArray &contents) const;
+    void writeMap(const QString &name, const QByteArray &points) const;
+    QString order() const;
+    QTableView *table() const { return m_window->findChild<QTableView *>(); }
+    QPushButton *button(const char *name) const { return m_window->findChild<QPushButton *>(name); }
+    StaticMapsModel *model() const { return m_window->findChild<StaticMapsModel *>(); }
+    QModelIndex cell(int row, int column) const { return model()->index(row, column); }
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    std::unique_ptr<MapLibrary> m_library;
+    std::unique_ptr<StaticMapsWindow> m_window;
+};
+
+void TestStaticMapsWindow::initTestCase()
+{
+    setApplicationIdentity();
+}
+
+// Maps a, b and c.
+void TestStaticMapsWindow::init()
+{
+    m_directory = std::make_unique<QTemporaryDir>();
+    qputenv("XDG_CONFIG_HOME", path("home").toUtf8());
+    qputenv("XDG_DATA_HOME", path("home").toUtf8());
+    for (const char *name : {"a.xml", "b.xml", "c.xml"}) {
+        writeMap(name, "<coordinate>480000N0160000E</coordinate>");
+    }
+    write("map.idx", "<index><file maxzoom='50'>a.xml</file><file>b.xml</file><file>c.xml</file></index>");
+    m_library = std::make_unique<MapLibrary>();
+    m_library->openIndex(path("map.idx"));
+    QTRY_VERIFY(!m_library->loading());
+    m_window = std::make_unique<StaticMapsWindow>(m_library.get());
+    m_window->setUnsavedQuestion([] { return QMessageBox::Discard; });
+    m_window->show();
+}
+
+void TestStaticMapsWindow::cleanup()
+{
+    m_window.reset();
+    m_library.reset();
+}
+
+void TestStaticMapsWindow::write(const QString &name, const QByteArray &contents) const
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(contents);
+}
+
+void TestStaticMapsWindow::writeMap(const QString &name, const QByteArray &points) const
+{
+    write(name, "<map><data><group class='c'><polyline>" + points + "</polyline></group></data></map>");
+}
+
+QString TestStaticMapsWindow::order() const
+{
+    QString names;
+    for (const MapLibrary::Map &map : m_library->maps()) {
+        names += QFileInfo(map.path).completeBaseName();
+    }
+    return names;
+}
+
+void TestStaticMapsWindow::editsInPlace_data()
+{
+    MapIndexEntry before;
+    before.file = "a.xml";
+    before.maxZoom = 50;
+    const auto with = [&before](auto change) {
+        MapIndexEntry entry = before;
+        change(entry);
+        return entry;
+    };
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<MapIndexEntry>("expected"); // the one before where the value is refused
+    const auto row = [](const char *name, int column, const QVariant &value, const MapIndexEntry &expected) {
+        QTest::newRow(name) << column << value << expected;
+    };
+    row("priority", Column::Priority, " -5 ", with([](auto &entry) { entry.priority = -5; }));
+    row("a priority is a number", Column::Priority, "high", before);
+    row("one of the range's ends", Column::MinZoom, "50", with([](auto &entry) { entry.minZoom = 50; }));
+    row("no empty range", Column::MinZoom, "51", before);
+    row("no negative scale", Column::MinZoom, "-1", before);
+    row("no number beyond all numbers", Column::MinZoom, "99999999999", before);
+    row("no limit", Column::MaxZoom, "", with([](auto &entry) { entry.maxZoom.reset(); }));
+    row("format", Column::Format, MapFile::Xml, with([](auto &entry) { entry.format = MapFile::Xml; }));
+    row("the file itself stays", Column::File, "b.xml", before);
+}
+
+void TestStaticMapsWindow::editsInPlace()
+{
+    QFETCH(int, column);
+    QFETCH(QVariant, value);
+    QFETCH(MapIndexEntry, expected);
+    const MapIndexEntry before = m_library->maps().first().entry;
+    const QString details = m_window->findChild<QLabel *>("details")->text();
+    QCOMPARE(model()->setData(cell(0, column), value, Qt::EditRole), expected != before);
+    QCOMPARE(m_library->maps().first().entry, expected);
+    QCOMPARE(button("saveButton")->isEnabled(), expected != before);
+    const bool explained = m_window->findChild<QLabel *>("details")->text() != details;
+    QCOMPARE(explained, expected == before && column != Column::File);
+}
+
+void TestStaticMapsWindow::reordersAndRemoves()
+{
+    QVERIFY(model()->setData(cell(1, Column::Title), Qt::Unchecked, Qt::CheckStateRole));
+    QVERIFY(!m_library->maps().at(1).visible() && !button("upButton")->isEnabled());
+    button("downButton")->click();
+    button("downButton")->click();
+    QVERIFY2(order() == "bca" && !button("downButton")->isEnabled(), "the moved map stays selected");
+    button("upButton")->click();
+    QCOMPARE(order(), "bac");
+    button("removeButton")->click();
+    QCOMPARE(order(), "bc");
+    button("removeButton")->click();
+    QCOMPARE(order(), "b"); // c came next
+    button("removeButton")->click();
+    QVERIFY(order().isEmpty() && !button("removeButton")->isEnabled() && !button("editButton")->isEnabled());
+}
+
+void TestStaticMapsWindow::drags()
+{
+    struct Drag {
+        int from;
+        int to; // before this row; -1: on the empty ground below
+        QString order;
+    };
+    for (const Drag &drag :
+        {Drag{0, 2, "bac"}, Drag{2, 0, "cba"}, Drag{0, -1, "bac"}, Drag{1, 1, "bac"}, Drag{1, 2, "bac"}}) {
+        const std::unique_ptr<QMimeData> data(model()->mimeData({cell(drag.from, 0)}));
+        QVERIFY(model()->dropMimeData(data.get(), Qt::MoveAction, drag.to, 0, {}));
+        QCOMPARE(order(), drag.order);
+    }
+    QMimeData foreign;
+    foreign.setText("1");
+    QVERIFY(!model()->dropMimeData(&foreign, Qt::MoveAction, 0, 0, {}));
+}
+
+void TestStaticMapsWindow::saysWhatFailed()
+{
+    write("c.xml", "<map><da");
+    m_library->reload(m_library->maps().at(2).id);
+    m_window->selectMap(m_library->maps().at(2).id);
+    QCOMPARE(button("reloadButton")->text().remove('&'), "Cancel Loading");
+    QTRY_VERIFY(!m_library->loading());
+    QCOMPARE(button("reloadButton")->text().remove('&'), "Reload");
+    const QString error = m_library->maps().at(2).error;
+    QVERIFY(!error.isEmpty() && m_window->findChild<QLabel *>("details")->text().contains(error.toHtmlEscaped()));
+    QVERIFY(cell(2, Column::State).data(Qt::ToolTipRole).toString().contains(error));
+    m_window->selectMap(m_library->maps().at(0).id);
+    QVERIFY(!m_window->findChild<QLabel *>("details")->text().contains(error.toHtmlEscaped()));
+}
+
+void TestStaticMapsWindow::addsFiles()
+{
+    const QTemporaryDir elsewhere;
+    QVERIFY(QFile::copy(path("a.xml"), elsewhere.filePath("e.xml")) && QDir(path(".")).mkdir("sub"));
+    writeMap("sub/d.xml", "");
+    m_window->addFiles({path("sub/d.xml"), elsewhere.filePath("e.xml"), path("sub/../b.xml")});
+    QCOMPARE(order(), "abcde");
+    QCOMPARE(m_library->maps().at(3).entry.file, "sub/d.xml");
+    QCOMPARE(m_library->maps().at(4).entry.file, elsewhere.filePath("e.xml"));
+    QCOMPARE(m_window->selectedMap(), m_library->maps().at(1).id); // it was there already
+    QVERIFY(m_window->save() && !button("saveButton")->isEnabled());
+}
+
+void TestStaticMapsWindow::asksBeforeChangesAreLost()
+{
+    int asked = 0;
+    QMessageBox::StandardButton answer = QMessageBox::Cancel;
+    m_window->setUnsavedQuestion([&] {
+        ++asked;
+        return answer;
+    });
+    button("downButton")->click();
+    QVERIFY(!m_window->close());
+    answer = QMessageBox::Discard;
+    QVERIFY(m_window->close());
+    QCOMPARE(order(), "abc");
+    answer = QMessageBox::Save;
+    m_window->show();
+    button("downButton")->click();
+    QVERIFY(m_window->close());
+    QCOMPARE(readMapIndex(path("map.idx"), nullptr).first().file, "b.xml");
+    m_window->show();
+    QVERIFY(m_window->close());
+    QCOMPARE(asked, 3);
+}
+
+void TestStaticMapsWindow::goesToAMap()
+{
+    writeMap("b.xml",
+        "<coordinate>100000N1780000E</coordinate><coordinate>200000N1760000W</coordinate>"
+        "<coordinate>nowhere</coordinate>");
+    writeMap("c.xml", "<coordinate>nowhere</coordinate>");
+    QTRY_COMPARE(m_library->maps().at(1).revision, 2u);
+    QTRY_COMPARE(m_library->maps().at(2).revision, 2u);
+    const QSignalSpy center(m_window.get(), &StaticMapsWindow::centerRequested);
+    for (const int row : {1, 2}) {
+        Q_EMIT table()->doubleClicked(cell(row, Column::File));
+    }
+    QCOMPARE(center.size(), 1);
+    QCOMPARE(center.first().first().value<GeoCoordinate>().toATCString(), "150000N1790000W");
+}
+
+void TestStaticMapsWindow::installedIndexIsCopied()
+{
+    const QString installed = MapPlaces::installedDir() + "/map.idx";
+    QCOMPARE(MapPlaces::resolve("map.idx"), installed);
+    QCOMPARE(MapPlaces::resolve("none.idx"), AppPaths::appDataDir() + "/none.idx");
+    const QList<MapIndexEntry> before = readMapIndex(installed, nullptr);
+    m_library->openIndex(installed);
+    m_window->addFiles({path("a.xml")});
+    const QSignalSpy moved(m_window.get(), &StaticMapsWindow::indexFileChanged);
+    QVERIFY(m_window->save());
+    QCOMPARE(readMapIndex(installed, nullptr), before);
+    QCOMPARE(MapPlaces::resolve("map.idx"), m_library->indexFile());
+    const QList<MapIndexEntry> own = readMapIndex(m_library->indexFile(), nullptr);
+    QCOMPARE(own.size(), before.size() + 1);
+    QCOMPARE(own.first().file, MapPlaces::installedDir() + '/' + before.first().file);
+    QVERIFY(m_window->save() && moved.size() == 1);
+}
+
+void TestStaticMapsWindow::convertsForeignFiles()
+{
+    write("fix.geojson",
+        R"({"type": "FeatureCollection", "features": [{"type": "Feature", "properties": {"name": "ABC"},
+            "geometry": {"type": "Point", "coordinates": [16.0, 48.0]}}]})");
+    write("bad.geojson", "{");
+    using Files = std::pair<QString, QString>;
+    for (const auto &[source, target] : {Files("fix.geojson", "fix.map"), Files("bad.geojson", "bad.map"),
+             Files("fix.geojson", "no/folder/fix.map"), Files("fix.geojson", "fix.png")}) {
+        MapConversion conversion;
+        const QSignalSpy finished(&conversion, &MapConversion::finished);
+        conversion.start(path(source), path(target));
+        QTRY_COMPARE(finished.size(), 1);
+        const bool converts = target == "fix.map" && MapImport::available();
+        QCOMPARE(finished.first().at(1).toString().isEmpty(), converts);
+        QCOMPARE(QFile::exists(path(target)), converts);
+        conversion.start(path(source), path(target));
+        conversion.cancel();
+        QTest::qWait(20);
+        QCOMPARE(finished.size(), 1);
+    }
+}
+
+QTEST_MAIN(TestStaticMapsWindow)
+#include "tst_static_maps_window.moc"
