@@ -15,11 +15,17 @@
 
 namespace {
 
-constexpr qsizetype PointsAtOnce = 20000; // prepared in some milliseconds
+constexpr qsizetype PointsAtOnce = 5000; // prepared in a few milliseconds
 constexpr int SmallestSymbol = 4; // pixels
 constexpr int LargestSymbol = 256;
 constexpr std::size_t MostWidePoints = 30000; // of lines wider than a pixel, in a region that is not crowded
 constexpr double WidestElement = 512.0; // pixels that labels, symbols or wide lines may reach beyond their points
+
+// A map that is being loaded changes often without anything to be seen.
+bool looksTheSame(const MapLibrary::Map &one, const MapLibrary::Map &other)
+{
+    return one.id == other.id && one.data == other.data && one.revision == other.revision && one.entry == other.entry;
+}
 
 // Of lines and edges, in the plane's own copy of the world.
 std::size_t pointsIn(const StaticMapGroup &group, const PlaneBox &box, double metresPerPixel)
@@ -76,7 +82,10 @@ void GeoStaticMap::setStyleSheet(const MapStyleSheet &sheet)
 
 void GeoStaticMap::setMaps(const QList<MapLibrary::Map> &maps)
 {
+    const bool same = std::equal(maps.begin(), maps.end(), m_maps.begin(), m_maps.end(), looksTheSame);
     m_maps = maps;
+    if (same)
+        return;
     QSet<quint64> present;
     for (const MapLibrary::Map &map : maps) {
         if (!map.data)

@@ -8,7 +8,7 @@ namespace {
 constexpr std::string_view StartTag = "<coordinate>";
 constexpr std::string_view EndTag = "</coordinate>";
 constexpr std::string_view Target = "vyx-coordinate-run";
-constexpr qsizetype ShortestRun = 4; // shorter ones cost the reader as much as the instruction
+constexpr qsizetype ShortestRun = 2; // one costs the reader as much as the instruction
 
 bool isCoordinateCharacter(char character)
 {

@@ -98,7 +98,7 @@ MapData LegacyMapFile::readFile()
 {
     m_file.seek(0);
     MapXmlReader xml(&m_file);
-    xml.setStep([this](qint64) { return reportProgress(); });
+    xml.setStep([this](qint64 characters) { return reportProgress(characters); });
     const bool valid = xml.nextChild() && xml.name() == QLatin1String("airport");
     GroupedMap grouped;
     while (valid && xml.nextChild())

@@ -70,10 +70,8 @@ protected:
     virtual MapData readFile() = 0;
     virtual bool writeFile(const MapData &map) = 0;
 
-    // Octets of the file that have been read: by default, how far its device is. False, with the last error set, when
-    // the reading is to end.
+    // False, with the last error set, when the reading is to end.
     bool reportProgress(qint64 octetsRead);
-    bool reportProgress() { return reportProgress(m_file.pos()); }
 
     // Where to write.
     QFileDevice &output();

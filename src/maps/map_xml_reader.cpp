@@ -1,6 +1,11 @@
 #include "maps/map_xml_reader.h"
 
+#include "maps/map_file.h"
+
 #include <QCoreApplication>
+#include <QIODevice>
+
+#include <algorithm>
 
 namespace {
 
@@ -11,7 +16,48 @@ QString tr(const char *text)
     return QCoreApplication::translate("MapXmlReader", text);
 }
 
+bool isBlankOrZero(char octet) // zeros: of texts of two octets a character
+{
+    return octet == ' ' || octet == '\t' || octet == '\n' || octet == '\r' || octet == '\0';
+}
+
+// How much of the document comes before the first element of too many attributes. An XML reader compares each attribute
+// with all others and would be busy for hours.
+qsizetype readableSize(const QByteArray &document)
+{
+    qsizetype element = 0;
+    int attributes = 0;
+    for (auto at = document.cbegin(); at != document.cend(); ++at) {
+        if (*at == '<') {
+            element = at - document.cbegin();
+            attributes = 0;
+        } else if (*at == '=') {
+            const auto value = std::find_if_not(at + 1, document.cend(), isBlankOrZero);
+            attributes += value != document.cend() && (*value == '"' || *value == '\'');
+            if (attributes > MapXmlReader::MaxAttributes)
+                return element;
+        }
+    }
+    return document.size();
+}
+
 } // namespace
+
+MapXmlReader::MapXmlReader(QIODevice *device) : MapXmlReader(device->read(MapFile::MaxFileSize)) { }
+
+MapXmlReader::MapXmlReader(const QByteArray &document)
+{
+    const qsizetype size = readableSize(document);
+    m_cut = size < document.size();
+    m_xml.addData(document.left(size));
+}
+
+QString MapXmlReader::errorString() const
+{
+    return m_cut && m_xml.error() == QXmlStreamReader::PrematureEndOfDocumentError
+        ? tr("An element has too many attributes.")
+        : m_xml.errorString();
+}
 
 QXmlStreamReader::TokenType MapXmlReader::next()
 {

@@ -8,17 +8,19 @@
 
 class QIODevice;
 
-// Reads the XML files of this folder, which may come from anywhere: what would cost far more memory than the file is
-// long (elements nested deeper than MaxDepth, document types with an internal subset) is an error of the document, and
-// nothing recurses with it.
+// Reads the XML files of this folder, which may come from anywhere: what would cost far more memory or time than the
+// file is long (elements nested deeper than MaxDepth or with more than MaxAttributes, document types with an internal
+// subset) is an error of the document, and nothing recurses with it.
 class MapXmlReader {
 public:
     static constexpr int MaxDepth = 256;
+    static constexpr int MaxAttributes = 256;
     // Called about every 64 KiB with the characters read so far; false ends the reading with an error.
     using Step = std::function<bool(qint64 charactersRead)>;
 
-    explicit MapXmlReader(QIODevice *device) : m_xml(device) { }
-    explicit MapXmlReader(const QByteArray &document) : m_xml(document) { }
+    // Reads what the device has at once, up to the size of the largest map file.
+    explicit MapXmlReader(QIODevice *device);
+    explicit MapXmlReader(const QByteArray &document);
 
     void setStep(Step step) { m_step = std::move(step); }
 
@@ -41,9 +43,8 @@ public:
 
     void raiseError(const QString &text) { m_xml.raiseError(text); }
     bool hasError() const { return m_xml.hasError(); }
-    QString errorString() const { return m_xml.errorString(); }
+    QString errorString() const;
     qint64 lineNumber() const { return m_xml.lineNumber(); }
-    qint64 charactersRead() const { return m_xml.characterOffset(); }
 
 private:
     void check();
@@ -52,4 +53,5 @@ private:
     Step m_step;
     qint64 m_lastStep = 0;
     int m_depth = 0;
+    bool m_cut = false; // the document, before an element of too many attributes
 };

@@ -50,7 +50,9 @@ void MainWindow::connectStaticMaps()
             showMapLoadInfo(QFileInfo(map->path), tr("%1 %").arg(map->percent));
         } else if (id == shown) {
             shown = 0;
-            statusBar()->clearMessage();
+            if (map && map->state == MapLibrary::State::Loaded) {
+                statusBar()->clearMessage(); // a failure has a message of its own
+            }
         }
     });
     const auto on = [this](ActionId id, auto slot) { connect((*m_actions)[id], &QAction::triggered, this, slot); };

@@ -105,12 +105,10 @@ void MapConfigPage::load(const Config &config)
 
 bool MapConfigPage::validate()
 {
+    // A file that is missing just now must not keep other settings from being changed; loading it reports the matter.
     bool valid = true;
     for (FileEdit *file : {m_index, m_styleSheet}) {
-        const bool found = QFileInfo(MapPlaces::resolve(file->path())).isFile();
-        // A name without a folder is that of a file still to be made.
-        const bool usable = found || QFileInfo(file->path()).fileName() == file->path();
-        valid &= form()->check(file, !file->path().isEmpty() && usable ? QString() : tr("There is no such file."));
+        valid &= form()->check(file, file->path().isEmpty() ? tr("The name of a file is needed.") : QString());
     }
     return valid;
 }

@@ -334,8 +334,13 @@ void MapEditorDocument::reversePoints(const MapElementRef &ref)
 void MapEditorDocument::movePoint(
     const MapElementRef &ref, qsizetype index, const GeoCoordinate &coordinate, quint64 drag)
 {
-    if (m_store.point(ref, index) != coordinate)
-        push(MapEditorCommands::movePoint(m_store, ref, index, coordinate, drag));
+    const GeoCoordinate former = m_store.point(ref, index);
+    GeoCoordinate moved = coordinate;
+    // Neither a pointer nor a typed position tells of the height.
+    if (moved.type() == QGeoCoordinate::Coordinate2D && former.type() == QGeoCoordinate::Coordinate3D)
+        moved.setAltitude(former.altitude());
+    if (former != moved)
+        push(MapEditorCommands::movePoint(m_store, ref, index, moved, drag));
 }
 
 void MapEditorDocument::putStyle(const MapStyleClass &style)

@@ -72,7 +72,7 @@ public:
     void insertPoints(const MapElementRef &ref, qsizetype at, const QList<GeoCoordinate> &points);
     void removePoints(const MapElementRef &ref, const QList<qsizetype> &indexes);
     void reversePoints(const MapElementRef &ref);
-    // Calls with one drag number above 0 are undone together.
+    // Calls with one drag number above 0 are undone together. A point keeps its altitude unless another is given.
     void movePoint(const MapElementRef &ref, qsizetype index, const GeoCoordinate &coordinate, quint64 drag = 0);
 
     void putStyle(const MapStyleClass &style);

@@ -1,5 +1,6 @@
 #include "ui/map_editor_element_pane.h"
 
+#include "display/static_map_symbols.h"
 #include "ui/coordinate_edit.h"
 #include "ui/field_form.h"
 #include "ui/map_editor_point_pane.h"
@@ -11,6 +12,8 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QLineEdit>
+#include <QPainter>
+#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
 #include <QToolButton>
@@ -18,14 +21,17 @@
 
 namespace {
 
-const QStringList &symbolTypes()
+constexpr int SymbolSize = 20; // pixels
+
+QIcon symbolIcon(const QString &type, const QWidget &widget)
 {
-    static const QStringList types = {QStringLiteral("airport"), QStringLiteral("heliport"), QStringLiteral("navaid"),
-        QStringLiteral("vor"), QStringLiteral("dme"), QStringLiteral("vordme"), QStringLiteral("ndb"),
-        QStringLiteral("tacan"), QStringLiteral("waypoint"), QStringLiteral("reporting"), QStringLiteral("obstacle"),
-        QStringLiteral("radar"), QStringLiteral("cross"), QStringLiteral("circle"), QStringLiteral("square"),
-        QStringLiteral("diamond"), QStringLiteral("dot")};
-    return types;
+    const qreal ratio = widget.devicePixelRatioF();
+    QPixmap picture(QSize(SymbolSize, SymbolSize) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    drawStaticMapSymbol(painter, type, SymbolSize, widget.palette().color(QPalette::Text));
+    return QIcon(picture);
 }
 
 } // namespace
@@ -37,6 +43,7 @@ MapEditorElementPane::MapEditorElementPane(MapEditorDocument *document, QWidget 
 {
     buildForm();
     auto *layout = new QVBoxLayout(this);
+    m_form->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     layout->addWidget(m_form);
     layout->addWidget(m_points, 1);
     layout->addStretch(0);
@@ -56,7 +63,9 @@ void MapEditorElementPane::buildForm()
     m_type->setObjectName(QStringLiteral("symbolType"));
     m_type->setEditable(true);
     m_type->setInsertPolicy(QComboBox::NoInsert);
-    m_type->addItems(symbolTypes());
+    m_type->setIconSize(QSize(SymbolSize, SymbolSize));
+    for (const QString &type : staticMapSymbolTypes())
+        m_type->addItem(symbolIcon(type, *m_type), type);
     m_image->setObjectName(QStringLiteral("imageFile"));
     m_coordinate->setObjectName(QStringLiteral("coordinate"));
     m_northwest->setObjectName(QStringLiteral("northwest"));
@@ -133,8 +142,10 @@ void MapEditorElementPane::fill()
     m_name->setText(properties.name);
     if (m_ref.kind == MapElementKind::Label && m_caption->toPlainText() != properties.text)
         m_caption->setPlainText(properties.text);
-    if (m_ref.kind == MapElementKind::Symbol)
+    if (m_ref.kind == MapElementKind::Symbol) {
+        m_type->setCurrentIndex(m_type->findText(properties.text));
         m_type->setCurrentText(properties.text);
+    }
     if (m_ref.kind == MapElementKind::Image) {
         m_image->setText(properties.text.isEmpty() ? tr("Choose...") : properties.text);
         m_image->setToolTip(properties.pixmap.isNull() ? tr("There is no picture yet.") : properties.text);

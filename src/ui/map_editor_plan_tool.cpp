@@ -3,11 +3,22 @@
 #include "display/geo_map_display.h"
 #include "display/geo_widget.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
 constexpr int BackdropDelayMs = 100;
+
+// North-west and south-east of two opposite corners; nothing without two.
+QList<GeoCoordinate> cornersOf(const QList<GeoCoordinate> &points)
+{
+    if (points.size() != 2)
+        return {};
+    const auto [south, north] = std::minmax(points[0].latitude(), points[1].latitude());
+    const auto [west, east] = std::minmax(points[0].longitude(), points[1].longitude());
+    return {GeoCoordinate(north, west), GeoCoordinate(south, east)};
+}
 
 } // namespace
 
@@ -167,12 +178,16 @@ void MapEditorPlanTool::finishDrawing()
 {
     if (!m_drawing)
         return;
-    const QList<GeoCoordinate> points = m_draft;
+    QList<GeoCoordinate> points = m_draft;
     endDrawing();
     if (hasPointList(m_ref.kind)) {
         m_document->insertPoints(m_ref, m_drawBefore, points);
         return;
     }
+    if (m_ref.kind == MapElementKind::Image)
+        points = cornersOf(points);
+    if (points.isEmpty())
+        return;
     QUndoStack &undo = m_document->undoStack();
     undo.beginMacro(tr("Draw"));
     for (qsizetype i = 0; i < points.size(); ++i)

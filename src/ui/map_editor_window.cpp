@@ -168,7 +168,10 @@ void MapEditorWindow::connectPanes()
     connect(m_element, &MapEditorElementPane::refused, this, &MapEditorWindow::tell);
     connect(&m_document.undoStack(), &QUndoStack::indexChanged, this, &MapEditorWindow::updateTitle);
     connect(&m_document, &MapEditorDocument::pathChanged, this, &MapEditorWindow::updateTitle);
-    connect(&m_document.styles(), &MapEditorStyles::changed, this, &MapEditorWindow::previewStyles);
+    connect(&m_document.styles(), &MapEditorStyles::changed, this, [this](const QString &name) {
+        if (!name.isEmpty())
+            Q_EMIT stylePreview(m_document.styles().sheet());
+    });
 }
 
 void MapEditorWindow::setGeoWidget(GeoWidget *widget, Projector *projector)
@@ -201,8 +204,10 @@ void MapEditorWindow::setMapLibrary(const MapLibrary *library)
 
 void MapEditorWindow::takeLibraryStyles()
 {
-    if (m_library && !m_document.styles().isModified())
-        m_document.setStyleSheet(m_library->styleSheet(), m_library->styleSheetFile());
+    if (!m_library || m_document.styles().isModified())
+        return;
+    m_librarySheet = m_library->styleSheet();
+    m_document.setStyleSheet(m_librarySheet, m_library->styleSheetFile());
 }
 
 void MapEditorWindow::updateShownElsewhere()
@@ -250,12 +255,6 @@ void MapEditorWindow::updateTitle()
     setWindowTitle(tr("%1[*] - Static Map Editor").arg(name));
     setWindowModified(m_document.isModified() || m_document.styles().isModified());
     updateShownElsewhere();
-}
-
-void MapEditorWindow::previewStyles()
-{
-    if (m_document.styles().isModified() || !m_document.styles().sheet().isEmpty())
-        Q_EMIT stylePreview(m_document.styles().sheet());
 }
 
 void MapEditorWindow::tell(const QString &text)

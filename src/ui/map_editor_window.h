@@ -15,7 +15,10 @@ class MapEditorStylePane;
 class MapEditorTreePane;
 class MapLibrary;
 class Projector;
+class QAction;
+class QMenu;
 class QTabWidget;
+class QToolBar;
 
 // Corrects and draws static maps: the groups and elements in a tree, the chosen one's fields and points beside it, its
 // points on the plan view as well, and the style sheet. Closing with unsaved changes asks. GUI thread.
@@ -89,17 +92,17 @@ private:
     void updateTitle();
     void updateShownElsewhere();
     void takeLibraryStyles();
-    void previewStyles();
     void commitFields();
 
     // Asks what to do with unsaved changes; false when the operator cancels or saving fails.
-    bool settleChanges(bool withStyles);
+    bool settleChanges(bool ofMap, bool ofStyles);
     void discardChanges();
     void reportFailure(const QString &text, const QString &fileName, const QString &reason);
     void tell(const QString &text);
 
     MapEditorDocument m_document;
     const MapLibrary *m_library = nullptr;
+    MapStyleSheet m_librarySheet; // as it was when it was taken
     QPointer<GeoWidget> m_geoWidget;
     std::unique_ptr<MapEditorPlanTool> m_planTool; // null without a plan view
 

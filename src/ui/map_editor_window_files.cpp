@@ -1,5 +1,6 @@
 // The files of the map and of its style sheet.
 
+#include "maps/map_library.h"
 #include "ui/map_editor_element_pane.h"
 #include "ui/map_editor_meta_pane.h"
 #include "ui/map_editor_window.h"
@@ -34,7 +35,7 @@ void MapEditorWindow::commitFields()
 void MapEditorWindow::newMap()
 {
     commitFields();
-    if (!settleChanges(false))
+    if (!settleChanges(true, false))
         return;
     m_document.newMap();
     updateTitle();
@@ -50,7 +51,7 @@ void MapEditorWindow::openChosenFile()
 bool MapEditorWindow::openFile(const QString &path, MapFile::Format format)
 {
     commitFields();
-    if (!settleChanges(false))
+    if (!settleChanges(true, false))
         return false;
     QProgressDialog progress(tr("Reading %1").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100, this);
     progress.setWindowModality(Qt::WindowModal);
@@ -70,6 +71,9 @@ bool MapEditorWindow::openFile(const QString &path, MapFile::Format format)
 
 bool MapEditorWindow::openStyleSheet(const QString &path)
 {
+    commitFields();
+    if (!settleChanges(false, true))
+        return false;
     MapStyleSheet sheet;
     QString reason;
     if (!sheet.load(path, &reason)) {
@@ -77,6 +81,7 @@ bool MapEditorWindow::openStyleSheet(const QString &path)
         return false;
     }
     m_document.setStyleSheet(sheet, path);
+    Q_EMIT stylePreview(sheet);
     updateTitle();
     return true;
 }
@@ -156,12 +161,13 @@ bool MapEditorWindow::saveStyleSheet(const QString &path)
     return true;
 }
 
-bool MapEditorWindow::settleChanges(bool withStyles)
+bool MapEditorWindow::settleChanges(bool ofMap, bool ofStyles)
 {
-    if (!m_document.isModified() && !(withStyles && m_document.styles().isModified()))
+    const bool map = ofMap && m_document.isModified();
+    if (!map && !(ofStyles && m_document.styles().isModified()))
         return true;
     QMessageBox question(QMessageBox::Question, tr("Static Map Editor"),
-        m_document.isModified() ? tr("The map has been changed.") : tr("The styles have been changed."),
+        map ? tr("The map has been changed.") : tr("The styles have been changed."),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
     question.setInformativeText(tr("Save the changes?"));
     question.setDefaultButton(QMessageBox::Save);
@@ -177,10 +183,13 @@ bool MapEditorWindow::settleChanges(bool withStyles)
 
 void MapEditorWindow::discardChanges()
 {
-    const bool restyle = m_document.styles().isModified();
-    const MapStyleSheet former = m_document.styles().savedSheet();
+    const MapEditorStyles &styles = m_document.styles();
+    const bool foreign = m_library && m_library->styleSheetFile() != styles.file();
+    const bool restyle = foreign || styles.isModified();
+    const MapStyleSheet former = foreign ? m_librarySheet : styles.savedSheet();
+    const QString file = foreign ? m_library->styleSheetFile() : styles.file();
     m_document.newMap();
-    m_document.setStyleSheet(former, m_document.styles().file());
+    m_document.setStyleSheet(former, file);
     if (restyle)
         Q_EMIT stylePreview(former);
 }
@@ -188,7 +197,7 @@ void MapEditorWindow::discardChanges()
 void MapEditorWindow::closeEvent(QCloseEvent *event)
 {
     commitFields();
-    if (!settleChanges(true)) {
+    if (!settleChanges(true, true)) {
         event->ignore();
         return;
     }

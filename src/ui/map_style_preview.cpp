@@ -1,6 +1,14 @@
 #include "ui/map_style_preview.h"
 
+#include "display/static_map_symbols.h"
+
 #include <QPainter>
+
+namespace {
+
+constexpr int SymbolSize = 24; // pixels
+
+} // namespace
 
 MapStylePreview::MapStylePreview(QWidget *parent) : QWidget(parent), m_style(defaultStyleClass(QString()))
 {
@@ -39,9 +47,11 @@ void MapStylePreview::paintEvent(QPaintEvent *)
     painter.setBrush(Qt::NoBrush);
     painter.drawPolyline(
         QPolygonF({{part * 1.1, height() * 0.8}, {part * 1.5, height() * 0.3}, {part * 1.95, height() * 0.6}}));
-    painter.setPen(QPen(m_style.color, 2));
-    painter.drawPolygon(
-        QPolygonF({{part * 2.4, middle - 9}, {part * 2.4 + 9, middle + 7}, {part * 2.4 - 9, middle + 7}}));
+    painter.save();
+    painter.translate(part * 2.4 - SymbolSize / 2, middle - SymbolSize / 2);
+    drawStaticMapSymbol(painter, QStringLiteral("vordme"), SymbolSize, m_style.color);
+    painter.restore();
+    painter.setPen(m_style.color);
     painter.setFont(m_style.font);
     painter.drawText(QRectF(part * 2.75, 0, part * 1.25, height()), Qt::AlignVCenter | Qt::AlignLeft, tr("LABEL"));
 }

@@ -106,15 +106,15 @@ QVariant TrackListModel::data(const QModelIndex &index, int role) const
 
 QVariant TrackListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    static const char *const titles[] = {QT_TR_NOOP("Callsign"), QT_TR_NOOP("Squawk"), QT_TR_NOOP("Level"),
-        QT_TR_NOOP("Speed"), QT_TR_NOOP("Hdg"), QT_TR_NOOP("Rate"), QT_TR_NOOP("Type"), QT_TR_NOOP("State"),
-        QT_TR_NOOP("Reg"), QT_TR_NOOP("Address"), QT_TR_NOOP("Number"), QT_TR_NOOP("Alert")};
+    static const char *const titles[] = {QT_TR_NOOP("Callsign"), QT_TR_NOOP("Reg"), QT_TR_NOOP("Squawk"),
+        QT_TR_NOOP("Level"), QT_TR_NOOP("Speed"), QT_TR_NOOP("Hdg"), QT_TR_NOOP("Rate"), QT_TR_NOOP("Type"),
+        QT_TR_NOOP("State"), QT_TR_NOOP("Address"), QT_TR_NOOP("Number"), QT_TR_NOOP("Alert")};
     static_assert(std::size(titles) == ColumnCount);
-    static const char *const explanations[] = {QT_TR_NOOP("Aircraft identification"), QT_TR_NOOP("Mode 3/A code"),
+    static const char *const explanations[] = {QT_TR_NOOP("Aircraft identification"),
+        QT_TR_NOOP("Country of registration, by the aircraft address"), QT_TR_NOOP("Mode 3/A code"),
         QT_TR_NOOP("Flight level and vertical trend"), QT_TR_NOOP("Ground speed, knots"),
         QT_TR_NOOP("Track over ground, degrees"), QT_TR_NOOP("Vertical rate, feet per minute"),
-        QT_TR_NOOP("What sees the track"), QT_TR_NOOP("Life state"),
-        QT_TR_NOOP("Country of registration, by the aircraft address"), QT_TR_NOOP("24-bit aircraft address"),
+        QT_TR_NOOP("What sees the track"), QT_TR_NOOP("Life state"), QT_TR_NOOP("24-bit aircraft address"),
         QT_TR_NOOP("Track number"), QT_TR_NOOP("Active safety-net alerts")};
     static_assert(std::size(explanations) == ColumnCount);
     if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount) {
@@ -135,8 +135,8 @@ QVariant TrackListModel::headerData(int section, Qt::Orientation orientation, in
 
 QStringList TrackListModel::widestTexts()
 {
-    return {"WWWW9999", "7777GS", QString("000%1").arg(QChar(0x2191)), "9999", "360", "-9999", tr("SDPS Mode S"),
-        tr("Terminated"), "WWWWW", "AAAAAA", "99999", "MSAW STCA"};
+    return {"WWWW9999", "WWWWW", "7777GS", QString("000%1").arg(QChar(0x2191)), "9999", "360", "-9999",
+        tr("SDPS Mode S"), tr("Terminated"), "AAAAAA", "99999", "MSAW STCA"};
 }
 
 TrackListEntry TrackListModel::entryFor(const TrackSnapshot &track) const

@@ -38,6 +38,7 @@ class TrackListModel final : public RecordTableModel<TrackListEntry, quint64> {
 public:
     enum Column {
         Callsign,
+        Country,
         Squawk,
         Level,
         GroundSpeed,
@@ -45,7 +46,6 @@ public:
         VerticalRate,
         Type,
         State,
-        Country,
         IcaoAddr,
         TrackNumber,
         Alerts,

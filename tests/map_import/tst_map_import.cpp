@@ -63,12 +63,6 @@ private:
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!MapImport::available())
-            QSKIP(qPrintable(MapImport::missingText()));
-    }
-
     void readsGeoJson()
     {
         const MapData map = read(written("area.geojson", R"({"type":"FeatureCollection","features":[

@@ -127,6 +127,16 @@ private Q_SLOTS:
         QCOMPARE(error, QString("This is not a valid VyxXML format map file."));
     }
 
+    void findsGroupsByClass()
+    {
+        MapData map;
+        map.groups = {{"one", "x", {}, {}, {}, {}, {}}, {"two", "x", {}, {}, {}, {}, {}}};
+        QCOMPARE(getGroup(map, "x").name, QString("one"));
+        QCOMPARE(getGroup(map, "one").className, QString("one")); // a name is no class
+        QCOMPARE(&getGroup(map, "one"), &map.groups[2]);
+        QCOMPARE(map.groups.size(), 3);
+    }
+
     void namesImageFiles()
     {
         MapData map = MapMaker(1).map();
@@ -161,16 +171,6 @@ private Q_SLOTS:
         map.groups[0].images[0].file = "p.unknown";
         QVERIFY(writeMap(m_folder->filePath("b.xml"), MapFile::Xml, map).contains("p.unknown"));
         QVERIFY(!QFile::exists(m_folder->filePath("b.xml")));
-    }
-
-    void knowsFormats()
-    {
-        for (const auto format : {MapFile::Legacy, MapFile::Xml, MapFile::Map}) {
-            QCOMPARE(MapFile::formatFromString(MapFile::formatToString(format)), format);
-            QCOMPARE(MapFile::formatFromFileName("x." + MapFile::create(format)->defaultSuffix().toUpper()), format);
-        }
-        QCOMPARE(MapFile::formatFromString("XML"), MapFile::Unknown);
-        QVERIFY(!MapFile::create(MapFile::Unknown));
     }
 
 private:

@@ -47,7 +47,6 @@ private Q_SLOTS:
         row("nothing", "", {}, "default");
         row("current by position", "[General]\ndefaultLayout=1\n[layouts]\nsize=2\n" + entry, both, "a");
         row("current by name", "[General]\ndefaultLayout=b\n[layouts]\nsize=2\n" + entry, both, "b");
-        row("unknown position", "[General]\ndefaultLayout=3\n[layouts]\nsize=2\n" + entry, both, "default");
         row("false size", "[layouts]\nsize=2000000000\n" + entry, both, "default");
         row("five and seven numbers",
             "[layouts]\nsize=2\n1\\name=a\n1\\transform=1,2,3,4,5\n2\\name=b\n"

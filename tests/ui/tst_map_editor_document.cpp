@@ -16,6 +16,8 @@ private Q_SLOTS:
     void undoesAndRedoesAnything_data();
     void undoesAndRedoesAnything();
     void dragIsOneStep();
+    void movedPointKeepsItsAltitude();
+    void linesGoOnBeyondTheDateLine();
     void keepsOrderWhenMovingToAGroup();
     void modifiedFollowsUndoAndSaving();
     void savesWithBackup_data();
@@ -212,6 +214,30 @@ void TestMapEditorDocument::dragIsOneStep()
     drag(3, {{49.1, 17.1}, start});
     QCOMPARE(document.undoStack().count(), 0);
     QVERIFY(!document.isModified());
+}
+
+void TestMapEditorDocument::movedPointKeepsItsAltitude()
+{
+    MapEditorDocument document;
+    document.store().reset(sampleMap());
+    document.movePoint(firstLine, 0, GeoCoordinate(48.1, 16.1, 250.0));
+    document.movePoint(firstLine, 0, GeoCoordinate(48.2, 16.2));
+    QCOMPARE(document.store().point(firstLine, 0), GeoCoordinate(48.2, 16.2, 250.0));
+}
+
+void TestMapEditorDocument::linesGoOnBeyondTheDateLine()
+{
+    MapEditorDocument document;
+    document.store().reset(sampleMap());
+    MercatorProjector projector;
+    const MapEditorGeometry geometry(&document.store(), &projector);
+    document.removePoints(firstLine, {0, 1, 2});
+    document.insertPoints(firstLine, 0, {{0.0, 179.0}, {0.0, -179.0}, {0.0, -178.0}});
+    const QPolygonF points = geometry.shape(firstLine).points;
+    for (int i = 1; i < 3; ++i) {
+        QVERIFY(points[i].x() > points[i - 1].x() && points[i].x() - points[i - 1].x() < 250e3);
+        QVERIFY(geometry.unproject(points[i]).distanceTo(document.store().point(firstLine, i)) < 1.0);
+    }
 }
 
 void TestMapEditorDocument::keepsOrderWhenMovingToAGroup()

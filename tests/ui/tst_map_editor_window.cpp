@@ -7,7 +7,7 @@
 #include "ui/map_editor_tree_pane.h"
 #include "ui/map_editor_window.h"
 
-#include <QAction>
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>

@@ -75,21 +75,17 @@ void TestMapLayouts::saveLayout(MainWindow &window, const QString &name, bool ma
 
 void TestMapLayouts::nameIsLookedAt()
 {
-    struct Entry {
-        QString typed;
-        bool replace;
-        QString saved; // empty: refused
-    };
-    for (const Entry &entry : {Entry{"", true, ""}, Entry{"  ", true, ""}, Entry{"default", true, ""},
+    using Entry = std::tuple<QString, bool, QString>; // typed, an old one is to be replaced, saved (empty: refused)
+    for (const auto &[typed, replace, saved] : {Entry{"", true, ""}, Entry{"  ", true, ""}, Entry{"default", true, ""},
              Entry{" Default", true, "Default"}, Entry{"old", false, ""}, Entry{"old ", true, "old"}}) {
         LayoutSaveWindow window({"old"});
-        window.setReplaceQuestion([&entry](const QString &) { return entry.replace; });
+        window.setReplaceQuestion([yes = replace](const QString &) { return yes; });
         const QSignalSpy named(&window, &LayoutSaveWindow::layoutNamed);
         window.show();
-        window.findChild<QLineEdit *>("layoutName")->setText(entry.typed);
+        window.findChild<QLineEdit *>("layoutName")->setText(typed);
         window.accept();
-        QCOMPARE(named.value(0).value(0).toString(), entry.saved);
-        QCOMPARE(window.isVisible(), entry.saved.isEmpty());
+        QCOMPARE(named.value(0).value(0).toString(), saved);
+        QCOMPARE(window.isVisible(), saved.isEmpty());
     }
 }
 
@@ -101,7 +97,6 @@ void TestMapLayouts::currentLayoutComesBack()
         QVERIFY(WindowFixture::close(*window));
     };
     run([](MainWindow &window) {
-        QCOMPARE(names(window), "[default]");
         window.geoWidget()->setView(1e6, 5e6, 250.0);
         window.geoWidget()->rotate(30.0);
         saveLayout(window, "north");
@@ -172,7 +167,6 @@ void TestMapLayouts::mapsAreLoadedAndToggled()
     QVERIFY(log.contains("Loading stylesheet: " + maps.filePath("style.mss")));
 
     QAction *toggle = action(*window, ActionId::ToggleStaticMaps);
-    QVERIFY(toggle->isChecked());
     toggle->trigger();
     Config saved;
     saved.load(AppPaths::configFile());
