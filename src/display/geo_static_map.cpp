@@ -18,7 +18,7 @@ namespace {
 constexpr qsizetype PointsAtOnce = 5000; // prepared in a few milliseconds
 constexpr int SmallestSymbol = 4; // pixels
 constexpr int LargestSymbol = 256;
-constexpr std::size_t MostWidePoints = 30000; // of lines wider than a pixel, in a region that is not crowded
+constexpr std::size_t MostPoints = 30000; // of lines and edges, in a region that is not crowded
 constexpr double WidestElement = 512.0; // pixels that labels, symbols or wide lines may reach beyond their points
 
 // A map that is being loaded changes often without anything to be seen.
@@ -189,12 +189,10 @@ void GeoStaticMap::decideForRegion(const std::vector<ShownMap> &maps, double met
     m_labels.layOut(m_region, maps, m_styles, m_symbolSize);
     std::size_t points = 0;
     for (const ShownMap &map : maps) {
-        for (const StaticMapGroup &group : map.geometry->groups()) {
-            if (m_styles.style(group.className).pen.widthF() > 1.0)
-                points += pointsIn(group, m_region.plane, metresPerPixel);
-        }
+        for (const StaticMapGroup &group : map.geometry->groups())
+            points += pointsIn(group, m_region.plane, metresPerPixel);
     }
-    m_crowded = points > MostWidePoints;
+    m_crowded = points > MostPoints;
     m_regionValid = true;
     m_picture.invalidate();
 }

@@ -27,7 +27,7 @@ struct StaticMapFrame {
     int copy = 0; // worlds to the east of the plane's own
     int symbolSize = 32; // pixels
     bool smoothImages = false;
-    bool crowded = false; // so many wide lines that they are drawn in the quickest way
+    bool crowded = false; // so many lines that they are drawn in the quickest way
     const StaticMapLabelLayout *labels = nullptr;
 
     // Where the plane's origin lies on the screen: what is drawn relative to it moves along with the map.

@@ -22,11 +22,16 @@ bool segmentWise(const QPen &pen)
         && pen.capStyle() == Qt::SquareCap && pen.color().alpha() == 255;
 }
 
-// Wide broken lines take very long.
+// Qt draws lines of up to a pixel in a way of its own: quickly, but up to a pixel beside their place where they are cut
+// off at the rim of what is painted. That shows where a picture is painted in parts, so it is left to crowded pictures;
+// and wide broken lines, which take longest, become thin in these.
 QPen affordable(const QPen &wanted, bool crowded)
 {
+    constexpr double NotThin = 1.01; // pixels
     QPen pen = wanted;
-    if (crowded && pen.style() != Qt::SolidLine)
+    if (!crowded)
+        pen.setWidthF(std::max(pen.widthF(), NotThin));
+    else if (pen.style() != Qt::SolidLine)
         pen.setWidth(1);
     return pen;
 }

@@ -1,14 +1,10 @@
-#include "categories/categories.h"
+#include "categories/cat021_items.h"
 
 namespace korvane::asterix {
 namespace {
 
-// I021/008 Aircraft Operational Status
-constexpr Field item008[] = {
-    raw("RA", 1), raw("TC", 2), raw("TS", 1), raw("ARV", 1), raw("CDTIA", 1), raw("NOTTCAS", 1), raw("SA", 1)};
-
-// I021/010 Data Source Identification
-constexpr Field item010[] = {raw("SAC", 8), raw("SIC", 8)};
+using namespace cat021;
+using namespace cat021::late;
 
 // I021/040 Target Report Descriptor
 constexpr Field item040Tbc[] = {raw("EP", 1), integer("VAL", 6)};
@@ -20,15 +16,6 @@ constexpr Field item040[] = {
     group("TBC", item040Tbc), fx, //
     group("MBC", item040Mbc), fx, //
 };
-
-// I021/070 Mode 3/A Code in Octal Representation
-constexpr Field item070[] = {spare(4), octal("MODE3A", 12)};
-
-// I021/074 Time of Message Reception of Position-High Precision
-constexpr Field item074[] = {raw("FSI", 2), quantity("TOMRP", 30, {1, 1073741824}, "s")};
-
-// I021/076 Time of Message Reception of Velocity-High Precision
-constexpr Field item076[] = {raw("FSI", 2), quantity("TOMRP", 30, {1, 1073741824}, "s")};
 
 // I021/090 Quality Indicators
 constexpr Field item090Valstate[] = {raw("EP", 1), raw("VAL", 2)};
@@ -44,76 +31,8 @@ constexpr Field item090[] = {
     quantity("VALDISTQUALP2", 7, {1, 1}, "m"), fx, //
 };
 
-// I021/110 Trajectory Intent
-constexpr Field item110Tis[] = {
-    raw("NAV", 1), raw("NVB", 1), spare(5), fx, //
-};
-constexpr Field item110Tid[] = {raw("TCA", 1), raw("NC", 1), raw("TCPN", 6), signedQuantity("ALT", 16, {10, 1}, "ft"),
-    signedQuantity("LAT", 24, {180, 8388608}, "°"), signedQuantity("LON", 24, {180, 8388608}, "°"), raw("PT", 4),
-    raw("TD", 2), raw("TRA", 1), raw("TOA", 1), quantity("TOV", 24, {1, 1}, "s"), quantity("TTR", 16, {1, 100}, "NM")};
-constexpr Field item110[] = {
-    extended("TIS", item110Tis),
-    repetitive("TID", item110Tid),
-};
-
-// I021/130 Position in WGS-84 Co-ordinates
-constexpr Field item130[] = {
-    signedQuantity("LAT", 24, {180, 8388608}, "°"), signedQuantity("LON", 24, {180, 8388608}, "°")};
-
-// I021/131 High-Resolution Position in WGS-84 Co-ordinates
-constexpr Field item131[] = {
-    signedQuantity("LAT", 32, {180, 1073741824}, "°"), signedQuantity("LON", 32, {180, 1073741824}, "°")};
-
-// I021/146 Selected Altitude
-constexpr Field item146[] = {raw("SAS", 1), raw("S", 2), signedQuantity("ALT", 13, {25, 1}, "ft")};
-
-// I021/148 Final State Selected Altitude
-constexpr Field item148[] = {raw("MV", 1), raw("AH", 1), raw("AM", 1), signedQuantity("ALT", 13, {25, 1}, "ft")};
-
-// I021/150 Air Speed
-constexpr Field item150AsCases[] = {
-    when(0, quantity("AS", 15, {1, 16384}, "NM/s")), when(1, quantity("AS", 15, {1, 1000}, "Mach"))};
-constexpr Field item150[] = {raw("IM", 1), caseOf("AS", "150/IM", item150AsCases)};
-
-// I021/151 True Airspeed
-constexpr Field item151[] = {raw("RE", 1), quantity("TAS", 15, {1, 1}, "kt")};
-
-// I021/155 Barometric Vertical Rate
-constexpr Field item155[] = {raw("RE", 1), signedQuantity("BVR", 15, {25, 4}, "ft/min")};
-
-// I021/157 Geometric Vertical Rate
-constexpr Field item157[] = {raw("RE", 1), signedQuantity("GVR", 15, {25, 4}, "ft/min")};
-
-// I021/160 Airborne Ground Vector
-constexpr Field item160[] = {
-    raw("RE", 1), quantity("GS", 15, {1, 16384}, "NM/s"), quantity("TA", 16, {360, 65536}, "°")};
-
-// I021/161 Track Number
-constexpr Field item161[] = {spare(4), raw("TRNUM", 12)};
-
-// I021/165 Track Angle Rate
-constexpr Field item165[] = {spare(6), signedQuantity("TAR", 10, {1, 32}, "°/s")};
-
 // I021/200 Target Status
 constexpr Field item200[] = {raw("ICF", 1), raw("LNAV", 1), raw("ME", 1), raw("PS", 3), raw("SS", 2)};
-
-// I021/210 MOPS Version
-constexpr Field item210[] = {spare(1), raw("VNS", 1), raw("VN", 3), raw("LTT", 3)};
-
-// I021/220 Met Information
-constexpr Field item220[] = {
-    quantity("WS", 16, {1, 1}, "kt"),
-    quantity("WD", 16, {1, 1}, "°"),
-    signedQuantity("TMP", 16, {1, 4}, "°C"),
-    integer("TRB", 8),
-};
-
-// I021/250 Mode S MB Data
-constexpr Field item250[] = {raw(nullptr, 64)};
-
-// I021/260 ACAS Resolution Advisory Report
-constexpr Field item260[] = {raw("TYP", 5), raw("STYP", 3), raw("ARA", 14), raw("RAC", 4), raw("RAT", 1), raw("MTE", 1),
-    raw("TTI", 2), raw("TID", 26)};
 
 // I021/271 Surface Capabilities and Characteristics
 constexpr Field item271[] = {
