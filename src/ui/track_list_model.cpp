@@ -135,7 +135,7 @@ QVariant TrackListModel::headerData(int section, Qt::Orientation orientation, in
 
 QStringList TrackListModel::widestTexts()
 {
-    return {"WWWW9999", "WWWWW", "7777GS", QString("000%1").arg(QChar(0x2191)), "9999", "360", "-9999",
+    return {"WWWW9999", "WWWWWWW", "7777GS", QString("000%1").arg(QChar(0x2191)), "9999", "360", "-9999",
         tr("SDPS Mode S"), tr("Terminated"), "AAAAAA", "99999", "MSAW STCA"};
 }
 
