@@ -12,12 +12,12 @@
     <class name="land">
       <color>#3C4248</color>
       <pen>
-        <color>#8B908E</color>
+        <color>#83897F</color>
         <line>solid</line>
         <width>1</width>
       </pen>
       <brush>
-        <color>#BABAB4</color>
+        <color>#C6C7BC</color>
         <pattern>solid</pattern>
       </brush>
       <font>
@@ -28,7 +28,7 @@
     <class name="water">
       <color>#2B415A</color>
       <pen>
-        <color>#8B908E</color>
+        <color>#83897F</color>
         <line>solid</line>
         <width>1</width>
       </pen>
@@ -44,12 +44,12 @@
     <class name="border">
       <color>#3C4248</color>
       <pen>
-        <color>#989A95</color>
+        <color>#9A9C90</color>
         <line>solid</line>
         <width>1</width>
       </pen>
       <brush>
-        <color>#00989A95</color>
+        <color>#009A9C90</color>
         <pattern>solid</pattern>
       </brush>
       <font>
