@@ -31,7 +31,11 @@ function(vyx_publish_headers target scope folder)
 endfunction()
 
 # Shares one precompiled set of Qt headers among the targets of a kind: core (Core, Gui, Network) or widgets.
+# Not with libFuzzer, whose coverage flags differ between targets.
 function(vyx_use_pch target kind)
+    if(VYX_FUZZ)
+        return()
+    endif()
     if(kind STREQUAL "core" OR kind STREQUAL "widgets")
         target_precompile_headers(${target} REUSE_FROM vyx_pch_${kind})
     endif()

@@ -41,9 +41,20 @@ qsizetype readableSize(const QByteArray &document)
     return document.size();
 }
 
+// In pieces: a device gets the memory for all that it is asked for before it knows how much there is.
+QByteArray contents(QIODevice &device)
+{
+    constexpr qint64 pieceSize = 65536;
+    QByteArray octets;
+    for (QByteArray piece = device.read(pieceSize); !piece.isEmpty() && octets.size() < MapFile::MaxFileSize;
+         piece = device.read(pieceSize))
+        octets += piece;
+    return octets;
+}
+
 } // namespace
 
-MapXmlReader::MapXmlReader(QIODevice *device) : MapXmlReader(device->read(MapFile::MaxFileSize)) { }
+MapXmlReader::MapXmlReader(QIODevice *device) : MapXmlReader(contents(*device)) { }
 
 MapXmlReader::MapXmlReader(const QByteArray &document)
 {
