@@ -47,7 +47,7 @@ private Q_SLOTS:
     void returnsWhatItWrote()
     {
         QFETCH(const int, format);
-        for (quint32 seed = 1; seed <= 40; ++seed) {
+        for (quint32 seed = 1; seed <= 20; ++seed) {
             const MapData map = MapMaker(seed).map();
             const QDir folder(m_folder->filePath(QString::number(seed))); // its own pictures
             QVERIFY(folder.mkpath("."));
