@@ -1,4 +1,5 @@
 #include "app/app_identity.h"
+#include "app/app_log.h"
 #include "app/app_paths.h"
 #include "app/command_line.h"
 #include "app/config.h"
@@ -13,6 +14,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLocale>
+#include <QLoggingCategory>
 #include <QSplashScreen>
 #include <QStyleFactory>
 #include <QTimer>
@@ -93,6 +95,8 @@ int runWindow(const CommandLine &commandLine, DemoTraffic *demo, QSplashScreen &
     const ExitReport report(&window, commandLine.screenshot, commandLine.snapshot);
     const TerminationSignals signalsToEnd;
     QObject::connect(&signalsToEnd, &TerminationSignals::requested, &window, &MainWindow::requestExit);
+    // Told to end from outside, the program does not wait until somebody answers a dialog.
+    QObject::connect(&window, &MainWindow::shutdownComplete, qApp, [] { QCoreApplication::exit(); });
     window.show();
     window.loadUi();
     splash.finish(&window);
@@ -124,6 +128,9 @@ int runApplication(int argc, char *argv[], const CommandLine &commandLine, const
 {
     QApplication application(argc, argv);
     setApplicationIdentity();
+    if (!debugModeMarked()) {
+        QLoggingCategory::setFilterRules("default.debug=false");
+    }
     Config config;
     config.load(AppPaths::configFile());
     applyStyle(config.displayStyle);

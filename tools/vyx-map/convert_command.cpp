@@ -17,7 +17,8 @@ bool writeMap(const CommandLine &command, const MapData &map, const LineSink &er
     const std::unique_ptr<MapFile> file = MapFile::create(command.outputFormat);
     bool isWritten = file->open(QFileInfo(command.output), command.outputFormat, QIODevice::WriteOnly);
     isWritten = isWritten && file->write(map);
-    file->close();
+    file->close(); // puts the file in its place, which may fail as well
+    isWritten = isWritten && file->lastError().isEmpty();
     if (!isWritten)
         err(QStringLiteral("%1: %2").arg(command.output, file->lastError()));
     return isWritten;
