@@ -4,6 +4,8 @@
 #include "maps/map_xml_text.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QXmlStreamWriter>
 
@@ -63,6 +65,13 @@ void writeEntry(QXmlStreamWriter &xml, const MapIndexEntry &entry)
 }
 
 } // namespace
+
+QString pathInMapIndex(const QString &file, const QString &indexFile)
+{
+    const QString absolute = QDir::cleanPath(QFileInfo(file).absoluteFilePath());
+    const QString relative = QFileInfo(indexFile).absoluteDir().relativeFilePath(absolute);
+    return relative.startsWith(QLatin1String("../")) ? absolute : relative;
+}
 
 QList<MapIndexEntry> readMapIndex(const QString &fileName, QString *error)
 {

@@ -19,6 +19,10 @@ struct MapIndexEntry {
     bool operator==(const MapIndexEntry &) const = default;
 };
 
+// How an index names a file: relative where the file is below the index's folder, so that both can be moved together;
+// absolute elsewhere.
+QString pathInMapIndex(const QString &file, const QString &indexFile);
+
 // Empty on failure, with the reason in the error, which may be null.
 QList<MapIndexEntry> readMapIndex(const QString &fileName, QString *error);
 

@@ -203,7 +203,7 @@ bool MapLibrary::saveIndexAs(const QString &fileName, QString *error)
     const bool moved = target.absoluteDir() != QFileInfo(d->indexFile).absoluteDir();
     QList<MapIndexEntry> entries = d->entries();
     for (MapIndexEntry &entry : entries) {
-        entry.file = moved ? d->absolute(entry.file) : entry.file;
+        entry.file = moved ? pathInMapIndex(d->absolute(entry.file), fileName) : entry.file;
     }
     QDir().mkpath(target.absolutePath()); // where that fails, so does the writing
     if (!writeMapIndex(target.absoluteFilePath(), entries, error)) {

@@ -44,7 +44,8 @@ public:
     QString indexFile() const;
     // Writes the index whole; the reason of a failure is in the error, which may be null.
     bool saveIndex(QString *error);
-    // The same to another file, which becomes the index. In another folder, files are named by absolute paths.
+    // The same to another file, which becomes the index. Files that are not below its folder are named by absolute
+    // paths.
     bool saveIndexAs(const QString &fileName, QString *error);
     bool modified() const; // since the index was read or written
     // Back to what is in the file; maps that it names stay loaded.

@@ -71,6 +71,11 @@ QWidget *ConfigWindow::makeScrollable(ConfigPage *page)
     return area;
 }
 
+void ConfigWindow::setConsent(std::function<bool(const Config &edited)> consent)
+{
+    m_consent = std::move(consent);
+}
+
 bool ConfigWindow::apply()
 {
     qsizetype refused = -1;
@@ -82,8 +87,12 @@ bool ConfigWindow::apply()
         showRefused(refused);
         return false;
     }
+    Config edited = m_config;
     for (const ConfigPage *page : std::as_const(m_pages))
-        page->store(&m_config);
+        page->store(&edited);
+    if (m_consent && !m_consent(edited))
+        return false;
+    m_config = edited;
     Q_EMIT configApplied(m_config);
     return true;
 }

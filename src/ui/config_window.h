@@ -3,6 +3,8 @@
 #include "app/config.h"
 #include "ui/geometry_dialog.h"
 
+#include <functional>
+
 class ConfigPage;
 class QListWidget;
 class QStackedWidget;
@@ -19,6 +21,8 @@ public:
     // The record as last applied.
     const Config &config() const { return m_config; }
 
+    // Asked before anything is applied; false leaves all as it is, and the window open.
+    void setConsent(std::function<bool(const Config &edited)> consent);
     // Applies all pages, or none: when a field is refused, its page is shown with a note beside it. True when applied.
     bool apply();
     void accept() override;
@@ -32,6 +36,7 @@ private:
     void showRefused(qsizetype page);
 
     Config m_config;
+    std::function<bool(const Config &edited)> m_consent;
     QList<ConfigPage *> m_pages;
     QListWidget *m_pageList = nullptr;
     QStackedWidget *m_stack = nullptr;

@@ -31,8 +31,10 @@ void FileEdit::setPath(const QString &path)
 
 void FileEdit::browse()
 {
-    const QString chosen =
-        QFileDialog::getOpenFileName(this, m_title, QDir(m_baseDir).absoluteFilePath(path()), m_filter);
+    const QString start = QDir(m_baseDir).absoluteFilePath(path());
+    const QString chosen = m_saving
+        ? QFileDialog::getSaveFileName(this, m_title, start, m_filter, nullptr, QFileDialog::DontConfirmOverwrite)
+        : QFileDialog::getOpenFileName(this, m_title, start, m_filter);
     if (!chosen.isEmpty()) {
         setPath(chosen);
     }

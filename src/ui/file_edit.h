@@ -4,7 +4,7 @@
 
 class QLineEdit;
 
-// A line edit for the path of an existing file, with a button that opens the file dialog.
+// A line edit for the path of a file, with a button that opens the file dialog.
 class FileEdit final : public QWidget {
     Q_OBJECT
 
@@ -17,6 +17,8 @@ public:
     void setPath(const QString &path);
     // The folder that the dialog begins in while the path is relative.
     void setBaseDir(const QString &dir) { m_baseDir = dir; }
+    // The file is to be written, and need not exist; whether it may be replaced is for the owner to ask.
+    void setSaving(bool saving) { m_saving = saving; }
 
 private:
     void browse();
@@ -24,5 +26,6 @@ private:
     QString m_title;
     QString m_filter;
     QString m_baseDir;
+    bool m_saving = false;
     QLineEdit *m_edit = nullptr;
 };

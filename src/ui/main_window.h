@@ -3,6 +3,7 @@
 #include "app/log_level.h"
 #include "engine/display_snapshot.h"
 #include "engine/replay_speed.h"
+#include "maps/map_file.h"
 #include "processors/alert.h"
 #include "processors/video_processor.h"
 #include "processors/weather_processor.h"
@@ -146,7 +147,7 @@ public Q_SLOTS:
     void launchSensorManager();
     void showMapWindow();
     // Empty: no map yet.
-    void launchStaticMapEditor(const QString &path);
+    void launchStaticMapEditor(const QString &path, MapFile::Format format);
     void showLayoutSaveWindow();
 
     // The operator's Exit: refused while an input is open.
@@ -163,6 +164,8 @@ Q_SIGNALS:
     void dropStats(const DropStats &stats);
     // The picture is still as it was; nothing has been stopped yet.
     void shutdownBegun();
+    // The engine has stopped and this window is closed; dialogs and windows beside it may still be open.
+    void shutdownComplete();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -224,6 +227,9 @@ private:
     // Maps and layouts.
     void loadMaps();
     void showEditedMap(const QString &path);
+    void showEditedStyleSheet(const QString &path);
+    // False when another index is to be shown and the operator keeps his unsaved changes of this one.
+    bool settleMaps(const Config &edited);
     // False when one stays open.
     bool closeMapWindows();
     void deleteMapWindows();

@@ -57,6 +57,7 @@ void MainWindow::connectDialogActions()
 void MainWindow::showConfigWindow()
 {
     auto *window = new ConfigWindow(m_config.live(), m_sensors.get(), this);
+    window->setConsent([this](const Config &edited) { return settleMaps(edited); });
     connect(window, &ConfigWindow::configApplied, this, [this](const Config &edited) {
         const QString sensorDatabase = m_config.live().sensorDatabase;
         m_config.apply(edited);

@@ -163,4 +163,5 @@ void MainWindow::continueShutdown()
     }
     m_shutdown = Shutdown::Complete;
     close();
+    Q_EMIT shutdownComplete();
 }

@@ -57,7 +57,7 @@ void MainWindow::connectStaticMaps()
     });
     const auto on = [this](ActionId id, auto slot) { connect((*m_actions)[id], &QAction::triggered, this, slot); };
     on(ActionId::StaticMaps, &MainWindow::showMapWindow);
-    on(ActionId::StaticMapEditor, [this] { launchStaticMapEditor({}); });
+    on(ActionId::StaticMapEditor, [this] { launchStaticMapEditor({}, MapFile::Unknown); });
     on(ActionId::ToggleStaticMaps,
         [this](bool visible) { editConfig([visible](Config &config) { config.mapStaticVisible = visible; }); });
 }
@@ -104,7 +104,7 @@ void MainWindow::showMapWindow()
     m_staticMapsWindow->activateWindow();
 }
 
-void MainWindow::launchStaticMapEditor(const QString &path)
+void MainWindow::launchStaticMapEditor(const QString &path, MapFile::Format format)
 {
     if (!m_mapEditorWindow) {
         m_mapEditorWindow = new MapEditorWindow(this);
@@ -112,12 +112,13 @@ void MainWindow::launchStaticMapEditor(const QString &path)
         m_mapEditorWindow->setMapLibrary(m_mapLibrary);
         connect(m_mapEditorWindow, &MapEditorWindow::stylePreview, m_mapLibrary, &MapLibrary::setStyleSheet);
         connect(m_mapEditorWindow, &MapEditorWindow::saved, this, &MainWindow::showEditedMap);
+        connect(m_mapEditorWindow, &MapEditorWindow::styleSheetSaved, this, &MainWindow::showEditedStyleSheet);
     }
     m_mapEditorWindow->show();
     m_mapEditorWindow->raise();
     m_mapEditorWindow->activateWindow();
     if (!path.isEmpty()) {
-        m_mapEditorWindow->openFile(path);
+        m_mapEditorWindow->openFile(path, format);
     }
 }
 
@@ -130,6 +131,26 @@ void MainWindow::showEditedMap(const QString &path)
         showMapWindow();
         m_staticMapsWindow->addFiles({file});
     }
+}
+
+// The library notices by itself that the sheet that it shows was written.
+void MainWindow::showEditedStyleSheet(const QString &path)
+{
+    const QString file = QFileInfo(path).absoluteFilePath();
+    if (file == m_mapLibrary->styleSheetFile()) {
+        return;
+    }
+    editConfig([&file](Config &config) {
+        if (MapPlaces::resolve(config.mapStyleSheet) != file) {
+            config.mapStyleSheet = AppPaths::storePath(file);
+        }
+    });
+}
+
+bool MainWindow::settleMaps(const Config &edited)
+{
+    const bool stays = MapPlaces::resolve(edited.mapIndex) == m_mapLibrary->indexFile();
+    return stays || !m_staticMapsWindow || m_staticMapsWindow->settleChanges();
 }
 
 bool MainWindow::closeMapWindows()

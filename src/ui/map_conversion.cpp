@@ -1,6 +1,5 @@
 #include "ui/map_conversion.h"
 
-#include "map_import/map_import.h"
 #include "maps/map_file.h"
 
 #include <utility>
@@ -29,11 +28,12 @@ MapConversion::~MapConversion()
     cancel();
 }
 
-void MapConversion::start(const QString &source, const QString &target)
+void MapConversion::start(const QString &source, const QString &target, const MapImport::Options &options)
 {
     cancel();
     m_pass = std::make_shared<Pass>();
-    m_thread.reset(QThread::create([this, pass = m_pass, source, target] { convert(pass, source, target); }));
+    m_thread.reset(
+        QThread::create([this, pass = m_pass, source, target, options] { convert(pass, source, target, options); }));
     m_thread->setObjectName("conversion");
     m_thread->start(QThread::LowPriority);
 }
@@ -48,7 +48,8 @@ void MapConversion::cancel()
 }
 
 // On the conversion's own thread. What it posts after it has been cancelled is not delivered.
-void MapConversion::convert(const std::shared_ptr<Pass> &pass, const QString &source, const QString &target)
+void MapConversion::convert(
+    const std::shared_ptr<Pass> &pass, const QString &source, const QString &target, const MapImport::Options &options)
 {
     const auto post = [this, pass](auto deliver) {
         const auto unlessCancelled = [pass, deliver] {
@@ -66,7 +67,7 @@ void MapConversion::convert(const std::shared_ptr<Pass> &pass, const QString &so
     };
     QString error;
     MapImport::Report report;
-    const MapData map = MapImport::read(source, MapImport::Options(), progress, &error, &report);
+    const MapData map = MapImport::read(source, options, progress, &error, &report);
     if (error.isEmpty() && !pass->cancelled) {
         error = writeMap(map, target);
     }

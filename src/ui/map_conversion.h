@@ -1,5 +1,7 @@
 #pragma once
 
+#include "map_import/map_import.h"
+
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -17,7 +19,7 @@ public:
     ~MapConversion() override;
 
     // Ends the conversion under way. The target's suffix says which of our formats it is to have.
-    void start(const QString &source, const QString &target);
+    void start(const QString &source, const QString &target, const MapImport::Options &options);
     // No answer comes any more; waits for the end.
     void cancel();
     bool running() const { return m_pass != nullptr; }
@@ -35,7 +37,8 @@ private:
         int percent = -1; // converting thread
     };
 
-    void convert(const std::shared_ptr<Pass> &pass, const QString &source, const QString &target);
+    void convert(const std::shared_ptr<Pass> &pass, const QString &source, const QString &target,
+        const MapImport::Options &options);
 
     std::shared_ptr<Pass> m_pass; // null while none is under way
     std::unique_ptr<QThread> m_thread;

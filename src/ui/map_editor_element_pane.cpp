@@ -1,9 +1,10 @@
 #include "ui/map_editor_element_pane.h"
 
-#include "display/static_map_symbols.h"
 #include "ui/coordinate_edit.h"
 #include "ui/field_form.h"
 #include "ui/map_editor_point_pane.h"
+#include "ui/map_symbol_items.h"
+#include "ui/quiet_hint.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -12,38 +13,23 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPixmap>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
 #include <QToolButton>
 #include <QVBoxLayout>
 
-namespace {
-
-constexpr int SymbolSize = 20; // pixels
-
-QIcon symbolIcon(const QString &type, const QWidget &widget)
-{
-    const qreal ratio = widget.devicePixelRatioF();
-    QPixmap picture(QSize(SymbolSize, SymbolSize) * ratio);
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    drawStaticMapSymbol(painter, type, SymbolSize, widget.palette().color(QPalette::Text));
-    return QIcon(picture);
-}
-
-} // namespace
-
 MapEditorElementPane::MapEditorElementPane(MapEditorDocument *document, QWidget *parent)
     : QWidget(parent), m_document(document), m_form(new FieldForm(this)), m_name(new QLineEdit), m_class(new QComboBox),
       m_caption(new QPlainTextEdit), m_type(new QComboBox), m_image(new QToolButton), m_coordinate(new CoordinateEdit),
-      m_northwest(new CoordinateEdit), m_southeast(new CoordinateEdit), m_points(new MapEditorPointPane(document, this))
+      m_northwest(new CoordinateEdit), m_southeast(new CoordinateEdit),
+      m_points(new MapEditorPointPane(document, this)),
+      m_hint(makeQuietHint(tr("Select an element on the left, or add one."), this))
 {
     buildForm();
     auto *layout = new QVBoxLayout(this);
     m_form->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    layout->addWidget(m_hint, 1);
     layout->addWidget(m_form);
     layout->addWidget(m_points, 1);
     layout->addStretch(0);
@@ -61,11 +47,7 @@ void MapEditorElementPane::buildForm()
     m_caption->setMaximumHeight(m_caption->fontMetrics().height() * 4);
     m_caption->setTabChangesFocus(true);
     m_type->setObjectName(QStringLiteral("symbolType"));
-    m_type->setEditable(true);
-    m_type->setInsertPolicy(QComboBox::NoInsert);
-    m_type->setIconSize(QSize(SymbolSize, SymbolSize));
-    for (const QString &type : staticMapSymbolTypes())
-        m_type->addItem(symbolIcon(type, *m_type), type);
+    addMapSymbolItems(m_type);
     m_image->setObjectName(QStringLiteral("imageFile"));
     m_coordinate->setObjectName(QStringLiteral("coordinate"));
     m_northwest->setObjectName(QStringLiteral("northwest"));
@@ -117,6 +99,8 @@ void MapEditorElementPane::showRows()
 {
     const bool element = m_ref.isValid();
     const auto is = [&](MapElementKind kind) { return element && m_ref.kind == kind; };
+    m_hint->setVisible(m_ref.group < 0);
+    m_form->setVisible(m_ref.group >= 0);
     m_form->setRowVisible(m_name, m_ref.group >= 0);
     m_form->setRowVisible(m_class, isGroup());
     m_form->setRowVisible(m_caption, is(MapElementKind::Label));

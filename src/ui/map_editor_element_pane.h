@@ -8,6 +8,7 @@ class CoordinateEdit;
 class FieldForm;
 class MapEditorPointPane;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QToolButton;
@@ -62,4 +63,5 @@ private:
     CoordinateEdit *m_northwest; // corners of an image
     CoordinateEdit *m_southeast;
     MapEditorPointPane *m_points;
+    QLabel *m_hint; // instead of all of them
 };

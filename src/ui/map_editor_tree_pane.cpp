@@ -1,9 +1,11 @@
 #include "ui/map_editor_tree_pane.h"
 
 #include "ui/map_editor_tree_model.h"
+#include "ui/quiet_hint.h"
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
 #include <QTreeView>
@@ -37,6 +39,7 @@ MapEditorTreePane::MapEditorTreePane(MapEditorDocument *document, QWidget *paren
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_filter);
     layout->addWidget(m_view, 1);
+    makeHint();
     connect(m_filter, &QLineEdit::textChanged, this, &MapEditorTreePane::setFilter);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
         [this] { Q_EMIT currentChanged(current()); });
@@ -56,6 +59,24 @@ void MapEditorTreePane::expandSmall()
         elements += m_filtered->rowCount(m_filtered->index(i, 0));
     if (elements <= ExpandLimit)
         m_view->expandAll();
+}
+
+void MapEditorTreePane::makeHint()
+{
+    m_hint = makeQuietHint({}, m_view->viewport());
+    auto *onView = new QVBoxLayout(m_view->viewport());
+    onView->addWidget(m_hint);
+    connect(m_filtered, &QAbstractItemModel::rowsInserted, this, &MapEditorTreePane::updateHint);
+    connect(m_filtered, &QAbstractItemModel::rowsRemoved, this, &MapEditorTreePane::updateHint);
+    connect(m_filtered, &QAbstractItemModel::modelReset, this, &MapEditorTreePane::updateHint);
+    updateHint();
+}
+
+void MapEditorTreePane::updateHint()
+{
+    const bool filtered = m_model->rowCount() > 0;
+    m_hint->setText(filtered ? tr("Nothing has this text.") : tr("Open a map, or add a group."));
+    m_hint->setVisible(m_filtered->rowCount() == 0);
 }
 
 void MapEditorTreePane::setFilter(const QString &text)

@@ -6,6 +6,7 @@
 
 class MapEditorTreeModel;
 class QAction;
+class QLabel;
 class QLineEdit;
 class QSortFilterProxyModel;
 class QTreeView;
@@ -37,9 +38,12 @@ private:
     QModelIndex viewIndex(const MapElementRef &ref) const;
     // At most so many rows are opened by themselves: more are no help to anybody.
     void expandSmall();
+    void makeHint();
+    void updateHint();
 
     MapEditorTreeModel *m_model;
     QSortFilterProxyModel *m_filtered;
     QLineEdit *m_filter;
     QTreeView *m_view;
+    QLabel *m_hint = nullptr; // on the empty view
 };

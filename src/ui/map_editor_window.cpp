@@ -36,6 +36,8 @@ MapEditorWindow::MapEditorWindow(QWidget *parent)
       m_toolBar(addToolBar(tr("Edit")))
 {
     setObjectName(stateGroup);
+    // A click on the plan view, to draw there, is not to hide this window behind it.
+    setWindowFlags(windowFlags() | Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     buildLayout();
     makeFileMenu();
     makeEditMenu();
@@ -151,11 +153,10 @@ void MapEditorWindow::makeAddMenu()
 void MapEditorWindow::makePlanMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Plan View"));
+    menu->setToolTipsVisible(true);
     m_drawAction = addAction(menu, tr("&Draw"), QKeySequence(Qt::CTRL | Qt::Key_D));
     m_drawAction->setCheckable(true);
-    m_drawAction->setToolTip(tr("Set points by clicks on the plan view; Enter ends, Escape cancels"));
     m_centerAction = addAction(menu, tr("&Go There"), QKeySequence(Qt::CTRL | Qt::Key_G));
-    m_centerAction->setToolTip(tr("Bring the element, or its current point, to the centre of the plan view"));
     connect(m_drawAction, &QAction::triggered, this, &MapEditorWindow::draw);
     connect(m_centerAction, &QAction::triggered, this, &MapEditorWindow::center);
     m_toolBar->addActions({m_drawAction, m_centerAction});
@@ -182,6 +183,7 @@ void MapEditorWindow::setGeoWidget(GeoWidget *widget, Projector *projector)
     connect(points, &MapEditorPointPane::currentPointChanged, m_planTool.get(), &MapEditorPlanTool::setCurrentPoint);
     connect(m_planTool.get(), &MapEditorPlanTool::pointPicked, points, &MapEditorPointPane::setCurrentPoint);
     connect(m_planTool.get(), &MapEditorPlanTool::drawingChanged, m_drawAction, &QAction::setChecked);
+    connect(m_planTool.get(), &MapEditorPlanTool::drawingChanged, this, &MapEditorWindow::tellHowToDraw);
     if (widget->mapDisplay())
         m_style->setGround(widget->mapDisplay()->backgroundColor());
     m_planTool->setActive(isVisible());
@@ -243,9 +245,21 @@ void MapEditorWindow::updateState()
     for (QAction *action : std::as_const(m_selectionActions))
         action->setEnabled(!selection.isEmpty());
     m_moveMenu->menuAction()->setEnabled(!selection.elements.isEmpty());
-    const bool onPlan = m_planTool && m_tree->current().isValid();
-    m_drawAction->setEnabled(onPlan);
-    m_centerAction->setEnabled(onPlan);
+    updatePlanActions();
+}
+
+// What they do, or why they cannot.
+void MapEditorWindow::updatePlanActions()
+{
+    const bool element = m_tree->current().isValid();
+    const QString obstacle = !m_planTool ? tr("There is no plan view") : tr("Select an element first");
+    const bool usable = m_planTool && element;
+    for (QAction *action : {m_drawAction, m_centerAction})
+        action->setEnabled(usable);
+    m_drawAction->setToolTip(
+        usable ? tr("Set points by clicks on the plan view; Enter ends, Escape cancels") : obstacle);
+    m_centerAction->setToolTip(
+        usable ? tr("Bring the element, or its current point, to the centre of the plan view") : obstacle);
 }
 
 void MapEditorWindow::updateTitle()
@@ -260,6 +274,15 @@ void MapEditorWindow::updateTitle()
 void MapEditorWindow::tell(const QString &text)
 {
     statusBar()->showMessage(text, MessageMs);
+}
+
+void MapEditorWindow::tellHowToDraw(bool drawing)
+{
+    if (drawing)
+        statusBar()->showMessage(
+            tr("Click on the plan view to set points. Enter or a double-click ends, Escape cancels."));
+    else
+        statusBar()->clearMessage();
 }
 
 void MapEditorWindow::showEvent(QShowEvent *event)

@@ -89,6 +89,7 @@ private:
     void fillMoveMenu();
     void showCurrent(const MapElementRef &ref);
     void updateState();
+    void updatePlanActions();
     void updateTitle();
     void updateShownElsewhere();
     void takeLibraryStyles();
@@ -99,6 +100,7 @@ private:
     void discardChanges();
     void reportFailure(const QString &text, const QString &fileName, const QString &reason);
     void tell(const QString &text);
+    void tellHowToDraw(bool drawing);
 
     MapEditorDocument m_document;
     const MapLibrary *m_library = nullptr;

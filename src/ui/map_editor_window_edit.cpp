@@ -103,7 +103,6 @@ void MapEditorWindow::draw(bool on)
         return;
     if (on) {
         m_planTool->startDrawing(m_element->pointPane()->insertionPoint());
-        tell(tr("Click on the plan view to set points. Enter or a double-click ends, Escape cancels."));
     } else {
         m_planTool->finishDrawing();
     }

@@ -4,6 +4,7 @@
 #include "ui/map_editor_element_pane.h"
 #include "ui/map_editor_meta_pane.h"
 #include "ui/map_editor_window.h"
+#include "ui/map_places.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -102,7 +103,7 @@ bool MapEditorWindow::save()
         complete = m_document.canSave() ? saveFile(m_document.path()) : saveAs();
     if (complete && m_document.styles().isModified()) {
         const QString file = m_document.styles().file();
-        complete = file.isEmpty() ? saveStyleSheetAs() : saveStyleSheet(file);
+        complete = file.isEmpty() ? saveStyleSheetAs() : saveStyleSheet(MapPlaces::writable(file));
     }
     return complete;
 }

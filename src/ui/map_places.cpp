@@ -22,9 +22,9 @@ QString MapPlaces::resolve(const QString &path)
     return QDir::cleanPath(own);
 }
 
-QString MapPlaces::writableIndex(const QString &indexFile)
+QString MapPlaces::writable(const QString &file)
 {
-    const QFileInfo index(indexFile);
-    return index.absoluteDir() == QDir(installedDir()) ? QDir(AppPaths::appDataDir()).absoluteFilePath(index.fileName())
-                                                       : index.absoluteFilePath();
+    const QFileInfo info(file);
+    return info.absoluteDir() == QDir(installedDir()) ? QDir(AppPaths::appDataDir()).absoluteFilePath(info.fileName())
+                                                      : info.absoluteFilePath();
 }

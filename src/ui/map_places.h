@@ -12,7 +12,8 @@ QString installedDir();
 // Absolute. A file that is nowhere yet belongs to the user's data.
 QString resolve(const QString &path);
 
-// The file to write an index to that was read from this one: the user's own, where it is the installed one.
-QString writableIndex(const QString &indexFile);
+// The file to write an index or a style sheet to that was read from this one: the user's own, where it is an installed
+// one. Settings that name it by a relative path find that from then on.
+QString writable(const QString &file);
 
 } // namespace MapPlaces

@@ -1,7 +1,5 @@
 #include "ui/static_maps_window.h"
 
-#include "app/app_paths.h"
-#include "map_import/map_import.h"
 #include "maps/map_library.h"
 #include "ui/map_center.h"
 #include "ui/map_conversion.h"
@@ -10,12 +8,12 @@
 #include "ui/static_maps_model.h"
 #include "ui/text_colors.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTableView>
@@ -55,7 +53,7 @@ StaticMapsWindow::StaticMapsWindow(MapLibrary *library, QWidget *parent)
     makeLayout();
     connectLibrary();
     selectMap(m_model->id(0));
-    m_table->resizeColumnsToContents();
+    fitColumns();
     updateState();
     resize(980, 460);
 }
@@ -76,6 +74,7 @@ void StaticMapsWindow::makeTable()
     m_table->setShowGrid(false);
     m_table->setAlternatingRowColors(true);
     m_table->setWordWrap(false);
+    m_table->setTextElideMode(Qt::ElideMiddle); // paths differ at their ends
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setStretchLastSection(true);
@@ -89,6 +88,19 @@ void StaticMapsWindow::makeTable()
     auto *removeKey = new QShortcut(QKeySequence::Delete, m_table);
     removeKey->setContext(Qt::WidgetShortcut);
     connect(removeKey, &QShortcut::activated, this, &StaticMapsWindow::removeSelected);
+}
+
+// Wide enough too for maps that are added later.
+void StaticMapsWindow::fitColumns()
+{
+    m_table->resizeColumnsToContents();
+    const auto widen = [this](int column, const QString &text) {
+        const int width = m_table->fontMetrics().horizontalAdvance(text);
+        m_table->setColumnWidth(column, std::max(m_table->columnWidth(column), width));
+    };
+    widen(StaticMapsModel::Column::Title, QString(20, u'n'));
+    widen(StaticMapsModel::Column::File, QString(30, u'n'));
+    widen(StaticMapsModel::Column::Size, QStringLiteral("1023 bytes  "));
 }
 
 QPushButton *StaticMapsWindow::addButton(QBoxLayout *layout, const QString &text, const QString &name)
@@ -157,7 +169,10 @@ void StaticMapsWindow::makeLayout()
 void StaticMapsWindow::connectLibrary()
 {
     // After the model, which was connected first.
-    connect(m_library, &MapLibrary::mapsChanged, this, [this] { selectMap(m_selected); });
+    connect(m_library, &MapLibrary::mapsChanged, this, [this] {
+        // Another index has other maps.
+        selectMap(m_model->row(m_selected) >= 0 ? m_selected : m_model->id(0));
+    });
     connect(m_library, &MapLibrary::mapsChanged, this, &StaticMapsWindow::updateState);
     connect(m_library, &MapLibrary::mapChanged, this, &StaticMapsWindow::updateState);
     connect(m_library, &MapLibrary::styleSheetChanged, this, &StaticMapsWindow::updateState);
@@ -233,7 +248,26 @@ void StaticMapsWindow::showDetails(const QString &refusal)
     if (map && map->data && !map->data->description.isEmpty()) {
         lines.append(map->data->description.toHtmlEscaped());
     }
+    if (map && m_importNotes.contains(map->id)) {
+        lines.append(m_importNotes.value(map->id).toHtmlEscaped());
+    }
+    if (const QStringList classes = map && map->data ? unstyledClasses(*map->data) : QStringList();
+        !classes.isEmpty()) {
+        lines.append(tr("The style sheet does not have: %1").arg(classes.join(QStringLiteral(", "))).toHtmlEscaped());
+    }
     m_details->setText(lines.join(QStringLiteral("<br>")));
+}
+
+// They are drawn in black, and nobody would know why.
+QStringList StaticMapsWindow::unstyledClasses(const MapData &map) const
+{
+    QStringList classes;
+    for (const MapElementGroup &group : map.groups) {
+        if (!m_library->styleSheet().contains(group.className) && !classes.contains(group.className)) {
+            classes.append(group.className);
+        }
+    }
+    return classes;
 }
 
 void StaticMapsWindow::chooseFiles()
@@ -248,25 +282,17 @@ void StaticMapsWindow::addFiles(const QStringList &files)
     for (const QString &file : files) {
         // What is in nobody's format is added all the same, and then says for itself what is wrong with it.
         if (MapFile::formatFromFileName(file) == MapFile::Unknown && MapImport::handles(file)) {
-            m_toConvert.append(file);
+            m_toImport.append(file);
         } else {
             addMap(file);
         }
     }
-    if (!m_conversion->running()) {
-        convertNext();
+    if (!m_conversion->running() && !m_importWindow) {
+        importNext();
     }
 }
 
-// Relative where the file is below the index, so that both can be moved together.
-QString StaticMapsWindow::indexPath(const QString &file) const
-{
-    const QString absolute = QFileInfo(file).absoluteFilePath();
-    const QString relative = QFileInfo(m_library->indexFile()).absoluteDir().relativeFilePath(absolute);
-    return relative.startsWith(QLatin1String("../")) ? absolute : relative;
-}
-
-void StaticMapsWindow::addMap(const QString &file)
+quint64 StaticMapsWindow::addMap(const QString &file)
 {
     const QString path = QDir::cleanPath(QFileInfo(file).absoluteFilePath());
     const QList<MapLibrary::Map> &maps = m_library->maps();
@@ -276,68 +302,14 @@ void StaticMapsWindow::addMap(const QString &file)
         const quint64 id = known->id;
         m_library->reload(id);
         selectMap(id);
-        return;
+        return id;
     }
     MapIndexEntry entry;
-    entry.file = indexPath(file);
+    entry.file = pathInMapIndex(file, m_library->indexFile());
     entry.visible = true;
-    selectMap(m_library->add(entry));
-}
-
-void StaticMapsWindow::convertNext()
-{
-    if (m_toConvert.isEmpty()) {
-        return;
-    }
-    if (!MapImport::available()) {
-        m_toConvert.clear();
-        reportFailure(tr("The file is in a format that has to be converted."), MapImport::missingText());
-        return;
-    }
-    const QFileInfo source(m_toConvert.takeFirst());
-    const QString proposed = QDir(AppPaths::appDataDir()).absoluteFilePath(source.completeBaseName() + ".map");
-    const QString target = QFileDialog::getSaveFileName(
-        this, tr("Convert %1 To").arg(source.fileName()), proposed, tr("Maps (*.map *.xml)"));
-    if (target.isEmpty()) {
-        convertNext();
-    } else {
-        convert(source.filePath(), QFileInfo(target).suffix().isEmpty() ? target + ".map" : target);
-    }
-}
-
-void StaticMapsWindow::convert(const QString &source, const QString &target)
-{
-    QDir().mkpath(QFileInfo(target).absolutePath());
-    m_conversionProgress =
-        new QProgressDialog(tr("Converting %1").arg(QFileInfo(source).fileName()), tr("Cancel"), 0, 100, this);
-    m_conversionProgress->setWindowModality(Qt::WindowModal);
-    m_conversionProgress->setMinimumDuration(300);
-    m_conversionProgress->setAutoClose(false);
-    m_conversionProgress->setAutoReset(false);
-    connect(m_conversion, &MapConversion::progressed, m_conversionProgress, &QProgressDialog::setValue);
-    connect(m_conversionProgress, &QProgressDialog::canceled, this, [this] {
-        m_conversion->cancel();
-        m_conversionProgress->deleteLater();
-        convertNext();
-    });
-    m_conversion->start(source, target);
-}
-
-void StaticMapsWindow::conversionFinished(const QString &target, const QString &error, const QStringList &notes)
-{
-    if (m_conversionProgress) {
-        m_conversionProgress->disconnect(this);
-        m_conversionProgress->deleteLater();
-    }
-    if (!error.isEmpty()) {
-        reportFailure(tr("The file could not be converted."), error);
-    } else {
-        addMap(target);
-        if (!notes.isEmpty()) {
-            showDetails(tr("Left out: %1").arg(notes.join(QStringLiteral("; "))));
-        }
-    }
-    convertNext();
+    const quint64 id = m_library->add(entry);
+    selectMap(id);
+    return id;
 }
 
 void StaticMapsWindow::removeSelected()
@@ -362,7 +334,7 @@ void StaticMapsWindow::moveSelected(int rows)
 void StaticMapsWindow::editSelected()
 {
     if (const MapLibrary::Map *map = m_library->map(selectedMap())) {
-        Q_EMIT editRequested(map->path);
+        Q_EMIT editRequested(map->path, map->entry.format);
     }
 }
 
@@ -400,7 +372,7 @@ void StaticMapsWindow::chooseStyleSheet()
 bool StaticMapsWindow::save()
 {
     const QString before = m_library->indexFile();
-    const QString target = MapPlaces::writableIndex(before);
+    const QString target = MapPlaces::writable(before);
     QString error;
     if (!m_library->saveIndexAs(target, &error)) {
         reportFailure(tr("The map index could not be saved."), error);
@@ -431,8 +403,9 @@ bool StaticMapsWindow::settleChanges()
 
 QMessageBox::StandardButton StaticMapsWindow::askAboutChanges()
 {
+    QWidget *inFront = QApplication::activeModalWidget(); // which made the question necessary, and would hide it
     QMessageBox question(QMessageBox::Question, windowTitle(), tr("The list of maps has been changed."),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, inFront ? inFront : this);
     question.setInformativeText(tr("Save the changes to the map index?"));
     question.setDefaultButton(QMessageBox::Save);
     return static_cast<QMessageBox::StandardButton>(question.exec());

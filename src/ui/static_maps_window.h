@@ -1,8 +1,11 @@
 #pragma once
 
 #include "geo/geo_coordinate.h"
+#include "map_import/map_import.h"
+#include "maps/map_file.h"
 #include "ui/geometry_dialog.h"
 
+#include <QHash>
 #include <QMessageBox>
 #include <QPointer>
 #include <QStringList>
@@ -27,14 +30,16 @@ public:
     // The library must outlive the window.
     explicit StaticMapsWindow(MapLibrary *library, QWidget *parent = nullptr);
 
-    // Files of our formats are added; for one of a foreign format the operator is asked where to convert it to.
+    // Files of our formats are added; for one of a foreign format the operator is asked how to import it.
     void addFiles(const QStringList &files);
     // 0: none.
     quint64 selectedMap() const;
     void selectMap(quint64 id);
     // False when the index could not be written, of which the operator was told.
     bool save();
-    // Stays open when the operator cancels or saving fails.
+    // Asks what to do with changes that the index does not have; false when the operator cancels or saving fails.
+    bool settleChanges();
+    // Stays open when they are not settled.
     void reject() override;
 
     // Replaces the question what to do with unsaved changes: save, discard or cancel.
@@ -47,7 +52,7 @@ public Q_SLOTS:
     void chooseStyleSheet();
 
 Q_SIGNALS:
-    void editRequested(const QString &path);
+    void editRequested(const QString &path, MapFile::Format format);
     void centerRequested(const GeoCoordinate &center);
     void styleSheetChosen(const QString &fileName);
     // The index was written to another file than it was read from.
@@ -56,6 +61,7 @@ Q_SIGNALS:
 private:
     QPushButton *addButton(QBoxLayout *layout, const QString &text, const QString &name);
     void makeTable();
+    void fitColumns();
     QBoxLayout *makeButtons();
     void makeLayout();
     void connectLibrary();
@@ -63,15 +69,15 @@ private:
     void updateButtons();
     void updateFiles();
     void showDetails(const QString &refusal = {});
-    QString indexPath(const QString &file) const;
-    void addMap(const QString &file);
-    void convertNext();
-    void convert(const QString &source, const QString &target);
+    QString importFolder() const;
+    QStringList unstyledClasses(const MapData &map) const;
+    quint64 addMap(const QString &file);
+    void importNext();
+    void convert(const QString &source, const QString &target, const MapImport::Options &options);
     void conversionFinished(const QString &target, const QString &error, const QStringList &notes);
     void editSelected();
     void reloadOrCancel();
     void centerOn(quint64 id);
-    bool settleChanges();
     QMessageBox::StandardButton askAboutChanges();
     void reportFailure(const QString &text, const QString &reason);
 
@@ -85,7 +91,9 @@ private:
     QLabel *m_details = nullptr;
     QLabel *m_styleLabel = nullptr;
     QPointer<QProgressDialog> m_conversionProgress;
-    QStringList m_toConvert; // after the one under way
+    QPointer<QDialog> m_importWindow;
+    QStringList m_toImport; // after the one under way
+    QHash<quint64, QString> m_importNotes; // what was left out of a map, in words
     QPushButton *m_editButton = nullptr;
     QPushButton *m_removeButton = nullptr;
     QPushButton *m_upButton = nullptr;

@@ -160,7 +160,8 @@ void TestMapLibrary::savesWhereItIsTold()
     QString error;
     QVERIFY2(m_library->saveIndexAs(path("new/folder/own.idx"), &error), qPrintable(error));
     QCOMPARE(readMapIndex(m_library->indexFile(), nullptr).value(0).file, path("A.xml"));
-    QVERIFY(!m_library->modified());
+    QVERIFY(!m_library->modified() && m_library->saveIndexAs(path("back.idx"), &error));
+    QCOMPARE(readMapIndex(path("back.idx"), nullptr).value(0).file, "A.xml");
     QVERIFY(!m_library->saveIndexAs(path("A.xml/is/no/folder"), &error) && !error.isEmpty());
 }
 

@@ -4,8 +4,11 @@
 #include "maps/map_library.h"
 #include "tracking/radar_sensor_info.h"
 #include "ui/actions.h"
+#include "ui/config_window.h"
+#include "ui/file_edit.h"
 #include "ui/layout_save_window.h"
 #include "ui/log_pane.h"
+#include "ui/map_editor_window.h"
 #include "ui/sensor_manager_window.h"
 #include "ui/static_maps_window.h"
 
@@ -27,6 +30,7 @@ private Q_SLOTS:
     void currentLayoutComesBack();
     void menuFollowsTheLayouts();
     void mapsAreLoadedAndToggled();
+    void otherFilesAreTaken();
 
 private:
     static QAction *action(const MainWindow &window, ActionId id) { return (*window.findChild<Actions *>())[id]; }
@@ -179,6 +183,40 @@ void TestMapLayouts::mapsAreLoadedAndToggled()
     window->close();
     QTest::qWait(50);
     QVERIFY2(window->isVisible() && list->isVisible(), "unsaved changes are not lost");
+}
+
+// A style sheet that was saved in the editor, and an index that was chosen in the settings.
+void TestMapLayouts::otherFilesAreTaken()
+{
+    const auto window = WindowFixture::makeWindow();
+    const auto *library = window->findChild<MapLibrary *>();
+    const QString installed = library->indexFile();
+    window->launchStaticMapEditor({}, MapFile::Unknown);
+    auto *editor = window->findChild<MapEditorWindow *>();
+    MapStyleClass style;
+    style.name = "added";
+    editor->document().putStyle(style);
+    QVERIFY(editor->save());
+    const QString own = AppPaths::appDataDir() + "/style.mss";
+    QVERIFY2(library->styleSheetFile() == own && library->styleSheet().contains("added"), "not the installed sheet");
+    QVERIFY(editor->saveStyleSheet(AppPaths::appDataDir() + "/night.mss"));
+    QVERIFY(library->styleSheetFile().endsWith("/night.mss") && !editor->isWindowModified());
+
+    window->showMapWindow();
+    auto *list = window->findChild<StaticMapsWindow *>();
+    QMessageBox::StandardButton answer = QMessageBox::Cancel;
+    list->setUnsavedQuestion([&answer] { return answer; });
+    window->showConfigWindow();
+    auto *settings = window->findChild<ConfigWindow *>();
+    settings->findChild<FileEdit *>("mapIndex")->setPath(AppPaths::appDataDir() + "/other.idx");
+    list->addFiles({"new.xml"});
+    QVERIFY2(!settings->apply() && library->indexFile() == installed && library->modified(), "nothing was applied");
+    answer = QMessageBox::Discard;
+    QVERIFY(settings->apply() && library->indexFile().endsWith("/other.idx"));
+    Config saved;
+    saved.load(AppPaths::configFile());
+    QVERIFY(saved.mapStyleSheet.endsWith("night.mss") && saved.mapIndex.endsWith("other.idx"));
+    QVERIFY(WindowFixture::close(*window));
 }
 
 QTEST_MAIN(TestMapLayouts)

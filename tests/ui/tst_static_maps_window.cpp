@@ -4,13 +4,18 @@
 #include "app/app_paths.h"
 #include "map_import/map_import.h"
 #include "maps/map_library.h"
+#include "ui/file_edit.h"
 #include "ui/map_conversion.h"
+#include "ui/map_import_window.h"
 #include "ui/map_places.h"
 #include "ui/static_maps_model.h"
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -37,6 +42,7 @@ private Q_SLOTS:
     void goesToAMap();
     void installedIndexIsCopied();
     void convertsForeignFiles();
+    void importsAsEntered();
 
 private:
     QString path(const QString &name) const { return m_directory->filePath(name); }
@@ -253,11 +259,65 @@ void TestStaticMapsWindow::convertsForeignFiles()
              Files("fix.geojson", "no/folder/fix.map"), Files("fix.geojson", "fix.png")}) {
         MapConversion conversion;
         const QSignalSpy finished(&conversion, &MapConversion::finished);
-        conversion.start(path(source), path(target));
+        conversion.start(path(source), path(target), {});
         QTRY_COMPARE(finished.size(), 1);
         const bool converts = target == "fix.map" && MapImport::available();
         QCOMPARE(finished.first().at(1).toString().isEmpty(), converts);
         QCOMPARE(QFile::exists(path(target)), converts);
+    }
+}
+
+void TestStaticMapsWindow::importsAsEntered()
+{
+    const MapImport::Options untouched;
+    QStringList targets;
+    MapImport::Options options;
+    bool replace = false;
+    const auto import = [&](const QString &target, const std::function<void(MapImportWindow &)> &enter) {
+        MapImportWindow window(path("fix.geojson"), {path("."), {"ctr"}});
+        connect(&window, &MapImportWindow::importRequested, this, [&](const QString &file, const auto &entered) {
+            targets.append(file);
+            options = entered;
+        });
+        window.setReplaceQuestion([&replace](const QString &) { return replace; });
+        if (!target.isNull()) {
+            window.findChild<FileEdit *>("target")->setPath(target);
+        }
+        enter(window);
+        window.show();
+        QTest::keyClick(&window, Qt::Key_Return);
+        return !window.isVisible();
+    };
+    const auto nothing = [](const MapImportWindow &) {};
+    for (const char *refused : {"", "fix.png", "fix.mapx", ".", "a.xml"}) {
+        QVERIFY2(!import(refused, nothing), refused);
+    }
+    replace = true;
+    QVERIFY(import("a.xml", nothing) && import("sub/fix", nothing) && import({}, nothing));
+    QCOMPARE(targets, QStringList({path("a.xml"), path("sub/fix.map"), path("fix.map")}));
+    QVERIFY(options.nameProperties == untouched.nameProperties && options.layers.isEmpty());
+    QVERIFY(options.className.isEmpty() && options.symbolType.isEmpty() && options.epsg == 0);
+    QVERIFY(options.captionProperties == untouched.captionProperties && options.tolerance == 0);
+    QVERIFY(options.fillAreas && options.pointSymbols && options.pointLabels && options.airspaces);
+    QVERIFY(import({}, [](MapImportWindow &window) {
+        window.findChild<QComboBox *>("symbolType")->setCurrentText("vor");
+        window.findChild<QLineEdit *>("layers")->setText(" a b,, c,");
+        window.findChild<QLineEdit *>("nameProperties")->setText("id");
+        window.findChild<QCheckBox *>("labels")->setChecked(false);
+    }));
+    QVERIFY(options.symbolType == "vor" && options.layers == QStringList({"a b", "c"}) && !options.pointLabels);
+    QVERIFY(options.nameProperties == QStringList("id") && options.pointSymbols);
+
+    write("fix.geojson", R"({"type": "Feature", "geometry": {"type": "Point", "coordinates": [16.0, 48.0]}})");
+    m_window->addFiles({path("fix.geojson"), path("fix.geojson"), path("a.xml")});
+    auto *window = m_window->findChild<MapImportWindow *>();
+    QCOMPARE(window != nullptr, MapImport::available());
+    if (window) {
+        window->findChild<QComboBox *>("className")->setCurrentText("unknown");
+        window->accept();
+        QTRY_COMPARE(order(), "abcfix");
+        QTRY_VERIFY(m_window->findChild<QLabel *>("details")->text().contains("unknown"));
+        QVERIFY2(m_window->findChild<MapImportWindow *>(), "the next file has its turn");
     }
 }
 
