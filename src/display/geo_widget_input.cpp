@@ -36,7 +36,8 @@ void GeoWidget::setPointerTool(GeoPointerTool *tool)
 bool GeoWidget::toolTakes(
     const QMouseEvent &event, bool (GeoPointerTool::*handler)(const QPointF &, const QTransform &))
 {
-    return m_pointerTool && !m_settingRangeRingsCenter && (m_pointerTool->*handler)(event.position(), screenTransform());
+    return m_pointerTool && !m_settingRangeRingsCenter
+        && (m_pointerTool->*handler)(event.position(), screenTransform());
 }
 
 void GeoWidget::mousePressEvent(QMouseEvent *event)

@@ -4,8 +4,8 @@
 #include "processors/alert_snapshot.h"
 #include "tracking/clock.h"
 
-#include <QMap>
 #include <QList>
+#include <QMap>
 #include <QObject>
 #include <QSharedPointer>
 #include <QTimer>

@@ -64,11 +64,10 @@ void MainWindow::connectReplay()
     connect(m_replayWindow, &ReplayWindow::pauseRequested, this, &MainWindow::pauseInput);
     connect(m_replayWindow, &ReplayWindow::stopRequested, this, &MainWindow::closeInput);
     connect(m_replayWindow, &ReplayWindow::speedChosen, this, &MainWindow::setReplaySpeed);
-    connect(m_replayWindow, &ReplayWindow::autoRewindChanged, this,
-        [this](bool again) {
-            m_config.edit([again](Config &config) { config.inputFileAutoRewind = again; });
-            m_host.setReplayAutoRewind(again);
-        });
+    connect(m_replayWindow, &ReplayWindow::autoRewindChanged, this, [this](bool again) {
+        m_config.edit([again](Config &config) { config.inputFileAutoRewind = again; });
+        m_host.setReplayAutoRewind(again);
+    });
     connect(m_replayWindow, &ReplayWindow::liveInputRequested, this, &MainWindow::returnToLiveInput);
 
     const DataEngine *engine = m_host.engine();
