@@ -4,9 +4,12 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 mapfile -t wanted < <(grep -vE '^\s*(#|$)' debian-packages.txt)
+# Under some releases a name is one that the package of another name provides.
+installed=$(dpkg-query -W -f '${db:Status-Status} ${Package} ${Provides}\n' 2>/dev/null |
+    sed -n 's/^installed //p' | tr -s ', ' '\n' || true)
 missing=()
 for package in "${wanted[@]}"; do
-    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+    grep -qxF "$package" <<<"$installed" || missing+=("$package")
 done
 [ ${#missing[@]} -gt 0 ] || exit 0
 
