@@ -3,6 +3,7 @@
 #include "ui/action_icon.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QKeySequence>
 #include <QMainWindow>
 #include <QMenu>
@@ -151,6 +152,7 @@ Actions::Actions(QMainWindow *window) : QObject(window), m_window(window)
         makeAction(spec, window);
     }
     updateIcons();
+    window->installEventFilter(this);
 }
 
 void Actions::makeMenus(QMainWindow *window)
@@ -212,11 +214,31 @@ void Actions::makeAction(const ActionSpec &spec, QMainWindow *window)
     bar->addAction(action);
 }
 
-void Actions::setToolBarText(bool shown)
+void Actions::setToolBarText(bool wanted)
 {
+    m_textWanted = wanted;
+    m_textWidth = 0;
+    for (QToolBar *bar : m_toolBars) {
+        bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        m_textWidth += bar->sizeHint().width();
+    }
+    fitToolBars();
+}
+
+void Actions::fitToolBars()
+{
+    const bool shown = m_textWanted && m_textWidth <= m_window->width();
     for (QToolBar *bar : m_toolBars) {
         bar->setToolButtonStyle(shown ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
     }
+}
+
+bool Actions::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_window && event->type() == QEvent::Resize) {
+        fitToolBars();
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void Actions::updateIcons()

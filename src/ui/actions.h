@@ -95,17 +95,24 @@ public:
     QMenu *menu(MenuId id) const { return m_menus[static_cast<std::size_t>(id)]; }
     QToolBar *toolBar(ToolBarId id) const { return m_toolBars[static_cast<std::size_t>(id)]; }
 
-    // Shows the icon texts beside the icons of the tool bars, or the icons alone.
-    void setToolBarText(bool shown);
+    // Shows the icon texts beside the icons of the tool bars, as long as the window is wide enough for all of them, or
+    // the icons alone.
+    void setToolBarText(bool wanted);
     // Draws the icons anew in the colours of the window's palette.
     void updateIcons();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void fitToolBars();
     void makeMenus(QMainWindow *window);
     void makeToolBars(QMainWindow *window);
     void makeAction(const ActionSpec &spec, QMainWindow *window);
 
     QMainWindow *m_window; // the parent
+    bool m_textWanted = false;
+    int m_textWidth = 0; // of all tool bars with their texts, pixels
     std::array<QAction *, static_cast<std::size_t>(ActionId::Count)> m_actions = {};
     std::array<QMenu *, static_cast<std::size_t>(MenuId::Count)> m_menus = {};
     std::array<QToolBar *, static_cast<std::size_t>(ToolBarId::Count)> m_toolBars = {};
