@@ -12,12 +12,12 @@
     <class name="land">
       <color>#3C4248</color>
       <pen>
-        <color>#83897F</color>
+        <color>#757B73</color>
         <line>solid</line>
         <width>1</width>
       </pen>
       <brush>
-        <color>#C6C7BC</color>
+        <color>#BDBEB3</color>
         <pattern>solid</pattern>
       </brush>
       <font>
@@ -28,7 +28,7 @@
     <class name="water">
       <color>#2B415A</color>
       <pen>
-        <color>#83897F</color>
+        <color>#757B73</color>
         <line>solid</line>
         <width>1</width>
       </pen>
@@ -44,12 +44,12 @@
     <class name="border">
       <color>#3C4248</color>
       <pen>
-        <color>#9A9C90</color>
+        <color>#92948A</color>
         <line>solid</line>
         <width>1</width>
       </pen>
       <brush>
-        <color>#009A9C90</color>
+        <color>#0092948A</color>
         <pattern>solid</pattern>
       </brush>
       <font>
