@@ -11,7 +11,7 @@
 // The drawings that stand for tracks, all of one size and colour.
 class TrackSymbols {
 public:
-    enum Symbol { Unknown, Psr, Ssr, PsrSsr, ModeS, PsrModeS, Adsb, Mlat, Smr, Aircraft, Vehicle, Count };
+    enum Symbol : int { Unknown, Psr, Ssr, PsrSsr, ModeS, PsrModeS, Adsb, Mlat, Smr, Aircraft, Vehicle, Count };
 
     // The size is in logical pixels, width and height.
     TrackSymbols(int size, const QColor &color);

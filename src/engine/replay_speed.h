@@ -7,7 +7,7 @@
 // How much faster or slower than it was recorded a recording is played.
 class ReplaySpeed {
 public:
-    enum Speed { Half = 0, Normal = 1, Double = 2, Quadruple = 3, Octuple = 4, Max = 5 };
+    enum Speed : int { Half = 0, Normal = 1, Double = 2, Quadruple = 3, Octuple = 4, Max = 5 };
 
     // "0.5x" to "8x" and "Max"; empty for a value that is none of the six.
     static QString name(Speed speed);

@@ -7,7 +7,7 @@
 class GeoCoordinate : public QGeoCoordinate {
 public:
     // Degrees-minutes-seconds texts of controller working positions, for 39°54′27.35″ N, 116°23′17.08″ E.
-    enum ATCStringFormat {
+    enum ATCStringFormat : int {
         NormalPrecision = 0, // 395427N1162317E
         NormalPrecisionComma = 1, // 395427N,1162317E
         NormalPrecisionSpace = 2, // 395427N 1162317E

@@ -21,7 +21,7 @@ class MapFile : public QObject {
     Q_OBJECT
 
 public:
-    enum Format {
+    enum Format : int {
         Unknown = 0,
         Legacy = 1, // airport maps of older systems, read only
         Xml = 2,

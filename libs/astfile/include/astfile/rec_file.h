@@ -9,7 +9,7 @@ namespace korvane::astfile {
 class RecFile {
 public:
     // The values are stored in settings; do not renumber.
-    enum Format {
+    enum Format : int {
         Unknown = 0,
         Pcap = 1, // network capture
         PcapNg = 2, // network capture, next generation

@@ -13,7 +13,7 @@ namespace korvane::modes {
 // A received Mode S frame, and the transport encapsulations in which receivers hand them out.
 class ModeSEncapsulation {
 public:
-    enum Format {
+    enum Format : int {
         Raw = 0, // frames of 7 or 14 octets, one after the other; the downlink format tells the length
         Avr = 1, // text: '*' frame ';', '@' 12 MHz time stamp, frame ';', '<' time stamp, signal level, frame ';'
         Beast = 2, // binary: escape octet 0x1A, frame kind, 12 MHz time stamp, signal level, frame
