@@ -1,33 +1,20 @@
-# vyx_folder_library(<folder> LINKS <targets> [PCH core|widgets] [EXCEPT <files>])
+# vyx_folder_library(<folder> LINKS <targets> [PCH core|widgets])
 #
-# One library per folder of src/, made of every source file in it. Its headers are included as "folder/header.h" and are visible to those targets alone
-# that link it: the include path holds a link to this folder and to no other, so an include of a higher floor, or of a
-# folder that is not linked, does not compile.
+# One library per folder of src/, made of every source file in it but a main.cpp. Its headers are included as
+# "folder/header.h" and are visible to those targets alone that link it: the include path holds a link to this folder
+# and to no other, so an include of a higher floor, or of a folder that is not linked, does not compile.
 function(vyx_folder_library folder)
-    cmake_parse_arguments(ARG "" "PCH" "LINKS;EXCEPT" ${ARGN})
+    cmake_parse_arguments(ARG "" "PCH" "LINKS" ${ARGN})
     set(target vyx_${folder})
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
-    list(TRANSFORM ARG_EXCEPT PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
-    list(REMOVE_ITEM sources ${ARG_EXCEPT})
+    list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
     add_library(${target} STATIC ${sources})
-    vyx_publish_headers(${target} PUBLIC ${folder})
+    set(root ${CMAKE_BINARY_DIR}/include/${target})
+    file(MAKE_DIRECTORY ${root})
+    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/${folder} SYMBOLIC)
+    target_include_directories(${target} PUBLIC ${root})
     target_link_libraries(${target} PUBLIC ${ARG_LINKS})
     vyx_use_pch(${target} "${ARG_PCH}")
-endfunction()
-
-# Makes the headers of src/<folder> (or only those named after it) visible as "folder/header.h" to the target's users.
-function(vyx_publish_headers target scope folder)
-    set(root ${CMAKE_BINARY_DIR}/include/${target})
-    if(ARGN)
-        file(MAKE_DIRECTORY ${root}/${folder})
-        foreach(header IN LISTS ARGN)
-            file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${folder}/${header} ${root}/${folder}/${header} SYMBOLIC)
-        endforeach()
-    else()
-        file(MAKE_DIRECTORY ${root})
-        file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${folder} ${root}/${folder} SYMBOLIC)
-    endif()
-    target_include_directories(${target} ${scope} ${root})
 endfunction()
 
 # Shares one precompiled set of Qt headers among the targets of a kind: core (Core, Gui, Network) or widgets.
@@ -41,16 +28,40 @@ function(vyx_use_pch target kind)
     endif()
 endfunction()
 
-# vyx_test(<folder> <name> LINKS <targets> [PCH kind]): tests/<folder>/<name>.cpp becomes the program and ctest entry
-# <name>, run without a screen.
-function(vyx_test folder name)
-    cmake_parse_arguments(ARG "" "PCH" "SOURCES;LINKS" ${ARGN})
-    add_executable(${name} ${name}.cpp ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test)
-    vyx_use_pch(${name} "${ARG_PCH}")
-    add_test(NAME ${folder}/${name} COMMAND ${name})
-    set_tests_properties(${folder}/${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 120)
+# vyx_test_folder(<folder> LINKS <targets> [PCH kind] [APPLICATION core|gui|widgets] [FIXTURES <test folders>]
+#     [SOURCES <files>] [EXCEPT <names>])
+#
+# One program, tests_<folder>, of every tst_*.cpp in tests/<folder>; each file is a ctest entry of its own, run without
+# a screen in a process of its own. APPLICATION: the kind of application object that the tests run in. FIXTURES: other
+# test folders whose headers are used. EXCEPT: files that are not built here, without their ending.
+function(vyx_test_folder folder)
+    cmake_parse_arguments(ARG "" "PCH;APPLICATION" "LINKS;FIXTURES;SOURCES;EXCEPT" ${ARGN})
+    set(target tests_${folder})
+    file(GLOB files CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/tst_*.cpp)
+    list(TRANSFORM ARG_EXCEPT PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+    list(TRANSFORM ARG_EXCEPT APPEND .cpp)
+    list(REMOVE_ITEM files ${ARG_EXCEPT})
+    add_executable(${target} ${files} ${ARG_SOURCES} ${PROJECT_SOURCE_DIR}/tests/test_program.cpp)
+    list(TRANSFORM ARG_FIXTURES PREPEND ${PROJECT_SOURCE_DIR}/tests/)
+    target_include_directories(${target} PRIVATE
+        ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR} ${ARG_FIXTURES})
+    target_link_libraries(${target} PRIVATE ${ARG_LINKS} Qt6::Test)
+    if(ARG_APPLICATION STREQUAL "widgets")
+        target_link_libraries(${target} PRIVATE Qt6::Widgets)
+        target_compile_definitions(${target} PRIVATE VYX_TEST_APPLICATION=QApplication)
+    elseif(ARG_APPLICATION STREQUAL "gui")
+        target_link_libraries(${target} PRIVATE Qt6::Gui)
+        target_compile_definitions(${target} PRIVATE VYX_TEST_APPLICATION=QGuiApplication)
+    else()
+        target_compile_definitions(${target} PRIVATE VYX_TEST_APPLICATION=QCoreApplication)
+    endif()
+    vyx_use_pch(${target} "${ARG_PCH}")
+    foreach(file IN LISTS files)
+        cmake_path(GET file STEM name)
+        add_test(NAME ${folder}/${name} COMMAND ${target} ${name})
+        set_tests_properties(${folder}/${name} PROPERTIES
+            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 120)
+    endforeach()
 endfunction()
 
 # vyx_bench(<name> LINKS <targets> [PCH kind]): <name>.cpp in the current folder becomes a Google Benchmark program that

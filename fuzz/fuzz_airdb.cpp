@@ -15,8 +15,9 @@ using namespace korvane::airdb;
 
 void require(bool condition, const char *what)
 {
-    if (condition)
+    if (condition) {
         return;
+    }
     std::fprintf(stderr, "%s\n", what);
     std::abort();
 }
@@ -47,8 +48,9 @@ void load(const QByteArray &octets)
     const bool isLoaded = database.loadFromData(octets);
     require(isLoaded == database.lastError().isEmpty(), "loaded and error disagree");
     lookAround(database);
-    if (!isLoaded)
+    if (!isLoaded) {
         return;
+    }
     // What loads is written such that it loads, and is then written the same.
     const QByteArray written = AirDBBuilder(database).toData();
     LibAirDB again;
@@ -77,11 +79,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
 {
     const QByteArray octets(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     const unsigned kind = size == 0 ? 0 : *data;
-    if (kind == 0)
+    if (kind == 0) {
         load(octets.mid(1));
-    else if (kind == 1)
+    } else if (kind == 1) {
         load(sealed(octets.mid(1)));
-    else
+    } else {
         import(kind - 2, octets.mid(1));
+    }
     return 0;
 }

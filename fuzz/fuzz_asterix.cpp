@@ -20,8 +20,9 @@ using korvane::asterix::TextBuffer;
 // What must hold does not depend on assertions being compiled in.
 void require(bool condition, const char *what)
 {
-    if (condition)
+    if (condition) {
         return;
+    }
     std::fprintf(stderr, "%s\n", what);
     std::abort();
 }
@@ -40,8 +41,9 @@ public:
 
     void check(const _ast_item_registers_t &registers) const
     {
-        if (registers.present)
+        if (registers.present) {
             check(registers.octets, 8U * registers.count);
+        }
     }
 
 private:
@@ -91,8 +93,9 @@ int disassembleTargets(const _ast_datarecord_t &record, const Within &within)
         within.check(registers);
         decodeRegisters(registers);
     }
-    if (cat020.i260.present)
+    if (cat020.i260.present) {
         within.check(cat020.i260.octets, 7);
+    }
     return cat010.valid + cat020.valid + cat062.valid;
 }
 
@@ -103,12 +106,14 @@ int disassembleProcessed(const _ast_datarecord_t &record)
     ast_datarecord_004_disassemble(&cat004, record);
     ast_datarecord_008_disassemble(&cat008, record);
     require(cat004.i060.count <= std::size(cat004.i060.entries), "more functions than there are");
-    for (unsigned i = 0; i < cat004.i060.count; ++i)
+    for (unsigned i = 0; i < cat004.i060.count; ++i) {
         require(*ast_snet_message_type_get_id(cat004.i060.entries[i].type) != 'U', "function without a name");
+    }
     _ast_weather_segment_t segment;
     const unsigned segments = ast_weather_segment_count(cat008);
-    for (unsigned i = 0; i < segments; ++i)
+    for (unsigned i = 0; i < segments; ++i) {
         require(ast_weather_segment_get(&segment, cat008, i, cat008.i100.scalingFactor), "segment is missing");
+    }
     require(!ast_weather_segment_get(&segment, cat008, segments, 0), "segment too many");
     return cat004.valid + cat008.valid;
 }
@@ -118,11 +123,13 @@ int disassembleVideo(const _ast_datarecord_t &record, const Within &within)
     _ast_datarecord_240_t cat240;
     ast_datarecord_240_disassemble(&cat240, record);
     for (const _ast_item_video_block_t &block : {cat240.i050, cat240.i051, cat240.i052}) {
-        if (block.present)
+        if (block.present) {
             within.check(block.octets, block.size);
+        }
     }
-    if (cat240.i030.present)
+    if (cat240.i030.present) {
         within.check(cat240.i030.text, cat240.i030.length);
+    }
     require(ast_datarecord_240_get_sacsic(record).present == cat240.i010.present, "sources differ");
     _ast_video_vector_t vector;
     std::vector<unsigned> cells;
@@ -164,8 +171,9 @@ void disassemble(const _ast_datarecord_t &record)
 std::string print(const _ast_datablock_t &block, Expansion expansion)
 {
     TextBuffer text;
-    for (const _ast_datarecord_t &record : block.records)
+    for (const _ast_datarecord_t &record : block.records) {
         appendRecordJson(text, record, {.block = 1}, expansion);
+    }
     return std::string(text.text());
 }
 
@@ -185,8 +193,9 @@ public:
     {
         m_line.clear();
         appendRecordJson(m_line, record, {.block = 1});
-        if (!m_encoder.addLine(m_line.text()))
+        if (!m_encoder.addLine(m_line.text())) {
             return; // a record with too much in it for the wire form
+        }
         m_encoder.finish();
         require(itemsOf(m_again) == itemsOf(m_line.text()), "encoded record differs");
     }
@@ -225,10 +234,12 @@ void decode(const unsigned char *data, std::size_t size, const _ast_uap_t *uap)
     static Encoding encodings[] = {{AST_UAP_STANDARD, "2.7"}, {AST_UAP_CAT021_VER023, "0.23"},
         {AST_UAP_CAT021_VER026, "0.26"}, {AST_UAP_CAT021_VER21, "2.1"}};
     for (Encoding &encoding : encodings) {
-        if (encoding.profile() != uap || (block.category != 21 && uap != AST_UAP_STANDARD))
+        if (encoding.profile() != uap || (block.category != 21 && uap != AST_UAP_STANDARD)) {
             continue;
-        for (const _ast_datarecord_t &record : block.records)
+        }
+        for (const _ast_datarecord_t &record : block.records) {
             encoding.repeat(record);
+        }
     }
 }
 
@@ -238,7 +249,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
 {
     const _ast_uap_t *const profiles[] = {nullptr, AST_UAP_STANDARD, AST_UAP_CAT001_PLOT, AST_UAP_ASR10SS,
         AST_UAP_CAT021_VER023, AST_UAP_CAT021_VER026, AST_UAP_CAT021_VER21, AST_UAP_CAT021_VER27, AST_UAP_THALES};
-    for (const _ast_uap_t *profile : profiles)
+    for (const _ast_uap_t *profile : profiles) {
         decode(data, size, profile);
+    }
     return 0;
 }

@@ -19,8 +19,9 @@ constexpr qint64 MaxData = 65535;
 
 void require(bool condition, const char *what)
 {
-    if (condition)
+    if (condition) {
         return;
+    }
     std::fprintf(stderr, "%s\n", what);
     std::abort();
 }
@@ -72,13 +73,15 @@ Contents readAll(FileReader &reader)
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
 {
-    if (size < PrefixSize)
+    if (size < PrefixSize) {
         return 0;
+    }
     const auto format = static_cast<RecFile::Format>(1 + data[0] % Formats);
     const MemoryFile file(data + PrefixSize, size - PrefixSize);
     const auto reader = FileReader::create(format);
-    if (!reader->open(file.path(), format))
+    if (!reader->open(file.path(), format)) {
         return 0;
+    }
     const Contents contents = readAll(*reader);
     require(reader->reset() && readAll(*reader) == contents, "second reading differs");
     const RecordingIndex index = RecordingIndex::build(file.path(), format);

@@ -6,8 +6,9 @@
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
 {
     constexpr std::size_t prefixSize = 3;
-    if (size < prefixSize)
+    if (size < prefixSize) {
         return 0;
+    }
     static MapFuzzFiles files;
     files.readTwice(MapFile::Map, data + prefixSize, size - prefixSize);
     return 0;

@@ -36,8 +36,9 @@ void readIndex(const QString &path, const QString &copy)
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
 {
     constexpr std::size_t prefixSize = 3;
-    if (size < prefixSize)
+    if (size < prefixSize) {
         return 0;
+    }
     static MapFuzzFiles files;
     files.readTwice(MapFile::Xml, data + prefixSize, size - prefixSize);
     files.read(MapFile::Legacy);

@@ -18,8 +18,9 @@ constexpr std::size_t LargestRest = 100; // octets, of the beginning of a frame
 
 void require(bool condition, const char *what)
 {
-    if (condition)
+    if (condition) {
         return;
+    }
     std::fprintf(stderr, "%s\n", what);
     std::abort();
 }
@@ -67,8 +68,9 @@ void compare(const std::string &stream, Format format)
     const std::vector<ModeSFrame> pieces = extractInPieces(stream, format, 1 + stream.size() % 23);
     require(std::equal(whole.begin(), whole.end(), pieces.begin(), pieces.end(), isEqual), "pieces make a difference");
     std::string again;
-    for (const ModeSFrame &frame : whole)
+    for (const ModeSFrame &frame : whole) {
         appendEncapsulated(again, frame, format);
+    }
     const std::vector<ModeSFrame> repeated = extractInPieces(again, format, again.size());
     require(std::equal(whole.begin(), whole.end(), repeated.begin(), repeated.end(), isEqual), "encoded frames differ");
 }
@@ -77,8 +79,9 @@ void compare(const std::string &stream, Format format)
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
 {
-    if (size == 0)
+    if (size == 0) {
         return 0;
+    }
     const std::string stream(data, data + size);
     compare(stream, ModeSEncapsulation::Beast);
     compare(stream, ModeSEncapsulation::Avr);

@@ -12,8 +12,9 @@ namespace {
 // What must hold does not depend on assertions being compiled in.
 void require(bool condition, const char *what)
 {
-    if (condition)
+    if (condition) {
         return;
+    }
     std::fprintf(stderr, "%s\n", what);
     std::abort();
 }
@@ -37,25 +38,31 @@ void ask(const AleniaSirMRadarTrackRecord &track)
     again.setPosition(track.x(), track.y());
     again.setTrackEnd(track.trackEnd());
     again.setCoasting(track.coasting());
-    if (track.velocityPresent())
+    if (track.velocityPresent()) {
         again.setVelocity(track.vx(), track.vy(), track.velocityValid());
-    if (track.rateOfClimbDescentValid())
+    }
+    if (track.rateOfClimbDescentValid()) {
         again.setRateOfClimbDescent(track.rateOfClimbDescent());
-    if (track.modeCHeightValid())
+    }
+    if (track.modeCHeightValid()) {
         again.setModeCHeight(track.modeCHeightImperial());
+    }
     require(again.octets() == track.octets(), "track changes by being set");
 }
 
 void ask(const AleniaSirMRadarMessage &message)
 {
-    if (message.type() != AleniaSirMRadarMessage::Type::Data)
+    if (message.type() != AleniaSirMRadarMessage::Type::Data) {
         return;
+    }
     const auto &data = static_cast<const AleniaSirMRadarDataMessage &>(message);
     require(data.sector() < 16, "no such sector");
-    for (const AleniaSirMRadarPlotRecord &plot : data.plotRecords())
+    for (const AleniaSirMRadarPlotRecord &plot : data.plotRecords()) {
         ask(plot);
-    for (const AleniaSirMRadarTrackRecord &track : data.trackRecords())
+    }
+    for (const AleniaSirMRadarTrackRecord &track : data.trackRecords()) {
         ask(track);
+    }
 }
 
 } // namespace
@@ -65,8 +72,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     const AleniaSirMRadarDecoder::Result result = AleniaSirMRadarDecoder::decode(data, size);
     require(result.valid() == (result.error == AleniaSirMRadarDecoder::Error::None), "valid and error disagree");
     require(result.size <= size && result.errorOffset <= size, "message is longer than its octets");
-    if (!result.valid())
+    if (!result.valid()) {
         return 0;
+    }
     ask(*result.message);
     const std::vector<unsigned char> octets = AleniaSirMRadarEncoder::encode(*result.message);
     require(octets.size() == result.size, "encoded message has another size");

@@ -138,8 +138,9 @@ bool write(const std::filesystem::path &folder, const std::string &name, int cat
     const std::function<void(BlockEncoder &)> &addRecord)
 {
     BlockEncoder encoder(category);
-    for (int i = 0; i < records; ++i)
+    for (int i = 0; i < records; ++i) {
         addRecord(encoder);
+    }
     std::ofstream file(folder / name, std::ios::binary);
     const auto block = encoder.block();
     file.write(reinterpret_cast<const char *>(block.data()), static_cast<std::streamsize>(block.size()));
@@ -221,13 +222,15 @@ bool write(const std::filesystem::path &folder, const Line &line)
     korvane::asterix::JsonEncoder encoder([&file](std::span<const unsigned char> block) {
         file.write(reinterpret_cast<const char *>(block.data()), static_cast<std::streamsize>(block.size()));
     });
-    if (line.edition && !encoder.select(line.category, line.edition))
+    if (line.edition && !encoder.select(line.category, line.edition)) {
         return false;
+    }
     const std::string text =
         R"({"cat":)" + std::to_string(line.category) + R"(,"block":1,"items":{)" + line.items + "}}";
     const bool isEncoded = encoder.addLine(text);
-    if (!isEncoded)
+    if (!isEncoded) {
         std::fprintf(stderr, "%s: %s\n", line.file, encoder.lastError().c_str());
+    }
     encoder.finish();
     return isEncoded && file.good();
 }

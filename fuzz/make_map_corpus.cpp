@@ -33,8 +33,9 @@ MapData sampleMap()
 bool prefixFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadWrite))
+    if (!file.open(QIODevice::ReadWrite)) {
         return false;
+    }
     const QByteArray octets = Prefix + file.readAll();
     return file.seek(0) && file.write(octets) == octets.size();
 }
@@ -51,8 +52,9 @@ bool writeVersionOne(const QString &from, const QString &to)
 {
     QFile source(from);
     QFile target(to);
-    if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
+    if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly)) {
         return false;
+    }
     QByteArray octets = source.readAll();
     const QByteArray name("\0\0\0\x0a\0i\0.\0p\0n\0g", 14);
     octets.replace("MAP2", "MAP1").replace(name, "");
@@ -99,8 +101,9 @@ int main(int argc, char *argv[])
     const QDir folder(app.arguments().value(1, QStringLiteral(".")));
     const QDir binary(folder.filePath("fuzz_map_binary"));
     const QDir xml(folder.filePath("fuzz_map_xml"));
-    if (binary.mkpath(".") && xml.mkpath(".") && writeAll(binary, xml))
+    if (binary.mkpath(".") && xml.mkpath(".") && writeAll(binary, xml)) {
         return 0;
+    }
     std::fputs("cannot write the corpus\n", stderr);
     return 1;
 }

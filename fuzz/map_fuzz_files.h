@@ -10,8 +10,9 @@
 
 inline void require(bool condition, const char *what)
 {
-    if (condition)
+    if (condition) {
         return;
+    }
     std::fprintf(stderr, "%s\n", what);
     std::abort();
 }
@@ -41,11 +42,13 @@ public:
         require(file.open(QIODevice::WriteOnly) && file.write(octets, qint64(size)) == qint64(size), "no input");
         file.close();
         MapData map = read(format);
-        if (map == MapData{})
+        if (map == MapData{}) {
             return;
+        }
         for (MapElementGroup &group : map.groups) {
-            for (MapImageElement &image : group.images)
+            for (MapImageElement &image : group.images) {
                 image.file.clear(); // must not write where the input says
+            }
         }
         require(write(format, map) && sameShape(read(format, copyPath()), map), "second reading differs");
     }
@@ -82,8 +85,9 @@ private:
             same = a.polylines.size() == b.polylines.size() && a.polygons.size() == b.polygons.size()
                 && a.labels.size() == b.labels.size() && a.symbols.size() == b.symbols.size()
                 && a.images.size() == b.images.size();
-            for (qsizetype k = 0; same && k < a.polylines.size(); ++k)
+            for (qsizetype k = 0; same && k < a.polylines.size(); ++k) {
                 same = a.polylines.at(k).points.size() == b.polylines.at(k).points.size();
+            }
         }
         return same;
     }

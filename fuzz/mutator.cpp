@@ -10,8 +10,9 @@ constexpr std::size_t MaxOctets = 4096;
 // The length field made to fit, so that a fault further in is reached.
 void mendLength(Octets &octets)
 {
-    if (octets.size() < 3)
+    if (octets.size() < 3) {
         return;
+    }
     octets[1] = static_cast<unsigned char>(octets.size() >> 8);
     octets[2] = static_cast<unsigned char>(octets.size());
 }
@@ -34,13 +35,16 @@ unsigned char Mutator::octet()
 Octets Mutator::next()
 {
     Octets octets = m_corpus[below(m_corpus.size())];
-    for (std::size_t count = 1 + below(4); count > 0; --count)
+    for (std::size_t count = 1 + below(4); count > 0; --count) {
         mutate(octets);
-    if (octets.size() > MaxOctets)
+    }
+    if (octets.size() > MaxOctets) {
         octets.resize(MaxOctets);
+    }
     // Mostly whole blocks: otherwise nothing but the header would be looked at.
-    if (below(8) != 0)
+    if (below(8) != 0) {
         mendLength(octets);
+    }
     return octets;
 }
 
@@ -49,8 +53,9 @@ void Mutator::mutate(Octets &octets)
     switch (below(6)) {
     case 0:
     case 1:
-        if (!octets.empty())
+        if (!octets.empty()) {
             octets[below(octets.size())] ^= static_cast<unsigned char>(1U << below(8));
+        }
         break;
     case 2:
         editLength(octets);
@@ -86,8 +91,9 @@ void Mutator::insert(Octets &octets)
 // Counts, lengths and FX bits lie anywhere; the block's own length is where it is.
 void Mutator::editLength(Octets &octets)
 {
-    if (octets.size() < 4)
+    if (octets.size() < 4) {
         return;
+    }
     const std::size_t at = below(4) == 0 ? 1 + below(2) : 3 + below(octets.size() - 3);
     octets[at] = octet();
 }

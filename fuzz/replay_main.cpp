@@ -25,11 +25,13 @@ Octets readFile(const std::filesystem::path &path)
 std::vector<std::filesystem::path> filesOf(const std::filesystem::path &path)
 {
     std::vector<std::filesystem::path> files;
-    if (!std::filesystem::is_directory(path))
+    if (!std::filesystem::is_directory(path)) {
         return {path};
+    }
     for (const auto &entry : std::filesystem::directory_iterator(path)) {
-        if (entry.is_regular_file())
+        if (entry.is_regular_file()) {
             files.push_back(entry.path());
+        }
     }
     std::sort(files.begin(), files.end()); // the order of a folder is not the same everywhere
     return files;
@@ -57,19 +59,22 @@ int main(int argc, char *argv[])
         } else if (argument == "--seed" && i + 1 < argc) {
             seed = std::strtoull(argv[++i], nullptr, 10);
         } else {
-            for (const std::filesystem::path &file : filesOf(argument))
+            for (const std::filesystem::path &file : filesOf(argument)) {
                 corpus.push_back(readFile(file));
+            }
         }
     }
     if (corpus.empty()) {
         std::fprintf(stderr, "no corpus: %s [--mutate N] [--seed S] FILE|FOLDER...\n", argv[0]);
         return 2;
     }
-    for (const Octets &octets : corpus)
+    for (const Octets &octets : corpus) {
         run(octets);
+    }
     Mutator mutator(corpus, seed);
-    for (unsigned long long i = 0; i < mutations; ++i)
+    for (unsigned long long i = 0; i < mutations; ++i) {
         run(mutator.next());
+    }
     std::printf("%zu files, %llu mutations\n", corpus.size(), mutations);
     return 0;
 }

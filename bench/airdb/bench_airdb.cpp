@@ -39,8 +39,9 @@ void load(benchmark::State &state)
 {
     const QByteArray octets = withAircraft(static_cast<int>(state.range(0)));
     LibAirDB database;
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(database.loadFromData(octets));
+    }
     state.counters["octets"] = static_cast<double>(octets.size());
 }
 

@@ -41,18 +41,20 @@ void decodeBlocks(benchmark::State &state, const SampleBlocks &blocks, Each each
         const unsigned char *at = blocks.octets.data();
         const unsigned char *const end = at + blocks.octets.size();
         while (at < end) {
-            if (profile)
+            if (profile) {
                 ast_datablock_decode(&block, at, static_cast<std::size_t>(end - at), profile);
-            else
+            } else {
                 ast_datablock_smart_decode(&block, at, static_cast<std::size_t>(end - at));
+            }
             each(block);
             at += block.size;
         }
     };
     round();
     const std::uint64_t before = allocations;
-    for (auto _ : state)
+    for (auto _ : state) {
         round();
+    }
     const double rounds = static_cast<double>(state.iterations());
     const double records = rounds * static_cast<double>(blocks.records);
     state.counters["records/s"] = benchmark::Counter(records, benchmark::Counter::kIsRate);
@@ -71,10 +73,11 @@ void disassemblePlots(benchmark::State &state)
         _ast_datarecord_034_t service;
         _ast_datarecord_048_t plot;
         for (const _ast_datarecord_t &record : block.records) {
-            if (block.category == 48)
+            if (block.category == 48) {
                 ast_datarecord_048_disassemble(&plot, record);
-            else
+            } else {
                 ast_datarecord_034_disassemble(&service, record);
+            }
             benchmark::DoNotOptimize(plot);
             benchmark::DoNotOptimize(service);
         }
@@ -97,8 +100,9 @@ void printJson(benchmark::State &state, const SampleBlocks &blocks)
     TextBuffer text;
     decodeBlocks(state, blocks, [&text](_ast_datablock_t &block) {
         text.clear();
-        for (const _ast_datarecord_t &record : block.records)
+        for (const _ast_datarecord_t &record : block.records) {
             appendRecordJson(text, record, {});
+        }
         benchmark::DoNotOptimize(text.text().data());
     });
 }
@@ -132,8 +136,9 @@ void readTargets021(benchmark::State &state, const char *edition, const _ast_uap
     decodeBlocks(
         state, makeCategoryBlocks(21, edition, Records),
         [&readTarget](_ast_datablock_t &block) {
-            for (const _ast_datarecord_t &record : block.records)
+            for (const _ast_datarecord_t &record : block.records) {
                 readTarget(record);
+            }
         },
         profile);
 }
@@ -143,8 +148,9 @@ void unpackVideo240(benchmark::State &state)
     std::vector<unsigned> cells(65536);
     decodeBlocks(state, makeCategoryBlocks(240, nullptr, 2000), [&cells](_ast_datablock_t &block) {
         _ast_video_vector_t vector;
-        for (const _ast_datarecord_t &record : block.records)
+        for (const _ast_datarecord_t &record : block.records) {
             ast_datarecord_240_get_vector(&vector, cells.data(), cells.size(), record);
+        }
         benchmark::DoNotOptimize(cells.data());
     });
 }
@@ -183,8 +189,9 @@ BENCHMARK_CAPTURE(printCategory, 240, 240);
 void *operator new(std::size_t size)
 {
     allocations.fetch_add(1, std::memory_order_relaxed);
-    if (void *memory = std::malloc(size))
+    if (void *memory = std::malloc(size)) {
         return memory;
+    }
     throw std::bad_alloc();
 }
 

@@ -134,8 +134,9 @@ void addRow240(BlockEncoder &encoder, Random &random)
     encoder.set("048/RES", 4);
     encoder.set("049/NBVB", VideoCells);
     encoder.set("049/NBCELLS", VideoCells);
-    for (std::size_t i = 0; i < VideoCells; i += 4)
+    for (std::size_t i = 0; i < VideoCells; i += 4) {
         encoder.setRaw("050", random.whole(0xFFFFFFFF));
+    }
     encoder.set("140", 36000);
 }
 

@@ -54,10 +54,12 @@ void addPlot(BlockEncoder &encoder, Random &random, double time)
     encoder.set("040/THETA", random.real(0, 359.9));
     encoder.setRaw("070/MODE3A", random.whole(4096));
     encoder.set("090/FL", random.real(10, 410));
-    if (kind < 6)
+    if (kind < 6) {
         encoder.setRaw("220", random.whole(1U << 24));
-    if (kind < 3)
+    }
+    if (kind < 3) {
         encoder.set("161/TRN", random.whole(4096));
+    }
     encoder.endRecord();
 }
 
@@ -104,8 +106,9 @@ SampleBlocks makePlotBlocks(std::size_t records)
         time = time >= 86000 ? 0 : time + 0.125;
         addSector(out, sectors, time, sector % 32);
         plots.beginBlock();
-        for (std::size_t i = 0; i < PlotsPerBlock; ++i)
+        for (std::size_t i = 0; i < PlotsPerBlock; ++i) {
             addPlot(plots, random, time);
+        }
         append(out, plots);
     }
     return out;
@@ -120,8 +123,9 @@ SampleBlocks makeTrackBlocks(std::size_t records)
     while (out.records < records) {
         time = time >= 86000 ? 0 : time + 0.125;
         tracks.beginBlock();
-        for (std::size_t i = 0; i < TracksPerBlock; ++i)
+        for (std::size_t i = 0; i < TracksPerBlock; ++i) {
             addTrack(tracks, random, time);
+        }
         append(out, tracks);
     }
     return out;

@@ -1,5 +1,5 @@
 #include "display/geo_track_display.h"
-#include "display/geo_view.h"
+#include "view/geo_view.h"
 
 #include <benchmark/benchmark.h>
 
@@ -39,8 +39,9 @@ TrackSnapshot track(quint64 id, std::mt19937 &random)
     track.verticalRate = below(6000) - 3000;
     track.verticalRateValid = true;
     track.verticalTrend = below(4);
-    for (int i = 1; i <= 20; ++i)
+    for (int i = 1; i <= 20; ++i) {
         track.trail.append(track.carCoordinate - QPointF(i, i % 3) * 1000.0);
+    }
     return track;
 }
 
@@ -48,8 +49,9 @@ QSharedPointer<const DisplaySnapshot> airPicture(int tracks)
 {
     std::mt19937 random(1);
     auto snapshot = QSharedPointer<DisplaySnapshot>::create();
-    for (int i = 1; i <= tracks; ++i)
+    for (int i = 1; i <= tracks; ++i) {
         snapshot->tracks.append(track(quint64(i), random));
+    }
     return snapshot;
 }
 
@@ -80,8 +82,9 @@ void paintSameSnapshot(benchmark::State &state)
     QImage image(Screen, QImage::Format_ARGB32_Premultiplied);
     image.fill(QColor(173, 173, 173));
     paintFrame(display, image);
-    for (auto _ : state)
+    for (auto _ : state) {
         paintFrame(display, image);
+    }
 }
 
 // A new snapshot each frame in which one track in twenty was updated, as from an antenna of four seconds.
@@ -97,8 +100,9 @@ void paintNewSnapshots(benchmark::State &state)
     for (auto _ : state) {
         state.PauseTiming();
         turn = (turn + 1) % Interval;
-        for (qsizetype i = turn; i < picture.tracks.size(); i += Interval)
+        for (qsizetype i = turn; i < picture.tracks.size(); i += Interval) {
             picture.tracks[i].groundSpeed += 1.0;
+        }
         const auto snapshot = QSharedPointer<DisplaySnapshot>::create(picture);
         state.ResumeTiming();
         display.setSnapshot(snapshot);

@@ -1,9 +1,9 @@
 #include "app/config.h"
 #include "display/geo_video_map.h"
-#include "display/geo_view.h"
 #include "geo/mercator_projector.h"
 #include "radar_scene.h"
-#include "tracking/radar_sensor_info.h"
+#include "sensors/radar_sensor_info.h"
+#include "view/geo_view.h"
 
 #include <benchmark/benchmark.h>
 
@@ -36,8 +36,9 @@ public:
         config.mapVideoVisible = true;
         m_layer.applyConfig(config);
         RadarScene scene(Radials, Cells, Range);
-        for (int i = 0; i < FramesASecond; ++i)
+        for (int i = 0; i < FramesASecond; ++i) {
             m_batches.push_back(scene.next((Radials + FramesASecond - 1) / FramesASecond));
+        }
         double x = 0.0;
         double y = 0.0;
         m_projector.toCartesian(&x, &y, site.latitude(), site.longitude());
@@ -63,8 +64,9 @@ public:
     {
         for (const auto &batch : m_batches) {
             m_now += 1000 / FramesASecond;
-            for (const VideoProcessor::Radial &radial : batch->radials)
+            for (const VideoProcessor::Radial &radial : batch->radials) {
                 m_layer.addRadial(radial);
+            }
             paint();
         }
     }
@@ -82,15 +84,17 @@ private:
 void turnAtFullRange(benchmark::State &state)
 {
     Scope scope(2.0 * Range / Screen.height());
-    for (auto _ : state)
+    for (auto _ : state) {
         scope.turn();
+    }
 }
 
 void turnAtOneMile(benchmark::State &state)
 {
     Scope scope(1852.0 / Screen.height(), double(state.range(0)) * 1852.0);
-    for (auto _ : state)
+    for (auto _ : state) {
         scope.turn();
+    }
 }
 
 // A new view each time, as while the operator pans.

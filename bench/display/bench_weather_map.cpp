@@ -1,9 +1,9 @@
 #include "app/config.h"
-#include "display/geo_view.h"
 #include "display/geo_weather_map.h"
 #include "geo/mercator_projector.h"
 #include "radar_scene.h"
-#include "tracking/radar_sensor_info.h"
+#include "sensors/radar_sensor_info.h"
+#include "view/geo_view.h"
 
 #include <benchmark/benchmark.h>
 
@@ -60,8 +60,9 @@ private:
 void paintSameView(benchmark::State &state)
 {
     Scope scope(double(state.range(0)));
-    for (auto _ : state)
+    for (auto _ : state) {
         scope.paint();
+    }
 }
 
 void paintNewView(benchmark::State &state)
@@ -78,8 +79,9 @@ void paintNewView(benchmark::State &state)
 void takeNewPicture(benchmark::State &state)
 {
     Scope scope(200.0);
-    for (auto _ : state)
+    for (auto _ : state) {
         scope.newPicture();
+    }
 }
 
 } // namespace

@@ -11,8 +11,9 @@ RadarScene::RadarScene(int radials, int cells, double rangeMetres)
 QSharedPointer<const VideoBatch> RadarScene::next(int radials)
 {
     auto batch = QSharedPointer<VideoBatch>::create();
-    for (int i = 0; i < radials; ++i)
+    for (int i = 0; i < radials; ++i) {
         batch->radials.append(radial(m_next++ % m_radials));
+    }
     return batch;
 }
 
@@ -26,8 +27,9 @@ VideoProcessor::Radial RadarScene::radial(int index)
     radial.cellSize = m_cellSize;
     radial.cellCount = quint32(m_cells);
     radial.amplitudes.reserve(m_cells);
-    for (int cell = 0; cell < m_cells; ++cell)
+    for (int cell = 0; cell < m_cells; ++cell) {
         radial.amplitudes.append(amplitude(index, cell));
+    }
     return radial;
 }
 
@@ -37,16 +39,19 @@ unsigned char RadarScene::amplitude(int radial, int cell)
     const double range = double(cell) / m_cells;
     double level = double(m_random() % 40);
     // Clutter falls off with range and is rough.
-    if (m_random() % 3 != 0)
+    if (m_random() % 3 != 0) {
         level += 220.0 * std::exp(-range * 16.0);
+    }
     // A ridge to the east.
-    if (azimuth > 60.0 && azimuth < 110.0 && std::abs(range - 0.55 - 0.04 * std::sin(azimuth / 5.0)) < 0.012)
+    if (azimuth > 60.0 && azimuth < 110.0 && std::abs(range - 0.55 - 0.04 * std::sin(azimuth / 5.0)) < 0.012) {
         level += double(m_random() % 150);
+    }
     // Targets 1.4 degrees wide, one every 11 degrees at various ranges.
     const double fromTarget = std::fmod(azimuth, 11.0) - 5.0;
     const double targetRange = 0.2 + 0.75 * std::fmod(std::floor(azimuth / 11.0) * 0.37, 1.0);
-    if (std::abs(fromTarget) < 0.7 && std::abs(range - targetRange) < 0.002)
+    if (std::abs(fromTarget) < 0.7 && std::abs(range - targetRange) < 0.002) {
         level += 200.0 * (1.0 - std::abs(fromTarget));
+    }
     return static_cast<unsigned char>(std::min(level, 255.0));
 }
 
@@ -76,7 +81,8 @@ WeatherProcessor::Picture stormCells(int vectors)
         }
     }
     // The rest as light rain in a belt.
-    for (int i = 0; picture.vectors.size() < vectors; ++i)
+    for (int i = 0; picture.vectors.size() < vectors; ++i) {
         picture.vectors.append({1, 95.0 + 4.0 * (i / 1024), 99.0 + 4.0 * (i / 1024), (i % 1024) * step});
+    }
     return picture;
 }

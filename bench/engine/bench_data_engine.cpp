@@ -2,7 +2,7 @@
 #include "engine/data_engine.h"
 #include "geo/mercator_projector.h"
 #include "plot_datagrams.h"
-#include "tracking/radar_sensor_info.h"
+#include "sensors/radar_sensor_info.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>

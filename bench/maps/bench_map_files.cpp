@@ -15,8 +15,9 @@ MapData map(int pointsPerLine)
     MapElementGroup group;
     for (int line = 0; line < Points / pointsPerLine; ++line) {
         MapPolylineElement polyline;
-        for (int i = 0; i < pointsPerLine; ++i)
+        for (int i = 0; i < pointsPerLine; ++i) {
             polyline.points.append({40.0 + 1e-5 * line, 5.0 + 1e-5 * i});
+        }
         group.polylines.append(polyline);
     }
     MapData map;
@@ -36,12 +37,14 @@ void reads(benchmark::State &state, MapFile::Format format)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("map");
-    if (!write(path, format, map(int(state.range(0)))))
+    if (!write(path, format, map(int(state.range(0))))) {
         return state.SkipWithError("no map written");
+    }
     for (auto _ : state) {
         const auto file = MapFile::create(format);
-        if (!file->open(QFileInfo(path), format, QIODevice::ReadOnly) || file->read().groups.size() != 1)
+        if (!file->open(QFileInfo(path), format, QIODevice::ReadOnly) || file->read().groups.size() != 1) {
             return state.SkipWithError("no map read");
+        }
     }
     state.SetItemsProcessed(state.iterations() * Points);
 }
@@ -51,8 +54,9 @@ void writes(benchmark::State &state, MapFile::Format format)
     const QTemporaryDir folder;
     const MapData data = map(1000);
     for (auto _ : state) {
-        if (!write(folder.filePath("map"), format, data))
+        if (!write(folder.filePath("map"), format, data)) {
             return state.SkipWithError("no map written");
+        }
     }
     state.SetItemsProcessed(state.iterations() * Points);
 }

@@ -80,13 +80,15 @@ void extractStream(benchmark::State &state, ModeSEncapsulation::Format format, E
     for (auto _ : state) {
         for (std::size_t offset = 0; offset < stream.size();) {
             offset += ModeSEncapsulation::extractAll(stream.substr(offset, ChunkSize), format, frames);
-            for (const ModeSFrame &frame : frames)
+            for (const ModeSFrame &frame : frames) {
                 each(frame);
+            }
             count += frames.size();
         }
     }
-    if (count != Frames * static_cast<std::size_t>(state.iterations()))
+    if (count != Frames * static_cast<std::size_t>(state.iterations())) {
         state.SkipWithError("frames lost");
+    }
     state.counters["frames/s"] = benchmark::Counter(static_cast<double>(count), benchmark::Counter::kIsRate);
 }
 
@@ -110,8 +112,9 @@ struct CheckedDecoder {
 
     void finish(benchmark::State &state) const
     {
-        if (faults)
+        if (faults) {
             state.SkipWithError("frames not decoded");
+        }
     }
 };
 
@@ -146,8 +149,9 @@ void extractDecodeAndTrack(benchmark::State &state)
         benchmark::DoNotOptimize(tracker.procModeSMsg(decoder.message));
     });
     decoder.finish(state);
-    if (tracker.targets().size() != Aircraft)
+    if (tracker.targets().size() != Aircraft) {
         state.SkipWithError("targets lost");
+    }
 }
 
 // As the terminal does it: an object a frame and one a message.
@@ -161,12 +165,14 @@ void sharedObjects(benchmark::State &state)
     for (auto _ : state) {
         for (std::size_t offset = 0; offset < stream.size(); offset += 1500) {
             buffer.append(stream, offset, 1500);
-            for (const auto &frame : ModeSEncapsulation::extract(buffer))
+            for (const auto &frame : ModeSEncapsulation::extract(buffer)) {
                 valid += decoder.decode(ModeSMessage::AnyDownlink, frame)->valid() ? 1 : 0;
+            }
         }
     }
-    if (valid != Frames * static_cast<std::size_t>(state.iterations()))
+    if (valid != Frames * static_cast<std::size_t>(state.iterations())) {
         state.SkipWithError("frames lost");
+    }
     state.counters["frames/s"] = benchmark::Counter(static_cast<double>(valid), benchmark::Counter::kIsRate);
 }
 

@@ -35,8 +35,9 @@ QList<QByteArray> turn(int cells)
         encoder.set("140", 43200.0);
         for (int first = 0; first < cells; first += OctetsPerRepetition) {
             std::array<unsigned char, OctetsPerRepetition> octets;
-            for (int i = 0; i < OctetsPerRepetition; ++i)
+            for (int i = 0; i < OctetsPerRepetition; ++i) {
                 octets[static_cast<std::size_t>(i)] = static_cast<unsigned char>((first + i) * number);
+            }
             encoder.setExplicit("052", octets);
         }
         encoder.endRecord();
@@ -62,8 +63,9 @@ void decodeAndConvert(benchmark::State &state)
             processor.procAsterixMessage(block);
         }
     }
-    if (cells != state.iterations() * RadialsPerTurn * state.range(0))
+    if (cells != state.iterations() * RadialsPerTurn * state.range(0)) {
         state.SkipWithError("cells were lost");
+    }
     state.SetItemsProcessed(state.iterations() * RadialsPerTurn);
     state.counters["percentOfCore"] = benchmark::Counter(
         0.01 * static_cast<double>(state.iterations()), benchmark::Counter::kIsRate | benchmark::Counter::kInvert);

@@ -32,8 +32,9 @@ void decode(benchmark::State &state)
     for (auto _ : state) {
         const auto result = AleniaSirMRadarDecoder::decode(octets.data(), octets.size());
         double sum = 0;
-        for (const auto &track : static_cast<const AleniaSirMRadarDataMessage &>(*result.message).trackRecords())
+        for (const auto &track : static_cast<const AleniaSirMRadarDataMessage &>(*result.message).trackRecords()) {
             sum += track.x() + track.y() + track.vx() + track.vy() + track.modeCHeightImperial() + track.modeACode();
+        }
         benchmark::DoNotOptimize(sum);
     }
     state.counters["records/s"] =

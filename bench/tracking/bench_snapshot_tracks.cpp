@@ -53,11 +53,13 @@ public:
         sensor->setRotationPeriod(4.0);
         m_tracker = Tracker::create(sensor, m_manager, &m_projector);
         korvane::asterix::BlockEncoder encoder(48);
-        for (int number = 1; number <= aircraft; ++number)
+        for (int number = 1; number <= aircraft; ++number) {
             m_blocks.push_back(report(encoder, number, 0));
+        }
         for (int scan = 0; scan < scans; ++scan) {
-            for (const auto &block : m_blocks)
+            for (const auto &block : m_blocks) {
                 receive(block);
+            }
         }
     }
 
@@ -97,8 +99,9 @@ void snapshotOf5000Tracks(benchmark::State &state)
     }
     for (auto _ : state) {
         const auto snapshot = scene.manager().snapshotTracks(static_cast<int>(state.range(0)));
-        if (snapshot.size() != wanted)
+        if (snapshot.size() != wanted) {
             state.SkipWithError("tracks are missing");
+        }
         benchmark::DoNotOptimize(snapshot.constData());
     }
 }

@@ -29,8 +29,9 @@ QString created(const QString &directory)
 QString locationOf(QStandardPaths::StandardLocation location)
 {
     const QString &profile = profileDirectory();
-    if (AppPaths::isPortable())
+    if (AppPaths::isPortable()) {
         return created(AppPaths::exeDir() + QStringLiteral("/data/") + QCoreApplication::applicationName() + profile);
+    }
     const auto ordinary = QStandardPaths::writableLocation(location);
     return profile.isEmpty() ? ordinary : created(ordinary + profile);
 }
@@ -86,8 +87,9 @@ QString AppPaths::crashLogFile()
 
 QString AppPaths::storePath(const QString &path)
 {
-    if (path.isEmpty() || !isPortable() || QDir::isRelativePath(path))
+    if (path.isEmpty() || !isPortable() || QDir::isRelativePath(path)) {
         return path;
+    }
     const auto relative = QDir(exeDir()).relativeFilePath(path);
     const bool outside =
         !QDir::isRelativePath(relative) || relative == QLatin1String("..") || relative.startsWith(QLatin1String("../"));
@@ -96,8 +98,9 @@ QString AppPaths::storePath(const QString &path)
 
 QString AppPaths::resolvePath(const QString &path)
 {
-    if (path.isEmpty() || !isPortable() || !QDir::isRelativePath(path))
+    if (path.isEmpty() || !isPortable() || !QDir::isRelativePath(path)) {
         return path;
+    }
     return QDir(exeDir()).absoluteFilePath(path);
 }
 

@@ -17,10 +17,11 @@ using korvane::modes::ModeSEncapsulation;
 template <typename T>
 QVariant encoded(const T &value)
 {
-    if constexpr (std::is_enum_v<T>)
+    if constexpr (std::is_enum_v<T>) {
         return static_cast<int>(value);
-    else
+    } else {
         return QVariant::fromValue(value);
+    }
 }
 
 QVariant encoded(quint8 value)
@@ -75,10 +76,11 @@ QVariant encoded(FaaTileChart value)
 template <typename T>
 void decode(const QVariant &stored, T &value)
 {
-    if constexpr (std::is_enum_v<T>)
+    if constexpr (std::is_enum_v<T>) {
         value = static_cast<T>(stored.toInt());
-    else
+    } else {
         value = stored.value<T>();
+    }
 }
 
 void decode(const QVariant &stored, quint8 &value)
@@ -161,13 +163,15 @@ public:
     template <typename T>
     void operator()(const QString &key, T &value)
     {
-        if (m_settings.contains(key))
+        if (m_settings.contains(key)) {
             decode(m_settings.value(key), value);
+        }
     }
     void operator()(const QString &key, GeoCoordinate &value, CoordinateText)
     {
-        if (m_settings.contains(key))
+        if (m_settings.contains(key)) {
             value = GeoCoordinate::fromATCString(m_settings.value(key).toString());
+        }
     }
     // Transparency has keys of its own; a colour's alpha never counts.
     void opaque(const QString &key, QColor &value)
@@ -320,8 +324,9 @@ void visitWeatherAndVideo(Settings &config, File &file)
 {
     file(VYX_KEY(mapWeatherVisible));
     int index = 0;
-    for (auto &color : config.mapWeatherColor)
+    for (auto &color : config.mapWeatherColor) {
         file.opaque(QStringLiteral("mapWeatherColor%1").arg(index++), color);
+    }
     file(VYX_KEY(mapWeatherOpacity));
     file(VYX_KEY(mapWeatherValidity));
     file(VYX_KEY(mapWeatherVectorWidth));

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "app/tile_services.h"
 #include "geo/geo_coordinate.h"
 #include "modes/mode_s_encapsulation.h"
-#include "tiles/tile_services.h"
-#include "tracking/sensor_type.h"
+#include "sensors/sensor_type.h"
 
 #include <QColor>
 #include <QCoreApplication>

@@ -68,8 +68,9 @@ void writeCallStack(CrashLogWriter &log)
 {
     static std::array<void *, 64> frames;
     const int count = backtrace(frames.data(), static_cast<int>(frames.size()));
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         log.text("  0x").hex(reinterpret_cast<std::uintptr_t>(frames[static_cast<std::size_t>(i)])).text("\n");
+    }
 }
 
 void writeRegisters(CrashLogWriter &log, const FaultContext &context)
@@ -87,8 +88,9 @@ bool findStackRegion(std::uintptr_t stackPointer, MemoryRegion *region)
     constexpr std::uintptr_t largestGuard = 1U << 20;
     MemoryMapReader map;
     while (map.next(region)) {
-        if (region->readable && stackPointer < region->end)
+        if (region->readable && stackPointer < region->end) {
             return region->begin <= stackPointer || region->begin - stackPointer <= largestGuard;
+        }
     }
     return false;
 }
@@ -99,21 +101,24 @@ void writeStackScan(CrashLogWriter &log, std::uintptr_t stackPointer)
 {
     static MemoryRegion region;
     static std::array<std::uintptr_t, 512> words;
-    if (!findStackRegion(stackPointer, &region))
+    if (!findStackRegion(stackPointer, &region)) {
         return;
+    }
     const int memory = open("/proc/self/mem", O_RDONLY | O_CLOEXEC);
     constexpr std::uintptr_t alignment = sizeof words[0];
     auto address = (std::max(stackPointer, region.begin) + alignment - 1) / alignment * alignment;
     while (address < region.end) {
         const auto wanted = std::min<std::size_t>(sizeof words, region.end - address);
         const auto count = pread(memory, words.data(), wanted, static_cast<off_t>(address));
-        if (count < static_cast<ssize_t>(alignment))
+        if (count < static_cast<ssize_t>(alignment)) {
             break;
+        }
         const auto wordCount = static_cast<std::size_t>(count) / alignment;
         for (std::size_t i = 0; i < wordCount; ++i) {
             const auto word = words[i];
-            if (word > prepared.image.base && word < prepared.image.base + prepared.image.size)
+            if (word > prepared.image.base && word < prepared.image.base + prepared.image.size) {
                 log.text("  stack 0x").hex(word).text("\n");
+            }
         }
         address += wordCount * alignment;
     }
@@ -122,8 +127,9 @@ void writeStackScan(CrashLogWriter &log, std::uintptr_t stackPointer)
 
 void writeModule(CrashLogWriter &log, const MemoryRegion &module)
 {
-    if (!module.executable)
+    if (!module.executable) {
         return;
+    }
     log.text("  mod 0x").hex(module.begin).text(" size=0x").hex(module.end - module.begin);
     log.text(" ").text(module.name.data()).text("\n");
 }
@@ -136,8 +142,9 @@ void writeModules(CrashLogWriter &log)
     module = {};
     MemoryMapReader map;
     while (map.next(&region)) {
-        if (region.name[0] != '/')
+        if (region.name[0] != '/') {
             continue;
+        }
         if (std::strcmp(region.name.data(), module.name.data()) != 0) {
             writeModule(log, module);
             module = region;
@@ -152,8 +159,9 @@ void writeReport(int signal, const siginfo_t &info, const void *signalContext)
 {
     static FaultContext context;
     CrashLogWriter log(prepared.logFile.data());
-    if (!log.isOpen())
+    if (!log.isOpen()) {
         return;
+    }
     context = faultContext(signalContext);
     writeHeader(log, signal, info, context);
     log.flush(); // following the frames of a damaged stack may fault again
@@ -167,8 +175,9 @@ void writeReport(int signal, const siginfo_t &info, const void *signalContext)
 void unhandledExceptionHandler(int signal, siginfo_t *info, void *context)
 {
     static std::atomic_flag reporting;
-    while (reporting.test_and_set())
+    while (reporting.test_and_set()) {
         pause(); // another thread crashed first; its signal ends the process
+    }
     constexpr unsigned int secondsForTheReport = 10;
     std::signal(SIGALRM, SIG_DFL);
     alarm(secondsForTheReport); // the stack capture may wait for a lock that the crash left held
@@ -220,10 +229,12 @@ void installHandlers()
     action.sa_sigaction = unhandledExceptionHandler;
     action.sa_flags = SA_SIGINFO | SA_ONSTACK;
     sigemptyset(&action.sa_mask);
-    for (const int signal : fatalSignals)
+    for (const int signal : fatalSignals) {
         sigaddset(&action.sa_mask, signal);
-    for (const int signal : fatalSignals)
+    }
+    for (const int signal : fatalSignals) {
         sigaction(signal, &action, nullptr);
+    }
 }
 
 // The stack that a thread's signal handlers run on, for as long as the thread lives.
@@ -234,13 +245,15 @@ public:
         stack_t stack = {};
         stack.ss_sp = m_memory;
         stack.ss_size = Size;
-        if (m_memory != MAP_FAILED)
+        if (m_memory != MAP_FAILED) {
             sigaltstack(&stack, &m_previous);
+        }
     }
     ~AlternateStack()
     {
-        if (m_memory == MAP_FAILED)
+        if (m_memory == MAP_FAILED) {
             return;
+        }
         sigaltstack(&m_previous, nullptr);
         munmap(m_memory, Size);
     }

@@ -39,24 +39,28 @@ CrashLogWriter::CrashLogWriter(const char *path)
 CrashLogWriter::~CrashLogWriter()
 {
     flush();
-    if (isOpen())
+    if (isOpen()) {
         close(m_file);
+    }
 }
 
 CrashLogWriter &CrashLogWriter::text(const char *text)
 {
-    for (; *text; ++text)
+    for (; *text; ++text) {
         put(*text);
+    }
     return *this;
 }
 
 CrashLogWriter &CrashLogWriter::hex(std::uintptr_t value)
 {
     int shift = 0;
-    while (shift + 4 < static_cast<int>(8 * sizeof value) && value >> (shift + 4))
+    while (shift + 4 < static_cast<int>(8 * sizeof value) && value >> (shift + 4)) {
         shift += 4;
-    for (; shift >= 0; shift -= 4)
+    }
+    for (; shift >= 0; shift -= 4) {
         put("0123456789abcdef"[value >> shift & 0xF]);
+    }
     return *this;
 }
 
@@ -68,10 +72,12 @@ CrashLogWriter &CrashLogWriter::decimal(unsigned int value, int width)
         digits[count++] = static_cast<char>('0' + value % 10);
         value /= 10;
     } while (value);
-    for (int padding = width - static_cast<int>(count); padding > 0; --padding)
+    for (int padding = width - static_cast<int>(count); padding > 0; --padding) {
         put('0');
-    while (count)
+    }
+    while (count) {
         put(digits[--count]);
+    }
     return *this;
 }
 
@@ -89,17 +95,19 @@ void CrashLogWriter::flush()
     std::size_t written = 0;
     while (isOpen() && written < m_used) {
         const auto count = write(m_file, m_buffer.data() + written, m_used - written);
-        if (count > 0)
+        if (count > 0) {
             written += static_cast<std::size_t>(count);
-        else if (errno != EINTR)
+        } else if (errno != EINTR) {
             break;
+        }
     }
     m_used = 0;
 }
 
 void CrashLogWriter::put(char character)
 {
-    if (m_used == m_buffer.size())
+    if (m_used == m_buffer.size()) {
         flush();
+    }
     m_buffer[m_used++] = character;
 }

@@ -30,14 +30,17 @@ FaultContext contextOf(const mcontext_t &machine)
 FaultContext::Access accessOf(const mcontext_t &machine)
 {
     const auto *record = reinterpret_cast<const _aarch64_ctx *>(machine.__reserved);
-    while (record->magic && record->magic != ESR_MAGIC)
+    while (record->magic && record->magic != ESR_MAGIC) {
         record = reinterpret_cast<const _aarch64_ctx *>(reinterpret_cast<const char *>(record) + record->size);
-    if (!record->magic)
+    }
+    if (!record->magic) {
         return FaultContext::Read;
+    }
     const auto syndrome = reinterpret_cast<const esr_context *>(record)->esr;
     const auto exceptionClass = syndrome >> 26 & 0x3F;
-    if (exceptionClass == 0x20 || exceptionClass == 0x21) // instruction abort
+    if (exceptionClass == 0x20 || exceptionClass == 0x21) { // instruction abort
         return FaultContext::Execute;
+    }
     return syndrome & 1U << 6 ? FaultContext::Write : FaultContext::Read;
 }
 

@@ -8,8 +8,9 @@ MemoryMapReader::MemoryMapReader() : m_file(open("/proc/self/maps", O_RDONLY | O
 
 MemoryMapReader::~MemoryMapReader()
 {
-    if (m_file >= 0)
+    if (m_file >= 0) {
         close(m_file);
+    }
 }
 
 // "55d0c2a00000-55d0c2a20000 r-xp 00001000 08:01 1234    /usr/bin/name"
@@ -22,12 +23,14 @@ bool MemoryMapReader::next(MemoryRegion *region)
     region->executable = take() == 'x';
     take(); // shared or private
     take();
-    for (int field = 0; field < 3; ++field) // offset, device, inode
+    for (int field = 0; field < 3; ++field) { // offset, device, inode
         skipField();
+    }
     std::size_t length = 0;
     for (char character = takeAfterBlanks(); character && character != '\n'; character = take()) {
-        if (length + 1 < region->name.size())
+        if (length + 1 < region->name.size()) {
             region->name[length++] = character;
+        }
     }
     region->name[length] = '\0';
     return region->end != 0;
@@ -49,8 +52,9 @@ char MemoryMapReader::take()
 std::uintptr_t MemoryMapReader::takeHex(char terminator)
 {
     std::uintptr_t value = 0;
-    for (char digit = take(); digit && digit != terminator; digit = take())
+    for (char digit = take(); digit && digit != terminator; digit = take()) {
         value = value << 4 | static_cast<std::uintptr_t>(digit <= '9' ? digit - '0' : digit - 'a' + 10);
+    }
     return value;
 }
 
@@ -62,7 +66,8 @@ void MemoryMapReader::skipField()
 char MemoryMapReader::takeAfterBlanks()
 {
     char character = take();
-    while (character == ' ')
+    while (character == ' ') {
         character = take();
+    }
     return character;
 }

@@ -19,12 +19,14 @@ QList<QColor> levelColors(const QJsonObject &scheme)
     QList<QColor> colors;
     for (int level = 0; level < WeatherColorScheme::Levels; ++level) {
         QColor color = QColor::fromString(scheme[QStringLiteral("level%1").arg(level)].toString());
-        if (color.isValid())
+        if (color.isValid()) {
             color.setAlpha(255);
+        }
         colors.append(color);
     }
-    while (!colors.isEmpty() && !colors.last().isValid())
+    while (!colors.isEmpty() && !colors.last().isValid()) {
         colors.removeLast();
+    }
     return colors;
 }
 
@@ -47,13 +49,15 @@ WeatherColorScheme WeatherColorScheme::defaultScheme()
 QList<WeatherColorScheme> WeatherColorScheme::loadFromJsonFile(const QString &fileName)
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return {};
+    }
     QList<WeatherColorScheme> schemes;
     const QJsonArray elements = QJsonDocument::fromJson(file.readAll()).array();
     for (const QJsonValue &element : elements) {
-        if (element.isObject())
+        if (element.isObject()) {
             schemes.append({element[QStringLiteral("name")].toString(), levelColors(element.toObject())});
+        }
     }
     return schemes;
 }

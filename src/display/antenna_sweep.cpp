@@ -36,11 +36,13 @@ void AntennaSweep::reset()
 
 void AntennaSweep::sectorCrossed(double azimuth, qint64 nowMs)
 {
-    if (!std::isfinite(azimuth))
+    if (!std::isfinite(azimuth)) {
         return;
+    }
     const Passage passage{wrapped(azimuth), nowMs};
-    if (m_lastHeard && passage.azimuth < m_lastHeard->azimuth)
+    if (m_lastHeard && passage.azimuth < m_lastHeard->azimuth) {
         revolutionBegun(passage.azimuth, nowMs);
+    }
     m_lastHeard = passage;
 }
 
@@ -58,20 +60,23 @@ void AntennaSweep::revolutionBegun(double azimuth, qint64 nowMs)
         const double seconds = double(nowMs - m_revolutionStart->time) / 1000.0 * 360.0 / turned;
         const double shortest = m_nominalPeriod > 0.0 ? ShortestRevolution * m_nominalPeriod : FastestPeriod;
         const double longest = LongestRevolution * (m_nominalPeriod > 0.0 ? m_nominalPeriod : UnknownPeriod);
-        if (seconds >= shortest && seconds <= longest)
+        if (seconds >= shortest && seconds <= longest) {
             m_measuredPeriod = seconds;
+        }
     }
     m_revolutionStart = Passage{azimuth, nowMs};
 }
 
 std::optional<double> AntennaSweep::azimuth(qint64 nowMs) const
 {
-    if (!m_lastHeard)
+    if (!m_lastHeard) {
         return std::nullopt;
+    }
     const double seconds = double(nowMs - m_lastHeard->time) / 1000.0;
     const double turn = period();
-    if (seconds > SilentRevolutions * (turn > 0.0 ? turn : UnknownPeriod))
+    if (seconds > SilentRevolutions * (turn > 0.0 ? turn : UnknownPeriod)) {
         return std::nullopt;
+    }
     return turn > 0.0 ? wrapped(m_lastHeard->azimuth + seconds / turn * 360.0) : m_lastHeard->azimuth;
 }
 

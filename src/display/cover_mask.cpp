@@ -25,8 +25,9 @@ void CoverMask::visitRow(int firstCell, int lastCell, Visit &&visit)
 void CoverMask::cover(const QRect &rect)
 {
     const QRect seen = rect & m_screen;
-    if (seen.isEmpty())
+    if (seen.isEmpty()) {
         return;
+    }
     const auto lastCell = [](int seenEnd, int screenEnd) {
         return seenEnd == screenEnd ? seenEnd / CellPixels : (seenEnd + 1) / CellPixels - 1;
     };
@@ -48,15 +49,17 @@ QRect CoverMask::visiblePart(const QRect &rect) const
         const Word *words = m_words.data() + std::size_t(row) * std::size_t(m_rowWords);
         visitRow(seen.left() / CellPixels, seen.right() / CellPixels, [&](std::size_t index, Word wanted) {
             const Word open = ~words[index] & wanted;
-            if (open == 0)
+            if (open == 0) {
                 return;
+            }
             const int base = int(index) * WordBits;
             const int first = base + std::countr_zero(open);
             const int last = base + WordBits - 1 - std::countl_zero(open);
             cells |= QRect(QPoint(first, row), QPoint(last, row));
         });
     }
-    if (cells.isEmpty())
+    if (cells.isEmpty()) {
         return QRect();
+    }
     return QRect(cells.topLeft() * CellPixels, cells.size() * CellPixels) & seen;
 }

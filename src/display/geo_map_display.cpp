@@ -3,11 +3,11 @@
 #include "app/config.h"
 #include "display/geo_range_ring_map.h"
 #include "display/geo_sensor_map.h"
-#include "display/geo_static_map.h"
 #include "display/geo_video_map.h"
-#include "display/geo_view.h"
 #include "display/geo_weather_map.h"
-#include "display/map_editor_layer.h"
+#include "map_painting/geo_static_map.h"
+#include "map_painting/map_editor_layer.h"
+#include "view/geo_view.h"
 
 #include <QElapsedTimer>
 #include <QPainter>
@@ -47,8 +47,9 @@ void GeoMapDisplay::paint(QPainter &painter, const GeoView &view)
     painter.restore();
     for (Entry &entry : m_layers) {
         entry.milliseconds = 0.0;
-        if (!entry.layer->visible())
+        if (!entry.layer->visible()) {
             continue;
+        }
         QElapsedTimer timer;
         timer.start();
         painter.save();
@@ -61,16 +62,18 @@ void GeoMapDisplay::paint(QPainter &painter, const GeoView &view)
 QList<GeoMapDisplay::LayerTime> GeoMapDisplay::layerTimes() const
 {
     QList<LayerTime> times;
-    for (const Entry &entry : m_layers)
+    for (const Entry &entry : m_layers) {
         times.append({entry.layer->name(), entry.milliseconds});
+    }
     return times;
 }
 
 void GeoMapDisplay::applyConfig(const Config &config)
 {
     setBackgroundColor(config.mapBackgroundColor);
-    for (const Entry &entry : m_layers)
+    for (const Entry &entry : m_layers) {
         entry.layer->applyConfig(config);
+    }
 }
 
 void GeoMapDisplay::setBackgroundColor(const QColor &color)
@@ -85,6 +88,7 @@ void GeoMapDisplay::setSensor(const QSharedPointer<SensorInfo> &sensor)
     m_videoMap->setSensor(sensor);
     m_sensorMap->setSensor(sensor);
     QPointF site;
-    if (m_sensorMap->sitePosition(site))
+    if (m_sensorMap->sitePosition(site)) {
         m_rangeRingMap->setDefaultCenter(site);
+    }
 }

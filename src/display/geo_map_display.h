@@ -1,6 +1,6 @@
 #pragma once
 
-#include "display/geo_layer.h"
+#include "view/geo_layer.h"
 
 #include <QColor>
 #include <QList>

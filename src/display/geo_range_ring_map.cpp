@@ -1,11 +1,11 @@
 #include "display/geo_range_ring_map.h"
 
 #include "app/config.h"
-#include "display/geo_view.h"
 #include "display/ground_circle.h"
-#include "display/map_text.h"
 #include "geo/projector.h"
 #include "geo/wgs84.h"
+#include "view/geo_view.h"
+#include "view/map_text.h"
 
 #include <QPainter>
 
@@ -70,8 +70,9 @@ void GeoRangeRingMap::layOut()
     m_rings.clear();
     double latitude = 0.0;
     double longitude = 0.0;
-    if (!m_projector->toWgs84(&latitude, &longitude, center().x(), center().y()))
+    if (!m_projector->toWgs84(&latitude, &longitude, center().x(), center().y())) {
         return;
+    }
     for (int i = 1; i <= m_number; ++i) {
         const double radius = i * m_distance * wgs84::MetresPerNauticalMile;
         m_rings.push_back(groundCircle(*m_projector, GeoCoordinate(latitude, longitude), radius));
@@ -80,14 +81,16 @@ void GeoRangeRingMap::layOut()
 
 void GeoRangeRingMap::paint(QPainter &painter, const GeoView &view)
 {
-    if (!m_layoutValid)
+    if (!m_layoutValid) {
         layOut();
+    }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.resetTransform();
     painter.setPen(QPen(m_color, 1));
     for (const QPolygonF &ring : m_rings) {
-        if (view.planeRect().intersects(ring.boundingRect()))
+        if (view.planeRect().intersects(ring.boundingRect())) {
             painter.drawPolyline(view.screenTransform().map(ring));
+        }
     }
     const QPointF middle = view.toScreen(center());
     painter.drawLine(middle - QPointF(4, 0), middle + QPointF(4, 0));
@@ -97,11 +100,13 @@ void GeoRangeRingMap::paint(QPainter &painter, const GeoView &view)
 
 void GeoRangeRingMap::paintDistances(QPainter &painter, const GeoView &view) const
 {
-    if (m_rings.empty() || m_rings.front().isEmpty())
+    if (m_rings.empty() || m_rings.front().isEmpty()) {
         return;
+    }
     const QPointF middle = view.toScreen(center());
-    if (QLineF(middle, view.toScreen(m_rings.front().first())).length() < SmallestLabelledGap)
+    if (QLineF(middle, view.toScreen(m_rings.front().first())).length() < SmallestLabelledGap) {
         return;
+    }
     painter.setFont(mapFont());
     for (std::size_t i = 0; i < m_rings.size(); ++i) {
         // On the ring's topmost point, whichever way north lies.

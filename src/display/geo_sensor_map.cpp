@@ -1,16 +1,16 @@
 #include "display/geo_sensor_map.h"
 
 #include "app/config.h"
-#include "display/geo_view.h"
 #include "display/ground_circle.h"
-#include "display/map_text.h"
 #include "geo/projector.h"
 #include "geo/wgs84.h"
-#include "tracking/adsb_sensor_info.h"
-#include "tracking/mlat_sensor_info.h"
-#include "tracking/radar_sensor_info.h"
-#include "tracking/sdps_sensor_info.h"
-#include "tracking/smr_sensor_info.h"
+#include "sensors/adsb_sensor_info.h"
+#include "sensors/mlat_sensor_info.h"
+#include "sensors/radar_sensor_info.h"
+#include "sensors/sdps_sensor_info.h"
+#include "sensors/smr_sensor_info.h"
+#include "view/geo_view.h"
+#include "view/map_text.h"
 
 #include <QElapsedTimer>
 #include <QPainter>
@@ -57,10 +57,12 @@ std::vector<double> coverages(const SensorInfo &sensor)
 // Seconds; nothing for a sensor that does not turn.
 std::optional<double> rotationPeriod(const SensorInfo &sensor)
 {
-    if (const auto *radar = dynamic_cast<const RadarSensorInfo *>(&sensor))
+    if (const auto *radar = dynamic_cast<const RadarSensorInfo *>(&sensor)) {
         return radar->rotationPeriod();
-    if (const auto *smr = dynamic_cast<const SmrSensorInfo *>(&sensor))
+    }
+    if (const auto *smr = dynamic_cast<const SmrSensorInfo *>(&sensor)) {
         return smr->rotationPeriod();
+    }
     return std::nullopt;
 }
 
@@ -104,22 +106,25 @@ void GeoSensorMap::layOut()
 {
     m_coverageRings.clear();
     m_rim.clear();
-    if (!m_location.isValid())
+    if (!m_location.isValid()) {
         return;
+    }
     double x = 0.0;
     double y = 0.0;
     m_projector->toCartesian(&x, &y, m_location.latitude(), m_location.longitude());
     m_site = QPointF(x, y);
-    for (double radius : m_coverages)
+    for (double radius : m_coverages) {
         m_coverageRings.push_back(groundCircle(*m_projector, m_location, radius * wgs84::MetresPerNauticalMile));
+    }
     const double rim = m_coverages.empty() ? RimWithoutCoverage : m_coverages.front();
     m_rim = groundCircle(*m_projector, m_location, rim * wgs84::MetresPerNauticalMile, 360);
 }
 
 bool GeoSensorMap::sitePosition(QPointF &planePoint) const
 {
-    if (!m_location.isValid())
+    if (!m_location.isValid()) {
         return false;
+    }
     planePoint = m_site;
     return true;
 }
@@ -154,16 +159,20 @@ void GeoSensorMap::antennaNorthCrossed()
 
 void GeoSensorMap::paint(QPainter &painter, const GeoView &view)
 {
-    if (!m_location.isValid())
+    if (!m_location.isValid()) {
         return;
+    }
     painter.resetTransform();
     painter.setRenderHint(QPainter::Antialiasing);
-    if (m_coverageVisible)
+    if (m_coverageVisible) {
         paintCoverage(painter, view);
-    if (m_turning && m_antennaLineVisible)
+    }
+    if (m_turning && m_antennaLineVisible) {
         paintAntennaLine(painter, view);
-    if (m_turning && m_northMarkerVisible)
+    }
+    if (m_turning && m_northMarkerVisible) {
         paintNorthMarker(painter, view);
+    }
     paintSite(painter, view);
 }
 
@@ -171,16 +180,18 @@ void GeoSensorMap::paintCoverage(QPainter &painter, const GeoView &view) const
 {
     painter.setPen(QPen(m_color, 1));
     for (const QPolygonF &ring : m_coverageRings) {
-        if (view.planeRect().intersects(ring.boundingRect()))
+        if (view.planeRect().intersects(ring.boundingRect())) {
             painter.drawPolyline(view.screenTransform().map(ring));
+        }
     }
 }
 
 void GeoSensorMap::paintAntennaLine(QPainter &painter, const GeoView &view) const
 {
     const std::optional<double> azimuth = m_sweep.azimuth(m_clock());
-    if (!azimuth)
+    if (!azimuth) {
         return;
+    }
     const int before = int(*azimuth) % 360;
     const double part = *azimuth - std::floor(*azimuth);
     const QPointF end = m_rim[before] * (1.0 - part) + m_rim[before + 1] * part;
@@ -190,8 +201,9 @@ void GeoSensorMap::paintAntennaLine(QPainter &painter, const GeoView &view) cons
 
 void GeoSensorMap::paintNorthMarker(QPainter &painter, const GeoView &view) const
 {
-    if (!m_sweep.northFlash(m_clock()))
+    if (!m_sweep.northFlash(m_clock())) {
         return;
+    }
     painter.setPen(QPen(m_northMarkerColor, 2));
     painter.drawLine(view.toScreen(m_site), view.toScreen(m_rim.first()));
 }
@@ -199,14 +211,16 @@ void GeoSensorMap::paintNorthMarker(QPainter &painter, const GeoView &view) cons
 void GeoSensorMap::paintSite(QPainter &painter, const GeoView &view) const
 {
     const QPointF site = view.toScreen(m_site);
-    if (!QRectF(view.screenRect()).adjusted(-200, -40, 200, 40).contains(site))
+    if (!QRectF(view.screenRect()).adjusted(-200, -40, 200, 40).contains(site)) {
         return;
+    }
     painter.setPen(QPen(m_color, 2));
     painter.drawEllipse(site, SiteRingRadius, SiteRingRadius);
     painter.setBrush(m_color);
     painter.setPen(Qt::NoPen);
     painter.drawEllipse(site, SiteDotRadius, SiteDotRadius);
     painter.setFont(mapFont());
-    if (!m_sensorName.isEmpty())
+    if (!m_sensorName.isEmpty()) {
         drawMapText(painter, site + QPointF(0, NameDistance), m_sensorName, m_color);
+    }
 }

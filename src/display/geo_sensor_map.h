@@ -1,8 +1,8 @@
 #pragma once
 
 #include "display/antenna_sweep.h"
-#include "display/geo_layer.h"
 #include "geo/geo_coordinate.h"
+#include "view/geo_layer.h"
 
 #include <QColor>
 #include <QPolygonF>

@@ -1,8 +1,8 @@
 #include "display/geo_track_display.h"
 
 #include "app/config.h"
-#include "display/contrast.h"
-#include "display/geo_view.h"
+#include "view/contrast.h"
+#include "view/geo_view.h"
 
 #include <QFontDatabase>
 #include <QLineF>
@@ -52,8 +52,9 @@ void GeoTrackDisplay::setSnapshot(const QSharedPointer<const DisplaySnapshot> &s
     m_tracksById.clear();
     if (m_snapshot) {
         m_tracksById.reserve(m_snapshot->tracks.size());
-        for (const TrackSnapshot &track : m_snapshot->tracks)
+        for (const TrackSnapshot &track : m_snapshot->tracks) {
             m_tracksById.insert(track.incarnationId, &track);
+        }
     }
     const auto gone = [this](const auto &entry) { return !hasTrack(entry.key()); };
     m_labelOffsets.removeIf(gone);
@@ -73,30 +74,36 @@ void GeoTrackDisplay::applyConfig(const Config &config)
 
 unsigned long long GeoTrackDisplay::findTrackBySymbolPosition(const QTransform &screenTransform, int x, int y) const
 {
-    if (!m_snapshot)
+    if (!m_snapshot) {
         return 0;
+    }
     const int reach = m_symbolSize / 2;
     for (const TrackSnapshot &track : m_snapshot->tracks) {
-        if (!track.carCoordinateValid)
+        if (!track.carCoordinateValid) {
             continue;
+        }
         const QPointF place = screenTransform.map(track.carCoordinate);
-        if (std::abs(place.x() - x) <= reach && std::abs(place.y() - y) <= reach)
+        if (std::abs(place.x() - x) <= reach && std::abs(place.y() - y) <= reach) {
             return track.incarnationId;
+        }
     }
     return 0;
 }
 
 unsigned long long GeoTrackDisplay::findTrackByLabelPosition(const QTransform &screenTransform, int x, int y) const
 {
-    if (!m_snapshot)
+    if (!m_snapshot) {
         return 0;
+    }
     for (const TrackSnapshot &track : m_snapshot->tracks) {
         const auto label = m_labelRects.constFind(track.incarnationId);
-        if (label == m_labelRects.constEnd())
+        if (label == m_labelRects.constEnd()) {
             continue;
+        }
         const QPoint place = screenTransform.map(track.carCoordinate).toPoint();
-        if (label->translated(place).contains(x, y))
+        if (label->translated(place).contains(x, y)) {
             return track.incarnationId;
+        }
     }
     return 0;
 }
@@ -109,8 +116,9 @@ bool GeoTrackDisplay::hasTrack(unsigned long long id) const
 bool GeoTrackDisplay::selectedTrackCarCoordinate(QPointF &planePoint) const
 {
     const TrackSnapshot *track = m_tracksById.value(m_selectedTrack);
-    if (!track || !track->carCoordinateValid)
+    if (!track || !track->carCoordinateValid) {
         return false;
+    }
     planePoint = track->carCoordinate;
     return true;
 }

@@ -1,6 +1,6 @@
 #include "display/geo_track_display.h"
-#include "display/geo_view.h"
 #include "geo/wgs84.h"
+#include "view/geo_view.h"
 
 #include <QFontMetricsF>
 #include <QLineF>
@@ -35,8 +35,9 @@ void GeoTrackDisplay::paint(QPainter *painter)
 void GeoTrackDisplay::paint(QPainter *painter, const GeoView &view)
 {
     m_labelRects.clear();
-    if (!m_snapshot)
+    if (!m_snapshot) {
         return;
+    }
     collectShown(view);
     scalePens(view.devicePixelRatio());
     painter->save();
@@ -48,12 +49,14 @@ void GeoTrackDisplay::paint(QPainter *painter, const GeoView &view)
     if (view.metresPerPixel() <= DetailLimit) {
         placeLabels();
         findVisibleLabels(view);
-        for (const Shown &shown : m_shown)
+        for (const Shown &shown : m_shown) {
             paintDetails(painter, view, shown);
+        }
     }
     // After all labels: a label may cover another label, but never a target.
-    for (const Shown &shown : m_shown)
+    for (const Shown &shown : m_shown) {
         paintSymbol(painter, view, shown);
+    }
     painter->restore();
 }
 
@@ -63,8 +66,9 @@ void GeoTrackDisplay::collectShown(const GeoView &view)
     const QRectF area = view.planeRect().adjusted(-margin, -margin, margin, margin);
     m_shown.clear();
     for (const TrackSnapshot &track : m_snapshot->tracks) {
-        if (!track.carCoordinateValid || !area.contains(track.carCoordinate))
+        if (!track.carCoordinateValid || !area.contains(track.carCoordinate)) {
             continue;
+        }
         Shown shown;
         shown.track = &track;
         // On whole pixels, so that nothing shimmers while the track moves or the view is panned.
@@ -77,16 +81,19 @@ void GeoTrackDisplay::collectShown(const GeoView &view)
 
 void GeoTrackDisplay::placeLabels()
 {
-    if (!m_labelVisible || !m_fields.any())
+    if (!m_labelVisible || !m_fields.any()) {
         return;
-    for (const Shown &shown : m_shown)
+    }
+    for (const Shown &shown : m_shown) {
         refreshLabel(*shown.track);
+    }
     m_labelRects.reserve(qsizetype(m_shown.size()));
     for (Shown &shown : m_shown) {
         // Nothing is added to the table from here on, so its entries stay where they are.
         LabelCacheEntry *label = &*m_labelCache.find(shown.track->incarnationId);
-        if (label->lines.empty())
+        if (label->lines.empty()) {
             continue;
+        }
         const QPoint offset = trackLabelOffset(shown.track->incarnationId);
         const QRect rect(QPoint(offset.x(), -offset.y()), label->size);
         m_labelRects.insert(shown.track->incarnationId, rect);
@@ -102,12 +109,14 @@ void GeoTrackDisplay::findVisibleLabels(const GeoView &view)
     const bool opaque = m_backgroundVisible && m_labelBackgroundColor.alpha() == 255;
     m_cover.reset(view.screenRect().size());
     for (auto shown = m_shown.rbegin(); shown != m_shown.rend(); ++shown) {
-        if (!shown->label)
+        if (!shown->label) {
             continue;
+        }
         const QRect padded = paddedRect(shown->labelRect);
         shown->labelVisible = m_cover.visiblePart(padded.adjusted(-1, -1, 1, 1)); // an alert's frame stands outside
-        if (shown->labelVisible.isEmpty())
+        if (shown->labelVisible.isEmpty()) {
             continue;
+        }
         const std::vector<LabelLine> &lines = shown->label->lines;
         for (std::size_t i = 0; i < lines.size(); ++i) {
             const int top = shown->labelRect.top() + int(lines[i].y);
@@ -116,30 +125,36 @@ void GeoTrackDisplay::findVisibleLabels(const GeoView &view)
             const QRect line(QPoint(padded.left(), top - 2), QPoint(padded.right(), bottom + 2));
             shown->hiddenLines |= m_cover.visiblePart(line).isEmpty() ? 1u << i : 0u;
         }
-        if (opaque)
+        if (opaque) {
             m_cover.cover(padded);
+        }
     }
 }
 
 // Cosmetic widths count device pixels.
 void GeoTrackDisplay::scalePens(double devicePixelRatio)
 {
-    if (m_symbolPen.widthF() == devicePixelRatio)
+    if (m_symbolPen.widthF() == devicePixelRatio) {
         return;
+    }
     m_symbolPen.setWidthF(devicePixelRatio);
     m_coastingPen.setWidthF(devicePixelRatio);
 }
 
 void GeoTrackDisplay::paintDetails(QPainter *painter, const GeoView &view, const Shown &shown)
 {
-    if (m_trailVisible && !shown.track->trail.isEmpty())
+    if (m_trailVisible && !shown.track->trail.isEmpty()) {
         paintTrail(painter, view, *shown.track);
-    if (m_vectorVisible && shown.track->headingValid)
+    }
+    if (m_vectorVisible && shown.track->headingValid) {
         paintVector(painter, view, shown);
-    if (!shown.label)
+    }
+    if (!shown.label) {
         return;
-    if (!shown.labelVisible.isEmpty())
+    }
+    if (!shown.labelVisible.isEmpty()) {
         paintLabel(painter, shown);
+    }
     paintLeader(painter, shown);
 }
 
@@ -161,10 +176,12 @@ void GeoTrackDisplay::paintTrail(QPainter *painter, const GeoView &view, const T
 
 double GeoTrackDisplay::vectorUnitPixels(const TrackSnapshot &track, double metresPerPixel) const
 {
-    if (!m_vectorTimeMode)
+    if (!m_vectorTimeMode) {
         return wgs84::MetresPerNauticalMile / metresPerPixel;
-    if (!track.groundSpeedValid || !(track.groundSpeed > 0.0))
+    }
+    if (!track.groundSpeedValid || !(track.groundSpeed > 0.0)) {
         return 0.0;
+    }
     return track.groundSpeed / 60.0 * wgs84::MetresPerNauticalMile / metresPerPixel;
 }
 
@@ -172,8 +189,9 @@ void GeoTrackDisplay::paintVector(QPainter *painter, const GeoView &view, const 
 {
     const double unit = vectorUnitPixels(*shown.track, view.metresPerPixel());
     const double length = unit * m_vectorRange;
-    if (length < 1.0)
+    if (length < 1.0) {
         return;
+    }
     const QPointF ahead = direction(shown.track->heading + view.rotation());
     const QPointF across = QPointF(-ahead.y(), ahead.x()) * TickReach;
     m_vectorLines.clear();
@@ -189,8 +207,9 @@ void GeoTrackDisplay::paintVector(QPainter *painter, const GeoView &view, const 
 void GeoTrackDisplay::refreshLabel(const TrackSnapshot &track)
 {
     LabelCacheEntry &label = m_labelCache[track.incarnationId];
-    if (label.contentRevision == m_contentRevision)
+    if (label.contentRevision == m_contentRevision) {
         return;
+    }
     TrackLabelLines content = trackLabelLines(track, m_fields);
     if (label.contentRevision == 0 || !(content == label.content)) {
         label.content = std::move(content);
@@ -208,8 +227,9 @@ void GeoTrackDisplay::layOutLabel(LabelCacheEntry &label) const
     double width = 0.0;
     for (int i = 0; i < TrackLabelLines::Count; ++i) {
         const QString &text = label.content.text[std::size_t(i)];
-        if (text.isEmpty())
+        if (text.isEmpty()) {
             continue;
+        }
         const auto same =
             std::find_if(before.begin(), before.end(), [&text](const LabelLine &line) { return line.text == text; });
         LabelLine line = same != before.end() ? std::move(*same) : textLine(text, metrics);
@@ -243,31 +263,36 @@ void GeoTrackDisplay::paintLabel(QPainter *painter, const Shown &shown) const
 {
     // Of a label that shows only a corner only the corner is worth painting. A clip of the caller's stays untouched.
     const bool clipped = !shown.labelVisible.contains(paddedRect(shown.labelRect)) && !painter->hasClipping();
-    if (clipped)
+    if (clipped) {
         painter->setClipRect(shown.labelVisible);
+    }
     paintLabelGround(painter, shown);
     const QPen &pen = shown.track->incarnationId == m_selectedTrack ? m_labelSelectedPen : m_labelPen;
     const std::vector<LabelLine> &lines = shown.label->lines;
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (shown.hiddenLines & (1u << i))
+        if (shown.hiddenLines & (1u << i)) {
             continue;
+        }
         painter->setPen(lines[i].alert ? m_labelAlertPen : pen);
         painter->drawStaticText(QPointF(shown.labelRect.x(), shown.labelRect.y() + lines[i].y), lines[i].staticText);
     }
     paintLabelFrame(painter, shown);
-    if (clipped)
+    if (clipped) {
         painter->setClipping(false);
+    }
 }
 
 void GeoTrackDisplay::paintLabelGround(QPainter *painter, const Shown &shown) const
 {
     const QRect padded = paddedRect(shown.labelRect);
-    if (m_backgroundVisible)
+    if (m_backgroundVisible) {
         painter->fillRect(padded, m_labelBackgroundColor);
+    }
     const int alertHeight = shown.label->alertHeight;
-    if (alertHeight > 0)
+    if (alertHeight > 0) {
         painter->fillRect(
             QRect(padded.topLeft(), QSize(padded.width(), alertHeight + shownPadding())), m_labelAlertGround);
+    }
 }
 
 // What makes alerts and coasting tracks stand out from afar.

@@ -1,12 +1,12 @@
 #include "display/geo_video_map.h"
 
 #include "app/config.h"
-#include "display/geo_view.h"
 #include "display/radial_store.h"
 #include "display/site_offsets.h"
 #include "display/video_raster.h"
 #include "geo/projector.h"
-#include "tracking/smr_sensor_info.h"
+#include "sensors/smr_sensor_info.h"
+#include "view/geo_view.h"
 
 #include <QElapsedTimer>
 #include <QPainter>
@@ -26,8 +26,9 @@ constexpr std::size_t MostReportedSources = 8; // more than that is noise on the
 // states them, are what radials are made of.
 int azimuthBins(int statedSteps, const VideoProcessor::Radial &radial)
 {
-    if (statedSteps >= FewestAzimuthBins)
+    if (statedSteps >= FewestAzimuthBins) {
         return statedSteps;
+    }
     const double width = std::abs(std::remainder(radial.endAzimuth - radial.startAzimuth, 360.0));
     return width > 0.0 ? int(std::clamp(360.0 / width, double(FewestAzimuthBins), double(MostAzimuthBins)) + 0.5)
                        : UsualAzimuthBins;
@@ -40,8 +41,9 @@ std::optional<QPoint> wholePixelShift(const QTransform &from, const QTransform &
     const QPointF rest = shift - QPointF(shift.toPoint());
     const bool sameScale =
         from.m11() == to.m11() && from.m12() == to.m12() && from.m21() == to.m21() && from.m22() == to.m22();
-    if (!sameScale || rest.manhattanLength() > 1e-3)
+    if (!sameScale || rest.manhattanLength() > 1e-3) {
         return std::nullopt;
+    }
     return shift.toPoint();
 }
 
@@ -103,14 +105,16 @@ void GeoVideoMap::applyConfig(const Config &config)
         m_colors = colors;
         m_palette = VideoPalette(colors);
         for (const auto &[source, radar] : m_radars) {
-            if (radar->raster)
+            if (radar->raster) {
                 radar->raster->recolor();
+            }
         }
     }
     m_validity = qint64(std::max(config.mapVideoValidity, 0)) * 1000;
     setVisible(config.mapVideoVisible);
-    if (!visible())
+    if (!visible()) {
         clear();
+    }
     Q_EMIT polluted();
 }
 
@@ -130,8 +134,9 @@ void GeoVideoMap::setSensor(const QSharedPointer<SensorInfo> &sensor)
 void GeoVideoMap::setKnownSensors(const QList<QSharedPointer<SensorInfo>> &sensors)
 {
     m_knownPlaces.clear();
-    for (const auto &sensor : sensors)
+    for (const auto &sensor : sensors) {
         m_knownPlaces.emplace(Source(sensor->sac(), sensor->sic()), placeOf(*sensor));
+    }
     clear();
 }
 
@@ -146,22 +151,25 @@ const GeoVideoMap::Place *GeoVideoMap::findPlace(const Source &source) const
 {
     const Source unstated(0, 0);
     const Place *place = nullptr;
-    if (source == m_sensorSource || source == unstated || m_sensorSource == unstated)
+    if (source == m_sensorSource || source == unstated || m_sensorSource == unstated) {
         place = &m_sensorPlace;
-    else if (const auto known = m_knownPlaces.find(source); known != m_knownPlaces.end())
+    } else if (const auto known = m_knownPlaces.find(source); known != m_knownPlaces.end()) {
         place = &known->second;
+    }
     return place && place->location.isValid() ? place : nullptr;
 }
 
 GeoVideoMap::Radar *GeoVideoMap::radarFor(const VideoProcessor::Radial &radial)
 {
     const Source source(radial.sac, radial.sic);
-    if (const auto found = m_radars.find(source); found != m_radars.end())
+    if (const auto found = m_radars.find(source); found != m_radars.end()) {
         return found->second.get();
+    }
     const Place *place = findPlace(source);
     if (!place) {
-        if (m_unknown.size() < MostReportedSources && m_unknown.insert(source).second)
+        if (m_unknown.size() < MostReportedSources && m_unknown.insert(source).second) {
             Q_EMIT siteUnknown(radial.sac, radial.sic);
+        }
         return nullptr;
     }
     return m_radars.emplace(source, std::make_unique<Radar>(*place)).first->second.get();
@@ -169,13 +177,16 @@ GeoVideoMap::Radar *GeoVideoMap::radarFor(const VideoProcessor::Radial &radial)
 
 void GeoVideoMap::addRadial(const VideoProcessor::Radial &radial)
 {
-    if (!visible() || !(radial.cellSize > 0.0) || !std::isfinite(radial.cellSize))
+    if (!visible() || !(radial.cellSize > 0.0) || !std::isfinite(radial.cellSize)) {
         return;
+    }
     Radar *radar = radarFor(radial);
-    if (!radar)
+    if (!radar) {
         return;
-    if (!radar->sameFormat(radial))
+    }
+    if (!radar->sameFormat(radial)) {
         radar->restart(radial);
+    }
     radar->store.add(radial, m_clock());
 }
 
@@ -201,8 +212,9 @@ void GeoVideoMap::Radar::fitTo(const GeoView &view, Projector &projector)
         view.screenTransform() * QTransform::fromScale(view.devicePixelRatio(), view.devicePixelRatio());
     const bool sameSize = raster && raster->image().size() == view.screenRect().size() * view.devicePixelRatio()
         && store.endCell() <= raster->reach();
-    if (sameSize && transform == rasterTransform)
+    if (sameSize && transform == rasterTransform) {
         return;
+    }
     const SiteOffsets offsets(projector, place.location, view);
     const auto shift = sameSize ? wholePixelShift(rasterTransform, transform) : std::nullopt;
     rasterTransform = transform;
@@ -210,8 +222,9 @@ void GeoVideoMap::Radar::fitTo(const GeoView &view, Projector &projector)
         raster->moveView(offsets, *shift);
         return;
     }
-    if (!raster)
+    if (!raster) {
         raster = std::make_unique<VideoRaster>();
+    }
     raster->setView(offsets, store, cellSize);
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "display/geo_layer.h"
 #include "display/video_palette.h"
 #include "geo/geo_coordinate.h"
 #include "processors/video_processor.h"
+#include "view/geo_layer.h"
 
 #include <QList>
 #include <QSharedPointer>

@@ -1,9 +1,9 @@
 #include "display/geo_weather_map.h"
 
 #include "app/config.h"
-#include "display/geo_view.h"
 #include "geo/projector.h"
-#include "tracking/sensor_info.h"
+#include "sensors/sensor_info.h"
+#include "view/geo_view.h"
 
 #include <QElapsedTimer>
 #include <QPainter>
@@ -52,8 +52,9 @@ void GeoWeatherMap::applyConfig(const Config &config)
 
 void GeoWeatherMap::setVectorWidth(double width, bool automatic)
 {
-    if (width == m_vectorWidth && automatic == m_autoVectorWidth)
+    if (width == m_vectorWidth && automatic == m_autoVectorWidth) {
         return;
+    }
     m_vectorWidth = width;
     m_autoVectorWidth = automatic;
     makeShapes();
@@ -73,8 +74,9 @@ void GeoWeatherMap::setPicture(const WeatherProcessor::Picture &picture)
     }
     if (picture.vectors.isEmpty()) {
         ++m_emptyPictures;
-        if (!m_ignoreEmpty)
+        if (!m_ignoreEmpty) {
             clear();
+        }
         return;
     }
     m_picture = picture;
@@ -86,8 +88,9 @@ void GeoWeatherMap::setPicture(const WeatherProcessor::Picture &picture)
 
 void GeoWeatherMap::setLevelVisible(int level, bool visible)
 {
-    if (!isLevel(level) || levelVisible(level) == visible)
+    if (!isLevel(level) || levelVisible(level) == visible) {
         return;
+    }
     m_levelVisible[std::size_t(level)] = visible;
     m_rendered = false;
     Q_EMIT polluted();
@@ -98,15 +101,17 @@ void GeoWeatherMap::clear()
     const bool hadPicture = m_picture.has_value();
     m_picture.reset();
     makeShapes();
-    if (hadPicture)
+    if (hadPicture) {
         Q_EMIT pictureChanged();
+    }
     Q_EMIT polluted();
 }
 
 int GeoWeatherMap::vectorCount(int level) const
 {
-    if (!m_picture || m_clock() - m_pictureTime > m_validity)
+    if (!m_picture || m_clock() - m_pictureTime > m_validity) {
         return 0;
+    }
     return int(std::count_if(m_picture->vectors.begin(), m_picture->vectors.end(),
         [level](const WeatherProcessor::PolarVector &vector) { return vector.intensity == level; }));
 }
@@ -115,27 +120,31 @@ void GeoWeatherMap::makeShapes()
 {
     m_rendered = false;
     m_shapes.clear();
-    if (!m_picture)
+    if (!m_picture) {
         return;
+    }
     const double width = m_autoVectorWidth ? touchingWidth(m_picture->vectors, m_vectorWidth) : m_vectorWidth;
     m_shapes = weatherShapes(*m_projector, m_site, m_picture->vectors, width);
 }
 
 void GeoWeatherMap::dropExpired()
 {
-    if (m_picture && m_clock() - m_pictureTime > m_validity)
+    if (m_picture && m_clock() - m_pictureTime > m_validity) {
         clear();
+    }
 }
 
 void GeoWeatherMap::paint(QPainter &painter, const GeoView &view)
 {
     dropExpired();
-    if (m_shapes.empty())
+    if (m_shapes.empty()) {
         return;
+    }
     const double ratio = view.devicePixelRatio();
     if (!m_rendered || m_canvas.image().size() != view.screenRect().size() * ratio
-        || m_renderedTransform != view.screenTransform())
+        || m_renderedTransform != view.screenTransform()) {
         render(view);
+    }
     painter.resetTransform();
     for (const QRect &part : m_parts) {
         const QRectF target(QPointF(part.topLeft()) / ratio, QSizeF(part.size()) / ratio);
@@ -150,8 +159,9 @@ void GeoWeatherMap::render(const GeoView &view)
     m_canvas.reset(view.screenRect().size() * ratio);
     for (const WeatherShape &shape : m_shapes) {
         QColor color = levelColor(shape.level);
-        if (!isLevel(shape.level) || !levelVisible(shape.level) || !color.isValid())
+        if (!isLevel(shape.level) || !levelVisible(shape.level) || !color.isValid()) {
             continue;
+        }
         color.setAlpha(m_opacity);
         QuadCanvas::Quad quad;
         std::transform(shape.corners.begin(), shape.corners.end(), quad.begin(),

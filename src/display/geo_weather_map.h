@@ -1,9 +1,9 @@
 #pragma once
 
-#include "display/geo_layer.h"
 #include "display/quad_canvas.h"
 #include "display/weather_shapes.h"
 #include "geo/geo_coordinate.h"
+#include "view/geo_layer.h"
 
 #include <QColor>
 #include <QList>

@@ -24,19 +24,22 @@ RadialStore::Extent RadialStore::extentOf(const VideoProcessor::Radial &radial)
 {
     Extent extent{wrapped(radial.startAzimuth), wrapped(radial.endAzimuth - radial.startAzimuth)};
     // An antenna that turns the other way sends the edges the other way round.
-    if (extent.width > 180.0)
+    if (extent.width > 180.0) {
         extent = {wrapped(radial.endAzimuth), 360.0 - extent.width};
+    }
     return extent;
 }
 
 void RadialStore::closeGap(Extent &extent) const
 {
-    if (!m_lastRow)
+    if (!m_lastRow) {
         return;
+    }
     const double bin = 360.0 / binCount();
     const double gap = wrapped(extent.start - m_lastEdge);
-    if (gap > (extent.width > 0.0 ? std::max(extent.width / 2.0, bin) : WidestUnstatedRadial))
+    if (gap > (extent.width > 0.0 ? std::max(extent.width / 2.0, bin) : WidestUnstatedRadial)) {
         return;
+    }
     extent = {m_lastEdge, extent.width + gap};
 }
 
@@ -49,8 +52,9 @@ bool RadialStore::continuesLast(const VideoProcessor::Radial &radial) const
 bool RadialStore::extendLast(const VideoProcessor::Radial &radial)
 {
     const quint64 end = quint64(radial.startCell) + quint64(radial.amplitudes.size());
-    if (end - m_lastRow->startCell > LongestRow)
+    if (end - m_lastRow->startCell > LongestRow) {
         return false;
+    }
     mergeInto(*m_lastRow, radial);
     markBinsOf(m_lastRow.get());
     return true;
@@ -62,8 +66,9 @@ void RadialStore::mergeInto(Row &row, const VideoProcessor::Radial &radial)
     const quint64 radialEnd = quint64(radial.startCell) + quint64(radial.amplitudes.size());
     const quint32 start = std::min(row.startCell, radial.startCell);
     const quint64 end = std::max(row.endCell(), radialEnd);
-    if (end - start > LongestRow)
+    if (end - start > LongestRow) {
         return;
+    }
     QList<unsigned char> merged(qsizetype(end - start), 0);
     std::copy(row.amplitudes.cbegin(), row.amplitudes.cend(), merged.begin() + (row.startCell - start));
     const auto target = merged.begin() + (radial.startCell - start);
@@ -78,8 +83,9 @@ void RadialStore::markBinsOf(const Row *row)
 {
     for (int i = 0; i < binCount(); ++i) {
         const int bin = (m_lastFirstBin + i) % binCount();
-        if (m_bins[std::size_t(bin)].get() != row)
+        if (m_bins[std::size_t(bin)].get() != row) {
             break;
+        }
         m_changed[std::size_t(bin)] = true;
     }
 }
@@ -106,10 +112,12 @@ RadialStore::BinSpan RadialStore::binsOf(const Extent &extent) const
 
 void RadialStore::add(const VideoProcessor::Radial &radial, qint64 now)
 {
-    if (!std::isfinite(radial.startAzimuth) || !std::isfinite(radial.endAzimuth))
+    if (!std::isfinite(radial.startAzimuth) || !std::isfinite(radial.endAzimuth)) {
         return;
-    if (continuesLast(radial) && extendLast(radial))
+    }
+    if (continuesLast(radial) && extendLast(radial)) {
         return;
+    }
     Extent extent = extentOf(radial);
     closeGap(extent);
     const BinSpan bins = binsOf(extent);
@@ -119,8 +127,9 @@ void RadialStore::add(const VideoProcessor::Radial &radial, qint64 now)
     } else {
         m_lastRow = std::make_shared<Row>(Row{radial.amplitudes, radial.startCell, now});
         m_endCell = std::max(m_endCell, m_lastRow->endCell());
-        for (int i = 0; i < bins.count; ++i)
+        for (int i = 0; i < bins.count; ++i) {
             put((bins.first + i) % binCount(), m_lastRow);
+        }
         m_lastFirstBin = bins.first;
         m_lastBin = (bins.first + bins.count - 1) % binCount();
     }
@@ -132,11 +141,13 @@ void RadialStore::add(const VideoProcessor::Radial &radial, qint64 now)
 void RadialStore::dropOlder(qint64 oldest)
 {
     for (int bin = 0; bin < binCount(); ++bin) {
-        if (row(bin) && row(bin)->time < oldest)
+        if (row(bin) && row(bin)->time < oldest) {
             put(bin, nullptr);
+        }
     }
-    if (m_lastRow && m_lastRow->time < oldest)
+    if (m_lastRow && m_lastRow->time < oldest) {
         m_lastRow.reset();
+    }
 }
 
 void RadialStore::forgetChanges()

@@ -1,8 +1,8 @@
 #include "display/site_offsets.h"
 
-#include "display/geo_view.h"
 #include "geo/projector.h"
 #include "geo/wgs84.h"
+#include "view/geo_view.h"
 
 #include <QTransform>
 
@@ -81,8 +81,9 @@ double SiteOffsets::pixelMetres(double withinMetres) const
             const Offset &here = node(column, row);
             const double distance = std::hypot(here.east, here.north);
             const double step = stepMetres(column, row);
-            if (distance <= withinMetres)
+            if (distance <= withinMetres) {
                 longest = std::max(longest, step);
+            }
             if (distance < nearest) {
                 nearest = distance;
                 nearestStep = step;

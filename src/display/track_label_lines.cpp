@@ -26,10 +26,11 @@ void appendNumber(QString &line, int number, int width)
 // Three digits, or dashes for a value that is not valid.
 void appendValue(QString &line, bool valid, int number)
 {
-    if (valid)
+    if (valid) {
         appendNumber(line, number, 3);
-    else
+    } else {
         line += QLatin1String("---");
+    }
 }
 
 // Whole hundreds, halves away from zero.
@@ -40,8 +41,9 @@ int hundreds(int value)
 
 void appendBlank(QString &line)
 {
-    if (!line.isEmpty() && !line.endsWith(ClimbingMark) && !line.endsWith(DescendingMark))
+    if (!line.isEmpty() && !line.endsWith(ClimbingMark) && !line.endsWith(DescendingMark)) {
         line += QLatin1Char(' ');
+    }
 }
 
 QString identityLine(const TrackSnapshot &track, const TrackLabelFields &fields)
@@ -61,13 +63,16 @@ QString identityLine(const TrackSnapshot &track, const TrackLabelFields &fields)
 QString callsignLine(const TrackSnapshot &track, const TrackLabelFields &fields)
 {
     QString line;
-    if (fields.callsign)
+    if (fields.callsign) {
         line = track.callsign;
-    if (track.coasting)
+    }
+    if (track.coasting) {
         line += CoastingMark;
+    }
     if (fields.squawk) {
-        if (!track.coasting)
+        if (!track.coasting) {
             appendBlank(line);
+        }
         line += track.modeACodeValid ? track.modeAString : QStringLiteral("----");
     }
     return line;
@@ -79,10 +84,11 @@ QString levelLine(const TrackSnapshot &track, const TrackLabelFields &fields)
     if (fields.level) {
         line = QLatin1Char('F');
         appendValue(line, track.levelValid, track.level / 100);
-        if (track.verticalTrend == Climbing)
+        if (track.verticalTrend == Climbing) {
             line += ClimbingMark;
-        else if (track.verticalTrend == Descending)
+        } else if (track.verticalTrend == Descending) {
             line += DescendingMark;
+        }
     }
     if (fields.selectedAltitude) {
         appendBlank(line);
@@ -114,8 +120,9 @@ void appendRate(QString &line, const TrackSnapshot &track)
 QString rateLine(const TrackSnapshot &track, const TrackLabelFields &fields)
 {
     QString line;
-    if (fields.verticalRate)
+    if (fields.verticalRate) {
         appendRate(line, track);
+    }
     if (fields.heading) {
         appendBlank(line);
         appendValue(line, track.headingValid, int(std::lround(track.heading)));
@@ -134,8 +141,9 @@ bool TrackLabelFields::any() const
 TrackLabelLines trackLabelLines(const TrackSnapshot &track, const TrackLabelFields &fields)
 {
     TrackLabelLines lines;
-    if (fields.alertIndicator)
+    if (fields.alertIndicator) {
         lines.text[TrackLabelLines::Alert] = track.alertsString;
+    }
     lines.text[TrackLabelLines::Identity] = identityLine(track, fields);
     lines.text[TrackLabelLines::Callsign] = callsignLine(track, fields);
     lines.text[TrackLabelLines::Level] = levelLine(track, fields);

@@ -30,15 +30,17 @@ TrackSymbols::Symbol TrackSymbols::forTrackType(int type)
 
 void TrackSymbols::setSize(int size)
 {
-    for (SvgSymbol &symbol : m_symbols)
+    for (SvgSymbol &symbol : m_symbols) {
         symbol.setLogicalSize(QSize(size, size));
+    }
     m_turnedAircraft.clear();
 }
 
 void TrackSymbols::setColor(const QColor &color)
 {
-    for (SvgSymbol &symbol : m_symbols)
+    for (SvgSymbol &symbol : m_symbols) {
         symbol.setColor(color);
+    }
     m_turnedAircraft.clear();
 }
 
@@ -49,13 +51,15 @@ const QPixmap &TrackSymbols::pixmap(Symbol symbol, double devicePixelRatio)
 
 const QPixmap &TrackSymbols::aircraft(double degrees, double devicePixelRatio)
 {
-    if (devicePixelRatio != m_turnedRatio)
+    if (devicePixelRatio != m_turnedRatio) {
         m_turnedAircraft.clear();
+    }
     m_turnedRatio = devicePixelRatio;
     const int turn = ((qRound(degrees) % 360) + 360) % 360;
     QPixmap &turned = m_turnedAircraft[turn];
-    if (!turned.isNull())
+    if (!turned.isNull()) {
         return turned;
+    }
     const QPixmap &upright = pixmap(Aircraft, devicePixelRatio);
     turned = QPixmap(upright.size());
     turned.setDevicePixelRatio(devicePixelRatio);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "display/svg_symbol.h"
+#include "view/svg_symbol.h"
 
 #include <QColor>
 #include <QHash>

@@ -65,8 +65,9 @@ void VideoRaster::setView(const SiteOffsets &offsets, const RadialStore &store, 
     m_halfAngle = float(m_halfRange * m_binCount / (2.0 * wgs84::Pi));
     m_sectorsPerBin = float(SectorCount) / float(m_binCount);
     m_coreRange = m_halfAngle * m_sectorsPerBin;
-    if (m_image.size() != size)
+    if (m_image.size() != size) {
         m_image = QImage(size, QImage::Format_ARGB32_Premultiplied);
+    }
     m_image.fill(Qt::transparent);
     m_range.resize(pixels);
     m_bin.resize(pixels);
@@ -90,8 +91,9 @@ void VideoRaster::moveView(const SiteOffsets &offsets, const QPoint &shift)
     movePixels(reinterpret_cast<QRgb *>(m_image.bits()), size, shift);
     const QRegion exposed = QRegion(m_image.rect()) - QRegion(m_image.rect().translated(shift));
     m_exposed.assign(exposed.begin(), exposed.end());
-    for (const QRect &rect : m_exposed)
+    for (const QRect &rect : m_exposed) {
         placePixels(rect, offsets);
+    }
     findRuns();
 }
 
@@ -120,8 +122,9 @@ void VideoRaster::findRuns()
 {
     m_runs.clear();
     m_bounds = QRect();
-    for (int y = 0; y < m_image.height(); ++y)
+    for (int y = 0; y < m_image.height(); ++y) {
         addRuns(y, m_image.width());
+    }
     sortRuns();
 }
 
@@ -131,8 +134,9 @@ void VideoRaster::addRuns(int y, int width)
     const float reach = float(m_reach) + m_halfRange;
     Run run;
     const auto finish = [this, &run] {
-        if (run.count > 0)
+        if (run.count > 0) {
             m_runs.push_back(run);
+        }
         run.count = 0;
     };
     for (int x = 0; x < width; ++x) {
@@ -148,30 +152,35 @@ void VideoRaster::addRuns(int y, int width)
             m_bounds |= QRect(x, y, 1, 1);
         }
         ++run.count;
-        if (x > m_bounds.right())
+        if (x > m_bounds.right()) {
             m_bounds.setRight(x);
+        }
     }
     finish();
 }
 
 int VideoRaster::sectorOf(float range, float bin) const
 {
-    if (range < m_coreRange)
+    if (range < m_coreRange) {
         return Core;
+    }
     return std::min(int(bin * m_sectorsPerBin), SectorCount - 1);
 }
 
 void VideoRaster::sortRuns()
 {
     m_firstRun.assign(SectorCount + 2, 0);
-    for (const Run &run : m_runs)
+    for (const Run &run : m_runs) {
         ++m_firstRun[run.sector + 1u];
-    for (std::size_t i = 1; i < m_firstRun.size(); ++i)
+    }
+    for (std::size_t i = 1; i < m_firstRun.size(); ++i) {
         m_firstRun[i] += m_firstRun[i - 1];
+    }
     std::vector<std::size_t> next(m_firstRun.begin(), m_firstRun.end() - 1);
     std::vector<Run> sorted(m_runs.size());
-    for (const Run &run : m_runs)
+    for (const Run &run : m_runs) {
         sorted[next[run.sector]++] = run;
+    }
     m_runs.swap(sorted);
 }
 
@@ -182,10 +191,12 @@ void VideoRaster::update(const RadialStore &store, const VideoPalette &palette, 
     for (int sector = 0; sector <= SectorCount; ++sector) {
         const auto index = std::size_t(sector);
         const bool wasLit = m_lit[index];
-        if (m_dirty[index])
+        if (m_dirty[index]) {
             resolve(sector);
-        if (m_dirty[index] ? m_lit[index] || wasLit : m_lit[index] && (m_aged[index] || m_recolorAll))
+        }
+        if (m_dirty[index] ? m_lit[index] || wasLit : m_lit[index] && (m_aged[index] || m_recolorAll)) {
             colorize(sector, palette);
+        }
         m_dirty[index] = false;
         m_aged[index] = false;
     }
@@ -203,8 +214,9 @@ void VideoRaster::expose(const VideoPalette &palette)
                 const Echo echo = m_range[pixel] <= reach ? strongest(pixel) : Echo();
                 m_echoes[pixel] = echo;
                 pixels[pixel] = palette.colors(m_ageSteps[echo.bin])[echo.amplitude];
-                if (echo.amplitude > 0)
+                if (echo.amplitude > 0) {
                     m_lit[std::size_t(sectorOf(m_range[pixel], m_bin[pixel]))] = true;
+                }
             }
         }
     }
@@ -216,8 +228,9 @@ void VideoRaster::readStore(const RadialStore &store, qint64 now, qint64 validit
     for (int bin = 0; bin < m_binCount; ++bin) {
         const bool changed = store.changed(bin);
         const bool aged = readBin(store, bin, now, validity);
-        if (!changed && !aged)
+        if (!changed && !aged) {
             continue;
+        }
         const int sector = bin * SectorCount / m_binCount;
         // A pixel next to the sector's edge sees bins on both sides of it.
         for (int neighbour : {sector + SectorCount - 1, sector, sector + 1}) {
@@ -264,15 +277,18 @@ VideoRaster::Echo VideoRaster::strongest(std::size_t pixel) const
     for (int i = 0, bin = first; i < count; ++i, ++bin) {
         bin -= bin >= m_binCount ? m_binCount : 0;
         const Cells &cells = m_cells[std::size_t(bin)];
-        if (cells.amplitudes == before)
+        if (cells.amplitudes == before) {
             continue; // the same row, or none, over several bins
+        }
         before = cells.amplitudes;
         const qint64 end = std::min(endCell, cells.end);
         unsigned char amplitude = 0;
-        for (qint64 cell = std::max(firstCell, cells.start); cell < end; ++cell)
+        for (qint64 cell = std::max(firstCell, cells.start); cell < end; ++cell) {
             amplitude = std::max(amplitude, cells.amplitudes[cell - cells.start]);
-        if (amplitude > strongest.amplitude)
+        }
+        if (amplitude > strongest.amplitude) {
             strongest = {quint16(bin), amplitude};
+        }
     }
     return strongest;
 }

@@ -64,13 +64,15 @@ std::vector<WeatherShape> weatherShapes(
     Projector &projector, const GeoCoordinate &site, const QList<WeatherProcessor::PolarVector> &vectors, double width)
 {
     std::vector<WeatherShape> shapes;
-    if (!site.isValid() || !(width > 0.0))
+    if (!site.isValid() || !(width > 0.0)) {
         return shapes;
+    }
     shapes.reserve(std::size_t(vectors.size()));
     const ShapeMaker maker(projector, site);
     for (const WeatherProcessor::PolarVector &vector : vectors) {
-        if (drawable(vector))
+        if (drawable(vector)) {
             maker.addPieces(shapes, vector, std::min(width, WidestVector));
+        }
     }
     std::stable_sort(shapes.begin(), shapes.end(),
         [](const WeatherShape &one, const WeatherShape &other) { return one.level < other.level; });
@@ -81,19 +83,22 @@ double touchingWidth(const QList<WeatherProcessor::PolarVector> &vectors, double
 {
     std::vector<double> azimuths;
     for (const WeatherProcessor::PolarVector &vector : vectors) {
-        if (std::isfinite(vector.azimuth))
+        if (std::isfinite(vector.azimuth)) {
             azimuths.push_back(vector.azimuth);
+        }
     }
     std::sort(azimuths.begin(), azimuths.end());
     std::vector<double> steps;
     for (std::size_t i = 1; i < azimuths.size(); ++i) {
         const double step = azimuths[i] - azimuths[i - 1];
         // Less than the resolution of azimuths is the same azimuth again.
-        if (step > 0.006 && step <= WidestStep)
+        if (step > 0.006 && step <= WidestStep) {
             steps.push_back(step);
+        }
     }
-    if (steps.size() < 2)
+    if (steps.size() < 2) {
         return fallback;
+    }
     const auto middle = steps.begin() + qsizetype(steps.size() / 2);
     std::nth_element(steps.begin(), middle, steps.end());
     return *middle;

@@ -2,9 +2,9 @@
 
 #include "astfile/file_reader.h"
 #include "engine/track_life_span.h"
-#include "processors/alert_manager.h"
 #include "processors/alert_processor.h"
 #include "tracking/adsb_tracker.h"
+#include "tracking/alert_manager.h"
 #include "tracking/radar_tracker.h"
 #include "tracking/sdps_tracker.h"
 #include "tracking/track_manager.h"

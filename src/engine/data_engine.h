@@ -14,9 +14,9 @@
 #include "engine/video_batch.h"
 #include "modes/mode_s_decoder.h"
 #include "modes/receiver_clock.h"
-#include "processors/alert.h"
 #include "processors/video_processor.h"
 #include "processors/weather_processor.h"
+#include "tracking/alert.h"
 
 #include <QByteArray>
 #include <QDateTime>

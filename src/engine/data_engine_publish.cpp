@@ -1,6 +1,6 @@
 #include "engine/data_engine.h"
-#include "processors/alert_manager.h"
 #include "processors/alert_processor.h"
+#include "tracking/alert_manager.h"
 #include "tracking/track_manager.h"
 
 void DataEngine::setSnapshotTrailDots(int count)

@@ -1,7 +1,7 @@
 #include "engine/data_engine.h"
 #include "processors/alert_processor.h"
+#include "sensors/sensor_info.h"
 #include "sirm/alenia_sir_m_radar_decoder.h"
-#include "tracking/sensor_info.h"
 #include "tracking/track_manager.h"
 #include "tracking/tracker.h"
 

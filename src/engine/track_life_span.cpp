@@ -1,9 +1,9 @@
 #include "engine/track_life_span.h"
 
-#include "tracking/adsb_sensor_info.h"
-#include "tracking/radar_sensor_info.h"
-#include "tracking/sdps_sensor_info.h"
-#include "tracking/smr_sensor_info.h"
+#include "sensors/adsb_sensor_info.h"
+#include "sensors/radar_sensor_info.h"
+#include "sensors/sdps_sensor_info.h"
+#include "sensors/smr_sensor_info.h"
 
 #include <algorithm>
 #include <array>

@@ -22,8 +22,9 @@ SexagesimalAngle split(double degrees)
 
 void appendField(QString &text, int value, int width)
 {
-    for (int unit = width > 2 ? 100 : 10; unit > 0; unit /= 10)
+    for (int unit = width > 2 ? 100 : 10; unit > 0; unit /= 10) {
         text += QLatin1Char(static_cast<char>('0' + value / unit % 10));
+    }
 }
 
 void appendAxis(
@@ -66,14 +67,16 @@ public:
         constexpr qsizetype lengthWithThreeDegreeDigits = 15;
         const qsizetype extra = withHundredths ? 6 : 0;
         if (m_text.size() != lengthWithThreeDegreeDigits + extra
-            && m_text.size() + 1 != lengthWithThreeDegreeDigits + extra)
+            && m_text.size() + 1 != lengthWithThreeDegreeDigits + extra) {
             return {};
+        }
         const bool threeDigits = m_text.size() == lengthWithThreeDegreeDigits + extra;
         const double latitude = axis(2, withHundredths, u'N', u'S');
         const double longitude = axis(threeDigits ? 3 : 2, withHundredths, u'E', u'W');
         GeoCoordinate coordinate;
-        if (!m_good)
+        if (!m_good) {
             return coordinate;
+        }
         coordinate.setLatitude(latitude);
         coordinate.setLongitude(longitude);
         return coordinate;
@@ -117,8 +120,9 @@ private:
 template <class Text>
 GeoCoordinate parse(Text text, GeoCoordinate::ATCStringFormat format)
 {
-    if (format != GeoCoordinate::NormalPrecision && format != GeoCoordinate::HighPrecision)
+    if (format != GeoCoordinate::NormalPrecision && format != GeoCoordinate::HighPrecision) {
         return {};
+    }
     return AtcReader<Text>(text).coordinate(format == GeoCoordinate::HighPrecision);
 }
 
@@ -134,10 +138,12 @@ GeoCoordinate parse(Text text)
 
 QString GeoCoordinate::toATCString(ATCStringFormat format) const
 {
-    if (!isValid())
+    if (!isValid()) {
         return {};
-    if (format == DecimalDegrees)
+    }
+    if (format == DecimalDegrees) {
         return QStringLiteral("%1,%2").arg(QString::number(latitude(), 'f', 6), QString::number(longitude(), 'f', 6));
+    }
     const bool withHundredths = format == HighPrecision;
     constexpr qsizetype longest = 21;
     QString text;

@@ -33,8 +33,9 @@ bool MercatorProjector::toWgs84(double *latitude, double *longitude, const doubl
             Pi / 2.0 - 2.0 * std::atan(t * std::pow((1.0 - eSinPhi) / (1.0 + eSinPhi), HalfEccentricity));
         const double change = refined - phi;
         phi += change;
-        if (std::abs(change) <= Converged)
+        if (std::abs(change) <= Converged) {
             break;
+        }
     }
     *latitude = degrees(phi);
     *longitude = x * 180.0 / Pi / SemiMajorAxis;

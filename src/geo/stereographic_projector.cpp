@@ -44,8 +44,9 @@ StereographicProjector::StereographicProjector(const double &latitude, const dou
 
 bool StereographicProjector::toCartesian(double *x, double *y, const double &latitude, const double &longitude)
 {
-    if (!x || !y)
+    if (!x || !y) {
         return false;
+    }
     const double chi = conformalLatitude(radians(latitude));
     const double deltaLambda = radians(longitude - m_centreLongitude);
     const double sinChi = std::sin(chi);
@@ -59,8 +60,9 @@ bool StereographicProjector::toCartesian(double *x, double *y, const double &lat
 
 bool StereographicProjector::toWgs84(double *latitude, double *longitude, const double &x, const double &y)
 {
-    if (!latitude || !longitude)
+    if (!latitude || !longitude) {
         return false;
+    }
     const double rho = std::sqrt(x * x + y * y);
     const double c = 2.0 * std::atan2(rho * m_cosChi0, m_k);
     const double sinC = std::sin(c);

@@ -63,8 +63,9 @@ const Kind *findKind(const QString &type)
         const bool isSame = isNumber
             ? number >= 0 && kind.number == number
             : *kind.abbreviation && type.compare(QLatin1String(kind.abbreviation), Qt::CaseInsensitive) == 0;
-        if (isSame)
+        if (isSame) {
             return &kind;
+        }
     }
     // A number that the list will have some day is an airspace all the same.
     return isNumber && number >= 0 ? &Kinds.front() : nullptr;
@@ -73,8 +74,9 @@ const Kind *findKind(const QString &type)
 QString feetText(int value, int datum)
 {
     constexpr int Ground = 0;
-    if (datum == Ground)
+    if (datum == Ground) {
         return value == 0 ? QStringLiteral("GND") : QStringLiteral("%1FT AGL").arg(value);
+    }
     return QStringLiteral("%1FT").arg(value);
 }
 
@@ -82,8 +84,9 @@ QString feetText(int value, int datum)
 QString titleOf(const Kind &kind, const QString &name)
 {
     const QString abbreviation = QLatin1String(kind.abbreviation);
-    if (abbreviation.size() < 2 || name.split(QLatin1Char(' ')).contains(abbreviation, Qt::CaseInsensitive))
+    if (abbreviation.size() < 2 || name.split(QLatin1Char(' ')).contains(abbreviation, Qt::CaseInsensitive)) {
         return name;
+    }
     return QStringLiteral("%1 %2").arg(abbreviation, name).trimmed();
 }
 
@@ -92,8 +95,9 @@ QString titleOf(const Kind &kind, const QString &name)
 QString airspaceLimitText(const QString &limit)
 {
     const QJsonObject object = QJsonDocument::fromJson(limit.toUtf8()).object();
-    if (object.isEmpty())
+    if (object.isEmpty()) {
         return limit.simplified();
+    }
     enum Unit { Metres = 0, Feet = 1, FlightLevel = 6 };
     const int value = object.value(QLatin1String("value")).toInt();
     const int datum = object.value(QLatin1String("referenceDatum")).toInt();
@@ -116,12 +120,14 @@ std::optional<AirspaceFeature> AirspaceFeature::of(const ImportFeature &feature,
         feature.property({QStringLiteral("upperLimit"), QStringLiteral("upper_limit"), QStringLiteral("upper")});
     const QString icaoClass = feature.property({QStringLiteral("icaoClass")});
     const Kind *kind = findKind(type);
-    if (!kind || feature.areas.isEmpty() || (lower.isEmpty() && upper.isEmpty() && icaoClass.isEmpty()))
+    if (!kind || feature.areas.isEmpty() || (lower.isEmpty() && upper.isEmpty() && icaoClass.isEmpty())) {
         return std::nullopt;
+    }
 
     AirspaceFeature airspace{QLatin1String(kind->className), titleOf(*kind, name)};
     const QString limits = QStringList{airspaceLimitText(lower), airspaceLimitText(upper)}.join(QLatin1Char('-'));
-    if (limits.size() > 1)
+    if (limits.size() > 1) {
         airspace.caption += (airspace.caption.isEmpty() ? QString() : QStringLiteral("\n")) + limits;
+    }
     return airspace;
 }

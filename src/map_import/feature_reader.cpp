@@ -88,8 +88,9 @@ Dataset openDataset(const QString &file)
 ReferenceSystem systemOf(int epsg)
 {
     ReferenceSystem system(OSRNewSpatialReference(nullptr));
-    if (OSRImportFromEPSG(system.get(), epsg) != OGRERR_NONE)
+    if (OSRImportFromEPSG(system.get(), epsg) != OGRERR_NONE) {
         return nullptr;
+    }
     OSRSetAxisMappingStrategy(system.get(), OAMS_TRADITIONAL_GIS_ORDER);
     return system;
 }
@@ -128,8 +129,9 @@ bool LayerReader::read(const QList<OGRLayerH> &layers, int epsg, QString *error)
 {
     m_layerCount = static_cast<int>(layers.size());
     for (m_layer = 0; m_layer < m_layerCount; ++m_layer) {
-        if (!readLayer(layers[m_layer], epsg, error))
+        if (!readLayer(layers[m_layer], epsg, error)) {
             return false;
+        }
     }
     reportSkipped();
     return true;
@@ -137,8 +139,9 @@ bool LayerReader::read(const QList<OGRLayerH> &layers, int epsg, QString *error)
 
 bool LayerReader::readLayer(OGRLayerH layer, int epsg, QString *error)
 {
-    if (!setSystem(layer, epsg, error))
+    if (!setSystem(layer, epsg, error)) {
         return false;
+    }
     m_layerName = QString::fromUtf8(OGR_L_GetName(layer));
     const qint64 total = OGR_L_GetFeatureCount(layer, true);
     qint64 read = 0;
@@ -154,8 +157,9 @@ bool LayerReader::readLayer(OGRLayerH layer, int epsg, QString *error)
             return false;
         }
     }
-    if (CPLGetLastErrorType() >= CE_Failure)
+    if (CPLGetLastErrorType() >= CE_Failure) {
         m_report.messages.append(tr("Layer \"%1\": %2").arg(m_layerName, QuietErrors::last()));
+    }
     return true;
 }
 
@@ -170,11 +174,13 @@ bool LayerReader::setSystem(OGRLayerH layer, int epsg, QString *error)
     }
     const ReferenceSystem degrees = systemOf(Wgs84);
     OGRSpatialReferenceH const source = stated ? stated.get() : OGR_L_GetSpatialRef(layer);
-    if (!source || !degrees || OSRIsSame(source, degrees.get()))
+    if (!source || !degrees || OSRIsSame(source, degrees.get())) {
         return true;
+    }
     m_transformation.reset(OCTNewCoordinateTransformation(source, degrees.get()));
-    if (!m_transformation)
+    if (!m_transformation) {
         *error = tr("The reference system of the coordinates cannot be used: %1").arg(QuietErrors::last());
+    }
     return m_transformation != nullptr;
 }
 
@@ -183,9 +189,10 @@ void LayerReader::take(OGRFeatureH source)
     ImportFeature feature;
     feature.layer = m_layerName;
     for (int i = 0; i < OGR_F_GetFieldCount(source); ++i) {
-        if (OGR_F_IsFieldSetAndNotNull(source, i))
+        if (OGR_F_IsFieldSetAndNotNull(source, i)) {
             feature.properties.append({QString::fromUtf8(OGR_Fld_GetNameRef(OGR_F_GetFieldDefnRef(source, i))),
                 QString::fromUtf8(OGR_F_GetFieldAsString(source, i))});
+        }
     }
     OGRGeometryH const shape = OGR_F_GetGeometryRef(source);
     const Geometry geometry(shape ? OGR_G_GetLinearGeometry(shape, 0, nullptr) : nullptr);
@@ -202,8 +209,9 @@ void LayerReader::take(OGRFeatureH source)
 // False where a point lies outside of the globe.
 bool LayerReader::addShapes(OGRGeometryH geometry, ImportFeature &feature) const
 {
-    if (m_transformation && OGR_G_Transform(geometry, m_transformation.get()) != OGRERR_NONE)
+    if (m_transformation && OGR_G_Transform(geometry, m_transformation.get()) != OGRERR_NONE) {
         return false;
+    }
     return addShape(geometry, feature);
 }
 
@@ -212,13 +220,16 @@ bool readPoints(OGRGeometryH geometry, bool isRing, LonLatLine &points)
 {
     for (int i = 0; i < OGR_G_GetPointCount(geometry); ++i) {
         const LonLat point{OGR_G_GetX(geometry, i), OGR_G_GetY(geometry, i)};
-        if (!(std::abs(point.latitude) <= 90.0 && std::abs(point.longitude) <= FarthestLongitude))
+        if (!(std::abs(point.latitude) <= 90.0 && std::abs(point.longitude) <= FarthestLongitude)) {
             return false;
-        if (points.isEmpty() || points.last() != point)
+        }
+        if (points.isEmpty() || points.last() != point) {
             points.append(point);
+        }
     }
-    if (isRing && points.size() > 1 && points.last() == points.first())
+    if (isRing && points.size() > 1 && points.last() == points.first()) {
         points.removeLast();
+    }
     return true;
 }
 
@@ -228,15 +239,18 @@ bool addPolygon(OGRGeometryH polygon, ImportFeature &feature)
     LonLatArea area;
     for (int i = 0; i < OGR_G_GetGeometryCount(polygon); ++i) {
         LonLatLine ring;
-        if (!readPoints(OGR_G_GetGeometryRef(polygon, i), true, ring))
+        if (!readPoints(OGR_G_GetGeometryRef(polygon, i), true, ring)) {
             return false;
-        if (ring.size() > 2)
+        }
+        if (ring.size() > 2) {
             area.append(ring);
-        else if (i == 0)
+        } else if (i == 0) {
             return true;
+        }
     }
-    if (!area.isEmpty())
+    if (!area.isEmpty()) {
         feature.areas.append(area);
+    }
     return true;
 }
 
@@ -245,15 +259,18 @@ bool LayerReader::addShape(OGRGeometryH geometry, ImportFeature &feature) const
     LonLatLine points;
     switch (wkbFlatten(OGR_G_GetGeometryType(geometry))) {
     case wkbPoint:
-        if (!readPoints(geometry, false, points))
+        if (!readPoints(geometry, false, points)) {
             return false;
+        }
         feature.points.append(points);
         return true;
     case wkbLineString:
-        if (!readPoints(geometry, false, points))
+        if (!readPoints(geometry, false, points)) {
             return false;
-        if (points.size() > 1)
+        }
+        if (points.size() > 1) {
             feature.lines.append(points);
+        }
         return true;
     case wkbPolygon:
     case wkbTriangle:
@@ -262,8 +279,9 @@ bool LayerReader::addShape(OGRGeometryH geometry, ImportFeature &feature) const
         break;
     }
     for (int i = 0; i < OGR_G_GetGeometryCount(geometry); ++i) {
-        if (!addShape(OGR_G_GetGeometryRef(geometry, i), feature))
+        if (!addShape(OGR_G_GetGeometryRef(geometry, i), feature)) {
             return false;
+        }
     }
     return true;
 }
@@ -271,21 +289,24 @@ bool LayerReader::addShape(OGRGeometryH geometry, ImportFeature &feature) const
 bool LayerReader::reportProgress(qint64 read, qint64 total) const
 {
     constexpr qint64 Step = 256; // features; asking costs more than reading a small one
-    if (!m_progress || (read % Step != 0 && read != total))
+    if (!m_progress || (read % Step != 0 && read != total)) {
         return true;
+    }
     const double part = total > 0 ? std::min(1.0, double(read) / double(total)) : 0.0;
     return m_progress(static_cast<int>(100.0 * (m_layer + part) / m_layerCount));
 }
 
 void LayerReader::reportSkipped()
 {
-    if (m_shapeless > 0)
+    if (m_shapeless > 0) {
         m_report.messages.append(tr("%n feature(s) without a usable shape were left out.", m_shapeless));
-    if (m_offGlobe > 0)
+    }
+    if (m_offGlobe > 0) {
         m_report.messages.append(
             tr("%n feature(s) outside of the globe were left out. Are the coordinates not degrees, "
                "and the reference system not stated?",
                 m_offGlobe));
+    }
 }
 
 // Empty with an error where one of the names is unknown.
@@ -297,8 +318,9 @@ QList<OGRLayerH> chosenLayers(GDALDatasetH dataset, const QStringList &names, QS
     for (int i = 0; i < GDALDatasetGetLayerCount(dataset); ++i) {
         OGRLayerH const layer = GDALDatasetGetLayer(dataset, i);
         known.append(QString::fromUtf8(OGR_L_GetName(layer)));
-        if (names.isEmpty() || names.contains(known.last()))
+        if (names.isEmpty() || names.contains(known.last())) {
             layers.append(layer);
+        }
         missing.removeAll(known.last());
     }
     if (!missing.isEmpty()) {
@@ -306,8 +328,9 @@ QList<OGRLayerH> chosenLayers(GDALDatasetH dataset, const QStringList &names, QS
                      .arg(missing.join(QLatin1String("\", \"")), known.join(QLatin1String(", ")));
         return {};
     }
-    if (layers.isEmpty())
+    if (layers.isEmpty()) {
         *error = tr("The file has no layers.");
+    }
     return layers;
 }
 

@@ -4,8 +4,9 @@ QString ImportFeature::property(const QStringList &names) const
 {
     for (const QString &name : names) {
         for (const auto &[key, value] : properties) {
-            if (key.compare(name, Qt::CaseInsensitive) == 0 && !value.trimmed().isEmpty())
+            if (key.compare(name, Qt::CaseInsensitive) == 0 && !value.trimmed().isEmpty()) {
                 return value.trimmed();
+            }
         }
     }
     return {};

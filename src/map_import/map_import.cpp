@@ -44,8 +44,9 @@ bool MapImport::available()
 
 QString MapImport::missingText()
 {
-    if (available())
+    if (available()) {
         return {};
+    }
     return tr(
         "This program was built without GDAL, which reads GeoJSON, KML, Shapefile and DXF. Install its development "
         "package (Debian and Ubuntu: libgdal-dev) and build again.");
@@ -67,8 +68,9 @@ bool MapImport::handles(const QString &file)
 {
     const QString pattern = QStringLiteral("*.") + QFileInfo(file).suffix().toLower();
     for (const Format &format : Formats) {
-        if (QString(QLatin1String(format.suffixes)).split(QLatin1Char(' ')).contains(pattern))
+        if (QString(QLatin1String(format.suffixes)).split(QLatin1Char(' ')).contains(pattern)) {
             return true;
+        }
     }
     return false;
 }
@@ -83,20 +85,22 @@ MapData MapImport::read(
     const QFileInfo info(file);
     MapBuilder builder(options);
     bool isRead = false;
-    if (!available())
+    if (!available()) {
         reason = missingText();
-    else if (!info.isFile() || !info.isReadable())
+    } else if (!info.isFile() || !info.isReadable()) {
         reason = tr("File \"%1\" does not exist or is not readable.").arg(info.absoluteFilePath());
-    else
+    } else {
         isRead = FeatureReader::read(
             info.absoluteFilePath(), {options.layers, options.epsg}, progress,
             [&builder](const ImportFeature &feature) { builder.add(feature); }, counts, &reason);
+    }
     if (isRead && builder.features() == 0) {
         reason = (QStringList{tr("Nothing in \"%1\" can be shown on a map.").arg(info.fileName())} + counts.messages)
                      .join(QLatin1Char(' '));
         isRead = false;
     }
-    if (error)
+    if (error) {
         *error = reason;
+    }
     return isRead ? finished(builder, info) : MapData();
 }

@@ -46,8 +46,9 @@ void markKept(const LonLatLine &line, double tolerance, QList<bool> &kept)
                 distance = d;
             }
         }
-        if (farthest < 0)
+        if (farthest < 0) {
             continue;
+        }
         kept[farthest] = true;
         stretches.append({from, farthest});
         stretches.append({farthest, to});
@@ -77,8 +78,9 @@ QList<double> crossingsAt(const LonLatLine &ring, double latitude)
     for (qsizetype i = 0; i < ring.size(); ++i) {
         const LonLat &a = ring[i];
         const LonLat &b = ring[(i + 1) % ring.size()];
-        if ((a.latitude > latitude) == (b.latitude > latitude))
+        if ((a.latitude > latitude) == (b.latitude > latitude)) {
             continue;
+        }
         const double part = (latitude - a.latitude) / (b.latitude - a.latitude);
         result.append(a.longitude + part * (b.longitude - a.longitude));
     }
@@ -102,8 +104,9 @@ LonLat centreOfGravity(const LonLatLine &ring)
         east += (ax + bx) * cross;
         north += (ay + by) * cross;
     }
-    if (std::abs(area) < std::numeric_limits<double>::epsilon())
+    if (std::abs(area) < std::numeric_limits<double>::epsilon()) {
         return origin;
+    }
     return {origin.longitude + east / (3 * area), origin.latitude + north / (3 * area)};
 }
 
@@ -116,8 +119,9 @@ LonLatLine RingShape::unwound(const LonLatLine &line)
     double shift = 0;
     for (qsizetype i = 0; i < line.size(); ++i) {
         const double step = i > 0 ? line[i].longitude - line[i - 1].longitude : 0.0;
-        if (std::abs(step) > 180.0)
+        if (std::abs(step) > 180.0) {
             shift -= std::copysign(360.0, step);
+        }
         result.append({line[i].longitude + shift, line[i].latitude});
     }
     return result;
@@ -127,8 +131,9 @@ LonLatLine RingShape::withHoles(const LonLatArea &area)
 {
     LonLatLine ring = area.value(0);
     for (const LonLatLine &hole : area.mid(1)) {
-        if (ring.isEmpty() || hole.isEmpty())
+        if (ring.isEmpty() || hole.isEmpty()) {
             continue;
+        }
         // Near is enough for a seam, and looking for the nearest pair of all takes far longer.
         const qsizetype start = nearestPoint(hole, ring[nearestPoint(ring, hole.first())]);
         const qsizetype at = nearestPoint(ring, hole[start]);
@@ -141,23 +146,26 @@ LonLatLine RingShape::withHoles(const LonLatArea &area)
 
 LonLatLine RingShape::simplified(const LonLatLine &line, double tolerance)
 {
-    if (tolerance <= 0 || line.size() < 3)
+    if (tolerance <= 0 || line.size() < 3) {
         return line;
+    }
     QList<bool> kept(line.size(), false);
     kept.first() = kept.last() = true;
     markKept(unwound(line), tolerance, kept);
     LonLatLine result;
     for (qsizetype i = 0; i < line.size(); ++i) {
-        if (kept[i])
+        if (kept[i]) {
             result.append(line[i]);
+        }
     }
     return result;
 }
 
 LonLatLine RingShape::simplifiedRing(const LonLatLine &ring, double tolerance)
 {
-    if (tolerance <= 0 || ring.size() < 4)
+    if (tolerance <= 0 || ring.size() < 4) {
         return ring;
+    }
     LonLatLine closed = simplified(ring + LonLatLine{ring.first()}, tolerance);
     closed.removeLast();
     return closed.size() < 3 ? ring : closed;
@@ -165,16 +173,18 @@ LonLatLine RingShape::simplifiedRing(const LonLatLine &ring, double tolerance)
 
 LonLat RingShape::labelPlace(const LonLatLine &outline)
 {
-    if (outline.isEmpty())
+    if (outline.isEmpty()) {
         return {};
+    }
     const LonLatLine ring = unwound(outline);
     LonLat place = centreOfGravity(ring);
     const QList<double> crossings = crossingsAt(ring, place.latitude);
     double widest = 0;
     double longitude = place.longitude;
     for (qsizetype i = 0; i + 1 < crossings.size(); i += 2) {
-        if (crossings[i] <= place.longitude && place.longitude <= crossings[i + 1])
+        if (crossings[i] <= place.longitude && place.longitude <= crossings[i + 1]) {
             return place;
+        }
         if (crossings[i + 1] - crossings[i] > widest) {
             widest = crossings[i + 1] - crossings[i];
             longitude = (crossings[i] + crossings[i + 1]) / 2;

@@ -25,13 +25,15 @@ bool isBlank(char character)
 // there is something else, or a text that only an XML reader can read.
 bool takeElement(std::string_view &document, std::string_view &text)
 {
-    if (!document.starts_with(StartTag))
+    if (!document.starts_with(StartTag)) {
         return false;
+    }
     const std::string_view behind = document.substr(StartTag.size());
     const auto textEnd = std::find_if_not(behind.begin(), behind.end(), isCoordinateCharacter);
     const auto length = static_cast<std::size_t>(textEnd - behind.begin());
-    if (!behind.substr(length).starts_with(EndTag))
+    if (!behind.substr(length).starts_with(EndTag)) {
         return false;
+    }
     text = behind.substr(0, length);
     const std::string_view rest = behind.substr(length + EndTag.size());
     document =
@@ -49,10 +51,11 @@ std::string_view view(const QByteArray &octets, qsizetype from = 0)
 CoordinateRuns::CoordinateRuns(const QByteArray &document) : m_document(document)
 {
     // In a section of plain characters the elements are text; a document with a target like ours is not from us.
-    if (document.contains("<![CDATA[") || document.contains(Target.data()))
+    if (document.contains("<![CDATA[") || document.contains(Target.data())) {
         m_short = document;
-    else
+    } else {
         shorten();
+    }
 }
 
 void CoordinateRuns::shorten()
@@ -61,8 +64,9 @@ void CoordinateRuns::shorten()
     const QByteArrayView startTag(StartTag.data(), qsizetype(StartTag.size()));
     for (qsizetype at = m_document.indexOf(startTag); at >= 0; at = m_document.indexOf(startTag, at)) {
         const qsizetype begin = at;
-        if (!takeRun(at))
+        if (!takeRun(at)) {
             continue;
+        }
         m_short.append(m_document.constData() + copied, begin - copied);
         m_short.append("<?").append(Target.data()).append(' ');
         m_short.append(QByteArray::number(m_runs.size() - 1)).append("?>");
@@ -80,11 +84,13 @@ bool CoordinateRuns::takeRun(qsizetype &at)
     std::string_view rest = view(m_document, at);
     std::string_view text;
     qsizetype count = 0;
-    while (takeElement(rest, text))
+    while (takeElement(rest, text)) {
         ++count;
+    }
     at = std::max(m_document.size() - qsizetype(rest.size()), begin + qsizetype(StartTag.size()));
-    if (count < ShortestRun)
+    if (count < ShortestRun) {
         return false;
+    }
     m_runs.append({begin, count});
     return true;
 }
@@ -98,12 +104,14 @@ void CoordinateRuns::append(QStringView instructionData, QList<GeoCoordinate> &p
 {
     bool good = false;
     const int index = instructionData.toInt(&good);
-    if (!good || index < 0 || index >= m_runs.size())
+    if (!good || index < 0 || index >= m_runs.size()) {
         return;
+    }
     const Run &run = m_runs.at(index);
     points.reserve(points.size() + run.count);
     std::string_view rest = view(m_document, run.begin);
     std::string_view text;
-    for (qsizetype i = 0; i < run.count && takeElement(rest, text); ++i)
+    for (qsizetype i = 0; i < run.count && takeElement(rest, text); ++i) {
         points.append(GeoCoordinate::fromATCString(QLatin1String(text.data(), qsizetype(text.size()))));
+    }
 }

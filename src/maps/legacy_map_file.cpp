@@ -43,8 +43,9 @@ void readShape(MapXmlReader &xml, QList<Shape> &shapes)
     Shape shape;
     shape.name = xml.attribute(QLatin1String("comment"));
     while (xml.nextChild()) {
-        if (xml.name() == QLatin1String("point"))
+        if (xml.name() == QLatin1String("point")) {
             shape.points.append(position(xml));
+        }
         xml.skip();
     }
     shapes.append(shape);
@@ -62,8 +63,9 @@ public:
     MapElementGroup &group(const QString &className)
     {
         const auto known = m_groups.constFind(className);
-        if (known != m_groups.constEnd())
+        if (known != m_groups.constEnd()) {
             return map.groups[*known];
+        }
         m_groups.insert(className, map.groups.size());
         MapElementGroup group;
         group.name = className;
@@ -80,16 +82,17 @@ private:
 void readElement(MapXmlReader &xml, GroupedMap &grouped)
 {
     const QString name = xml.name().toString();
-    if (name == QLatin1String("default"))
+    if (name == QLatin1String("default")) {
         readMeta(xml, grouped.map);
-    else if (name == QLatin1String("line"))
+    } else if (name == QLatin1String("line")) {
         readShape(xml, grouped.group(className(xml)).polylines);
-    else if (name == QLatin1String("polygon"))
+    } else if (name == QLatin1String("polygon")) {
         readShape(xml, grouped.group(className(xml)).polygons);
-    else if (name == QLatin1String("label") || name == QLatin1String("zlabel"))
+    } else if (name == QLatin1String("label") || name == QLatin1String("zlabel")) {
         readLabel(xml, grouped.group(className(xml)).labels);
-    else
+    } else {
         xml.skip();
+    }
 }
 
 } // namespace
@@ -101,13 +104,15 @@ MapData LegacyMapFile::readFile()
     xml.setStep([this](qint64 characters) { return reportProgress(characters); });
     const bool valid = xml.nextChild() && xml.name() == QLatin1String("airport");
     GroupedMap grouped;
-    while (valid && xml.nextChild())
+    while (valid && xml.nextChild()) {
         readElement(xml, grouped);
+    }
     xml.finish();
-    if (!valid && !xml.hasError())
+    if (!valid && !xml.hasError()) {
         setLastError(tr("This is not a valid Legacy format map file."));
-    else if (xml.hasError() && lastError().isEmpty())
+    } else if (xml.hasError() && lastError().isEmpty()) {
         setLastError(tr("Failed to parse the legacy map file at line %1.").arg(xml.lineNumber()));
+    }
     return grouped.map;
 }
 

@@ -14,8 +14,9 @@ QImage comparable(const QPixmap &pixmap)
 
 bool samePicture(const QPixmap &one, const QPixmap &other)
 {
-    if (one.isNull() || other.isNull() || one.size() != other.size())
+    if (one.isNull() || other.isNull() || one.size() != other.size()) {
         return one.isNull() && other.isNull();
+    }
     return one.cacheKey() == other.cacheKey() || comparable(one) == comparable(other);
 }
 
@@ -31,8 +32,9 @@ MapElementGroup &getGroup(MapData &map, const QString &className)
 {
     const auto found = std::find_if(map.groups.begin(), map.groups.end(),
         [&className](const MapElementGroup &group) { return group.className == className; });
-    if (found != map.groups.end())
+    if (found != map.groups.end()) {
         return *found;
+    }
     MapElementGroup group;
     group.name = className;
     group.className = className;

@@ -41,8 +41,9 @@ std::unique_ptr<MapFile> MapFile::create(Format format)
 QString MapFile::formatToString(Format format)
 {
     for (const FormatName &entry : FormatNames) {
-        if (entry.format == format)
+        if (entry.format == format) {
             return entry.name;
+        }
     }
     return QStringLiteral("unknown");
 }
@@ -50,8 +51,9 @@ QString MapFile::formatToString(Format format)
 MapFile::Format MapFile::formatFromString(const QString &text)
 {
     for (const FormatName &entry : FormatNames) {
-        if (entry.name == text)
+        if (entry.name == text) {
             return entry.format;
+        }
     }
     return Unknown;
 }
@@ -60,8 +62,9 @@ MapFile::Format MapFile::formatFromFileName(const QString &fileName)
 {
     const QString suffix = QFileInfo(fileName).suffix().toLower();
     for (const FormatName &entry : FormatNames) {
-        if (entry.suffix == suffix)
+        if (entry.suffix == suffix) {
             return entry.format;
+        }
     }
     return Unknown;
 }
@@ -74,31 +77,37 @@ bool MapFile::open(const QFileInfo &info, const MapFile::Format &format, QIODevi
 {
     close();
     m_lastError.clear();
-    if (format == Unknown || format != m_format)
+    if (format == Unknown || format != m_format) {
         return fail(tr("Map file format mismatch."));
+    }
     m_info = QFileInfo(info.absoluteFilePath()); // what the caller's has kept may be old
     m_mode = mode;
     m_file.setFileName(m_info.absoluteFilePath());
-    if (mode == QIODeviceBase::WriteOnly)
+    if (mode == QIODeviceBase::WriteOnly) {
         return openToWrite();
-    if (mode == QIODeviceBase::ReadOnly)
+    }
+    if (mode == QIODeviceBase::ReadOnly) {
         return openToRead();
+    }
     return fail(tr("Invalid map file open mode."));
 }
 
 bool MapFile::openToWrite()
 {
-    if (m_info.exists() && !m_info.isWritable())
+    if (m_info.exists() && !m_info.isWritable()) {
         return fail(tr("Map file \"%1\" is not writable.").arg(m_info.absoluteFilePath()));
-    if (!m_info.exists() || m_info.isFile())
+    }
+    if (!m_info.exists() || m_info.isFile()) {
         m_replacement = std::make_unique<QSaveFile>(m_info.absoluteFilePath());
+    }
     return openDevice(output());
 }
 
 bool MapFile::openToRead()
 {
-    if (!m_info.exists() || !m_info.isFile() || !m_info.isReadable())
+    if (!m_info.exists() || !m_info.isFile() || !m_info.isReadable()) {
         return fail(tr("Map file \"%1\" does not exist or is not readable.").arg(m_info.absoluteFilePath()));
+    }
     return openDevice(m_file);
 }
 
@@ -110,8 +119,9 @@ bool MapFile::openDevice(QFileDevice &device)
         m_replacement.reset();
         return fail(tr("Cannot open map file \"%1\": %2.").arg(path, reason));
     }
-    if (openFile())
+    if (openFile()) {
         return true;
+    }
     const QString error = m_lastError.isEmpty() ? tr("Cannot open map file \"%1\".").arg(path) : m_lastError;
     close();
     return fail(error);
@@ -124,12 +134,14 @@ bool MapFile::isOpen() const
 
 void MapFile::close()
 {
-    if (!isOpen())
+    if (!isOpen()) {
         return;
+    }
     closeFile();
     // Without the commit the destructor removes what was written.
-    if (m_replacement && m_written && !m_replacement->commit())
+    if (m_replacement && m_written && !m_replacement->commit()) {
         fail(tr("Cannot write map file \"%1\": %2.").arg(m_info.absoluteFilePath(), m_replacement->errorString()));
+    }
     m_replacement.reset();
     m_file.close();
     m_written = false;
@@ -154,11 +166,13 @@ bool MapFile::write(const MapData &map)
 {
     m_lastError.clear();
     m_written = false;
-    if (!isOpen() || m_mode != QIODeviceBase::WriteOnly)
+    if (!isOpen() || m_mode != QIODeviceBase::WriteOnly) {
         return fail(tr("Map file is not open for writing."));
+    }
     m_written = writeFile(map) && output().flush() && output().error() == QFileDevice::NoError;
-    if (m_written || !m_lastError.isEmpty())
+    if (m_written || !m_lastError.isEmpty()) {
         return m_written;
+    }
     return fail(tr("Cannot write map file \"%1\": %2.").arg(m_info.absoluteFilePath(), output().errorString()));
 }
 

@@ -23,8 +23,9 @@ bool pixmapsPossible()
 QPixmap MapImageReader::readFile(const QString &path)
 {
     const QFileInfo info(path);
-    if (!info.isFile()) // a pipe would be waited for
+    if (!info.isFile()) { // a pipe would be waited for
         return {};
+    }
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     return read(reader, info.size());
@@ -40,13 +41,15 @@ QPixmap MapImageReader::readPng(const QByteArray &octets)
 
 QPixmap MapImageReader::read(QImageReader &reader, qint64 fileSize)
 {
-    if (!pixmapsPossible())
+    if (!pixmapsPossible()) {
         return {};
+    }
     const QSize size = reader.size();
     const qint64 pixels = qint64(size.width()) * size.height();
     const bool packed = reader.format() == "png";
-    if (size.isEmpty() || pixels > m_octetsLeft / OctetsPerPixel || (packed && pixels / MaxPixelsPerOctet > fileSize))
+    if (size.isEmpty() || pixels > m_octetsLeft / OctetsPerPixel || (packed && pixels / MaxPixelsPerOctet > fileSize)) {
         return {};
+    }
     m_octetsLeft -= pixels * OctetsPerPixel;
     return QPixmap::fromImage(reader.read());
 }

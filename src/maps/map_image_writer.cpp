@@ -23,8 +23,9 @@ QString freeName(const QString &name, const QDir &folder)
 {
     const QString stem = fileStem(name);
     QString file = stem + QStringLiteral(".png");
-    for (int count = 1; folder.exists(file); ++count)
+    for (int count = 1; folder.exists(file); ++count) {
         file = QStringLiteral("%1-%2.png").arg(stem).arg(count);
+    }
     return file;
 }
 
@@ -47,8 +48,9 @@ bool save(const QString &path, const QPixmap &pixmap, QString *error)
     }
     QImageWriter writer(&file, suffix.isEmpty() ? QByteArray("png") : suffix.toLatin1());
     const bool good = writer.write(pixmap.toImage());
-    if (good && file.commit())
+    if (good && file.commit()) {
         return true;
+    }
     *error = good ? file.errorString() : writer.errorString();
     return false;
 }
@@ -59,7 +61,8 @@ QString writeMapImage(const MapImageElement &image, const QDir &folder, QString 
 {
     const QString file = image.file.isEmpty() ? freeName(image.name, folder) : image.file;
     const QString path = folder.absoluteFilePath(file);
-    if (image.pixmap.isNull() || shows(path, image.pixmap) || save(path, image.pixmap, error))
+    if (image.pixmap.isNull() || shows(path, image.pixmap) || save(path, image.pixmap, error)) {
         return file;
+    }
     return {};
 }

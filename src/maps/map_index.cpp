@@ -18,8 +18,9 @@ QString tr(const char *text)
 
 void report(QString *error, const QString &text)
 {
-    if (error)
+    if (error) {
         *error = text;
+    }
 }
 
 // A number that cannot be read states nothing.
@@ -33,8 +34,9 @@ std::optional<int> number(const MapXmlReader &xml, QLatin1String name)
 MapIndexEntry readEntry(MapXmlReader &xml)
 {
     MapIndexEntry entry;
-    if (xml.attributes().hasAttribute(QLatin1String("visible")))
+    if (xml.attributes().hasAttribute(QLatin1String("visible"))) {
         entry.visible = xml.attribute(QLatin1String("visible")) == QLatin1String("true");
+    }
     entry.priority = number(xml, QLatin1String("priority"));
     entry.minZoom = number(xml, QLatin1String("minzoom"));
     entry.maxZoom = number(xml, QLatin1String("maxzoom"));
@@ -45,21 +47,24 @@ MapIndexEntry readEntry(MapXmlReader &xml)
 
 void writeNumber(QXmlStreamWriter &xml, const QString &name, const std::optional<int> &value)
 {
-    if (value)
+    if (value) {
         xml.writeAttribute(name, QString::number(*value));
+    }
 }
 
 void writeEntry(QXmlStreamWriter &xml, const MapIndexEntry &entry)
 {
     xml.writeStartElement(QStringLiteral("file"));
-    if (entry.visible)
+    if (entry.visible) {
         xml.writeAttribute(
             QStringLiteral("visible"), *entry.visible ? QStringLiteral("true") : QStringLiteral("false"));
+    }
     writeNumber(xml, QStringLiteral("priority"), entry.priority);
     writeNumber(xml, QStringLiteral("minzoom"), entry.minZoom);
     writeNumber(xml, QStringLiteral("maxzoom"), entry.maxZoom);
-    if (entry.format != MapFile::Unknown)
+    if (entry.format != MapFile::Unknown) {
         xml.writeAttribute(QStringLiteral("format"), MapFile::formatToString(entry.format));
+    }
     xml.writeCharacters(xmlText(entry.file));
     xml.writeEndElement();
 }
@@ -84,11 +89,13 @@ QList<MapIndexEntry> readMapIndex(const QString &fileName, QString *error)
     MapXmlReader xml(&file);
     QList<MapIndexEntry> entries;
     for (auto token = xml.next(); token != QXmlStreamReader::Invalid; token = xml.next()) {
-        if (token == QXmlStreamReader::StartElement && xml.name() == QLatin1String("file"))
+        if (token == QXmlStreamReader::StartElement && xml.name() == QLatin1String("file")) {
             entries.append(readEntry(xml));
+        }
     }
-    if (!xml.hasError())
+    if (!xml.hasError()) {
         return entries;
+    }
     report(error, tr("Malformed map index file \"%1\": %2.").arg(fileName, xml.errorString()));
     return {};
 }
@@ -102,12 +109,14 @@ bool writeMapIndex(const QString &fileName, const QList<MapIndexEntry> &entries,
         xml.setAutoFormatting(true);
         xml.writeStartDocument();
         xml.writeStartElement(QStringLiteral("maps"));
-        for (const MapIndexEntry &entry : entries)
+        for (const MapIndexEntry &entry : entries) {
             writeEntry(xml, entry);
+        }
         xml.writeEndDocument();
     }
-    if (file.isOpen() && file.commit())
+    if (file.isOpen() && file.commit()) {
         return true;
+    }
     report(error, tr("Cannot write map index file \"%1\": %2.").arg(fileName, file.errorString()));
     return false;
 }

@@ -33,8 +33,9 @@ std::optional<QTransform> toTransform(const QVariant &value)
 {
     const QStringList parts = value.toStringList().join(u',').split(u',');
     std::array<double, 6> numbers{};
-    if (parts.size() != qsizetype(numbers.size()))
+    if (parts.size() != qsizetype(numbers.size())) {
         return std::nullopt;
+    }
     std::transform(parts.begin(), parts.end(), numbers.begin(), [](const QString &part) { return part.toDouble(); });
     const auto [m11, m12, m21, m22, dx, dy] = numbers;
     return QTransform(m11, m12, 0.0, m21, m22, 0.0, dx, dy, 1.0);
@@ -50,8 +51,9 @@ void MapLayout::load(const QString &fileName)
     QSettings settings(fileName, QSettings::IniFormat);
     const QString saved = settings.value(currentKey, defaultName).toString();
     const QMap<QString, QString> positions = loadArray(settings);
-    if (positions.isEmpty() && m_layouts.isEmpty())
+    if (positions.isEmpty() && m_layouts.isEmpty()) {
         loadGroup(settings);
+    }
     setCurrentLayout(positions.value(saved, saved));
 }
 
@@ -67,8 +69,9 @@ QMap<QString, QString> MapLayout::loadArray(QSettings &settings)
         settings.setArrayIndex(i);
         const QString name = settings.value(nameKey).toString();
         const auto transform = toTransform(settings.value(transformKey));
-        if (name == defaultName || name.isEmpty() || !transform)
+        if (name == defaultName || name.isEmpty() || !transform) {
             continue;
+        }
         m_layouts.insert(name, *transform);
         positions.insert(QString::number(i + 1), name);
     }
@@ -82,8 +85,9 @@ void MapLayout::loadGroup(QSettings &settings)
     settings.beginGroup(layoutsKey);
     const QStringList names = settings.childKeys();
     for (const QString &name : names) {
-        if (const auto transform = toTransform(settings.value(name)))
+        if (const auto transform = toTransform(settings.value(name))) {
             addLayout(name, *transform, false);
+        }
     }
     settings.endGroup();
 }
@@ -99,8 +103,9 @@ bool MapLayout::save(const QString &fileName) const
         settings.setArrayIndex(index);
         settings.setValue(nameKey, it.key());
         settings.setValue(transformKey, toText(it.value()));
-        if (it.key() == m_currentName)
+        if (it.key() == m_currentName) {
             current = QString::number(index + 1);
+        }
     }
     settings.endArray();
     settings.setValue(currentKey, current);
@@ -110,11 +115,13 @@ bool MapLayout::save(const QString &fileName) const
 
 void MapLayout::addLayout(const QString &name, const QTransform &transform, bool makeCurrent)
 {
-    if (name.isEmpty() || name == defaultName)
+    if (name.isEmpty() || name == defaultName) {
         return;
+    }
     m_layouts.insert(name, transform);
-    if (makeCurrent)
+    if (makeCurrent) {
         setCurrentLayout(name);
+    }
 }
 
 void MapLayout::removeLayout(const QString &name)
@@ -144,6 +151,7 @@ void MapLayout::dump(const QString &heading) const
 {
     qDebug() << heading << "current:" << m_currentName;
     qDebug() << defaultName << toText(m_default);
-    for (auto it = m_layouts.cbegin(); it != m_layouts.cend(); ++it)
+    for (auto it = m_layouts.cbegin(); it != m_layouts.cend(); ++it) {
         qDebug() << it.key() << toText(it.value());
+    }
 }

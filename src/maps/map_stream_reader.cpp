@@ -34,8 +34,9 @@ MapStreamReader::MapStreamReader(const QByteArray &octets, int version, Step ste
 
 bool MapStreamReader::read(MapData &map)
 {
-    for (QString *field : {&map.name, &map.title, &map.author, &map.version, &map.description, &map.comment})
+    for (QString *field : {&map.name, &map.title, &map.author, &map.version, &map.description, &map.comment}) {
         *field = text();
+    }
     return readList(map.groups, GroupSize);
 }
 
@@ -43,15 +44,17 @@ bool MapStreamReader::read(MapData &map)
 bool MapStreamReader::take(qsizetype count)
 {
     m_good = m_good && count <= left();
-    if (m_good)
+    if (m_good) {
         m_at += count;
+    }
     return m_good;
 }
 
 bool MapStreamReader::checkStep()
 {
-    if (m_at - m_lastStep < OctetsPerStep)
+    if (m_at - m_lastStep < OctetsPerStep) {
         return m_good;
+    }
     m_lastStep = m_at;
     m_good = m_good && (!m_step || m_step(m_at));
     return m_good;
@@ -67,11 +70,13 @@ Number MapStreamReader::number()
 QString MapStreamReader::text()
 {
     const auto size = number<quint32>();
-    if (size == NullText)
+    if (size == NullText) {
         return {};
+    }
     m_good = m_good && size % 2 == 0;
-    if (!take(qsizetype(size)))
+    if (!take(qsizetype(size))) {
         return {};
+    }
     QString text(qsizetype(size / 2), Qt::Uninitialized);
     qFromBigEndian<char16_t>(m_octets.constData() + m_at - size, qsizetype(size / 2), text.data());
     return text;
@@ -91,15 +96,18 @@ GeoCoordinate MapStreamReader::coordinate()
 
 QPixmap MapStreamReader::pixmap()
 {
-    if (number<quint32>() == 0)
+    if (number<quint32>() == 0) {
         return {};
+    }
     const qsizetype size = pngSize();
     m_good = m_good && size > 0;
-    if (!take(size))
+    if (!take(size)) {
         return {};
+    }
     const QPixmap pixmap = m_images.readPng(m_octets.mid(m_at - size, size));
-    if (pixmap.isNull())
+    if (pixmap.isNull()) {
         qDebug() << "Failed to load image in map file at" << m_at - size;
+    }
     return pixmap;
 }
 
@@ -107,17 +115,20 @@ QPixmap MapStreamReader::pixmap()
 qsizetype MapStreamReader::pngSize() const
 {
     const auto rest = QByteArrayView(m_octets).sliced(m_at);
-    if (!rest.startsWith("\x89PNG\r\n\x1a\n"))
+    if (!rest.startsWith("\x89PNG\r\n\x1a\n")) {
         return 0;
+    }
     qsizetype at = PngSignatureSize;
     while (rest.size() - at >= PngFrameSize) {
         const auto length = qsizetype(qFromBigEndian<quint32>(rest.data() + at));
-        if (length > rest.size() - at - PngFrameSize)
+        if (length > rest.size() - at - PngFrameSize) {
             return 0;
+        }
         const bool last = rest.sliced(at + 4).startsWith("IEND");
         at += length + PngFrameSize;
-        if (last)
+        if (last) {
             return at;
+        }
     }
     return 0;
 }
@@ -127,11 +138,13 @@ bool MapStreamReader::readList(QList<Element> &list, qsizetype smallest)
 {
     const auto count = qsizetype(number<quint32>());
     m_good = m_good && count <= left() / smallest;
-    if (!m_good)
+    if (!m_good) {
         return false;
+    }
     list.reserve(count);
-    for (qsizetype i = 0; i < count && checkStep(); ++i)
+    for (qsizetype i = 0; i < count && checkStep(); ++i) {
         readElement(list.emplaceBack());
+    }
     return m_good;
 }
 
@@ -159,8 +172,9 @@ void MapStreamReader::readElement(MapSymbolElement &symbol)
 void MapStreamReader::readElement(MapImageElement &image)
 {
     image.name = text();
-    if (m_version > 1)
+    if (m_version > 1) {
         image.file = text();
+    }
     image.pixmap = pixmap();
     image.northwest = coordinate();
     image.southeast = coordinate();

@@ -47,8 +47,9 @@ QString tr(const char *text)
 
 bool fail(QString *errorMessage, const QString &text)
 {
-    if (errorMessage)
+    if (errorMessage) {
         *errorMessage = text;
+    }
     return false;
 }
 
@@ -76,38 +77,41 @@ QColor readColor(MapXmlReader &xml, const QColor &former)
 void readPen(MapXmlReader &xml, QPen &pen)
 {
     while (xml.nextChild()) {
-        if (xml.name() == QLatin1String("color"))
+        if (xml.name() == QLatin1String("color")) {
             pen.setColor(readColor(xml, pen.color()));
-        else if (xml.name() == QLatin1String("line"))
+        } else if (xml.name() == QLatin1String("line")) {
             pen.setStyle(lineStyle(xml.text()));
-        else if (xml.name() == QLatin1String("width"))
+        } else if (xml.name() == QLatin1String("width")) {
             pen.setWidth(std::clamp(xml.text().toInt(), 0, MaxPenWidth));
-        else
+        } else {
             xml.skip();
+        }
     }
 }
 
 void readBrush(MapXmlReader &xml, QBrush &brush)
 {
     while (xml.nextChild()) {
-        if (xml.name() == QLatin1String("color"))
+        if (xml.name() == QLatin1String("color")) {
             brush.setColor(readColor(xml, brush.color()));
-        else if (xml.name() == QLatin1String("pattern"))
+        } else if (xml.name() == QLatin1String("pattern")) {
             brush.setStyle(xml.text() == QLatin1String("cross") ? Qt::CrossPattern : Qt::SolidPattern);
-        else
+        } else {
             xml.skip();
+        }
     }
 }
 
 void readFont(MapXmlReader &xml, QFont &font)
 {
     while (xml.nextChild()) {
-        if (xml.name() == QLatin1String("family"))
+        if (xml.name() == QLatin1String("family")) {
             font.setFamily(xml.text());
-        else if (xml.name() == QLatin1String("point"))
+        } else if (xml.name() == QLatin1String("point")) {
             font.setPointSize(std::clamp(xml.text().toInt(), 1, MaxPointSize));
-        else
+        } else {
             xml.skip();
+        }
     }
 }
 
@@ -137,36 +141,40 @@ void readMeta(MapXmlReader &xml, MapStyleSheet &sheet)
     while (xml.nextChild()) {
         const auto found = std::find_if(
             MetaFields.begin(), MetaFields.end(), [&xml](const MetaField &field) { return field.first == xml.name(); });
-        if (found != MetaFields.end())
+        if (found != MetaFields.end()) {
             sheet.*found->second = xml.text();
-        else
+        } else {
             xml.skip();
+        }
     }
 }
 
 void readStyle(MapXmlReader &xml, MapStyleSheet &sheet)
 {
     while (xml.nextChild()) {
-        if (xml.name() == QLatin1String("class"))
+        if (xml.name() == QLatin1String("class")) {
             sheet.setStyle(readClass(xml));
-        else
+        } else {
             xml.skip();
+        }
     }
 }
 
 void readSheet(MapXmlReader &xml, MapStyleSheet &sheet)
 {
-    if (xml.nextChild() && xml.name() != QLatin1String("map"))
+    if (xml.nextChild() && xml.name() != QLatin1String("map")) {
         xml.raiseError(tr("This is not a valid map style sheet."));
+    }
     while (xml.nextChild()) {
-        if (xml.name() == QLatin1String("meta"))
+        if (xml.name() == QLatin1String("meta")) {
             readMeta(xml, sheet);
-        else if (xml.name() == QLatin1String("style"))
+        } else if (xml.name() == QLatin1String("style")) {
             readStyle(xml, sheet);
-        else if (xml.name() == QLatin1String("comment")) // older sheets have it here
+        } else if (xml.name() == QLatin1String("comment")) { // older sheets have it here
             sheet.comment = xml.text();
-        else
+        } else {
             xml.skip();
+        }
     }
     xml.finish();
 }
@@ -198,8 +206,9 @@ void writeClass(QXmlStreamWriter &xml, const MapStyleClass &style)
     xml.writeEndElement();
     xml.writeStartElement(QStringLiteral("font"));
     writeText(xml, QStringLiteral("family"), style.font.family());
-    if (style.font.pointSize() > 0) // a font whose size is set in pixels has none
+    if (style.font.pointSize() > 0) { // a font whose size is set in pixels has none
         writeText(xml, QStringLiteral("point"), QString::number(style.font.pointSize()));
+    }
     xml.writeEndElement();
     xml.writeEndElement();
 }
@@ -212,12 +221,14 @@ void writeSheet(QIODevice &device, const MapStyleSheet &sheet)
     xml.writeStartDocument();
     xml.writeStartElement(QStringLiteral("map"));
     xml.writeStartElement(QStringLiteral("meta"));
-    for (const MetaField &field : MetaFields)
+    for (const MetaField &field : MetaFields) {
         writeText(xml, field.first, sheet.*field.second);
+    }
     xml.writeEndElement();
     xml.writeStartElement(QStringLiteral("style"));
-    for (const QString &name : sheet.names())
+    for (const QString &name : sheet.names()) {
         writeClass(xml, sheet.style(name));
+    }
     xml.writeEndDocument();
 }
 
@@ -227,8 +238,9 @@ bool backUp(const QString &fileName)
     const QString backup = fileName + QStringLiteral(".bak");
     const QString unfinished = backup + QStringLiteral("~");
     QFile::remove(unfinished);
-    if (!QFile::copy(fileName, unfinished))
+    if (!QFile::copy(fileName, unfinished)) {
         return false;
+    }
     return (!QFile::exists(backup) || QFile::remove(backup)) && QFile::rename(unfinished, backup);
 }
 
@@ -245,16 +257,19 @@ bool MapStyleSheet::load(const QString &fileName, QString *errorMessage)
     *this = {};
     const QFileInfo info(fileName);
     const QString path = info.absoluteFilePath();
-    if (!info.isFile() || !info.isReadable())
+    if (!info.isFile() || !info.isReadable()) {
         return fail(errorMessage, tr("Style sheet \"%1\" does not exist or is not readable.").arg(path));
+    }
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return fail(errorMessage, file.errorString());
+    }
     MapXmlReader xml(&file);
     MapStyleSheet sheet;
     readSheet(xml, sheet);
-    if (xml.hasError())
+    if (xml.hasError()) {
         return fail(errorMessage, xml.errorString());
+    }
     sheet.m_valid = true;
     *this = sheet;
     fail(errorMessage, {});
@@ -264,15 +279,19 @@ bool MapStyleSheet::load(const QString &fileName, QString *errorMessage)
 bool MapStyleSheet::save(const QString &fileName, QString *errorMessage) const
 {
     const QString folder = QFileInfo(fileName).absolutePath();
-    if (!QDir().mkpath(folder))
+    if (!QDir().mkpath(folder)) {
         return fail(errorMessage, tr("Cannot create directory \"%1\".").arg(folder));
-    if (QFile::exists(fileName) && !backUp(fileName))
+    }
+    if (QFile::exists(fileName) && !backUp(fileName)) {
         return fail(errorMessage, tr("Cannot write backup file \"%1\".").arg(fileName + QStringLiteral(".bak")));
+    }
     QSaveFile file(fileName);
-    if (file.open(QIODevice::WriteOnly))
+    if (file.open(QIODevice::WriteOnly)) {
         writeSheet(file, *this);
-    if (!file.isOpen() || !file.commit())
+    }
+    if (!file.isOpen() || !file.commit()) {
         return fail(errorMessage, file.errorString());
+    }
     fail(errorMessage, {});
     return true;
 }

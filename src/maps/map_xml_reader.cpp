@@ -34,8 +34,9 @@ qsizetype readableSize(const QByteArray &document)
         } else if (*at == '=') {
             const auto value = std::find_if_not(at + 1, document.cend(), isBlankOrZero);
             attributes += value != document.cend() && (*value == '"' || *value == '\'');
-            if (attributes > MapXmlReader::MaxAttributes)
+            if (attributes > MapXmlReader::MaxAttributes) {
                 return element;
+            }
         }
     }
     return document.size();
@@ -47,8 +48,9 @@ QByteArray contents(QIODevice &device)
     constexpr qint64 pieceSize = 65536;
     QByteArray octets;
     for (QByteArray piece = device.read(pieceSize); !piece.isEmpty() && octets.size() < MapFile::MaxFileSize;
-         piece = device.read(pieceSize))
+         piece = device.read(pieceSize)) {
         octets += piece;
+    }
     return octets;
 }
 
@@ -72,28 +74,33 @@ QString MapXmlReader::errorString() const
 
 QXmlStreamReader::TokenType MapXmlReader::next()
 {
-    if (m_xml.atEnd())
+    if (m_xml.atEnd()) {
         return QXmlStreamReader::Invalid;
+    }
     const auto token = m_xml.readNext();
-    if (token == QXmlStreamReader::StartElement)
+    if (token == QXmlStreamReader::StartElement) {
         ++m_depth;
-    else if (token == QXmlStreamReader::EndElement)
+    } else if (token == QXmlStreamReader::EndElement) {
         --m_depth;
+    }
     check();
     return m_xml.hasError() ? QXmlStreamReader::Invalid : m_xml.tokenType();
 }
 
 void MapXmlReader::check()
 {
-    if (m_depth > MaxDepth)
+    if (m_depth > MaxDepth) {
         m_xml.raiseError(tr("Elements are nested too deeply."));
-    else if (m_xml.isDTD() && m_xml.text().contains(QLatin1Char('[')))
+    } else if (m_xml.isDTD() && m_xml.text().contains(QLatin1Char('['))) {
         m_xml.raiseError(tr("Definitions of entities are not read."));
-    if (!m_step || m_xml.characterOffset() - m_lastStep < CharactersPerStep)
+    }
+    if (!m_step || m_xml.characterOffset() - m_lastStep < CharactersPerStep) {
         return;
+    }
     m_lastStep = m_xml.characterOffset();
-    if (!m_step(m_lastStep))
+    if (!m_step(m_lastStep)) {
         m_xml.raiseError(QString());
+    }
 }
 
 bool MapXmlReader::nextChild()
@@ -118,14 +125,16 @@ QString MapXmlReader::text()
     QString text;
     for (auto token = next(); token != QXmlStreamReader::Invalid && m_depth >= depth; token = next()) {
         const bool readable = token == QXmlStreamReader::Characters || token == QXmlStreamReader::EntityReference;
-        if (readable && m_depth == depth)
+        if (readable && m_depth == depth) {
             text += m_xml.text();
+        }
     }
     return text;
 }
 
 void MapXmlReader::finish()
 {
-    while (next() != QXmlStreamReader::Invalid)
+    while (next() != QXmlStreamReader::Invalid) {
         continue;
+    }
 }

@@ -19,15 +19,17 @@ bool isPair(const QString &text, qsizetype at)
 
 QString xmlText(const QString &text)
 {
-    if (std::all_of(text.cbegin(), text.cend(), fits))
+    if (std::all_of(text.cbegin(), text.cend(), fits)) {
         return text;
+    }
     QString kept;
     kept.reserve(text.size());
     for (qsizetype at = 0; at < text.size(); ++at) {
-        if (fits(text.at(at)))
+        if (fits(text.at(at))) {
             kept.append(text.at(at));
-        else if (isPair(text, at))
+        } else if (isPair(text, at)) {
             kept.append(QStringView(text).mid(at++, 2));
+        }
     }
     return kept;
 }

@@ -13,8 +13,9 @@ constexpr int StreamVersion = 17;
 
 int versionOf(const QByteArray &magic)
 {
-    if (magic == "MAP1")
+    if (magic == "MAP1") {
         return 1;
+    }
     return magic == "MAP2" ? CurrentVersion : 0;
 }
 
@@ -25,8 +26,9 @@ template <class Shape>
 void writeElement(QDataStream &stream, const Shape &shape)
 {
     stream << shape.name << quint32(shape.points.size());
-    for (const GeoCoordinate &point : shape.points)
+    for (const GeoCoordinate &point : shape.points) {
         stream << point;
+    }
 }
 
 void writeElement(QDataStream &stream, const MapLabelElement &label)
@@ -58,8 +60,9 @@ template <class Element>
 void writeList(QDataStream &stream, const QList<Element> &list)
 {
     stream << quint32(list.size());
-    for (const Element &element : list)
+    for (const Element &element : list) {
         writeElement(stream, element);
+    }
 }
 
 } // namespace
@@ -71,8 +74,9 @@ bool VyxBinMapFile::openFile()
 
 bool VyxBinMapFile::writeMagic()
 {
-    if (output().write("MAP2") == MagicSize)
+    if (output().write("MAP2") == MagicSize) {
         return true;
+    }
     qInfo("Failed to write file magic number");
     return false;
 }
@@ -80,8 +84,9 @@ bool VyxBinMapFile::writeMagic()
 bool VyxBinMapFile::readMagic()
 {
     m_version = versionOf(m_file.read(MagicSize));
-    if (m_version == 0)
+    if (m_version == 0) {
         qInfo("Unknown file format.");
+    }
     return m_version != 0;
 }
 
@@ -92,15 +97,17 @@ MapData VyxBinMapFile::readFile()
     MapStreamReader reader(
         octets, m_version, [this](qint64 octetsRead) { return reportProgress(MagicSize + octetsRead); });
     MapData map;
-    if (!reader.read(map) && lastError().isEmpty())
+    if (!reader.read(map) && lastError().isEmpty()) {
         setLastError(tr("Failed to parse the map file at byte %1.").arg(MagicSize + reader.offset()));
+    }
     return map;
 }
 
 bool VyxBinMapFile::writeFile(const MapData &map)
 {
-    if (!output().seek(MagicSize) && !output().isSequential())
+    if (!output().seek(MagicSize) && !output().isSequential()) {
         return false;
+    }
     QDataStream stream(&output());
     stream.setVersion(StreamVersion);
     stream.setFloatingPointPrecision(QDataStream::DoublePrecision);

@@ -42,10 +42,11 @@ public:
     MapData read()
     {
         for (auto token = m_xml.next(); token != QXmlStreamReader::Invalid; token = m_xml.next()) {
-            if (token == QXmlStreamReader::StartElement)
+            if (token == QXmlStreamReader::StartElement) {
                 readElement();
-            else if (token == QXmlStreamReader::EndElement && m_xml.name() == QLatin1String("group"))
+            } else if (token == QXmlStreamReader::EndElement && m_xml.name() == QLatin1String("group")) {
                 m_openGroups.removeLast();
+            }
         }
         return m_map;
     }
@@ -53,10 +54,11 @@ public:
 private:
     void readElement()
     {
-        if (m_xml.name() == QLatin1String("group"))
+        if (m_xml.name() == QLatin1String("group")) {
             openGroup();
-        else if (m_openGroups.isEmpty() ? !readMeta() : !readMember(m_map.groups[m_openGroups.last()]))
+        } else if (m_openGroups.isEmpty() ? !readMeta() : !readMember(m_map.groups[m_openGroups.last()])) {
             logUnknown(m_xml.name().toString());
+        }
     }
 
     void openGroup()
@@ -71,8 +73,9 @@ private:
     {
         const auto found = std::find_if(MetaFields.begin(), MetaFields.end(),
             [this](const MetaField &field) { return field.first == m_xml.name(); });
-        if (found == MetaFields.end())
+        if (found == MetaFields.end()) {
             return false;
+        }
         m_map.*found->second = m_xml.text();
         return true;
     }
@@ -80,18 +83,19 @@ private:
     bool readMember(MapElementGroup &group)
     {
         const QString element = m_xml.name().toString();
-        if (element == QLatin1String("polyline"))
+        if (element == QLatin1String("polyline")) {
             group.polylines.append(readShape<MapPolylineElement>());
-        else if (element == QLatin1String("polygon"))
+        } else if (element == QLatin1String("polygon")) {
             group.polygons.append(readShape<MapPolygonElement>());
-        else if (element == QLatin1String("label"))
+        } else if (element == QLatin1String("label")) {
             group.labels.append(readLabel());
-        else if (element == QLatin1String("symbol"))
+        } else if (element == QLatin1String("symbol")) {
             group.symbols.append(readSymbol());
-        else if (element == QLatin1String("image"))
+        } else if (element == QLatin1String("image")) {
             group.images.append(readImage());
-        else
+        } else {
             return false;
+        }
         return true;
     }
 
@@ -102,11 +106,12 @@ private:
         shape.name = m_xml.attribute(nameAttribute);
         for (auto token = m_xml.next(); token != QXmlStreamReader::EndElement && token != QXmlStreamReader::Invalid;
              token = m_xml.next()) {
-            if (token == QXmlStreamReader::StartElement)
+            if (token == QXmlStreamReader::StartElement) {
                 shape.points.append(readCoordinate());
-            else if (token == QXmlStreamReader::ProcessingInstruction
-                && CoordinateRuns::isRun(m_xml.instructionTarget()))
+            } else if (token == QXmlStreamReader::ProcessingInstruction
+                && CoordinateRuns::isRun(m_xml.instructionTarget())) {
                 m_runs.append(m_xml.instructionData(), shape.points);
+            }
         }
         return shape;
     }
@@ -116,12 +121,13 @@ private:
         MapLabelElement label;
         label.name = m_xml.attribute(nameAttribute);
         while (m_xml.nextChild()) {
-            if (m_xml.name() == QLatin1String("caption"))
+            if (m_xml.name() == QLatin1String("caption")) {
                 label.caption = m_xml.text();
-            else if (m_xml.name() == QLatin1String("coordinate"))
+            } else if (m_xml.name() == QLatin1String("coordinate")) {
                 label.coordinate = readCoordinate();
-            else
+            } else {
                 m_xml.skip();
+            }
         }
         return label;
     }
@@ -131,12 +137,13 @@ private:
         MapSymbolElement symbol;
         symbol.name = m_xml.attribute(nameAttribute);
         while (m_xml.nextChild()) {
-            if (m_xml.name() == QLatin1String("type"))
+            if (m_xml.name() == QLatin1String("type")) {
                 symbol.type = m_xml.text();
-            else if (m_xml.name() == QLatin1String("coordinate"))
+            } else if (m_xml.name() == QLatin1String("coordinate")) {
                 symbol.coordinate = readCoordinate();
-            else
+            } else {
                 m_xml.skip();
+            }
         }
         return symbol;
     }
@@ -146,25 +153,28 @@ private:
         MapImageElement image;
         image.name = m_xml.attribute(nameAttribute);
         while (m_xml.nextChild()) {
-            if (m_xml.name() == QLatin1String("file"))
+            if (m_xml.name() == QLatin1String("file")) {
                 image.file = m_xml.text();
-            else if (m_xml.name() == QLatin1String("northwest"))
+            } else if (m_xml.name() == QLatin1String("northwest")) {
                 image.northwest = readCoordinate();
-            else if (m_xml.name() == QLatin1String("southeast"))
+            } else if (m_xml.name() == QLatin1String("southeast")) {
                 image.southeast = readCoordinate();
-            else
+            } else {
                 m_xml.skip();
+            }
         }
-        if (!image.file.isEmpty())
+        if (!image.file.isEmpty()) {
             image.pixmap = readPixmap(m_folder.absoluteFilePath(image.file));
+        }
         return image;
     }
 
     QPixmap readPixmap(const QString &path)
     {
         const QPixmap pixmap = m_images.readFile(path);
-        if (pixmap.isNull())
+        if (pixmap.isNull()) {
             qDebug() << "Failed to load image file:" << path;
+        }
         return pixmap;
     }
 
@@ -172,8 +182,9 @@ private:
 
     void logUnknown(const QString &element)
     {
-        if (m_unknown.size() >= MaxUnknownNames || m_unknown.contains(element))
+        if (m_unknown.size() >= MaxUnknownNames || m_unknown.contains(element)) {
             return;
+        }
         m_unknown.insert(element);
         qDebug() << "Unknown element:" << element;
     }
@@ -197,13 +208,15 @@ public:
         m_xml.writeStartDocument();
         m_xml.writeStartElement(QStringLiteral("map"));
         m_xml.writeStartElement(QStringLiteral("meta"));
-        for (const MetaField &field : MetaFields)
+        for (const MetaField &field : MetaFields) {
             writeText(field.first, map.*field.second);
+        }
         m_xml.writeEndElement();
         m_xml.writeStartElement(QStringLiteral("data"));
         for (const MapElementGroup &group : map.groups) {
-            if (!writeGroup(group, error))
+            if (!writeGroup(group, error)) {
                 return false;
+            }
         }
         m_xml.writeEndDocument();
         return !m_xml.hasError();
@@ -214,17 +227,22 @@ private:
     {
         startElement(QStringLiteral("group"), group.name);
         m_xml.writeAttribute(QStringLiteral("class"), xmlText(group.className));
-        for (const MapPolylineElement &polyline : group.polylines)
+        for (const MapPolylineElement &polyline : group.polylines) {
             writeShape(QStringLiteral("polyline"), polyline.name, polyline.points);
-        for (const MapPolygonElement &polygon : group.polygons)
+        }
+        for (const MapPolygonElement &polygon : group.polygons) {
             writeShape(QStringLiteral("polygon"), polygon.name, polygon.points);
-        for (const MapLabelElement &label : group.labels)
+        }
+        for (const MapLabelElement &label : group.labels) {
             writePlace(QStringLiteral("label"), label.name, QStringLiteral("caption"), label.caption, label.coordinate);
-        for (const MapSymbolElement &symbol : group.symbols)
+        }
+        for (const MapSymbolElement &symbol : group.symbols) {
             writePlace(QStringLiteral("symbol"), symbol.name, QStringLiteral("type"), symbol.type, symbol.coordinate);
+        }
         for (const MapImageElement &image : group.images) {
-            if (!writeImage(image, error))
+            if (!writeImage(image, error)) {
                 return false;
+            }
         }
         m_xml.writeEndElement();
         return true;
@@ -233,8 +251,9 @@ private:
     void writeShape(const QString &element, const QString &name, const QList<GeoCoordinate> &points)
     {
         startElement(element, name);
-        for (const GeoCoordinate &point : points)
+        for (const GeoCoordinate &point : points) {
             writeCoordinate(QStringLiteral("coordinate"), point);
+        }
         m_xml.writeEndElement();
     }
 
@@ -292,10 +311,11 @@ MapData VyxXmlMapFile::readFile()
     xml.setStep([this, scale](qint64 characters) { return reportProgress(qint64(double(characters) * scale)); });
     const bool valid = xml.nextChild() && xml.name() == QLatin1String("map");
     const MapData map = valid ? Reader(xml, runs, m_info.absoluteDir()).read() : MapData{};
-    if (!valid && !xml.hasError())
+    if (!valid && !xml.hasError()) {
         setLastError(tr("This is not a valid VyxXML format map file."));
-    else if (xml.hasError() && lastError().isEmpty())
+    } else if (xml.hasError() && lastError().isEmpty()) {
         setLastError(tr("Failed to parse the map file at line %1.").arg(xml.lineNumber()));
+    }
     return map;
 }
 
@@ -303,7 +323,8 @@ bool VyxXmlMapFile::writeFile(const MapData &map)
 {
     QString error;
     const bool good = Writer(&output(), m_info.absoluteDir()).write(map, &error);
-    if (!error.isEmpty())
+    if (!error.isEmpty()) {
         setLastError(error);
+    }
     return good;
 }

@@ -1,7 +1,7 @@
 #include "processors/alert_processor.h"
 
 #include "asterix/asterix.h"
-#include "processors/alert_manager.h"
+#include "tracking/alert_manager.h"
 #include "tracking/track.h"
 #include "tracking/track_manager.h"
 
@@ -76,8 +76,9 @@ std::vector<Side> sidesOf(Alert::Type type)
 void changeNumber(Alert &alert, const Side &side, unsigned int number, const QString &sender)
 {
     const unsigned int previous = (alert.*side.otherTrackNumber)();
-    if (previous == number)
+    if (previous == number) {
         return;
+    }
     qDebug().noquote() << sender << side.changed << previous << "=>" << number;
     (alert.*side.setOtherTrackNumber)(number);
     (alert.*side.setTrack)({});
@@ -85,11 +86,13 @@ void changeNumber(Alert &alert, const Side &side, unsigned int number, const QSt
 
 void linkTrack(const QSharedPointer<Alert> &alert, const Side &side, TrackManager &tracks)
 {
-    if (((*alert).*side.track)())
+    if (((*alert).*side.track)()) {
         return;
+    }
     const auto track = tracks.findTrackByOtherTrackNum(((*alert).*side.otherTrackNumber)());
-    if (!track)
+    if (!track) {
         return;
+    }
     ((*alert).*side.setTrack)(track);
     track->addAlert(alert);
 }
@@ -97,8 +100,9 @@ void linkTrack(const QSharedPointer<Alert> &alert, const Side &side, TrackManage
 void takeModeACode(Alert &alert, const Side &side, const _ast_datarecord_004_t &record)
 {
     const auto &aircraft = record.*side.receivedAircraft;
-    if (!aircraft.present || !aircraft.mode3APresent)
+    if (!aircraft.present || !aircraft.mode3APresent) {
         return;
+    }
     (alert.*side.setModeACode)(aircraft.mode3A);
     (alert.*side.setModeACodeValid)(true);
 }
@@ -113,8 +117,9 @@ AlertProcessor::AlertProcessor(
 
 void AlertProcessor::procMessage(const _ast_datablock_t &block)
 {
-    if (!block.valid || block.category != 4)
+    if (!block.valid || block.category != 4) {
         return;
+    }
     for (const _ast_datarecord_t &generic : block.records) {
         _ast_datarecord_004_t record;
         ast_datarecord_004_disassemble(&record, generic);
@@ -124,8 +129,9 @@ void AlertProcessor::procMessage(const _ast_datablock_t &block)
 
 void AlertProcessor::procCat004Message(const _ast_datarecord_004_t &record)
 {
-    if (!record.valid || !record.i000.present)
+    if (!record.valid || !record.i000.present) {
         return;
+    }
     switch (record.i000.type) {
     case Alive:
         return procCat004AliveMessage(record);
@@ -152,10 +158,11 @@ void AlertProcessor::procCat004AliveMessage(const _ast_datarecord_004_t &record)
     for (int i = 0; i < record.i060.count; ++i) {
         const _ast_snet_status_t &status = record.i060.entries[i];
         const Alert::Type function = functionOf(status.type);
-        if (function != Alert::None)
+        if (function != Alert::None) {
             setAlertStatus(function, status.on);
-        else if (status.on)
+        } else if (status.on) {
             Q_EMIT message(LogLevel::Debug, withMessageType(tr("Unsupported CAT004 status: %1 (%2)"), status.type));
+        }
     }
 }
 
@@ -167,8 +174,9 @@ void AlertProcessor::procCat004MsawMessage(const _ast_datarecord_004_t &record)
 void AlertProcessor::procCat004ApwMessage(const _ast_datarecord_004_t &record)
 {
     const auto alert = updateAlert(record, Alert::APW);
-    if (alert && record.i100.present && record.i100.areaNamePresent)
+    if (alert && record.i100.present && record.i100.areaNamePresent) {
         alert->setObjectName(QString::fromLatin1(record.i100.areaName));
+    }
 }
 
 void AlertProcessor::procCat004StcaMessage(const _ast_datarecord_004_t &record)
@@ -182,8 +190,9 @@ void AlertProcessor::procCat004EocMessage(const _ast_datarecord_004_t &record)
         qDebug("CAT004 EOC message: Invalid alert id.");
         return;
     }
-    if (const auto alert = m_alertManager->findAlertById(record.i040.id))
+    if (const auto alert = m_alertManager->findAlertById(record.i040.id)) {
         alert->setState(Alert::End, m_alertManager->now());
+    }
 }
 
 QSharedPointer<Alert> AlertProcessor::updateAlert(const _ast_datarecord_004_t &record, Alert::Type type)
@@ -210,22 +219,26 @@ QSharedPointer<Alert> AlertProcessor::updateAlert(const _ast_datarecord_004_t &r
     alert->setState(Alert::Active, m_alertManager->now());
     for (const Side &side : sides) {
         const unsigned int number = (record.*side.receivedNumber).trackNumber;
-        if (refreshed)
+        if (refreshed) {
             changeNumber(*alert, side, number, sender);
-        else
+        } else {
             ((*alert).*side.setOtherTrackNumber)(number);
+        }
     }
-    for (const Side &side : sides)
+    for (const Side &side : sides) {
         linkTrack(alert, side, *m_trackManager);
-    for (const Side &side : sides)
+    }
+    for (const Side &side : sides) {
         takeModeACode(*alert, side, record);
+    }
     return alert;
 }
 
 void AlertProcessor::setAlertStatus(Alert::Type type, bool on)
 {
-    if (m_alertStatus.contains(type) && m_alertStatus.value(type) == on)
+    if (m_alertStatus.contains(type) && m_alertStatus.value(type) == on) {
         return;
+    }
     m_alertStatus[type] = on;
     Q_EMIT alertStatusChanged(type, on);
 }
@@ -233,7 +246,8 @@ void AlertProcessor::setAlertStatus(Alert::Type type, bool on)
 void AlertProcessor::resetAlertStatus()
 {
     const QList<Alert::Type> running = m_alertStatus.keys(true);
-    for (const Alert::Type type : running)
+    for (const Alert::Type type : running) {
         setAlertStatus(type, false);
+    }
     m_alertStatus.clear();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/log_level.h"
-#include "processors/alert.h"
+#include "tracking/alert.h"
 
 #include <QMap>
 #include <QObject>

@@ -40,18 +40,21 @@ VideoProcessor::VideoProcessor(QObject *parent)
 
 void VideoProcessor::procAsterixMessage(const _ast_datablock_t &block)
 {
-    if (!block.valid || block.category != 240)
+    if (!block.valid || block.category != 240) {
         return;
-    for (const _ast_datarecord_t &record : block.records)
+    }
+    for (const _ast_datarecord_t &record : block.records) {
         procCat240Record(record);
+    }
 }
 
 void VideoProcessor::procCat240Record(const _ast_datarecord_t &generic)
 {
     _ast_datarecord_240_t record;
     ast_datarecord_240_disassemble(&record, generic);
-    if (!record.valid)
+    if (!record.valid) {
         return;
+    }
     if (record.i048.present && (record.i048.compressed || record.i048.resolution != EightBitCells)) {
         warn(
             UnsupportedVideo, tr("Video Processor: Unsupported video resolution or compressed video, record dropped."));
@@ -72,8 +75,9 @@ void VideoProcessor::procCat240Record(const _ast_datarecord_t &generic)
 
 void VideoProcessor::procVectorError(int error, quint32 cellCount)
 {
-    if (error == AST_VIDEO_NO_VECTOR)
+    if (error == AST_VIDEO_NO_VECTOR) {
         return;
+    }
     if (error == AST_VIDEO_BUFFER_TOO_SMALL) {
         m_amplitudes.resize(cellCount);
         warn(BufferExceeded,
@@ -86,16 +90,18 @@ void VideoProcessor::procVectorError(int error, quint32 cellCount)
 
 void VideoProcessor::warn(int key, const QString &text)
 {
-    if (allowLog(key))
+    if (allowLog(key)) {
         Q_EMIT message(LogLevel::Warning, text);
+    }
 }
 
 bool VideoProcessor::allowLog(int key)
 {
     const qint64 now = m_monotonicClock();
     const auto last = m_lastLogged.constFind(key);
-    if (last != m_lastLogged.cend() && now - *last < LogPeriodMs)
+    if (last != m_lastLogged.cend() && now - *last < LogPeriodMs) {
         return false;
+    }
     m_lastLogged[key] = now;
     return true;
 }

@@ -13,8 +13,9 @@ enum MessageType : std::uint8_t { PolarVectors = 1, StartOfPicture = 254, EndOfP
 
 QString timeText(double timeOfDay)
 {
-    if (timeOfDay < 0.0)
+    if (timeOfDay < 0.0) {
         return QStringLiteral("N/A");
+    }
     const auto milliseconds = static_cast<int>(std::lround(timeOfDay * 1000.0));
     return QTime(0, 0).addMSecs(milliseconds).toString(QStringLiteral("hh:mm:ss.zzz"));
 }
@@ -25,13 +26,15 @@ WeatherProcessor::WeatherProcessor(QObject *parent) : QObject(parent) { }
 
 void WeatherProcessor::procAsterixMessage(const _ast_datablock_t &block)
 {
-    if (!block.valid || block.category != 8)
+    if (!block.valid || block.category != 8) {
         return;
+    }
     for (const _ast_datarecord_t &generic : block.records) {
         _ast_datarecord_008_t record;
         ast_datarecord_008_disassemble(&record, generic);
-        if (record.valid)
+        if (record.valid) {
             procCat008Record(record);
+        }
     }
 }
 
@@ -60,8 +63,9 @@ void WeatherProcessor::reset()
 
 void WeatherProcessor::procStartOfPicture(const _ast_datarecord_008_t &record)
 {
-    if (m_inPicture)
+    if (m_inPicture) {
         warn(tr("Weather Processor: Incomplete weather picture discarded by new SOP."));
+    }
     m_inPicture = true;
     m_vectors.clear();
     m_timeOfDay = record.i090.present ? record.i090.value * record.i090.lsb : -1.0;
@@ -75,25 +79,27 @@ void WeatherProcessor::procStartOfPicture(const _ast_datarecord_008_t &record)
 
 bool WeatherProcessor::acceptsPolarVectors(const _ast_datarecord_008_t &record)
 {
-    if (!m_inPicture)
+    if (!m_inPicture) {
         debug(tr("Weather Processor: Polar vectors received without SOP, record dropped."));
-    else if (!record.i020.present || !record.i034.present || record.i034.count == 0)
+    } else if (!record.i020.present || !record.i034.present || record.i034.count == 0) {
         debug(tr("Weather Processor: Polar vector record incomplete, record dropped."));
-    else if (record.i020.systemCoordinates)
+    } else if (record.i020.systemCoordinates) {
         warn(tr("Weather Processor: Weather vectors in system coordinates are not supported, record dropped."));
-    else if (record.i020.test || record.i020.error)
+    } else if (record.i020.test || record.i020.error) {
         debug(tr("Weather Processor: Test or error polar vector, record dropped."));
-    else if (!m_scaleKnown)
+    } else if (!m_scaleKnown) {
         warn(tr("Weather Processor: No scaling factor received, weather vectors dropped."));
-    else
+    } else {
         return true;
+    }
     return false;
 }
 
 void WeatherProcessor::procPolarVectors(const _ast_datarecord_008_t &record)
 {
-    if (!acceptsPolarVectors(record))
+    if (!acceptsPolarVectors(record)) {
         return;
+    }
     const double unit = std::ldexp(1.0, m_scale - 7);
     for (int i = 0; i < record.i034.count; ++i) {
         const _ast_weather_polar_vector_t &vector = record.i034.vectors[i];
@@ -107,8 +113,9 @@ void WeatherProcessor::procPolarVectors(const _ast_datarecord_008_t &record)
 
 void WeatherProcessor::procEndOfPicture(const _ast_datarecord_008_t &record)
 {
-    if (!m_inPicture)
+    if (!m_inPicture) {
         return;
+    }
     const int announced = record.i120.count;
     if (!record.i120.present) {
         debug(tr("Weather Processor: EOP received, weather picture: %1 vector(s).").arg(m_vectors.size()));
@@ -126,6 +133,7 @@ void WeatherProcessor::procEndOfPicture(const _ast_datarecord_008_t &record)
     }
     m_inPicture = false;
     const Picture picture{m_timeOfDay, std::exchange(m_vectors, {})};
-    if (!picture.vectors.isEmpty())
+    if (!picture.vectors.isEmpty()) {
         Q_EMIT pictureReady(picture);
+    }
 }

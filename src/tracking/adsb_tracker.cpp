@@ -11,8 +11,9 @@ constexpr qint64 CleanupPauseMs = 4000;
 
 void setModeA(Track &track, const korvane::modes::ADSBTarget &target)
 {
-    if (target.squawkValid())
+    if (target.squawkValid()) {
         reports::setModeA(track, target.squawk(), false, false);
+    }
 }
 
 void setMovement(Track &track, const _ast_datarecord_t &record)
@@ -46,8 +47,9 @@ AdsbTracker::AdsbTracker(const QSharedPointer<AdsbSensorInfo> &sensor, const QSh
     Projector *projector, QObject *parent)
     : Tracker(trackManager, projector, parent)
 {
-    if (sensor->location().isValid())
+    if (sensor->location().isValid()) {
         m_modesTracker.setReferencePosition(sensor->location().latitude(), sensor->location().longitude());
+    }
 }
 
 void AdsbTracker::setAltituteBaroChecking(bool enable, unsigned int checkingTime, unsigned int maxChange)
@@ -57,10 +59,12 @@ void AdsbTracker::setAltituteBaroChecking(bool enable, unsigned int checkingTime
 
 void AdsbTracker::procAsterixMessage(const _ast_datablock_t &block)
 {
-    if (!block.valid || block.category != 21)
+    if (!block.valid || block.category != 21) {
         return;
-    for (const auto &record : block.records)
+    }
+    for (const auto &record : block.records) {
         procCat021Record(record);
+    }
 }
 
 void AdsbTracker::procCat021Record(const _ast_datarecord_t &record)
@@ -68,11 +72,13 @@ void AdsbTracker::procCat021Record(const _ast_datarecord_t &record)
     const auto now = trackManager().now();
     const auto address = ast_datarecord_get_icaoaddr(record);
     const auto track = record.valid && address.present ? trackOf(address.address) : QSharedPointer<Track>();
-    if (!track)
+    if (!track) {
         return;
+    }
     track->setState(Track::Confirmed);
-    if (const auto callsign = ast_datarecord_get_callsign(record); callsign.present)
+    if (const auto callsign = ast_datarecord_get_callsign(record); callsign.present) {
         reports::setCallsign(*track, callsign.text);
+    }
     if (const auto position = ast_datarecord_get_wgs84coord(record); position.present) {
         track->setGeoCoordinate({position.latitude, position.longitude});
         project(*track);
@@ -86,10 +92,12 @@ void AdsbTracker::procCat021Record(const _ast_datarecord_t &record)
 QSharedPointer<Track> AdsbTracker::trackOf(unsigned int address)
 {
     // Stations send 0 for want of an address: what has it would become a new track with every report.
-    if (address == 0)
+    if (address == 0) {
         return {};
-    if (const auto known = trackManager().findTrackByICAOAddr(address))
+    }
+    if (const auto known = trackManager().findTrackByICAOAddr(address)) {
         return known;
+    }
     const auto track = createTrack();
     if (track) {
         track->setType(Track::Adsb);
@@ -102,14 +110,17 @@ QSharedPointer<Track> AdsbTracker::trackOf(unsigned int address)
 void AdsbTracker::procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &message)
 {
     const auto target = m_modesTracker.procModeSMsg(message);
-    if (!target || !target->icaoAddrValid())
+    if (!target || !target->icaoAddrValid()) {
         return;
+    }
     const auto track = trackOf(target->icaoAddr());
-    if (!track)
+    if (!track) {
         return;
+    }
     track->setState(Track::Confirmed);
-    if (target->callsignValid())
+    if (target->callsignValid()) {
         reports::setCallsign(*track, target->callsign().c_str());
+    }
     if (target->positionValid()) {
         track->setGeoCoordinate({target->latitude(), target->longitude()});
         project(*track);

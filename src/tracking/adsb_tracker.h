@@ -1,7 +1,7 @@
 #pragma once
 
 #include "modes/adsb_tracker.h"
-#include "tracking/adsb_sensor_info.h"
+#include "sensors/adsb_sensor_info.h"
 #include "tracking/tracker.h"
 
 // Tracks of an ADS-B ground station network, from ASTERIX category 21 and from the aircraft's own Mode S messages. They

@@ -13,12 +13,15 @@ constexpr double ReportPeriod = 1.0; // seconds
 Track::State stateOf(const _ast_datarecord_020_t &record)
 {
     const auto &status = record.i170;
-    if (!status.present)
+    if (!status.present) {
         return Track::Confirmed;
-    if (status.cnf)
+    }
+    if (status.cnf) {
         return Track::Tentative;
-    if (status.cst)
+    }
+    if (status.cst) {
         return Track::Coasting;
+    }
     return status.tre ? Track::Terminated : Track::Confirmed;
 }
 
@@ -46,8 +49,9 @@ MlatTracker::MlatTracker(const QSharedPointer<MlatSensorInfo> &sensor, const QSh
 
 void MlatTracker::procAsterixMessage(const _ast_datablock_t &block)
 {
-    if (!block.valid || block.category != 20)
+    if (!block.valid || block.category != 20) {
         return;
+    }
     reports::forEachRecord<_ast_datarecord_020_t>(block, ast_datarecord_020_disassemble, [this](auto &record) {
         applyOptions(record.i041, record.i042);
         procCat020Message(record);
@@ -58,19 +62,22 @@ void MlatTracker::procCat020Message(const _ast_datarecord_020_t &record)
 {
     const auto now = trackManager().now();
     const auto track = trackOf(record, now);
-    if (!track)
+    if (!track) {
         return;
+    }
     track->setType(Track::Mlat);
     track->setState(stateOf(record));
-    if (record.i245.present)
+    if (record.i245.present) {
         reports::setCallsign(*track, record.i245.text);
+    }
     placeReported(*track, record.i041, record.i042);
     reports::setModeA(*track, record.i070);
     reports::setLevel(*track, levelOf(record));
     reports::setSelectedAltitude(*track, reports::selectedAltitude(record.i250), now, DownlinkLifeSpan);
     reports::setVerticalRate(*track, reports::verticalRate(record.i250), now, DownlinkLifeSpan);
-    if (record.i170.present)
+    if (record.i170.present) {
         track->setVerticalTrend(trendOf(record.i170.cdm));
+    }
     reports::setVelocityFromComponents(*track, record.i202.present, record.i202.vx, record.i202.vy);
     track->recordHistory(now);
 }
@@ -78,13 +85,16 @@ void MlatTracker::procCat020Message(const _ast_datarecord_020_t &record)
 QSharedPointer<Track> MlatTracker::trackOf(const _ast_datarecord_020_t &record, const QDateTime &now)
 {
     Identity identity;
-    if (record.i161.present)
+    if (record.i161.present) {
         identity.number = record.i161.trackNumber;
-    if (record.i220.present)
+    }
+    if (record.i220.present) {
         identity.address = record.i220.address;
+    }
     identity.reportPeriod = ReportPeriod;
-    if (identity.usable())
+    if (identity.usable()) {
         return associate(identity, now);
+    }
     Q_EMIT message(LogLevel::Debug,
         tr("MLAT Tracker: CAT020 message has neither valid track number (I020/161) nor valid Mode-S address "
            "(I020/220), ignore."));

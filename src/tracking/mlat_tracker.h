@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tracking/mlat_sensor_info.h"
+#include "sensors/mlat_sensor_info.h"
 #include "tracking/system_tracker.h"
 
 // Tracks of a multilateration system, from ASTERIX category 20.

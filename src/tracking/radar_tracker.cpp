@@ -40,8 +40,9 @@ RadarTracker::RadarTracker(const QSharedPointer<RadarSensorInfo> &sensor,
 
 void RadarTracker::procAsterixMessage(const _ast_datablock_t &block)
 {
-    if (!block.valid)
+    if (!block.valid) {
         return;
+    }
     using reports::forEachRecord;
     const auto procAntenna = [this](const auto &record) { procAntennaMessage(record); };
     switch (block.category) {
@@ -68,22 +69,26 @@ void RadarTracker::procAsterixMessage(const _ast_datablock_t &block)
 template <typename Record>
 void RadarTracker::procAntennaMessage(const Record &record)
 {
-    if (!record.i000.present)
+    if (!record.i000.present) {
         return;
-    if (record.i000.type == SectorCrossing && record.i020.present)
+    }
+    if (record.i000.type == SectorCrossing && record.i020.present) {
         Q_EMIT antennaRotated(record.i020.azimuth);
-    else if (record.i000.type == NorthMarker)
+    } else if (record.i000.type == NorthMarker) {
         Q_EMIT antennaNorthCrossed();
+    }
 }
 
 void RadarTracker::procCat001Message(const _ast_datarecord_001_t &record)
 {
     const auto now = trackManager().now();
     const auto track = trackOf(record);
-    if (!track)
+    if (!track) {
         return;
-    if (record.i020.present)
+    }
+    if (record.i020.present) {
         track->setType(Cat001Types[record.i020.ssrpsr & 3]);
+    }
     track->setState(record.i170.present && record.i170.con ? Track::Tentative : Track::Confirmed);
     if (record.i040.present) {
         placePolar(*track, record.i040.rho, record.i040.theta);
@@ -99,8 +104,9 @@ void RadarTracker::procCat001Message(const _ast_datarecord_001_t &record)
 
 QSharedPointer<Track> RadarTracker::trackOf(const _ast_datarecord_001_t &record)
 {
-    if (record.i161.present)
+    if (record.i161.present) {
         return findOrCreate(record.i161.trackNumber);
+    }
     Q_EMIT message(LogLevel::Debug, tr("Radar Tracker: CAT001 message has no valid track number (I001/161), ignore."));
     return {};
 }
@@ -109,13 +115,16 @@ void RadarTracker::procCat048Message(const _ast_datarecord_048_t &record)
 {
     const auto now = trackManager().now();
     const auto track = trackOf(record, now);
-    if (!track)
+    if (!track) {
         return;
-    if (record.i020.present)
+    }
+    if (record.i020.present) {
         track->setType(Cat048Types[record.i020.typ & 7]);
+    }
     track->setState(record.i170.present && record.i170.cnf ? Track::Tentative : Track::Confirmed);
-    if (record.i240.present)
+    if (record.i240.present) {
         reports::setCallsign(*track, record.i240.text);
+    }
     if (record.i040.present) {
         placePolar(*track, record.i040.rho, record.i040.theta);
     } else if (record.i042.present) {
@@ -133,15 +142,18 @@ void RadarTracker::procCat048Message(const _ast_datarecord_048_t &record)
 QSharedPointer<Track> RadarTracker::trackOf(const _ast_datarecord_048_t &record, const QDateTime &now)
 {
     Identity identity;
-    if (record.i161.present)
+    if (record.i161.present) {
         identity.number = record.i161.trackNumber;
-    if (record.i220.present)
+    }
+    if (record.i220.present) {
         identity.address = record.i220.address;
+    }
     // The antenna sees an aircraft once a revolution.
     identity.reportPeriod =
         m_sensor->rotationPeriod() < ShortestRotationPeriod ? AssumedRotationPeriod : m_sensor->rotationPeriod();
-    if (identity.usable())
+    if (identity.usable()) {
         return associate(identity, now);
+    }
     Q_EMIT message(LogLevel::Debug,
         tr("Radar Tracker: CAT048 message has neither valid track number (I048/161) nor valid Mode-S address "
            "(I048/220), ignore."));

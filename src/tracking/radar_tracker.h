@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tracking/radar_sensor_info.h"
+#include "sensors/radar_sensor_info.h"
 #include "tracking/tracker.h"
 
 class AleniaSirMRadarDataMessage;

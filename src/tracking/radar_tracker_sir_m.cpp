@@ -38,10 +38,11 @@ Track::VerticalTrend trendOf(const AleniaSirMRadarTrackRecord &record)
 
 void setModeA(Track &track, const AleniaSirMRadarTrackRecord &record)
 {
-    if (record.modeACodeValid())
+    if (record.modeACodeValid()) {
         reports::setModeA(track, record.modeACode(), false, false);
-    else
+    } else {
         track.setModeACodeValid(false);
+    }
 }
 
 void setHeight(Track &track, const AleniaSirMRadarTrackRecord &record)
@@ -53,8 +54,9 @@ void setHeight(Track &track, const AleniaSirMRadarTrackRecord &record)
 // The radar knows the trend better than the rate, so that the trend does not follow from it.
 void setVerticalMovement(Track &track, const AleniaSirMRadarTrackRecord &record, const QDateTime &now)
 {
-    if (record.rateOfClimbDescentValid())
+    if (record.rateOfClimbDescentValid()) {
         track.setVerticalRate(static_cast<int>(std::lround(record.rateOfClimbDescent() * FeetPerMinute)), now);
+    }
     track.setVerticalRateValid(record.rateOfClimbDescentValid());
     track.setVerticalTrend(trendOf(record));
 }
@@ -70,39 +72,45 @@ void setVelocity(Track &track, const AleniaSirMRadarTrackRecord &record)
 
 void RadarTracker::procAleniaSirMMessage(const QSharedPointer<AleniaSirMRadarMessage> &message)
 {
-    if (const auto *marker = dynamic_cast<const AleniaSirMRadarNorthMarkerMessage *>(message.data()))
+    if (const auto *marker = dynamic_cast<const AleniaSirMRadarNorthMarkerMessage *>(message.data())) {
         procAleniaSirMNorthMarker(*marker);
-    else if (const auto *data = dynamic_cast<const AleniaSirMRadarDataMessage *>(message.data()))
+    } else if (const auto *data = dynamic_cast<const AleniaSirMRadarDataMessage *>(message.data())) {
         procAleniaSirMDataMessage(*data);
+    }
 }
 
 void RadarTracker::procAleniaSirMNorthMarker(const AleniaSirMRadarNorthMarkerMessage &marker)
 {
     if (marker.northNotSynchronized() != m_northNotSynchronized) {
         m_northNotSynchronized = marker.northNotSynchronized();
-        if (m_northNotSynchronized)
+        if (m_northNotSynchronized) {
             Q_EMIT message(LogLevel::Warning, tr("Alenia SIR-M Tracker: radar north is not synchronized."));
-        else
+        } else {
             Q_EMIT message(LogLevel::Debug, tr("Alenia SIR-M Tracker: radar north is synchronized."));
+        }
     }
     if (marker.clockNotSynchronized() != m_clockNotSynchronized) {
         m_clockNotSynchronized = marker.clockNotSynchronized();
-        if (m_clockNotSynchronized)
+        if (m_clockNotSynchronized) {
             Q_EMIT message(LogLevel::Warning, tr("Alenia SIR-M Tracker: radar clock is not synchronized."));
-        else
+        } else {
             Q_EMIT message(LogLevel::Debug, tr("Alenia SIR-M Tracker: radar clock is synchronized."));
+        }
     }
-    if (!m_northNotSynchronized)
+    if (!m_northNotSynchronized) {
         Q_EMIT antennaRotated(0.0);
+    }
     Q_EMIT antennaNorthCrossed();
 }
 
 void RadarTracker::procAleniaSirMDataMessage(const AleniaSirMRadarDataMessage &data)
 {
-    if (data.sectorValid())
+    if (data.sectorValid()) {
         Q_EMIT antennaRotated(data.sector() * DegreesPerSector);
-    for (const auto &record : data.trackRecords())
+    }
+    for (const auto &record : data.trackRecords()) {
         procAleniaSirMTrackRecord(record);
+    }
 }
 
 void RadarTracker::procAleniaSirMTrackRecord(const AleniaSirMRadarTrackRecord &record)
@@ -113,8 +121,9 @@ void RadarTracker::procAleniaSirMTrackRecord(const AleniaSirMRadarTrackRecord &r
     }
     const auto now = trackManager().now();
     const auto track = findOrCreate(record.trackNumber());
-    if (!track)
+    if (!track) {
         return;
+    }
     track->setType(typeOf(record));
     track->setState(record.coasting() ? Track::Coasting : Track::Confirmed);
     place(*track, m_sensor->location(), std::hypot(record.x(), record.y()) * MetresPerKilometre,

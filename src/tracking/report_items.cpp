@@ -18,16 +18,18 @@ const unsigned char *findRegister(const _ast_item_registers_t &item, unsigned ch
     constexpr int registerSize = 8;
     for (int i = 0; item.present && i < item.count; ++i) {
         const unsigned char *octets = item.octets + i * registerSize;
-        if (octets[registerSize - 1] == code)
+        if (octets[registerSize - 1] == code) {
             return octets;
+        }
     }
     return nullptr;
 }
 
 Track::VerticalTrend trendOf(double rate)
 {
-    if (rate > LevelFlightRate)
+    if (rate > LevelFlightRate) {
         return Track::TrendClimbing;
+    }
     return rate < -LevelFlightRate ? Track::TrendDescending : Track::TrendLevel;
 }
 
@@ -40,8 +42,9 @@ double reports::bearingOf(double x, double y)
 
 void reports::setModeA(Track &track, const _ast_item_mode3a_t &item)
 {
-    if (item.present)
+    if (item.present) {
         setModeA(track, item.code, item.g, item.l);
+    }
 }
 
 void reports::setModeA(Track &track, unsigned int code, bool garbled, bool smoothed)
@@ -55,8 +58,9 @@ void reports::setModeA(Track &track, unsigned int code, bool garbled, bool smoot
 void reports::setCallsign(Track &track, const char *text)
 {
     // Almost every report repeats the call sign: no text is made of it unless it changed.
-    if (!track.modeSCallsignValid() || track.modeSCallsign() != QLatin1String(text))
+    if (!track.modeSCallsignValid() || track.modeSCallsign() != QLatin1String(text)) {
         track.setModeSCallsign(QString::fromLatin1(text));
+    }
 }
 
 void reports::setVelocity(Track &track, const _ast_item_velocity_t &item)
@@ -91,8 +95,9 @@ void reports::setSelectedAltitude(Track &track, std::optional<int> altitude, con
         track.setSelectedAltitude(*altitude, now);
         track.setSelectedAltitudeValid(true);
     }
-    if (track.selectedAltitudeValid() && track.selectedAltitudeLastUpdate().msecsTo(now) > lifeSpan)
+    if (track.selectedAltitudeValid() && track.selectedAltitudeLastUpdate().msecsTo(now) > lifeSpan) {
         track.setSelectedAltitudeValid(false);
+    }
 }
 
 void reports::setVerticalRate(Track &track, std::optional<double> rate, const QDateTime &now, qint64 lifeSpan)
@@ -102,38 +107,48 @@ void reports::setVerticalRate(Track &track, std::optional<double> rate, const QD
         track.setVerticalRateValid(true);
         track.setVerticalTrend(trendOf(*rate));
     }
-    if (track.verticalRateValid() && track.verticalRateLastUpdate().msecsTo(now) > lifeSpan)
+    if (track.verticalRateValid() && track.verticalRateLastUpdate().msecsTo(now) > lifeSpan) {
         track.setVerticalRateValid(false);
-    if (!track.verticalRateValid())
+    }
+    if (!track.verticalRateValid()) {
         track.setVerticalTrend(Track::TrendUnknown);
+    }
 }
 
 std::optional<int> reports::selectedAltitude(const _ast_item_registers_t &item)
 {
     const unsigned char *octets = findRegister(item, Bds40);
-    if (!octets)
+    if (!octets) {
         return {};
+    }
     const auto intention = ast_bds_40_decode(octets);
-    if (!intention.success)
+    if (!intention.success) {
         return {};
-    if (intention.mcpAltitudeStatus)
+    }
+    if (intention.mcpAltitudeStatus) {
         return intention.mcpAltitude;
-    if (intention.fmsAltitudeStatus)
+    }
+    if (intention.fmsAltitudeStatus) {
         return intention.fmsAltitude;
+    }
     return {};
 }
 
 std::optional<double> reports::verticalRate(const _ast_item_registers_t &item)
 {
     const unsigned char *octets = findRegister(item, Bds60);
-    if (!octets)
+    if (!octets) {
         return {};
+    }
     const auto speed = ast_bds_60_decode(octets);
-    if (!speed.success)
+    if (!speed.success) {
         return {};
-    if (speed.baroRateStatus && std::abs(speed.baroRate) <= MaximumVerticalRate)
+    }
+    if (speed.baroRateStatus && std::abs(speed.baroRate) <= MaximumVerticalRate) {
         return speed.baroRate;
-    if (speed.inertialRateStatus && std::abs(speed.inertialRate) <= MaximumVerticalRate)
+    }
+    if (speed.inertialRateStatus && std::abs(speed.inertialRate) <= MaximumVerticalRate) {
         return speed.inertialRate;
+    }
     return {};
 }

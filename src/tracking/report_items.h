@@ -48,8 +48,9 @@ void forEachRecord(const _ast_datablock_t &block, Disassemble disassemble, Handl
     for (const auto &generic : block.records) {
         Record record;
         disassemble(&record, generic);
-        if (record.valid)
+        if (record.valid) {
             handle(record);
+        }
     }
 }
 

@@ -16,17 +16,20 @@ constexpr double AssumedUpdateInterval = 4.0; // seconds
 void addHalfCircleToWesternLongitude(_ast_datarecord_062_t &record)
 {
     auto &position = record.i105;
-    if (position.present && position.longitudeCount < 0)
+    if (position.present && position.longitudeCount < 0) {
         position.longitude = static_cast<double>(position.longitudeCount + HalfCircleCounts) * position.resolution;
+    }
 }
 
 // The measured level, else the calculated one unless it is an altitude above the sea.
 std::optional<int> levelOf(const _ast_datarecord_062_t &record)
 {
-    if (record.i136.present)
+    if (record.i136.present) {
         return static_cast<int>(std::lround(record.i136.level * FeetPerQuarterLevel));
-    if (record.i135.present && !record.i135.qnhApplied)
+    }
+    if (record.i135.present && !record.i135.qnhApplied) {
         return static_cast<int>(std::lround(record.i135.level * FeetPerQuarterLevel));
+    }
     return {};
 }
 
@@ -39,10 +42,11 @@ Track::VerticalTrend trendOf(unsigned int value)
 
 void setCallsign(Track &track, const _ast_datarecord_062_t &record)
 {
-    if (record.i390.callsignPresent)
+    if (record.i390.callsignPresent) {
         reports::setCallsign(track, record.i390.callsign);
-    else if (record.i380.callsignPresent)
+    } else if (record.i380.callsignPresent) {
         reports::setCallsign(track, record.i380.callsign);
+    }
 }
 
 void setVerticalMovement(Track &track, const _ast_datarecord_062_t &record, const QDateTime &now)
@@ -52,8 +56,9 @@ void setVerticalMovement(Track &track, const _ast_datarecord_062_t &record, cons
     reports::setSelectedAltitude(track, altitude, now, ReportLifeSpan);
     const auto rate = record.i220.present ? std::optional(record.i220.rate) : std::nullopt;
     reports::setVerticalRate(track, rate, now, ReportLifeSpan);
-    if (record.i200.present)
+    if (record.i200.present) {
         track.setVerticalTrend(trendOf(record.i200.vertical));
+    }
 }
 
 } // namespace
@@ -66,12 +71,14 @@ SdpsTracker::SdpsTracker(const QSharedPointer<SdpsSensorInfo> &sensor, const QSh
 
 void SdpsTracker::procAsterixMessage(const _ast_datablock_t &block)
 {
-    if (!block.valid || block.category != 62)
+    if (!block.valid || block.category != 62) {
         return;
+    }
     reports::forEachRecord<_ast_datarecord_062_t>(block, ast_datarecord_062_disassemble, [this](auto &record) {
         applyOptions(record.i105, record.i100);
-        if (m_correctLongitudeWrap)
+        if (m_correctLongitudeWrap) {
             addHalfCircleToWesternLongitude(record);
+        }
         procCat062Message(record);
     });
 }
@@ -80,8 +87,9 @@ void SdpsTracker::procCat062Message(const _ast_datarecord_062_t &record)
 {
     const auto now = trackManager().now();
     const auto track = trackOf(record, now);
-    if (!track)
+    if (!track) {
         return;
+    }
     track->setType(record.i380.present ? Track::SdpsModeS : Track::Sdps);
     track->setState(record.i080.present && record.i080.cnf ? Track::Tentative : Track::Confirmed);
     setCallsign(*track, record);
@@ -96,14 +104,17 @@ void SdpsTracker::procCat062Message(const _ast_datarecord_062_t &record)
 QSharedPointer<Track> SdpsTracker::trackOf(const _ast_datarecord_062_t &record, const QDateTime &now)
 {
     Identity identity;
-    if (record.i040.present)
+    if (record.i040.present) {
         identity.number = record.i040.trackNumber;
-    if (record.i380.addressPresent)
+    }
+    if (record.i380.addressPresent) {
         identity.address = record.i380.address;
+    }
     identity.reportPeriod =
         m_sensor->updateInterval() < ShortestUpdateInterval ? AssumedUpdateInterval : m_sensor->updateInterval();
-    if (identity.usable())
+    if (identity.usable()) {
         return associate(identity, now);
+    }
     Q_EMIT message(LogLevel::Debug,
         tr("SDPS Tracker: CAT062 message has neither valid track number (I062/040) nor valid Mode-S address "
            "(I062/380/ADR), ignore."));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tracking/sdps_sensor_info.h"
+#include "sensors/sdps_sensor_info.h"
 #include "tracking/system_tracker.h"
 
 // System tracks of a surveillance data processing system, from ASTERIX category 62.

@@ -10,8 +10,9 @@ SmrTracker::SmrTracker(const QSharedPointer<SmrSensorInfo> &sensor, const QShare
 
 void SmrTracker::procAsterixMessage(const _ast_datablock_t &block)
 {
-    if (!block.valid || block.category != 10)
+    if (!block.valid || block.category != 10) {
         return;
+    }
     reports::forEachRecord<_ast_datarecord_010_t>(
         block, ast_datarecord_010_disassemble, [this](const auto &record) { procCat010Message(record); });
 }
@@ -23,11 +24,13 @@ void SmrTracker::procCat010Message(const _ast_datarecord_010_t &record)
             LogLevel::Debug, tr("SMR Tracker: CAT010 message has no valid track number (I010/161), ignore."));
         return;
     }
-    if (!record.i040.present)
+    if (!record.i040.present) {
         return;
+    }
     const auto track = findOrCreate(record.i161.trackNumber);
-    if (!track)
+    if (!track) {
         return;
+    }
     track->setType(Track::Smr);
     track->setGround(true);
     track->setState(record.i170.present && record.i170.cnf ? Track::Tentative : Track::Confirmed);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tracking/smr_sensor_info.h"
+#include "sensors/smr_sensor_info.h"
 #include "tracking/tracker.h"
 
 // Tracks of a surface movement radar, from ASTERIX category 10. All of them are on the ground.

@@ -13,8 +13,9 @@ SystemTracker::SystemTracker(const GeoCoordinate &location, const QSharedPointer
 void SystemTracker::placeOnPlane(Track &track, const QPointF &position, bool deriveWgs84) const
 {
     track.setCarCoordinate(position);
-    if (!deriveWgs84)
+    if (!deriveWgs84) {
         return;
+    }
     double latitude = 0.0;
     double longitude = 0.0;
     projector().toWgs84(&latitude, &longitude, position.x(), position.y());

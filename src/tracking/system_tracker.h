@@ -34,12 +34,14 @@ protected:
     template <typename Wgs84Item, typename CartesianItem>
     void placeReported(Track &track, const Wgs84Item &wgs84, const CartesianItem &cartesian) const
     {
-        if (wgs84.present)
+        if (wgs84.present) {
             track.setGeoCoordinate({wgs84.latitude, wgs84.longitude});
-        if (cartesian.present)
+        }
+        if (cartesian.present) {
             placeOnPlane(track, m_sensorPlanePosition + QPointF(cartesian.x, cartesian.y), !wgs84.present);
-        else if (wgs84.present)
+        } else if (wgs84.present) {
             project(track);
+        }
     }
 
 private:

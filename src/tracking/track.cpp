@@ -1,6 +1,6 @@
 #include "tracking/track.h"
 
-#include "processors/alert.h"
+#include "tracking/alert.h"
 
 #include <algorithm>
 
@@ -21,8 +21,9 @@ Track::Track(unsigned int trackNumber, const QDateTime &now)
 
 void Track::setIcaoAddr(unsigned int address)
 {
-    if (address == m_icaoAddr)
+    if (address == m_icaoAddr) {
         return;
+    }
     m_icaoAddr = address;
     m_icaoAddrValid = address != 0;
     m_icaoAddrString = digits(address, 6, 16);
@@ -45,32 +46,36 @@ void Track::setModeSCallsign(const QString &callsign)
 
 void Track::setModeACode(unsigned int code)
 {
-    if (code == m_modeACode)
+    if (code == m_modeACode) {
         return;
+    }
     m_modeACode = code;
     updateModeAString();
 }
 
 void Track::setModeACodeValid(bool valid)
 {
-    if (valid == m_modeACodeValid)
+    if (valid == m_modeACodeValid) {
         return;
+    }
     m_modeACodeValid = valid;
     updateModeAString();
 }
 
 void Track::setModeACodeSmoothed(bool smoothed)
 {
-    if (smoothed == m_modeACodeSmoothed)
+    if (smoothed == m_modeACodeSmoothed) {
         return;
+    }
     m_modeACodeSmoothed = smoothed;
     updateModeAString();
 }
 
 void Track::setModeACodeGarbled(bool garbled)
 {
-    if (garbled == m_modeACodeGarbled)
+    if (garbled == m_modeACodeGarbled) {
         return;
+    }
     m_modeACodeGarbled = garbled;
     updateModeAString();
 }
@@ -82,10 +87,12 @@ void Track::updateModeAString()
         return;
     }
     m_modeAString = digits(m_modeACode, 4, 8);
-    if (m_modeACodeGarbled)
+    if (m_modeACodeGarbled) {
         m_modeAString += QLatin1Char('G');
-    if (m_modeACodeSmoothed)
+    }
+    if (m_modeACodeSmoothed) {
         m_modeAString += QLatin1Char('S');
+    }
 }
 
 void Track::setGeoCoordinate(const GeoCoordinate &coordinate)
@@ -114,23 +121,27 @@ void Track::setVerticalRate(int rate, const QDateTime &now)
 
 QString Track::alertsString() const
 {
-    if (m_alerts.isEmpty())
+    if (m_alerts.isEmpty()) {
         return {};
+    }
     QStringList active;
     for (const auto type : {Alert::MSAW, Alert::APW, Alert::STCA}) {
         if (std::any_of(m_alerts.begin(), m_alerts.end(),
-                [type](const auto &alert) { return alert->active() && alert->type() == type; }))
+                [type](const auto &alert) { return alert->active() && alert->type() == type; })) {
             active.append(Alert::typeString(type));
+        }
     }
     return active.join(QLatin1Char(' '));
 }
 
 void Track::recordHistory(const QDateTime &now)
 {
-    if (!m_geoCoordinateValid)
+    if (!m_geoCoordinateValid) {
         return;
-    if (m_history.size() >= MaximumHistory)
+    }
+    if (m_history.size() >= MaximumHistory) {
         m_history.pop_back();
+    }
     m_history.emplace_front(
         m_geoCoordinate, m_geoCoordinateValid, m_carCoordinate, m_carCoordinateValid, m_ground, m_level, m_levelValid);
     m_lastUpdate = now;

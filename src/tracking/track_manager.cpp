@@ -47,10 +47,12 @@ QList<QPointF> trailOf(const std::deque<TrackHistoryElement> &history, int trail
     QList<QPointF> trail;
     trail.reserve(std::min(static_cast<qsizetype>(history.size()), static_cast<qsizetype>(trailDots)));
     for (const auto &element : history) {
-        if (trail.size() >= trailDots)
+        if (trail.size() >= trailDots) {
             break;
-        if (element.carCoordinateValid())
+        }
+        if (element.carCoordinateValid()) {
             trail.append(element.carCoordinate());
+        }
     }
     return trail;
 }
@@ -81,11 +83,13 @@ unsigned int TrackManager::nextValidTrackNum()
 {
     const unsigned int span = m_maxTrackNumber - m_minTrackNumber;
     for (unsigned int i = 0; i < span; ++i) {
-        if (m_nextTrackNumber < m_minTrackNumber || m_nextTrackNumber > m_maxTrackNumber)
+        if (m_nextTrackNumber < m_minTrackNumber || m_nextTrackNumber > m_maxTrackNumber) {
             m_nextTrackNumber = m_minTrackNumber;
+        }
         const unsigned int candidate = m_nextTrackNumber++;
-        if (!hasTrackNum(candidate))
+        if (!hasTrackNum(candidate)) {
             return candidate;
+        }
     }
     return 0;
 }
@@ -112,26 +116,33 @@ QSharedPointer<Track> TrackManager::createTrack(unsigned int trackNumber)
 
 void TrackManager::registerTrack(const QSharedPointer<Track> &track)
 {
-    if (!track)
+    if (!track) {
         return;
-    if (track->incarnationId() == 0)
+    }
+    if (track->incarnationId() == 0) {
         track->setIncarnationId(m_nextIncarnationId++);
+    }
     m_tracksByNumber.insert(track->trackNumber(), track);
-    if (track->icaoAddrValid())
+    if (track->icaoAddrValid()) {
         m_tracksByIcaoAddr.insert(track->icaoAddr(), track);
-    if (track->otherTrackNumberValid())
+    }
+    if (track->otherTrackNumberValid()) {
         m_tracksByOtherTrackNumber.insert(track->otherTrackNumber(), track);
+    }
 }
 
 void TrackManager::removeTrack(const QSharedPointer<Track> &track)
 {
-    if (!track)
+    if (!track) {
         return;
+    }
     m_tracksByNumber.remove(track->trackNumber());
-    if (track->icaoAddrValid())
+    if (track->icaoAddrValid()) {
         m_tracksByIcaoAddr.remove(track->icaoAddr());
-    if (track->otherTrackNumberValid())
+    }
+    if (track->otherTrackNumberValid()) {
         m_tracksByOtherTrackNumber.remove(track->otherTrackNumber());
+    }
 }
 
 QSharedPointer<Track> TrackManager::findTrackByTrackNum(unsigned int trackNumber) const
@@ -143,11 +154,13 @@ QSharedPointer<Track> TrackManager::findTrackByTrackNum(unsigned int trackNumber
 template <typename Matches>
 QSharedPointer<Track> TrackManager::find(const Index &index, unsigned int key, Matches matches)
 {
-    if (const auto indexed = index.constFind(key); indexed != index.constEnd())
+    if (const auto indexed = index.constFind(key); indexed != index.constEnd()) {
         return *indexed;
+    }
     const auto found = std::find_if(m_tracksByNumber.cbegin(), m_tracksByNumber.cend(), matches);
-    if (found == m_tracksByNumber.cend())
+    if (found == m_tracksByNumber.cend()) {
         return {};
+    }
     const auto track = *found;
     registerTrack(track);
     return track;
@@ -183,18 +196,20 @@ void TrackManager::checkLife()
     const auto tracks = m_tracksByNumber.values(); // a copy: tracks are removed on the way
     for (const auto &track : tracks) {
         age(track, time);
-        if (track->terminated())
+        if (track->terminated()) {
             removeTrack(track);
+        }
     }
 }
 
 void TrackManager::age(const QSharedPointer<Track> &track, const QDateTime &now)
 {
     const qint64 elapsed = track->lastUpdate().msecsTo(now);
-    if (elapsed >= m_terminationSpan && !track->terminated())
+    if (elapsed >= m_terminationSpan && !track->terminated()) {
         track->setState(Track::Terminated);
-    else if (elapsed >= m_coastingSpan && !track->coasting() && !track->terminated())
+    } else if (elapsed >= m_coastingSpan && !track->coasting() && !track->terminated()) {
         track->setState(Track::Coasting);
+    }
 }
 
 QList<TrackSnapshot> TrackManager::snapshotTracks(int trailDots) const
@@ -204,8 +219,9 @@ QList<TrackSnapshot> TrackManager::snapshotTracks(int trailDots) const
     for (const auto &track : m_tracksByNumber) {
         auto &snapshot = snapshots.emplaceBack();
         fill(snapshot, *track);
-        if (trailDots > 0)
+        if (trailDots > 0) {
             snapshot.trail = trailOf(track->history(), trailDots);
+        }
     }
     return snapshots;
 }

@@ -32,16 +32,21 @@ Tracker::Tracker(const QSharedPointer<TrackManager> &trackManager, Projector *pr
 QSharedPointer<Tracker> Tracker::create(const QSharedPointer<SensorInfo> &sensor,
     const QSharedPointer<TrackManager> &trackManager, Projector *projector, QObject *parent)
 {
-    if (const auto radar = sensor.dynamicCast<RadarSensorInfo>())
+    if (const auto radar = sensor.dynamicCast<RadarSensorInfo>()) {
         return QSharedPointer<RadarTracker>::create(radar, trackManager, projector, parent);
-    if (const auto adsb = sensor.dynamicCast<AdsbSensorInfo>())
+    }
+    if (const auto adsb = sensor.dynamicCast<AdsbSensorInfo>()) {
         return QSharedPointer<AdsbTracker>::create(adsb, trackManager, projector, parent);
-    if (const auto mlat = sensor.dynamicCast<MlatSensorInfo>())
+    }
+    if (const auto mlat = sensor.dynamicCast<MlatSensorInfo>()) {
         return QSharedPointer<MlatTracker>::create(mlat, trackManager, projector, parent);
-    if (const auto sdps = sensor.dynamicCast<SdpsSensorInfo>())
+    }
+    if (const auto sdps = sensor.dynamicCast<SdpsSensorInfo>()) {
         return QSharedPointer<SdpsTracker>::create(sdps, trackManager, projector, parent);
-    if (const auto smr = sensor.dynamicCast<SmrSensorInfo>())
+    }
+    if (const auto smr = sensor.dynamicCast<SmrSensorInfo>()) {
         return QSharedPointer<SmrTracker>::create(smr, trackManager, projector, parent);
+    }
     return {};
 }
 
@@ -50,8 +55,9 @@ void Tracker::procAleniaSirMMessage(const QSharedPointer<AleniaSirMRadarMessage>
 QSharedPointer<Track> Tracker::createTrack()
 {
     auto track = m_trackManager->createTrack();
-    if (track)
+    if (track) {
         return track;
+    }
     const auto now = m_trackManager->now();
     if (!m_lastExhaustion.isValid() || m_lastExhaustion.msecsTo(now) >= ExhaustionWarningPeriodMs) {
         m_lastExhaustion = now;
@@ -63,8 +69,9 @@ QSharedPointer<Track> Tracker::createTrack()
 
 QSharedPointer<Track> Tracker::findOrCreate(unsigned int number)
 {
-    if (const auto known = findByNumber(number))
+    if (const auto known = findByNumber(number)) {
         return known;
+    }
     const auto track = createTrack();
     if (track) {
         track->setOtherTrackNumber(number);
@@ -79,18 +86,24 @@ QSharedPointer<Track> Tracker::findOrCreate(unsigned int number)
 QSharedPointer<Track> Tracker::associate(const Identity &identity, const QDateTime &now)
 {
     QSharedPointer<Track> track;
-    if (identity.number != 0)
+    if (identity.number != 0) {
         track = findByNumber(identity.number);
-    if (!track && identity.address.value_or(0) != 0)
+    }
+    if (!track && identity.address.value_or(0) != 0) {
         track = findByAddress(identity, now);
-    if (!track)
+    }
+    if (!track) {
         track = createTrack();
-    if (!track)
+    }
+    if (!track) {
         return {};
-    if (identity.address)
+    }
+    if (identity.address) {
         track->setIcaoAddr(*identity.address);
-    if (identity.number != 0)
+    }
+    if (identity.number != 0) {
         track->setOtherTrackNumber(identity.number);
+    }
     m_trackManager->registerTrack(track);
     return track;
 }
@@ -104,8 +117,9 @@ QSharedPointer<Track> Tracker::findByNumber(unsigned int number)
 QSharedPointer<Track> Tracker::findByAddress(const Identity &identity, const QDateTime &now)
 {
     const auto track = m_trackManager->findTrackByICAOAddr(*identity.address);
-    if (!track || track->icaoAddr() != *identity.address)
+    if (!track || track->icaoAddr() != *identity.address) {
         return {};
+    }
     const bool renumbered =
         identity.number != 0 && track->otherTrackNumberValid() && track->otherTrackNumber() != identity.number;
     const bool otherAircraft = renumbered && isNumberInUse(*track, now, identity.reportPeriod);
@@ -120,8 +134,9 @@ void Tracker::place(Track &track, const GeoCoordinate &origin, double distance, 
 
 void Tracker::project(Track &track) const
 {
-    if (!track.geoCoordinateValid())
+    if (!track.geoCoordinateValid()) {
         return;
+    }
     QPointF point;
     m_projector->toCartesian(
         &point.rx(), &point.ry(), track.geoCoordinate().latitude(), track.geoCoordinate().longitude());

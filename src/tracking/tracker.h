@@ -2,7 +2,7 @@
 
 #include "app/log_level.h"
 #include "asterix/asterix.h"
-#include "tracking/sensor_info.h"
+#include "sensors/sensor_info.h"
 #include "tracking/track_manager.h"
 
 #include <QObject>

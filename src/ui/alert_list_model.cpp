@@ -1,8 +1,8 @@
 #include "ui/alert_list_model.h"
 
-#include "processors/alert.h"
-#include "ui/figure_font.h"
-#include "ui/text_colors.h"
+#include "tracking/alert.h"
+#include "widgets/figure_font.h"
+#include "widgets/text_colors.h"
 
 #include <QBrush>
 #include <QGuiApplication>

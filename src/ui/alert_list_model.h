@@ -1,6 +1,6 @@
 #pragma once
 
-#include "processors/alert_snapshot.h"
+#include "tracking/alert_snapshot.h"
 #include "ui/record_table_model.h"
 
 #include <QDateTime>

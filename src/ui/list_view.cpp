@@ -1,8 +1,8 @@
 #include "ui/list_view.h"
 
-#include "ui/figure_font.h"
 #include "ui/list_sort_model.h"
-#include "ui/text_colors.h"
+#include "widgets/figure_font.h"
+#include "widgets/text_colors.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #include "ui/log_pane.h"
 
-#include "ui/figure_font.h"
-#include "ui/text_colors.h"
+#include "widgets/figure_font.h"
+#include "widgets/text_colors.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>

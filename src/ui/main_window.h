@@ -1,17 +1,17 @@
 #pragma once
 
 #include "app/log_level.h"
+#include "app/run_config.h"
 #include "engine/display_snapshot.h"
+#include "engine/engine_host.h"
+#include "engine/largest_delay.h"
 #include "engine/replay_speed.h"
+#include "engine/slot_reader.h"
 #include "maps/map_file.h"
-#include "processors/alert.h"
 #include "processors/video_processor.h"
 #include "processors/weather_processor.h"
+#include "tracking/alert.h"
 #include "ui/drop_stats.h"
-#include "ui/engine_host.h"
-#include "ui/largest_delay.h"
-#include "ui/run_config.h"
-#include "ui/slot_reader.h"
 
 #include <QMainWindow>
 #include <QPointer>

@@ -3,7 +3,7 @@
 #include "display/geo_map_display.h"
 #include "display/geo_track_display.h"
 #include "display/geo_weather_map.h"
-#include "display/geo_widget.h"
+#include "plan_view/geo_widget.h"
 #include "ui/actions.h"
 #include "ui/alert_list_model.h"
 #include "ui/list_view.h"

@@ -2,11 +2,11 @@
 
 #include "app/ui_state.h"
 #include "display/geo_track_display.h"
-#include "display/geo_widget.h"
+#include "display/track_display_format.h"
 #include "engine/data_engine.h"
+#include "plan_view/geo_widget.h"
 #include "ui/list_view.h"
 #include "ui/main_window.h"
-#include "ui/track_display_format.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>

@@ -1,18 +1,18 @@
 // Static maps and the layouts of the view.
 
 #include "app/app_paths.h"
+#include "app/map_places.h"
 #include "display/geo_map_display.h"
-#include "display/geo_static_map.h"
-#include "display/geo_widget.h"
+#include "map_editor/map_editor_window.h"
+#include "map_painting/geo_static_map.h"
+#include "map_windows/layout_save_window.h"
+#include "map_windows/static_map_feed.h"
+#include "map_windows/static_maps_window.h"
 #include "maps/map_layout.h"
 #include "maps/map_library.h"
+#include "plan_view/geo_widget.h"
 #include "ui/actions.h"
-#include "ui/layout_save_window.h"
 #include "ui/main_window.h"
-#include "ui/map_editor_window.h"
-#include "ui/map_places.h"
-#include "ui/static_map_feed.h"
-#include "ui/static_maps_window.h"
 
 #include <QAction>
 #include <QActionGroup>

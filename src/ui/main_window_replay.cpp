@@ -3,11 +3,11 @@
 #include "app/app_paths.h"
 #include "astfile/rec_file.h"
 #include "astfile/recording_index.h"
-#include "display/geo_widget.h"
 #include "engine/data_engine.h"
+#include "engine/recording_scan.h"
+#include "plan_view/geo_widget.h"
 #include "ui/actions.h"
 #include "ui/main_window.h"
-#include "ui/recording_scan.h"
 #include "ui/replay_window.h"
 #include "ui/stats_window.h"
 

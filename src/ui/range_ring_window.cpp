@@ -1,7 +1,8 @@
 #include "ui/range_ring_window.h"
 
-#include "ui/coordinate_edit.h"
-#include "ui/field_form.h"
+#include "widgets/coordinate_edit.h"
+#include "widgets/field_form.h"
+#include "widgets/range_ring_fields.h"
 
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
@@ -11,8 +12,8 @@
 
 RangeRingWindow::RangeRingWindow(QWidget *parent)
     : GeometryDialog(QStringLiteral("RangeRingWindow"), parent), m_form(new FieldForm(this)),
-      m_center(new CoordinateEdit(GeoCoordinate::NormalPrecision)), m_number(makeNumberBox()),
-      m_distance(makeDistanceBox())
+      m_center(new CoordinateEdit(GeoCoordinate::NormalPrecision)), m_number(makeRingNumberBox()),
+      m_distance(makeRingDistanceBox())
 {
     setWindowTitle(tr("Range Rings"));
     m_center->setObjectName(QStringLiteral("center"));
@@ -30,24 +31,6 @@ RangeRingWindow::RangeRingWindow(QWidget *parent)
     layout->addSpacing(8);
     layout->addStretch(1);
     layout->addWidget(buttons);
-}
-
-QSpinBox *RangeRingWindow::makeNumberBox()
-{
-    auto *box = new QSpinBox;
-    box->setObjectName(QStringLiteral("ringNumber"));
-    box->setRange(1, 50);
-    return box;
-}
-
-QDoubleSpinBox *RangeRingWindow::makeDistanceBox()
-{
-    auto *box = new QDoubleSpinBox;
-    box->setObjectName(QStringLiteral("ringDistance"));
-    box->setRange(0.1, 1000.0);
-    box->setDecimals(2);
-    box->setSuffix(tr(" NM"));
-    return box;
 }
 
 void RangeRingWindow::setRings(const GeoCoordinate &center, int number, double distance)
@@ -70,6 +53,7 @@ bool RangeRingWindow::apply()
 
 void RangeRingWindow::accept()
 {
-    if (apply())
+    if (apply()) {
         QDialog::accept();
+    }
 }

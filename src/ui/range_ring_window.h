@@ -1,7 +1,7 @@
 #pragma once
 
 #include "geo/geo_coordinate.h"
-#include "ui/geometry_dialog.h"
+#include "widgets/geometry_dialog.h"
 
 class CoordinateEdit;
 class FieldForm;
@@ -20,10 +20,6 @@ public:
     // False, with a note beside the field, when the centre is no coordinate.
     bool apply();
     void accept() override;
-
-    // The fields of other windows that ask for the same: a number of 1 to 50, a distance of 0.1 to 1000 nautical miles.
-    static QSpinBox *makeNumberBox();
-    static QDoubleSpinBox *makeDistanceBox();
 
 Q_SIGNALS:
     // Number 1 to 50, distance between rings in nautical miles.

@@ -1,7 +1,7 @@
 #include "ui/replay_window.h"
 
 #include "astfile/recording_index.h"
-#include "ui/figure_font.h"
+#include "widgets/figure_font.h"
 
 #include <QCheckBox>
 #include <QComboBox>

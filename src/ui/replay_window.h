@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/replay_speed.h"
-#include "ui/geometry_dialog.h"
+#include "widgets/geometry_dialog.h"
 
 #include <QDateTime>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #include "ui/rotation_window.h"
 
-#include "display/geo_view.h"
-#include "ui/field_form.h"
+#include "view/geo_view.h"
+#include "widgets/field_form.h"
 
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>

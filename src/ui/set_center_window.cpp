@@ -1,8 +1,8 @@
 #include "ui/set_center_window.h"
 
 #include "app/ui_state.h"
-#include "ui/coordinate_edit.h"
-#include "ui/field_form.h"
+#include "widgets/coordinate_edit.h"
+#include "widgets/field_form.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -63,15 +63,18 @@ void SetCenterWindow::accept()
 void SetCenterWindow::remember(const QString &text)
 {
     const int known = m_recent->findText(text);
-    if (known >= 0)
+    if (known >= 0) {
         m_recent->removeItem(known);
+    }
     m_recent->insertItem(0, text);
-    while (m_recent->count() > maximumRecent)
+    while (m_recent->count() > maximumRecent) {
         m_recent->removeItem(m_recent->count() - 1);
+    }
     m_recent->setCurrentIndex(-1);
     m_recent->setEnabled(true);
     QStringList texts;
-    for (int i = 0; i < m_recent->count(); ++i)
+    for (int i = 0; i < m_recent->count(); ++i) {
         texts.append(m_recent->itemText(i));
+    }
     UiState::saveValue(stateGroup(), recentKey, texts.join(u' ').toLatin1());
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "geo/geo_coordinate.h"
-#include "ui/geometry_dialog.h"
+#include "widgets/geometry_dialog.h"
 
 class CoordinateEdit;
 class FieldForm;

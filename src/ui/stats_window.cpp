@@ -1,6 +1,6 @@
 #include "ui/stats_window.h"
 
-#include "ui/figure_font.h"
+#include "widgets/figure_font.h"
 
 #include <QClipboard>
 #include <QDialogButtonBox>

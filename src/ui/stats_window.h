@@ -1,9 +1,9 @@
 #pragma once
 
-#include "display/paint_stats.h"
 #include "engine/pipeline_stats.h"
 #include "ui/drop_stats.h"
-#include "ui/geometry_dialog.h"
+#include "view/paint_stats.h"
+#include "widgets/geometry_dialog.h"
 
 #include <QHash>
 

@@ -2,7 +2,7 @@
 
 #include "geo/geo_coordinate.h"
 #include "geo/projector.h"
-#include "ui/figure_font.h"
+#include "widgets/figure_font.h"
 
 #include <QDateTime>
 #include <QStatusBar>

@@ -1,8 +1,8 @@
 #include "ui/track_list_model.h"
 
 #include "tracking/track.h"
-#include "ui/figure_font.h"
-#include "ui/text_colors.h"
+#include "widgets/figure_font.h"
+#include "widgets/text_colors.h"
 
 #include <QBrush>
 #include <QGuiApplication>

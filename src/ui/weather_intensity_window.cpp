@@ -1,7 +1,7 @@
 #include "ui/weather_intensity_window.h"
 
 #include "display/geo_weather_map.h"
-#include "ui/figure_font.h"
+#include "widgets/figure_font.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -93,6 +93,7 @@ void WeatherIntensityWindow::refresh()
 
 void WeatherIntensityWindow::setAll(bool visible)
 {
-    for (const Level &level : m_levels)
+    for (const Level &level : m_levels) {
         level.box->setChecked(visible);
+    }
 }

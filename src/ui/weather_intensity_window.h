@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/geometry_dialog.h"
+#include "widgets/geometry_dialog.h"
 
 #include <QList>
 

@@ -1,6 +1,7 @@
 // CSV texts to database files: what is taken, and what is said of the rest.
 
 #include "airdb/air_db_builder.h"
+#include "test_program.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -24,8 +25,9 @@ AirDBBuilder::Report import(AirDBBuilder &builder, Import function, const QByteA
 QStringList linesOf(const AirDBBuilder::Report &report)
 {
     QStringList lines;
-    for (const AirDBBuilder::Error &error : report.errors)
+    for (const AirDBBuilder::Error &error : report.errors) {
         lines += QString("%1: %2").arg(error.line).arg(error.reason);
+    }
     return lines;
 }
 
@@ -142,16 +144,18 @@ private Q_SLOTS:
             const Block *smallest = nullptr;
             for (const Block &block : std::as_const(blocks)) {
                 const bool isIn = block.first <= address && address <= block.last;
-                if (isIn && (!smallest || block.last - block.first <= smallest->last - smallest->first))
+                if (isIn && (!smallest || block.last - block.first <= smallest->last - smallest->first)) {
                     smallest = &block;
+                }
             }
             const QString code = !smallest ? "" : smallest->isIrish ? "IE" : "IS";
             QCOMPARE(database.getICAOAddrDict().getICAOAddrInfo(ICAOAddr(address)).country().isoCode2(), code);
         };
         for (const Block &block : std::as_const(blocks)) {
             for (const quint32 address : {block.first - 1, block.first, block.last, block.last + 1}) {
-                if (ICAOAddr(address).isValid())
+                if (ICAOAddr(address).isValid()) {
                     check(address);
+                }
             }
         }
     }
@@ -172,5 +176,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestAirDBBuilder)
+VYX_TEST(TestAirDBBuilder)
 #include "tst_air_db_builder.moc"

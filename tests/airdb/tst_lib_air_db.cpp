@@ -2,6 +2,7 @@
 
 #include "airdb/air_db_builder.h"
 #include "example/who_is.h"
+#include "test_program.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
@@ -71,8 +72,9 @@ private Q_SLOTS:
         const ICAOAddrInfo info = m_builtIn.getICAOAddrDict().getICAOAddrInfo(ICAOAddr(address));
         QCOMPARE(info.isValid(), !codes.isEmpty());
         QCOMPARE(info.country().isValid(), !codes.isEmpty());
-        if (info.isValid())
+        if (info.isValid()) {
             QCOMPARE(info.country().isoCode2() + ' ' + info.country().isoCode3(), codes);
+        }
         QTEST(info.isMilitary(), "isMilitary");
     }
 
@@ -178,5 +180,5 @@ private:
     LibAirDB m_builtIn;
 };
 
-QTEST_GUILESS_MAIN(TestLibAirDB)
+VYX_TEST(TestLibAirDB)
 #include "tst_lib_air_db.moc"

@@ -63,8 +63,9 @@ void crash(const QString &kind)
     const QHash<QString, void (*)()> kinds{{"null-write", writeNull}, {"low-read", readLowAddress},
         {"null-call", executeNull}, {"stack", [] { exhaustStack(1); }}, {"thread-stack", exhaustThreadStack},
         {"abort", std::abort}, {"signal", [] { std::raise(SIGSEGV); }}};
-    if (const auto function = kinds.value(kind))
+    if (const auto function = kinds.value(kind)) {
         function();
+    }
 }
 
 [[noreturn]] void saveForEver(const QString &fileName)

@@ -1,3 +1,5 @@
+#include "test_program.h"
+
 #include <QDir>
 #include <QMap>
 #include <QProcess>
@@ -19,8 +21,9 @@ Answers ask(const QString &directory, const QStringList &arguments)
     child.start(directory + "/child", arguments);
     child.waitForFinished();
     Answers answers;
-    for (const auto &line : QString::fromUtf8(child.readAllStandardOutput()).split('\n'))
+    for (const auto &line : QString::fromUtf8(child.readAllStandardOutput()).split('\n')) {
         answers[line.section('=', 0, 0)] = line.section('=', 1);
+    }
     return answers;
 }
 
@@ -103,5 +106,5 @@ private:
     QTemporaryDir m_root;
 };
 
-QTEST_GUILESS_MAIN(tst_AppPaths)
+VYX_TEST(tst_AppPaths)
 #include "tst_app_paths.moc"

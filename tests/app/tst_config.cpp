@@ -2,6 +2,7 @@
 #include "app/app_paths.h"
 #include "app/config.h"
 #include "config_defaults.h"
+#include "test_program.h"
 
 #include <QProcess>
 #include <QRandomGenerator>
@@ -35,8 +36,9 @@ void writeTexts(const QString &fileName, const Texts &texts)
 {
     QSettings file(fileName, QSettings::IniFormat);
     file.clear();
-    for (auto text = texts.cbegin(); text != texts.cend(); ++text)
+    for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
         file.setValue(text.key(), isColor(text.key()) ? QVariant(QColor(text.value())) : QVariant(text.value()));
+    }
 }
 
 Texts defaultTexts()
@@ -46,8 +48,9 @@ Texts defaultTexts()
     text.replace("%ZONE%", zone.isEmpty() ? "LCL" : QString::fromUtf8(zone));
     text.replace("%DATA%", AppPaths::appDataDir());
     Texts texts;
-    for (const auto &pair : text.split(' '))
+    for (const auto &pair : text.split(' ')) {
         texts[pair.section('=', 0, 0)] = pair.section('=', 1);
+    }
     return texts;
 }
 
@@ -68,16 +71,17 @@ Texts otherTexts()
     for (auto text = texts.begin(); text != texts.end(); ++text, ++number) {
         bool isNumber = false;
         const double value = text->toDouble(&isNumber);
-        if (chosenTexts.contains(text.key()))
+        if (chosenTexts.contains(text.key())) {
             *text = chosenTexts[text.key()];
-        else if (*text == "true" || *text == "false")
+        } else if (*text == "true" || *text == "false") {
             *text = *text == "true" ? "false" : "true";
-        else if (isNumber)
+        } else if (isNumber) {
             *text = QString::number(text.key().startsWith("sensorS") ? number : value + number);
-        else if (isColor(text.key()))
+        } else if (isColor(text.key())) {
             *text = QColor(number, 255 - number, 7).name(QColor::HexArgb);
-        else
+        } else {
             *text = text.key() + ", 1";
+        }
     }
     return texts;
 }
@@ -102,8 +106,9 @@ private Q_SLOTS:
         auto texts = textsOf(path("defaults.conf"));
         const auto expected = defaultTexts();
         for (auto text = expected.begin(); text != expected.end(); ++text) {
-            if (*text == "*" && texts[text.key()].startsWith("#ff"))
+            if (*text == "*" && texts[text.key()].startsWith("#ff")) {
                 texts[text.key()] = "*";
+            }
             QVERIFY2(texts[text.key()] == *text, qPrintable(text.key() + '=' + texts[text.key()]));
         }
         QCOMPARE(texts.keys(), expected.keys());
@@ -200,8 +205,9 @@ private Q_SLOTS:
         config.load(path("alpha.conf"));
         QCOMPARE(config.mapWeatherColor.size(), 8); // whatever the file holds
         QCOMPARE(config.mapWeatherColor.last(), QColor(0x11, 0x22, 0x33));
-        for (const auto &color : {config.mapVideoHighColor, config.mapVideoLowColor})
+        for (const auto &color : {config.mapVideoHighColor, config.mapVideoLowColor}) {
             QCOMPARE(color, QColor(0x44, 0x55, 0x66));
+        }
         QCOMPARE(config.trackLabelColor.alpha(), 128);
     }
 
@@ -237,5 +243,5 @@ private:
     QTemporaryDir m_directory;
 };
 
-QTEST_GUILESS_MAIN(tst_Config)
+VYX_TEST(tst_Config)
 #include "tst_config.moc"

@@ -1,5 +1,6 @@
 #include "app/app_identity.h"
 #include "app/crash_log_writer.h"
+#include "test_program.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -144,5 +145,5 @@ private:
     QTemporaryDir m_directory;
 };
 
-QTEST_GUILESS_MAIN(tst_CrashHandler)
+VYX_TEST(tst_CrashHandler)
 #include "tst_crash_handler.moc"

@@ -1,5 +1,6 @@
 #include "app/config.h"
 #include "app/weather_color_scheme.h"
+#include "test_program.h"
 
 #include <QTemporaryFile>
 #include <QTest>
@@ -36,8 +37,9 @@ private Q_SLOTS:
             QString read;
             for (const auto &scheme : WeatherColorScheme::loadFromJsonFile(file.fileName())) {
                 read += scheme.name();
-                for (const QColor &color : scheme.colors())
+                for (const QColor &color : scheme.colors()) {
                     read += ' ' + (color.isValid() ? color.name(QColor::HexArgb) : QString('-'));
+                }
                 read += ';';
             }
             QCOMPARE(read, expected);
@@ -46,5 +48,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestWeatherColorScheme)
+VYX_TEST(TestWeatherColorScheme)
 #include "tst_weather_color_scheme.moc"

@@ -26,8 +26,9 @@ public:
         m_latitude = between(-70, 70);
         m_longitude = between(-179, 179);
         m_time = between(0, 86300);
-        for (bool &has : m_has)
+        for (bool &has : m_has) {
             has = chance(0.5);
+        }
         m_encoder.beginBlock();
         for (int i = 0; i < records; ++i) {
             m_encoder.beginRecord();
@@ -35,10 +36,11 @@ public:
             setIdentity();
             setPosition();
             setMotion();
-            if (m_isOld)
+            if (m_isOld) {
                 setOldItems();
-            else
+            } else {
                 setNewItems();
+            }
             m_encoder.endRecord();
         }
         return m_encoder;
@@ -75,28 +77,33 @@ private:
         set("080", 1 + below(0xFFFFFE));
         if (chance(0.9)) {
             std::string name;
-            for (int size = 3 + below(6); size > 0; --size)
+            for (int size = 3 + below(6); size > 0; --size) {
                 name += "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789"[below(36)];
+            }
             m_encoder.setText("170", name);
         }
-        if (chance(0.8))
+        if (chance(0.8)) {
             set("020", below(24));
-        if (chance(0.9))
+        }
+        if (chance(0.9)) {
             m_encoder.setText(m_isOld ? "" : "070/MODE3A", octalCode());
+        }
     }
 
     std::string octalCode()
     {
         std::string code;
-        while (code.size() < 4)
+        while (code.size() < 4) {
             code += static_cast<char>('0' + below(8));
+        }
         return code;
     }
 
     void setPosition()
     {
-        if (chance(0.05))
+        if (chance(0.05)) {
             return;
+        }
         const double latitude = m_latitude + between(-3, 3);
         const double longitude = m_longitude + between(-0.9, 0.9);
         set("130/LAT", latitude);
@@ -110,18 +117,21 @@ private:
     void setMotion()
     {
         const double level = m_isOnGround ? 0 : between(0, 450);
-        if (!m_isOnGround)
+        if (!m_isOnGround) {
             set("145", level);
-        if (m_has[Geometric])
+        }
+        if (m_has[Geometric]) {
             set("140", level * 100 + between(0, 500));
+        }
         const bool climbs = chance(0.3);
         const double speed = m_isOnGround ? between(0, 0.01) : between(0.02, 0.16);
         set("160/GS", speed);
         set("160/TA", between(0, 359.9));
         const char *const rate = m_has[Geometric] ? "157" : "155";
         const std::string field = m_isOld ? rate : std::string(rate) + (m_has[Geometric] ? "/GVR" : "/BVR");
-        if (!m_isOnGround)
+        if (!m_isOnGround) {
             set(field, climbs ? between(-2500, 2500) : 0);
+        }
         if (m_has[TrueAirspeed] && chance(0.3)) {
             set(m_isOld ? "151" : "151/TAS", between(120, 500));
             set("152", between(0, 359.9));
@@ -140,10 +150,12 @@ private:
         set("090/AC", below(4));
         set("090/PA", below(8));
         set("210/MDS", 1);
-        if (m_has[Quality])
+        if (m_has[Quality]) {
             set("095", below(5));
-        if (m_has[Numbers])
+        }
+        if (m_has[Numbers]) {
             set("200", chance(0.02) ? 1 : 0);
+        }
         m_encoder.setText("070/MODE3A", octalCode()); // not in edition 0.23
     }
 
@@ -151,11 +163,13 @@ private:
     void setNewItems()
     {
         set(m_has[ReceptionTimes] ? "073" : "071", m_time);
-        if (m_has[ReceptionTimes])
+        if (m_has[ReceptionTimes]) {
             set("075", m_time + 0.1);
+        }
         set("077", m_time + 0.3);
-        if (m_isOnGround)
+        if (m_isOnGround) {
             set("040/GBS", 1);
+        }
         set("090/NUCRNACV", below(4));
         set("090/NUCPNIC", below(10));
         if (m_has[Quality]) {
@@ -165,17 +179,20 @@ private:
         set("210/VN", below(3));
         set("210/LTT", 2);
         set("200/SS", chance(0.02) ? 1 : 0);
-        if (m_has[Numbers])
+        if (m_has[Numbers]) {
             set("161/TRNUM", below(4096));
+        }
         if (m_has[Receiver]) {
             set("015", 1);
             set("132", -90 + below(60));
             set("400", below(32));
         }
-        if (m_isOnGround)
+        if (m_isOnGround) {
             set("271/POA", chance(0.5));
-        if (m_isOnGround && m_has[Quality])
+        }
+        if (m_isOnGround && m_has[Quality]) {
             set("271/LW", 1 + below(15));
+        }
         if (m_has[Ages]) {
             set("295/TRD", between(0, 5));
             set("295/GV", between(0, 5));

@@ -19,8 +19,9 @@ namespace edition_choice {
 
 inline bool isZero(const QJsonValue &value)
 {
-    if (!value.isObject())
+    if (!value.isObject()) {
         return value.isDouble() && value.toDouble() == 0;
+    }
     const QJsonObject object = value.toObject();
     return std::all_of(object.begin(), object.end(), [](const QJsonValue &each) { return isZero(each); });
 }
@@ -34,14 +35,16 @@ inline QString newerName(const QString &name)
 // Every value of expected is in actual; what actual has beyond is a field that expected had no name for, and zero.
 inline bool readsTheSame(const QJsonValue &expected, const QJsonValue &actual)
 {
-    if (!expected.isObject() || !actual.isObject())
+    if (!expected.isObject() || !actual.isObject()) {
         return expected == actual;
+    }
     const QJsonObject wanted = expected.toObject();
     QJsonObject read = actual.toObject();
     for (auto it = wanted.begin(); it != wanted.end(); ++it) {
         const QString name = read.contains(it.key()) ? it.key() : newerName(it.key());
-        if (!readsTheSame(it.value(), read.take(name)))
+        if (!readsTheSame(it.value(), read.take(name))) {
             return false;
+        }
     }
     return isZero(read);
 }
@@ -57,13 +60,16 @@ inline EditionChoice choiceFor(
     _ast_datablock_t expected;
     ast_datablock_decode(&expected, octets.data(), octets.size(), profile.uap());
     ast_datablock_smart_decode(&memory, octets.data(), octets.size());
-    if (!memory.valid || memory.records.size() != expected.records.size())
+    if (!memory.valid || memory.records.size() != expected.records.size()) {
         return EditionChoice::Wrong;
-    if (memory.records[0].uap->layout->edition().edition == edition)
+    }
+    if (memory.records[0].uap->layout->edition().edition == edition) {
         return EditionChoice::Named;
+    }
     for (std::size_t i = 0; i < expected.records.size(); ++i) {
-        if (!edition_choice::readsTheSame(itemsOf(expected.records[i]), itemsOf(memory.records[i])))
+        if (!edition_choice::readsTheSame(itemsOf(expected.records[i]), itemsOf(memory.records[i]))) {
             return EditionChoice::Wrong;
+        }
     }
     return EditionChoice::ReadsTheSame;
 }

@@ -48,8 +48,9 @@ void measure(const char *kind, const std::string &edition, Maker maker, int bloc
 {
     for (const int records : {1, 2, 3, 5, 10}) {
         Tally tally;
-        for (int i = 0; i < blocks; ++i)
+        for (int i = 0; i < blocks; ++i) {
             tally.add(freshChoice(maker.makeBlock(records).block(), edition));
+        }
         print(kind, edition, records, tally);
     }
 }
@@ -74,8 +75,9 @@ int measureFile(const std::string &edition, const char *fileName)
         tallies[static_cast<int>(block.records.size())].add(freshChoice(octets, edition));
         left = left.subspan(octets.size());
     }
-    for (const auto &[records, tally] : tallies)
+    for (const auto &[records, tally] : tallies) {
         print("file", edition, records, tally);
+    }
     return 0;
 }
 
@@ -85,8 +87,9 @@ int main(int argc, char *argv[])
 {
     std::puts(
         "| blocks | edition | records | edition named % | reads the same % | wrong % |\n|---|---|--:|--:|--:|--:|");
-    if (argc == 3)
+    if (argc == 3) {
         return measureFile(argv[1], argv[2]);
+    }
     const int blocks = argc > 1 ? std::atoi(argv[1]) : 5000;
     for (const char *edition : {"0.23", "0.26", "2.1", "2.7"}) {
         measure("as stations send them", edition, AdsbBlocks(edition, 1), blocks);

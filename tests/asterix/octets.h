@@ -61,7 +61,8 @@ inline QJsonObject itemsOf(const _ast_datarecord_t &record)
 inline QJsonValue valueAt(const QJsonObject &items, const QString &path)
 {
     QJsonValue value = items;
-    for (const QString &name : path.split('/'))
+    for (const QString &name : path.split('/')) {
         value = value.toObject().value(name);
+    }
     return value;
 }

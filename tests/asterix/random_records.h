@@ -33,8 +33,9 @@ public:
             const double rate = chance(0.5) ? 0.2 : 0.8;
             for (int slot = 0; slot < m_uap->count; ++slot) {
                 const Node *item = m_uap->steps[static_cast<std::size_t>(slot)].node;
-                if (item && chance(rate))
+                if (item && chance(rate)) {
                     fill(*item, item->name);
+                }
             }
             m_encoder.endRecord();
         }
@@ -56,8 +57,9 @@ private:
     std::string text(unsigned size)
     {
         std::string out;
-        while (out.size() < size)
+        while (out.size() < size) {
             out += "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789"[below(36)];
+        }
         return out;
     }
 
@@ -82,8 +84,9 @@ private:
     void fillWide(const Node &node, const std::string &path)
     {
         std::vector<unsigned char> octets(node.bits / 8U);
-        for (unsigned char &octet : octets)
+        for (unsigned char &octet : octets) {
             octet = static_cast<unsigned char>(below(256));
+        }
         m_encoder.setExplicit(path, octets);
     }
 
@@ -104,10 +107,12 @@ private:
         const bool isChoice = node.kind == Kind::Compound;
         m_encoder.setPresent(path);
         for (const Node &child : node.children) {
-            if (child.kind == Kind::ExtentEnd && chance(0.5))
+            if (child.kind == Kind::ExtentEnd && chance(0.5)) {
                 return;
-            if (!child.name.empty() && (!isChoice || chance(0.5)))
+            }
+            if (!child.name.empty() && (!isChoice || chance(0.5))) {
                 fill(child, path + '/' + child.name);
+            }
         }
     }
 

@@ -1,3 +1,4 @@
+#include "test_program.h"
 #include "typed_twins.h"
 
 #include <QTest>
@@ -120,5 +121,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestAlertRecords)
+VYX_TEST(TestAlertRecords)
 #include "tst_alert_records.moc"

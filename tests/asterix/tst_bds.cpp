@@ -1,5 +1,6 @@
 #include "asterix/asterix.h"
 #include "octets.h"
+#include "test_program.h"
 
 #include <QHash>
 #include <QTest>
@@ -93,8 +94,9 @@ private Q_SLOTS:
         const Octets octets = Octets::fromHex(mb.constData());
         const Values actual = decode(bds, octets.data());
         QCOMPARE(actual.size(), values.size());
-        for (int i = 0; i < values.size(); ++i)
+        for (int i = 0; i < values.size(); ++i) {
             QCOMPARE(actual[i], values[i]);
+        }
     }
 
     void readsCapabilities()
@@ -109,8 +111,9 @@ private Q_SLOTS:
 
         const _ast_bds_17_t registers = ast_bds_17_decode(Octets::fromHex("FA818100000000").data());
         QVERIFY(registers.success && registers.count == 10);
-        for (const int bds : {0x05, 0x20, 0x40, 0x50, 0x51, 0x60})
+        for (const int bds : {0x05, 0x20, 0x40, 0x50, 0x51, 0x60}) {
             QVERIFY2(ast_bds_17_has(registers, static_cast<std::uint8_t>(bds)), qPrintable(QString::number(bds, 16)));
+        }
         QVERIFY(!ast_bds_17_has(registers, 0x0A) && !ast_bds_17_has(registers, 0x52));
         QVERIFY(!ast_bds_17_decode(Octets::fromHex("FA818180000000").data()).success);
         QVERIFY(!ast_bds_17_decode(Octets::fromHex("FA818100000001").data()).success);
@@ -135,17 +138,19 @@ private Q_SLOTS:
             const unsigned long long mb = 0x30000008000000ULL | static_cast<unsigned long long>(code) << 13;
             const Octets octets(QByteArray::fromHex(QByteArray::number(mb, 16)));
             const _ast_bds_30_t decoded = ast_bds_30_decode(octets.data());
-            if (!decoded.threatAltitudeStatus)
+            if (!decoded.threatAltitudeStatus) {
                 continue;
+            }
             QVERIFY(!codes.contains(decoded.threatAltitude));
             codes.insert(decoded.threatAltitude, code);
         }
         QCOMPARE(codes.size(), 1280); // from -1,200 ft up to 126,700 ft
         QCOMPARE(codes.value(-1200), 0x0100U); // pulse C4 alone
-        for (int feet = -1100; feet <= 126700; feet += 100)
+        for (int feet = -1100; feet <= 126700; feet += 100) {
             QCOMPARE(std::popcount(codes.value(feet) ^ codes.value(feet - 100)), 1);
+        }
     }
 };
 
-QTEST_GUILESS_MAIN(TestBds)
+VYX_TEST(TestBds)
 #include "tst_bds.moc"

@@ -1,5 +1,6 @@
 #include "asterix/encoder.h"
 #include "octets.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -95,8 +96,9 @@ private Q_SLOTS:
             [](E &e) { return e.addRepetition("250") && e.setExplicit("250/MBDATA", std::vector<unsigned char>(6)); });
         row("explicit item of 255 octets", [](E &e) { return e.setExplicit("SP", std::vector<unsigned char>(255)); });
         row("256 repetitions", [](E &e) {
-            for (int i = 0; i < 255; ++i)
+            for (int i = 0; i < 255; ++i) {
                 e.addRepetition("250");
+            }
             return e.addRepetition("250");
         });
     }
@@ -128,8 +130,9 @@ private Q_SLOTS:
             return encoder.endRecord();
         };
         // Four octets of FSPEC and one of length: 257 a record, 65,281 with the block's header, 254 left.
-        for (int i = 0; i < 254; ++i)
+        for (int i = 0; i < 254; ++i) {
             QVERIFY(add(252));
+        }
         QVERIFY(!add(250));
         QCOMPARE(encoder.block().size(), std::size_t{65281});
         QVERIFY(add(249));
@@ -149,8 +152,9 @@ private Q_SLOTS:
         for (const int links : {125, 126}) {
             encoder.beginBlock();
             encoder.beginRecord();
-            for (int i = 0; i < links; ++i)
+            for (int i = 0; i < links; ++i) {
                 QVERIFY(encoder.set("RE/RTC/ATL", i));
+            }
             // Length, the two presence fields and the count: four octets beside the links.
             QCOMPARE(encoder.endRecord(), links == 125);
             QCOMPARE(encoder.block().size(), std::size_t(links == 125 ? 3 + 4 + 254 : 3));
@@ -213,5 +217,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestEncoder)
+VYX_TEST(TestEncoder)
 #include "tst_encoder.moc"

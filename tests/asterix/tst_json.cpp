@@ -3,6 +3,7 @@
 #include "asterix/profile.h"
 #include "octets.h"
 #include "random_records.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -35,8 +36,9 @@ QByteArray valueText(const QByteArray &json, const QByteArray &key)
 {
     const auto from = json.indexOf('"' + key + "\":") + key.size() + 3;
     auto to = from;
-    while (json[to] != ',' && json[to] != '}')
+    while (json[to] != ',' && json[to] != '}') {
         ++to;
+    }
     return json.mid(from, to - from);
 }
 
@@ -170,9 +172,10 @@ void TestJson::comesBackFromText_data()
     QTest::addColumn<QByteArray>("variation");
     for (const korvane::asterix::EditionName &name : korvane::asterix::editions()) {
         const bool isChosenByRecord = name.category == 1;
-        for (const char *variation : isChosenByRecord ? QList<const char *>{"plot", "track"} : QList{""})
+        for (const char *variation : isChosenByRecord ? QList<const char *>{"plot", "track"} : QList{""}) {
             QTest::addRow("CAT%03d %s %s", name.category, name.edition.c_str(), variation)
                 << name.category << QByteArray::fromStdString(name.edition) << QByteArray(variation);
+        }
     }
 }
 
@@ -298,5 +301,5 @@ void TestJson::refusesLine_data()
     row("nested items", R"({"cat":48,"items":{"250":)" + QByteArray(20, '[') + QByteArray(20, ']') + "}}", "250");
 }
 
-QTEST_GUILESS_MAIN(TestJson)
+VYX_TEST(TestJson)
 #include "tst_json.moc"

@@ -2,6 +2,7 @@
 #include "asterix/encoder.h"
 #include "asterix/profile.h"
 #include "octets.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -38,8 +39,9 @@ QByteArray encode(int category, const char *edition, const Settings &settings)
     BlockEncoder encoder(category, edition);
     encoder.beginRecord();
     for (const auto &[path, value] : settings) {
-        if (!encoder.set(path, value))
+        if (!encoder.set(path, value)) {
             return path;
+        }
     }
     return encoder.endRecord() ? bytesOf(encoder.block()) : QByteArray("record does not end");
 }
@@ -50,8 +52,9 @@ public:
     Decoded(const Octets &octets, int category, const char *edition)
     {
         korvane::asterix::Profile profile;
-        if (edition)
+        if (edition) {
             profile.select(category, edition);
+        }
         ast_datablock_decode(&m_block, octets.data(), octets.size(), profile.uap());
     }
 
@@ -122,8 +125,9 @@ private Q_SLOTS:
         const Decoded decoded(octets, category, table);
         QVERIFY(decoded.isGood());
         const Values actual = valuesOf(decoded.record());
-        for (int i = 0; i < expected.size(); ++i)
+        for (int i = 0; i < expected.size(); ++i) {
             QCOMPARE(actual[i], expected[i]);
+        }
     }
 
     // Octets as sent: editions place and pack the same values differently.
@@ -182,5 +186,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestReportValues)
+VYX_TEST(TestReportValues)
 #include "tst_report_values.moc"

@@ -1,6 +1,7 @@
 #include "adsb_blocks.h"
 #include "edition_choice.h"
 #include "random_records.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -26,8 +27,9 @@ QByteArray blockOf(const char *edition, const Fill &fill, int sic = 1)
     encoder.set("010/SIC", sic);
     encoder.set("040/ATP", 0);
     encoder.set("080", 0x4CA123);
-    if (!fill(encoder) || !encoder.endRecord())
+    if (!fill(encoder) || !encoder.endRecord()) {
         return {};
+    }
     return bytesOf(encoder.block());
 }
 
@@ -51,9 +53,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("records");
         QTest::addColumn<int>("most"); // wrong ones of 400
         for (const char *edition : {"0.23", "0.26", "2.1", "2.7"}) {
-            for (const int records : {1, 3, 10})
+            for (const int records : {1, 3, 10}) {
                 QTest::addRow("%s, %d records of a station", edition, records)
                     << QByteArray(edition) << false << records << 0;
+            }
             QTest::addRow("%s, random", edition) << QByteArray(edition) << true << 3 << 2;
         }
     }
@@ -166,5 +169,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSmartDecode)
+VYX_TEST(TestSmartDecode)
 #include "tst_smart_decode.moc"

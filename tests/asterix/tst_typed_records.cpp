@@ -1,6 +1,7 @@
 #include "asterix/asterix.h"
 #include "example/nearest_plot.h"
 #include "octets.h"
+#include "test_program.h"
 #include "typed_twins.h"
 
 #include <QFile>
@@ -142,8 +143,9 @@ QList<int> categoriesOf(const _ast_datarecord_t &record)
         {240, isValidAs(ast_datarecord_240_disassemble, record)}};
     QList<int> categories;
     for (const auto &[category, isValid] : all) {
-        if (isValid)
+        if (isValid) {
             categories.append(category);
+        }
     }
     return categories;
 }
@@ -294,8 +296,9 @@ private Q_SLOTS:
             _ast_datablock_t block;
             ast_datablock_smart_decode(&block, octets.data(), octets.size());
             QVERIFY2(!block.records.empty(), qPrintable(QString::number(category)));
-            for (const _ast_datarecord_t &record : block.records)
+            for (const _ast_datarecord_t &record : block.records) {
                 QCOMPARE(categoriesOf(record), category == 19 || category == 21 ? QList<int>() : QList<int>{category});
+            }
         }
     }
 
@@ -313,5 +316,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTypedRecords)
+VYX_TEST(TestTypedRecords)
 #include "tst_typed_records.moc"

@@ -1,3 +1,4 @@
+#include "test_program.h"
 #include "typed_twins.h"
 
 #include <QTest>
@@ -89,10 +90,12 @@ private Q_SLOTS:
         const auto buffer = std::make_unique<unsigned[]>(size); // exact, for the sanitizer
         _ast_video_vector_t vector{};
         QCOMPARE(ast_datarecord_240_get_vector(&vector, buffer.get(), size, block.records[0]), error);
-        if (error == AST_VIDEO_BUFFER_TOO_SMALL)
+        if (error == AST_VIDEO_BUFFER_TOO_SMALL) {
             QCOMPARE(vector.cellCount, 4U);
-        if (error == AST_VIDEO_OK)
+        }
+        if (error == AST_VIDEO_OK) {
             QCOMPARE(QList<unsigned>(buffer.get(), buffer.get() + vector.cellCount), cells);
+        }
     }
 
     void describesVector()
@@ -117,5 +120,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestVideoRecords)
+VYX_TEST(TestVideoRecords)
 #include "tst_video_records.moc"

@@ -1,5 +1,6 @@
 #include "astfile/pcap_writer.h"
 #include "octets.h"
+#include "test_program.h"
 #include "vyx-asterix/command_line.h"
 #include "vyx-asterix/encode_command.h"
 #include "vyx-asterix/stat_command.h"
@@ -52,8 +53,9 @@ private:
     {
         const QString name = m_folder.filePath("input");
         QFile file(name);
-        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
             return {};
+        }
         return name;
     }
 
@@ -102,8 +104,9 @@ private Q_SLOTS:
         QFETCH(QStringList, arguments);
         QFETCH(QString, error);
         std::vector<std::string> words;
-        for (const QString &argument : arguments)
+        for (const QString &argument : arguments) {
             words.push_back(argument.toStdString());
+        }
         CommandLine line;
         std::string reason;
         const bool isGood = CommandLine::parse(words, line, reason);
@@ -160,8 +163,9 @@ private Q_SLOTS:
         QList<double> printed;
         for (const QByteArray &line : outcome.out.split('\n')) {
             const QJsonObject object = QJsonDocument::fromJson(line).object();
-            if (!line.isEmpty())
+            if (!line.isEmpty()) {
                 printed.append(isCapture ? object["time"].toDouble() - 1700000000.25 : object["block"].toDouble());
+            }
         }
         QTEST(printed, "printed");
     }
@@ -236,5 +240,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestVyxAsterix)
+VYX_TEST(TestVyxAsterix)
 #include "tst_vyx_asterix.moc"

@@ -1,6 +1,7 @@
 #include "asterix/asterix.h"
 #include "asterix/profile.h"
 #include "octets.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -25,8 +26,9 @@ constexpr const char *TwoPlots = "80 19C9  80 19CA ";
 void *operator new(std::size_t size)
 {
     ++allocations;
-    if (void *memory = std::malloc(size > 0 ? size : 1))
+    if (void *memory = std::malloc(size > 0 ? size : 1)) {
         return memory;
+    }
     throw std::bad_alloc();
 }
 
@@ -201,8 +203,9 @@ private Q_SLOTS:
         for (int i = 0; i < 10; ++i) {
             const Octets &octets = i % 2 ? large : small;
             ast_datablock_smart_decode(&block, octets.data(), octets.size());
-            for (const _ast_datarecord_t &decoded : block.records)
+            for (const _ast_datarecord_t &decoded : block.records) {
                 ast_datarecord_048_disassemble(&typed, decoded);
+            }
         }
         QCOMPARE(allocations - before, 0);
         QCOMPARE(block.records.data(), first);
@@ -222,5 +225,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestWalker)
+VYX_TEST(TestWalker)
 #include "tst_walker.moc"

@@ -1,3 +1,4 @@
+#include "test_program.h"
 #include "typed_twins.h"
 
 #include <QTest>
@@ -15,8 +16,9 @@ QList<Segment> segments(const _ast_datarecord_008_t &record, int scalingFactor)
 {
     QList<Segment> all;
     _ast_weather_segment_t segment;
-    for (unsigned i = 0; ast_weather_segment_get(&segment, record, i, scalingFactor); ++i)
+    for (unsigned i = 0; ast_weather_segment_get(&segment, record, i, scalingFactor); ++i) {
         all.append({segment.x1, segment.y1, segment.x2, segment.y2});
+    }
     return all;
 }
 
@@ -86,8 +88,9 @@ private Q_SLOTS:
         const auto actual = segments(weather(record.constData()), scalingFactor);
         QCOMPARE(actual.size(), expected.size());
         for (int i = 0; i < actual.size(); ++i) {
-            for (int k = 0; k < 4; ++k)
+            for (int k = 0; k < 4; ++k) {
                 QVERIFY2(qAbs(actual[i][k] - expected[i][k]) < 1e-6, qPrintable(QString::number(actual[i][k])));
+            }
         }
     }
 
@@ -99,5 +102,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestWeatherRecords)
+VYX_TEST(TestWeatherRecords)
 #include "tst_weather_records.moc"

@@ -18,8 +18,9 @@ Typed typedRecord(const Octets &octets, Disassemble<Typed> disassemble)
     _ast_datablock_t block;
     ast_datablock_smart_decode(&block, octets.data(), octets.size());
     Typed typed{};
-    if (block.valid && block.records.size() == 1)
+    if (block.valid && block.records.size() == 1) {
         disassemble(&typed, block.records[0]);
+    }
     return typed;
 }
 

@@ -1,4 +1,5 @@
 #include "astfile/file_reader.h"
+#include "test_program.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -194,5 +195,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCaptureLayers)
+VYX_TEST(TestCaptureLayers)
 #include "tst_capture_layers.moc"

@@ -1,6 +1,7 @@
 #include "astfile/file_reader.h"
 #include "astfile/pcap_writer.h"
 #include "astfile/rec_file.h"
+#include "test_program.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -118,5 +119,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFileReader)
+VYX_TEST(TestFileReader)
 #include "tst_file_reader.moc"

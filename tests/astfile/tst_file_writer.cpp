@@ -2,6 +2,7 @@
 #include "recording_files.h"
 
 #include "astfile/file_writer.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -99,5 +100,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFileWriter)
+VYX_TEST(TestFileWriter)
 #include "tst_file_writer.moc"

@@ -1,5 +1,6 @@
 #include "astfile/file_reader.h"
 #include "astfile/pcap_writer.h"
+#include "test_program.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -75,5 +76,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPcapWriter)
+VYX_TEST(TestPcapWriter)
 #include "tst_pcap_writer.moc"

@@ -1,4 +1,5 @@
 #include "recording_files.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -215,5 +216,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRecordFormats)
+VYX_TEST(TestRecordFormats)
 #include "tst_record_formats.moc"

@@ -1,4 +1,5 @@
 #include "recording_files.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -241,5 +242,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRecordingIndex)
+VYX_TEST(TestRecordingIndex)
 #include "tst_recording_index.moc"

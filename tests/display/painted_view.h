@@ -1,6 +1,6 @@
 #pragma once
 
-#include "display/geo_view.h"
+#include "view/geo_view.h"
 
 #include <QImage>
 #include <QPainter>
@@ -48,8 +48,9 @@ public:
     {
         int count = 0;
         for (int y = rect.top(); y <= rect.bottom(); ++y) {
-            for (int x = rect.left(); x <= rect.right(); ++x)
+            for (int x = rect.left(); x <= rect.right(); ++x) {
                 count += inked(QPoint(x, y));
+            }
         }
         return count;
     }
@@ -67,8 +68,9 @@ private:
         std::pair<QRect, int> result;
         for (int i = 0; i < Size * Size; ++i) {
             const QPoint pixel(i % Size, i / Size);
-            if (at(pixel) == color)
+            if (at(pixel) == color) {
                 result = {result.first | QRect(pixel, QSize(1, 1)), result.second + 1};
+            }
         }
         return result;
     }

@@ -1,6 +1,7 @@
 #include "app/config.h"
 #include "display/geo_map_display.h"
 #include "static_map_scene.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -65,8 +66,9 @@ void tst_GeoStaticMap::showsEveryStyleAttribute_data()
     const auto inkOfRow = [middle](const PaintedView &view) { return view.inkIn(QRect(0, middle.y(), 400, 1)); };
     const auto gaps = [middle](const PaintedView &view) {
         int count = 0;
-        for (int x = 1; x < 400; ++x)
+        for (int x = 1; x < 400; ++x) {
             count += view.inked(QPoint(x - 1, middle.y())) && !view.inked(QPoint(x, middle.y()));
+        }
         return count;
     };
     row("pen colour", line, penOf(Qt::SolidLine, 3),
@@ -198,10 +200,12 @@ void tst_GeoStaticMap::goesOnBeyondTheRimOfTheWorld()
         projector.toCartesian(&x, &y, place.y(), place.x());
         return painted(layer, 250.0, QPointF(x, y)).inkedNear(PaintedView::Middle);
     };
-    for (const QPointF &place : inked)
+    for (const QPointF &place : inked) {
         QVERIFY2(seenAt(place), qPrintable(QStringLiteral("%1 %2").arg(place.x()).arg(place.y())));
-    for (const QPointF &place : bare)
+    }
+    for (const QPointF &place : bare) {
         QVERIFY2(!seenAt(place), qPrintable(QStringLiteral("%1 %2").arg(place.x()).arg(place.y())));
+    }
 }
 
 // Labels of several colours round one place: those that must be seen, and those that must not.
@@ -276,5 +280,5 @@ void tst_GeoStaticMap::takesTheConfiguration()
     }
 }
 
-QTEST_MAIN(tst_GeoStaticMap)
+VYX_TEST(tst_GeoStaticMap)
 #include "tst_geo_static_map.moc"

@@ -1,5 +1,6 @@
 #include "display/geo_track_display.h"
 #include "painted_view.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -130,8 +131,9 @@ void tst_GeoTrackDisplay::vectorReaches()
         scope.display.setVectorRange(reach.range);
         scope.paint(view);
         QCOMPARE(view.ink() > symbolInk, !reach.tip.isNull());
-        if (reach.tip.isNull())
+        if (reach.tip.isNull()) {
             continue;
+        }
         const double length = QLineF(QPointF(), reach.tip).length();
         QVERIFY(view.inkedNear(PaintedView::Middle + reach.tip));
         QVERIFY(view.inkedNear(PaintedView::Middle + reach.tip * 0.5));
@@ -152,28 +154,32 @@ void tst_GeoTrackDisplay::vectorTicks()
     scope.paint(view);
     QList<int> ticks; // pixels from the track, where there is ink beside the vector
     for (int x = 15; x <= 125; ++x) {
-        if (view.inked(PaintedView::Middle + QPoint(x, -2)) && !view.inked(PaintedView::Middle + QPoint(x - 1, -2)))
+        if (view.inked(PaintedView::Middle + QPoint(x, -2)) && !view.inked(PaintedView::Middle + QPoint(x - 1, -2))) {
             ticks.append(x);
+        }
     }
     QCOMPARE(ticks.size(), 3);
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         QVERIFY(std::abs(ticks[i] - 30 * (i + 1)) <= 1);
+    }
 }
 
 void tst_GeoTrackDisplay::trailDots()
 {
     for (const auto &[history, wanted] : QList<std::pair<int, int>>{{12, 5}, {3, 20}}) {
         TrackSnapshot track = aircraft(1);
-        for (int i = 1; i <= history; ++i)
+        for (int i = 1; i <= history; ++i) {
             track.trail.append(QPointF(i * 1000.0, 0.0));
+        }
         Scope scope({track});
         scope.display.showTrail(true);
         scope.display.setTrailDots(wanted);
         PaintedView view(100.0, QPointF(-200.0, 0.0)); // ten pixels from dot to dot
         scope.paint(view);
         int dots = 0;
-        for (int i = 1; i <= history; ++i)
+        for (int i = 1; i <= history; ++i) {
             dots += view.inkedNear(PaintedView::Middle + QPoint(2 + 10 * i, 0));
+        }
         QCOMPARE(dots, std::min(history, wanted));
     }
 }
@@ -260,8 +266,9 @@ void tst_GeoTrackDisplay::crowdLooksAsIfPaintedOneByOne()
         oneByOne.paint([&](QPainter &painter, const GeoView &) {
             for (bool alerted : {false, true}) { // alerts lie on top
                 for (const TrackSnapshot &track : tracks) {
-                    if (track.alertsString.isEmpty() != alerted)
+                    if (track.alertsString.isEmpty() != alerted) {
                         prepared({track})->display.paint(&painter);
+                    }
                 }
             }
         });
@@ -347,5 +354,5 @@ void tst_GeoTrackDisplay::forgetsTracksThatAreGone()
     QVERIFY(!scope.display.selectedTrackCarCoordinate(place));
 }
 
-QTEST_MAIN(tst_GeoTrackDisplay)
+VYX_TEST(tst_GeoTrackDisplay)
 #include "tst_geo_track_display.moc"

@@ -2,8 +2,9 @@
 #include "display/geo_video_map.h"
 #include "geo/mercator_projector.h"
 #include "painted_view.h"
-#include "tracking/radar_sensor_info.h"
-#include "tracking/smr_sensor_info.h"
+#include "sensors/radar_sensor_info.h"
+#include "sensors/smr_sensor_info.h"
+#include "test_program.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -51,8 +52,9 @@ bool seenNear(const PaintedView &view, const QPoint &at, const QColor &color)
 {
     for (int i = 0; i < 9; ++i) {
         const QPoint pixel = at + QPoint(i % 3 - 1, i / 3 - 1);
-        if (view.image().rect().contains(pixel) && view.at(pixel) == color)
+        if (view.image().rect().contains(pixel) && view.at(pixel) == color) {
             return true;
+        }
     }
     return false;
 }
@@ -192,8 +194,9 @@ void tst_GeoVideoMap::coversTheGroundWithoutHoles()
         for (int i = 0; i < PaintedView::Size * PaintedView::Size; ++i) {
             const QPoint at(i % PaintedView::Size, i / PaintedView::Size);
             const bool covered = view.at(at) == QColor(Qt::white);
-            if (covered && i % 3 > 0)
+            if (covered && i % 3 > 0) {
                 continue; // a third of them will do to find echoes where there is nothing
+            }
             const double inside = pixelsInside(view, at, scale);
             QVERIFY2(covered ? inside > -1.5 : inside < 0.5, qPrintable(QString::number(radials)));
         }
@@ -292,8 +295,9 @@ void tst_GeoVideoMap::newRadialsReplaceOldOnes()
 // What is moved on the screen must look as if it had been drawn there.
 void tst_GeoVideoMap::movesWithTheView()
 {
-    for (int i = 0; i < 360; ++i)
+    for (int i = 0; i < 360; ++i) {
         m_layer->addRadial(filled(i, (i + 1) % 360, static_cast<unsigned char>(90 + i % 100)));
+    }
     QPointF center = plane(Site);
     painted(300.0, center);
     for (const QPoint &shift : {QPoint(30, 0), QPoint(-70, 20), QPoint(0, -45), QPoint(11, 200), QPoint(390, 0)}) {
@@ -373,5 +377,5 @@ void tst_GeoVideoMap::survivesNonsense()
     }
 }
 
-QTEST_MAIN(tst_GeoVideoMap)
+VYX_TEST(tst_GeoVideoMap)
 #include "tst_geo_video_map.moc"

@@ -2,8 +2,9 @@
 #include "display/geo_weather_map.h"
 #include "geo/mercator_projector.h"
 #include "painted_view.h"
-#include "tracking/adsb_sensor_info.h"
-#include "tracking/radar_sensor_info.h"
+#include "sensors/adsb_sensor_info.h"
+#include "sensors/radar_sensor_info.h"
+#include "test_program.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -87,8 +88,9 @@ void tst_GeoWeatherMap::init()
     m_config.mapWeatherValidity = 60;
     m_config.mapWeatherAutoVectorWidth = false;
     m_config.mapWeatherVectorWidth = 10.0;
-    for (int level = 0; level < GeoWeatherMap::LevelCount; ++level)
+    for (int level = 0; level < GeoWeatherMap::LevelCount; ++level) {
         m_config.mapWeatherColor[level] = levelColor(level);
+    }
     m_layer = std::make_unique<GeoWeatherMap>(&m_projector);
     m_layer->setClock([this] { return m_now; });
     m_layer->setSensor(radar());
@@ -125,8 +127,9 @@ void tst_GeoWeatherMap::widthTouchesTheNeighbour()
         {{10.0, 10.0055, 11.0, 11.0055, 12.0}, 1.0}};
     for (const auto &[azimuths, width] : cases) {
         QList<Vector> vectors;
-        for (double azimuth : azimuths)
+        for (double azimuth : azimuths) {
             vectors.append({1, 10.0, 20.0, azimuth});
+        }
         QVERIFY(std::abs(touchingWidth(vectors, 9.0) - width) < 0.01);
     }
 }
@@ -148,8 +151,9 @@ void tst_GeoWeatherMap::neighboursShowNoSeams()
         const QColor color = view.at(pixel(view, 40.0, 77.0));
         QVERIFY(color != QColor(Qt::black) && color != levelColor(4));
         for (double azimuth = 0.0; azimuth < 360.0; azimuth += 0.7) {
-            for (double miles = 8.0; miles < 115.0; miles += 3.0)
+            for (double miles = 8.0; miles < 115.0; miles += 3.0) {
                 QCOMPARE(view.at(pixel(view, miles, azimuth)), color);
+            }
         }
     }
 }
@@ -246,5 +250,5 @@ void tst_GeoWeatherMap::ignoresNonsense()
     m_layer->setLevelVisible(-1, false);
 }
 
-QTEST_MAIN(tst_GeoWeatherMap)
+VYX_TEST(tst_GeoWeatherMap)
 #include "tst_geo_weather_map.moc"

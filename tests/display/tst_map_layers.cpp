@@ -5,7 +5,8 @@
 #include "display/geo_sensor_map.h"
 #include "geo/mercator_projector.h"
 #include "painted_view.h"
-#include "tracking/radar_sensor_info.h"
+#include "sensors/radar_sensor_info.h"
+#include "test_program.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -75,8 +76,9 @@ void tst_MapLayers::coverageLiesAtItsTrueDistance()
     PaintedView view(2500.0, plane(Site), 30.0);
     view.paint([&](QPainter &painter, const GeoView &geoView) { layer.paint(painter, geoView); });
     for (double azimuth : {0.0, 45.0, 90.0, 180.0, 305.0}) {
-        for (double miles : {50.0, 90.0, 100.0, 110.0})
+        for (double miles : {50.0, 90.0, 100.0, 110.0}) {
             QCOMPARE(view.inkedNear(pixel(view, Site, miles, azimuth)), miles == 50.0 || miles == 100.0);
+        }
     }
 }
 
@@ -145,10 +147,11 @@ void tst_MapLayers::sweepMeasuresItsPeriod()
     AntennaSweep sweep;
     sweep.setNominalPeriod(nominal);
     for (const QPointF &message : messages) {
-        if (message.x() < 0.0)
+        if (message.x() < 0.0) {
             sweep.northCrossed(qint64(message.y()));
-        else
+        } else {
             sweep.sectorCrossed(message.x(), qint64(message.y()));
+        }
     }
     QVERIFY2(std::abs(sweep.period() - period) < 0.002, qPrintable(QString::number(sweep.period())));
 }
@@ -187,8 +190,9 @@ void tst_MapLayers::takesTheConfiguration()
     QCOMPARE(display.rangeRingMap()->center(), plane(config.displayCenterCoordinate));
     display.setSensor(radar(0, 50));
     const PaintedView view = painted(display);
-    for (double miles : {30.0, 45.0, 50.0, 60.0, 90.0})
+    for (double miles : {30.0, 45.0, 50.0, 60.0, 90.0}) {
         QCOMPARE(view.inkedNear(pixel(view, Site, miles, 90.0)), miles == 30.0 || miles == 60.0);
+    }
     QVERIFY(view.count(Qt::yellow) > 0);
     // Rings that were put somewhere stay there.
     display.rangeRingMap()->setRings(QPointF(1.0, 2.0), 5, 50.0);
@@ -197,5 +201,5 @@ void tst_MapLayers::takesTheConfiguration()
     QCOMPARE(display.rangeRingMap()->center(), QPointF(1.0, 2.0));
 }
 
-QTEST_MAIN(tst_MapLayers)
+VYX_TEST(tst_MapLayers)
 #include "tst_map_layers.moc"

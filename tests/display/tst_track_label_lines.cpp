@@ -1,4 +1,5 @@
 #include "display/track_label_lines.h"
+#include "test_program.h"
 #include "tracking/track_snapshot.h"
 
 #include <QTest>
@@ -24,8 +25,9 @@ constexpr TrackLabelFields Nothing{false, false, false, false, false, false, fal
 TrackLabelFields only(std::initializer_list<bool TrackLabelFields::*> shown)
 {
     TrackLabelFields fields = Nothing;
-    for (bool TrackLabelFields::*field : shown)
+    for (bool TrackLabelFields::*field : shown) {
         fields.*field = true;
+    }
     return fields;
 }
 
@@ -97,10 +99,11 @@ void tst_TrackLabelLines::line()
     track.heading = 7.6;
     track.modeACodeValid = track.levelValid = track.selectedAltitudeValid = track.groundSpeedValid = true;
     track.headingValid = track.verticalRateValid = true;
-    if (change)
+    if (change) {
         change(track);
+    }
     QCOMPARE(trackLabelLines(track, fields).text[std::size_t(line)], text);
 }
 
-QTEST_GUILESS_MAIN(tst_TrackLabelLines)
+VYX_TEST(tst_TrackLabelLines)
 #include "tst_track_label_lines.moc"

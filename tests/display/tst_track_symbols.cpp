@@ -1,4 +1,5 @@
 #include "display/track_symbols.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -28,8 +29,9 @@ int differingPixels(const QImage &one, const QImage &other)
 {
     int count = 0;
     for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x)
+        for (int x = 0; x < one.width(); ++x) {
             count += inked(one, x, y) != inked(other, x, y);
+        }
     }
     return count;
 }
@@ -73,5 +75,5 @@ void tst_TrackSymbols::turnsTheAircraft()
     QCOMPARE(symbols.aircraft(-270.3, 1.0).toImage(), turned);
 }
 
-QTEST_MAIN(tst_TrackSymbols)
+VYX_TEST(tst_TrackSymbols)
 #include "tst_track_symbols.moc"

@@ -1,6 +1,7 @@
 #include "engine_rig.h"
 
 #include "engine/track_life_span.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -89,5 +90,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDataEngine)
+VYX_TEST(TestDataEngine)
 #include "tst_data_engine.moc"

@@ -1,4 +1,5 @@
 #include "engine_rig.h"
+#include "test_program.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -95,5 +96,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDataEngineGarbage)
+VYX_TEST(TestDataEngineGarbage)
 #include "tst_data_engine_garbage.moc"

@@ -1,4 +1,5 @@
 #include "engine_rig.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -35,12 +36,14 @@ private:
         {
             const auto shown = displaySlot.read().value;
             QStringList texts;
-            for (const AlertSnapshot &alert : shown->alerts)
+            for (const AlertSnapshot &alert : shown->alerts) {
                 texts += QStringLiteral("%1 %2 %3/%4")
                              .arg(alert.id)
                              .arg(alert.stateString, alert.track1.text, alert.track2.text);
-            for (const TrackSnapshot &track : shown->tracks)
+            }
+            for (const TrackSnapshot &track : shown->tracks) {
                 texts += QStringLiteral("#%1 %2").arg(track.trackNumber).arg(track.alertsString);
+            }
             std::sort(texts.begin(), texts.end());
             return texts;
         }
@@ -109,5 +112,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDataEngineProcessors)
+VYX_TEST(TestDataEngineProcessors)
 #include "tst_data_engine_processors.moc"

@@ -1,4 +1,5 @@
 #include "engine_rig.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -32,8 +33,9 @@ private Q_SLOTS:
     void videoIsBatched()
     {
         EngineRig rig;
-        for (const double time : {10.5, 9.0, 11.25})
+        for (const double time : {10.5, 9.0, 11.25}) {
             rig.engine.accumulateVideoRadial(radial(time));
+        }
         rig.engine.publishVideoBatch();
         const auto first = rig.videoSlot.read();
         QCOMPARE(first.counter, 1ULL);
@@ -48,5 +50,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDataEnginePublish)
+VYX_TEST(TestDataEnginePublish)
 #include "tst_data_engine_publish.moc"

@@ -1,6 +1,7 @@
 #include "engine_rig.h"
 
 #include "astfile/file_reader.h"
+#include "test_program.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -34,8 +35,9 @@ private:
         QByteArrayList messages;
         const auto reader = FileReader::create(RecFile::Pcap);
         if (reader->open(path, RecFile::Pcap)) {
-            for (DataPacket packet = reader->read(); packet.kind == DataPacket::Data; packet = reader->read())
+            for (DataPacket packet = reader->read(); packet.kind == DataPacket::Data; packet = reader->read()) {
                 messages += packet.data;
+            }
         }
         return messages;
     }
@@ -69,12 +71,14 @@ private Q_SLOTS:
         for (int turn = 0; turn < 4; ++turn) {
             for (int number = 1; number <= 40; ++number) {
                 sent += plotBlock(static_cast<quint8>(number), static_cast<quint16>(number * 1500 + turn * 40));
-                if (number % 10 == 0)
+                if (number % 10 == 0) {
                     sent += number % 20 == 0 ? northMarkerBlock() : QByteArray("no surveillance data");
+                }
             }
         }
-        for (const QByteArray &datagram : std::as_const(sent))
+        for (const QByteArray &datagram : std::as_const(sent)) {
             send(live, datagram);
+        }
         QTRY_COMPARE(live.engine.messagesReceived(), quint64(sent.size()));
         live.engine.stopRecording();
         QVERIFY(messagesIn(path) == sent);
@@ -94,8 +98,9 @@ private Q_SLOTS:
     void troubleEndsTheRecordingAlone_data()
     {
         QTest::addColumn<QString>("trouble");
-        for (const char *trouble : {"folder removed", "disk full", "no such folder"})
+        for (const char *trouble : {"folder removed", "disk full", "no such folder"}) {
             QTest::newRow(trouble) << QString(trouble);
+        }
     }
 
     void troubleEndsTheRecordingAlone()
@@ -103,10 +108,12 @@ private Q_SLOTS:
         QFETCH(QString, trouble);
         QTemporaryDir dir;
         QString path = dir.filePath("input.pcap");
-        if (trouble == "disk full")
+        if (trouble == "disk full") {
             QVERIFY(QFile::link("/dev/full", path));
-        if (trouble == "no such folder")
+        }
+        if (trouble == "no such folder") {
             path = dir.filePath("nowhere/input.pcap");
+        }
         EngineRig rig;
         QSignalSpy stopped(&rig.engine, &DataEngine::recordingStopped);
         openLive(rig);
@@ -132,5 +139,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDataEngineRecording)
+VYX_TEST(TestDataEngineRecording)
 #include "tst_data_engine_recording.moc"

@@ -1,6 +1,7 @@
 #include "engine_rig.h"
 
 #include "astfile/pcap_writer.h"
+#include "test_program.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -50,8 +51,9 @@ private Q_SLOTS:
         const QList<qint64> recorded{1000, 7, -1000, 2678400000}; // the last one a month
         for (qsizetype i = 0; i < recorded.size(); ++i) {
             QList<qint64> seen;
-            for (const ReplaySpeed::Speed speed : ReplaySpeed::values())
+            for (const ReplaySpeed::Speed speed : ReplaySpeed::values()) {
                 seen += ReplaySpeed::delay(recorded[i], speed);
+            }
             QCOMPARE(seen, delays[i]);
         }
     }
@@ -193,5 +195,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDataEngineReplay)
+VYX_TEST(TestDataEngineReplay)
 #include "tst_data_engine_replay.moc"

@@ -1,6 +1,7 @@
 #include "engine_rig.h"
 #include "modes/encoder.h"
 #include "sirm/alenia_sir_m_radar_encoder.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -17,8 +18,9 @@ private:
             const std::function<void(Config &)> &configure = {}, const QSharedPointer<SensorInfo> &sensor = radar())
         {
             config.inputUdpPort1 = freePort();
-            if (configure)
+            if (configure) {
                 configure(config);
+            }
             open(1, sensor);
             log.clear();
         }
@@ -104,8 +106,9 @@ private Q_SLOTS:
             QCOMPARE(rig.northCrossed.size(), 1);
             QCOMPARE(rig.tracks().size(), 1);
             QCOMPARE(rig.engine.bytesReceived(), quint64(envelope) + 20);
-            for (int length = 0; length <= envelope; ++length)
+            for (int length = 0; length <= envelope; ++length) {
                 rig.engine.procMessage(header.left(length));
+            }
             QCOMPARE(rig.log, QStringList());
         }
     }
@@ -174,8 +177,9 @@ private Q_SLOTS:
                 {{QByteArray()}, 0, {incomplete}}};
             for (const auto &[messages, tracks, log] : rows) {
                 OpenRig rig(decodeModeS(format), SensorInfo::create(SensorInfo::AdsbSensor));
-                for (const auto &message : messages)
+                for (const auto &message : messages) {
                     rig.engine.procMessage(message);
+                }
                 QCOMPARE(rig.tracks().size(), tracks);
                 QCOMPARE(rig.log, log);
             }
@@ -213,8 +217,9 @@ private Q_SLOTS:
                     'W' + text + ", further failures are logged as debug.", 'D' + text + '.', 'D' + text + '.'};
                 for (int opening = 0; opening < 2; ++opening) {
                     rig.log.clear();
-                    for (int i = 0; i < 3; ++i)
+                    for (int i = 0; i < 3; ++i) {
                         rig.engine.procMessage(QByteArray(envelope, '\1') + message);
+                    }
                     QCOMPARE(rig.log, norths > 0 ? QStringList() : failures);
                     rig.engine.closeInput();
                     rig.open(2);
@@ -225,5 +230,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDataEngineRouting)
+VYX_TEST(TestDataEngineRouting)
 #include "tst_data_engine_routing.moc"

@@ -2,6 +2,7 @@
 #include "engine_rig.h"
 #include "modes/encoder.h"
 #include "sirm/alenia_sir_m_radar_encoder.h"
+#include "test_program.h"
 #include "tracking/track.h"
 
 #include <QLineF>
@@ -91,8 +92,9 @@ private Q_SLOTS:
     void whatIsSentIsShown_data()
     {
         QTest::addColumn<int>("index");
-        for (int i = 0; i < int(std::size(rows)); ++i)
+        for (int i = 0; i < int(std::size(rows)); ++i) {
             QTest::newRow(rows[i].name) << i;
+        }
     }
 
     void whatIsSentIsShown()
@@ -112,8 +114,9 @@ private Q_SLOTS:
             QString report = row.report;
             int number = 0;
             for (const double value : {position.latitude(), position.longitude(), distance / 1852, distance,
-                     knots / 3600, velocity.x(), velocity.y()})
+                     knots / 3600, velocity.x(), velocity.y()}) {
                 report.replace(QStringLiteral("%%1").arg(++number), QString::number(value, 'g', 17));
+            }
             datagrams.append(encodedReport(report.section(' ', 0, 0).toInt(), report.section(' ', 1)));
         } else {
             datagrams = row.processor == 1 ? modeSFrames(position, knots)
@@ -127,8 +130,9 @@ private Q_SLOTS:
         sensor->setLocation(Site);
         rig.open(1, sensor);
         QUdpSocket source;
-        for (const auto &datagram : datagrams)
+        for (const auto &datagram : datagrams) {
             source.writeDatagram(datagram, QHostAddress::LocalHost, rig.config.inputUdpPort1);
+        }
         QTRY_COMPARE(rig.engine.messagesReceived(), quint64(datagrams.size()));
 
         const auto tracks = rig.tracks();
@@ -143,12 +147,13 @@ private Q_SLOTS:
         rig.projector.toCartesian(&plane.rx(), &plane.ry(), position.latitude(), position.longitude());
         // The plane stretches lengths by less than 1.6 at this latitude.
         for (const double error :
-            {track.geoCoordinate.distanceTo(position), QLineF(track.carCoordinate, plane).length() / 1.6})
+            {track.geoCoordinate.distanceTo(position), QLineF(track.carCoordinate, plane).length() / 1.6}) {
             QVERIFY2(error <= row.metres, qPrintable(QString::number(error)));
+        }
         QVERIFY2(qAbs(track.groundSpeed - knots) <= row.knots, qPrintable(QString::number(track.groundSpeed)));
         QVERIFY2(qAbs(track.heading - Heading) <= row.degrees, qPrintable(QString::number(track.heading)));
     }
 };
 
-QTEST_GUILESS_MAIN(TestDataEngineSensors)
+VYX_TEST(TestDataEngineSensors)
 #include "tst_data_engine_sensors.moc"

@@ -1,4 +1,5 @@
 #include "engine_rig.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -15,8 +16,9 @@ private:
 
     void closeFarEnd()
     {
-        if (m_far >= 0)
+        if (m_far >= 0) {
             ::close(m_far);
+        }
         m_far = -1;
     }
 
@@ -83,5 +85,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDataEngineSerial)
+VYX_TEST(TestDataEngineSerial)
 #include "tst_data_engine_serial.moc"

@@ -1,4 +1,5 @@
 #include "engine_rig.h"
+#include "test_program.h"
 
 #include <QTest>
 #include <QThread>
@@ -22,8 +23,9 @@ private Q_SLOTS:
     void initTestCase()
     {
         for (const QNetworkInterface &candidate : QNetworkInterface::allInterfaces()) {
-            if (candidate.flags().testFlag(QNetworkInterface::IsLoopBack))
+            if (candidate.flags().testFlag(QNetworkInterface::IsLoopBack)) {
                 m_loopback = candidate;
+            }
         }
         QVERIFY(m_loopback.isValid());
         QVERIFY(m_sender.bind(QHostAddress::LocalHost, 0));
@@ -102,8 +104,9 @@ private Q_SLOTS:
         rig.config.inputUdpPort1 = EngineRig::freePort();
         rig.open();
         rig.engine.pauseInput(true);
-        for (int i = 0; i < 200; ++i)
+        for (int i = 0; i < 200; ++i) {
             send(plotBlock(1), rig.config.inputUdpPort1);
+        }
         QTest::qWait(50);
         QCOMPARE(rig.tracks().size(), 0);
         rig.engine.pauseInput(false);
@@ -120,8 +123,9 @@ private Q_SLOTS:
         rig.open();
         connect(&rig.engine, &DataEngine::antennaNorthCrossed, this, [] { QThread::usleep(1000); });
         constexpr int Datagrams = 300; // fit into the smallest receive buffer
-        for (int i = 0; i < Datagrams; ++i)
+        for (int i = 0; i < Datagrams; ++i) {
             send(northMarkerBlock(), rig.config.inputUdpPort1);
+        }
         QList<qsizetype> seenByTimer;
         QTimer timer;
         connect(&timer, &QTimer::timeout, this, [&] { seenByTimer += rig.northCrossed.size(); });
@@ -141,13 +145,14 @@ private Q_SLOTS:
         rig.config.inputUdpPort1 = EngineRig::freePort();
         rig.open();
         connect(&rig.engine, &DataEngine::antennaNorthCrossed, &rig.engine, [&rig] { rig.engine.closeInput(); });
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 3; ++i) {
             send(northMarkerBlock(), rig.config.inputUdpPort1);
+        }
         QTRY_COMPARE(rig.closed.size(), 1);
         QTest::qWait(10);
         QCOMPARE(rig.northCrossed.size(), 1);
     }
 };
 
-QTEST_GUILESS_MAIN(TestDataEngineUdp)
+VYX_TEST(TestDataEngineUdp)
 #include "tst_data_engine_udp.moc"

@@ -1,4 +1,5 @@
 #include "engine/pipeline_meter.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -47,5 +48,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPipelineMeter)
+VYX_TEST(TestPipelineMeter)
 #include "tst_pipeline_meter.moc"

@@ -1,4 +1,5 @@
 #include "engine/snapshot_json.h"
+#include "test_program.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -56,8 +57,9 @@ private Q_SLOTS:
         const QJsonObject empty = SnapshotJson::toJson({{TrackSnapshot()}, {}, {}})["tracks"][0].toObject();
         QCOMPARE(empty.keys(), expected.keys());
         for (const char *key : {"callsign", "groundSpeed", "heading", "icaoAddr", "lastUpdate", "latitude", "level",
-                 "longitude", "modeA", "modeACode", "selectedAltitude", "verticalRate", "x", "y"})
+                 "longitude", "modeA", "modeACode", "selectedAltitude", "verticalRate", "x", "y"}) {
             QVERIFY2(empty[QLatin1String(key)].isNull(), key);
+        }
         QCOMPARE(std::count(empty.begin(), empty.end(), QJsonValue()), 14); // no others
     }
 
@@ -87,5 +89,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSnapshotJson)
+VYX_TEST(TestSnapshotJson)
 #include "tst_snapshot_json.moc"

@@ -1,4 +1,5 @@
 #include "geo/geo_coordinate.h"
+#include "test_program.h"
 
 #include <QLocale>
 #include <QTest>
@@ -85,8 +86,9 @@ private Q_SLOTS:
         for (const char *text : {"", " 395427N1162317E", "395427N1162317E\n", "395427n1162317e", "395427N 1162317E",
                  "39.907597,116.388078", "39542N1162317E", "395427N16317E", "395427N11623170E", "395427.35N1162317E",
                  "395427N1162317.08E", "395427.3N1162317.0E", "395427E1162317N", "996000N0000000E", "000000N9990000E",
-                 "395427N1162317E395427N1162317E"})
+                 "395427N1162317E395427N1162317E"}) {
             QVERIFY2(!GeoCoordinate::fromATCString(text).isValid(), text);
+        }
         QVERIFY(!GeoCoordinate::fromATCString("395427N1162317E", Format::HighPrecision).isValid());
         QVERIFY(!GeoCoordinate::fromATCString("395427.35N1162317.08E", Format::NormalPrecision).isValid());
     }
@@ -105,5 +107,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_GeoCoordinate)
+VYX_TEST(tst_GeoCoordinate)
 #include "tst_geo_coordinate.moc"

@@ -1,4 +1,5 @@
 #include "geo/input_validator.h"
+#include "test_program.h"
 
 #include <QRegularExpressionValidator>
 #include <QTest>
@@ -20,12 +21,13 @@ private Q_SLOTS:
         using Texts = QStringList;
         const auto rows = [](const char *name, Accessor validator, const Texts &good, const Texts &half,
                               const Texts &bad) {
-            for (const auto &text : good + half + bad)
+            for (const auto &text : good + half + bad) {
                 QTest::addRow("%s '%s'", name, qPrintable(text))
                     << validator << text
                     << (good.contains(text)          ? QValidator::Acceptable
                                : half.contains(text) ? QValidator::Intermediate
                                                      : QValidator::Invalid);
+            }
         };
         rows("ip", InputValidator::ipAddrValidator, {"0.0.0.0", "255.255.255.255", "010.1.02.3"},
             {"", "239.0", "1.2.3."}, {"256.0.0.1", "1.2.3.4.5", "1.2.3.999", "a"});
@@ -54,5 +56,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_InputValidator)
+VYX_TEST(tst_InputValidator)
 #include "tst_input_validator.moc"

@@ -1,6 +1,7 @@
 #include "geo/mercator_projector.h"
 #include "geo/simple_projector.h"
 #include "geo/stereographic_projector.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -110,5 +111,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_Projectors)
+VYX_TEST(tst_Projectors)
 #include "tst_projectors.moc"

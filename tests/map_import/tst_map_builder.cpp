@@ -1,6 +1,7 @@
 #include "map_import/map_builder.h"
 
 #include "map_import/airspace_feature.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -44,10 +45,12 @@ private Q_SLOTS:
         QFETCH(Properties, properties);
         const MapElementGroup group = built(point(properties)).groups.value(0);
         QStringList seen{group.className};
-        for (const MapSymbolElement &symbol : group.symbols)
+        for (const MapSymbolElement &symbol : group.symbols) {
             seen << symbol.type << symbol.name;
-        for (const MapLabelElement &label : group.labels)
+        }
+        for (const MapLabelElement &label : group.labels) {
             seen << label.caption;
+        }
         QTEST(seen.join(' ').trimmed(), "seen");
     }
 
@@ -124,5 +127,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMapBuilder)
+VYX_TEST(TestMapBuilder)
 #include "tst_map_builder.moc"

@@ -1,4 +1,5 @@
 #include "map_import/map_import.h"
+#include "test_program.h"
 
 #include <QDataStream>
 #include <QFile>
@@ -49,14 +50,18 @@ private:
         QStringList groups;
         for (const MapElementGroup &group : map.groups) {
             QString text = group.className + ':';
-            for (const MapPolylineElement &line : group.polylines)
+            for (const MapPolylineElement &line : group.polylines) {
                 text += " line" + QString::number(line.points.size());
-            for (const MapPolygonElement &polygon : group.polygons)
+            }
+            for (const MapPolygonElement &polygon : group.polygons) {
                 text += " area" + QString::number(polygon.points.size());
-            for (const MapSymbolElement &symbol : group.symbols)
+            }
+            for (const MapSymbolElement &symbol : group.symbols) {
                 text += ' ' + symbol.type + ' ' + symbol.name;
-            for (const MapLabelElement &label : group.labels)
+            }
+            for (const MapLabelElement &label : group.labels) {
                 text += " \"" + label.caption + '"';
+            }
             groups.append(text);
         }
         return groups;
@@ -155,5 +160,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMapImport)
+VYX_TEST(TestMapImport)
 #include "tst_map_import.moc"

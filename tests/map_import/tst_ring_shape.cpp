@@ -1,4 +1,5 @@
 #include "map_import/ring_shape.h"
+#include "test_program.h"
 
 #include <QPainterPath>
 #include <QTest>
@@ -6,8 +7,9 @@
 static QPainterPath filled(const LonLatLine &ring)
 {
     QPolygonF polygon;
-    for (const LonLat &point : ring)
+    for (const LonLat &point : ring) {
         polygon.append(QPointF(point.longitude, point.latitude));
+    }
     QPainterPath path;
     path.setFillRule(Qt::OddEvenFill);
     path.addPolygon(polygon);
@@ -42,8 +44,9 @@ private Q_SLOTS:
             {{0, 0}, {20, 0}, {20, 20}, {0, 20}}, {{2, 2}, {2, 8}, {8, 8}, {8, 2}}, {{12, 12}, {18, 12}, {18, 18}}};
         const QPainterPath path = filled(RingShape::withHoles(area));
         for (const auto &[place, isLand] : {std::pair{QPointF(5, 5), false}, {QPointF(17, 14), false},
-                 {QPointF(13, 17), true}, {QPointF(10, 10), true}, {QPointF(1, 1), true}, {QPointF(21, 5), false}})
+                 {QPointF(13, 17), true}, {QPointF(10, 10), true}, {QPointF(1, 1), true}, {QPointF(21, 5), false}}) {
             QCOMPARE(path.contains(place), isLand);
+        }
     }
 
     void simplifies()
@@ -72,5 +75,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRingShape)
+VYX_TEST(TestRingShape)
 #include "tst_ring_shape.moc"

@@ -3,6 +3,7 @@
 
 #include "maps/map_index.h"
 #include "maps/map_style_sheet.h"
+#include "test_program.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -81,8 +82,9 @@ private Q_SLOTS:
 
         QCOMPARE(run({"info", binary}), 0);
         for (const char *line : {"format map", "title Old", "version 3", "bounds 493000N0140000E to 510000N0150000E",
-                 "coast coast 1 0 2 0 0 0", "fix fix 0 0 0 0 1 0"})
+                 "coast coast 1 0 2 0 0 0", "fix fix 0 0 0 0 1 0"}) {
             QVERIFY2(m_out.contains(line), qPrintable(m_out.join('\n')));
+        }
     }
 
     void importsWithOptions()
@@ -128,12 +130,13 @@ private Q_SLOTS:
             for (const MapIndexEntry &entry : index) {
                 const MapData map = readMap(folder.filePath(entry.file), entry.format);
                 QVERIFY2(!map.groups.isEmpty(), qPrintable(entry.file));
-                for (const MapElementGroup &group : map.groups)
+                for (const MapElementGroup &group : map.groups) {
                     QVERIFY2(sheet.contains(group.className), qPrintable(group.className));
+                }
             }
         }
     }
 };
 
-QTEST_MAIN(TestVyxMap)
+VYX_TEST(TestVyxMap)
 #include "tst_vyx_map.moc"

@@ -8,8 +8,9 @@
 inline QString writtenTo(const QString &path, const QByteArray &contents)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
         qFatal("no test file");
+    }
     return path;
 }
 
@@ -23,8 +24,9 @@ inline MapData readMap(const QString &path, MapFile::Format format, QString *err
 {
     const auto file = MapFile::create(format);
     const MapData map = file->open(QFileInfo(path), format, QIODevice::ReadOnly) ? file->read() : MapData{};
-    if (error)
+    if (error) {
         *error = file->lastError();
+    }
     return map;
 }
 
@@ -32,8 +34,9 @@ inline MapData readMap(const QString &path, MapFile::Format format, QString *err
 inline QString writeMap(const QString &path, MapFile::Format format, const MapData &map)
 {
     const auto file = MapFile::create(format);
-    if (file->open(QFileInfo(path), format, QIODevice::WriteOnly))
+    if (file->open(QFileInfo(path), format, QIODevice::WriteOnly)) {
         file->write(map);
+    }
     file->close();
     return file->lastError();
 }
@@ -46,8 +49,9 @@ public:
     MapData map()
     {
         MapData map{text(), text(), text(), text(), text(), text(), {}};
-        for (int i = below(4); i >= 0; --i)
+        for (int i = below(4); i >= 0; --i) {
             map.groups.append(group());
+        }
         return map;
     }
 
@@ -58,32 +62,36 @@ private:
     {
         static const auto letters = QStringLiteral("aB<&>\"'%1 \n;]\u00E4\u6F22\U0001F600");
         QString text;
-        for (int i = below(12); i > 0; --i)
+        for (int i = below(12); i > 0; --i) {
             text += letters.mid(below(int(letters.size()) - 2), 1); // no half of the last
+        }
         return below(4) ? text : text + QStringLiteral("\U0001F600");
     }
 
     GeoCoordinate coordinate()
     {
-        if (below(20) == 0)
+        if (below(20) == 0) {
             return {};
+        }
         return {(below(89 * 720000) - 89 * 360000) / 360000.0, (below(2 * 64799999) - 64799999) / 360000.0};
     }
 
     QList<GeoCoordinate> points()
     {
         QList<GeoCoordinate> points;
-        for (int i = below(20); i > 0; --i)
+        for (int i = below(20); i > 0; --i) {
             points.append(coordinate());
+        }
         return points;
     }
 
     QPixmap picture()
     {
         QImage image(1 + below(4), 1 + below(4), QImage::Format_ARGB32);
-        for (int i = 0; i < image.width() * image.height(); ++i)
+        for (int i = 0; i < image.width() * image.height(); ++i) {
             image.setPixel(
                 i % image.width(), i / image.width(), (i % 2 ? 0xFF000000U : 0x80000000U) | (m_random() & 0xFFFFFF));
+        }
         return QPixmap::fromImage(image);
     }
 

@@ -1,4 +1,5 @@
 #include "map_samples.h"
+#include "test_program.h"
 
 #include <QDataStream>
 #include <QDir>
@@ -14,8 +15,9 @@ QByteArray versionOne(const QPixmap &pixmap)
     out.setVersion(17);
     const quint32 none = 0;
     const quint32 one = 1;
-    for (const char *text : {"name", "title", "author", "version", "description", "comment"})
+    for (const char *text : {"name", "title", "author", "version", "description", "comment"}) {
         out << QString(text);
+    }
     out << one << QString("group") << QString("class");
     out << one << QString("line") << quint32(2) << 50.0 << 8.0 << qQNaN() << 51.5 << -9.25 << 100.0;
     out << none;
@@ -149,9 +151,10 @@ private Q_SLOTS:
         const auto images = readMap(path, MapFile::Xml).groups[0].images;
         QCOMPARE(QSet<QString>({images[0].file, images[1].file, images[2].file}).size(), 3);
         QCOMPARE(images[2].file, QString("image.png"));
-        for (const MapImageElement &image : images)
+        for (const MapImageElement &image : images) {
             QVERIFY(
                 QFile::exists(m_folder->filePath(image.file)) && !image.file.contains('/') && !image.pixmap.isNull());
+        }
     }
 
     void leavesPicturesAloneThatAreTheSame()
@@ -177,5 +180,5 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-QTEST_MAIN(tst_MapFile)
+VYX_TEST(tst_MapFile)
 #include "tst_map_file.moc"

@@ -1,4 +1,5 @@
 #include "map_samples.h"
+#include "test_program.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -114,8 +115,9 @@ private Q_SLOTS:
         QCOMPARE(error(MapFile::Legacy, path, MapFile::Legacy, QIODevice::WriteOnly),
             QString("Cannot open map file \"%1\".").arg(path));
         const QString unreadable = "Map file \"%1\" does not exist or is not readable.";
-        for (const QString &name : {path + "none", folder.path(), QString("/dev/zero")})
+        for (const QString &name : {path + "none", folder.path(), QString("/dev/zero")}) {
             QCOMPARE(error(MapFile::Map, name, MapFile::Map, QIODevice::ReadOnly), unreadable.arg(name));
+        }
         QVERIFY(
             error(MapFile::Map, path + "/x", MapFile::Map, QIODevice::WriteOnly).startsWith("Cannot open map file"));
         QVERIFY(
@@ -175,5 +177,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_MapFileDamage)
+VYX_TEST(tst_MapFileDamage)
 #include "tst_map_file_damage.moc"

@@ -1,6 +1,7 @@
 #include "map_samples.h"
 
 #include "maps/map_index.h"
+#include "test_program.h"
 
 #include <QTemporaryDir>
 
@@ -45,5 +46,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_MapIndex)
+VYX_TEST(tst_MapIndex)
 #include "tst_map_index.moc"

@@ -1,6 +1,7 @@
 #include "map_samples.h"
 
 #include "maps/map_layout.h"
+#include "test_program.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -77,8 +78,9 @@ private Q_SLOTS:
         layout.setDefaultLayout(1000.0, 2000.0);
         QCOMPARE(layout.defaultlayout(), QTransform(0.00302231, 0, 0, 0.00302231, -3.02231, 6.04462));
         connect(&layout, &MapLayout::saveViewport, this, [](QTransform &view) { view.translate(4, 5); });
-        for (const char *ignored : {"", "default"})
+        for (const char *ignored : {"", "default"}) {
             layout.saveCurrentView(ignored);
+        }
         QVERIFY(layout.layoutNames().isEmpty());
         layout.saveCurrentView("kept");
         QCOMPARE(layout.currentLayout(), QTransform::fromTranslate(4, 5));
@@ -87,5 +89,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_MapLayout)
+VYX_TEST(tst_MapLayout)
 #include "tst_map_layout.moc"

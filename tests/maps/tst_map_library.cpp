@@ -1,4 +1,5 @@
 #include "maps/map_library.h"
+#include "test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -240,5 +241,5 @@ void TestMapLibrary::styleSheet()
     QVERIFY2(m_library->styleSheet().contains("land"), "the last good one stays");
 }
 
-QTEST_MAIN(TestMapLibrary)
+VYX_TEST(TestMapLibrary)
 #include "tst_map_library.moc"

@@ -1,6 +1,7 @@
 #include "map_samples.h"
 
 #include "maps/map_style_sheet.h"
+#include "test_program.h"
 
 #include <QTemporaryDir>
 
@@ -67,8 +68,9 @@ private Q_SLOTS:
         MapStyleSheet loaded;
         QVERIFY2(loaded.load(path, &error), qPrintable(error));
         QCOMPARE(loaded.names(), sheet.names());
-        for (const QString &name : sheet.names())
+        for (const QString &name : sheet.names()) {
             QVERIFY2(loaded.style(name) == sheet.style(name), qPrintable(name));
+        }
         QVERIFY(loaded.title == sheet.title && loaded.comment == sheet.comment);
 
         const QByteArray former = contentsOf(path);
@@ -89,8 +91,9 @@ private Q_SLOTS:
         QString error;
         QVERIFY(!sheet.load(path, &error) && !sheet.isValid());
         QCOMPARE(error, QString("Style sheet \"%1\" does not exist or is not readable.").arg(path));
-        for (const char *document : {"", "<sheet/>", "<map><style><class name='c'>", "<map/><map/>"})
+        for (const char *document : {"", "<sheet/>", "<map><style><class name='c'>", "<map/><map/>"}) {
             QVERIFY(!sheet.load(writtenTo(path, document), &error) && sheet.isEmpty() && !error.isEmpty());
+        }
         QVERIFY(!sheet.save(path + "/sub/s.mss", &error));
         QCOMPARE(error, QString("Cannot create directory \"%1/sub\".").arg(path));
         QVERIFY(QDir(folder.path()).mkpath("s.mss.bak/full"));
@@ -100,5 +103,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_MapStyleSheet)
+VYX_TEST(tst_MapStyleSheet)
 #include "tst_map_style_sheet.moc"

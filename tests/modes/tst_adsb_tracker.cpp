@@ -3,6 +3,7 @@
 #include "modes/encoder.h"
 #include "modes/log.h"
 #include "modes/mode_s_decoder.h"
+#include "test_program.h"
 
 #include <QFile>
 #include <QTest>
@@ -121,8 +122,9 @@ private Q_SLOTS:
             const LatLon place = eastOf({47, 179.5}, 247 * seconds); // over the date line
             target = sky.airborne(seconds, place, i % 5 < 2);
             QVERIFY(i < 2 || target->positionValid());
-            if (i > 2)
+            if (i > 2) {
                 QVERIFY2(isAt(*target, place), qPrintable(QString::number(i)));
+            }
         }
         QVERIFY(target->longitude() < -178);
         QCOMPARE(std::lround(target->groundSpeed()), 480);
@@ -149,8 +151,9 @@ private Q_SLOTS:
         QVERIFY(isAt(*sky.airborne(2, near, true), near)); // 2 km and what it flew since
         QVERIFY(log.lines.isEmpty());
         std::shared_ptr<ADSBTarget> target;
-        for (int i = 0; i < 8; ++i)
+        for (int i = 0; i < 8; ++i) {
             target = sky.airborne(3 + 0.5 * i, far, i % 2);
+        }
         Log::setLogHandler(nullptr);
         QVERIFY(isAt(*target, far));
         QCOMPARE(log.lines, QStringList{"4B1800: position given up after contradictions"});
@@ -268,5 +271,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestAdsbTracker)
+VYX_TEST(TestAdsbTracker)
 #include "tst_adsb_tracker.moc"

@@ -1,4 +1,5 @@
 #include "modes/comm_b.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -55,12 +56,13 @@ private Q_SLOTS:
         const std::optional<int> known = altitude == -9999 ? std::nullopt : std::optional<int>(altitude);
         const RegisterCandidates candidates = inferRegisters(field(mb.constData()), known);
         QStringList names;
-        for (std::size_t i = 0; i < candidates.count; ++i)
+        for (std::size_t i = 0; i < candidates.count; ++i) {
             names.append(QString::number(candidates.registers[i], 16));
+        }
         QTEST(names.join(' '), "registers");
         QCOMPARE(candidates.only() != 0, names.size() == 1);
     }
 };
 
-QTEST_GUILESS_MAIN(TestCommB)
+VYX_TEST(TestCommB)
 #include "tst_comm_b.moc"

@@ -1,4 +1,5 @@
 #include "modes/cpr.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -96,5 +97,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCpr)
+VYX_TEST(TestCpr)
 #include "tst_cpr.moc"

@@ -3,6 +3,7 @@
 #include "modes/encoder.h"
 #include "modes/mode_s_decoder.h"
 #include "modes/parity.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -169,8 +170,9 @@ private Q_SLOTS:
         QVERIFY(isValidAt(reply, 0)); // a recording that starts over
         QVERIFY(!isValidAt(encodeAltitudeReply(0x4B1801, 5000), 2000));
         // Many others do not push a fresh one out.
-        for (std::uint32_t address = 0; address < 3000; ++address)
+        for (std::uint32_t address = 0; address < 3000; ++address) {
             isValidAt(encodeAllCall(0x100000 + 7 * address), 3000);
+        }
         QVERIFY(isValidAt(reply, 3000));
     }
 
@@ -180,11 +182,13 @@ private Q_SLOTS:
         std::map<int, unsigned> codes;
         for (unsigned code = 1; code < 0x2000; ++code) {
             const std::optional<int> altitude = code & 0x50 ? std::nullopt : altitudeFromCode(code);
-            if (altitude)
+            if (altitude) {
                 QVERIFY(codes.emplace(*altitude, code).second);
+            }
         }
-        for (int altitude = -1100; altitude <= codes.rbegin()->first; altitude += 100)
+        for (int altitude = -1100; altitude <= codes.rbegin()->first; altitude += 100) {
             QCOMPARE(std::popcount(codes.at(altitude - 100) ^ codes.at(altitude)), 1);
+        }
         QCOMPARE(codes.begin()->first, -1200);
         QCOMPARE(codes[0], codeFromSquawk(00620));
         QCOMPARE(codes[-1000], codeFromSquawk(00020));
@@ -192,11 +196,13 @@ private Q_SLOTS:
 
     void codesThereAndBack()
     {
-        for (int altitude = -1000; altitude <= 50175; altitude += 25)
+        for (int altitude = -1000; altitude <= 50175; altitude += 25) {
             QCOMPARE(altitudeFromCode(codeFromAltitude(altitude)), std::optional<int>(altitude));
+        }
         QCOMPARE(altitudeFromCode(codeFromAltitude(99999)), std::optional<int>(50175));
-        for (std::uint16_t squawk = 0; squawk < 010000; ++squawk)
+        for (std::uint16_t squawk = 0; squawk < 010000; ++squawk) {
             QCOMPARE(squawkFromCode(codeFromSquawk(squawk)), squawk);
+        }
         char text[9];
         for (const auto &[given, expected] : {std::pair{"SWR1 23", "SWR1 23"}, {"LX-ABC", "LX ABC"}, {"", ""},
                  {"ABCDEFGHIJ", "ABCDEFGH"}, {"?", ""}, {"  X", "  X"}}) {
@@ -206,5 +212,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestModeSDecoder)
+VYX_TEST(TestModeSDecoder)
 #include "tst_mode_s_decoder.moc"

@@ -2,6 +2,7 @@
 #include "modes/encoder.h"
 #include "modes/mode_s_encapsulation.h"
 #include "modes/receiver_clock.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -24,8 +25,9 @@ QByteArray octets(const QByteArray &hex)
 QByteArray listOf(const std::vector<std::shared_ptr<ModeSEncapsulation>> &frames)
 {
     QByteArrayList list;
-    for (const auto &frame : frames)
+    for (const auto &frame : frames) {
         list.append(hexOf(frame->frame()));
+    }
     return list.join(' ');
 }
 
@@ -128,8 +130,9 @@ private Q_SLOTS:
             std::vector<ModeSFrame> got;
             for (std::size_t offset = 0; offset < stream.size(); offset += 1 + step / 4) {
                 buffer.append(stream, offset, 1 + step / 4);
-                for (const auto &frame : ModeSEncapsulation::extract(buffer, format))
+                for (const auto &frame : ModeSEncapsulation::extract(buffer, format)) {
                     got.push_back(frame->frame());
+                }
             }
             QCOMPARE(got.size(), sent.size());
             for (std::size_t i = 0; i < got.size(); ++i) {
@@ -178,5 +181,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestModeSEncapsulation)
+VYX_TEST(TestModeSEncapsulation)
 #include "tst_mode_s_encapsulation.moc"

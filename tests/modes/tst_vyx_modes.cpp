@@ -1,4 +1,5 @@
 #include "modes/encoder.h"
+#include "test_program.h"
 #include "vyx-modes/decode_command.h"
 
 #include <QFile>
@@ -21,11 +22,13 @@ private:
     int decode(const QByteArray &contents, CommandLine line = {})
     {
         QFile file(m_folder.filePath("input"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
             return -1;
+        }
         file.close();
-        if (line.fileName.empty())
+        if (line.fileName.empty()) {
             line.fileName = file.fileName().toStdString();
+        }
         m_out.clear();
         m_err.clear();
         const TextSink out = [this](std::string_view text) {
@@ -69,8 +72,9 @@ private Q_SLOTS:
         QFETCH(QStringList, arguments);
         QFETCH(QString, error);
         std::vector<std::string> words;
-        for (const QString &argument : arguments)
+        for (const QString &argument : arguments) {
             words.push_back(argument.toStdString());
+        }
         CommandLine line;
         std::string reason;
         const bool isGood = CommandLine::parse(words, line, reason);
@@ -212,5 +216,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestVyxModes)
+VYX_TEST(TestVyxModes)
 #include "tst_vyx_modes.moc"

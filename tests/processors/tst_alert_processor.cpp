@@ -1,6 +1,7 @@
 #include "asterix/asterix.h"
-#include "processors/alert_manager.h"
 #include "processors/alert_processor.h"
+#include "test_program.h"
+#include "tracking/alert_manager.h"
 #include "tracking/track_manager.h"
 
 #include <QTest>
@@ -27,8 +28,9 @@ Message alive(std::initializer_list<_ast_snet_status_t> functions)
 {
     Message record = message(1);
     record.i060.present = true;
-    for (const auto &function : functions)
+    for (const auto &function : functions) {
         record.i060.entries[record.i060.count++] = function;
+    }
     return record;
 }
 
@@ -121,5 +123,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestAlertProcessor)
+VYX_TEST(TestAlertProcessor)
 #include "tst_alert_processor.moc"

@@ -1,5 +1,6 @@
 #include "asterix/asterix.h"
 #include "processors/video_processor.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -48,5 +49,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestVideoProcessor)
+VYX_TEST(TestVideoProcessor)
 #include "tst_video_processor.moc"

@@ -1,5 +1,6 @@
 #include "asterix/asterix.h"
 #include "processors/weather_processor.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -30,8 +31,9 @@ Message vectors(std::uint8_t count, bool systemCoordinates = false, bool test = 
     record.i020 = {true, systemCoordinates, 3, 0.0, test, error};
     record.i034.present = true;
     record.i034.count = count;
-    for (std::uint8_t i = 0; i < count; ++i)
+    for (std::uint8_t i = 0; i < count; ++i) {
         record.i034.vectors[i] = {i, std::uint8_t(i + 1), 10.0 * i};
+    }
     return record;
 }
 
@@ -100,15 +102,17 @@ private Q_SLOTS:
         connect(&processor, &WeatherProcessor::pictureReady, this, [&said](const WeatherProcessor::Picture &picture) {
             const auto &last = picture.vectors.last();
             QStringList figures{QString::number(picture.timeOfDay) + ':', QString::number(last.intensity)};
-            for (const double figure : {last.startRange, last.endRange, last.azimuth})
+            for (const double figure : {last.startRange, last.endRange, last.azimuth}) {
                 figures += QString::number(figure, 'g', 10);
+            }
             said += figures.join(' ');
         });
-        for (const Message &record : messages)
+        for (const Message &record : messages) {
             processor.procCat008Record(record);
+        }
         QTEST(said, "expected");
     }
 };
 
-QTEST_GUILESS_MAIN(TestWeatherProcessor)
+VYX_TEST(TestWeatherProcessor)
 #include "tst_weather_processor.moc"

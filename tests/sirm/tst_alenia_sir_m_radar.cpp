@@ -3,6 +3,7 @@
 #include "example/nearest_track.h"
 #include "sirm/alenia_sir_m_radar_decoder.h"
 #include "sirm/alenia_sir_m_radar_encoder.h"
+#include "test_program.h"
 
 #include <cmath>
 #include <limits>
@@ -136,8 +137,9 @@ private Q_SLOTS:
         const Track track = Track::fromOctets(octets);
         QByteArray answers;
         for (const bool answer : {track.coasting(), track.trackEnd(), track.modeACodeValid(), track.modeCHeightValid(),
-                 track.rateOfClimbDescentValid(), track.velocityPresent(), track.velocityValid()})
+                 track.rateOfClimbDescentValid(), track.velocityPresent(), track.velocityValid()}) {
             answers += answer ? '1' : '0';
+        }
         QTEST(answers, "answers");
     }
 
@@ -247,5 +249,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestAleniaSirMRadar)
+VYX_TEST(TestAleniaSirMRadar)
 #include "tst_alenia_sir_m_radar.moc"

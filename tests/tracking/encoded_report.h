@@ -15,8 +15,9 @@ inline bool addRegister(korvane::asterix::BlockEncoder &encoder, int category, b
     for (int i = 0; i < 2; ++i) {
         bool available = false;
         const auto value = quint64(values.section('/', i, i).toInt(&available)) & ((1u << width) - 1);
-        if (available)
+        if (available) {
             bits |= (quint64(1) << width | value) << (56 - statusBits[i] - width);
+        }
     }
     return encoder.addRepetition("250") && encoder.setRaw(category == 20 ? "250/BDSDATA" : "250/MBDATA", bits)
         && encoder.set("250/BDS1", is60 ? 6 : 4);
@@ -35,15 +36,17 @@ inline QByteArray encodedReport(int category, const QString &report)
         const auto text = field.section('=', 1);
         bool isInteger = false, isNumber = false;
         const double integer = text.toUInt(&isInteger, 0), number = text.toDouble(&isNumber);
-        if (path.starts_with("bds"))
+        if (path.starts_with("bds")) {
             complete = addRegister(encoder, category, path == "bds60", text) && complete;
-        else if (isInteger || isNumber)
+        } else if (isInteger || isNumber) {
             complete = encoder.set(path, isInteger ? integer : number) && complete;
-        else
+        } else {
             complete = encoder.setText(path, text.toStdString()) && complete;
+        }
     }
-    if (!complete || !encoder.endRecord())
+    if (!complete || !encoder.endRecord()) {
         qFatal("a report of the test cannot be encoded");
+    }
     const auto block = encoder.block();
     return QByteArray(reinterpret_cast<const char *>(block.data()), static_cast<qsizetype>(block.size()));
 }

@@ -43,8 +43,9 @@ public:
     {
         for (const auto &report : reports.split("; ")) {
             const bool timed = report.startsWith('@');
-            if (timed)
+            if (timed) {
                 setTime(report.section(' ', 0, 0).mid(1).toDouble());
+            }
             receive(encodedReport(category, timed ? report.section(' ', 1) : report));
         }
     }

@@ -1,4 +1,5 @@
 #include "sirm/alenia_sir_m_radar_message.h"
+#include "test_program.h"
 #include "tracker_rig.h"
 #include "tracking/radar_tracker.h"
 
@@ -123,8 +124,9 @@ private Q_SLOTS:
             const auto icao = address == None ? QString() : QStringLiteral(" 220=%1").arg(address);
             rig.send(48, "040/RHO=10" + number + icao);
             int updated = 0;
-            for (const auto &each : rig.manager->allTracks())
+            for (const auto &each : rig.manager->allTracks()) {
                 updated += each->lastUpdate() == rig.now ? int(each->incarnationId()) : 0;
+            }
             incarnations.append(updated);
         }
         QTEST(incarnations, "incarnations");
@@ -232,5 +234,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRadarTracker)
+VYX_TEST(TestRadarTracker)
 #include "tst_radar_tracker.moc"

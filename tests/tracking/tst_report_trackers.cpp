@@ -1,5 +1,6 @@
 #include "modes/encoder.h"
 #include "modes/mode_s_decoder.h"
+#include "test_program.h"
 #include "tracker_rig.h"
 #include "tracking/adsb_tracker.h"
 #include "tracking/sdps_tracker.h"
@@ -113,8 +114,9 @@ private Q_SLOTS:
     void reports_data()
     {
         QTest::addColumn<int>("index");
-        for (int i = 0; i < int(std::size(rows)); ++i)
+        for (int i = 0; i < int(std::size(rows)); ++i) {
             QTest::addRow("CAT%03d, %s", rows[i].category, rows[i].name) << i;
+        }
     }
 
     void reports()
@@ -126,8 +128,9 @@ private Q_SLOTS:
             system->setIgnoreWgs84Coordinates(option == IgnoreWgs84);
             system->setIgnoreCartesianCoordinates(option == IgnoreCartesian);
         }
-        if (auto *sdps = rig.as<SdpsTracker>())
+        if (auto *sdps = rig.as<SdpsTracker>()) {
             sdps->setCorrectLongitudeWrap(option == CorrectLongitudeWrap);
+        }
         rig.send(48, "161/TRN=99 220=99"); // another category
         rig.send(category, reports);
         QCOMPARE(shown(rig, expected), QString(expected));
@@ -175,8 +178,9 @@ private Q_SLOTS:
             TrackerRig rig(AdsbSensor);
             rig.as<AdsbTracker>()->setNoUpdatedTargetDeletionTime(deletionTime);
             receive(rig, 0, modes::encodeIdentification(0x4b1a2c, 'A', 3, "VYX12"));
-            for (const double second : others)
+            for (const double second : others) {
                 receive(rig, second, modes::encodeVelocity(0x3c0001, 450, 270, 0));
+            }
             rig.manager->reset(); // what comes back is the library's
             receive(rig, others.last(), modes::encodeVelocity(0x4b1a2c, 450, 270, 0));
             QCOMPARE(shown(rig, "call"), known ? "call VYX12" : "call -------");
@@ -197,5 +201,5 @@ private:
     modes::ModeSDecoder m_decoder;
 };
 
-QTEST_GUILESS_MAIN(TestReportTrackers)
+VYX_TEST(TestReportTrackers)
 #include "tst_report_trackers.moc"

@@ -1,4 +1,5 @@
-#include "processors/alert.h"
+#include "test_program.h"
+#include "tracking/alert.h"
 #include "tracking/track.h"
 
 #include <QTest>
@@ -72,5 +73,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTrack)
+VYX_TEST(TestTrack)
 #include "tst_track.moc"

@@ -1,3 +1,4 @@
+#include "test_program.h"
 #include "tracking/track_manager.h"
 
 #include <QTest>
@@ -19,8 +20,9 @@ private Q_SLOTS:
         const auto second = m_manager->createTrack();
         m_manager->removeTrack(second);
         QCOMPARE(m_manager->createTrack()->trackNumber(), 3u); // the free 2 waits for its turn
-        for (unsigned int number = 4; number <= 4096; ++number)
+        for (unsigned int number = 4; number <= 4096; ++number) {
             m_manager->removeTrack(m_manager->createTrack());
+        }
         const auto wrapped = m_manager->createTrack(); // 1 is in use
         QCOMPARE(wrapped->trackNumber(), 2u);
         QVERIFY(wrapped->incarnationId() != second->incarnationId());
@@ -113,8 +115,9 @@ private Q_SLOTS:
         track->setGeoCoordinate({51.0, 8.0});
         track->setModeSCallsign(QString());
         QCOMPARE(snapshots.size(), 2); // terminated ones are shown as well
-        if (snapshots[0].trackNumber != 1)
+        if (snapshots[0].trackNumber != 1) {
             snapshots.swapItemsAt(0, 1);
+        }
         QVERIFY(snapshots[0].coasting);
         QCOMPARE(snapshots[0].level, 35000);
         QCOMPARE(snapshots[0].callsign, QStringLiteral("VYX1"));
@@ -133,8 +136,9 @@ private Q_SLOTS:
             source->recordHistory();
         }
         const QList<QPointF> newestFirst{{4, 4}, {3, 3}, {2, 2}, {1, 1}};
-        for (const int dots : {-1, 0, 2, 9})
+        for (const int dots : {-1, 0, 2, 9}) {
             QCOMPARE(m_manager->snapshotTracks(dots).first().trail, newestFirst.first(std::clamp(dots, 0, 4)));
+        }
     }
 
 private:
@@ -143,5 +147,5 @@ private:
     std::unique_ptr<TrackManager> m_manager;
 };
 
-QTEST_GUILESS_MAIN(TestTrackManager)
+VYX_TEST(TestTrackManager)
 #include "tst_track_manager.moc"

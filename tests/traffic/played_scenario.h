@@ -24,8 +24,9 @@ struct PlayedScenario {
     {
         ScenarioReader reader;
         std::optional<Scenario> scenario = reader.parse(json, QStringLiteral("test"));
-        if (!scenario)
+        if (!scenario) {
             qFatal("%s", qPrintable(reader.error()));
+        }
         return *scenario;
     }
 
@@ -35,8 +36,9 @@ struct PlayedScenario {
         TrafficSource source(scenario, seed);
         while (source.nextTime() < until) {
             const TrafficSource::Sending sending = source.next();
-            for (const QByteArray &datagram : *sending.datagrams)
+            for (const QByteArray &datagram : *sending.datagrams) {
                 take(datagram, sending.time);
+            }
         }
     }
 
@@ -51,8 +53,9 @@ private:
             const bool whole =
                 ast_datablock_smart_decode(&block, data + at, static_cast<std::size_t>(datagram.size()) - at);
             QVERIFY2(whole && block.valid, korvane::asterix::errorText(block.error));
-            for (const _ast_datarecord_t &record : block.records)
+            for (const _ast_datarecord_t &record : block.records) {
                 takeRecord(block.category, record, datagram, time);
+            }
         }
     }
 

@@ -57,8 +57,9 @@ inline ReportedTarget reportOf021(const _ast_datarecord_t &record)
 {
     ReportedTarget target;
     const auto position = ast_datarecord_get_wgs84coord(record);
-    if (position.present)
+    if (position.present) {
         target.position = QGeoCoordinate(position.latitude, position.longitude);
+    }
     const auto level = ast_datarecord_get_flightlevel(record);
     const auto speed = ast_datarecord_get_speed(record);
     const auto heading = ast_datarecord_get_heading(record);
@@ -71,8 +72,9 @@ inline ReportedTarget reportOf021(const _ast_datarecord_t &record)
     target.verticalRate = numberOf(rate, rate.rate);
     target.selectedAltitude = numberOf(selected, selected.altitude);
     target.address = ast_datarecord_get_icaoaddr(record).address;
-    if (squawk.present)
+    if (squawk.present) {
         target.squawk = squawk.code;
+    }
     target.callsign = ast_datarecord_get_callsign(record).text;
     return target;
 }
@@ -82,14 +84,17 @@ inline ReportedTarget reportOf020(const _ast_datarecord_t &generic, const QGeoCo
     _ast_datarecord_020_t record;
     ast_datarecord_020_disassemble(&record, generic);
     ReportedTarget target;
-    if (record.i042.present)
+    if (record.i042.present) {
         target.position = atPlane(site, record.i042.x, record.i042.y);
-    if (record.i041.present)
+    }
+    if (record.i041.present) {
         target.position = QGeoCoordinate(record.i041.latitude, record.i041.longitude);
+    }
     target.altitude = numberOf(record.i090, record.i090.flightLevel * 100);
     setVelocity(target, record.i202.vx, record.i202.vy);
-    if (record.i220.present)
+    if (record.i220.present) {
         target.address = record.i220.address;
+    }
     target.squawk = record.i070.code;
     target.callsign = record.i245.text;
     if (record.i250.present) {
@@ -107,19 +112,24 @@ inline ReportedTarget reportOf062(const _ast_datarecord_t &generic, const QGeoCo
     _ast_datarecord_062_t record;
     ast_datarecord_062_disassemble(&record, generic);
     ReportedTarget target;
-    if (record.i100.present)
+    if (record.i100.present) {
         target.position = atPlane(site, record.i100.x, record.i100.y);
-    if (record.i105.present)
+    }
+    if (record.i105.present) {
         target.position = QGeoCoordinate(record.i105.latitude, record.i105.longitude);
+    }
     target.altitude = numberOf(record.i136, record.i136.level * 25);
     setVelocity(target, record.i185.vx, record.i185.vy);
     target.verticalRate = numberOf(record.i220, record.i220.rate);
-    if (record.i380.addressPresent)
+    if (record.i380.addressPresent) {
         target.address = record.i380.address;
-    if (record.i380.selectedAltitudePresent)
+    }
+    if (record.i380.selectedAltitudePresent) {
         target.selectedAltitude = record.i380.selectedAltitude;
-    if (record.i060.present)
+    }
+    if (record.i060.present) {
         target.squawk = record.i060.code;
+    }
     target.callsign = record.i390.callsignPresent ? record.i390.callsign : "";
     target.trackNumber = record.i040.trackNumber;
     target.coasting = record.i080.cst;
@@ -145,18 +155,22 @@ inline ReportedTarget reportOfSirM(const AleniaSirMRadarTrackRecord &record, con
     target.trackNumber = record.trackNumber();
     target.coasting = record.coasting();
     target.last = record.trackEnd();
-    if (record.modeCHeightValid())
+    if (record.modeCHeightValid()) {
         target.altitude = record.modeCHeightImperial();
+    }
     const double slant = std::hypot(record.x(), record.y()) * 1000;
     const double height = target.altitude.value_or(0) * Earth::MetresPerFoot;
     const double ground = std::sqrt(std::max(slant * slant - height * height, 0.0));
     target.position = atPolar(site, ground, std::atan2(record.x(), record.y()) / Earth::radians(1));
-    if (record.velocityValid())
+    if (record.velocityValid()) {
         setVelocity(target, record.vx(), record.vy());
-    if (record.modeACodeValid())
+    }
+    if (record.modeACodeValid()) {
         target.squawk = record.modeACode();
-    if (record.rateOfClimbDescentValid())
+    }
+    if (record.rateOfClimbDescentValid()) {
         target.verticalRate = record.rateOfClimbDescent() * 60 / Earth::MetresPerFoot;
+    }
     return target;
 }
 
@@ -169,8 +183,9 @@ inline void eachRecord(const QByteArray &datagram, const std::function<void(int,
         const bool whole =
             ast_datablock_smart_decode(&block, data + at, static_cast<std::size_t>(datagram.size()) - at);
         QVERIFY2(whole && block.valid, korvane::asterix::errorText(block.error));
-        for (const _ast_datarecord_t &record : block.records)
+        for (const _ast_datarecord_t &record : block.records) {
             take(static_cast<int>(block.category), record);
+        }
     }
 }
 
@@ -181,21 +196,23 @@ inline void eachTarget(const QByteArray &datagram, const QGeoCoordinate &site, b
         const auto decoded = AleniaSirMRadarDecoder::decode(octets, static_cast<std::size_t>(datagram.size()));
         QVERIFY2(decoded.valid(), AleniaSirMRadarDecoder::errorText(decoded.error));
         if (const auto *data = dynamic_cast<const AleniaSirMRadarDataMessage *>(decoded.message.get())) {
-            for (const AleniaSirMRadarTrackRecord &record : data->trackRecords())
+            for (const AleniaSirMRadarTrackRecord &record : data->trackRecords()) {
                 take(reportOfSirM(record, site));
+            }
         }
         return;
     }
     eachRecord(datagram, [&](int category, const _ast_datarecord_t &record) {
         _ast_datarecord_010_t surface;
         ast_datarecord_010_disassemble(&surface, record);
-        if (category == 21)
+        if (category == 21) {
             take(reportOf021(record));
-        else if (category == 20)
+        } else if (category == 20) {
             take(reportOf020(record, site));
-        else if (category == 62)
+        } else if (category == 62) {
             take(reportOf062(record, site));
-        else if (surface.i000.type == 1)
+        } else if (surface.i000.type == 1) {
             take(reportOf010(surface, site));
+        }
     });
 }

@@ -3,6 +3,7 @@
 #include "traffic/mode_s_registers.h"
 
 #include "asterix/asterix.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -106,8 +107,9 @@ private Q_SLOTS:
             for (int second = 0; second < 640; ++second) {
                 aircraft.advance(1);
                 const Aircraft::State &state = aircraft.state();
-                if (std::abs(state.turnRate) > 2.9)
+                if (std::abs(state.turnRate) > 2.9) {
                     turned += state.turnRate;
+                }
                 farthest =
                     std::max(farthest, Earth::distance(fix.latitude, fix.longitude, state.latitude, state.longitude));
             }
@@ -156,5 +158,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestAircraft)
+VYX_TEST(TestAircraft)
 #include "tst_aircraft.moc"

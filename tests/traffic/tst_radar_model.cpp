@@ -1,5 +1,6 @@
 #include "played_scenario.h"
 
+#include "test_program.h"
 #include "traffic/earth.h"
 
 #include <cmath>
@@ -51,10 +52,11 @@ private Q_SLOTS:
             std::set<double> azimuths;
             for (const _ast_datarecord_034_t &service : played.services) {
                 QVERIFY(service.i010.sac == 25 && service.i041.period == period);
-                if (service.i000.type == 1)
+                if (service.i000.type == 1) {
                     ++north;
-                else
+                } else {
                     azimuths.insert(service.i020.azimuth);
+                }
             }
             QCOMPARE(north, 1);
             QCOMPARE(azimuths.size(), static_cast<std::size_t>(sectors));
@@ -146,12 +148,14 @@ private Q_SLOTS:
         QFETCH(double, miles);
         QFETCH(int, type);
         QString target = ::flight(45, miles, 10000, flight);
-        if (target.contains("none"))
+        if (target.contains("none")) {
             target.remove(R"("squawk": "1234",)");
+        }
         const PlayedScenario played(scenario(target, radar), 4);
         QCOMPARE(played.targets.empty(), type < 0);
-        if (type < 0)
+        if (type < 0) {
             return;
+        }
         const _ast_datarecord_048_t &record = played.targets.front().record;
         QCOMPARE(int(record.i020.typ), type);
         const bool isModeS = type >= 4;
@@ -199,8 +203,9 @@ private Q_SLOTS:
             for (const PlayedScenario::Target &target : played.targets) {
                 ends += target.record.i170.tre ? 1 : 0;
                 QCOMPARE(target.record.i040.present, target.record.i020.typ != 0);
-                if (!target.record.i040.present)
+                if (!target.record.i040.present) {
                     continue;
+                }
                 longest = std::max(longest, target.sentAt - last);
                 last = target.sentAt;
             }
@@ -226,13 +231,14 @@ private Q_SLOTS:
     void spreadsACrowdOverDatagrams()
     {
         QStringList flights;
-        for (int i = 0; i < 100; ++i)
+        for (int i = 0; i < 100; ++i) {
             flights.append(flight(90.2 + i * 0.1, 30 + i, 30000));
+        }
         const PlayedScenario played(scenario(flights.join(QLatin1Char(','))), 4);
         QCOMPARE(played.targets.size(), std::size_t(100));
         QVERIFY(played.largest > 1300 && played.largest <= 1400);
     }
 };
 
-QTEST_GUILESS_MAIN(TestRadarModel)
+VYX_TEST(TestRadarModel)
 #include "tst_radar_model.moc"

@@ -1,5 +1,6 @@
 #include "played_scenario.h"
 
+#include "test_program.h"
 #include "traffic/conflict.h"
 #include "traffic/earth.h"
 
@@ -48,8 +49,9 @@ bool losesSeparation(const Aircraft &one, const Aircraft &other, const Separatio
     for (double seconds = 0; seconds <= lookAhead; seconds += 0.5) {
         const Prediction a = predict(one, seconds);
         const Prediction b = predict(other, seconds);
-        if (std::abs(a.altitude - b.altitude) < minimum.vertical && distance(a, b) < minimum.horizontal)
+        if (std::abs(a.altitude - b.altitude) < minimum.vertical && distance(a, b) < minimum.horizontal) {
             return true;
+        }
     }
     return false;
 }
@@ -58,8 +60,9 @@ bool entersAny(const Aircraft &aircraft, const std::vector<ScenarioArea> &areas,
 {
     return std::any_of(areas.begin(), areas.end(), [&](const ScenarioArea &area) {
         for (double seconds = 0; seconds <= lookAhead; seconds += 0.5) {
-            if (isInside(area, predict(aircraft, seconds)))
+            if (isInside(area, predict(aircraft, seconds))) {
                 return true;
+            }
         }
         return false;
     });
@@ -92,8 +95,9 @@ private:
     void take(const _ast_datarecord_004_t &record)
     {
         if (record.i000.type == 1) {
-            for (int i = 0; i < record.i060.count; ++i)
+            for (int i = 0; i < record.i060.count; ++i) {
                 QCOMPARE(record.i060.entries[i].on, std::set<int>({4, 5, 7}).contains(record.i060.entries[i].type));
+            }
             ++alive;
         } else if (record.i000.type == 17) {
             ended.push_back(record.i040.id);
@@ -155,8 +159,9 @@ private Q_SLOTS:
         for (const auto &[a, b] : {std::pair(one, other), std::pair(other, one)}) {
             const std::optional<Conflict> conflict = predictConflict(a, b, Minimum, LookAhead);
             QCOMPARE(conflict.has_value(), start >= 0);
-            if (!conflict)
+            if (!conflict) {
                 continue;
+            }
             QVERIFY2(std::abs(conflict->start - start) < 0.6, qPrintable(QString::number(conflict->start)));
             const double closest = distance(predict(a, conflict->closestAt), predict(b, conflict->closestAt));
             QVERIFY(std::abs(conflict->closest.horizontal - closest) < 60);
@@ -172,8 +177,9 @@ private Q_SLOTS:
             {{40.9, 116.8, 3000}, true}, {{40.1, 116.8, 3000}, true}, {{41.1, 116.2, 3000}, false},
             {{40.5, 115.9, 3000}, false}, {{40.5, 116.2, 999}, false}, {{40.5, 116.2, 1000}, true},
             {{40.5, 116.2, 5000}, false}};
-        for (const auto &[place, inside] : places)
+        for (const auto &[place, inside] : places) {
             QVERIFY2(isInside(area, place) == inside, qPrintable(QString::number(place.longitude)));
+        }
     }
 
     void raisesAlertsExactlyWhileTheyAreDue()
@@ -186,19 +192,23 @@ private Q_SLOTS:
         std::map<int, int> count;
         while (source.nextTime() < 400) {
             const TrafficSource::Sending sending = source.next();
-            if (sending.station != 1)
+            if (sending.station != 1) {
                 continue;
+            }
             const Messages messages(*sending.datagrams);
             QCOMPARE(messages.alive, std::fmod(sending.time, net.aliveInterval) == 0 ? 1 : 0);
-            for (const unsigned id : messages.ended)
+            for (const unsigned id : messages.ended) {
                 QVERIFY(active.erase(id) == 1 && finished.insert(id).second);
-            for (const auto &[id, numbers] : messages.ids)
+            }
+            for (const auto &[id, numbers] : messages.ids) {
                 QVERIFY(!finished.contains(id));
+            }
             QVERIFY(std::all_of(
                 active.begin(), active.end(), [&](const auto &each) { return messages.ids.contains(each.first); }));
             active = messages.ids;
-            for (const auto &[type, raised] : messages.raised)
+            for (const auto &[type, raised] : messages.raised) {
                 count[type] += static_cast<int>(raised.size());
+            }
             compareWithTruth(source, net, messages);
         }
         QVERIFY(count[4] > 10 && count[5] > 20 && count[7] > 40 && finished.size() >= 5);
@@ -213,8 +223,9 @@ private:
         const Separation more{minimum.horizontal + 60, minimum.vertical};
         for (const AirTarget &one : source.traffic().targets()) {
             const unsigned number = source.station(0).trackNumber(one.id);
-            if (number == 0)
+            if (number == 0) {
                 continue;
+            }
             for (const auto &[type, areas] : {std::pair(4, net.minimumAltitudes), std::pair(5, net.restrictedAreas)}) {
                 const bool raised = messages.raised[type].contains({number, 0});
                 QVERIFY(raised || !entersAny(one.aircraft, areas, 0));
@@ -222,8 +233,9 @@ private:
             }
             for (const AirTarget &other : source.traffic().targets()) {
                 const unsigned otherNumber = source.station(0).trackNumber(other.id);
-                if (other.id <= one.id || otherNumber == 0)
+                if (other.id <= one.id || otherNumber == 0) {
                     continue;
+                }
                 const bool raised = messages.raised[7].contains({number, otherNumber});
                 QVERIFY(raised || !losesSeparation(one.aircraft, other.aircraft, less, net.lookAhead - 1));
                 QVERIFY(!raised || losesSeparation(one.aircraft, other.aircraft, more, net.lookAhead + 1));
@@ -232,5 +244,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSafetyNet)
+VYX_TEST(TestSafetyNet)
 #include "tst_safety_net.moc"

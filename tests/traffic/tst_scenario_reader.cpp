@@ -3,6 +3,7 @@
 #include "traffic/sensor_json.h"
 
 #include "geo/geo_coordinate.h"
+#include "test_program.h"
 
 #include <QTest>
 
@@ -90,5 +91,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestScenarioReader)
+VYX_TEST(TestScenarioReader)
 #include "tst_scenario_reader.moc"

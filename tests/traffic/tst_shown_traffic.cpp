@@ -2,7 +2,8 @@
 #include "played_scenario.h"
 #include "traffic/sensor_json.h"
 
-#include "tracking/sensor_info.h"
+#include "sensors/sensor_info.h"
+#include "test_program.h"
 
 #include <QHash>
 #include <QUdpSocket>
@@ -35,8 +36,9 @@ const AirTarget *nearest(const AirTraffic &traffic, const GeoCoordinate &place, 
 {
     const AirTarget *found = nullptr;
     for (const AirTarget &target : traffic.targets()) {
-        if (!found || placeOf(target, slant).distanceTo(place) < placeOf(*found, slant).distanceTo(place))
+        if (!found || placeOf(target, slant).distanceTo(place) < placeOf(*found, slant).distanceTo(place)) {
             found = &target;
+        }
     }
     return found;
 }
@@ -65,9 +67,10 @@ private Q_SLOTS:
         row("radar", "radars", "", 45, 0.3, addressed);
         row("radar, CAT001", "radars", R"(, "category": "001")", 45, 0.3, anonymous);
         row("Alenia SIR-M", "radars", R"(, "category": "sirm")", 75, 0.3, anonymous);
-        for (const char *edition : {"0.23", "0.26", "2.1", "2.7"})
+        for (const char *edition : {"0.23", "0.26", "2.1", "2.7"}) {
             row(qPrintable(QStringLiteral("ADS-B ") + edition), "adsb",
                 qPrintable(QStringLiteral(R"(, "edition": "%1")").arg(edition)), 2, 0.2, addressed);
+        }
         row("ADS-B, Mode S", "modesReceivers", "", 150, 1, addressed);
         row("multilateration", "mlat", "", 2, 0.5, addressed);
         row("system tracks", "sdps", "", 2, 0.5, addressed);
@@ -108,8 +111,9 @@ private Q_SLOTS:
             shown.clear();
             for (const TrackSnapshot &track : rig.tracks()) {
                 shown += track.icaoAddrString + ' ' + track.callsign;
-                if (!track.carCoordinateValid || places.value(track.incarnationId) == track.carCoordinate)
+                if (!track.carCoordinateValid || places.value(track.incarnationId) == track.carCoordinate) {
                     continue;
+                }
                 places[track.incarnationId] = track.carCoordinate;
                 const AirTarget &target = *nearest(source.traffic(), track.geoCoordinate, slant);
                 const double away = placeOf(target, slant).distanceTo(track.geoCoordinate);
@@ -127,17 +131,21 @@ private:
     static void compare(const TrackSnapshot &track, const AirTarget &target, double knots)
     {
         const Aircraft::State &state = target.aircraft.state();
-        if (track.groundSpeedValid)
+        if (track.groundSpeedValid) {
             QVERIFY2(
                 std::abs(track.groundSpeed - state.speed) <= knots, qPrintable(QString::number(track.groundSpeed)));
-        if (track.levelValid)
+        }
+        if (track.levelValid) {
             QVERIFY2(std::abs(track.level - state.altitude) <= 60, qPrintable(QString::number(track.level)));
-        if (track.modeACodeValid)
+        }
+        if (track.modeACodeValid) {
             QCOMPARE(track.modeACode, unsigned(target.squawkAt(0)));
-        if (track.icaoAddrValid)
+        }
+        if (track.icaoAddrValid) {
             QCOMPARE(track.icaoAddr, target.flight->address);
+        }
     }
 };
 
-QTEST_GUILESS_MAIN(TestShownTraffic)
+VYX_TEST(TestShownTraffic)
 #include "tst_shown_traffic.moc"

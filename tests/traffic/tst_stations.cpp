@@ -3,6 +3,7 @@
 
 #include "modes/adsb_tracker.h"
 #include "modes/mode_s_decoder.h"
+#include "test_program.h"
 
 #include <map>
 #include <set>
@@ -66,24 +67,33 @@ QString faultOf(const ReportedTarget &report, const AirTarget &target, double ti
 {
     const Aircraft::State &state = target.aircraft.state();
     const bool hasCode = target.flight->transponder != ScenarioFlight::Transponder::None;
-    if (positionOf(target).distanceTo(*report.position) > within.position)
+    if (positionOf(target).distanceTo(*report.position) > within.position) {
         return QStringLiteral("%1 m away").arg(positionOf(target).distanceTo(*report.position));
-    if (!isNear(report.altitude, state.altitude, 50.1))
+    }
+    if (!isNear(report.altitude, state.altitude, 50.1)) {
         return QStringLiteral("altitude %1").arg(*report.altitude - state.altitude);
-    if (!isNear(report.speed, state.speed, within.speed))
+    }
+    if (!isNear(report.speed, state.speed, within.speed)) {
         return QStringLiteral("speed %1").arg(*report.speed - state.speed);
-    if (report.track && std::abs(Earth::turnBetween(*report.track, state.track)) > within.track)
+    }
+    if (report.track && std::abs(Earth::turnBetween(*report.track, state.track)) > within.track) {
         return QStringLiteral("track %1").arg(*report.track);
-    if (!isNear(report.verticalRate, state.verticalRate, within.verticalRate))
+    }
+    if (!isNear(report.verticalRate, state.verticalRate, within.verticalRate)) {
         return QStringLiteral("rate %1").arg(*report.verticalRate);
-    if (!isNear(report.selectedAltitude, target.aircraft.selectedAltitude(), within.selectedAltitude))
+    }
+    if (!isNear(report.selectedAltitude, target.aircraft.selectedAltitude(), within.selectedAltitude)) {
         return QStringLiteral("selected altitude %1").arg(*report.selectedAltitude);
-    if (report.squawk && (!hasCode || *report.squawk != target.squawkAt(time)))
+    }
+    if (report.squawk && (!hasCode || *report.squawk != target.squawkAt(time))) {
         return QStringLiteral("squawk %1").arg(*report.squawk, 0, 8);
-    if (report.address && *report.address != target.flight->address)
+    }
+    if (report.address && *report.address != target.flight->address) {
         return QStringLiteral("address %1").arg(*report.address, 0, 16);
-    if (!report.callsign.isEmpty() && report.callsign != target.flight->callsign.toLatin1())
+    }
+    if (!report.callsign.isEmpty() && report.callsign != target.flight->callsign.toLatin1()) {
         return QStringLiteral("callsign %1").arg(QString::fromLatin1(report.callsign));
+    }
     return {};
 }
 
@@ -145,8 +155,9 @@ private Q_SLOTS:
         QStringList ids;
         for (const auto &[id, reports] : times) {
             ids.append(QString::number(id));
-            for (std::size_t i = 1; i < reports.size() && id != 2; ++i) // the second is not seen for a while
+            for (std::size_t i = 1; i < reports.size() && id != 2; ++i) { // the second is not seen for a while
                 QVERIFY(std::abs(reports[i] - reports[i - 1] - interval) < 0.3);
+            }
         }
         QCOMPARE(ids.join(' '), seen);
     }
@@ -203,8 +214,9 @@ private Q_SLOTS:
                     const auto message = decoder.decode(ModeSMessage::ModeSMsgType(0), frame);
                     ++formats[frame->frame().octets[0] >> 3];
                     const auto target = tracker.procModeSMsg(*message);
-                    if (!target || !target->positionValid() || target->positionTime() != frame->timeStamp())
+                    if (!target || !target->positionValid() || target->positionTime() != frame->timeStamp()) {
                         continue;
+                    }
                     const QGeoCoordinate position(target->latitude(), target->longitude());
                     const AirTarget &truth = nearest(source.traffic(), position);
                     QVERIFY(positionOf(truth).distanceTo(position) < 6);
@@ -215,8 +227,9 @@ private Q_SLOTS:
             }
         }
         QVERIFY2(positions > 3 * 35, qPrintable(QString::number(positions)));
-        for (const int expected : {4, 5, 11, 17, 20, 21})
+        for (const int expected : {4, 5, 11, 17, 20, 21}) {
             QVERIFY2(formats[expected] >= 10, qPrintable(QString::number(expected)));
+        }
         QCOMPARE(formats.size(), std::size_t(6));
         for (const auto &[key, target] : tracker.targets()) {
             const AirTarget &truth = nearest(source.traffic(), {target->latitude(), target->longitude()});
@@ -231,5 +244,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestStations)
+VYX_TEST(TestStations)
 #include "tst_stations.moc"

@@ -1,5 +1,6 @@
 #include "played_scenario.h"
 
+#include "test_program.h"
 #include "traffic/command_line.h"
 #include "traffic/earth.h"
 #include "traffic/load_generator.h"
@@ -49,8 +50,9 @@ bool run(const QString &arguments, QString &text)
 QByteArray receivedBy(QUdpSocket &socket)
 {
     QByteArray received;
-    while (socket.hasPendingDatagrams() || socket.waitForReadyRead(50))
+    while (socket.hasPendingDatagrams() || socket.waitForReadyRead(50)) {
         received += socket.receiveDatagram().data();
+    }
     return received;
 }
 
@@ -80,8 +82,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         const QStringList names = ScenarioReader::builtInNames();
-        for (const QString &name : names)
+        for (const QString &name : names) {
             QTest::newRow(qPrintable(name)) << name;
+        }
     }
 
     void everyScenarioPlaysTheSameAgain()
@@ -96,8 +99,9 @@ private Q_SLOTS:
             TrafficSource source(*scenario, seed);
             while (source.nextTime() < 6) {
                 const TrafficSource::Sending sending = source.next();
-                for (const QByteArray &datagram : *sending.datagrams)
+                for (const QByteArray &datagram : *sending.datagrams) {
                     octets.addData(datagram);
+                }
             }
             return octets.result();
         };
@@ -243,5 +247,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTrafficRun)
+VYX_TEST(TestTrafficRun)
 #include "tst_traffic_run.moc"

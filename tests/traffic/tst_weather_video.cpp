@@ -1,5 +1,6 @@
 #include "played_scenario.h"
 
+#include "test_program.h"
 #include "traffic/earth.h"
 #include "traffic/weather_station.h"
 
@@ -24,16 +25,18 @@ void play(TrafficSource &source, double until, Take take)
 {
     while (source.nextTime() < until) {
         const TrafficSource::Sending sending = source.next();
-        if (sending.station != 1)
+        if (sending.station != 1) {
             continue;
+        }
         for (const QByteArray &datagram : *sending.datagrams) {
             const auto *data = reinterpret_cast<const unsigned char *>(datagram.constData());
             _ast_datablock_t block;
             for (std::size_t at = 0; at < static_cast<std::size_t>(datagram.size()); at += block.size) {
                 const auto left = static_cast<std::size_t>(datagram.size()) - at;
                 QVERIFY(ast_datablock_smart_decode(&block, data + at, left) && block.valid);
-                for (const _ast_datarecord_t &record : block.records)
+                for (const _ast_datarecord_t &record : block.records) {
                     take(record);
+                }
             }
         }
     }
@@ -59,8 +62,9 @@ struct Picture {
         for (int i = 0; i < record.i034.count; ++i) {
             const _ast_weather_polar_vector_t &vector = record.i034.vectors[i];
             auto &row = levels[static_cast<std::size_t>(std::lround(vector.azimuth)) % Azimuths];
-            for (int cell = vector.startRange; cell < vector.endRange; ++cell)
+            for (int cell = vector.startRange; cell < vector.endRange; ++cell) {
                 row[static_cast<std::size_t>(cell)] = record.i020.intensity;
+            }
             ++count;
         }
         announced = record.i120.present ? record.i120.count : 0;
@@ -130,8 +134,9 @@ private Q_SLOTS:
         Picture picture;
         int pictures = 0;
         play(source, 81, [&](const _ast_datarecord_t &record) {
-            if (!picture.take(record))
+            if (!picture.take(record)) {
                 return;
+            }
             ++pictures;
             QCOMPARE(picture.step, step);
             QVERIFY(picture.count > 200);
@@ -156,8 +161,9 @@ private Q_SLOTS:
         Picture picture;
         std::vector<std::pair<double, double>> middles;
         play(source, 301, [&](const _ast_datarecord_t &record) {
-            if (picture.take(record))
+            if (picture.take(record)) {
                 middles.push_back(picture.middle());
+            }
         });
         QCOMPARE(middles.size(), std::size_t(6));
         for (std::size_t i = 1; i < middles.size(); ++i) {
@@ -229,5 +235,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestWeatherVideo)
+VYX_TEST(TestWeatherVideo)
 #include "tst_weather_video.moc"

@@ -1,3 +1,4 @@
+#include "test_program.h"
 #include "ui/alert_list_model.h"
 #include "ui/list_sort_model.h"
 
@@ -61,5 +62,5 @@ void TestAlertListModel::showsAlerts()
     QCOMPARE(sorted.index(0, AlertListModel::Start).data().toString(), "00:00:10");
 }
 
-QTEST_MAIN(TestAlertListModel)
+VYX_TEST(TestAlertListModel)
 #include "tst_alert_list_model.moc"

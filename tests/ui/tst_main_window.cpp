@@ -2,8 +2,9 @@
 
 #include "app/ui_state.h"
 #include "display/geo_track_display.h"
-#include "display/geo_widget.h"
 #include "modes/log.h"
+#include "plan_view/geo_widget.h"
+#include "test_program.h"
 #include "ui/actions.h"
 #include "ui/alert_list_model.h"
 #include "ui/library_log.h"
@@ -336,5 +337,5 @@ void TestMainWindow::libraryLinesReachTheLog()
     QCoreApplication::processEvents();
 }
 
-QTEST_MAIN(TestMainWindow)
+VYX_TEST(TestMainWindow)
 #include "tst_main_window.moc"

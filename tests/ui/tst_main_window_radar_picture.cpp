@@ -1,7 +1,8 @@
 #include "display/geo_map_display.h"
 #include "display/geo_video_map.h"
 #include "display/geo_weather_map.h"
-#include "display/geo_widget.h"
+#include "plan_view/geo_widget.h"
+#include "test_program.h"
 #include "ui/weather_intensity_window.h"
 #include "window_fixture.h"
 
@@ -102,5 +103,5 @@ void TestMainWindowRadarPicture::videoOfStrangersIsReported()
     QVERIFY(WindowFixture::close(*window));
 }
 
-QTEST_MAIN(TestMainWindowRadarPicture)
+VYX_TEST(TestMainWindowRadarPicture)
 #include "tst_main_window_radar_picture.moc"

@@ -1,5 +1,6 @@
 #include "astfile/pcap_writer.h"
 #include "engine/data_engine.h"
+#include "test_program.h"
 #include "ui/replay_window.h"
 #include "window_fixture.h"
 
@@ -130,8 +131,9 @@ private:
     QAction *action(const QString &beginning) const
     {
         for (QAction *one : m_window->actions()) {
-            if (one->text().startsWith(beginning))
+            if (one->text().startsWith(beginning)) {
                 return one;
+            }
         }
         return nullptr;
     }
@@ -181,5 +183,5 @@ private:
     std::unique_ptr<MainWindow> m_window;
 };
 
-QTEST_MAIN(TestMainWindowReplay)
+VYX_TEST(TestMainWindowReplay)
 #include "tst_main_window_replay.moc"

@@ -2,6 +2,7 @@
 
 #include "app/ui_state.h"
 #include "engine/data_engine.h"
+#include "test_program.h"
 #include "ui/log_pane.h"
 
 #include <QSignalSpy>
@@ -89,5 +90,5 @@ void TestMainWindowShutdown::aFailedOpeningEndsTheWait()
     QVERIFY(!window->findChild<LogPane *>()->toPlainText().contains("did not confirm"));
 }
 
-QTEST_MAIN(TestMainWindowShutdown)
+VYX_TEST(TestMainWindowShutdown)
 #include "tst_main_window_shutdown.moc"

@@ -1,16 +1,17 @@
 #include "window_fixture.h"
 
-#include "display/geo_widget.h"
+#include "map_editor/map_editor_window.h"
+#include "map_windows/layout_save_window.h"
+#include "map_windows/static_maps_window.h"
 #include "maps/map_library.h"
-#include "tracking/radar_sensor_info.h"
+#include "plan_view/geo_widget.h"
+#include "sensors/radar_sensor_info.h"
+#include "settings/config_window.h"
+#include "settings/sensor_manager_window.h"
+#include "test_program.h"
 #include "ui/actions.h"
-#include "ui/config_window.h"
-#include "ui/file_edit.h"
-#include "ui/layout_save_window.h"
 #include "ui/log_pane.h"
-#include "ui/map_editor_window.h"
-#include "ui/sensor_manager_window.h"
-#include "ui/static_maps_window.h"
+#include "widgets/file_edit.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -219,5 +220,5 @@ void TestMapLayouts::otherFilesAreTaken()
     QVERIFY(WindowFixture::close(*window));
 }
 
-QTEST_MAIN(TestMapLayouts)
+VYX_TEST(TestMapLayouts)
 #include "tst_map_layouts.moc"

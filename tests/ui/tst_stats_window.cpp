@@ -1,3 +1,4 @@
+#include "test_program.h"
 #include "ui/stats_window.h"
 
 #include <QClipboard>
@@ -31,8 +32,9 @@ private Q_SLOTS:
         window.setDropStats({1, 2, 3, 4, 500, 600});
         const QList<std::pair<const char *, QString>> drops{{"droppedSnapshots", "1"}, {"droppedVideo", "2"},
             {"droppedWeather", "3"}, {"emptyWeather", "4"}, {"weatherDelay", "500 ms"}, {"videoDelay", "600 ms"}};
-        for (const auto &[name, text] : drops)
+        for (const auto &[name, text] : drops) {
             QCOMPARE(shown(name), text);
+        }
         QCOMPARE(shown("frames"), QString("-"));
 
         window.findChild<QPushButton *>("copy")->click();
@@ -44,5 +46,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestStatsWindow)
+VYX_TEST(TestStatsWindow)
 #include "tst_stats_window.moc"

@@ -1,4 +1,5 @@
 #include "airdb/lib_air_db.h"
+#include "test_program.h"
 #include "tracking/track.h"
 #include "ui/list_sort_model.h"
 #include "ui/list_view.h"
@@ -166,5 +167,5 @@ void TestTrackListModel::selectionStaysWithItsTrack()
     QCOMPARE(view.selectedRow(), -1);
 }
 
-QTEST_MAIN(TestTrackListModel)
+VYX_TEST(TestTrackListModel)
 #include "tst_track_list_model.moc"

@@ -1,4 +1,5 @@
 #include "app/ui_state.h"
+#include "test_program.h"
 #include "ui/range_ring_window.h"
 #include "ui/rotation_window.h"
 #include "ui/set_center_window.h"
@@ -63,8 +64,9 @@ void TestViewWindows::goesToWhatIsTyped()
         QCOMPARE(entered.size(), center.isEmpty() ? 0 : 1);
         QCOMPARE(window.isVisible(), center.isEmpty());
         QCOMPARE(refuses(window), center.isEmpty());
-        if (!center.isEmpty())
+        if (!center.isEmpty()) {
             QCOMPARE(entered.first().first().value<GeoCoordinate>(), GeoCoordinate::fromATCString(center));
+        }
     }
 }
 
@@ -117,5 +119,5 @@ void TestViewWindows::comesBackAsLargeAsItWas()
     QVERIFY2(other.size() != chosen, "each window keeps its own geometry");
 }
 
-QTEST_MAIN(TestViewWindows)
+VYX_TEST(TestViewWindows)
 #include "tst_view_windows.moc"

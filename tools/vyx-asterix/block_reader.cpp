@@ -36,15 +36,17 @@ void BlockReader::read(const InputMessage &message)
             return; // without its length field there is no way to the next block
         }
         ++m_number;
-        if (m_block.error == Error::UnknownCategory)
+        if (m_block.error == Error::UnknownCategory) {
             ++m_unknown[m_block.category];
-        else
+        } else {
             m_onBlock({m_block, message, offset, m_number});
+        }
         const bool isMalformed = !m_block.valid && m_block.error != Error::UnknownCategory;
         if (isMalformed) {
             fault(message, offset);
-            if (isDatagram)
+            if (isDatagram) {
                 return;
+            }
         }
         offset += m_block.size;
     }
@@ -54,10 +56,12 @@ void BlockReader::read(const InputMessage &message)
 // is not taken for those.
 bool BlockReader::isTrailer(const InputMessage &message, std::size_t offset) const
 {
-    if (offset == 0)
+    if (offset == 0) {
         return false;
-    if (m_block.error != Error::BlockTruncated)
+    }
+    if (m_block.error != Error::BlockTruncated) {
         return true;
+    }
     const unsigned char empty[] = {message.data[offset], 0, 3};
     _ast_datablock_t probe;
     return !ast_datablock_decode(&probe, empty, sizeof empty, m_uap) || probe.error == Error::UnknownCategory;
@@ -67,8 +71,9 @@ void BlockReader::fault(const InputMessage &message, std::size_t offset)
 {
     ++m_faults;
     std::string place = m_fileName + ": ";
-    if (message.number > 0)
+    if (message.number > 0) {
         place += "datagram " + std::to_string(message.number) + ", ";
+    }
     m_onFault(place + "octet " + std::to_string(offset + m_block.errorOffset) + ": " + categoryName(m_block.category)
         + ": " + errorText(m_block.error));
 }
@@ -79,6 +84,7 @@ void BlockReader::reportPassedOver()
         m_onFault(m_fileName + ": " + std::to_string(count) + " of " + categoryName(category)
             + " passed over: " + errorText(Error::UnknownCategory));
     }
-    if (m_trailers > 0)
+    if (m_trailers > 0) {
         m_onFault(m_fileName + ": " + std::to_string(m_trailers) + " datagrams end in octets that are no data block");
+    }
 }

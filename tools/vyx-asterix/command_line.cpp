@@ -57,8 +57,9 @@ bool parseArgument(const std::vector<std::string> &arguments, std::size_t &index
         error = argument + " needs a value";
         return false;
     }
-    if (argument == "--uap")
+    if (argument == "--uap") {
         return parseEdition(arguments[++index], out, error);
+    }
     if (argument == "-o" && out.verb == CommandLine::Verb::Encode) {
         out.outputName = arguments[++index];
     } else if (argument == "--expand" && out.verb == CommandLine::Verb::Decode) {
@@ -90,8 +91,9 @@ bool CommandLine::parse(const std::vector<std::string> &arguments, CommandLine &
         return true;
     }
     for (std::size_t i = 1; i < arguments.size(); ++i) {
-        if (!parseArgument(arguments, i, out, error))
+        if (!parseArgument(arguments, i, out, error)) {
             return false;
+        }
     }
     if (out.fileName.empty() && !isInformation(out.verb)) {
         error = arguments.front() + " needs a file";

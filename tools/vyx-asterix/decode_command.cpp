@@ -29,8 +29,9 @@ public:
         for (const _ast_datarecord_t &record : block.decoded.records) {
             place.offset = static_cast<std::uint64_t>(record.data - block.message.data);
             appendRecordJson(m_text, record, place, m_expansion);
-            if (m_text.size() >= FlushSize)
+            if (m_text.size() >= FlushSize) {
                 flush();
+            }
         }
     }
 
@@ -52,8 +53,9 @@ private:
 int runDecode(const CommandLine &command, const TextSink &out, const LineSink &err)
 {
     korvane::asterix::Profile profile;
-    for (const auto &[category, edition] : command.editions)
+    for (const auto &[category, edition] : command.editions) {
         profile.select(category, edition);
+    }
     RecordPrinter printer(out, command.isExpanding ? Expansion::AsObject : Expansion::AsHexText);
     BlockReader reader(
         command.fileName, profile.uap(), [&](const BlockReader::Block &block) { printer.print(block); }, err);
@@ -64,8 +66,9 @@ int runDecode(const CommandLine &command, const TextSink &out, const LineSink &e
     };
     const bool isRead = readInputFile(command.fileName, read, error);
     printer.flush();
-    if (!isRead)
+    if (!isRead) {
         err(error);
+    }
     reader.reportPassedOver();
     return isRead && printer.isOpen() && reader.faults() == 0 ? 0 : 1;
 }

@@ -20,8 +20,9 @@ bool readToEnd(int descriptor, std::string &contents)
     for (;;) {
         contents.resize(std::max<std::size_t>(size * 2, 1U << 20));
         const ssize_t got = ::read(descriptor, contents.data() + size, contents.size() - size);
-        if (got < 0 && errno == EINTR)
+        if (got < 0 && errno == EINTR) {
             continue;
+        }
         if (got <= 0) {
             contents.resize(size);
             return got == 0;
@@ -35,8 +36,9 @@ RecFile::Format captureFormat(const std::string &contents)
 {
     constexpr const char *magics[] = {"\xA1\xB2\xC3\xD4", "\xD4\xC3\xB2\xA1", "\xA1\xB2\x3C\x4D", "\x4D\x3C\xB2\xA1"};
     for (const char *magic : magics) {
-        if (contents.compare(0, 4, magic) == 0)
+        if (contents.compare(0, 4, magic) == 0) {
             return RecFile::Pcap;
+        }
     }
     return contents.compare(0, 4, "\x0A\x0D\x0D\x0A") == 0 ? RecFile::PcapNg : RecFile::Unknown;
 }
@@ -45,8 +47,9 @@ RecFile::Format captureFormat(const std::string &contents)
 RecFile::Format recordingFormat(const std::string &fileName, const std::string &contents)
 {
     const RecFile::Format byContents = captureFormat(contents);
-    if (byContents != RecFile::Unknown)
+    if (byContents != RecFile::Unknown) {
         return byContents;
+    }
     const RecFile::Format byName = RecFile::formatFromFileName(QString::fromStdString(fileName));
     const bool isPacked = contents.compare(0, 2, "\x1F\x8B") == 0;
     return byName == RecFile::FinalFormat || byName == RecFile::Gps || isPacked ? byName : RecFile::Unknown;
@@ -69,11 +72,13 @@ bool readRecording(const std::string &fileName, RecFile::Format format,
         ++message.number;
         message.hasTime = packet.timeStamp.isValid();
         message.timeMilliseconds = message.hasTime ? packet.timeStamp.toMSecsSinceEpoch() : 0;
-        if (!handler(message))
+        if (!handler(message)) {
             return true;
+        }
     }
-    if (packet.kind == DataPacket::Error)
+    if (packet.kind == DataPacket::Error) {
         error = fileName + ": octet " + std::to_string(packet.offset) + ": " + packet.error.toStdString();
+    }
     return packet.kind == DataPacket::End;
 }
 
@@ -83,10 +88,12 @@ bool readWholeFile(const std::string &fileName, std::string &contents, std::stri
 {
     const int descriptor = fileName == "-" ? ::dup(STDIN_FILENO) : ::open(fileName.c_str(), O_RDONLY | O_CLOEXEC);
     const bool isRead = descriptor >= 0 && readToEnd(descriptor, contents);
-    if (!isRead)
+    if (!isRead) {
         error = fileName + ": " + std::strerror(errno);
-    if (descriptor >= 0)
+    }
+    if (descriptor >= 0) {
         ::close(descriptor);
+    }
     return isRead;
 }
 
@@ -94,8 +101,9 @@ bool readInputFile(
     const std::string &fileName, const std::function<bool(const InputMessage &)> &handler, std::string &error)
 {
     std::string contents;
-    if (!readWholeFile(fileName, contents, error))
+    if (!readWholeFile(fileName, contents, error)) {
         return false;
+    }
     const RecFile::Format format = recordingFormat(fileName, contents);
     if (format == RecFile::RawAsterix) {
         contents.clear();
@@ -103,8 +111,9 @@ bool readInputFile(
             contents.append(reinterpret_cast<const char *>(block.data), block.size);
             return true;
         };
-        if (!readRecording(fileName, format, append, error))
+        if (!readRecording(fileName, format, append, error)) {
             return false;
+        }
     } else if (format != RecFile::Unknown) {
         contents = {};
         return readRecording(fileName, format, handler, error);

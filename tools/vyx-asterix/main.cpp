@@ -14,10 +14,12 @@ bool writeAll(int descriptor, std::string_view text)
 {
     while (!text.empty()) {
         const ssize_t written = ::write(descriptor, text.data(), text.size());
-        if (written < 0 && errno != EINTR)
+        if (written < 0 && errno != EINTR) {
             return false;
-        if (written > 0)
+        }
+        if (written > 0) {
             text.remove_prefix(static_cast<std::size_t>(written));
+        }
     }
     return true;
 }
@@ -29,19 +31,22 @@ void printLine(std::string_view line)
 
 int openOutput(const CommandLine &command)
 {
-    if (command.outputName.empty())
+    if (command.outputName.empty()) {
         return STDOUT_FILENO;
+    }
     const int descriptor = ::open(command.outputName.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-    if (descriptor < 0)
+    if (descriptor < 0) {
         printLine(command.outputName + ": " + std::strerror(errno));
+    }
     return descriptor;
 }
 
 int run(const CommandLine &command)
 {
     const int descriptor = openOutput(command);
-    if (descriptor < 0)
+    if (descriptor < 0) {
         return 1;
+    }
     const TextSink out = [descriptor](std::string_view text) { return writeAll(descriptor, text); };
     switch (command.verb) {
     case CommandLine::Verb::Decode:

@@ -65,10 +65,11 @@ public:
             last = &source;
             ++source.records;
             source.octets += record.length;
-            if (block.message.hasTime)
+            if (block.message.hasTime) {
                 addTime(source, static_cast<double>(block.message.timeMilliseconds) / 1000);
-            else if (const auto time = timeOfDay(block.decoded.category, record))
+            } else if (const auto time = timeOfDay(block.decoded.category, record)) {
                 addTime(source, unwrapped(source, *time));
+            }
         }
     }
 
@@ -90,24 +91,27 @@ public:
 private:
     static void addTime(Source &source, double time)
     {
-        if (!source.firstTime)
+        if (!source.firstTime) {
             source.firstTime = time;
+        }
         source.lastTime = time;
     }
 
     // The time of day starts anew at midnight; records that are out of order by less than half a day do not.
     static double unwrapped(const Source &source, double time)
     {
-        while (source.firstTime && time < source.lastTime - DaySeconds / 2)
+        while (source.firstTime && time < source.lastTime - DaySeconds / 2) {
             time += DaySeconds;
+        }
         return time;
     }
 
     static std::string rate(const Source &source)
     {
         const double span = source.firstTime ? source.lastTime - *source.firstTime : 0;
-        if (span <= 0)
+        if (span <= 0) {
             return "-";
+        }
         char text[32];
         std::snprintf(text, sizeof text, "%.1f", static_cast<double>(source.records) / span);
         return text;
@@ -121,8 +125,9 @@ private:
 int runStat(const CommandLine &command, const TextSink &out, const LineSink &err)
 {
     korvane::asterix::Profile profile;
-    for (const auto &[category, edition] : command.editions)
+    for (const auto &[category, edition] : command.editions) {
         profile.select(category, edition);
+    }
     Statistics statistics;
     BlockReader reader(
         command.fileName, profile.uap(), [&](const BlockReader::Block &block) { statistics.add(block); }, err);
@@ -132,8 +137,9 @@ int runStat(const CommandLine &command, const TextSink &out, const LineSink &err
         return true;
     };
     const bool isRead = readInputFile(command.fileName, read, error);
-    if (!isRead)
+    if (!isRead) {
         err(error);
+    }
     reader.reportPassedOver();
     const bool isWritten = out(statistics.text());
     return isRead && isWritten && reader.faults() == 0 ? 0 : 1;

@@ -17,8 +17,9 @@ struct Option {
 bool parseFormat(const QString &value, int capability, MapFile::Format &format, QString &error)
 {
     format = MapFile::formatFromString(value);
-    if (format != MapFile::Unknown && (MapFile::create(format)->capability() & capability))
+    if (format != MapFile::Unknown && (MapFile::create(format)->capability() & capability)) {
         return true;
+    }
     error = QStringLiteral("there is no format \"%1\" for that; try --help").arg(value);
     return false;
 }
@@ -27,8 +28,9 @@ bool parseTolerance(const QString &value, CommandLine &out, QString &error)
 {
     bool isNumber = false;
     out.import.tolerance = value.toDouble(&isNumber);
-    if (!isNumber || out.import.tolerance < 0)
+    if (!isNumber || out.import.tolerance < 0) {
         error = QStringLiteral("--tolerance takes metres, not \"%1\"").arg(value);
+    }
     return error.isEmpty();
 }
 
@@ -36,8 +38,9 @@ bool parseEpsg(const QString &value, CommandLine &out, QString &error)
 {
     bool isNumber = false;
     out.import.epsg = value.toInt(&isNumber);
-    if (!isNumber || out.import.epsg <= 0)
+    if (!isNumber || out.import.epsg <= 0) {
         error = QStringLiteral("--epsg takes the number of a reference system, such as 4326, not \"%1\"").arg(value);
+    }
     return error.isEmpty();
 }
 
@@ -45,10 +48,11 @@ bool parseEpsg(const QString &value, CommandLine &out, QString &error)
 template <auto Member>
 bool store(const QString &value, CommandLine &out, QString &)
 {
-    if constexpr (std::is_same_v<std::decay_t<decltype(out.import.*Member)>, QStringList>)
+    if constexpr (std::is_same_v<std::decay_t<decltype(out.import.*Member)>, QStringList>) {
         out.import.*Member = value.split(QLatin1Char(','), Qt::SkipEmptyParts);
-    else
+    } else {
         out.import.*Member = value;
+    }
     return true;
 }
 
@@ -104,8 +108,9 @@ bool parseVerb(const QString &text, CommandLine::Verb &verb)
 const Option *findOption(const QString &text, CommandLine::Verb verb)
 {
     for (const Option &option : Options) {
-        if (text == QLatin1String(option.name) && (verb == CommandLine::Verb::Convert || !option.isOfConvert))
+        if (text == QLatin1String(option.name) && (verb == CommandLine::Verb::Convert || !option.isOfConvert)) {
             return &option;
+        }
     }
     return nullptr;
 }
@@ -113,42 +118,49 @@ const Option *findOption(const QString &text, CommandLine::Verb verb)
 bool parseOption(const QStringList &arguments, qsizetype &i, CommandLine &out, QString &error)
 {
     const Option *const option = findOption(arguments[i], out.verb);
-    if (!option)
+    if (!option) {
         error = QStringLiteral("unknown option \"%1\"; try --help").arg(arguments[i]);
-    else if (option->takesValue && i + 1 == arguments.size())
+    } else if (option->takesValue && i + 1 == arguments.size()) {
         error = QStringLiteral("%1 needs a value").arg(arguments[i]);
-    else
+    } else {
         return option->apply(option->takesValue ? arguments[++i] : QString(), out, error);
+    }
     return false;
 }
 
 bool parseFile(const QString &text, CommandLine &out, QString &error)
 {
-    if (out.input.isEmpty())
+    if (out.input.isEmpty()) {
         out.input = text;
-    else if (out.output.isEmpty() && out.verb == CommandLine::Verb::Convert)
+    } else if (out.output.isEmpty() && out.verb == CommandLine::Verb::Convert) {
         out.output = text;
-    else
+    } else {
         error = QStringLiteral("one argument too many: \"%1\"").arg(text);
+    }
     return error.isEmpty();
 }
 
 // Files that are there, in formats that are known.
 bool complete(CommandLine &out, QString &error)
 {
-    if (out.input.isEmpty())
+    if (out.input.isEmpty()) {
         error = QStringLiteral("which file? Try --help");
-    else if (out.verb == CommandLine::Verb::Convert && out.output.isEmpty())
+    } else if (out.verb == CommandLine::Verb::Convert && out.output.isEmpty()) {
         error = QStringLiteral("convert needs a file to write");
-    if (!error.isEmpty())
+    }
+    if (!error.isEmpty()) {
         return false;
-    if (out.inputFormat == MapFile::Unknown)
+    }
+    if (out.inputFormat == MapFile::Unknown) {
         out.inputFormat = MapFile::formatFromFileName(out.input);
-    if (out.inputFormat == MapFile::Unknown && !MapImport::handles(out.input))
+    }
+    if (out.inputFormat == MapFile::Unknown && !MapImport::handles(out.input)) {
         error = QStringLiteral("what is \"%1\"? Its suffix does not tell; try --from").arg(out.input);
-    if (out.verb == CommandLine::Verb::Convert && out.outputFormat == MapFile::Unknown)
+    }
+    if (out.verb == CommandLine::Verb::Convert && out.outputFormat == MapFile::Unknown) {
         parseFormat(
             MapFile::formatToString(MapFile::formatFromFileName(out.output)), MapFile::Write, out.outputFormat, error);
+    }
     return error.isEmpty();
 }
 
@@ -170,8 +182,9 @@ bool CommandLine::parse(const QStringList &arguments, CommandLine &out, QString 
         }
         const bool isGood = arguments[i].startsWith(QLatin1Char('-')) ? parseOption(arguments, i, out, error)
                                                                       : parseFile(arguments[i], out, error);
-        if (!isGood)
+        if (!isGood) {
             return false;
+        }
     }
     return out.verb == Verb::Help || out.verb == Verb::Version || complete(out, error);
 }

@@ -6,8 +6,9 @@ void reportMissingImages(const CommandLine &command, const MapData &map, const L
 {
     for (const MapElementGroup &group : map.groups) {
         for (const MapImageElement &image : group.images) {
-            if (image.pixmap.isNull())
+            if (image.pixmap.isNull()) {
                 err(QStringLiteral("%1: the image \"%2\" is missing").arg(command.input, image.file));
+            }
         }
     }
 }
@@ -19,8 +20,9 @@ bool writeMap(const CommandLine &command, const MapData &map, const LineSink &er
     isWritten = isWritten && file->write(map);
     file->close(); // puts the file in its place, which may fail as well
     isWritten = isWritten && file->lastError().isEmpty();
-    if (!isWritten)
+    if (!isWritten) {
         err(QStringLiteral("%1: %2").arg(command.output, file->lastError()));
+    }
     return isWritten;
 }
 
@@ -29,8 +31,9 @@ bool writeMap(const CommandLine &command, const MapData &map, const LineSink &er
 int runConvert(const CommandLine &command, const PercentSink &progress, const LineSink &err)
 {
     MapData map;
-    if (!readInput(command, map, progress, err))
+    if (!readInput(command, map, progress, err)) {
         return 1;
+    }
     reportMissingImages(command, map, err);
     return writeMap(command, map, err) ? 0 : 1;
 }

@@ -10,8 +10,9 @@ class Bounds {
 public:
     void add(const GeoCoordinate &point)
     {
-        if (!point.isValid())
+        if (!point.isValid()) {
             return;
+        }
         m_south = std::min(m_south, point.latitude());
         m_north = std::max(m_north, point.latitude());
         m_west = std::min(m_west, point.longitude());
@@ -20,8 +21,9 @@ public:
 
     QString text() const
     {
-        if (m_south > m_north)
+        if (m_south > m_north) {
             return QStringLiteral("none");
+        }
         return QStringLiteral("%1 to %2")
             .arg(GeoCoordinate(m_south, m_west).toATCString(), GeoCoordinate(m_north, m_east).toATCString());
     }
@@ -38,8 +40,9 @@ qint64 forEachPoint(const Elements &elements, const Sink &sink)
 {
     qint64 count = 0;
     for (const auto &element : elements) {
-        for (const GeoCoordinate &point : element.points)
+        for (const GeoCoordinate &point : element.points) {
             sink(point);
+        }
         count += element.points.size();
     }
     return count;
@@ -49,10 +52,12 @@ qint64 forEachPoint(const Elements &elements, const Sink &sink)
 qint64 addGroup(const MapElementGroup &group, Bounds &bounds)
 {
     const auto add = [&bounds](const GeoCoordinate &point) { bounds.add(point); };
-    for (const MapSymbolElement &symbol : group.symbols)
+    for (const MapSymbolElement &symbol : group.symbols) {
         bounds.add(symbol.coordinate);
-    for (const MapLabelElement &label : group.labels)
+    }
+    for (const MapLabelElement &label : group.labels) {
         bounds.add(label.coordinate);
+    }
     for (const MapImageElement &image : group.images) {
         bounds.add(image.northwest);
         bounds.add(image.southeast);
@@ -65,8 +70,9 @@ void printTexts(const MapData &map, const LineSink &out)
     for (const auto &[key, value] :
         {std::pair{"name", map.name}, {"title", map.title}, {"description", map.description}, {"author", map.author},
             {"version", map.version}, {"comment", map.comment}}) {
-        if (!value.isEmpty())
+        if (!value.isEmpty()) {
             out(QStringLiteral("%1 %2").arg(QLatin1String(key), -12).arg(value));
+        }
     }
 }
 
@@ -89,16 +95,18 @@ void printGroups(const MapData &map, const LineSink &out)
     out(QStringLiteral("%1 %2").arg(QLatin1String("bounds"), -12).arg(bounds.text()));
     out({});
     out(QStringLiteral("group                class            lines     areas    points  symbols   labels  images"));
-    for (const QString &line : std::as_const(lines))
+    for (const QString &line : std::as_const(lines)) {
         out(line);
+    }
 }
 
 void printMissingImages(const MapData &map, const LineSink &out)
 {
     for (const MapElementGroup &group : map.groups) {
         for (const MapImageElement &image : group.images) {
-            if (image.pixmap.isNull())
+            if (image.pixmap.isNull()) {
                 out(QStringLiteral("missing image: %1").arg(image.file.isEmpty() ? image.name : image.file));
+            }
         }
     }
 }
@@ -108,8 +116,9 @@ void printMissingImages(const MapData &map, const LineSink &out)
 int runInfo(const CommandLine &command, const PercentSink &progress, const LineSink &out, const LineSink &err)
 {
     MapData map;
-    if (!readInput(command, map, progress, err))
+    if (!readInput(command, map, progress, err)) {
         return 1;
+    }
     const QString format = command.inputFormat == MapFile::Unknown ? QStringLiteral("imported")
                                                                    : MapFile::formatToString(command.inputFormat);
     out(QStringLiteral("%1 %2").arg(QLatin1String("file"), -12).arg(command.input));

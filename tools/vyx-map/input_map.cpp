@@ -5,8 +5,9 @@ namespace {
 bool importMap(const CommandLine &command, MapData &map, const PercentSink &progress, const LineSink &err)
 {
     const auto report = [&progress](int percent) {
-        if (progress)
+        if (progress) {
             progress(percent);
+        }
         return true;
     };
     QString error;
@@ -16,8 +17,9 @@ bool importMap(const CommandLine &command, MapData &map, const PercentSink &prog
         err(QStringLiteral("%1: %2").arg(command.input, error));
         return false;
     }
-    for (const QString &message : std::as_const(counts.messages))
+    for (const QString &message : std::as_const(counts.messages)) {
         err(QStringLiteral("%1: %2").arg(command.input, message));
+    }
     return true;
 }
 
@@ -25,14 +27,17 @@ bool readMap(const CommandLine &command, MapData &map, const PercentSink &progre
 {
     const std::unique_ptr<MapFile> file = MapFile::create(command.inputFormat);
     file->setProgress([&progress](qint64 read, qint64 total) {
-        if (progress && total > 0)
+        if (progress && total > 0) {
             progress(static_cast<int>(100 * read / total));
+        }
         return true;
     });
-    if (file->open(QFileInfo(command.input), command.inputFormat, QIODevice::ReadOnly))
+    if (file->open(QFileInfo(command.input), command.inputFormat, QIODevice::ReadOnly)) {
         map = file->read();
-    if (file->lastError().isEmpty())
+    }
+    if (file->lastError().isEmpty()) {
         return true;
+    }
     err(QStringLiteral("%1: %2").arg(command.input, file->lastError()));
     return false;
 }

@@ -23,8 +23,9 @@ void printError(const QString &line)
 void printPercent(int percent)
 {
     static int shown = -1;
-    if (percent == shown)
+    if (percent == shown) {
         return;
+    }
     shown = percent;
     std::fprintf(stderr, percent >= 100 ? "\r    \r" : "\r%3d%%", percent);
     std::fflush(stderr);
@@ -33,8 +34,9 @@ void printPercent(int percent)
 // What the map formats note while they read is for their developers; errors reach the user as texts.
 void hideNotes(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
-    if (type == QtCriticalMsg || type == QtFatalMsg)
+    if (type == QtCriticalMsg || type == QtFatalMsg) {
         printError(text);
+    }
 }
 
 int run(const CommandLine &command)

@@ -58,19 +58,21 @@ bool parseValue(const std::string &option, const std::string &text, CommandLine 
 
 bool parseOption(const std::string &text, CommandLine &out, std::string &error)
 {
-    if (text == "--correct")
+    if (text == "--correct") {
         out.isCorrecting = true;
-    else if (text == "--known-addresses")
+    } else if (text == "--known-addresses") {
         out.isCheckingAddress = true;
-    else
+    } else {
         error = "unknown option \"" + text + "\"";
+    }
     return error.empty();
 }
 
 bool parseFile(const std::string &text, CommandLine &out, std::string &error)
 {
-    if (!out.fileName.empty() || out.verb != CommandLine::Verb::Decode)
+    if (!out.fileName.empty() || out.verb != CommandLine::Verb::Decode) {
         error = "one argument too many: \"" + text + "\"";
+    }
     out.fileName = text;
     return error.empty();
 }
@@ -100,11 +102,13 @@ bool CommandLine::parse(const std::vector<std::string> &arguments, CommandLine &
         const bool isGood = takesValue ? parseValue(argument, arguments[++i], out, error)
             : isOption                 ? parseOption(argument, out, error)
                                        : parseFile(argument, out, error);
-        if (!isGood)
+        if (!isGood) {
             return false;
+        }
     }
-    if (out.fileName.empty() && out.verb == Verb::Decode)
+    if (out.fileName.empty() && out.verb == Verb::Decode) {
         error = "decode needs a file";
+    }
     return error.empty();
 }
 

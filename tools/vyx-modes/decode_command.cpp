@@ -41,27 +41,31 @@ public:
     {
         m_decoder.setErrorCorrection(command.isCorrecting);
         m_decoder.setAddressCheck(command.isCheckingAddress);
-        if (command.reference)
+        if (command.reference) {
             m_tracker.setReferencePosition(command.reference->latitude, command.reference->longitude);
+        }
     }
 
     // False when the output is closed.
     bool add(std::string_view chunk)
     {
-        if (!m_format && !chunk.empty())
+        if (!m_format && !chunk.empty()) {
             m_format = std::strchr("*@<", chunk.front()) ? ModeSEncapsulation::Avr : ModeSEncapsulation::DefaultFormat;
+        }
         m_buffer.append(chunk);
         m_buffer.erase(0, ModeSEncapsulation::extractAll(m_buffer, *m_format, m_frames));
         m_text.clear();
-        for (const ModeSFrame &frame : m_frames)
+        for (const ModeSFrame &frame : m_frames) {
             print(frame);
+        }
         return m_out(m_text);
     }
 
     void report(const std::string &fileName, const LineSink &err) const
     {
-        for (const auto &[fault, count] : m_faults)
+        for (const auto &[fault, count] : m_faults) {
             err(fileName + ": " + std::to_string(count) + " frames " + textOf(fault));
+        }
     }
 
 private:
@@ -93,10 +97,12 @@ bool readStream(int descriptor, StreamPrinter &printer, bool &isOpen)
     std::string chunk(ChunkSize, '\0');
     while (isOpen) {
         const ssize_t got = ::read(descriptor, chunk.data(), chunk.size());
-        if (got < 0 && errno == EINTR)
+        if (got < 0 && errno == EINTR) {
             continue;
-        if (got <= 0)
+        }
+        if (got <= 0) {
             return got == 0;
+        }
         isOpen = printer.add(std::string_view(chunk).substr(0, static_cast<std::size_t>(got)));
     }
     return true;
@@ -112,10 +118,12 @@ int runDecode(const CommandLine &command, const TextSink &out, const LineSink &e
     StreamPrinter printer(command, out);
     bool isOpen = true;
     const bool isRead = descriptor >= 0 && readStream(descriptor, printer, isOpen);
-    if (!isRead)
+    if (!isRead) {
         err(command.fileName + ": " + std::strerror(errno));
-    if (descriptor >= 0)
+    }
+    if (descriptor >= 0) {
         ::close(descriptor);
+    }
     printer.report(command.fileName, err);
     return isRead && isOpen ? 0 : 1;
 }

@@ -9,10 +9,12 @@ bool writeAll(int descriptor, std::string_view text)
 {
     while (!text.empty()) {
         const ssize_t written = ::write(descriptor, text.data(), text.size());
-        if (written < 0 && errno != EINTR)
+        if (written < 0 && errno != EINTR) {
             return false;
-        if (written > 0)
+        }
+        if (written > 0) {
             text.remove_prefix(static_cast<std::size_t>(written));
+        }
     }
     return true;
 }

@@ -38,17 +38,19 @@ public:
     {
         begin(key);
         char digits[32];
-        if constexpr (std::is_integral_v<Value>)
+        if constexpr (std::is_integral_v<Value>) {
             m_out.append(digits, std::to_chars(digits, digits + sizeof digits, static_cast<long long>(value)).ptr);
-        else
+        } else {
             m_out.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
+        }
     }
 
     template <typename Value>
     void number(std::string_view key, const std::optional<Value> &value)
     {
-        if (value)
+        if (value) {
             number(key, *value);
+        }
     }
 
     void flag(std::string_view key, bool value)
@@ -66,8 +68,9 @@ public:
 private:
     void begin(std::string_view key)
     {
-        if (!m_isFirst)
+        if (!m_isFirst) {
             m_out += ',';
+        }
         m_isFirst = false;
         m_out.append("\"").append(key).append("\":");
     }
@@ -93,8 +96,9 @@ std::string modesOf(const TargetState &content)
     for (const auto &[isOn, name] : {std::pair{content.isAutopilotOn, "autopilot"}, {content.isVnavOn, "vnav"},
              {content.isAltitudeHoldOn, "altitude_hold"}, {content.isApproachOn, "approach"},
              {content.isLnavOn, "lnav"}}) {
-        if (isOn)
+        if (isOn) {
             names.append(names.empty() ? "" : ",").append(name);
+        }
     }
     return names;
 }
@@ -122,8 +126,9 @@ struct ContentWriter {
     void operator()(const AirbornePosition &content) const
     {
         line.number(content.isGnssHeight ? "gnss_height" : "altitude", content.altitude);
-        if (content.position)
+        if (content.position) {
             line.number("cpr_format", content.position->isOdd ? 1 : 0);
+        }
     }
 
     void operator()(const AirborneVelocity &content) const
@@ -133,8 +138,9 @@ struct ContentWriter {
         line.number(content.isTrueAirspeed ? "true_airspeed" : "indicated_airspeed", whole(content.airspeed));
         line.number("heading", content.heading);
         line.number("vertical_rate", content.verticalRate);
-        if (content.verticalRate)
+        if (content.verticalRate) {
             line.text("vertical_rate_source", content.isBarometricRate ? "baro" : "gnss");
+        }
         line.number("gnss_above_baro", content.gnssAboveBarometric);
     }
 
@@ -150,8 +156,9 @@ struct ContentWriter {
         line.number("ra_complement", content.complement);
         line.flag("ra_terminated", content.isTerminated);
         line.flag("multiple_threats", content.hasMultipleThreats);
-        if (content.threatType == 1)
+        if (content.threatType == 1) {
             line.text("threat", formatted("%06X", content.threatAddress));
+        }
     }
 
     void operator()(const TargetState &content) const
@@ -160,8 +167,9 @@ struct ContentWriter {
             content.isFmsAltitude ? "selected_altitude_fms" : "selected_altitude_mcp", content.selectedAltitude);
         line.number("baro_pressure_setting", content.barometricSetting);
         line.number("selected_heading", content.selectedHeading);
-        if (content.hasModes)
+        if (content.hasModes) {
             line.text("modes", modesOf(content));
+        }
         line.number("nac_p", content.nacP);
         line.number("sil", content.sil);
     }
@@ -233,8 +241,9 @@ struct ContentWriter {
     template <typename Content>
     void operator()(const std::optional<Content> &content) const
     {
-        if (content)
+        if (content) {
             (*this)(*content);
+        }
     }
 };
 
@@ -266,21 +275,25 @@ void writeRegisters(LineWriter &line, const ModeSMessage &message)
 {
     const RegisterCandidates candidates = message.registers();
     std::string names;
-    for (std::size_t i = 0; i < candidates.count; ++i)
+    for (std::size_t i = 0; i < candidates.count; ++i) {
         names += formatted(i ? ",BDS%02X" : "BDS%02X", candidates.registers[i]);
-    if (!names.empty())
+    }
+    if (!names.empty()) {
         line.text("bds", names);
+    }
     writeRegister({line}, candidates.only(), message.messageField());
 }
 
 void writeFrame(LineWriter &line, const ModeSFrame &frame)
 {
     std::string digits;
-    for (std::size_t i = 0; i < frame.length; ++i)
+    for (std::size_t i = 0; i < frame.length; ++i) {
         digits += formatted("%02X", frame.octets[i]);
+    }
     line.text("frame", digits);
-    if (frame.ticks != ModeSFrame::NoTicks)
+    if (frame.ticks != ModeSFrame::NoTicks) {
         line.number("time", static_cast<double>(frame.ticks / ModeSFrame::TicksPerMillisecond) / 1000);
+    }
 }
 
 bool isPositionReport(const SquitterContent &content)
@@ -299,15 +312,19 @@ void appendMessageJson(std::string &out, const ModeSMessage &message, const ADSB
         writeFrame(line, message.frame());
         line.number("df", message.downlinkFormat());
         line.text("icao", formatted("%06X", message.icaoAddr()));
-        if (message.addressKind() == ModeSMessage::AddressKind::Other)
+        if (message.addressKind() == ModeSMessage::AddressKind::Other) {
             line.flag("anonymous", true);
-        if (message.correctedBit())
+        }
+        if (message.correctedBit()) {
             line.number("corrected_bit", message.correctedBit());
-        if (message.typeCode() >= 0)
+        }
+        if (message.typeCode() >= 0) {
             line.number("typecode", message.typeCode());
+        }
         line.number("altitude", message.altitude());
-        if (message.squawk())
+        if (message.squawk()) {
             line.text("squawk", octal(*message.squawk()));
+        }
         std::visit(ContentWriter{line}, message.content());
         ContentWriter{line}(message.coordination());
         writeRegisters(line, message);

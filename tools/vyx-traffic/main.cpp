@@ -41,8 +41,9 @@ void endWithParent()
 {
     const pid_t parent = ::getppid();
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
-    if (::getppid() != parent)
+    if (::getppid() != parent) {
         stopRequested = true;
+    }
 }
 
 int fail(int status, const QString &text)
@@ -62,8 +63,9 @@ QString listOfScenarios()
 {
     QString list;
     const QStringList names = ScenarioReader::builtInNames();
-    for (const QString &name : names)
+    for (const QString &name : names) {
         list += QStringLiteral("%1  %2\n").arg(name, -8).arg(ScenarioReader::description(name));
+    }
     return list;
 }
 
@@ -71,13 +73,16 @@ int runScenario(const TrafficOptions &options)
 {
     ScenarioReader reader;
     const std::optional<Scenario> scenario = reader.read(options.scenario);
-    if (!scenario)
+    if (!scenario) {
         return fail(ExitWrongArguments, reader.error());
-    if (options.action == TrafficOptions::Action::SensorJson)
+    }
+    if (options.action == TrafficOptions::Action::SensorJson) {
         return print(QString::fromUtf8(QJsonDocument(sensorJson(*scenario)).toJson()));
+    }
     catchSignals();
-    if (options.withParent)
+    if (options.withParent) {
         endWithParent();
+    }
     TrafficRun run(options, *scenario, stopRequested);
     const bool done = run.run();
     return fail(done ? 0 : ExitRunFailed, run.text());
@@ -89,8 +94,9 @@ int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     TrafficCommandLine commandLine;
-    if (!commandLine.parse(QCoreApplication::arguments()))
+    if (!commandLine.parse(QCoreApplication::arguments())) {
         return fail(ExitWrongArguments, commandLine.error());
+    }
     switch (commandLine.options().action) {
     case TrafficOptions::Action::Help:
         return print(TrafficCommandLine::helpText());

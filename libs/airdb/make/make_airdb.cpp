@@ -28,15 +28,17 @@ constexpr Source Sources[] = {
 bool import(AirDBBuilder &builder, const QString &folder, const Source &source)
 {
     QFile file(folder + QLatin1Char('/') + QLatin1String(source.name));
-    if (source.isOptional && !file.exists())
+    if (source.isOptional && !file.exists()) {
         return true;
+    }
     if (!file.open(QIODevice::ReadOnly)) {
         std::fprintf(stderr, "%s: %s\n", qPrintable(file.fileName()), qPrintable(file.errorString()));
         return false;
     }
     const AirDBBuilder::Report report = (builder.*source.import)(file);
-    for (const AirDBBuilder::Error &error : report.errors)
+    for (const AirDBBuilder::Error &error : report.errors) {
         std::fprintf(stderr, "%s:%d: %s\n", qPrintable(file.fileName()), error.line, qPrintable(error.reason));
+    }
     return report.isGood();
 }
 
@@ -50,12 +52,14 @@ int main(int argc, char *argv[])
     }
     AirDBBuilder builder;
     for (const Source &source : Sources) {
-        if (!import(builder, QFile::decodeName(argv[1]), source))
+        if (!import(builder, QFile::decodeName(argv[1]), source)) {
             return 1;
+        }
     }
     QString error;
-    if (builder.save(QFileInfo(QFile::decodeName(argv[2])), &error))
+    if (builder.save(QFileInfo(QFile::decodeName(argv[2])), &error)) {
         return 0;
+    }
     std::fprintf(stderr, "%s\n", qPrintable(error));
     return 1;
 }

@@ -25,10 +25,11 @@ void BlockPages::paintEntries(
         const std::size_t entry = base + start / span;
         const std::uint32_t from = std::max(first, start) - start;
         const std::uint32_t to = std::min(last, start + span - 1) - start;
-        if (from == 0 && to == span - 1)
+        if (from == 0 && to == span - 1) {
             m_entries[entry] = value;
-        else
+        } else {
             paintEntries(pageBelow(entry), shift - 6, from, to, value);
+        }
     }
 }
 

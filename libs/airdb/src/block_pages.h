@@ -19,10 +19,12 @@ public:
     int find(std::uint32_t address) const
     {
         std::uint32_t entry = m_entries[address >> 12];
-        if (entry & Page)
+        if (entry & Page) {
             entry = m_entries[(entry & ~Page) + (address >> 6 & 0x3F)];
-        if (entry & Page)
+        }
+        if (entry & Page) {
             entry = m_entries[(entry & ~Page) + (address & 0x3F)];
+        }
         return static_cast<int>(entry) - 1;
     }
 

@@ -12,24 +12,27 @@ constexpr qsizetype MaximumErrors = 100;
 
 void addError(AirDBBuilder::Report &report, int line, const QString &reason)
 {
-    if (report.errors.size() < MaximumErrors)
+    if (report.errors.size() < MaximumErrors) {
         report.errors.append({line, reason});
+    }
 }
 
 // Where each of the columns stands, -1 for one that is missing.
 QList<qsizetype> findColumns(const QStringList &names, const QStringList &columns)
 {
     QList<qsizetype> places;
-    for (const QString &column : columns)
+    for (const QString &column : columns) {
         places.append(names.indexOf(column));
+    }
     return places;
 }
 
 QStringList pick(const QStringList &values, const QList<qsizetype> &places)
 {
     QStringList picked;
-    for (const qsizetype place : places)
+    for (const qsizetype place : places) {
         picked.append(values.at(place));
+    }
     return picked;
 }
 
@@ -51,16 +54,18 @@ AirDBBuilder::Report CsvImport::run(QIODevice &csv, const QStringList &columns, 
     }
     while (reader.next()) {
         QString fault;
-        if (reader.isDamaged())
+        if (reader.isDamaged()) {
             fault = tr("a quote is not closed, or the text is not UTF-8");
-        else if (reader.values().size() != names.size())
+        } else if (reader.values().size() != names.size()) {
             fault = tr("%1 values in %2 columns").arg(reader.values().size()).arg(names.size());
-        else
+        } else {
             fault = takeRow(pick(reader.values(), places));
-        if (fault.isEmpty())
+        }
+        if (fault.isEmpty()) {
             ++report.rows;
-        else
+        } else {
             addError(report, reader.line(), fault);
+        }
     }
     return report;
 }

@@ -18,8 +18,9 @@ bool CsvReader::next()
 {
     do {
         m_isDamaged = false;
-        if (!readLine())
+        if (!readLine()) {
             return false;
+        }
     } while (m_text.trimmed().isEmpty() || m_text.startsWith(QLatin1Char('#')));
     m_line = m_lastLine;
     m_values.clear();
@@ -30,13 +31,16 @@ bool CsvReader::next()
 bool CsvReader::readLine()
 {
     QByteArray line = m_device.readLine();
-    if (line.isEmpty())
+    if (line.isEmpty()) {
         return false;
+    }
     ++m_lastLine;
-    while (line.endsWith('\n') || line.endsWith('\r'))
+    while (line.endsWith('\n') || line.endsWith('\r')) {
         line.chop(1);
-    if (m_lastLine == 1 && line.startsWith("\xEF\xBB\xBF"))
+    }
+    if (m_lastLine == 1 && line.startsWith("\xEF\xBB\xBF")) {
         line.remove(0, 3);
+    }
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     m_text = decoder.decode(line);
     m_isDamaged = m_isDamaged || decoder.hasError();
@@ -68,8 +72,9 @@ void CsvReader::splitLine()
             m_value += c;
             ++i;
         } else if (isQuote && (m_isInQuotes || m_value.trimmed().isEmpty())) {
-            if (!m_isInQuotes)
+            if (!m_isInQuotes) {
                 m_value.clear();
+            }
             m_isInQuotes = !m_isInQuotes;
             m_wasQuoted = true;
         } else if (c == QLatin1Char(',') && !m_isInQuotes) {

@@ -31,10 +31,12 @@ void appendIndex(QByteArray &octets, int index)
 int readIndex(OctetReader &reader, qsizetype rows)
 {
     const quint32 index = reader.number(2);
-    if (index == NoIndex)
+    if (index == NoIndex) {
         return -1;
-    if (index >= rows)
+    }
+    if (index >= rows) {
         reader.fail();
+    }
     return static_cast<int>(index);
 }
 
@@ -110,10 +112,12 @@ void readCountries(OctetReader &reader, Tables &tables)
         const QString isoCode3 = reader.text();
         const QString name = reader.text();
         const int region = readIndex(reader, tables.regions.size());
-        if (isoCode2.isEmpty())
+        if (isoCode2.isEmpty()) {
             reader.fail();
-        if (reader.isGood())
+        }
+        if (reader.isGood()) {
             tables.addCountry(name, isoCode2, isoCode3, region);
+        }
     }
 }
 
@@ -125,8 +129,9 @@ void readBlocks(OctetReader &reader, Tables &tables)
         block.last = reader.number(3);
         block.country = readIndex(reader, tables.countries.size());
         block.isMilitary = reader.number(1) != 0;
-        if (block.first > block.last)
+        if (block.first > block.last) {
             reader.fail();
+        }
         tables.blocks.append(block);
     }
 }
@@ -136,14 +141,16 @@ void readSensors(OctetReader &reader, Tables &tables)
     for (qsizetype left = reader.count(3, 256); left > 0 && reader.isGood(); --left) {
         const quint32 sac = reader.number(1);
         const int country = readIndex(reader, tables.countries.size());
-        if (country < 0 || tables.sacs.contains(sac))
+        if (country < 0 || tables.sacs.contains(sac)) {
             reader.fail();
+        }
         tables.sacs.insert(sac, country);
     }
     for (qsizetype left = reader.count(3, 65536); left > 0 && reader.isGood(); --left) {
         const quint32 sacSic = reader.number(2);
-        if (tables.sensors.contains(sacSic))
+        if (tables.sensors.contains(sacSic)) {
             reader.fail();
+        }
         tables.sensors.insert(sacSic, reader.text());
     }
 }
@@ -158,8 +165,9 @@ void readAircraft(OctetReader &reader, const QByteArray &payload, Tables &tables
     for (qsizetype left = rows; left > 0 && reader.isGood(); --left) {
         const quint32 address = reader.number(3);
         tables.aircraft.insert(address, static_cast<quint32>(reader.at() - start));
-        if (reader.text().isEmpty() || address <= previous)
+        if (reader.text().isEmpty() || address <= previous) {
             reader.fail();
+        }
         reader.text();
         reader.text();
         previous = address;
@@ -185,24 +193,28 @@ QByteArray writeDataFile(const Tables &tables)
 std::unique_ptr<Tables> readDataFile(const QByteArray &octets, DataFileError &error)
 {
     error = DataFileError::NotADatabase;
-    if (octets.size() < HeaderSize || !octets.startsWith(QByteArray(Magic, sizeof Magic)))
+    if (octets.size() < HeaderSize || !octets.startsWith(QByteArray(Magic, sizeof Magic))) {
         return nullptr;
+    }
     OctetReader header(octets.sliced(sizeof Magic, 8));
     error = DataFileError::OtherVersion;
-    if (header.number(4) != Version)
+    if (header.number(4) != Version) {
         return nullptr;
+    }
     error = DataFileError::Damaged;
     const QByteArray payload = octets.sliced(HeaderSize);
-    if (header.number(4) != payload.size() || octets.sliced(HeaderSize - DigestSize, DigestSize) != digestOf(payload))
+    if (header.number(4) != payload.size() || octets.sliced(HeaderSize - DigestSize, DigestSize) != digestOf(payload)) {
         return nullptr;
+    }
     auto tables = std::make_unique<Tables>();
     OctetReader reader(payload);
     readCountries(reader, *tables);
     readBlocks(reader, *tables);
     readSensors(reader, *tables);
     readAircraft(reader, payload, *tables);
-    if (!reader.isGood() || !reader.atEnd())
+    if (!reader.isGood() || !reader.atEnd()) {
         return nullptr;
+    }
     tables->buildPages();
     error = DataFileError::None;
     return tables;

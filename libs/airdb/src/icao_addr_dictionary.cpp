@@ -6,8 +6,9 @@ namespace korvane::airdb {
 
 ICAOAddrInfo ICAOAddrDictionary::getICAOAddrInfo(const ICAOAddr &address) const
 {
-    if (!address.isValid())
+    if (!address.isValid()) {
         return {};
+    }
     return {m_tables, address.value()};
 }
 

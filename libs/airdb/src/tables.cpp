@@ -30,8 +30,9 @@ void Tables::addCountry(const QString &name, const QString &isoCode2, const QStr
 Aircraft Tables::aircraftAt(quint32 address) const
 {
     const auto found = aircraft.constFind(address);
-    if (found == aircraft.cend())
+    if (found == aircraft.cend()) {
         return {};
+    }
     OctetReader reader(QByteArray::fromRawData(aircraftTexts.constData() + *found, aircraftTexts.size() - *found));
     const QString registration = reader.text();
     const QString type = reader.text();
@@ -46,8 +47,9 @@ void Tables::buildPages()
     std::stable_sort(
         order.begin(), order.end(), [this](int a, int b) { return blocks.at(a).size() > blocks.at(b).size(); });
     pages = BlockPages();
-    for (const int block : std::as_const(order))
+    for (const int block : std::as_const(order)) {
         pages.paint(blocks.at(block).first, blocks.at(block).last, block);
+    }
 }
 
 } // namespace korvane::airdb

@@ -8,8 +8,9 @@ std::string nearestPlot(const unsigned char *data, std::size_t length)
     double range = 1000;
     _ast_datablock_t block; // keep one and reuse it: it holds on to its memory
     while (length > 0) {
-        if (!ast_datablock_smart_decode(&block, data, length) || block.size == 0)
+        if (!ast_datablock_smart_decode(&block, data, length) || block.size == 0) {
             return korvane::asterix::errorText(block.error);
+        }
         for (const _ast_datarecord_t &record : block.records) {
             _ast_datarecord_048_t plot;
             ast_datarecord_048_disassemble(&plot, record); // not valid for records of other categories

@@ -45,27 +45,33 @@ bool decodeModeC(unsigned code, std::int32_t &feet)
     const auto pulse = [code](int number) { return code >> (13 - number) & 1U; };
     // Both parts are Gray codes: 500 ft steps in D2 D4 A1 A2 A4 B1 B2 B4, 100 ft steps in C1 C2 C4.
     unsigned fiveHundreds = 0;
-    for (const int number : {11, 13, 2, 4, 6, 8, 10, 12})
+    for (const int number : {11, 13, 2, 4, 6, 8, 10, 12}) {
         fiveHundreds = fiveHundreds << 1 | ((fiveHundreds & 1) ^ pulse(number));
+    }
     unsigned hundreds = pulse(1) << 2 | pulse(3) << 1 | pulse(5);
     hundreds ^= hundreds >> 1 ^ hundreds >> 2;
-    if (hundreds == 0 || hundreds == 5 || hundreds == 6 || pulse(7) != 0 || pulse(9) != 0)
+    if (hundreds == 0 || hundreds == 5 || hundreds == 6 || pulse(7) != 0 || pulse(9) != 0) {
         return false;
-    if (hundreds == 7)
+    }
+    if (hundreds == 7) {
         hundreds = 5;
+    }
     // Within odd steps of 500 ft the steps of 100 ft run backwards.
-    if (fiveHundreds % 2 == 1)
+    if (fiveHundreds % 2 == 1) {
         hundreds = 6 - hundreds;
+    }
     feet = static_cast<std::int32_t>(fiveHundreds * 500 + hundreds * 100) - 1300;
     return true;
 }
 
 void readThreat(_ast_bds_30_t &out, const unsigned char *mb)
 {
-    if (out.threatType == 1)
+    if (out.threatType == 1) {
         out.threatAddress = registerBits(mb, 31, 24);
-    if (out.threatType != 2)
+    }
+    if (out.threatType != 2) {
         return;
+    }
     out.threatAltitudeStatus = decodeModeC(registerBits(mb, 31, 13), out.threatAltitude);
     if (const unsigned range = registerBits(mb, 44, 7); range > 0) {
         out.threatRangeStatus = true;
@@ -105,12 +111,14 @@ _ast_bds_17_t ast_bds_17_decode(const unsigned char *mb)
     _ast_bds_17_t out{};
     bool isReserved = registerBits(mb, 30, 27) != 0;
     for (unsigned number = 1; number <= std::size(capabilityBits); ++number) {
-        if (!registerBit(mb, number))
+        if (!registerBit(mb, number)) {
             continue;
-        if (const std::uint8_t bds = capabilityBits[number - 1])
+        }
+        if (const std::uint8_t bds = capabilityBits[number - 1]) {
             out.registers[out.count++] = bds;
-        else
+        } else {
             isReserved = true;
+        }
     }
     out.success = !isReserved && out.count > 0;
     return out;

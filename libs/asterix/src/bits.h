@@ -35,8 +35,9 @@ inline std::uint64_t beOctets(const unsigned char *at, int count)
         return be32(at);
     default: {
         std::uint64_t value = 0;
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             value = value << 8 | at[i];
+        }
         return value;
     }
     }
@@ -49,8 +50,9 @@ inline std::uint64_t bitsAt(const unsigned char *at, unsigned bitOffset, unsigne
     const unsigned skipped = bitOffset % 8;
     const unsigned octets = (skipped + bits + 7) / 8;
     const unsigned surplus = octets * 8 - skipped - bits;
-    if (octets <= 8)
+    if (octets <= 8) {
         return beOctets(first, static_cast<int>(octets)) >> surplus & (~std::uint64_t{0} >> (64 - bits));
+    }
     const std::uint64_t upper = beOctets(first, 8) & (~std::uint64_t{0} >> skipped);
     return upper << (8 - surplus) | std::uint64_t{first[8]} >> surplus;
 }

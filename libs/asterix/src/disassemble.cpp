@@ -9,8 +9,9 @@ void textOfCallsign(char *text, std::uint64_t bits)
     int length = 0;
     for (int i = 0; i < 8; ++i) {
         text[i] = IcaoAlphabet[bits >> (42 - 6 * i) & 63];
-        if (text[i] != ' ')
+        if (text[i] != ' ') {
             length = i + 1;
+        }
     }
     text[length] = '\0';
 }
@@ -20,8 +21,9 @@ void readAscii(char *text, const unsigned char *at, int count)
     int length = 0;
     for (int i = 0; i < count; ++i) {
         text[i] = static_cast<char>(at[i]);
-        if (text[i] != ' ' && text[i] != '\0')
+        if (text[i] != ' ' && text[i] != '\0') {
             length = i + 1;
+        }
     }
     text[length] = '\0';
 }

@@ -69,78 +69,90 @@ inline _ast_sacsic_t readSacSic(const unsigned char *at)
 
 inline void readTime(_ast_item_time_t &out, const unsigned char *at)
 {
-    if (at)
+    if (at) {
         out = {true, be24(at) / 128.0};
+    }
 }
 
 inline void readMode3A(_ast_item_mode3a_t &out, const unsigned char *at)
 {
-    if (!at)
+    if (!at) {
         return;
+    }
     const unsigned value = be16(at);
     out = {true, bit(value, 15), bit(value, 14), bit(value, 13), static_cast<std::uint16_t>(value & 0x0FFF)};
 }
 
 inline void readFlightLevel(_ast_item_flight_level_t &out, const unsigned char *at)
 {
-    if (!at)
+    if (!at) {
         return;
+    }
     const unsigned value = be16(at);
     out = {true, bit(value, 15), bit(value, 14), static_cast<std::int32_t>(signExtended(value & 0x3FFF, 14))};
 }
 
 inline void readVelocity(_ast_item_velocity_t &out, const unsigned char *at)
 {
-    if (at)
+    if (at) {
         out = {true, be16(at) * (3600.0 / 16384), azimuth16(at + 2)};
+    }
 }
 
 inline void readTrackNumber(_ast_item_track_number_t &out, const unsigned char *at, unsigned mask)
 {
-    if (at)
+    if (at) {
         out = {true, static_cast<std::uint16_t>(be16(at) & mask)};
+    }
 }
 
 inline void readAddress(_ast_item_address_t &out, const unsigned char *at)
 {
-    if (at)
+    if (at) {
         out = {true, be24(at)};
+    }
 }
 
 inline void readRegisters(_ast_item_registers_t &out, const unsigned char *at)
 {
-    if (at)
+    if (at) {
         out = {true, at[0], at + 1};
+    }
 }
 
 inline void readHeight(_ast_item_height_t &out, const unsigned char *at)
 {
-    if (at)
+    if (at) {
         out = {true, signed16(at) * 6.25};
+    }
 }
 
 inline void readAcceleration(_ast_item_cartesian_acceleration_t &out, const unsigned char *at, double lsb)
 {
-    if (at)
+    if (at) {
         out = {true, static_cast<std::int8_t>(at[0]) * lsb, static_cast<std::int8_t>(at[1]) * lsb};
+    }
 }
 
 inline void readCartesianVelocity(_ast_item_cartesian_velocity_t &out, const unsigned char *at, double lsb)
 {
-    if (at)
+    if (at) {
         out = {true, signed16(at) * lsb, signed16(at + 2) * lsb};
+    }
 }
 
 inline void readWgs84(_ast_item_wgs84_t &out, const unsigned char *at, double lsb)
 {
-    if (at)
+    if (at) {
         out = {true, static_cast<std::int32_t>(be32(at)) * lsb, static_cast<std::int32_t>(be32(at + 4)) * lsb};
+    }
 }
 
 inline void readVehicleMessage(_ast_item_vehicle_message_t &out, const unsigned char *at)
 {
-    if (at)
+    if (at) {
         out = {true, bit(at[0], 7), static_cast<std::uint8_t>(at[0] & 0x7F)};
+    }
 }
 
 // The first octets of an extended item; those that are not sent read as zero.
@@ -148,8 +160,9 @@ template <std::size_t Count>
 std::array<unsigned, Count> readExtents(const unsigned char *at)
 {
     std::array<unsigned, Count> extents{at[0]};
-    for (std::size_t i = 1; i < Count && bit(extents[i - 1], 0); ++i)
+    for (std::size_t i = 1; i < Count && bit(extents[i - 1], 0); ++i) {
         extents[i] = at[i];
+    }
     return extents;
 }
 

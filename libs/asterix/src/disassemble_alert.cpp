@@ -47,22 +47,25 @@ void addFunction(Functions &out, std::uint8_t type, bool on)
         return;
     default:
         // The parts of a function stand side by side.
-        if (out.count > 0 && out.entries[out.count - 1].type == type)
+        if (out.count > 0 && out.entries[out.count - 1].type == type) {
             out.entries[out.count - 1].on |= on;
-        else
+        } else {
             out.entries[out.count++] = {type, on};
+        }
     }
 }
 
 void readFunctions(Functions &out, const unsigned char *at)
 {
-    if (!at)
+    if (!at) {
         return;
+    }
     out.present = true;
     for (std::size_t i = 0; i < std::size(statusBits); ++i) {
         addFunction(out, statusBits[i], bit(*at, 7 - static_cast<int>(i % 7)));
-        if (i % 7 == 6 && !(*at++ & 1))
+        if (i % 7 == 6 && !(*at++ & 1)) {
             break;
+        }
     }
 }
 
@@ -141,8 +144,9 @@ void readAircraftField(_ast_item_alert_aircraft_t &out, unsigned position, const
 void readAircraft(_ast_item_alert_aircraft_t &out, const _ast_datarecord_t &record, Item004 item, Items items)
 {
     const unsigned char *at = items[item];
-    if (!at)
+    if (!at) {
         return;
+    }
     out.present = true;
     visitSubItems(record, item, at,
         [&out](unsigned position, const unsigned char *octets) { readAircraftField(out, position, octets); });
@@ -151,8 +155,9 @@ void readAircraft(_ast_item_alert_aircraft_t &out, const _ast_datarecord_t &reco
 void readArea(_ast_datarecord_004_t &out, const _ast_datarecord_t &record, Items items)
 {
     const unsigned char *at = items[Item004::I100];
-    if (!at)
+    if (!at) {
         return;
+    }
     auto &area = out.i100;
     area.present = true;
     const auto readDesignator = [](bool &present, char *text, const unsigned char *octets) {
@@ -183,8 +188,9 @@ void readArea(_ast_datarecord_004_t &out, const _ast_datarecord_t &record, Items
 void readTiming(_ast_datarecord_004_t &out, const _ast_datarecord_t &record, Items items)
 {
     const unsigned char *at = items[Item004::I070];
-    if (!at)
+    if (!at) {
         return;
+    }
     auto &timing = out.i070;
     timing.present = true;
     const auto note = [](bool &present, double &out70, double value) {
@@ -245,8 +251,9 @@ void readConflictField(_ast_datarecord_004_t &out, unsigned position, const unsi
 void readConflict(_ast_datarecord_004_t &out, const _ast_datarecord_t &record, Items items)
 {
     const unsigned char *at = items[Item004::I120];
-    if (!at)
+    if (!at) {
         return;
+    }
     out.i120.present = true;
     visitSubItems(record, Item004::I120, at,
         [&out](unsigned position, const unsigned char *octets) { readConflictField(out, position, octets); });
@@ -254,12 +261,15 @@ void readConflict(_ast_datarecord_004_t &out, const _ast_datarecord_t &record, I
 
 void readDeviations(_ast_datarecord_004_t &out, Items items)
 {
-    if (const unsigned char *at = items[Item004::I074])
+    if (const unsigned char *at = items[Item004::I074]) {
         out.i074 = {true, signed16(at) * 32};
-    if (const unsigned char *at = items[Item004::I075])
+    }
+    if (const unsigned char *at = items[Item004::I075]) {
         out.i075 = {true, signed24(at) * 0.5};
-    if (const unsigned char *at = items[Item004::I076])
+    }
+    if (const unsigned char *at = items[Item004::I076]) {
         out.i076 = {true, signed16(at) * 25};
+    }
 }
 
 } // namespace
@@ -270,16 +280,19 @@ using namespace korvane::asterix;
 void ast_datarecord_004_disassemble(_ast_datarecord_004_t *out, const _ast_datarecord_t &record)
 {
     *out = {};
-    if (!isReadable(record, 4))
+    if (!isReadable(record, 4)) {
         return;
+    }
     out->valid = true;
     const Items items(record);
     out->i010 = readSacSic(items[Item004::I010]);
-    if (const unsigned char *at = items[Item004::I000])
+    if (const unsigned char *at = items[Item004::I000]) {
         out->i000 = {true, at[0]};
+    }
     readTime(out->i020, items[Item004::I020]);
-    if (const unsigned char *at = items[Item004::I040])
+    if (const unsigned char *at = items[Item004::I040]) {
         out->i040 = {true, static_cast<std::uint16_t>(be16(at))};
+    }
     if (const unsigned char *at = items[Item004::I045]) {
         out->i045 = {
             true, bit(at[0], 7), static_cast<std::uint8_t>(at[0] >> 4 & 7), static_cast<std::uint8_t>(at[0] >> 1 & 7)};

@@ -13,8 +13,9 @@ std::uint8_t bitsOf(unsigned value, int lowest, int count)
 
 void readDescriptor010(_ast_datarecord_010_t &out, const unsigned char *at)
 {
-    if (!at)
+    if (!at) {
         return;
+    }
     const auto [first, second, third] = readExtents<3>(at);
     out.i020 = {true, bitsOf(first, 5, 3), bit(first, 4), bitsOf(first, 3, 1), bit(first, 2), bit(first, 1),
         bit(second, 7), bit(second, 6), bit(second, 5), bitsOf(second, 3, 2), bitsOf(second, 1, 2), bit(third, 7)};
@@ -22,8 +23,9 @@ void readDescriptor010(_ast_datarecord_010_t &out, const unsigned char *at)
 
 void readStatus010(_ast_datarecord_010_t &out, const unsigned char *at)
 {
-    if (!at)
+    if (!at) {
         return;
+    }
     const auto [first, second, third] = readExtents<3>(at);
     out.i170 = {true, bit(first, 7), bit(first, 6), bitsOf(first, 4, 2), bit(first, 3), bit(first, 2), bit(first, 1),
         bitsOf(second, 6, 2), bitsOf(second, 3, 3), bitsOf(second, 1, 2), bit(third, 7)};
@@ -32,10 +34,12 @@ void readStatus010(_ast_datarecord_010_t &out, const unsigned char *at)
 void readMotion010(_ast_datarecord_010_t &out, Items items)
 {
     readWgs84(out.i041, items[Item010::I041], 180.0 / 2147483648);
-    if (const unsigned char *at = items[Item010::I040])
+    if (const unsigned char *at = items[Item010::I040]) {
         out.i040 = {true, static_cast<double>(be16(at)), azimuth16(at + 2)};
-    if (const unsigned char *at = items[Item010::I042])
+    }
+    if (const unsigned char *at = items[Item010::I042]) {
         out.i042 = {true, signed16(at), signed16(at + 2)};
+    }
     readVelocity(out.i200, items[Item010::I200]);
     readCartesianVelocity(out.i202, items[Item010::I202], 0.0625);
     readAcceleration(out.i210, items[Item010::I210], 0.0625);
@@ -50,26 +54,31 @@ void readShape010(_ast_datarecord_010_t &out, Items items)
         out.i270 = {true, static_cast<double>(length >> 1), (orientation >> 1) * (360.0 / 128),
             static_cast<double>(width >> 1)};
     }
-    if (const unsigned char *at = items[Item010::I500])
+    if (const unsigned char *at = items[Item010::I500]) {
         out.i500 = {true, at[0] * 0.25, at[1] * 0.25, signed16(at + 2) * 0.25};
-    if (const unsigned char *at = items[Item010::I131])
+    }
+    if (const unsigned char *at = items[Item010::I131]) {
         out.i131 = {true, at[0]};
+    }
 }
 
 void readSystem010(_ast_datarecord_010_t &out, Items items)
 {
-    if (const unsigned char *at = items[Item010::I000])
+    if (const unsigned char *at = items[Item010::I000]) {
         out.i000 = {true, at[0]};
-    if (const unsigned char *at = items[Item010::I550])
+    }
+    if (const unsigned char *at = items[Item010::I550]) {
         out.i550 = {true, bitsOf(at[0], 6, 2), bit(at[0], 5), bit(at[0], 4), bit(at[0], 3), bit(at[0], 2)};
+    }
 }
 
 // Target identification of both categories: its source, then the characters.
 template <typename Identification>
 void readIdentification(Identification &out, const unsigned char *at)
 {
-    if (!at)
+    if (!at) {
         return;
+    }
     out.present = true;
     out.sti = static_cast<std::uint8_t>(at[0] >> 6);
     readCallsign(out.text, at + 1);
@@ -77,8 +86,9 @@ void readIdentification(Identification &out, const unsigned char *at)
 
 void readDescriptor020(_ast_datarecord_020_t &out, const unsigned char *at)
 {
-    if (!at)
+    if (!at) {
         return;
+    }
     const auto [first, second] = readExtents<2>(at);
     out.i020 = {true, bitsOf(first, 1, 7), bit(second, 7), bit(second, 6), bitsOf(second, 5, 1), bit(second, 4),
         bit(second, 3), bit(second, 2), bit(second, 1)};
@@ -86,8 +96,9 @@ void readDescriptor020(_ast_datarecord_020_t &out, const unsigned char *at)
 
 void readStatus020(_ast_datarecord_020_t &out, const unsigned char *at)
 {
-    if (!at)
+    if (!at) {
         return;
+    }
     const auto [first, second] = readExtents<2>(at);
     out.i170 = {true, bit(first, 7), bit(first, 6), bit(first, 5), bitsOf(first, 3, 2), bit(first, 2), bit(first, 1),
         bit(second, 7)};
@@ -96,8 +107,9 @@ void readStatus020(_ast_datarecord_020_t &out, const unsigned char *at)
 void readMotion020(_ast_datarecord_020_t &out, Items items)
 {
     readWgs84(out.i041, items[Item020::I041], 180.0 / 33554432);
-    if (const unsigned char *at = items[Item020::I042])
+    if (const unsigned char *at = items[Item020::I042]) {
         out.i042 = {true, signed24(at) * 0.5, signed24(at + 3) * 0.5};
+    }
     readCartesianVelocity(out.i202, items[Item020::I202], 0.25);
     readAcceleration(out.i210, items[Item020::I210], 0.25);
     if (const unsigned char *at = items[Item020::I090]) {
@@ -114,10 +126,12 @@ void readModeS020(_ast_datarecord_020_t &out, Items items)
     readAddress(out.i220, items[Item020::I220]);
     readIdentification(out.i245, items[Item020::I245]);
     readRegisters(out.i250, items[Item020::I250]);
-    if (const unsigned char *at = items[Item020::I230])
+    if (const unsigned char *at = items[Item020::I230]) {
         out.i230 = {true, bitsOf(at[0], 5, 3), bitsOf(at[0], 2, 3)};
-    if (const unsigned char *at = items[Item020::I260])
+    }
+    if (const unsigned char *at = items[Item020::I260]) {
         out.i260 = {true, at};
+    }
 }
 
 } // namespace
@@ -128,8 +142,9 @@ using namespace korvane::asterix;
 void ast_datarecord_010_disassemble(_ast_datarecord_010_t *out, const _ast_datarecord_t &record)
 {
     *out = {};
-    if (!isReadable(record, 10))
+    if (!isReadable(record, 10)) {
         return;
+    }
     out->valid = true;
     const Items items(record);
     out->i010 = readSacSic(items[Item010::I010]);
@@ -143,8 +158,9 @@ void ast_datarecord_010_disassemble(_ast_datarecord_010_t *out, const _ast_datar
     readAddress(out->i220, items[Item010::I220]);
     readIdentification(out->i245, items[Item010::I245]);
     readRegisters(out->i250, items[Item010::I250]);
-    if (const unsigned char *at = items[Item010::I300])
+    if (const unsigned char *at = items[Item010::I300]) {
         out->i300 = {true, at[0]};
+    }
     readVehicleMessage(out->i310, items[Item010::I310]);
     readShape010(*out, items);
 }
@@ -152,8 +168,9 @@ void ast_datarecord_010_disassemble(_ast_datarecord_010_t *out, const _ast_datar
 void ast_datarecord_020_disassemble(_ast_datarecord_020_t *out, const _ast_datarecord_t &record)
 {
     *out = {};
-    if (!isReadable(record, 20))
+    if (!isReadable(record, 20)) {
         return;
+    }
     out->valid = true;
     const Items items(record);
     out->i010 = readSacSic(items[Item020::I010]);
@@ -164,7 +181,8 @@ void ast_datarecord_020_disassemble(_ast_datarecord_020_t *out, const _ast_datar
     readStatus020(*out, items[Item020::I170]);
     readMode3A(out->i070, items[Item020::I070]);
     readModeS020(*out, items);
-    if (const unsigned char *at = items[Item020::I300])
+    if (const unsigned char *at = items[Item020::I300]) {
         out->i300 = {true, at[0]};
+    }
     readVehicleMessage(out->i310, items[Item020::I310]);
 }

@@ -66,8 +66,9 @@ void readAircraftDerivedField(_ast_datarecord_062_t &out, unsigned position, con
 
 void readAircraftDerived(_ast_datarecord_062_t &out, const _ast_datarecord_t &record, const unsigned char *at)
 {
-    if (!at)
+    if (!at) {
         return;
+    }
     out.i380.present = true;
     visitSubItems(record, Item062::I380, at,
         [&out](unsigned position, const unsigned char *next) { readAircraftDerivedField(out, position, next); });
@@ -77,11 +78,13 @@ void readFlightPlan(_ast_datarecord_062_t &out, const _ast_datarecord_t &record,
 {
     constexpr unsigned callsign = 1; // position in the presence field
     constexpr int callsignLength = 7;
-    if (!at)
+    if (!at) {
         return;
+    }
     visitSubItems(record, Item062::I390, at, [&out](unsigned position, const unsigned char *next) {
-        if (position != callsign)
+        if (position != callsign) {
             return;
+        }
         out.i390.callsignPresent = true;
         readAscii(out.i390.callsign, next, callsignLength);
     });
@@ -89,8 +92,9 @@ void readFlightPlan(_ast_datarecord_062_t &out, const _ast_datarecord_t &record,
 
 void readStatus(_ast_datarecord_062_t &out, const unsigned char *at)
 {
-    if (!at)
+    if (!at) {
         return;
+    }
     const auto extents = readExtents<4>(at);
     out.i080 = {true, bit(extents[0], 7), bit(extents[0], 6), bit(extents[0], 5),
         static_cast<std::uint8_t>(extents[0] >> 2 & 7), bit(extents[0], 1), bit(extents[1], 7), bit(extents[1], 6),
@@ -105,12 +109,15 @@ void readKinematics(_ast_datarecord_062_t &out, Items items)
         const auto longitude = static_cast<std::int32_t>(be32(at + 4));
         out.i105 = {true, latitude * lsb, longitude * lsb, latitude, longitude, lsb};
     }
-    if (const unsigned char *at = items[Item062::I100])
+    if (const unsigned char *at = items[Item062::I100]) {
         out.i100 = {true, signed24(at) * 0.5, signed24(at + 3) * 0.5};
-    if (const unsigned char *at = items[Item062::I185])
+    }
+    if (const unsigned char *at = items[Item062::I185]) {
         out.i185 = {true, signed16(at) * 0.25, signed16(at + 2) * 0.25};
-    if (const unsigned char *at = items[Item062::I220])
+    }
+    if (const unsigned char *at = items[Item062::I220]) {
         out.i220 = {true, signed16(at) * 6.25};
+    }
     if (const unsigned char *at = items[Item062::I200]) {
         out.i200 = {true, static_cast<std::uint8_t>(at[0] >> 6), static_cast<std::uint8_t>(at[0] >> 4 & 3),
             static_cast<std::uint8_t>(at[0] >> 2 & 3), bit(at[0], 1)};
@@ -119,10 +126,12 @@ void readKinematics(_ast_datarecord_062_t &out, Items items)
 
 void readLevels(_ast_datarecord_062_t &out, Items items)
 {
-    if (const unsigned char *at = items[Item062::I136])
+    if (const unsigned char *at = items[Item062::I136]) {
         out.i136 = {true, signed16(at)};
-    if (const unsigned char *at = items[Item062::I130])
+    }
+    if (const unsigned char *at = items[Item062::I130]) {
         out.i130 = {true, signed16(at) * 6.25};
+    }
     if (const unsigned char *at = items[Item062::I135]) {
         const unsigned value = be16(at);
         out.i135 = {true, bit(value, 15), static_cast<double>(signExtended(value & 0x7FFF, 15))};
@@ -137,8 +146,9 @@ using namespace korvane::asterix;
 void ast_datarecord_062_disassemble(_ast_datarecord_062_t *out, const _ast_datarecord_t &record)
 {
     *out = {};
-    if (!isReadable(record, 62))
+    if (!isReadable(record, 62)) {
         return;
+    }
     out->valid = true;
     const Items items(record);
     out->i010 = readSacSic(items[Item062::I010]);
@@ -151,8 +161,9 @@ void ast_datarecord_062_disassemble(_ast_datarecord_062_t *out, const _ast_datar
     }
     readAircraftDerived(*out, record, items[Item062::I380]);
     readFlightPlan(*out, record, items[Item062::I390]);
-    if (const unsigned char *at = items[Item062::I040])
+    if (const unsigned char *at = items[Item062::I040]) {
         out->i040 = {true, static_cast<std::uint16_t>(be16(at))};
+    }
     readStatus(*out, items[Item062::I080]);
     readLevels(*out, items);
 }

@@ -16,8 +16,9 @@ std::int8_t signed8(unsigned char octet)
 
 void readQualifier(_ast_datarecord_008_t &out, const unsigned char *at)
 {
-    if (!at)
+    if (!at) {
         return;
+    }
     const auto extents = readExtents<2>(at);
     out.i020 = {true, bit(extents[0], 7), static_cast<std::uint8_t>(extents[0] >> 4 & 7), (extents[0] >> 1 & 7) * 22.5,
         bit(extents[1], 2), bit(extents[1], 1)};
@@ -27,12 +28,14 @@ void readQualifier(_ast_datarecord_008_t &out, const unsigned char *at)
 template <typename Item, typename Read>
 void readSequence(Item &out, const unsigned char *at, unsigned octets, Read read)
 {
-    if (!at)
+    if (!at) {
         return;
+    }
     out.present = true;
     out.count = at[0];
-    for (unsigned i = 0; i < out.count; ++i)
+    for (unsigned i = 0; i < out.count; ++i) {
         read(i, at + 1 + i * octets);
+    }
 }
 
 void readVectors(_ast_datarecord_008_t &out, Items items)
@@ -53,14 +56,16 @@ void readVectors(_ast_datarecord_008_t &out, Items items)
 
 void readPicture(_ast_datarecord_008_t &out, Items items)
 {
-    if (const unsigned char *at = items[Item008::I090])
+    if (const unsigned char *at = items[Item008::I090]) {
         out.i090 = {true, be24(at), 1.0 / 128};
+    }
     if (const unsigned char *at = items[Item008::I100]) {
         out.i100 = {true, static_cast<std::int8_t>(signExtended(at[0] >> 3, 5)), static_cast<std::uint8_t>(at[0] & 7),
             static_cast<std::uint16_t>(be16(at + 1) >> 1)};
     }
-    if (const unsigned char *at = items[Item008::I120])
+    if (const unsigned char *at = items[Item008::I120]) {
         out.i120 = {true, static_cast<std::uint16_t>(be16(at))};
+    }
 }
 
 // The vector from its start in the direction that its shading has.
@@ -86,13 +91,15 @@ using namespace korvane::asterix;
 void ast_datarecord_008_disassemble(_ast_datarecord_008_t *out, const _ast_datarecord_t &record)
 {
     *out = {};
-    if (!isReadable(record, 8))
+    if (!isReadable(record, 8)) {
         return;
+    }
     out->valid = true;
     const Items items(record);
     out->i010 = readSacSic(items[Item008::I010]);
-    if (const unsigned char *at = items[Item008::I000])
+    if (const unsigned char *at = items[Item008::I000]) {
         out->i000 = {true, at[0]};
+    }
     readQualifier(*out, items[Item008::I020]);
     readVectors(*out, items);
     if (const unsigned char *at = items[Item008::I040]) {
@@ -110,8 +117,9 @@ unsigned ast_weather_segment_count(const _ast_datarecord_008_t &record)
 bool ast_weather_segment_get(
     _ast_weather_segment_t *segment, const _ast_datarecord_008_t &record, unsigned index, int scalingFactor)
 {
-    if (index >= ast_weather_segment_count(record))
+    if (index >= ast_weather_segment_count(record)) {
         return false;
+    }
     const unsigned line = index - record.i036.count;
     if (index < record.i036.count) {
         *segment = shadingSegment(record.i036.vectors[index], record.i020.orientation);

@@ -23,10 +23,11 @@ void putBits(unsigned char *octets, unsigned bitOffset, unsigned bits, std::uint
     for (unsigned i = 0; i < bits; ++i) {
         const unsigned at = bitOffset + i;
         const auto mask = static_cast<unsigned char>(0x80U >> at % 8);
-        if (value >> (bits - 1 - i) & 1)
+        if (value >> (bits - 1 - i) & 1) {
             octets[at / 8] |= mask;
-        else
+        } else {
             octets[at / 8] &= static_cast<unsigned char>(~mask);
+        }
     }
 }
 
@@ -56,8 +57,9 @@ struct BlockEncoder::State {
     {
         slots.resize(static_cast<std::size_t>(table->layout.nodeCount()));
         nodes.resize(slots.size());
-        for (const Node &item : table->layout.items())
+        for (const Node &item : table->layout.items()) {
             enrol(item, item.name);
+        }
         block.reserve(MaxBlockOctets);
         items.reserve(table->layout.items().size());
         reset();
@@ -67,8 +69,9 @@ struct BlockEncoder::State {
     {
         nodes[static_cast<std::size_t>(node.id)] = &node;
         ids.emplace(path, node.id); // of two alternatives with fields of one name, the first stands for both
-        if (node.anchor == &node)
+        if (node.anchor == &node) {
             slots[static_cast<std::size_t>(node.id)].octets.resize((node.bits + 7U) / 8);
+        }
         for (const Node &child : node.children) {
             const bool isTransparent = node.isRepetitive() || node.kind == Kind::Case;
             enrol(child, isTransparent ? path : path + '/' + child.name);
@@ -98,17 +101,20 @@ struct BlockEncoder::State {
     {
         for (const Node *each = &node; each; each = each->parent) {
             Slot &touched = slot(*each);
-            if (touched.serial == serial)
+            if (touched.serial == serial) {
                 return;
+            }
             touched.serial = serial;
             touched.extentEnd = 0;
             touched.count = 0;
-            if (each->isRepetitive() || each->kind == Kind::Explicit)
+            if (each->isRepetitive() || each->kind == Kind::Explicit) {
                 touched.octets.clear();
-            else
+            } else {
                 std::fill(touched.octets.begin(), touched.octets.end(), static_cast<unsigned char>(0));
-            if (!each->parent)
+            }
+            if (!each->parent) {
                 items.push_back(each);
+            }
         }
     }
 
@@ -119,8 +125,9 @@ struct BlockEncoder::State {
         const Node *repetition = anchor.parent && anchor.parent->isRepetitive() ? anchor.parent : nullptr;
         if (repetition) {
             Slot &repetitions = slot(*repetition);
-            if (repetitions.serial != serial || repetitions.count == 0)
+            if (repetitions.serial != serial || repetitions.count == 0) {
                 return nullptr;
+            }
             return repetitions.octets.data() + (repetitions.count - 1) * repetition->elementOctets;
         }
         touch(node);
@@ -132,8 +139,9 @@ struct BlockEncoder::State {
     bool put(const Node &node, std::uint64_t bits)
     {
         unsigned char *image = imageFor(node);
-        if (image)
+        if (image) {
             putBits(image, node.bitOffset, node.bits, bits);
+        }
         return image != nullptr;
     }
 
@@ -154,12 +162,15 @@ struct BlockEncoder::State {
     // The element that holds the value of node: itself, or the alternative of a case; null where it has none.
     const Node *elementOf(const Node &node)
     {
-        if (isElement(node.kind))
+        if (isElement(node.kind)) {
             return &node;
-        if (node.isRepetitive() && node.plainElements)
+        }
+        if (node.isRepetitive() && node.plainElements) {
             return &node.children[0];
-        if (node.kind != Kind::Case)
+        }
+        if (node.kind != Kind::Case) {
             return nullptr;
+        }
         for (const Node &alternative : node.children) {
             bool fits = true;
             for (std::size_t i = 0; i < node.selectors.size(); ++i) {
@@ -167,20 +178,23 @@ struct BlockEncoder::State {
                 const Node *field = selector.sibling ? selector.sibling : table->layout.find(selector.path);
                 fits = fits && field && valueOf(*field) == alternative.selected[i];
             }
-            if (fits)
+            if (fits) {
                 return elementOf(alternative);
+            }
         }
         return &node; // one raw value
     }
 
     bool append(const Node &repetitive)
     {
-        if (!repetitive.isRepetitive())
+        if (!repetitive.isRepetitive()) {
             return false;
+        }
         touch(repetitive);
         Slot &repetitions = slot(repetitive);
-        if (repetitive.kind == Kind::Repetitive && repetitions.count == MaxRepetitions)
+        if (repetitive.kind == Kind::Repetitive && repetitions.count == MaxRepetitions) {
             return false;
+        }
         repetitions.octets.resize(repetitions.octets.size() + repetitive.elementOctets);
         ++repetitions.count;
         return true;
@@ -222,8 +236,9 @@ struct BlockEncoder::State {
     {
         Slot &image = slot(node);
         for (const Node &child : node.children) {
-            if (child.kind != Kind::ExtentEnd)
+            if (child.kind != Kind::ExtentEnd) {
                 continue;
+            }
             const bool more = image.extentEnd > child.bitOffset;
             putBits(image.octets.data(), child.bitOffset, 1, more ? 1 : 0);
             if (!more) {
@@ -241,8 +256,9 @@ struct BlockEncoder::State {
         const std::size_t presence = block.size();
         block.push_back(0);
         for (std::size_t i = 0; i < node.children.size(); ++i) {
-            if (isSent(node.children[i]))
+            if (isSent(node.children[i])) {
                 markPresent(presence, i);
+            }
         }
         emitChildren(node);
     }
@@ -250,8 +266,9 @@ struct BlockEncoder::State {
     void emitChildren(const Node &node)
     {
         for (const Node &child : node.children) {
-            if (isSent(child))
+            if (isSent(child)) {
                 emit(child);
+            }
         }
     }
 
@@ -262,8 +279,9 @@ struct BlockEncoder::State {
         block.push_back(0);
         emitOctets(slot(node).octets);
         unsigned presence = 0;
-        for (std::size_t i = 0; i < node.children.size(); ++i)
+        for (std::size_t i = 0; i < node.children.size(); ++i) {
             presence |= isSent(node.children[i]) ? 0x80U >> i : 0U;
+        }
         if (slot(node).octets.empty() && presence != 0) {
             block.push_back(static_cast<unsigned char>(presence));
             emitChildren(node);
@@ -285,10 +303,12 @@ struct BlockEncoder::State {
     void emitRepetitiveFx(const Node &node)
     {
         Slot &repetitions = slot(node);
-        if (repetitions.count == 0)
+        if (repetitions.count == 0) {
             append(node); // there is no way to send none
-        for (std::size_t i = 1; i < repetitions.count; ++i)
+        }
+        for (std::size_t i = 1; i < repetitions.count; ++i) {
             repetitions.octets[i * node.elementOctets - 1] |= 1;
+        }
         emitOctets(repetitions.octets);
     }
 
@@ -300,8 +320,9 @@ struct BlockEncoder::State {
             const auto index = std::find_if(table->uaps.begin(), table->uaps.end(), same) - table->uaps.begin();
             put(*table->selectorField, static_cast<std::uint64_t>(index));
         }
-        if (forced || !table->selectorField)
+        if (forced || !table->selectorField) {
             return forced ? forced : table->uaps.front().get();
+        }
         const std::uint64_t chosen = valueOf(*table->selectorField);
         return table->uaps[chosen < table->uaps.size() ? chosen : 0].get();
     }
@@ -321,8 +342,9 @@ struct BlockEncoder::State {
         }
         for (int i = 0; i < uap.count; ++i) {
             const Node *item = uap.steps[static_cast<std::size_t>(i)].node;
-            if (item && isSet(*item))
+            if (item && isSet(*item)) {
                 emit(*item);
+            }
         }
         // An item that the UAP has no place for is no record that was asked for.
         return sent == static_cast<int>(items.size()) && !tooLong && block.size() <= MaxBlockOctets;
@@ -333,8 +355,9 @@ BlockEncoder::BlockEncoder(int category, const char *edition, const char *variat
 {
     const CategoryTable *table = findTable(category, edition);
     const Uap *forced = table && variation ? table->variation(variation) : nullptr;
-    if (!table || (variation && !forced))
+    if (!table || (variation && !forced)) {
         return;
+    }
     m_state = std::make_unique<State>(*table);
     m_state->forced = forced;
     beginBlock();
@@ -356,25 +379,29 @@ int BlockEncoder::category() const
 
 void BlockEncoder::beginBlock()
 {
-    if (!m_state)
+    if (!m_state) {
         return;
+    }
     m_state->reset();
     m_state->block[2] = HeaderOctets;
 }
 
 void BlockEncoder::beginRecord()
 {
-    if (m_state)
+    if (m_state) {
         m_state->beginRecord();
+    }
 }
 
 BlockEncoder::Handle BlockEncoder::find(std::string_view path) const
 {
     Handle handle;
-    if (!m_state)
+    if (!m_state) {
         return handle;
-    if (const auto found = m_state->ids.find(path); found != m_state->ids.end())
+    }
+    if (const auto found = m_state->ids.find(path); found != m_state->ids.end()) {
         handle.m_node = found->second;
+    }
     return handle;
 }
 
@@ -385,8 +412,9 @@ bool BlockEncoder::set(std::string_view path, double value)
 
 bool BlockEncoder::set(Handle field, double value)
 {
-    if (!m_state || !field.valid())
+    if (!m_state || !field.valid()) {
         return false;
+    }
     const Node &node = *m_state->nodes[static_cast<std::size_t>(field.m_node)];
     const Node *element = m_state->elementOf(node);
     const auto bits = element ? bitsOfNumber(*element, value) : std::nullopt;
@@ -400,12 +428,14 @@ bool BlockEncoder::setRaw(std::string_view path, std::uint64_t value)
 
 bool BlockEncoder::setRaw(Handle field, std::uint64_t value)
 {
-    if (!m_state || !field.valid())
+    if (!m_state || !field.valid()) {
         return false;
+    }
     const Node &node = *m_state->nodes[static_cast<std::size_t>(field.m_node)];
     const Node *element = m_state->elementOf(node);
-    if (!element || element->bits > 64 || (element->bits < 64 && value >> element->bits != 0))
+    if (!element || element->bits > 64 || (element->bits < 64 && value >> element->bits != 0)) {
         return false;
+    }
     return m_state->openRepetition(node) && m_state->put(*element, value);
 }
 
@@ -416,8 +446,9 @@ bool BlockEncoder::setText(std::string_view path, std::string_view text)
 
 bool BlockEncoder::setText(Handle field, std::string_view text)
 {
-    if (!m_state || !field.valid())
+    if (!m_state || !field.valid()) {
         return false;
+    }
     const Node &node = *m_state->nodes[static_cast<std::size_t>(field.m_node)];
     const Node *element = m_state->elementOf(node);
     const auto bits = element ? bitsOfText(*element, text) : std::nullopt;
@@ -442,48 +473,57 @@ bool BlockEncoder::setExplicit(std::string_view path, std::span<const unsigned c
 
 bool BlockEncoder::setExplicit(Handle field, std::span<const unsigned char> contents)
 {
-    if (!m_state || !field.valid())
+    if (!m_state || !field.valid()) {
         return false;
+    }
     const Node &node = *m_state->nodes[static_cast<std::size_t>(field.m_node)];
     if (node.kind == Kind::Explicit) {
-        if (contents.size() > MaxExplicitContents)
+        if (contents.size() > MaxExplicitContents) {
             return false;
+        }
         m_state->touch(node);
         m_state->slot(node).octets.assign(contents.begin(), contents.end());
         return true;
     }
     const Node *element = m_state->elementOf(node);
-    if (!element || element->bits != contents.size() * 8 || element->bitOffset % 8 != 0)
+    if (!element || element->bits != contents.size() * 8 || element->bitOffset % 8 != 0) {
         return false;
-    if (!m_state->openRepetition(node))
+    }
+    if (!m_state->openRepetition(node)) {
         return false;
+    }
     unsigned char *image = m_state->imageFor(*element);
-    if (image)
+    if (image) {
         std::copy(contents.begin(), contents.end(), image + element->bitOffset / 8);
+    }
     return image != nullptr;
 }
 
 bool BlockEncoder::setPresent(std::string_view path)
 {
     const Handle handle = find(path);
-    if (!handle.valid())
+    if (!handle.valid()) {
         return false;
+    }
     const Node &node = *m_state->nodes[static_cast<std::size_t>(handle.m_node)];
-    if (node.anchor->parent && node.anchor->parent->isRepetitive())
+    if (node.anchor->parent && node.anchor->parent->isRepetitive()) {
         return false;
+    }
     m_state->touch(node);
     return true;
 }
 
 bool BlockEncoder::endRecord()
 {
-    if (!m_state)
+    if (!m_state) {
         return false;
+    }
     const std::size_t before = m_state->block.size();
     const bool fits = m_state->emitRecord(*m_state->chooseUap());
     m_state->beginRecord();
-    if (!fits)
+    if (!fits) {
         m_state->block.resize(before);
+    }
     m_state->records += fits ? 1 : 0;
     m_state->block[1] = static_cast<unsigned char>(m_state->block.size() >> 8);
     m_state->block[2] = static_cast<unsigned char>(m_state->block.size());

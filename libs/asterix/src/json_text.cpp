@@ -22,29 +22,33 @@ bool JsonText::fail()
 
 char JsonText::peek()
 {
-    while (m_at < m_text.size() && isBlank(m_text[m_at]))
+    while (m_at < m_text.size() && isBlank(m_text[m_at])) {
         ++m_at;
+    }
     return m_at < m_text.size() ? m_text[m_at] : '\0';
 }
 
 bool JsonText::expect(char character)
 {
-    if (m_failed || peek() != character || m_at == m_text.size())
+    if (m_failed || peek() != character || m_at == m_text.size()) {
         return fail();
+    }
     ++m_at;
     return true;
 }
 
 bool JsonText::nextMember(char closing, bool &isFirst)
 {
-    if (m_failed)
+    if (m_failed) {
         return false;
+    }
     if (peek() == closing) {
         ++m_at;
         return false;
     }
-    if (!isFirst && !expect(','))
+    if (!isFirst && !expect(',')) {
         return false;
+    }
     isFirst = false;
     return true;
 }
@@ -52,15 +56,18 @@ bool JsonText::nextMember(char closing, bool &isFirst)
 bool JsonText::readString(std::string &out)
 {
     out.clear();
-    if (!expect('"'))
+    if (!expect('"')) {
         return false;
+    }
     while (m_at < m_text.size()) {
         const char character = m_text[m_at++];
-        if (character == '"')
+        if (character == '"') {
             return true;
+        }
         if (character == '\\') {
-            if (!readEscape(out))
+            if (!readEscape(out)) {
                 return fail();
+            }
         } else if (static_cast<unsigned char>(character) < 0x20) {
             return fail();
         } else {
@@ -74,20 +81,23 @@ bool JsonText::readEscape(std::string &out)
 {
     constexpr std::string_view names = "\"\\/bfnrt";
     constexpr std::string_view values = "\"\\/\b\f\n\r\t";
-    if (m_at == m_text.size())
+    if (m_at == m_text.size()) {
         return false;
+    }
     const char name = m_text[m_at++];
     if (const std::size_t found = names.find(name); found != std::string_view::npos) {
         out.push_back(values[found]);
         return true;
     }
-    if (name != 'u' || m_text.size() - m_at < 4)
+    if (name != 'u' || m_text.size() - m_at < 4) {
         return false;
+    }
     unsigned code = 0;
     const char *const first = m_text.data() + m_at;
     m_at += 4;
-    if (std::from_chars(first, first + 4, code, 16).ptr != first + 4 || code > 0xFF)
+    if (std::from_chars(first, first + 4, code, 16).ptr != first + 4 || code > 0xFF) {
         return false;
+    }
     out.push_back(static_cast<char>(code));
     return true;
 }
@@ -102,29 +112,34 @@ bool JsonText::readNumber(double &out)
     peek();
     const char *const first = m_text.data() + m_at;
     const auto [end, error] = std::from_chars(first, m_text.data() + m_text.size(), out);
-    if (m_failed || error != std::errc{})
+    if (m_failed || error != std::errc{}) {
         return fail();
+    }
     m_at += static_cast<std::size_t>(end - first);
     return true;
 }
 
 bool JsonText::skipValue(int depth)
 {
-    if (depth > MaxDepth)
+    if (depth > MaxDepth) {
         return fail();
+    }
     std::string text;
     const char opening = peek();
-    if (opening == '"')
+    if (opening == '"') {
         return readString(text);
+    }
     if (opening == '{' || opening == '[') {
         ++m_at;
         const char closing = opening == '{' ? '}' : ']';
         bool isFirst = true;
         while (nextMember(closing, isFirst)) {
-            if (opening == '{' && !readKey(text))
+            if (opening == '{' && !readKey(text)) {
                 return false;
-            if (!skipValue(depth + 1))
+            }
+            if (!skipValue(depth + 1)) {
                 return false;
+            }
         }
         return !m_failed;
     }

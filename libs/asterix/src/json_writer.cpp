@@ -20,8 +20,9 @@ constexpr std::size_t LineRoom = 256;
 char *writeKey(char *out, const Node &node)
 {
     std::memcpy(out, node.key.data(), KeyRoom);
-    if (node.keySize > KeyRoom) [[unlikely]]
+    if (node.keySize > KeyRoom) [[unlikely]] {
         std::memcpy(out, node.key.data(), node.keySize);
+    }
     return out + node.keySize;
 }
 
@@ -34,8 +35,9 @@ char *writeLiteral(char *out, const char (&text)[N])
 
 char *writeHex(char *out, std::uint64_t bits, unsigned count)
 {
-    for (unsigned digit = (count + 3) / 4; digit-- > 0;)
+    for (unsigned digit = (count + 3) / 4; digit-- > 0;) {
         *out++ = HexDigits[bits >> (4 * digit) & 15];
+    }
     return out;
 }
 
@@ -70,41 +72,47 @@ char *writeAscii(char *out, std::uint64_t bits, unsigned count)
 {
     unsigned left = count / 8;
     unsigned last = 0; // characters that are neither blank nor zero at the end are not sent
-    while (last < left && ((bits >> (8 * last) & 0xFF) == ' ' || (bits >> (8 * last) & 0xFF) == 0))
+    while (last < left && ((bits >> (8 * last) & 0xFF) == ' ' || (bits >> (8 * last) & 0xFF) == 0)) {
         ++last;
-    while (left-- > last)
+    }
+    while (left-- > last) {
         out = writeCharacter(out, static_cast<unsigned char>(bits >> (8 * left)));
+    }
     return out;
 }
 
 char *writeIcao(char *out, std::uint64_t bits, unsigned count)
 {
     const char *const start = out;
-    for (unsigned left = count / 6; left-- > 0;)
+    for (unsigned left = count / 6; left-- > 0;) {
         *out++ = IcaoAlphabet[bits >> (6 * left) & 63];
-    while (out > start && out[-1] == ' ')
+    }
+    while (out > start && out[-1] == ' ') {
         --out;
+    }
     return out;
 }
 
 char *writeOctal(char *out, std::uint64_t bits, unsigned count)
 {
-    for (unsigned left = count / 3; left-- > 0;)
+    for (unsigned left = count / 3; left-- > 0;) {
         *out++ = static_cast<char>('0' + (bits >> (3 * left) & 7));
+    }
     return out;
 }
 
 char *writeText(char *out, const Node &node, std::uint64_t bits)
 {
     *out++ = '"';
-    if (node.kind == Kind::Octal)
+    if (node.kind == Kind::Octal) {
         out = writeOctal(out, bits, node.bits);
-    else if (node.kind == Kind::Icao)
+    } else if (node.kind == Kind::Icao) {
         out = writeIcao(out, bits, node.bits);
-    else if (node.kind == Kind::Ascii)
+    } else if (node.kind == Kind::Ascii) {
         out = writeAscii(out, bits, node.bits);
-    else
+    } else {
         out = writeHex(out, bits, node.bits);
+    }
     *out++ = '"';
     return out;
 }
@@ -130,8 +138,9 @@ char *writeElement(char *out, const Node &node, std::uint64_t bits)
 // Ends a list of members or values: its last comma becomes the bracket.
 char *closeList(char *out, char bracket)
 {
-    if (out[-1] == ',')
+    if (out[-1] == ',') {
         --out;
+    }
     *out++ = bracket;
     return out;
 }
@@ -151,8 +160,9 @@ public:
         for (int slot = 0; slot < m_record.uap->count; ++slot) {
             const unsigned offset = m_record.itemOffsets[slot];
             const Node *item = m_record.uap->steps[static_cast<std::size_t>(slot)].node;
-            if (offset == 0 || !item)
+            if (offset == 0 || !item) {
                 continue;
+            }
             ensure(item->jsonSize);
             m_out = writeKey(m_out, *item);
             writeItem(*item, m_record.data + offset);
@@ -178,8 +188,9 @@ private:
         m_out = writeUnsigned(writeLiteral(m_out, ",\"block\":"), place.block);
         m_out = writeUnsigned(writeLiteral(m_out, ",\"offset\":"), place.offset);
         m_out = writeUnsigned(writeLiteral(m_out, ",\"length\":"), m_record.length);
-        if (place.hasTime)
+        if (place.hasTime) {
             writeTime(place.timeMilliseconds);
+        }
         m_out = writeLiteral(m_out, ",\"items\":{");
     }
 
@@ -188,8 +199,9 @@ private:
         m_out = writeUnsigned(writeLiteral(m_out, ",\"time\":"), static_cast<std::uint64_t>(milliseconds / 1000));
         const auto fraction = static_cast<unsigned>(milliseconds % 1000);
         *m_out++ = '.';
-        for (const unsigned digit : {fraction / 100, fraction / 10 % 10, fraction % 10})
+        for (const unsigned digit : {fraction / 100, fraction / 10 % 10, fraction % 10}) {
             *m_out++ = static_cast<char>('0' + digit);
+        }
     }
 
     // An item or a sub-item of a compound, from its first octet.
@@ -209,16 +221,18 @@ private:
             writeRepetitionsFx(node, at);
             break;
         case Kind::Explicit:
-            if (m_expand && !node.children.empty() && hasKnownContents(node, at))
+            if (m_expand && !node.children.empty() && hasKnownContents(node, at)) {
                 writeCompound(node, at);
-            else
+            } else {
                 writeExplicit(at);
+            }
             break;
         case Kind::Group:
-            if (node.octets <= 8)
+            if (node.octets <= 8) {
                 writeShortGroup(node, beOctets(at, node.octets), at);
-            else
+            } else {
                 writeFixed(node, at);
+            }
             break;
         default:
             writeFixed(node, at);
@@ -232,13 +246,15 @@ private:
         unsigned left = node.bits;
         for (const Node &child : node.children) {
             left -= child.bits;
-            if (child.kind == Kind::Spare)
+            if (child.kind == Kind::Spare) {
                 continue;
+            }
             m_out = writeKey(m_out, child);
-            if (isElement(child.kind))
+            if (isElement(child.kind)) {
                 m_out = writeElement(m_out, child, word >> left & (~std::uint64_t{0} >> (64 - child.bits)));
-            else
+            } else {
                 writeFixed(child, base);
+            }
             *m_out++ = ',';
         }
         m_out = closeList(m_out, '}');
@@ -249,15 +265,17 @@ private:
     {
         if (node.kind == Kind::Group) {
             *m_out++ = '{';
-            for (const Node &child : node.children)
+            for (const Node &child : node.children) {
                 writeMember(child, base);
+            }
             m_out = closeList(m_out, '}');
         } else if (node.kind == Kind::Case) {
             const Node *alternative = chosenAlternative(node, m_record, base);
-            if (alternative)
+            if (alternative) {
                 writeFixed(*alternative, base);
-            else
+            } else {
                 m_out = writeRaw(m_out, node, bitsAt(base, node.bitOffset, node.bits));
+            }
         } else if (node.bits <= 64) {
             m_out = writeElement(m_out, node, bitsAt(base, node.bitOffset, node.bits));
         } else {
@@ -269,8 +287,9 @@ private:
 
     void writeMember(const Node &child, const unsigned char *base)
     {
-        if (child.kind == Kind::Spare)
+        if (child.kind == Kind::Spare) {
             return;
+        }
         m_out = writeKey(m_out, child);
         writeFixed(child, base);
         *m_out++ = ',';
@@ -280,10 +299,11 @@ private:
     {
         *m_out++ = '{';
         for (const Node &child : node.children) {
-            if (child.kind != Kind::ExtentEnd)
+            if (child.kind != Kind::ExtentEnd) {
                 writeMember(child, at);
-            else if (!(at[child.bitOffset / 8] & 1))
+            } else if (!(at[child.bitOffset / 8] & 1)) {
                 break;
+            }
         }
         m_out = closeList(m_out, '}');
     }
@@ -295,8 +315,9 @@ private:
         const unsigned char *next = presence.contents();
         *m_out++ = '{';
         for (std::size_t i = 0; i < presence.positions(); ++i) {
-            if (!presence.has(i))
+            if (!presence.has(i)) {
                 continue;
+            }
             const Node &child = node.children[i];
             ensure(node.jsonSize);
             m_out = writeKey(m_out, child);
@@ -355,8 +376,9 @@ char *TextBuffer::reserve(std::size_t room)
     if (m_size + room > m_capacity) {
         const std::size_t capacity = std::max(m_capacity * 2, m_size + room);
         std::unique_ptr<char[]> data(new char[capacity]);
-        if (m_size > 0)
+        if (m_size > 0) {
             std::memcpy(data.get(), m_data.get(), m_size);
+        }
         m_data = std::move(data);
         m_capacity = capacity;
     }

@@ -22,8 +22,9 @@ void compileLsb(Node &node, Lsb lsb)
         node.numerator /= 2;
         node.denominator /= 2;
     }
-    if (std::has_single_bit(node.denominator))
+    if (std::has_single_bit(node.denominator)) {
         node.denominatorPower = std::countr_zero(node.denominator);
+    }
     std::uint32_t power = 1;
     for (int digits = 0; digits <= 4; ++digits, power *= 10) {
         if (power % node.denominator == 0) {
@@ -59,8 +60,9 @@ private:
         compileLsb(node, field.lsb);
         node.children.resize(field.fieldCount);
         compileBody(node, field);
-        if (!anchor && node.bits > 0 && !node.isRepetitive() && node.kind != Kind::Extended)
+        if (!anchor && node.bits > 0 && !node.isRepetitive() && node.kind != Kind::Extended) {
             node.octets = static_cast<std::uint16_t>(node.bits / 8);
+        }
         node.jsonSize += static_cast<std::uint32_t>(node.key.size()) + 4; // brackets and comma
     }
 
@@ -118,8 +120,9 @@ private:
             node.jsonSize = std::max(node.jsonSize, node.children[i].jsonSize);
         }
         for (const char *path : field.selectors) {
-            if (path)
+            if (path) {
                 node.selectors.push_back({path, nullptr});
+            }
         }
         node.jsonSize += NumberJsonSize;
     }
@@ -148,14 +151,17 @@ void linkSelectors(Node &node)
     for (Selector &selector : node.selectors) {
         const std::string_view path = selector.path;
         const std::size_t slash = path.rfind('/');
-        if (!node.parent || slash == std::string_view::npos)
+        if (!node.parent || slash == std::string_view::npos) {
             continue;
+        }
         const std::string_view owner = path.substr(0, slash);
-        if (owner.substr(owner.rfind('/') + 1) == node.parent->name)
+        if (owner.substr(owner.rfind('/') + 1) == node.parent->name) {
             selector.sibling = node.parent->child(path.substr(slash + 1));
+        }
     }
-    for (Node &child : node.children)
+    for (Node &child : node.children) {
         linkSelectors(child);
+    }
 }
 
 Step makeStep(const Node &node)
@@ -172,18 +178,22 @@ std::unique_ptr<Uap> makeUap(const Layout &layout, const Variation &variation)
     uap->typed.fill(NoSlot);
     for (int slot = 0; slot < uap->count; ++slot) {
         const std::string_view name = variation.order[slot];
-        if (name == Unused)
+        if (name == Unused) {
             continue;
+        }
         uap->defined |= std::uint64_t{1} << (63 - slot);
-        if (const Node *node = name == RandomFields ? nullptr : layout.find(name))
+        if (const Node *node = name == RandomFields ? nullptr : layout.find(name)) {
             uap->steps[static_cast<std::size_t>(slot)] = makeStep(*node);
-        if (name == "010")
+        }
+        if (name == "010") {
             uap->sacSic = static_cast<std::uint8_t>(slot);
+        }
     }
     const std::span<const char *const> typed = typedItems(layout.edition().category);
     for (std::size_t i = 0; i < typed.size(); ++i) {
-        if (const int slot = uap->slotOf(layout.find(typed[i])); slot >= 0)
+        if (const int slot = uap->slotOf(layout.find(typed[i])); slot >= 0) {
             uap->typed[i] = static_cast<std::uint8_t>(slot);
+        }
     }
     uap->reportFields = findReportFields(*uap);
     return uap;
@@ -194,18 +204,21 @@ std::unique_ptr<Uap> makeUap(const Layout &layout, const Variation &variation)
 const Node *Node::child(std::string_view childName) const
 {
     // The fields of a repetition and of a case's alternatives are addressed without naming those.
-    if (isRepetitive())
+    if (isRepetitive()) {
         return plainElements ? nullptr : children[0].child(childName);
+    }
     if (kind == Kind::Case) {
         for (const Node &alternative : children) {
-            if (const Node *found = alternative.child(childName))
+            if (const Node *found = alternative.child(childName)) {
                 return found;
+            }
         }
         return nullptr;
     }
     for (const Node &node : children) {
-        if (node.name == childName && !node.name.empty())
+        if (node.name == childName && !node.name.empty()) {
             return &node;
+        }
     }
     return nullptr;
 }
@@ -215,10 +228,12 @@ Layout::Layout(const Edition &edition) : m_edition(&edition)
     // The items stay where they are from here on: nodes point at each other.
     m_items.resize(edition.itemCount);
     Compiler compiler;
-    for (std::size_t i = 0; i < edition.itemCount; ++i)
+    for (std::size_t i = 0; i < edition.itemCount; ++i) {
         compiler.compileItem(m_items[i], edition.items[i]);
-    for (Node &item : m_items)
+    }
+    for (Node &item : m_items) {
         linkSelectors(item);
+    }
     m_nodeCount = compiler.nodeCount();
 }
 
@@ -240,16 +255,18 @@ const Node *Layout::find(std::string_view path) const
 int Uap::slotOf(const Node *item) const
 {
     for (int slot = 0; item && slot < count; ++slot) {
-        if (steps[static_cast<std::size_t>(slot)].node == item)
+        if (steps[static_cast<std::size_t>(slot)].node == item) {
             return slot;
+        }
     }
     return -1;
 }
 
 CategoryTable::CategoryTable(const Edition &edition) : layout(edition)
 {
-    for (std::size_t i = 0; i < edition.variationCount; ++i)
+    for (std::size_t i = 0; i < edition.variationCount; ++i) {
         uaps.push_back(makeUap(layout, edition.variations[i]));
+    }
     if (edition.selectorItem) {
         const Node *item = layout.find(edition.selectorItem);
         selectorField = item->child(edition.selectorField);
@@ -260,8 +277,9 @@ CategoryTable::CategoryTable(const Edition &edition) : layout(edition)
 const Uap *CategoryTable::variation(std::string_view name) const
 {
     for (const std::unique_ptr<Uap> &uap : uaps) {
-        if (uap->variation == name)
+        if (uap->variation == name) {
             return uap.get();
+        }
     }
     return nullptr;
 }
@@ -270,13 +288,15 @@ const CategoryTable *findTable(int category, const char *edition)
 {
     static const std::vector<std::unique_ptr<CategoryTable>> tables = [] {
         std::vector<std::unique_ptr<CategoryTable>> made;
-        for (const Edition *each : allEditions())
+        for (const Edition *each : allEditions()) {
             made.push_back(std::make_unique<CategoryTable>(*each));
+        }
         return made;
     }();
     for (const std::unique_ptr<CategoryTable> &table : tables) {
-        if (table->layout.edition().category == category && (!edition || table->edition() == edition))
+        if (table->layout.edition().category == category && (!edition || table->edition() == edition)) {
             return table.get();
+        }
     }
     return nullptr;
 }

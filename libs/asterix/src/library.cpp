@@ -21,8 +21,9 @@ std::atomic<_ast_log_handler_t> logHandler{nullptr};
 void logFault(const _ast_datablock_t &block)
 {
     const _ast_log_handler_t handler = logHandler.load(std::memory_order_relaxed);
-    if (!handler)
+    if (!handler) {
         return;
+    }
     char text[128];
     std::snprintf(text, sizeof text, "CAT%03u: %s (octet %u)", static_cast<unsigned>(block.category),
         errorText(block.error), static_cast<unsigned>(block.errorOffset));
@@ -50,14 +51,15 @@ bool beginBlock(_ast_datablock_t &block, const unsigned char *data, std::size_t 
     } else {
         block.size = std::uint32_t{data[1]} << 8 | data[2];
         result = block.size == 0;
-        if (block.size == 0)
+        if (block.size == 0) {
             refuse(block, Error::BlockLengthZero, 1);
-        else if (block.size < HeaderOctets)
+        } else if (block.size < HeaderOctets) {
             refuse(block, Error::BlockLengthTooShort, 1);
-        else if (block.size > length)
+        } else if (block.size > length) {
             refuse(block, Error::BlockTruncated, length);
-        else
+        } else {
             return true;
+        }
     }
     logFault(block);
     return false;
@@ -122,44 +124,52 @@ void ast_log_handler_reg(_ast_log_handler_t handler)
 bool ast_datablock_decode(_ast_datablock_t *block, const unsigned char *data, std::size_t length, const _ast_uap_t *uap)
 {
     bool result = false;
-    if (!beginBlock(*block, data, length, result))
+    if (!beginBlock(*block, data, length, result)) {
         return result;
+    }
     const CategoryTable *table = uap->tables[block->category];
-    if (table)
+    if (table) {
         decodeRecords(*block, data, *table, uap->forced);
-    else
+    } else {
         refuse(*block, Error::UnknownCategory, 0);
-    if (!block->valid)
+    }
+    if (!block->valid) {
         logFault(*block);
+    }
     return true;
 }
 
 bool ast_datablock_smart_decode(_ast_datablock_t *block, const unsigned char *data, std::size_t length)
 {
     // In CAT001 each record says which UAP it has; the standard table follows it.
-    if (length == 0 || data[0] != EditionsToChoose)
+    if (length == 0 || data[0] != EditionsToChoose) {
         return ast_datablock_decode(block, data, length, AST_UAP_STANDARD);
+    }
     bool result = false;
-    if (!beginBlock(*block, data, length, result))
+    if (!beginBlock(*block, data, length, result)) {
         return result;
+    }
     decodeCat021(*block, data);
-    if (!block->valid)
+    if (!block->valid) {
         logFault(*block);
+    }
     return true;
 }
 
 char *ast_category_to_str(char *buffer, std::size_t size, std::uint32_t category)
 {
-    if (size > 0)
+    if (size > 0) {
         std::snprintf(buffer, size, "CAT%03u", static_cast<unsigned>(category));
+    }
     return buffer;
 }
 
 _ast_sacsic_t ast_datarecord_get_sacsic(const _ast_datarecord_t &record)
 {
     _ast_sacsic_t sacsic;
-    if (!record.valid || record.itemOffsets[record.uap->sacSic] == 0)
+    if (!record.valid || record.itemOffsets[record.uap->sacSic] == 0) {
         return sacsic;
+    }
     const unsigned char *at = record.data + record.itemOffsets[record.uap->sacSic];
     return {true, at[0], at[1]};
 }

@@ -35,8 +35,9 @@ char *writeBinaryFraction(char *out, std::uint64_t value, int power)
     const std::uint64_t mask = (std::uint64_t{1} << power) - 1;
     std::uint64_t fraction = value & mask;
     out = writeUnsigned(out, whole);
-    if (fraction == 0)
+    if (fraction == 0) {
         return out;
+    }
     *out++ = '.';
     // Half a unit in the last place is more than 1e-14 from 128 on, and more than 1e-16 from 1 on.
     int pairs = whole >= 128 ? 7 : whole >= 1 ? 8 : 32;
@@ -45,8 +46,9 @@ char *writeBinaryFraction(char *out, std::uint64_t value, int power)
         out = writePair(out, fraction >> power);
         fraction &= mask;
     }
-    while (out[-1] == '0')
+    while (out[-1] == '0') {
         --out;
+    }
     return out;
 }
 
@@ -57,14 +59,17 @@ char *writeDecimalFraction(char *out, std::uint64_t value, int digits)
     const std::uint64_t power = powers[digits];
     out = writeUnsigned(out, value / power);
     std::uint64_t fraction = value % power;
-    if (fraction == 0)
+    if (fraction == 0) {
         return out;
+    }
     *out++ = '.';
-    for (int i = digits; i-- > 0; fraction /= 10)
+    for (int i = digits; i-- > 0; fraction /= 10) {
         out[i] = static_cast<char>('0' + fraction % 10);
+    }
     out += digits;
-    while (out[-1] == '0')
+    while (out[-1] == '0') {
         --out;
+    }
     return out;
 }
 
@@ -76,14 +81,16 @@ char *writeUnsigned(char *out, std::uint64_t value)
         *out = static_cast<char>('0' + value);
         return out + 1;
     }
-    if (value < 100)
+    if (value < 100) {
         return writePair(out, value);
+    }
     if (value < 10000) {
         const std::size_t upper = value / 100;
-        if (upper >= 10)
+        if (upper >= 10) {
             out = writePair(out, upper);
-        else
+        } else {
             *out++ = static_cast<char>('0' + upper);
+        }
         return writePair(out, value % 100);
     }
     return std::to_chars(out, out + 20, value).ptr;
@@ -102,10 +109,12 @@ char *writeScaled(char *out, const Node &node, std::uint64_t bits)
     }
     // 32 bits times 32 bits fit; wider quantities than that go the long way.
     const bool fits = node.bits <= 32;
-    if (fits && node.denominatorPower >= 0 && node.denominatorPower <= MaxBinaryPower)
+    if (fits && node.denominatorPower >= 0 && node.denominatorPower <= MaxBinaryPower) {
         return writeBinaryFraction(out, magnitude * node.numerator, node.denominatorPower);
-    if (fits && node.denominatorDigits > 0)
+    }
+    if (fits && node.denominatorDigits > 0) {
         return writeDecimalFraction(out, magnitude * node.decimalNumerator, node.denominatorDigits);
+    }
     return std::to_chars(out, out + 40, static_cast<double>(magnitude) * node.numerator / node.denominator).ptr;
 }
 

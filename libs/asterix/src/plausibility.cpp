@@ -34,8 +34,9 @@ bool isPosition(const Node &item)
 // odd, too.
 bool hasOddFspec(const unsigned char *at)
 {
-    while (*at & 1)
+    while (*at & 1) {
         ++at;
+    }
     return *at == 0;
 }
 
@@ -45,8 +46,9 @@ bool hasUnassignedCharacter(const unsigned char *at)
     for (unsigned shift = 0; shift < 48; shift += 6) {
         const unsigned code = characters >> shift & 63;
         // The alphabet has a blank in the place of each unassigned code; senders fill with zero, too.
-        if (IcaoAlphabet[code] == ' ' && code != 32 && code != 0)
+        if (IcaoAlphabet[code] == ' ' && code != 32 && code != 0) {
             return true;
+        }
     }
     return false;
 }
@@ -56,56 +58,66 @@ bool hasUnassignedCharacter(const unsigned char *at)
 Plausibility::Plausibility(const Uap &uap)
 {
     for (int slot = 0; slot < uap.count; ++slot) {
-        if (const Node *item = uap.steps[static_cast<std::size_t>(slot)].node)
+        if (const Node *item = uap.steps[static_cast<std::size_t>(slot)].node) {
             addItem(*item, static_cast<std::uint8_t>(slot));
+        }
     }
 }
 
 void Plausibility::addItem(const Node &item, std::uint8_t slot)
 {
     addSpareBits(item, slot);
-    if (isTimeOfDay(item))
+    if (isTimeOfDay(item)) {
         m_times.push_back(slot);
+    }
     if (isPosition(item)) {
         const std::int64_t rightAngle = std::int64_t{90} * item.children[0].denominator / item.children[0].numerator;
         m_positions.push_back({slot, static_cast<std::uint8_t>(item.children[0].bits), rightAngle});
     }
-    if (item.kind == Kind::Icao && item.bits == 48)
+    if (item.kind == Kind::Icao && item.bits == 48) {
         m_identities.push_back(slot);
-    if (item.name == "080")
+    }
+    if (item.name == "080") {
         m_address = slot;
+    }
     for (const std::string_view mandatory : {"010", "040", "080"}) {
-        if (item.name == mandatory)
+        if (item.name == mandatory) {
             m_mandatory.push_back(slot);
+        }
     }
 }
 
 void Plausibility::addSpareBits(const Node &item, std::uint8_t slot)
 {
     const bool isExtended = item.kind == Kind::Extended;
-    if (!isExtended && item.kind != Kind::Group)
+    if (!isExtended && item.kind != Kind::Group) {
         return;
+    }
     SpareCheck check{slot, isExtended, std::vector<OctetCheck>(item.bits / 8U)};
     bool isUseful = isExtended;
     for (const Node &child : item.children) {
-        if (child.kind == Kind::ExtentEnd)
+        if (child.kind == Kind::ExtentEnd) {
             check.octets[child.bitOffset / 8U].endsExtent = true;
+        }
         for (unsigned bit = child.bitOffset; child.kind == Kind::Spare && bit < child.bitOffset + child.bits; ++bit) {
             check.octets[bit / 8].spareBits |= static_cast<unsigned char>(0x80U >> bit % 8);
             isUseful = true;
         }
     }
-    if (isUseful)
+    if (isUseful) {
         m_spares.push_back(std::move(check));
+    }
 }
 
 bool Plausibility::hasOddSpareBits(const SpareCheck &check, const unsigned char *at) const
 {
     for (const OctetCheck &octet : check.octets) {
-        if (*at & octet.spareBits)
+        if (*at & octet.spareBits) {
             return true;
-        if (octet.endsExtent && !(*at & 1))
+        }
+        if (octet.endsExtent && !(*at & 1)) {
             return false;
+        }
         ++at;
     }
     // Past all extents of the table: there are more of them if the last one says so.
@@ -120,8 +132,9 @@ unsigned Plausibility::oddValues(const _ast_datarecord_t &record) const
         odd += offset != 0 && be24(record.data + offset) >= DayUnits ? OddValue : 0;
     }
     for (const PositionCheck &check : m_positions) {
-        if (record.itemOffsets[check.slot] == 0)
+        if (record.itemOffsets[check.slot] == 0) {
             continue;
+        }
         const unsigned char *at = record.data + record.itemOffsets[check.slot];
         const std::int64_t latitude = signExtended(bitsAt(at, 0, check.bits), check.bits);
         const std::int64_t longitude = signExtended(bitsAt(at, check.bits, check.bits), check.bits);
@@ -142,10 +155,12 @@ Oddness Plausibility::oddness(const _ast_datarecord_t &record) const
 {
     Oddness odd;
     const auto isSent = [&](std::uint8_t slot) { return record.itemOffsets[slot] != 0; };
-    for (const SpareCheck &check : m_spares)
+    for (const SpareCheck &check : m_spares) {
         odd.form += isSent(check.slot) && hasOddSpareBits(check, record.data + record.itemOffsets[check.slot]) ? 1 : 0;
-    for (const std::uint8_t slot : m_mandatory)
+    }
+    for (const std::uint8_t slot : m_mandatory) {
         odd.values += isSent(slot) ? 0 : MissingItem;
+    }
     odd.values += std::any_of(m_times.begin(), m_times.end(), isSent) ? 0 : MissingItem;
     odd.values += hasOddFspec(record.data) ? OddFspec : 0;
     odd.values += oddValues(record);

@@ -8,19 +8,22 @@ namespace {
 _ast_uap_t standardProfile()
 {
     _ast_uap_t profile;
-    for (const Edition *edition : allEditions())
+    for (const Edition *edition : allEditions()) {
         profile.tables[static_cast<std::size_t>(edition->category)] = findTable(edition->category);
+    }
     return profile;
 }
 
 void place(_ast_uap_t &profile, const ProfileRow &row)
 {
     const CategoryTable *table = findTable(row.category, row.edition);
-    if (!table)
+    if (!table) {
         return;
+    }
     profile.tables[static_cast<std::size_t>(row.category)] = table;
-    if (row.variation)
+    if (row.variation) {
         profile.forced = table->variation(row.variation);
+    }
 }
 
 // The standard profile with one category exchanged.
@@ -34,8 +37,9 @@ _ast_uap_t standardBut(const ProfileRow &row)
 _ast_uap_t profileOf(std::span<const ProfileRow> rows)
 {
     _ast_uap_t profile;
-    for (const ProfileRow &row : rows)
+    for (const ProfileRow &row : rows) {
         place(profile, row);
+    }
     return profile;
 }
 
@@ -53,8 +57,9 @@ const _ast_uap_t thales = profileOf(thalesProfile());
 std::vector<EditionName> editions()
 {
     std::vector<EditionName> names;
-    for (const Edition *edition : allEditions())
+    for (const Edition *edition : allEditions()) {
         names.push_back({edition->category, edition->edition, edition->title});
+    }
     return names;
 }
 
@@ -67,8 +72,9 @@ Profile &Profile::operator=(Profile &&other) noexcept = default;
 bool Profile::select(int category, std::string_view edition)
 {
     const CategoryTable *table = findTable(category, std::string(edition).c_str());
-    if (table)
+    if (table) {
         m_uap->tables[static_cast<std::size_t>(category)] = table;
+    }
     return table != nullptr;
 }
 

@@ -16,10 +16,12 @@ const unsigned char *subItem(
     const Presence presence(compound, at);
     const unsigned char *next = presence.contents();
     for (std::size_t i = 0; i < presence.positions(); ++i) {
-        if (!presence.has(i))
+        if (!presence.has(i)) {
             continue;
-        if (&compound.children[i] == &wanted)
+        }
+        if (&compound.children[i] == &wanted) {
             return next;
+        }
         next += itemLength(compound.children[i], next, end, fault);
     }
     return nullptr;
@@ -29,10 +31,12 @@ const unsigned char *subItem(
 bool extentSent(const Node &extended, const Node &field, const unsigned char *at)
 {
     for (const Node &child : extended.children) {
-        if (child.bitOffset >= field.bitOffset)
+        if (child.bitOffset >= field.bitOffset) {
             return true;
-        if (child.kind == Kind::ExtentEnd && bitsAt(at, child.bitOffset, 1) == 0)
+        }
+        if (child.kind == Kind::ExtentEnd && bitsAt(at, child.bitOffset, 1) == 0) {
             return false;
+        }
     }
     return true;
 }
@@ -40,8 +44,9 @@ bool extentSent(const Node &extended, const Node &field, const unsigned char *at
 const unsigned char *anchorOctets(const _ast_datarecord_t &record, const Node &anchor)
 {
     if (anchor.parent) {
-        if (anchor.parent->kind != Kind::Compound)
+        if (anchor.parent->kind != Kind::Compound) {
             return nullptr;
+        }
         const unsigned char *outer = anchorOctets(record, *anchor.parent);
         return outer ? subItem(*anchor.parent, anchor, outer, record.data + record.length) : nullptr;
     }
@@ -56,10 +61,12 @@ std::optional<std::uint64_t> fieldBits(const _ast_datarecord_t &record, const No
 {
     const Node &anchor = *field.anchor;
     const unsigned char *at = anchorOctets(record, anchor);
-    if (!at || !isElement(field.kind) || field.bits > 64)
+    if (!at || !isElement(field.kind) || field.bits > 64) {
         return std::nullopt;
-    if (anchor.kind == Kind::Extended && !extentSent(anchor, field, at))
+    }
+    if (anchor.kind == Kind::Extended && !extentSent(anchor, field, at)) {
         return std::nullopt;
+    }
     return bitsAt(at, field.bitOffset, field.bits);
 }
 
@@ -74,14 +81,16 @@ const Node *chosenAlternative(const Node &node, const _ast_datarecord_t &record,
         }
         const Node *field = record.uap->layout->find(selector.path);
         const std::optional<std::uint64_t> bits = field ? fieldBits(record, *field) : std::nullopt;
-        if (!bits)
+        if (!bits) {
             return nullptr;
+        }
         values[i] = *bits;
     }
     const auto fits = [&](const Node &alternative) {
         for (std::size_t i = 0; i < node.selectors.size(); ++i) {
-            if (alternative.selected[i] != values[i])
+            if (alternative.selected[i] != values[i]) {
                 return false;
+            }
         }
         return true;
     };

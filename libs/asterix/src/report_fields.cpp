@@ -78,8 +78,9 @@ constexpr Source sources[] = {
 // The outermost item that holds a node.
 const Node *itemOf(const Node *node)
 {
-    while (node->parent)
+    while (node->parent) {
         node = node->parent;
+    }
     return node;
 }
 
@@ -87,8 +88,9 @@ ReportPlace makePlace(const Uap &uap, const Node &node, double factor)
 {
     ReportPlace place;
     const int slot = uap.slotOf(itemOf(&node));
-    if (slot < 0 || !isElement(node.kind))
+    if (slot < 0 || !isElement(node.kind)) {
         return place;
+    }
     place.node = &node;
     place.slot = static_cast<std::uint8_t>(slot);
     place.isNested = node.anchor->parent != nullptr;
@@ -105,13 +107,15 @@ ReportFields findReportFields(const Uap &uap)
 {
     ReportFields fields;
     for (const Source &source : sources) {
-        if (source.category != uap.layout->edition().category)
+        if (source.category != uap.layout->edition().category) {
             continue;
+        }
         const Node *node = uap.layout->find(source.path);
         auto &places = fields[static_cast<std::size_t>(source.field)];
         ReportPlace &place = places[places[0].node ? 1 : 0];
-        if (node && !place.node)
+        if (node && !place.node) {
             place = makePlace(uap, *node, source.factor);
+        }
     }
     return fields;
 }

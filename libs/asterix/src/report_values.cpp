@@ -12,10 +12,12 @@ namespace {
 
 std::optional<std::uint64_t> placeBits(const _ast_datarecord_t &record, const ReportPlace &place)
 {
-    if (!place.node || record.itemOffsets[place.slot] == 0)
+    if (!place.node || record.itemOffsets[place.slot] == 0) {
         return std::nullopt;
-    if (place.isNested)
+    }
+    if (place.isNested) {
         return fieldBits(record, *place.node);
+    }
     return bitsAt(record.data + record.itemOffsets[place.slot], place.bitOffset, place.bits);
 }
 
@@ -27,11 +29,13 @@ struct FoundBits {
 // The first place of a field that the record fills.
 std::optional<FoundBits> findBits(const _ast_datarecord_t &record, ReportField field)
 {
-    if (!record.valid)
+    if (!record.valid) {
         return std::nullopt;
+    }
     for (const ReportPlace &place : record.uap->reportFields[static_cast<std::size_t>(field)]) {
-        if (const std::optional<std::uint64_t> bits = placeBits(record, place))
+        if (const std::optional<std::uint64_t> bits = placeBits(record, place)) {
             return FoundBits{&place, *bits};
+        }
     }
     return std::nullopt;
 }
@@ -39,8 +43,9 @@ std::optional<FoundBits> findBits(const _ast_datarecord_t &record, ReportField f
 std::optional<double> findValue(const _ast_datarecord_t &record, ReportField field)
 {
     const std::optional<FoundBits> found = findBits(record, field);
-    if (!found)
+    if (!found) {
         return std::nullopt;
+    }
     const double count = found->place->isSigned ? static_cast<double>(signExtended(found->bits, found->place->bits))
                                                 : static_cast<double>(found->bits);
     return count * found->place->lsb;
@@ -60,12 +65,14 @@ struct Velocity {
 // Polar where the record has it, else out of its Cartesian components.
 std::optional<Velocity> findVelocity(const _ast_datarecord_t &record)
 {
-    if (const auto speed = findValue(record, ReportField::GroundSpeed))
+    if (const auto speed = findValue(record, ReportField::GroundSpeed)) {
         return Velocity{*speed, findValue(record, ReportField::TrackAngle).value_or(0)};
+    }
     const auto x = findValue(record, ReportField::VelocityX);
     const auto y = findValue(record, ReportField::VelocityY);
-    if (!x || !y)
+    if (!x || !y) {
         return std::nullopt;
+    }
     const double angle = std::atan2(*x, *y) * (180 / std::numbers::pi);
     return Velocity{std::hypot(*x, *y), angle < 0 ? angle + 360 : angle};
 }
@@ -107,8 +114,9 @@ _ast_item_wgs84_t ast_datarecord_get_wgs84coord(const _ast_datarecord_t &record)
 _ast_item_mode3a_t ast_datarecord_021_get_squawk(const _ast_datarecord_t &record)
 {
     const auto found = findBits(record, ReportField::Mode3A);
-    if (!found)
+    if (!found) {
         return {};
+    }
     return {true, findFlag(record, ReportField::Mode3ANotValidated), findFlag(record, ReportField::Mode3AGarbled),
         findFlag(record, ReportField::Mode3ASmoothed), static_cast<std::uint16_t>(found->bits)};
 }
@@ -123,8 +131,9 @@ _ast_heading_t ast_datarecord_get_heading(const _ast_datarecord_t &record)
 {
     const auto velocity = findVelocity(record);
     const auto magnetic = findValue(record, ReportField::MagneticHeading);
-    if (!velocity && !magnetic)
+    if (!velocity && !magnetic) {
         return {};
+    }
     return {true, velocity.has_value(), magnetic.has_value(), velocity ? velocity->trackAngle : *magnetic};
 }
 

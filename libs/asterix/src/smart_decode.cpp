@@ -50,8 +50,9 @@ Verdict judge(const Candidate &candidate, _ast_datablock_t &block, const unsigne
     decodeRecords(block, data, *candidate.table);
     Verdict verdict;
     verdict.left = block.valid ? 0 : block.size - block.errorOffset + 1;
-    if (!block.valid || block.records.empty())
+    if (!block.valid || block.records.empty()) {
         return verdict;
+    }
     const _ast_sacsic_t first = ast_datarecord_get_sacsic(block.records.front());
     for (const _ast_datarecord_t &record : block.records) {
         const _ast_sacsic_t source = ast_datarecord_get_sacsic(record);
@@ -66,8 +67,9 @@ int sourceOf(const unsigned char *data, std::uint32_t size)
 {
     constexpr std::uint32_t Header = 3;
     std::uint32_t at = Header;
-    while (at < size && (data[at] & 1))
+    while (at < size && (data[at] & 1)) {
         ++at;
+    }
     const bool isSent = at + 2 < size && (data[Header] & 0x80);
     return isSent ? data[at + 1] << 8 | data[at + 2] : -1;
 }
@@ -89,8 +91,9 @@ public:
 
     void remember(std::size_t candidate)
     {
-        if (m_source >= 0)
+        if (m_source >= 0) {
             m_place = static_cast<std::uint32_t>(m_source) << 8 | static_cast<std::uint32_t>(candidate + 1);
+        }
     }
 
 private:
@@ -111,8 +114,9 @@ void decodeCat021(_ast_datablock_t &block, const unsigned char *data)
     Verdict verdict = judge(all[first], block, data);
     const bool isSettled = known >= 0 && verdict.isGood(block.records.size());
     for (std::size_t i = 0; i < all.size() && !isSettled; ++i) {
-        if (i == first)
+        if (i == first) {
             continue;
+        }
         const Verdict other = judge(all[i], block, data);
         decoded = i;
         if (other.isBetterThan(verdict)) {
@@ -120,10 +124,12 @@ void decodeCat021(_ast_datablock_t &block, const unsigned char *data)
             best = i;
         }
     }
-    if (decoded != best)
+    if (decoded != best) {
         decodeRecords(block, data, *all[best].table);
-    if (block.valid)
+    }
+    if (block.valid) {
         memory.remember(best);
+    }
 }
 
 void prepareSmartDecoding()

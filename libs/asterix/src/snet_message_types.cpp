@@ -64,8 +64,9 @@ constexpr MessageType messageTypes[] = {
 const char *ast_snet_message_type_get_id(std::uint8_t type)
 {
     for (const MessageType &messageType : messageTypes) {
-        if (messageType.code == type)
+        if (messageType.code == type) {
             return messageType.id;
+        }
     }
     return "UNKNOWN";
 }

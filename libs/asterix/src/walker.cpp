@@ -20,19 +20,23 @@ std::size_t extendedLength(const Node &node, const unsigned char *at, const unsi
         unsigned bits = 0; // up to and with the FX bit looked at
         for (const Node &child : node.children) {
             bits += child.bits;
-            if (child.kind != Kind::ExtentEnd && &child != &node.children.back())
+            if (child.kind != Kind::ExtentEnd && &child != &node.children.back()) {
                 continue;
+            }
             next = at + bits / 8;
-            if (next > end)
+            if (next > end) {
                 return fail(fault, Error::ItemTruncated, end);
-            if (child.kind != Kind::ExtentEnd || !(next[-1] & 1))
+            }
+            if (child.kind != Kind::ExtentEnd || !(next[-1] & 1)) {
                 return static_cast<std::size_t>(next - at);
+            }
         }
     }
     // A later edition of the document may have added extents: they are passed over.
     do {
-        if (next == end)
+        if (next == end) {
             return fail(fault, Error::ItemTruncated, end);
+        }
     } while (*next++ & 1);
     return static_cast<std::size_t>(next - at);
 }
@@ -41,8 +45,9 @@ std::size_t repetitiveFxLength(const Node &node, const unsigned char *at, const 
 {
     const unsigned char *next = at;
     do {
-        if (end - next < node.elementOctets)
+        if (end - next < node.elementOctets) {
             return fail(fault, Error::ItemTruncated, end);
+        }
         next += node.elementOctets;
     } while (next[-1] & 1);
     return static_cast<std::size_t>(next - at);
@@ -50,30 +55,36 @@ std::size_t repetitiveFxLength(const Node &node, const unsigned char *at, const 
 
 std::size_t repetitiveLength(const Node &node, const unsigned char *at, const unsigned char *end, Fault &fault)
 {
-    if (at == end)
+    if (at == end) {
         return fail(fault, Error::ItemTruncated, end);
+    }
     const std::size_t length = 1 + std::size_t{at[0]} * node.elementOctets;
-    if (static_cast<std::size_t>(end - at) < length)
+    if (static_cast<std::size_t>(end - at) < length) {
         return fail(fault, Error::RepetitionTruncated, at);
+    }
     return length;
 }
 
 std::size_t explicitItemLength(const unsigned char *at, const unsigned char *end, Fault &fault)
 {
-    if (at == end)
+    if (at == end) {
         return fail(fault, Error::ItemTruncated, end);
-    if (at[0] == 0)
+    }
+    if (at[0] == 0) {
         return fail(fault, Error::ExplicitLengthZero, at);
-    if (end - at < at[0])
+    }
+    if (end - at < at[0]) {
         return fail(fault, Error::ExplicitLengthTruncated, at);
+    }
     return at[0];
 }
 
 std::size_t compoundLength(const Node &node, const unsigned char *at, const unsigned char *end, Fault &fault)
 {
     const std::size_t presence = presenceLength(at, end, fault);
-    if (presence == 0)
+    if (presence == 0) {
         return 0;
+    }
     const unsigned char *next = at + presence;
     for (std::size_t octet = 0; octet < presence; ++octet) {
         unsigned bits = at[octet] & 0xFEU;
@@ -81,11 +92,13 @@ std::size_t compoundLength(const Node &node, const unsigned char *at, const unsi
             const auto leading = static_cast<std::size_t>(std::countl_zero(static_cast<std::uint8_t>(bits)));
             bits &= ~(0x80U >> leading);
             const std::size_t index = octet * 7 + leading;
-            if (index >= node.children.size() || node.children[index].kind == Kind::Vacant)
+            if (index >= node.children.size() || node.children[index].kind == Kind::Vacant) {
                 return fail(fault, Error::SparePresenceBit, at + octet);
+            }
             const std::size_t length = itemLength(node.children[index], next, end, fault);
-            if (length == 0)
+            if (length == 0) {
                 return 0;
+            }
             next += length;
         }
     }
@@ -103,29 +116,35 @@ struct Walk {
     {
         const Step &step = uap.steps[slot];
         record.itemOffsets[slot] = static_cast<std::uint16_t>(at - record.data);
-        if (step.octets > 0) [[likely]]
+        if (step.octets > 0) [[likely]] {
             return end - at >= step.octets ? step.octets : fail(fault, Error::ItemTruncated, end);
+        }
         // Most descriptors and states have their first extent only.
-        if (step.kind == Kind::Extended && at < end && !(*at & 1) && step.node->octetExtents)
+        if (step.kind == Kind::Extended && at < end && !(*at & 1) && step.node->octetExtents) {
             return 1;
+        }
         return step.node ? itemLength(*step.node, at, end, fault) : randomFields(at);
     }
 
     // A count, then so many items, each after its field reference number.
     std::size_t randomFields(const unsigned char *at)
     {
-        if (at == end)
+        if (at == end) {
             return fail(fault, Error::ItemTruncated, end);
+        }
         const unsigned char *next = at + 1;
         for (unsigned left = at[0]; left > 0; --left) {
-            if (next == end)
+            if (next == end) {
                 return fail(fault, Error::ItemTruncated, end);
+            }
             const unsigned slot = *next - 1U;
-            if (slot >= static_cast<unsigned>(uap.count) || !uap.steps[slot].node)
+            if (slot >= static_cast<unsigned>(uap.count) || !uap.steps[slot].node) {
                 return fail(fault, Error::RandomFieldSequence, next);
+            }
             const std::size_t length = enter(slot, next + 1);
-            if (length == 0)
+            if (length == 0) {
                 return 0;
+            }
             next += 1 + length;
         }
         return static_cast<std::size_t>(next - at);
@@ -137,8 +156,9 @@ struct Walk {
             const int slot = std::countl_zero(present);
             present &= ~(std::uint64_t{1} << (63 - slot));
             const std::size_t length = enter(static_cast<std::size_t>(slot), at);
-            if (length == 0) [[unlikely]]
+            if (length == 0) [[unlikely]] {
                 return false;
+            }
             at += length;
         }
         record.length = static_cast<std::uint16_t>(at - record.data);
@@ -170,8 +190,9 @@ Fspec readFspec(const unsigned char *at, const unsigned char *end, Fault &fault)
             fail(fault, Error::SpareFspecBit, at + octets);
             return fspec;
         }
-        if (!(octet & 1U))
+        if (!(octet & 1U)) {
             break;
+        }
     }
     fspec.next = at + octets + 1;
     return fspec;
@@ -181,14 +202,17 @@ Fspec readFspec(const unsigned char *at, const unsigned char *end, Fault &fault)
 const Uap *selectUap(const CategoryTable &table, const Fspec &fspec, const unsigned char *end)
 {
     const Uap *first = table.uaps.front().get();
-    if (table.selectorSlot < 0 || !(fspec.present >> (63 - table.selectorSlot) & 1))
+    if (table.selectorSlot < 0 || !(fspec.present >> (63 - table.selectorSlot) & 1)) {
         return first;
+    }
     const unsigned char *at = fspec.next;
     for (int slot = 0; slot < table.selectorSlot; ++slot) {
-        if (fspec.present >> (63 - slot) & 1)
+        if (fspec.present >> (63 - slot) & 1) {
             at += first->steps[static_cast<std::size_t>(slot)].octets;
-        if (at >= end)
+        }
+        if (at >= end) {
             return first;
+        }
     }
     const Node &field = *table.selectorField;
     const std::uint64_t chosen = bitsAt(at, field.bitOffset, field.bits);
@@ -200,8 +224,9 @@ bool walkRecord(const CategoryTable &table, const Uap *forced, const unsigned ch
     _ast_datarecord_t &record, Fault &fault)
 {
     const Fspec fspec = readFspec(at, end, fault);
-    if (!fspec.next)
+    if (!fspec.next) {
         return false;
+    }
     const Uap *uap = forced ? forced : selectUap(table, fspec, end);
     if (const std::uint64_t spare = fspec.present & ~uap->defined; spare) [[unlikely]] {
         fail(fault, Error::SpareFspecBit, at + std::countl_zero(spare) / 7);
@@ -218,8 +243,9 @@ std::size_t presenceLength(const unsigned char *at, const unsigned char *end, Fa
 {
     const unsigned char *next = at;
     do {
-        if (next == end)
+        if (next == end) {
             return fail(fault, Error::ItemTruncated, end);
+        }
     } while (*next++ & 1);
     return static_cast<std::size_t>(next - at);
 }
@@ -228,17 +254,20 @@ bool hasKnownContents(const Node &node, const unsigned char *at)
 {
     const unsigned char *const end = at + at[0];
     const std::size_t known = std::min<std::size_t>(node.children.size(), 8);
-    if (at[0] < 2 || at[1] == 0 || (known < 8 && (at[1] & (0xFFU >> known))))
+    if (at[0] < 2 || at[1] == 0 || (known < 8 && (at[1] & (0xFFU >> known)))) {
         return false;
+    }
     const Presence presence(node, at);
     const unsigned char *next = presence.contents();
     Fault fault;
     for (std::size_t i = 0; i < presence.positions(); ++i) {
-        if (!presence.has(i))
+        if (!presence.has(i)) {
             continue;
+        }
         const std::size_t length = itemLength(node.children[i], next, end, fault);
-        if (length == 0)
+        if (length == 0) {
             return false;
+        }
         next += length;
     }
     return next == end;
@@ -246,8 +275,9 @@ bool hasKnownContents(const Node &node, const unsigned char *at)
 
 std::size_t itemLength(const Node &node, const unsigned char *at, const unsigned char *end, Fault &fault)
 {
-    if (node.octets > 0)
+    if (node.octets > 0) {
         return end - at >= node.octets ? node.octets : fail(fault, Error::ItemTruncated, end);
+    }
     switch (node.kind) {
     case Kind::Extended:
         return extendedLength(node, at, end, fault);
@@ -264,8 +294,9 @@ std::size_t itemLength(const Node &node, const unsigned char *at, const unsigned
 
 void decodeRecords(_ast_datablock_t &block, const unsigned char *data, const CategoryTable &table, const Uap *forced)
 {
-    if (forced && forced->layout != &table.layout)
+    if (forced && forced->layout != &table.layout) {
         forced = nullptr;
+    }
     constexpr std::size_t headerOctets = 3;
     const unsigned char *at = data + headerOctets;
     const unsigned char *const end = data + block.size;

@@ -26,8 +26,9 @@ public:
         : m_at(node.kind == Kind::Explicit ? at + 1 : at), m_bitsAnOctet(node.kind == Kind::Explicit ? 8 : 7)
     {
         const unsigned char *last = m_at;
-        while (m_bitsAnOctet == 7 && (*last & 1))
+        while (m_bitsAnOctet == 7 && (*last & 1)) {
             ++last;
+        }
         m_contents = last + 1;
         m_positions = std::min(static_cast<std::size_t>(m_contents - m_at) * m_bitsAnOctet, node.children.size());
     }

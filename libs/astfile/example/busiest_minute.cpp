@@ -10,14 +10,17 @@ QString busiestMinute(const QString &fileName)
 {
     const RecFile::Format format = RecFile::formatFromFileName(fileName); // "day.pcap", "day.ff.gz"
     const auto reader = FileReader::create(format);
-    if (!reader || !reader->open(fileName, format))
+    if (!reader || !reader->open(fileName, format)) {
         return reader ? reader->lastError() : QStringLiteral("no recording");
+    }
     QMap<QString, int> messages;
     DataPacket packet; // keep one and reuse it: it holds on to its memory
-    for (reader->read(&packet); packet.kind == DataPacket::Data; reader->read(&packet))
+    for (reader->read(&packet); packet.kind == DataPacket::Data; reader->read(&packet)) {
         ++messages[packet.timeStamp.toString(QStringLiteral("hh:mm"))];
-    if (packet.kind == DataPacket::Error)
+    }
+    if (packet.kind == DataPacket::Error) {
         return QStringLiteral("octet %1: %2").arg(packet.offset).arg(packet.error);
+    }
     const auto busiest = std::max_element(messages.cbegin(), messages.cend());
     return busiest == messages.cend() ? QStringLiteral("empty")
                                       : QStringLiteral("%1: %2 messages").arg(busiest.key()).arg(*busiest);

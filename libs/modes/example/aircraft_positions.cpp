@@ -13,16 +13,18 @@ std::vector<std::string> aircraftPositions(const std::vector<std::string> &recei
     std::string buffer;
     for (const std::string &chunk : received) {
         buffer += chunk; // a frame may end in the next one: extract() leaves its beginning behind
-        for (const auto &frame : ModeSEncapsulation::extract(buffer, ModeSEncapsulation::Beast))
+        for (const auto &frame : ModeSEncapsulation::extract(buffer, ModeSEncapsulation::Beast)) {
             tracker.procModeSMsg(decoder.decode(ModeSMessage::AnyDownlink, frame)); // passes over what is not valid
+        }
     }
     std::vector<std::string> lines;
     for (const auto &[key, target] : tracker.targets()) {
         char line[80];
         std::snprintf(line, sizeof line, "%06X %s %.3f %.3f %d ft", target->icaoAddr(), target->callsign().c_str(),
             target->latitude(), target->longitude(), target->altitudeBaro());
-        if (target->positionValid())
+        if (target->positionValid()) {
             lines.emplace_back(line);
+        }
     }
     return lines;
 }

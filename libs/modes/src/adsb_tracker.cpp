@@ -31,8 +31,9 @@ std::string nameOf(const ADSBTarget &target)
 
 unsigned long long pairSpan(const ADSBTarget &target, bool isSurface)
 {
-    if (!isSurface)
+    if (!isSurface) {
         return AirbornePairSpan;
+    }
     return target.groundSpeed() > SlowSurfaceSpeed ? SurfacePairSpan : SlowSurfacePairSpan;
 }
 
@@ -45,18 +46,23 @@ std::shared_ptr<ADSBTarget> ADSBTracker::procModeSMsg(const std::shared_ptr<Mode
 
 std::shared_ptr<ADSBTarget> ADSBTracker::procModeSMsg(const ModeSMessage &message)
 {
-    if (!message.valid() || !message.isAddressConfirmed())
+    if (!message.valid() || !message.isAddressConfirmed()) {
         return nullptr;
+    }
     const std::shared_ptr<ADSBTarget> target = findOrMake(message);
-    if (!target)
+    if (!target) {
         return nullptr;
+    }
     target->m_lastSeen = message.timeStamp();
-    if (message.isOnGround())
+    if (message.isOnGround()) {
         target->m_isOnGround = *message.isOnGround();
-    if (message.squawk())
+    }
+    if (message.squawk()) {
         target->m_squawk = message.squawk();
-    if (message.altitude())
+    }
+    if (message.altitude()) {
         takeAltitude(*target, *message.altitude(), message.timeStamp());
+    }
     takeContent(*target, message);
     return target;
 }
@@ -66,11 +72,13 @@ std::shared_ptr<ADSBTarget> ADSBTracker::findOrMake(const ModeSMessage &message)
     const bool isIcao = message.addressKind() == ModeSMessage::AddressKind::Icao;
     const std::uint64_t key = message.icaoAddr() | (isIcao ? 0ULL : 1ULL << 24);
     const auto found = m_targets.find(key);
-    if (found != m_targets.end())
+    if (found != m_targets.end()) {
         return found->second;
+    }
     const bool isSquitter = message.downlinkFormat() == 17 || message.downlinkFormat() == 18;
-    if (!isSquitter)
+    if (!isSquitter) {
         return nullptr;
+    }
     const auto target = std::make_shared<ADSBTarget>();
     target->m_address = message.icaoAddr();
     target->m_isAddressValid = isIcao;
@@ -115,10 +123,12 @@ void ADSBTracker::takeContent(ADSBTarget &target, const ModeSMessage &message) c
     const unsigned long long time = message.timeStamp();
     if (const auto *const airborne = std::get_if<AirbornePosition>(&content)) {
         target.m_isOnGround = false;
-        if (airborne->altitude && !airborne->isGnssHeight)
+        if (airborne->altitude && !airborne->isGnssHeight) {
             takeAltitude(target, *airborne->altitude, time);
-        if (airborne->position)
+        }
+        if (airborne->position) {
             takePosition(target, *airborne->position, time);
+        }
     } else if (const auto *const velocity = std::get_if<AirborneVelocity>(&content)) {
         target.m_groundSpeed = velocity->groundSpeed;
         target.m_heading = velocity->track ? velocity->track : velocity->heading;
@@ -129,11 +139,13 @@ void ADSBTracker::takeContent(ADSBTarget &target, const ModeSMessage &message) c
         target.m_heading = surface->track;
         takePosition(target, surface->position, time);
     } else if (const auto *const identification = std::get_if<Identification>(&content)) {
-        if (identification->callsign[0])
+        if (identification->callsign[0]) {
             target.m_callsign = identification->callsign;
+        }
     } else if (const auto *const emergency = std::get_if<EmergencyStatus>(&content)) {
-        if (emergency->squawk)
+        if (emergency->squawk) {
             target.m_squawk = emergency->squawk;
+        }
     } else if (const auto *const coarse = std::get_if<CoarsePosition>(&content)) {
         takeCoarse(target, *coarse, time);
     } else if (target.m_callsign.empty() && message.registers().only() == 0x20) {
@@ -143,8 +155,9 @@ void ADSBTracker::takeContent(ADSBTarget &target, const ModeSMessage &message) c
 
 void ADSBTracker::takeCoarse(ADSBTarget &target, const CoarsePosition &content, unsigned long long time) const
 {
-    if (content.altitude)
+    if (content.altitude) {
         takeAltitude(target, *content.altitude, time);
+    }
     target.m_groundSpeed = content.groundSpeed;
     target.m_heading = content.track;
     takePosition(target, content.position, time);
@@ -156,9 +169,10 @@ void ADSBTracker::takeAltitude(ADSBTarget &target, int altitude, unsigned long l
     if (m_isCheckingAltitude && isRecent) {
         const long long change = altitude - static_cast<long long>(*target.m_altitude);
         if (std::max(change, -change) > static_cast<long long>(m_altitudeMaxChange)) {
-            if (Log::isShown(Log::Debug))
+            if (Log::isShown(Log::Debug)) {
                 Log::write(
                     Log::Debug, nameOf(target) + ": altitude change of " + std::to_string(change) + " ft refused");
+            }
             return;
         }
     }
@@ -171,20 +185,24 @@ void ADSBTracker::takePosition(ADSBTarget &target, const CprPosition &report, un
 {
     target.m_reports[report.isOdd ? 1 : 0] = ADSBTarget::Report{report, time};
     std::optional<LatLon> position = decodePair(target, report);
-    if (!position)
+    if (!position) {
         position = decodeAlone(target, report, time);
-    if (!position)
+    }
+    if (!position) {
         return;
+    }
     if (isInRange(*position) && isReachable(target, *position, time, report.isSurface)) {
         target.m_position = position;
         target.m_positionTime = time;
         target.m_refusedPositions = 0;
         return;
     }
-    if (++target.m_refusedPositions < MaximumRefusals)
+    if (++target.m_refusedPositions < MaximumRefusals) {
         return;
-    if (Log::isShown(Log::Debug))
+    }
+    if (Log::isShown(Log::Debug)) {
         Log::write(Log::Debug, nameOf(target) + ": position given up after contradictions");
+    }
     target.m_refusedPositions = 0;
     target.m_position.reset();
     target.m_reports[0].reset();
@@ -194,21 +212,25 @@ void ADSBTracker::takePosition(ADSBTarget &target, const CprPosition &report, un
 std::optional<LatLon> ADSBTracker::decodePair(const ADSBTarget &target, const CprPosition &newest) const
 {
     const auto &[even, odd] = target.m_reports;
-    if (!even || !odd || span(even->time, odd->time) > pairSpan(target, newest.isSurface))
+    if (!even || !odd || span(even->time, odd->time) > pairSpan(target, newest.isSurface)) {
         return std::nullopt;
-    if (!newest.isSurface)
+    }
+    if (!newest.isSurface) {
         return decodeCprGlobal(even->position, odd->position, newest.isOdd);
+    }
     const std::optional<LatLon> reference = target.m_position ? target.m_position : m_reference;
-    if (!reference)
+    if (!reference) {
         return std::nullopt;
+    }
     return decodeCprGlobalSurface(even->position, odd->position, newest.isOdd, *reference);
 }
 
 std::optional<LatLon> ADSBTracker::decodeAlone(
     const ADSBTarget &target, const CprPosition &report, unsigned long long time) const
 {
-    if (!target.m_position || span(time, target.m_positionTime) > PositionMemory)
+    if (!target.m_position || span(time, target.m_positionTime) > PositionMemory) {
         return std::nullopt;
+    }
     return decodeCprLocal(report, *target.m_position);
 }
 
@@ -217,8 +239,9 @@ bool ADSBTracker::isReachable(
     const ADSBTarget &target, const LatLon &position, unsigned long long time, bool isSurface) const
 {
     const unsigned long long elapsed = span(time, target.m_positionTime);
-    if (!target.m_position || time == 0 || elapsed > PositionMemory)
+    if (!target.m_position || time == 0 || elapsed > PositionMemory) {
         return true;
+    }
     const double margin = isSurface ? 500 : 2000; // metres
     const double unknownSpeed = isSurface ? 200 : 1000; // knots
     const double speed = target.m_groundSpeed ? *target.m_groundSpeed * 1.3 + 50 : unknownSpeed;

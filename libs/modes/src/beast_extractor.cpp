@@ -58,10 +58,11 @@ void appendFrame(const unsigned char *body, std::size_t length, std::vector<Mode
     frame.timeStamp = frame.ticks / ModeSFrame::TicksPerMillisecond;
     frame.signalLevel = body[6];
     frame.length = static_cast<std::uint8_t>(length);
-    if (length == 14)
+    if (length == 14) {
         std::memcpy(frame.octets, body + HeadSize, 14);
-    else
+    } else {
         std::memcpy(frame.octets, body + HeadSize, length);
+    }
 }
 
 enum class Copy { Whole, Incomplete, Broken };
@@ -70,13 +71,16 @@ enum class Copy { Whole, Incomplete, Broken };
 Copy copyBody(const unsigned char *&position, const unsigned char *end, unsigned char *body, std::size_t size)
 {
     for (std::size_t i = 0; i < size; ++i) {
-        if (position == end)
+        if (position == end) {
             return Copy::Incomplete;
+        }
         if (*position == Escape) {
-            if (position + 1 == end)
+            if (position + 1 == end) {
                 return Copy::Incomplete;
-            if (position[1] != Escape)
+            }
+            if (position[1] != Escape) {
                 return Copy::Broken;
+            }
             ++position;
         }
         body[i] = *position++;
@@ -94,8 +98,9 @@ std::size_t extractBeast(std::string_view data, std::vector<ModeSFrame> &frames)
     unsigned char copy[MaximumBody];
     while (position != end) {
         position = std::find(position, end, Escape);
-        if (end - position < 2)
+        if (end - position < 2) {
             break;
+        }
         const unsigned char kind = position[1];
         const std::size_t length = frameLength(kind);
         if (length == 0) {
@@ -108,16 +113,18 @@ std::size_t extractBeast(std::string_view data, std::vector<ModeSFrame> &frames)
         if (next != body + size || !isPlain(body, size)) {
             next = body;
             const Copy result = copyBody(next, end, copy, size);
-            if (result == Copy::Incomplete)
+            if (result == Copy::Incomplete) {
                 break;
+            }
             if (result == Copy::Broken) {
                 position = next;
                 continue;
             }
             body = copy;
         }
-        if (kind != '4')
+        if (kind != '4') {
             appendFrame(body, length, frames);
+        }
         position = next;
     }
     return static_cast<std::size_t>(position - begin);

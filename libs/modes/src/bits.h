@@ -28,8 +28,9 @@ constexpr int signedBits(std::uint64_t field, int first, int count)
 inline std::uint64_t load64(const unsigned char *octets)
 {
     std::uint64_t value = 0;
-    for (std::size_t i = 0; i < 8; ++i)
+    for (std::size_t i = 0; i < 8; ++i) {
         value = value << 8 | octets[i];
+    }
     return value;
 }
 

@@ -39,16 +39,18 @@ template <std::size_t Size>
 unsigned gather(unsigned code, const std::array<Pulse, Size> &pulses)
 {
     unsigned value = 0;
-    for (const Pulse pulse : pulses)
+    for (const Pulse pulse : pulses) {
         value = value << 1 | (code & pulse ? 1U : 0U);
+    }
     return value;
 }
 
 unsigned fromGray(unsigned gray)
 {
     unsigned value = gray;
-    for (unsigned shifted = gray >> 1; shifted; shifted >>= 1)
+    for (unsigned shifted = gray >> 1; shifted; shifted >>= 1) {
         value ^= shifted;
+    }
     return value;
 }
 
@@ -56,12 +58,14 @@ std::optional<int> altitudeFromGillham(unsigned code)
 {
     const auto fiveHundreds = static_cast<int>(fromGray(gather(code, fiveHundredPulses)));
     auto hundreds = static_cast<int>(fromGray(gather(code, hundredPulses)));
-    if (hundreds == 7)
+    if (hundreds == 7) {
         hundreds = 5;
-    else if (hundreds == 0 || hundreds > 4)
+    } else if (hundreds == 0 || hundreds > 4) {
         return std::nullopt;
-    if (fiveHundreds % 2)
+    }
+    if (fiveHundreds % 2) {
         hundreds = 6 - hundreds; // every other run of five counts backwards
+    }
     return fiveHundreds * 500 + hundreds * 100 - 1300;
 }
 
@@ -75,19 +79,23 @@ std::uint16_t squawkFromCode(unsigned code)
 unsigned codeFromSquawk(std::uint16_t squawk)
 {
     unsigned code = 0;
-    for (std::size_t i = 0; i < squawkPulses.size(); ++i)
+    for (std::size_t i = 0; i < squawkPulses.size(); ++i) {
         code |= squawk >> (11 - i) & 1 ? squawkPulses[i] : 0U;
+    }
     return code;
 }
 
 std::optional<int> altitudeFromCode(unsigned code)
 {
-    if (code == 0)
+    if (code == 0) {
         return std::nullopt;
-    if (code & MetricBit)
+    }
+    if (code & MetricBit) {
         return static_cast<int>(std::lround(((code & 0x1F80) >> 1 | (code & 0x3F)) * FeetPerMetre));
-    if (code & QuarterBit)
+    }
+    if (code & QuarterBit) {
         return static_cast<int>((code & 0x1F80) >> 2 | (code & 0x20) >> 1 | (code & 0x0F)) * 25 - 1000;
+    }
     return altitudeFromGillham(code);
 }
 
@@ -99,15 +107,17 @@ unsigned codeFromAltitude(int feet)
 
 bool callsignFromCode(std::uint64_t code, char (&text)[9])
 {
-    for (std::size_t i = 0; i < 8; ++i)
+    for (std::size_t i = 0; i < 8; ++i) {
         text[i] = callsignCharacters[code >> (42 - 6 * i) & 63];
+    }
     text[8] = '\0';
     if (std::memchr(text, '?', 8)) {
         text[0] = '\0';
         return false;
     }
-    for (int i = 7; i >= 0 && text[i] == ' '; --i)
+    for (int i = 7; i >= 0 && text[i] == ' '; --i) {
         text[i] = '\0';
+    }
     return true;
 }
 

@@ -23,8 +23,9 @@ template <std::size_t Size>
 bool obeysStatusBits(std::uint64_t mb, const std::array<StatusField, Size> &fields)
 {
     for (const StatusField &field : fields) {
-        if (!bit(mb, field.status) && bits(mb, field.first, field.count) != 0)
+        if (!bit(mb, field.status) && bits(mb, field.first, field.count) != 0) {
             return false;
+        }
     }
     return true;
 }
@@ -103,8 +104,9 @@ ResolutionAdvisory decodeAdvisory(std::uint64_t field)
     advisory.isTerminated = bit(field, 27);
     advisory.hasMultipleThreats = bit(field, 28);
     advisory.threatType = static_cast<std::uint8_t>(bits(field, 29, 2));
-    if (advisory.threatType == 1)
+    if (advisory.threatType == 1) {
         advisory.threatAddress = bits(field, 31, 24);
+    }
     return advisory;
 }
 
@@ -118,38 +120,43 @@ std::optional<DataLinkCapability> decodeBds10(std::uint64_t mb)
     capability.hasSpecificServices = bit(mb, 25);
     capability.hasIdentification = bit(mb, 33);
     const bool knowsOverlay = capability.version >= 5; // since that version of the subnetwork
-    if (bits(mb, 1, 8) != 0x10 || bits(mb, 10, 5) != 0 || capability.hasOverlayCommand != knowsOverlay)
+    if (bits(mb, 1, 8) != 0x10 || bits(mb, 10, 5) != 0 || capability.hasOverlayCommand != knowsOverlay) {
         return std::nullopt;
+    }
     return capability;
 }
 
 std::optional<UsageCapability> decodeBds17(std::uint64_t mb)
 {
     constexpr int IdentificationBit = 7; // every aircraft with registers has this one
-    if (bits(mb, 25, 32) != 0 || !bit(mb, IdentificationBit))
+    if (bits(mb, 25, 32) != 0 || !bit(mb, IdentificationBit)) {
         return std::nullopt;
+    }
     return UsageCapability{bits(mb, 1, 24)};
 }
 
 std::optional<AircraftIdentification> decodeBds20(std::uint64_t mb)
 {
     AircraftIdentification identification;
-    if (bits(mb, 1, 8) != 0x20 || !callsignFromCode(mb & 0xFFFFFFFFFFFF, identification.callsign))
+    if (bits(mb, 1, 8) != 0x20 || !callsignFromCode(mb & 0xFFFFFFFFFFFF, identification.callsign)) {
         return std::nullopt;
+    }
     return identification;
 }
 
 std::optional<ResolutionAdvisory> decodeBds30(std::uint64_t mb)
 {
-    if (bits(mb, 1, 8) != 0x30 || bits(mb, 29, 2) == 3)
+    if (bits(mb, 1, 8) != 0x30 || bits(mb, 29, 2) == 3) {
         return std::nullopt;
+    }
     return decodeAdvisory(mb);
 }
 
 std::optional<VerticalIntention> decodeBds40(std::uint64_t mb)
 {
-    if (mb == 0 || !obeysStatusBits(mb, bds40Fields) || bits(mb, 40, 8) != 0 || bits(mb, 52, 2) != 0)
+    if (mb == 0 || !obeysStatusBits(mb, bds40Fields) || bits(mb, 40, 8) != 0 || bits(mb, 52, 2) != 0) {
         return std::nullopt;
+    }
     VerticalIntention intention;
     intention.mcpAltitude = number(mb, bds40Fields[0], 16);
     intention.fmsAltitude = number(mb, bds40Fields[1], 16);
@@ -161,8 +168,9 @@ std::optional<VerticalIntention> decodeBds40(std::uint64_t mb)
 
 std::optional<MeteorologicalHazard> decodeBds45(std::uint64_t mb)
 {
-    if (mb == 0 || !obeysStatusBits(mb, bds45Fields) || bits(mb, 52, 5) != 0)
+    if (mb == 0 || !obeysStatusBits(mb, bds45Fields) || bits(mb, 52, 5) != 0) {
         return std::nullopt;
+    }
     MeteorologicalHazard hazard;
     hazard.turbulence = smallNumber(mb, bds45Fields[0]);
     hazard.windShear = smallNumber(mb, bds45Fields[1]);
@@ -172,32 +180,37 @@ std::optional<MeteorologicalHazard> decodeBds45(std::uint64_t mb)
     hazard.temperature = signedAngle(mb, bds45Fields[5], 0.25);
     hazard.pressure = number(mb, bds45Fields[6], 1);
     hazard.radioHeight = number(mb, bds45Fields[7], 16);
-    if (hazard.temperature && (*hazard.temperature < -80 || *hazard.temperature > 60))
+    if (hazard.temperature && (*hazard.temperature < -80 || *hazard.temperature > 60)) {
         return std::nullopt;
+    }
     return hazard;
 }
 
 std::optional<TrackAndTurn> decodeBds50(std::uint64_t mb)
 {
-    if (mb == 0 || !obeysStatusBits(mb, bds50Fields))
+    if (mb == 0 || !obeysStatusBits(mb, bds50Fields)) {
         return std::nullopt;
+    }
     TrackAndTurn turn;
     turn.roll = signedAngle(mb, bds50Fields[0], 45.0 / 256);
     turn.trueTrack = direction(mb, bds50Fields[1], 90.0 / 512);
     turn.groundSpeed = number(mb, bds50Fields[2], 2);
     turn.trackRate = signedAngle(mb, bds50Fields[3], 8.0 / 256);
     turn.trueAirspeed = number(mb, bds50Fields[4], 2);
-    if (isBeyond(turn.roll, 50.0) || isBeyond(turn.groundSpeed, 600) || isBeyond(turn.trueAirspeed, 600))
+    if (isBeyond(turn.roll, 50.0) || isBeyond(turn.groundSpeed, 600) || isBeyond(turn.trueAirspeed, 600)) {
         return std::nullopt;
-    if (turn.groundSpeed && turn.trueAirspeed && std::abs(*turn.groundSpeed - *turn.trueAirspeed) > 200)
+    }
+    if (turn.groundSpeed && turn.trueAirspeed && std::abs(*turn.groundSpeed - *turn.trueAirspeed) > 200) {
         return std::nullopt;
+    }
     return turn;
 }
 
 std::optional<HeadingAndSpeed> decodeBds60(std::uint64_t mb, std::optional<int> altitude)
 {
-    if (mb == 0 || !obeysStatusBits(mb, bds60Fields))
+    if (mb == 0 || !obeysStatusBits(mb, bds60Fields)) {
         return std::nullopt;
+    }
     HeadingAndSpeed speed;
     speed.magneticHeading = direction(mb, bds60Fields[0], 90.0 / 512);
     speed.indicatedAirspeed = number(mb, bds60Fields[1], 1);
@@ -205,11 +218,13 @@ std::optional<HeadingAndSpeed> decodeBds60(std::uint64_t mb, std::optional<int> 
     speed.barometricRate = signedNumber(mb, bds60Fields[3], 32);
     speed.inertialRate = signedNumber(mb, bds60Fields[4], 32);
     if (isBeyond(speed.indicatedAirspeed, 500) || isBeyond(speed.mach, 1.0) || isBeyond(speed.barometricRate, 6000)
-        || isBeyond(speed.inertialRate, 6000))
+        || isBeyond(speed.inertialRate, 6000)) {
         return std::nullopt;
+    }
     if (altitude && speed.indicatedAirspeed && speed.mach
-        && std::abs(calibratedAirspeed(*speed.mach, *altitude) - *speed.indicatedAirspeed) > SpeedTolerance)
+        && std::abs(calibratedAirspeed(*speed.mach, *altitude) - *speed.indicatedAirspeed) > SpeedTolerance) {
         return std::nullopt;
+    }
     return speed;
 }
 
@@ -217,8 +232,9 @@ RegisterCandidates inferRegisters(std::uint64_t mb, std::optional<int> altitude)
 {
     RegisterCandidates candidates;
     const auto add = [&candidates](std::uint8_t code, bool isPossible) {
-        if (isPossible)
+        if (isPossible) {
             candidates.registers[candidates.count++] = code;
+        }
     };
     add(0x10, decodeBds10(mb).has_value());
     add(0x17, decodeBds17(mb).has_value());

@@ -116,23 +116,26 @@ CprPosition encodeCpr(const LatLon &position, bool isOdd, bool isSurface, unsign
 
 std::optional<LatLon> decodeCprGlobal(const CprPosition &even, const CprPosition &odd, bool isOddNewer)
 {
-    if (!isPair(even, odd) || even.isSurface)
+    if (!isPair(even, odd) || even.isSurface) {
         return std::nullopt;
+    }
     LatitudePair latitudes = latitudesOf(even, odd);
     latitudes.even -= latitudes.even >= 270 ? 360 : 0;
     latitudes.odd -= latitudes.odd >= 270 ? 360 : 0;
     const double latitude = isOddNewer ? latitudes.odd : latitudes.even;
     const int zones = cprLongitudeZones(latitude);
-    if (std::abs(latitude) > 90 || cprLongitudeZones(isOddNewer ? latitudes.even : latitudes.odd) != zones)
+    if (std::abs(latitude) > 90 || cprLongitudeZones(isOddNewer ? latitudes.even : latitudes.odd) != zones) {
         return std::nullopt;
+    }
     return LatLon{latitude, wrapped(longitudeOf(even, odd, isOddNewer, zones))};
 }
 
 std::optional<LatLon> decodeCprGlobalSurface(
     const CprPosition &even, const CprPosition &odd, bool isOddNewer, const LatLon &reference)
 {
-    if (!isPair(even, odd) || !even.isSurface)
+    if (!isPair(even, odd) || !even.isSurface) {
         return std::nullopt;
+    }
     LatitudePair latitudes = latitudesOf(even, odd);
     const double northern = isOddNewer ? latitudes.odd : latitudes.even;
     const bool isSouthern = std::abs(northern - 90 - reference.latitude) < std::abs(northern - reference.latitude);
@@ -140,8 +143,9 @@ std::optional<LatLon> decodeCprGlobalSurface(
     latitudes.odd -= isSouthern ? 90 : 0;
     const double latitude = isOddNewer ? latitudes.odd : latitudes.even;
     const int zones = cprLongitudeZones(latitude);
-    if (cprLongitudeZones(isOddNewer ? latitudes.even : latitudes.odd) != zones)
+    if (cprLongitudeZones(isOddNewer ? latitudes.even : latitudes.odd) != zones) {
         return std::nullopt;
+    }
     const double first = longitudeOf(even, odd, isOddNewer, zones);
     const double quarters = std::floor((reference.longitude - first) / 90 + 0.5);
     return LatLon{latitude, wrapped(first + 90 * quarters)};
@@ -153,8 +157,9 @@ std::optional<LatLon> decodeCprLocal(const CprPosition &report, const LatLon &re
     const double part = fraction(report.latitude, report);
     const double row = std::floor(reference.latitude / zone - part + 0.5);
     const double latitude = zone * (row + part);
-    if (std::abs(latitude) > 90)
+    if (std::abs(latitude) > 90) {
         return std::nullopt;
+    }
     const double width = longitudeZone(report, latitude);
     const double offset = fraction(report.longitude, report);
     const double column = std::floor(reference.longitude / width - offset + 0.5);

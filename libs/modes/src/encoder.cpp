@@ -37,24 +37,31 @@ private:
 
 void storeOctets(unsigned char *octets, std::uint64_t value, std::size_t count)
 {
-    for (std::size_t i = 0; i < count; ++i)
+    for (std::size_t i = 0; i < count; ++i) {
         octets[i] = static_cast<unsigned char>(value >> 8 * (count - 1 - i));
+    }
 }
 
 unsigned movementOf(double speed)
 {
-    if (speed < 0.125)
+    if (speed < 0.125) {
         return 1;
-    if (speed < 1)
+    }
+    if (speed < 1) {
         return 2 + static_cast<unsigned>(std::lround((speed - 0.125) / 0.125));
-    if (speed < 2)
+    }
+    if (speed < 2) {
         return 9 + static_cast<unsigned>(std::lround((speed - 1) / 0.25));
-    if (speed < 15)
+    }
+    if (speed < 15) {
         return 13 + static_cast<unsigned>(std::lround((speed - 2) / 0.5));
-    if (speed < 70)
+    }
+    if (speed < 70) {
         return 39 + static_cast<unsigned>(std::lround(speed - 15));
-    if (speed < 100)
+    }
+    if (speed < 100) {
         return 94 + static_cast<unsigned>(std::lround((speed - 70) / 2));
+    }
     return speed < 175 ? 109 + static_cast<unsigned>(std::lround((speed - 100) / 5)) : 124;
 }
 
@@ -64,8 +71,9 @@ ModeSFrame makeReply(unsigned format, std::uint32_t address, unsigned flightStat
     ModeSFrame frame;
     frame.length = downlinkFormatOf(static_cast<unsigned char>(format << 3)).length;
     storeOctets(frame.octets, format << 27 | (flightStatus & 7) << 24 | code, 4);
-    if (frame.length == 14)
+    if (frame.length == 14) {
         storeOctets(frame.octets + 4, mb, 7);
+    }
     setParity(frame, address);
     return frame;
 }
@@ -86,16 +94,18 @@ void appendAvr(std::string &out, const ModeSFrame &frame)
     head[6] = frame.signalLevel;
     const bool hasTicks = frame.ticks != ModeSFrame::NoTicks;
     out += !hasTicks ? '*' : frame.signalLevel ? '<' : '@';
-    if (hasTicks)
+    if (hasTicks) {
         appendDigits(out, head, frame.signalLevel ? 7 : 6);
+    }
     appendDigits(out, frame.octets, frame.length);
     out += ";\n";
 }
 
 void appendEscaped(std::string &out, const unsigned char *octets, std::size_t count)
 {
-    for (std::size_t i = 0; i < count; ++i)
+    for (std::size_t i = 0; i < count; ++i) {
         out.append(octets[i] == Escape ? 2 : 1, static_cast<char>(octets[i]));
+    }
 }
 
 void appendBeast(std::string &out, const ModeSFrame &frame)
@@ -221,10 +231,12 @@ void appendEncapsulated(std::string &out, const ModeSFrame &frame, ModeSEncapsul
         return;
     case ModeSEncapsulation::Raw:
     case ModeSEncapsulation::RawRssi:
-        for (std::size_t i = 0; i < frame.length; ++i)
+        for (std::size_t i = 0; i < frame.length; ++i) {
             out += static_cast<char>(frame.octets[i]);
-        if (format == ModeSEncapsulation::RawRssi)
+        }
+        if (format == ModeSEncapsulation::RawRssi) {
             out += static_cast<char>(frame.signalLevel);
+        }
         return;
     default:
         appendBeast(out, frame);

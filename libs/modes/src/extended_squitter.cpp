@@ -44,11 +44,13 @@ constexpr std::array movementRanges{MovementRange{124, 175, 0}, MovementRange{10
 
 std::optional<double> speedOfMovement(std::uint32_t code)
 {
-    if (code > movementRanges.front().first)
+    if (code > movementRanges.front().first) {
         return std::nullopt;
+    }
     for (const MovementRange &range : movementRanges) {
-        if (code >= range.first)
+        if (code >= range.first) {
             return range.speed + range.step * (code - range.first);
+        }
     }
     return std::nullopt;
 }
@@ -57,8 +59,9 @@ SurfacePosition decodeSurfacePosition(std::uint64_t me)
 {
     SurfacePosition content;
     content.groundSpeed = speedOfMovement(bits(me, 6, 7));
-    if (bit(me, 13))
+    if (bit(me, 13)) {
         content.track = bits(me, 14, 7) * 360.0 / 128;
+    }
     content.position = positionOf(me, true);
     return content;
 }
@@ -69,8 +72,9 @@ AirbornePosition decodeAirbornePosition(std::uint64_t me, std::uint32_t typeCode
     content.surveillanceStatus = static_cast<std::uint8_t>(bits(me, 6, 2));
     content.isGnssHeight = typeCode >= 20;
     content.altitude = altitudeFromShortCode(bits(me, 9, 12));
-    if (typeCode != 0)
+    if (typeCode != 0) {
         content.position = positionOf(me, false);
+    }
     return content;
 }
 
@@ -78,8 +82,9 @@ AirbornePosition decodeAirbornePosition(std::uint64_t me, std::uint32_t typeCode
 std::optional<int> component(std::uint64_t me, int first, int scale)
 {
     const auto value = static_cast<int>(bits(me, first + 1, 10));
-    if (value == 0)
+    if (value == 0) {
         return std::nullopt;
+    }
     return (value - 1) * (bit(me, first) ? -scale : scale);
 }
 
@@ -87,8 +92,9 @@ void decodeGroundVelocity(std::uint64_t me, int scale, AirborneVelocity &content
 {
     const std::optional<int> east = component(me, 14, scale);
     const std::optional<int> north = component(me, 25, scale);
-    if (!east || !north)
+    if (!east || !north) {
         return;
+    }
     content.groundSpeed = std::sqrt(static_cast<double>(*east * *east + *north * *north));
     const double track = std::atan2(*east, *north) * (180 / std::numbers::pi);
     content.track = track < 0 ? track + 360 : track;
@@ -96,38 +102,46 @@ void decodeGroundVelocity(std::uint64_t me, int scale, AirborneVelocity &content
 
 void decodeAirVelocity(std::uint64_t me, int scale, AirborneVelocity &content)
 {
-    if (bit(me, 14))
+    if (bit(me, 14)) {
         content.heading = bits(me, 15, 10) * 360.0 / 1024;
+    }
     content.isTrueAirspeed = bit(me, 25);
-    if (const auto airspeed = static_cast<int>(bits(me, 26, 10)))
+    if (const auto airspeed = static_cast<int>(bits(me, 26, 10))) {
         content.airspeed = (airspeed - 1) * scale;
+    }
 }
 
 SquitterContent decodeVelocity(std::uint64_t me)
 {
     AirborneVelocity content;
     content.subtype = static_cast<std::uint8_t>(bits(me, 6, 3));
-    if (content.subtype < 1 || content.subtype > 4)
+    if (content.subtype < 1 || content.subtype > 4) {
         return {};
+    }
     const int scale = content.subtype % 2 ? 1 : 4;
-    if (content.subtype <= 2)
+    if (content.subtype <= 2) {
         decodeGroundVelocity(me, scale, content);
-    else
+    } else {
         decodeAirVelocity(me, scale, content);
+    }
     content.isBarometricRate = bit(me, 36);
-    if (const auto rate = static_cast<int>(bits(me, 38, 9)))
+    if (const auto rate = static_cast<int>(bits(me, 38, 9))) {
         content.verticalRate = (rate - 1) * (bit(me, 37) ? -64 : 64);
-    if (const auto difference = static_cast<int>(bits(me, 50, 7)))
+    }
+    if (const auto difference = static_cast<int>(bits(me, 50, 7))) {
         content.gnssAboveBarometric = (difference - 1) * (bit(me, 49) ? -25 : 25);
+    }
     return content;
 }
 
 SquitterContent decodeAircraftStatus(std::uint64_t me)
 {
-    if (bits(me, 6, 3) == 2)
+    if (bits(me, 6, 3) == 2) {
         return decodeAdvisory(me);
-    if (bits(me, 6, 3) != 1)
+    }
+    if (bits(me, 6, 3) != 1) {
         return {};
+    }
     EmergencyStatus content;
     content.emergency = static_cast<std::uint8_t>(bits(me, 9, 3));
     content.squawk = squawkFromCode(bits(me, 12, 13));
@@ -137,22 +151,27 @@ SquitterContent decodeAircraftStatus(std::uint64_t me)
 void decodeTargetStateFirst(std::uint64_t me, TargetState &content)
 {
     const std::uint32_t source = bits(me, 8, 2);
-    if (source != 0 && bits(me, 16, 10) <= 1010)
+    if (source != 0 && bits(me, 16, 10) <= 1010) {
         content.selectedAltitude = static_cast<int>(bits(me, 16, 10)) * 100 - 1000;
+    }
     content.isFmsAltitude = source == 3;
-    if (bits(me, 26, 2) != 0 && bits(me, 28, 9) < 360)
+    if (bits(me, 26, 2) != 0 && bits(me, 28, 9) < 360) {
         content.selectedHeading = bits(me, 28, 9);
+    }
 }
 
 void decodeTargetStateSecond(std::uint64_t me, TargetState &content)
 {
     content.isFmsAltitude = bit(me, 9);
-    if (const auto altitude = static_cast<int>(bits(me, 10, 11)))
+    if (const auto altitude = static_cast<int>(bits(me, 10, 11))) {
         content.selectedAltitude = (altitude - 1) * 32;
-    if (const std::uint32_t setting = bits(me, 21, 9))
+    }
+    if (const std::uint32_t setting = bits(me, 21, 9)) {
         content.barometricSetting = 800 + (setting - 1) * 0.8;
-    if (bit(me, 30))
+    }
+    if (bit(me, 30)) {
         content.selectedHeading = bits(me, 31, 9) * 180.0 / 256;
+    }
     content.hasModes = bit(me, 47);
     content.isAutopilotOn = content.hasModes && bit(me, 48);
     content.isVnavOn = content.hasModes && bit(me, 49);
@@ -167,19 +186,22 @@ SquitterContent decodeTargetState(std::uint64_t me)
     content.subtype = static_cast<std::uint8_t>(bits(me, 6, 2));
     content.nacP = static_cast<std::uint8_t>(bits(me, 40, 4));
     content.sil = static_cast<std::uint8_t>(bits(me, 45, 2));
-    if (content.subtype > 1)
+    if (content.subtype > 1) {
         return {};
-    if (content.subtype == 1)
+    }
+    if (content.subtype == 1) {
         decodeTargetStateSecond(me, content);
-    else
+    } else {
         decodeTargetStateFirst(me, content);
+    }
     return content;
 }
 
 SquitterContent decodeOperationalStatus(std::uint64_t me)
 {
-    if (bits(me, 6, 3) > 1)
+    if (bits(me, 6, 3) > 1) {
         return {};
+    }
     OperationalStatus content;
     content.isSurface = bit(me, 8);
     content.capabilities = static_cast<std::uint16_t>(bits(me, 9, 16));
@@ -197,12 +219,15 @@ SquitterContent decodeOperationalStatus(std::uint64_t me)
 SquitterContent decodeSquitter(std::uint64_t me)
 {
     const std::uint32_t typeCode = bits(me, 1, 5);
-    if (typeCode >= 1 && typeCode <= 4)
+    if (typeCode >= 1 && typeCode <= 4) {
         return decodeIdentification(me);
-    if (typeCode >= 5 && typeCode <= 8)
+    }
+    if (typeCode >= 5 && typeCode <= 8) {
         return decodeSurfacePosition(me);
-    if (typeCode <= 18 || (typeCode >= 20 && typeCode <= 22))
+    }
+    if (typeCode <= 18 || (typeCode >= 20 && typeCode <= 22)) {
         return decodeAirbornePosition(me, typeCode);
+    }
     switch (typeCode) {
     case 19:
         return decodeVelocity(me);
@@ -221,10 +246,12 @@ CoarsePosition decodeCoarsePosition(std::uint64_t me)
 {
     CoarsePosition content;
     content.altitude = altitudeFromShortCode(bits(me, 8, 12));
-    if (bit(me, 20))
+    if (bit(me, 20)) {
         content.track = bits(me, 21, 5) * 11.25;
-    if (const std::uint32_t speed = bits(me, 26, 6))
+    }
+    if (const std::uint32_t speed = bits(me, 26, 6)) {
         content.groundSpeed = (speed - 1) * 32.0;
+    }
     content.position = {bit(me, 32), false, 12, bits(me, 33, 12), bits(me, 45, 12)};
     return content;
 }

@@ -28,8 +28,9 @@ bool Log::isShown(Level level)
 
 void Log::write(Level level, const std::string &text)
 {
-    if (LogHandler *const handler = isShown(level) ? handlerInUse.load() : nullptr)
+    if (LogHandler *const handler = isShown(level) ? handlerInUse.load() : nullptr) {
         handler->log(level, text);
+    }
 }
 
 LogHandler::~LogHandler()

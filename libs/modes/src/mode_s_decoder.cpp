@@ -24,14 +24,18 @@ std::uint32_t headBits(const ModeSFrame &frame, int first, int count)
 bool hasOtherAddress(std::uint64_t me)
 {
     const std::uint32_t typeCode = bits(me, 1, 5);
-    if (typeCode == 0 || (typeCode >= 9 && typeCode <= 18) || (typeCode >= 20 && typeCode <= 22))
+    if (typeCode == 0 || (typeCode >= 9 && typeCode <= 18) || (typeCode >= 20 && typeCode <= 22)) {
         return bit(me, 8);
-    if (typeCode >= 5 && typeCode <= 8)
+    }
+    if (typeCode >= 5 && typeCode <= 8) {
         return bit(me, 21);
-    if (typeCode == 19)
+    }
+    if (typeCode == 19) {
         return bit(me, 9);
-    if (typeCode == 29)
+    }
+    if (typeCode == 29) {
         return bit(me, 51);
+    }
     return (typeCode == 28 || typeCode == 31) && bit(me, 56);
 }
 
@@ -42,12 +46,14 @@ ModeSDecoder::ModeSDecoder() : m_heard(BucketSize << BucketBits) { }
 std::shared_ptr<ModeSMessage> ModeSDecoder::decode(
     ModeSMessage::ModeSMsgType type, const std::shared_ptr<ModeSEncapsulation> &encapsulation)
 {
-    if (!m_message || m_message.use_count() > 1)
+    if (!m_message || m_message.use_count() > 1) {
         m_message = std::make_shared<ModeSMessage>();
-    if (encapsulation)
+    }
+    if (encapsulation) {
         decode(type, encapsulation->frame(), *m_message);
-    else
+    } else {
         *m_message = ModeSMessage();
+    }
     return m_message;
 }
 
@@ -57,18 +63,20 @@ void ModeSDecoder::decode(ModeSMessage::ModeSMsgType type, const ModeSFrame &fra
     const DownlinkFormat format = downlinkFormatOf(frame.octets[0]);
     message.reset(frame);
     message.m_downlinkFormat = static_cast<std::int8_t>(format.number);
-    if (frame.length == 2)
+    if (frame.length == 2) {
         message.m_fault = Fault::NotModeS;
-    else if (format.parity == ParityKind::Unknown)
+    } else if (format.parity == ParityKind::Unknown) {
         message.m_fault = Fault::DownlinkFormat;
-    else if (frame.length != format.length)
+    } else if (frame.length != format.length) {
         message.m_fault = Fault::Length;
-    else if (type == ModeSMessage::ExtendedSquitter && format.parity != ParityKind::Own)
+    } else if (type == ModeSMessage::ExtendedSquitter && format.parity != ParityKind::Own) {
         message.m_fault = Fault::MessageType;
-    else
+    } else {
         message.m_fault = Fault::None;
-    if (!message.valid())
+    }
+    if (!message.valid()) {
         return;
+    }
     const std::uint32_t remainder = parityRemainder(frame.octets, frame.length);
     if (format.parity != ParityKind::Address) {
         decodeOwnParity(message, remainder);
@@ -76,40 +84,45 @@ void ModeSDecoder::decode(ModeSMessage::ModeSMsgType type, const ModeSFrame &fra
     }
     message.m_address = remainder;
     confirm(message);
-    if (message.valid())
+    if (message.valid()) {
         decodeReply(message);
+    }
 }
 
 // The address that comes out of a damaged frame is any: only one that was heard otherwise proves the frame.
 void ModeSDecoder::confirm(ModeSMessage &message) const
 {
     message.m_isAddressConfirmed = isRemembered(message.m_address, message.timeStamp());
-    if (!message.m_isAddressConfirmed && m_isCheckingAddress)
+    if (!message.m_isAddressConfirmed && m_isCheckingAddress) {
         message.m_fault = ModeSMessage::Fault::UnknownAddress;
+    }
 }
 
 void ModeSDecoder::decodeReply(ModeSMessage &message) const
 {
     const ModeSFrame &frame = message.m_frame;
     const int format = message.m_downlinkFormat;
-    if (frame.length == 14)
+    if (frame.length == 14) {
         message.m_messageField = load64(frame.octets + 4) >> 8;
+    }
     if (format == 24) {
         message.m_status = static_cast<std::uint8_t>(headBits(frame, 5, 4));
         return;
     }
-    if (format == 5 || format == 21)
+    if (format == 5 || format == 21) {
         message.m_squawk = squawkFromCode(headBits(frame, 20, 13));
-    else
+    } else {
         message.m_altitude = altitudeFromCode(headBits(frame, 20, 13));
+    }
     if (format == 0 || format == 16) {
         message.m_status = static_cast<std::uint8_t>(headBits(frame, 6, 1));
         message.m_isOnGround = message.m_status == 1;
         return;
     }
     message.m_status = static_cast<std::uint8_t>(headBits(frame, 6, 3));
-    if (message.m_status < 4) // above: alert or identification without a word on the ground
+    if (message.m_status < 4) { // above: alert or identification without a word on the ground
         message.m_isOnGround = message.m_status % 2 == 1;
+    }
 }
 
 void ModeSDecoder::decodeOwnParity(ModeSMessage &message, std::uint32_t remainder)
@@ -122,23 +135,28 @@ void ModeSDecoder::decodeOwnParity(ModeSMessage &message, std::uint32_t remainde
     }
     message.m_address = load24(message.m_frame.octets + 1);
     message.m_status = static_cast<std::uint8_t>(headBits(message.m_frame, 6, 3));
-    if (isAllCall && isGood)
+    if (isAllCall && isGood) {
         message.m_interrogator = static_cast<std::uint8_t>(remainder);
-    if (!isAllCall)
+    }
+    if (!isAllCall) {
         decodeSquitterFrame(message);
-    if (message.m_downlinkFormat != 18 && (message.m_status == 4 || message.m_status == 5))
+    }
+    if (message.m_downlinkFormat != 18 && (message.m_status == 4 || message.m_status == 5)) {
         message.m_isOnGround = message.m_status == 4;
+    }
     message.m_isAddressConfirmed = true;
-    if (message.m_addressKind == ModeSMessage::AddressKind::Icao && message.m_correctedBit == 0)
+    if (message.m_addressKind == ModeSMessage::AddressKind::Icao && message.m_correctedBit == 0) {
         remember(message.m_address, message.timeStamp());
+    }
 }
 
 bool ModeSDecoder::correct(ModeSMessage &message, std::uint32_t remainder) const
 {
     constexpr int FormatBits = 5; // wrong ones would have made another format of it
     const int position = faultyBit(remainder, message.m_frame.length);
-    if (position <= FormatBits)
+    if (position <= FormatBits) {
         return false;
+    }
     message.m_correctedBit = static_cast<std::uint8_t>(position);
     message.m_frame.octets[(position - 1) / 8] ^= static_cast<unsigned char>(0x80 >> (position - 1) % 8);
     return true;
@@ -179,8 +197,9 @@ void ModeSDecoder::remember(std::uint32_t address, unsigned long long time)
             return;
         }
         const bool isBetter = entry->address == NoAddress || entry->time < place->time;
-        if (place->address != NoAddress && isBetter)
+        if (place->address != NoAddress && isBetter) {
             place = entry;
+        }
     }
     *place = {address, time};
 }

@@ -41,8 +41,9 @@ std::vector<std::shared_ptr<ModeSEncapsulation>> ModeSEncapsulation::extract(std
     block->reserve(frames.size());
     std::vector<std::shared_ptr<ModeSEncapsulation>> encapsulations;
     encapsulations.reserve(frames.size());
-    for (const ModeSFrame &frame : frames)
+    for (const ModeSFrame &frame : frames) {
         encapsulations.emplace_back(block, &block->emplace_back(frame, format));
+    }
     return encapsulations;
 }
 

@@ -33,8 +33,9 @@ RegisterCandidates ModeSMessage::registers() const
 
 std::optional<ResolutionAdvisory> ModeSMessage::coordination() const
 {
-    if (m_downlinkFormat != 16 || bits(m_messageField, 1, 8) != 0x30)
+    if (m_downlinkFormat != 16 || bits(m_messageField, 1, 8) != 0x30) {
         return std::nullopt;
+    }
     return decodeAdvisory(m_messageField);
 }
 

@@ -20,8 +20,9 @@ constexpr std::array<Row, MaximumData> makeTable()
     std::array<Row, MaximumData> table{};
     for (std::uint32_t octet = 0; octet < 256; ++octet) {
         std::uint32_t remainder = octet << 16;
-        for (int i = 0; i < 8; ++i)
+        for (int i = 0; i < 8; ++i) {
             remainder = (remainder << 1 & 0xFFFFFF) ^ (remainder & 0x800000 ? Generator : 0);
+        }
         table[0][octet] = remainder;
     }
     for (std::size_t place = 1; place < MaximumData; ++place) {
@@ -39,8 +40,9 @@ template <std::size_t Data>
 std::uint32_t remainderOf(const unsigned char *frame)
 {
     std::uint32_t remainder = load24(frame + Data);
-    for (std::size_t i = 0; i < Data; ++i)
+    for (std::size_t i = 0; i < Data; ++i) {
         remainder ^= table[Data - 1 - i][frame[i]];
+    }
     return remainder;
 }
 
@@ -56,8 +58,9 @@ int faultyBit(std::uint32_t remainder, std::size_t length)
     unsigned char frame[14] = {};
     for (std::size_t i = 0; i < 8 * length; ++i) {
         frame[i / 8] = static_cast<unsigned char>(0x80U >> i % 8);
-        if (parityRemainder(frame, length) == remainder)
+        if (parityRemainder(frame, length) == remainder) {
             return static_cast<int>(i) + 1;
+        }
         frame[i / 8] = 0;
     }
     return 0;

@@ -24,11 +24,13 @@ public:
         bool isInStep = true;
         while (offset < m_size) {
             const Look look = lookAt(offset);
-            if (look == Look::Incomplete)
+            if (look == Look::Incomplete) {
                 break;
+            }
             isInStep = look == Look::Proven || (isInStep ? isLikely(look, offset) : isRow(offset));
-            if (isInStep)
+            if (isInStep) {
                 append(offset, frames);
+            }
             offset += isInStep ? stride(offset) : 1;
         }
         return offset;
@@ -43,12 +45,15 @@ private:
     Look lookAt(std::size_t offset) const
     {
         const DownlinkFormat format = downlinkFormatOf(m_data[offset]);
-        if (format.parity == ParityKind::Unknown)
+        if (format.parity == ParityKind::Unknown) {
             return Look::Nothing;
-        if (m_size - offset < format.length + m_extra)
+        }
+        if (m_size - offset < format.length + m_extra) {
             return Look::Incomplete;
-        if (format.parity == ParityKind::Address)
+        }
+        if (format.parity == ParityKind::Address) {
             return Look::Trusted;
+        }
         const std::uint32_t remainder = parityRemainder(m_data + offset, format.length);
         const std::uint32_t allowed = format.parity == ParityKind::Interrogator ? InterrogatorMask : 0;
         return (remainder & ~allowed) == 0 ? Look::Proven : Look::Failed;
@@ -59,13 +64,16 @@ private:
     bool isLikely(Look look, std::size_t offset) const
     {
         const std::size_t next = offset + stride(offset);
-        if (look == Look::Failed)
+        if (look == Look::Failed) {
             return next == m_size || lookAt(next) > Look::Failed;
-        if (look != Look::Trusted)
+        }
+        if (look != Look::Trusted) {
             return false;
+        }
         for (std::size_t inside = offset + 1; inside < next; ++inside) {
-            if (lookAt(inside) == Look::Proven)
+            if (lookAt(inside) == Look::Proven) {
                 return false;
+            }
         }
         return true;
     }
@@ -73,8 +81,9 @@ private:
     bool isRow(std::size_t offset) const
     {
         for (int i = 0; i < RowLength; ++i) {
-            if (offset >= m_size || lookAt(offset) < Look::Trusted)
+            if (offset >= m_size || lookAt(offset) < Look::Trusted) {
                 return false;
+            }
             offset += stride(offset);
         }
         return true;
@@ -85,8 +94,9 @@ private:
         ModeSFrame &frame = frames.emplace_back();
         frame.length = downlinkFormatOf(m_data[offset]).length;
         std::copy_n(m_data + offset, frame.length, frame.octets);
-        if (m_extra)
+        if (m_extra) {
             frame.signalLevel = m_data[offset + frame.length];
+        }
     }
 
     const unsigned char *m_data;

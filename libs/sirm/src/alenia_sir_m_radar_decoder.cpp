@@ -33,15 +33,18 @@ std::size_t fixedSize(std::uint32_t type)
 Error findHeaderFault(const unsigned char *octets, std::size_t length, std::size_t &offset)
 {
     offset = length;
-    if (length < header::Size)
+    if (length < header::Size) {
         return Error::HeaderTruncated;
+    }
     const std::size_t size = bitsOf(octets, header::Length);
     const std::size_t fixed = fixedSize(bitsOf(octets, header::Type));
     offset = fixed == 0 ? header::Type.offset : header::Length.offset;
-    if (fixed == 0)
+    if (fixed == 0) {
         return Error::UnknownType;
-    if (size < fixed)
+    }
+    if (size < fixed) {
         return Error::LengthTooShort;
+    }
     return size > length ? Error::MessageTruncated : Error::None;
 }
 
@@ -59,15 +62,18 @@ std::unique_ptr<AleniaSirMRadarMessage> decodeData(const unsigned char *octets)
     auto message = std::make_unique<AleniaSirMRadarDataMessage>();
     const std::size_t plots = bitsOf(octets, data::PlotCount);
     const std::size_t tracks = bitsOf(octets, data::TrackCount);
-    if (bitsOf(octets, data::SectorValid) != 0)
+    if (bitsOf(octets, data::SectorValid) != 0) {
         message->setSector(bitsOf(octets, data::Sector));
+    }
     message->reserve(plots, tracks);
     const unsigned char *const plotOctets = octets + data::Size;
-    for (std::size_t i = 0; i < plots; ++i)
+    for (std::size_t i = 0; i < plots; ++i) {
         message->addPlotRecord(AleniaSirMRadarPlotRecord::fromOctets(plotOctets + i * plot::Size));
+    }
     const unsigned char *const trackOctets = plotOctets + plots * plot::Size;
-    for (std::size_t i = 0; i < tracks; ++i)
+    for (std::size_t i = 0; i < tracks; ++i) {
         message->addTrackRecord(AleniaSirMRadarTrackRecord::fromOctets(trackOctets + i * track::Size));
+    }
     return message;
 }
 
@@ -81,13 +87,15 @@ std::size_t sizeFromRecordCounts(const unsigned char *octets)
 AleniaSirMRadarDecoder::Result AleniaSirMRadarDecoder::decode(const unsigned char *octets, std::size_t length)
 {
     std::size_t offset = 0;
-    if (const Error error = findHeaderFault(octets, length, offset); error != Error::None)
+    if (const Error error = findHeaderFault(octets, length, offset); error != Error::None) {
         return failure(error, offset);
+    }
     const bool isData = static_cast<Type>(bitsOf(octets, header::Type)) == Type::Data;
     Result result;
     result.size = bitsOf(octets, header::Length);
-    if (result.size != (isData ? sizeFromRecordCounts(octets) : north_marker::Size))
+    if (result.size != (isData ? sizeFromRecordCounts(octets) : north_marker::Size)) {
         return failure(Error::LengthMismatch, header::Length.offset);
+    }
     result.message = isData ? decodeData(octets) : decodeNorthMarker(octets);
     result.message->setRadarId(bitsOf(octets, header::RadarId));
     result.message->setTimeOfDay(bitsOf(octets, header::TimeOfDay));

@@ -40,10 +40,12 @@ void appendData(std::vector<unsigned char> &octets, const AleniaSirMRadarDataMes
     setBits(at, data::Sector, message.sector());
     setBits(at, data::PlotCount, static_cast<std::uint32_t>(message.plotRecords().size()));
     setBits(at, data::TrackCount, static_cast<std::uint32_t>(message.trackRecords().size()));
-    for (const AleniaSirMRadarPlotRecord &record : message.plotRecords())
+    for (const AleniaSirMRadarPlotRecord &record : message.plotRecords()) {
         octets.insert(octets.end(), record.octets().begin(), record.octets().end());
-    for (const AleniaSirMRadarTrackRecord &record : message.trackRecords())
+    }
+    for (const AleniaSirMRadarTrackRecord &record : message.trackRecords()) {
         octets.insert(octets.end(), record.octets().begin(), record.octets().end());
+    }
 }
 
 } // namespace

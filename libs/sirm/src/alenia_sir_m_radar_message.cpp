@@ -15,16 +15,18 @@ void AleniaSirMRadarDataMessage::setSector(unsigned sector)
 
 bool AleniaSirMRadarDataMessage::addPlotRecord(const AleniaSirMRadarPlotRecord &record)
 {
-    if (m_plotRecords.size() >= MaximumRecords)
+    if (m_plotRecords.size() >= MaximumRecords) {
         return false;
+    }
     m_plotRecords.push_back(record);
     return true;
 }
 
 bool AleniaSirMRadarDataMessage::addTrackRecord(const AleniaSirMRadarTrackRecord &record)
 {
-    if (m_trackRecords.size() >= MaximumRecords)
+    if (m_trackRecords.size() >= MaximumRecords) {
         return false;
+    }
     m_trackRecords.push_back(record);
     return true;
 }

@@ -15,8 +15,9 @@ std::uint32_t maskOf(const Field &field)
 std::uint32_t wordOf(const unsigned char *octets, const Field &field)
 {
     std::uint32_t word = 0;
-    for (unsigned i = 0; i < field.octets; ++i)
+    for (unsigned i = 0; i < field.octets; ++i) {
         word = word << 8 | octets[field.offset + i];
+    }
     return word;
 }
 
@@ -31,8 +32,9 @@ void setBits(unsigned char *octets, const Field &field, std::uint32_t value)
 {
     const std::uint32_t mask = maskOf(field);
     std::uint32_t word = (wordOf(octets, field) & ~(mask << field.shift)) | (value & mask) << field.shift;
-    for (unsigned i = field.octets; i-- > 0; word >>= 8)
+    for (unsigned i = field.octets; i-- > 0; word >>= 8) {
         octets[field.offset + i] = static_cast<unsigned char>(word);
+    }
 }
 
 double valueOf(const unsigned char *octets, const Field &field)

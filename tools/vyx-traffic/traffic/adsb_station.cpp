@@ -24,8 +24,9 @@ AdsbStation::AdsbStation(const ScenarioAdsb &station, const Scenario &scenario)
 
 bool AdsbStation::sees(const AirTarget &target) const
 {
-    if (target.flight->vehicle || target.flight->transponder != ScenarioFlight::Transponder::ModeS)
+    if (target.flight->vehicle || target.flight->transponder != ScenarioFlight::Transponder::ModeS) {
         return false;
+    }
     const double miles = milesTo(target);
     const double horizon = Earth::radioHorizon(target.aircraft.state().altitude, m_station.antennaAltitude);
     return miles <= m_station.coverage && (!m_station.horizon || miles <= horizon);
@@ -34,24 +35,29 @@ bool AdsbStation::sees(const AirTarget &target) const
 // What is not received is not reported, and the end of a track is not either.
 void AdsbStation::report(const Sight &sight)
 {
-    if (sight.coasting || sight.last)
+    if (sight.coasting || sight.last) {
         return;
+    }
     const ScenarioFlight &flight = *sight.target.flight;
     const std::uint16_t squawk = sight.target.squawkAt(sight.time);
     beginRecord();
     encoder().setRaw("040/ARC", 1); // 25 feet
     encoder().setRaw("040/SIM", 1);
-    if (m_isOld)
+    if (m_isOld) {
         encoder().setRaw("040/ATP", 1); // an aircraft address
+    }
     encoder().setRaw("080", flight.address);
     encoder().setRaw("020", LargeAircraft);
-    if (!flight.callsign.isEmpty())
+    if (!flight.callsign.isEmpty()) {
         encoder().setText("170", flight.callsign.toStdString());
+    }
     encoder().setRaw("070/MODE3A", squawk); // edition 0.23 has none
-    if (isEmergency(squawk))
+    if (isEmergency(squawk)) {
         encoder().setRaw(m_isOld ? "200" : "200/PS", GeneralEmergency);
-    if (!m_isOld)
+    }
+    if (!m_isOld) {
         encoder().setRaw("161/TRNUM", sight.trackNumber);
+    }
     writeTimes(sight.time);
     writePosition(sight.state());
     writeMovement(sight);

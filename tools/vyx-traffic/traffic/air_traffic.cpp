@@ -17,8 +17,9 @@ std::uint16_t AirTarget::squawkAt(double time) const
 {
     std::uint16_t code = flight->squawks.empty() ? 0 : flight->squawks.front().code;
     for (const ScenarioFlight::Squawk &squawk : flight->squawks) {
-        if (squawk.at <= time - startedAt)
+        if (squawk.at <= time - startedAt) {
             code = squawk.code;
+        }
     }
     return code;
 }
@@ -39,8 +40,9 @@ bool isEmergency(std::uint16_t squawk)
 AirTraffic::AirTraffic(const Scenario &scenario, std::uint64_t seed)
     : m_randomFlights(scenario.random, seed), m_randomCount(scenario.random.count)
 {
-    for (const ScenarioFlight &flight : scenario.flights)
+    for (const ScenarioFlight &flight : scenario.flights) {
         m_departures.push_back({std::make_shared<ScenarioFlight>(flight), flight.start});
+    }
 }
 
 void AirTraffic::advanceTo(double time)
@@ -55,24 +57,28 @@ void AirTraffic::advanceTo(double time)
 
 void AirTraffic::advanceTargets(double seconds)
 {
-    for (AirTarget &target : m_targets)
+    for (AirTarget &target : m_targets) {
         target.aircraft.advance(seconds);
+    }
 }
 
 void AirTraffic::removeGone()
 {
     for (AirTarget &target : m_targets) {
-        if (!target.endedAt && target.aircraft.routeEnded())
+        if (!target.endedAt && target.aircraft.routeEnded()) {
             target.endedAt = m_now;
+        }
     }
     const auto gone = [this](
                           const AirTarget &target) { return target.endedAt && m_now > *target.endedAt + m_lingering; };
     for (const AirTarget &target : m_targets) {
-        if (!gone(target))
+        if (!gone(target)) {
             continue;
+        }
         std::erase(m_randomIds, target.id);
-        if (target.flight->repeatAfter)
+        if (target.flight->repeatAfter) {
             m_departures.push_back({target.flight, m_now + *target.flight->repeatAfter});
+        }
     }
     std::erase_if(m_targets, gone);
 }
@@ -80,8 +86,9 @@ void AirTraffic::removeGone()
 void AirTraffic::startDue()
 {
     for (const Departure &departure : m_departures) {
-        if (departure.at <= m_now)
+        if (departure.at <= m_now) {
             start(departure.flight, departure.at);
+        }
     }
     std::erase_if(m_departures, [this](const Departure &departure) { return departure.at <= m_now; });
 }
@@ -102,8 +109,9 @@ void AirTraffic::fillUp()
             const double flown = m_started ? 0 : m_randomFlights.flownAtStart(*flight);
             Aircraft aircraft(flight->route, flight->performance);
             aircraft.advance(flown);
-            if (attempt < PlacingAttempts && !clearOfOthers(aircraft))
+            if (attempt < PlacingAttempts && !clearOfOthers(aircraft)) {
                 continue;
+            }
             m_randomIds.push_back(m_nextId);
             m_targets.push_back({m_nextId++, flight, std::move(aircraft), m_now - flown, std::nullopt});
             break;

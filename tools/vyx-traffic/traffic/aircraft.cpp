@@ -45,8 +45,9 @@ void Aircraft::step(double seconds)
     changeSpeed(seconds);
     changeAltitude(seconds);
     move(seconds);
-    if (!routeEnded() && (m_hold == Hold::None || m_hold == Hold::ToFix) && atWaypoint())
+    if (!routeEnded() && (m_hold == Hold::None || m_hold == Hold::ToFix) && atWaypoint()) {
         passWaypoint();
+    }
 }
 
 void Aircraft::steer(double seconds)
@@ -67,8 +68,9 @@ void Aircraft::steerHold(double seconds)
         m_holdTimer = HoldOutbound;
     } else if (m_hold == Hold::Outbound) {
         m_holdTimer -= seconds;
-        if (m_holdTimer <= 0)
+        if (m_holdTimer <= 0) {
             m_hold = Hold::TurnInbound;
+        }
     } else if (m_hold == Hold::TurnInbound && turnInHold(m_holdInbound, seconds)) {
         m_hold = Hold::ToFix;
     }
@@ -127,8 +129,9 @@ bool Aircraft::atWaypoint() const
     const double metresPerSecond = m_state.speed * Earth::MetresPerNauticalMile / 3600;
     const double radius = metresPerSecond / Earth::radians(m_performance.turnRate);
     const double ahead = Earth::bearing(m_state.latitude, m_state.longitude, next.latitude, next.longitude);
-    if (distance < 3 * radius && std::abs(Earth::turnBetween(m_state.track, ahead)) > 90)
+    if (distance < 3 * radius && std::abs(Earth::turnBetween(m_state.track, ahead)) > 90) {
         return true;
+    }
     double lead = std::min(CaptureDistance, CaptureTime * metresPerSecond);
     if (m_leg + 1 < m_route.size() && next.holdTurns == 0) {
         const ScenarioWaypoint &after = m_route[m_leg + 1];
@@ -157,8 +160,9 @@ void Aircraft::passWaypoint()
 
 void Aircraft::startLeg()
 {
-    if (routeEnded())
+    if (routeEnded()) {
         return;
+    }
     m_selectedAltitude = m_route[m_leg].altitude.value_or(m_selectedAltitude);
     m_selectedSpeed = m_route[m_leg].speed.value_or(m_selectedSpeed);
 }

@@ -48,8 +48,9 @@ bool TrafficCommandLine::parse(const QStringList &arguments)
         const bool inOne = arguments[i].startsWith(QLatin1String("--")) && equals > 0;
         const QString option = inOne ? arguments[i].left(equals) : arguments[i];
         if (!OptionsWithValue.contains(option)) {
-            if (!apply(arguments[i], QString()))
+            if (!apply(arguments[i], QString())) {
                 return false;
+            }
         } else if (!inOne && i + 1 >= arguments.size()) {
             return fail(tr("%1 needs a value").arg(option));
         } else if (!apply(option, inOne ? arguments[i].mid(equals + 1) : arguments[++i])) {
@@ -66,8 +67,9 @@ bool TrafficCommandLine::apply(const QString &option, const QString &value)
     } else if (option == QLatin1String("--with-parent")) {
         m_options.withParent = true;
     } else if (!option.startsWith(QLatin1Char('-'))) {
-        if (m_scenarioGiven)
+        if (m_scenarioGiven) {
             return fail(tr("more than one scenario: %1").arg(option));
+        }
         m_scenarioGiven = true;
         m_options.scenario = option;
     } else {
@@ -83,8 +85,9 @@ bool TrafficCommandLine::applyOutput(const QString &option, const QString &value
         return m_options.destination.has_value();
     }
     if (option == QLatin1String("--category")) {
-        if (value != QLatin1String("048") && value != QLatin1String("001"))
+        if (value != QLatin1String("048") && value != QLatin1String("001")) {
             return fail(tr("--category must be 048 or 001"));
+        }
         m_options.category = value == QLatin1String("001") ? ScenarioRadar::TargetCategory::Cat001
                                                            : ScenarioRadar::TargetCategory::Cat048;
     } else if (option == QLatin1String("--pcap")) {
@@ -103,12 +106,13 @@ bool TrafficCommandLine::applyTime(const QString &option, const QString &value)
         m_options.startTime = QDateTime::fromString(value, Qt::ISODate).toUTC();
         return m_options.startTime->isValid() || fail(tr("--start-time must be a time like 2025-06-01T08:00:00Z"));
     }
-    if (option == QLatin1String("--wall-clock"))
+    if (option == QLatin1String("--wall-clock")) {
         m_options.wallClock = true;
-    else if (option == QLatin1String("--fast"))
+    } else if (option == QLatin1String("--fast")) {
         m_options.speed = 0;
-    else
+    } else {
         return applyNumber(option, value);
+    }
     return true;
 }
 
@@ -120,8 +124,9 @@ bool TrafficCommandLine::applyNumber(const QString &option, const QString &value
         return ok || fail(tr("--seed must be a whole number from 0 on"));
     }
     const double number = value.toDouble(&ok);
-    if (OptionsWithValue.contains(option) && (!ok || !(number > 0) || number > 1e9))
+    if (OptionsWithValue.contains(option) && (!ok || !(number > 0) || number > 1e9)) {
         return fail(tr("%1 must be a number above 0").arg(option));
+    }
     if (option == QLatin1String("--duration")) {
         m_options.duration = number;
     } else if (option == QLatin1String("--speed")) {
@@ -140,20 +145,27 @@ bool TrafficCommandLine::applyNumber(const QString &option, const QString &value
 
 bool TrafficCommandLine::checkTogether()
 {
-    if (m_options.action != Action::Run)
+    if (m_options.action != Action::Run) {
         return true;
-    if (m_speedGiven && m_options.speed == 0)
+    }
+    if (m_speedGiven && m_options.speed == 0) {
         return fail(tr("--speed and --fast exclude each other"));
-    if (m_options.wallClock && m_options.startTime)
+    }
+    if (m_options.wallClock && m_options.startTime) {
         return fail(tr("--wall-clock and --start-time exclude each other"));
-    if ((m_options.aircraft > 0) != (m_options.rate > 0))
+    }
+    if ((m_options.aircraft > 0) != (m_options.rate > 0)) {
         return fail(tr("--aircraft and --rate go together"));
-    if (m_options.aircraft > 0)
+    }
+    if (m_options.aircraft > 0) {
         m_options.action = Action::Load;
-    if (m_options.action == Action::Load && (!m_options.destination || !m_options.pcapFile.isEmpty()))
+    }
+    if (m_options.action == Action::Load && (!m_options.destination || !m_options.pcapFile.isEmpty())) {
         return fail(tr("--aircraft and --rate need --to, and write no file"));
-    if (!m_options.destination && m_options.pcapFile.isEmpty() && m_options.blockFile.isEmpty())
+    }
+    if (!m_options.destination && m_options.pcapFile.isEmpty() && m_options.blockFile.isEmpty()) {
         return fail(tr("nothing to do: give --to, --pcap or --ast"));
+    }
     return true;
 }
 

@@ -46,8 +46,9 @@ Encounter encounterOf(const Aircraft::State &one, const Aircraft::State &other)
 double timeOfClosestApproach(const Encounter &encounter)
 {
     const double speed = std::hypot(encounter.eastSpeed, encounter.northSpeed);
-    if (speed == 0)
+    if (speed == 0) {
         return 0;
+    }
     const double closing = -(encounter.east * encounter.eastSpeed + encounter.north * encounter.northSpeed) / speed;
     return std::max(closing / speed, 0.0);
 }
@@ -58,11 +59,13 @@ Interval horizontalLoss(const Encounter &encounter, double minimum)
     const double a = encounter.eastSpeed * encounter.eastSpeed + encounter.northSpeed * encounter.northSpeed;
     const double b = encounter.east * encounter.eastSpeed + encounter.north * encounter.northSpeed;
     const double c = encounter.east * encounter.east + encounter.north * encounter.north - minimum * minimum;
-    if (a == 0)
+    if (a == 0) {
         return c < 0 ? Interval{-Never, Never} : Interval{};
+    }
     const double discriminant = b * b - a * c;
-    if (discriminant <= 0)
+    if (discriminant <= 0) {
         return {};
+    }
     return {(-b - std::sqrt(discriminant)) / a, (-b + std::sqrt(discriminant)) / a};
 }
 
@@ -76,8 +79,9 @@ double levelOffTime(const Aircraft &aircraft)
 
 double altitudeAfter(const Aircraft &aircraft, double seconds)
 {
-    if (seconds >= levelOffTime(aircraft))
+    if (seconds >= levelOffTime(aircraft)) {
         return aircraft.selectedAltitude();
+    }
     return aircraft.state().altitude + aircraft.state().verticalRate / 60 * seconds;
 }
 
@@ -91,8 +95,9 @@ Interval verticalLoss(const Aircraft &one, const Aircraft &other, double minimum
 {
     const double atStart = heightBetween(one, other, piece.from);
     const double rate = (heightBetween(one, other, piece.to) - atStart) / (piece.to - piece.from);
-    if (rate == 0)
+    if (rate == 0) {
         return std::abs(atStart) < minimum ? piece : Interval{};
+    }
     const double above = piece.from + (minimum - atStart) / rate;
     const double below = piece.from + (-minimum - atStart) / rate;
     return Interval{std::min(above, below), std::max(above, below)}.within(piece);
@@ -110,11 +115,13 @@ std::optional<Conflict> predictConflict(
     std::sort(moments.begin(), moments.end());
     for (std::size_t i = 1; i < moments.size(); ++i) {
         const Interval piece{moments[i - 1], moments[i]};
-        if (piece.isEmpty())
+        if (piece.isEmpty()) {
             continue;
+        }
         const Interval lost = verticalLoss(one, other, minimum.vertical, piece).within(horizontal);
-        if (lost.isEmpty())
+        if (lost.isEmpty()) {
             continue;
+        }
         const double closestAt = timeOfClosestApproach(encounter);
         return Conflict{lost.from, closestAt, {encounter.distanceAfter(0), std::abs(heightBetween(one, other, 0))},
             {encounter.distanceAfter(closestAt), std::abs(heightBetween(one, other, closestAt))}};
@@ -133,15 +140,17 @@ Prediction predict(const Aircraft &aircraft, double seconds)
 // Counts the borders that a line to the east crosses.
 bool isInside(const ScenarioArea &area, const Prediction &position)
 {
-    if (position.altitude < area.lower || position.altitude >= area.upper)
+    if (position.altitude < area.lower || position.altitude >= area.upper) {
         return false;
+    }
     bool inside = false;
     const ScenarioPoint *from = &area.polygon.back();
     for (const ScenarioPoint &to : area.polygon) {
         const bool isCrossed = (from->latitude > position.latitude) != (to.latitude > position.latitude);
         const double part = (position.latitude - from->latitude) / (to.latitude - from->latitude);
-        if (isCrossed && position.longitude < from->longitude + part * (to.longitude - from->longitude))
+        if (isCrossed && position.longitude < from->longitude + part * (to.longitude - from->longitude)) {
             inside = !inside;
+        }
         from = &to;
     }
     return inside;

@@ -35,11 +35,13 @@ const std::vector<QByteArray> &CyclicStation::next(const AirTraffic &traffic)
     const std::uint64_t slot = static_cast<std::uint64_t>(m_slot) % slots;
     m_packer.begin();
     m_encoder.beginBlock();
-    if (slot == 0)
+    if (slot == 0) {
         beginCycle(time);
+    }
     for (const AirTarget &target : traffic.targets()) {
-        if (target.id % slots == slot)
+        if (target.id % slots == slot) {
             look(target, time);
+        }
     }
     m_packer.endBlock(m_encoder);
     ++m_slot;
@@ -50,12 +52,14 @@ void CyclicStation::look(const AirTarget &target, double time)
 {
     const bool isLeaving = target.endedAt || !sees(target);
     const auto known = m_tracks.find(target.id);
-    if (isLeaving && known == m_tracks.end())
+    if (isLeaving && known == m_tracks.end()) {
         return;
+    }
     Track &track = known == m_tracks.end() ? m_tracks[target.id] : known->second;
     const bool isHidden = target.hiddenAt(time, m_interval);
-    if (track.number == 0 && !isHidden)
+    if (track.number == 0 && !isHidden) {
         track.number = m_numbers.take();
+    }
     if (track.number != 0) {
         ++track.reports;
         report({target, time, track.number, track.reports <= TentativeReports, isHidden, isLeaving});
@@ -82,8 +86,9 @@ void CyclicStation::beginRecord()
 
 void CyclicStation::setEither(const char *path, const char *otherPath, double value)
 {
-    if (!m_encoder.set(path, value))
+    if (!m_encoder.set(path, value)) {
         m_encoder.set(otherPath, value);
+    }
 }
 
 void CyclicStation::setAngle(const char *path, double degrees)

@@ -16,8 +16,9 @@ LoadGenerator::LoadGenerator(
     const ScenarioRadar &radar, const QDateTime &startTime, int aircraft, double reportsPerSecond, std::uint64_t seed)
     : m_random(seed, LoadStream), m_maker(radar, startTime), m_interval(1 / reportsPerSecond)
 {
-    for (int i = 0; i < aircraft; ++i)
+    for (int i = 0; i < aircraft; ++i) {
         m_aircraft.push_back(circler(i, aircraft));
+    }
 }
 
 LoadGenerator::Circler LoadGenerator::circler(int index, int count)

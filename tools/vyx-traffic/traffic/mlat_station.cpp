@@ -41,8 +41,9 @@ void MlatStation::report(const Sight &sight)
     encoder().set("090/FL", sight.state().altitude / 100);
     writePosition(sight.state());
     writeMovement(sight);
-    if (sight.hasModeS())
+    if (sight.hasModeS()) {
         writeModeS(sight);
+    }
     encoder().endRecord();
 }
 

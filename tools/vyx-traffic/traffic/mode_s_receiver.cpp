@@ -32,8 +32,9 @@ constexpr unsigned LargeAircraft = 3;
 std::uint64_t messageField(const ModeSRegister &bds)
 {
     std::uint64_t field = 0;
-    for (const std::uint8_t octet : bds.octets)
+    for (const std::uint8_t octet : bds.octets) {
         field = field << 8 | octet;
+    }
     return field;
 }
 
@@ -65,19 +66,22 @@ const std::vector<QByteArray> &ModeSReceiver::next(const AirTraffic &traffic)
     m_datagrams.clear();
     m_octets.clear();
     for (const AirTarget &target : traffic.targets()) {
-        if (hears(target) && !target.hiddenAt(time, 1))
+        if (hears(target) && !target.hiddenAt(time, 1)) {
             receive(target, time);
+        }
     }
-    if (!m_octets.empty())
+    if (!m_octets.empty()) {
         m_datagrams.push_back(QByteArray::fromStdString(m_octets));
+    }
     ++m_tick;
     return m_datagrams;
 }
 
 bool ModeSReceiver::hears(const AirTarget &target) const
 {
-    if (target.endedAt || target.flight->vehicle || target.flight->transponder != ScenarioFlight::Transponder::ModeS)
+    if (target.endedAt || target.flight->vehicle || target.flight->transponder != ScenarioFlight::Transponder::ModeS) {
         return false;
+    }
     const Aircraft::State &state = target.aircraft.state();
     const double miles = Earth::distance(m_receiver.latitude, m_receiver.longitude, state.latitude, state.longitude)
         / Earth::MetresPerNauticalMile;
@@ -104,16 +108,19 @@ void ModeSReceiver::receiveSquitters(const AirTarget &target, int phase, double 
                    address, {state.latitude, state.longitude}, altitudeOf(state), isOdd),
             target, time);
     }
-    if (phase % VelocityEach == 2)
+    if (phase % VelocityEach == 2) {
         append(korvane::modes::encodeVelocity(
                    address, state.speed, state.track, static_cast<int>(std::lround(state.verticalRate))),
             target, time);
-    if (phase % IdentificationEach == 1)
+    }
+    if (phase % IdentificationEach == 1) {
         append(korvane::modes::encodeIdentification(address, 'A', LargeAircraft, target.flight->callsign.toStdString()),
             target, time);
+    }
     const std::uint16_t squawk = target.squawkAt(time);
-    if (isEmergency(squawk) && phase % EmergencyEach == 6)
+    if (isEmergency(squawk) && phase % EmergencyEach == 6) {
         append(korvane::modes::encodeEmergency(address, squawk, GeneralEmergency), target, time);
+    }
 }
 
 void ModeSReceiver::receiveReplies(const AirTarget &target, int phase, double time)
@@ -122,8 +129,9 @@ void ModeSReceiver::receiveReplies(const AirTarget &target, int phase, double ti
     const std::uint32_t address = target.flight->address;
     const std::uint16_t squawk = target.squawkAt(time);
     const unsigned status = isEmergency(squawk) ? AlertAirborne : 0;
-    if (phase % AllCallEach == 3)
+    if (phase % AllCallEach == 3) {
         append(korvane::modes::encodeAllCall(address), target, time);
+    }
     switch (phase % ReplyEach) {
     case 4:
         append(korvane::modes::encodeCommBAltitude(address, altitudeOf(state),
@@ -154,8 +162,9 @@ void ModeSReceiver::append(ModeSFrame frame, const AirTarget &target, double tim
     frame.signalLevel = static_cast<std::uint8_t>(60 + target.id * 29 % 160);
     const bool isBeast = m_receiver.format == ScenarioModeSReceiver::Format::Beast;
     korvane::modes::appendEncapsulated(m_octets, frame, isBeast ? ModeSEncapsulation::Beast : ModeSEncapsulation::Avr);
-    if (m_octets.size() + LargestFrame <= DatagramPacker::LargestDatagram)
+    if (m_octets.size() + LargestFrame <= DatagramPacker::LargestDatagram) {
         return;
+    }
     m_datagrams.push_back(QByteArray::fromStdString(m_octets));
     m_octets.clear();
 }

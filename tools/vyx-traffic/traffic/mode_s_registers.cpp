@@ -44,8 +44,9 @@ public:
     ModeSRegister finished()
     {
         bits(0, 56 - m_count);
-        for (std::size_t i = 0; i < m_register.octets.size(); ++i)
+        for (std::size_t i = 0; i < m_register.octets.size(); ++i) {
             m_register.octets[i] = static_cast<std::uint8_t>(m_bits >> (48 - 8 * i));
+        }
         return m_register;
     }
 

@@ -18,12 +18,14 @@ bool PacedClock::waitFor(double scenarioTime)
         m_start = Clock::now();
         m_firstTime = scenarioTime;
     }
-    if (m_speed <= 0)
+    if (m_speed <= 0) {
         return !m_stop;
+    }
     const std::chrono::duration<double> due((scenarioTime - m_firstTime) / m_speed);
     const auto moment = m_start + std::chrono::duration_cast<Clock::duration>(due);
-    for (auto now = Clock::now(); now < moment && !m_stop; now = Clock::now())
+    for (auto now = Clock::now(); now < moment && !m_stop; now = Clock::now()) {
         std::this_thread::sleep_for(std::min<Clock::duration>(moment - now, LongestSleep));
+    }
     return !m_stop;
 }
 

@@ -32,12 +32,14 @@ SectorReport RadarModel::enterSector(const AirTraffic &traffic)
     report.time = nextSectorTime();
     report.northMarker = sector == 0;
     report.azimuth = static_cast<double>(sector) * 360 / m_radar.sectors;
-    for (const AirTarget &target : traffic.targets())
+    for (const AirTarget &target : traffic.targets()) {
         look(target, report.azimuth, report.time, report.targets);
+    }
     std::stable_sort(report.targets.begin(), report.targets.end(),
         [](const TargetReport &a, const TargetReport &b) { return a.time < b.time; });
-    if (report.northMarker)
+    if (report.northMarker) {
         forgetGone(report.time);
+    }
     ++m_sectorsEntered;
     return report;
 }
@@ -50,17 +52,21 @@ void RadarModel::look(const AirTarget &target, double sweepEnd, double now, std:
     const double azimuth = Earth::bearing(m_radar.latitude, m_radar.longitude, state.latitude, state.longitude);
     const double behind = Earth::normalized(sweepEnd - azimuth);
     const double time = now - behind / 360 * m_radar.rotationPeriod;
-    if (behind <= 0 || behind > 2 * 360.0 / m_radar.sectors || time < 0)
+    if (behind <= 0 || behind > 2 * 360.0 / m_radar.sectors || time < 0) {
         return;
+    }
     const Look look = lookAt(target, azimuth, time);
-    if (!look.inPrimary && !look.inSecondary && !m_tracks.contains(target.id))
+    if (!look.inPrimary && !look.inSecondary && !m_tracks.contains(target.id)) {
         return;
+    }
     Track &track = m_tracks[target.id];
-    if (look.time - track.lastLook < m_radar.rotationPeriod / 2)
+    if (look.time - track.lastLook < m_radar.rotationPeriod / 2) {
         return;
+    }
     track.lastLook = look.time;
-    if (track.ended)
+    if (track.ended) {
         return;
+    }
     const bool leaving = target.endedAt || (!look.inPrimary && !look.inSecondary);
     const bool primary = detects(look.inPrimary, target, look.time);
     const bool secondary = detects(look.inSecondary, target, look.time);
@@ -72,10 +78,12 @@ void RadarModel::look(const AirTarget &target, double sweepEnd, double now, std:
         track.byPrimary = primary;
         track.bySecondary = secondary;
     }
-    if (!leaving || track.number != 0)
+    if (!leaving || track.number != 0) {
         detected(track, target, look, reports);
-    if (leaving)
+    }
+    if (leaving) {
         endTrack(track);
+    }
     track.ended = target.endedAt.has_value();
 }
 
@@ -98,8 +106,9 @@ RadarModel::Look RadarModel::lookAt(const AirTarget &target, double azimuth, dou
 bool RadarModel::aboveHorizon(const Look &look, double altitude) const
 {
     const double miles = look.distance / Earth::MetresPerNauticalMile;
-    if (m_radar.horizon && miles > Earth::radioHorizon(altitude, m_radar.antennaAltitude))
+    if (m_radar.horizon && miles > Earth::radioHorizon(altitude, m_radar.antennaAltitude)) {
         return false;
+    }
     return std::atan2(look.height, look.distance) >= Earth::radians(m_radar.minimumElevation);
 }
 
@@ -113,15 +122,17 @@ bool RadarModel::detects(bool inCoverage, const AirTarget &target, double time)
 // it.
 void RadarModel::missed(Track &track, const AirTarget &target, const Look &look, std::vector<TargetReport> &reports)
 {
-    if (track.number == 0)
+    if (track.number == 0) {
         return;
+    }
     const bool isOver = ++track.misses >= m_radar.missesToDrop;
     if (!isOver && m_radar.category == ScenarioRadar::TargetCategory::SirM) {
         reports.push_back(reportOf(track, target, look));
         reports.back().coasting = true;
     }
-    if (!isOver)
+    if (!isOver) {
         return;
+    }
     TargetReport report;
     report.time = look.time;
     report.trackNumber = track.number;
@@ -135,10 +146,12 @@ void RadarModel::missed(Track &track, const AirTarget &target, const Look &look,
 
 void RadarModel::detected(Track &track, const AirTarget &target, const Look &look, std::vector<TargetReport> &reports)
 {
-    if (track.number == 0)
+    if (track.number == 0) {
         track.number = m_numbers.take();
-    if (track.number == 0)
+    }
+    if (track.number == 0) {
         return;
+    }
     ++track.reports;
     track.misses = 0;
     reports.push_back(reportOf(track, target, look));
@@ -157,8 +170,9 @@ TargetReport RadarModel::reportOf(const Track &track, const AirTarget &target, c
     report.track = target.aircraft.state().track;
     report.verticalRate = target.aircraft.state().verticalRate;
     measure(report, look);
-    if (track.bySecondary)
+    if (track.bySecondary) {
         interrogate(report, target, look, track.reports);
+    }
     return report;
 }
 
@@ -181,14 +195,16 @@ void RadarModel::interrogate(TargetReport &report, const AirTarget &target, cons
     report.flightLevelQuarters =
         static_cast<int>(std::lround(aircraft.state().altitude / step) * static_cast<long>(step / 25));
     report.byModeS = m_radar.modeS && target.flight->transponder == ScenarioFlight::Transponder::ModeS;
-    if (!report.byModeS)
+    if (!report.byModeS) {
         return;
+    }
     report.address = target.flight->address;
     report.callsign = target.flight->callsign;
     report.registers = {
         selectedVerticalIntention(aircraft.selectedAltitude()), headingAndSpeed(aircraft.state(), m_magneticVariation)};
-    if (turn % TurnRegisterInterval == 0)
+    if (turn % TurnRegisterInterval == 0) {
         report.registers.push_back(trackAndTurn(aircraft.state()));
+    }
 }
 
 void RadarModel::endTrack(Track &track)

@@ -7,8 +7,9 @@ namespace {
 
 std::unique_ptr<SectorWriter> makeWriter(const ScenarioRadar &radar, const QDateTime &startTime)
 {
-    if (radar.category == ScenarioRadar::TargetCategory::SirM)
+    if (radar.category == ScenarioRadar::TargetCategory::SirM) {
         return std::make_unique<SirMMaker>(radar, startTime);
+    }
     return std::make_unique<DatagramMaker>(radar, startTime);
 }
 

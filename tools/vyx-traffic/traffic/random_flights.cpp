@@ -17,17 +17,20 @@ double milesBetween(const ScenarioFix &from, const ScenarioFix &to)
 
 double speedOnApproach(double milesToGo, double cruisingSpeed)
 {
-    if (milesToGo < 12)
+    if (milesToGo < 12) {
         return 160;
-    if (milesToGo < 30)
+    }
+    if (milesToGo < 30) {
         return 220;
+    }
     return milesToGo < 60 ? std::min(cruisingSpeed, 300.0) : cruisingSpeed;
 }
 
 void planDeparture(std::vector<ScenarioWaypoint> &route, const std::vector<ScenarioFix> &airway)
 {
-    if (!airway.front().elevation)
+    if (!airway.front().elevation) {
         return;
+    }
     route.front().altitude = *airway.front().elevation + OverThreshold;
     route.front().speed = 170;
 }
@@ -35,8 +38,9 @@ void planDeparture(std::vector<ScenarioWaypoint> &route, const std::vector<Scena
 // Levels on the way down follow from the distance that is left to the airport.
 void planArrival(std::vector<ScenarioWaypoint> &route, const std::vector<ScenarioFix> &airway)
 {
-    if (!airway.back().elevation)
+    if (!airway.back().elevation) {
         return;
+    }
     double milesToGo = 0;
     for (std::size_t i = airway.size() - 1; i > 0; --i) {
         const double profile = *airway.back().elevation + OverThreshold + milesToGo * ApproachGradient;
@@ -60,11 +64,12 @@ ScenarioFlight RandomFlights::next()
     drawIdentity(flight);
     drawPerformance(flight);
     const double cruise = drawCruisingAltitude(airway);
-    for (const ScenarioFix &fix : airway)
+    for (const ScenarioFix &fix : airway) {
         flight.route.push_back({.latitude = fix.latitude,
             .longitude = fix.longitude,
             .altitude = cruise,
             .speed = flight.performance.speed});
+    }
     planDeparture(flight.route, airway);
     planArrival(flight.route, airway);
     return flight;
@@ -73,10 +78,11 @@ ScenarioFlight RandomFlights::next()
 double RandomFlights::flownAtStart(const ScenarioFlight &flight)
 {
     double miles = 0;
-    for (std::size_t i = 1; i < flight.route.size(); ++i)
+    for (std::size_t i = 1; i < flight.route.size(); ++i) {
         miles += Earth::distance(flight.route[i - 1].latitude, flight.route[i - 1].longitude, flight.route[i].latitude,
                      flight.route[i].longitude)
             / Earth::MetresPerNauticalMile;
+    }
     return m_random.uniform(0.05, 0.9) * miles / flight.performance.speed * 3600;
 }
 
@@ -84,8 +90,9 @@ std::vector<ScenarioFix> RandomFlights::drawAirway()
 {
     const int last = static_cast<int>(m_rules.airways.size()) - 1;
     std::vector<ScenarioFix> airway = m_rules.airways[static_cast<std::size_t>(m_random.integer(0, last))];
-    if (m_random.chance(0.5))
+    if (m_random.chance(0.5)) {
         std::reverse(airway.begin(), airway.end());
+    }
     return airway;
 }
 

@@ -35,15 +35,18 @@ const std::vector<QByteArray> &SafetyNetStation::next(const AirTraffic &traffic)
     const double time = nextTime();
     m_packer.begin();
     m_encoder.beginBlock();
-    if (time >= m_nextAlive)
+    if (time >= m_nextAlive) {
         sendAlive(time);
+    }
     Targets targets;
     for (const AirTarget &target : traffic.targets()) {
-        if (m_tracks.trackNumber(target.id) != 0)
+        if (m_tracks.trackNumber(target.id) != 0) {
             targets.push_back(&target);
+        }
     }
-    if (m_net.stca)
+    if (m_net.stca) {
         watchConflicts(targets, time);
+    }
     watchAreas(targets, m_net.minimumAltitudes, Msaw, time);
     watchAreas(targets, m_net.restrictedAreas, Apw, time);
     endOthers(time);
@@ -70,10 +73,12 @@ void SafetyNetStation::watchConflicts(const Targets &targets, double time)
         const AirTarget &one = *targets[i];
         for (std::size_t j = i + 1; j < targets.size(); ++j) {
             const AirTarget &other = *targets[j];
-            if (std::abs(one.aircraft.state().latitude - other.aircraft.state().latitude) > farthest)
+            if (std::abs(one.aircraft.state().latitude - other.aircraft.state().latitude) > farthest) {
                 continue;
-            if (const auto conflict = predictConflict(one.aircraft, other.aircraft, minimum, m_net.lookAhead))
+            }
+            if (const auto conflict = predictConflict(one.aircraft, other.aircraft, minimum, m_net.lookAhead)) {
                 sendConflict(one, other, *conflict, time);
+            }
         }
     }
 }
@@ -87,13 +92,15 @@ void SafetyNetStation::watchAreas(
         for (double seconds = 0; seconds <= m_net.areaLookAhead && !areas.empty(); seconds += PredictionStep) {
             const Prediction place = predict(target->aircraft, seconds);
             for (std::size_t i = 0; i < areas.size(); ++i) {
-                if (entries[i] < 0 && isInside(areas[i], place))
+                if (entries[i] < 0 && isInside(areas[i], place)) {
                     entries[i] = seconds;
+                }
             }
         }
         for (std::size_t i = 0; i < areas.size(); ++i) {
-            if (entries[i] >= 0)
+            if (entries[i] >= 0) {
                 sendIntrusion(*target, areas[i], i, messageType, entries[i], time);
+            }
         }
     }
 }
@@ -128,8 +135,9 @@ void SafetyNetStation::endOthers(double time)
         beginMessage(EndOfConflict, time);
         m_encoder.setRaw("040", alert.id);
         m_encoder.setRaw("030", alert.trackNumber);
-        if (alert.otherTrackNumber != 0)
+        if (alert.otherTrackNumber != 0) {
             m_encoder.setRaw("035", alert.otherTrackNumber);
+        }
         endMessage();
         it = m_alerts.erase(it);
     }
@@ -157,8 +165,9 @@ void SafetyNetStation::beginAlert(const Subject &subject, double time)
     beginMessage(subject.messageType, time);
     m_encoder.setRaw("040", alert.id);
     m_encoder.setRaw("030", alert.trackNumber);
-    if (alert.otherTrackNumber != 0)
+    if (alert.otherTrackNumber != 0) {
         m_encoder.setRaw("035", alert.otherTrackNumber);
+    }
 }
 
 // item: 170 or 171, whose fields end in 1 and 2. seconds: until the threshold is passed.
@@ -167,10 +176,12 @@ void SafetyNetStation::setAircraft(const char *item, const AirTarget &target, do
     const std::string prefix = std::string(item) + '/';
     const char number = item[2] == '0' ? '1' : '2';
     const std::string callsign = target.flight->callsign.left(PlanCallsign).toStdString();
-    if (!callsign.empty())
+    if (!callsign.empty()) {
         m_encoder.setText(prefix + "AI" + number, callsign);
-    if (target.flight->transponder != ScenarioFlight::Transponder::None)
+    }
+    if (target.flight->transponder != ScenarioFlight::Transponder::None) {
         m_encoder.setRaw(prefix + "M3" + number + "/MODE3A", target.squawkAt(time));
+    }
     const Prediction place = predict(target.aircraft, seconds);
     m_encoder.set(prefix + "CPW/LAT", place.latitude);
     m_encoder.set(prefix + "CPW/LON", place.longitude);

@@ -31,8 +31,9 @@ QStringList ScenarioReader::builtInNames()
 {
     QStringList names;
     const QStringList files = QDir(BuiltInFolder).entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
-    for (const QString &file : files)
+    for (const QString &file : files) {
         names.append(file.chopped(5));
+    }
     return names;
 }
 
@@ -67,8 +68,9 @@ std::optional<Scenario> ScenarioReader::parse(const QByteArray &json, const QStr
     JsonObjectReader reader(document.isObject() ? QJsonValue(document.object()) : QJsonValue(), QString(), error);
     readScenario(reader, scenario);
     reader.finish();
-    if (error.isEmpty())
+    if (error.isEmpty()) {
         return scenario;
+    }
     m_error = QStringLiteral("%1: %2").arg(source, error);
     return std::nullopt;
 }
@@ -79,12 +81,14 @@ void ScenarioReader::readScenario(JsonObjectReader &reader, Scenario &scenario)
     scenario.description = reader.text("description", QString());
     scenario.seed = static_cast<std::uint64_t>(reader.number("seed", {0, 9e15}, 1));
     scenario.startTime = QDateTime::fromString(reader.text("startTime"), Qt::ISODate).toUTC();
-    if (!scenario.startTime.isValid())
+    if (!scenario.startTime.isValid()) {
         reader.fail("startTime", tr("must be a time like 2025-06-01T08:00:00Z"));
+    }
     scenario.duration = reader.number("duration", {0, 8640000}, 0);
     m_fixes.clear();
-    if (reader.has("trafficOf"))
+    if (reader.has("trafficOf")) {
         readTrafficOf(reader, scenario);
+    }
     scenario.magneticVariation = reader.number("magneticVariation", {-180, 180}, scenario.magneticVariation);
     reader.eachObject("fixes", [this](JsonObjectReader &fix) { readFix(fix, m_fixes); });
     SourceReader(scenario, m_fixes).read(reader);
@@ -121,10 +125,12 @@ void ScenarioReader::readFix(JsonObjectReader &reader, ScenarioFixes &fixes)
     fix.name = reader.text("name");
     fix.latitude = reader.number("lat", JsonObjectReader::Latitudes);
     fix.longitude = reader.number("lon", JsonObjectReader::Longitudes);
-    if (reader.has("elevation"))
+    if (reader.has("elevation")) {
         fix.elevation = reader.number("elevation", Altitudes);
-    if (fixes.contains(fix.name))
+    }
+    if (fixes.contains(fix.name)) {
         reader.fail("name", tr("%1 is taken").arg(fix.name));
+    }
     fixes.insert(fix.name, fix);
 }
 
@@ -132,8 +138,9 @@ void ScenarioReader::readFlight(JsonObjectReader &reader, Scenario &scenario) co
 {
     ScenarioFlight flight;
     flight.callsign = reader.text("callsign", QString());
-    if (!QRegularExpression(QStringLiteral("^[A-Z0-9 ]{0,8}$")).match(flight.callsign).hasMatch())
+    if (!QRegularExpression(QStringLiteral("^[A-Z0-9 ]{0,8}$")).match(flight.callsign).hasMatch()) {
         reader.fail("callsign", tr("must be up to eight of A to Z, 0 to 9 and blank"));
+    }
     flight.address = reader.code("address", 16, HighestAddress, 0);
     const int transponder =
         reader.choice("transponder", {QStringLiteral("none"), QStringLiteral("modeac"), QStringLiteral("modes")}, 2);
@@ -141,8 +148,9 @@ void ScenarioReader::readFlight(JsonObjectReader &reader, Scenario &scenario) co
     flight.vehicle = reader.flag("vehicle", false);
     flight.primaryEcho = reader.flag("primaryEcho", true);
     flight.start = reader.number("start", Times, 0);
-    if (reader.has("repeatAfter"))
+    if (reader.has("repeatAfter")) {
         flight.repeatAfter = reader.number("repeatAfter", {0, Times.high});
+    }
     readSquawks(reader, flight);
     reader.eachObject("coasting", [&flight](JsonObjectReader &coasting) {
         flight.coasting.push_back({coasting.number("at", {0, Times.high}), coasting.integer("scans", {1, 1000})});
@@ -151,15 +159,17 @@ void ScenarioReader::readFlight(JsonObjectReader &reader, Scenario &scenario) co
         "performance", [&flight](JsonObjectReader &performance) { readPerformance(performance, flight.performance); });
     reader.each("route",
         [&](const QJsonValue &value, const QString &path) { readWaypoint(value, path, reader.error(), flight); });
-    if (flight.route.size() < 2)
+    if (flight.route.size() < 2) {
         reader.fail("route", tr("must hold at least two waypoints"));
+    }
     scenario.flights.push_back(flight);
 }
 
 void ScenarioReader::readSquawks(JsonObjectReader &reader, ScenarioFlight &flight)
 {
-    if (flight.transponder != ScenarioFlight::Transponder::None)
+    if (flight.transponder != ScenarioFlight::Transponder::None) {
         flight.squawks.push_back({0, static_cast<std::uint16_t>(reader.code("squawk", 8, HighestSquawk))});
+    }
     reader.eachObject("squawkChanges", [&flight](JsonObjectReader &change) {
         const double at = change.number("at", {0, Times.high});
         flight.squawks.push_back({at, static_cast<std::uint16_t>(change.code("squawk", 8, HighestSquawk))});
@@ -186,13 +196,16 @@ void ScenarioReader::readWaypoint(
     const ScenarioPoint point = readPoint(reader, m_fixes);
     waypoint.latitude = point.latitude;
     waypoint.longitude = point.longitude;
-    if (reader.has("altitude"))
+    if (reader.has("altitude")) {
         waypoint.altitude = reader.number("altitude", Altitudes);
-    if (reader.has("speed"))
+    }
+    if (reader.has("speed")) {
         waypoint.speed = reader.number("speed", Speeds);
+    }
     waypoint.holdTurns = reader.integer("holdTurns", {0, 1000}, 0);
-    if (reader.choice("holdDirection", {QStringLiteral("right"), QStringLiteral("left")}, 0) == 1)
+    if (reader.choice("holdDirection", {QStringLiteral("right"), QStringLiteral("left")}, 0) == 1) {
         waypoint.holdDirection = ScenarioWaypoint::Turn::Left;
+    }
     reader.finish();
     flight.route.push_back(waypoint);
 }
@@ -208,14 +221,17 @@ void ScenarioReader::readRandom(JsonObjectReader &reader, ScenarioRandomTraffic 
     for (const QString &block : blocks) {
         bool ok = false;
         random.addressBlocks.push_back(block.toUInt(&ok, 16) & (HighestAddress & ~0xFFFU));
-        if (!ok)
+        if (!ok) {
             reader.fail("addressBlocks", tr("must be hexadecimal texts"));
+        }
     }
     readAirways(reader, random);
-    if (random.lowestLevel > random.highestLevel)
+    if (random.lowestLevel > random.highestLevel) {
         reader.fail("lowestLevel", tr("must not be above highestLevel"));
-    if (random.airways.empty() || random.callsignPrefixes.empty() || random.addressBlocks.empty())
+    }
+    if (random.airways.empty() || random.callsignPrefixes.empty() || random.addressBlocks.empty()) {
         reader.fail("count", tr("random flights need airways, callsignPrefixes and addressBlocks"));
+    }
 }
 
 void ScenarioReader::readAirways(JsonObjectReader &reader, ScenarioRandomTraffic &random) const
@@ -225,12 +241,14 @@ void ScenarioReader::readAirways(JsonObjectReader &reader, ScenarioRandomTraffic
         std::vector<ScenarioFix> fixes;
         const QStringList names = airway.split(QLatin1Char(' '), Qt::SkipEmptyParts);
         for (const QString &name : names) {
-            if (!m_fixes.contains(name))
+            if (!m_fixes.contains(name)) {
                 reader.fail("airways", tr("there is no fix %1").arg(name));
+            }
             fixes.push_back(m_fixes.value(name));
         }
-        if (fixes.size() < 2)
+        if (fixes.size() < 2) {
             reader.fail("airways", tr("an airway needs at least two fixes"));
+        }
         random.airways.push_back(std::move(fixes));
     }
 }

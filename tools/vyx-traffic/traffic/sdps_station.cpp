@@ -37,10 +37,12 @@ void SdpsStation::report(const Sight &sight)
     writePosition(sight.state());
     writeMovement(sight.state());
     writeStatus(sight);
-    if (sight.hasTransponder())
+    if (sight.hasTransponder()) {
         writeTransponder(sight);
-    if (sight.hasModeS())
+    }
+    if (sight.hasModeS()) {
         writeAircraftData(sight);
+    }
     encoder().endRecord();
 }
 
@@ -84,8 +86,9 @@ void SdpsStation::writeTransponder(const Sight &sight)
 {
     const Aircraft::State &state = sight.state();
     encoder().setRaw("060/MODE3A", sight.target.squawkAt(sight.time));
-    if (!sight.coasting)
+    if (!sight.coasting) {
         encoder().set("136", state.altitude / 100);
+    }
     encoder().set("135/CTB", state.altitude / 100);
     encoder().set("220", state.verticalRate);
 }
@@ -101,8 +104,9 @@ void SdpsStation::writeAircraftData(const Sight &sight)
     encoder().set("380/SAL/ALT", sight.target.aircraft.selectedAltitude());
     encoder().set("380/BVR", sight.state().verticalRate);
     const std::string callsign = flight.callsign.toStdString();
-    if (callsign.empty())
+    if (callsign.empty()) {
         return;
+    }
     encoder().setText("380/ID", callsign);
     encoder().setText("390/CS", std::string_view(callsign).substr(0, PlanCallsign));
 }

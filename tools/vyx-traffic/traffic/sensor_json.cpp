@@ -24,8 +24,9 @@ QJsonObject sourceJson(const char *type, const ScenarioSource &source)
 
 QJsonObject with(QJsonObject object, std::initializer_list<std::pair<QString, QJsonValue>> more)
 {
-    for (const auto &[key, value] : more)
+    for (const auto &[key, value] : more) {
         object.insert(key, value);
+    }
     return object;
 }
 
@@ -66,8 +67,9 @@ QJsonObject smrJson(const ScenarioSmr &smr)
 
 QJsonObject trackerJson(const Scenario &scenario)
 {
-    if (!scenario.radars.empty())
+    if (!scenario.radars.empty()) {
         return radarJson(scenario.radars.front());
+    }
     if (!scenario.mlat.empty()) {
         const ScenarioMlat &mlat = scenario.mlat.front();
         return with(sourceJson("mlat", mlat), {{QStringLiteral("coverage"), mlat.coverage}});
@@ -77,8 +79,9 @@ QJsonObject trackerJson(const Scenario &scenario)
         return with(sourceJson("sdps", sdps),
             {{QStringLiteral("coverage"), sdps.coverage}, {QStringLiteral("update_interval"), sdps.interval}});
     }
-    if (!scenario.smr.empty())
+    if (!scenario.smr.empty()) {
         return smrJson(scenario.smr.front());
+    }
     if (!scenario.adsb.empty()) {
         const ScenarioAdsb &adsb = scenario.adsb.front();
         return adsbJson(adsb, adsb.coverage, adsb.interval, {adsb.edition});

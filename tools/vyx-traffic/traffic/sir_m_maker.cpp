@@ -20,8 +20,9 @@ unsigned typeOf(const TargetReport &report)
 
 unsigned trendOf(double verticalRate)
 {
-    if (std::abs(verticalRate) <= FastestLevel)
+    if (std::abs(verticalRate) <= FastestLevel) {
         return 0;
+    }
     return verticalRate > 0 ? 1 : 2;
 }
 
@@ -51,8 +52,9 @@ AleniaSirMRadarTrackRecord trackOf(const TargetReport &report)
     const double course = Earth::radians(report.track);
     track.setVelocity(speed * std::sin(course), speed * std::cos(course), !report.tentative);
     track.setVerticalTrend(report.codesValid ? trendOf(report.verticalRate) : 3);
-    if (!report.codesValid)
+    if (!report.codesValid) {
         return track;
+    }
     track.setModeACode(report.squawk);
     track.setModeCHeight(report.flightLevelQuarters * FeetAQuarterLevel);
     track.setRateOfClimbDescent(report.verticalRate * Earth::MetresPerFoot / 60);
@@ -72,8 +74,9 @@ SirMMaker::SirMMaker(const ScenarioRadar &radar, const QDateTime &startTime) : m
 const std::vector<QByteArray> &SirMMaker::datagrams(const SectorReport &report)
 {
     m_datagrams.clear();
-    if (report.northMarker)
+    if (report.northMarker) {
         appendNorthMarker(report.time);
+    }
     appendData(report);
     return m_datagrams;
 }
@@ -99,8 +102,9 @@ void SirMMaker::appendData(const SectorReport &report)
     data.setTimeOfDay(milliseconds(report.time));
     data.setSector(static_cast<unsigned>(std::lround(report.azimuth * Sectors / 360)) % Sectors);
     for (const TargetReport &target : report.targets) {
-        if (target.positionValid && !target.coasting && !target.trackEnd)
+        if (target.positionValid && !target.coasting && !target.trackEnd) {
             data.addPlotRecord(plotOf(target));
+        }
         data.addTrackRecord(trackOf(target));
     }
     m_datagrams.push_back(encoded(data));

@@ -40,8 +40,9 @@ void SmrStation::beginCycle(double time)
 
 void SmrStation::report(const Sight &sight)
 {
-    if (sight.coasting)
+    if (sight.coasting) {
         return;
+    }
     const Aircraft::State &state = sight.state();
     const Earth::Plane plane = Earth::plane(m_smr.latitude, m_smr.longitude, state.latitude, state.longitude);
     beginRecord();
@@ -74,8 +75,9 @@ void SmrStation::writeMovement(const Aircraft::State &state)
 void SmrStation::writeShape(const Sight &sight)
 {
     const bool isVehicle = sight.target.flight->vehicle;
-    if (isVehicle)
+    if (isVehicle) {
         encoder().setRaw("300", MaintenanceFleet);
+    }
     encoder().set("270/LENGTH", isVehicle ? 6 : 44);
     encoder().set("270/ORIENTATION", std::floor(sight.state().track * 128 / 360) * 360 / 128);
     encoder().set("270/WIDTH", isVehicle ? 2 : 36);

@@ -39,11 +39,13 @@ QJsonValue pointObject(const QJsonValue &value)
 
 ScenarioPoint readPoint(JsonObjectReader &reader, const ScenarioFixes &fixes)
 {
-    if (!reader.has("fix"))
+    if (!reader.has("fix")) {
         return {reader.number("lat", JsonObjectReader::Latitudes), reader.number("lon", JsonObjectReader::Longitudes)};
+    }
     const QString name = reader.text("fix");
-    if (!fixes.contains(name))
+    if (!fixes.contains(name)) {
         reader.fail("fix", SourceReader::tr("there is no fix %1").arg(name));
+    }
     const ScenarioFix fix = fixes.value(name);
     return {fix.latitude, fix.longitude};
 }
@@ -61,8 +63,9 @@ void SourceReader::read(JsonObjectReader &reader)
     each("smr", &SourceReader::readSmr);
     const Scenario &all = m_scenario;
     if (all.radars.empty() && all.adsb.empty() && all.modeSReceivers.empty() && all.mlat.empty() && all.sdps.empty()
-        && all.smr.empty())
+        && all.smr.empty()) {
         reader.fail("radars", tr("must hold a radar, or one of adsb, modesReceivers, mlat, sdps and smr a source"));
+    }
     each("safetyNets", &SourceReader::readSafetyNet);
     each("weatherRadars", &SourceReader::readWeatherRadar);
     each("videoRadars", &SourceReader::readVideoRadar);
@@ -77,8 +80,9 @@ void SourceReader::readRadar(JsonObjectReader &reader)
     const bool isSirM = radar.category == Category::SirM;
     radar.rotationPeriod = reader.number("rotationPeriod", {0.5, 60}, radar.rotationPeriod);
     radar.sectors = reader.integer("sectors", {4, 256}, isSirM ? SirMSectors : radar.sectors);
-    if (isSirM && radar.sectors != SirMSectors)
+    if (isSirM && radar.sectors != SirMSectors) {
         reader.fail("sectors", tr("must be %1 with this category").arg(SirMSectors));
+    }
     radar.psr = reader.flag("psr", true);
     radar.modeS = reader.flag("modes", !isSirM) && !isSirM;
     radar.ssr = reader.flag("ssr", true) || radar.modeS;
@@ -163,8 +167,9 @@ void SourceReader::readSafetyNet(JsonObjectReader &reader)
     const auto isNamed = [&net](const ScenarioSource &source) { return source.name == net.tracksOf; };
     const auto anyOf = [&isNamed](const auto &sources) { return std::any_of(sources.begin(), sources.end(), isNamed); };
     if (!net.tracksOf.isEmpty() && !anyOf(m_scenario.radars) && !anyOf(m_scenario.mlat) && !anyOf(m_scenario.sdps)
-        && !anyOf(m_scenario.smr))
+        && !anyOf(m_scenario.smr)) {
         reader.fail("tracksOf", tr("there is no source %1 that numbers its tracks").arg(net.tracksOf));
+    }
     m_scenario.safetyNets.push_back(net);
 }
 
@@ -179,8 +184,9 @@ ScenarioArea SourceReader::readArea(JsonObjectReader &reader, bool isMinimum) co
 {
     ScenarioArea area;
     area.name = reader.text("name");
-    if (!QRegularExpression(QStringLiteral("^[A-Z0-9 ]{1,8}$")).match(area.name).hasMatch())
+    if (!QRegularExpression(QStringLiteral("^[A-Z0-9 ]{1,8}$")).match(area.name).hasMatch()) {
         reader.fail("name", tr("must be one to eight of A to Z, 0 to 9 and blank"));
+    }
     area.lower = isMinimum ? -2000 : reader.number("lower", {-2000, 100000}, -2000);
     area.upper = reader.number(isMinimum ? "altitude" : "upper", {-2000, 100000});
     reader.each("polygon", [&](const QJsonValue &value, const QString &path) {
@@ -188,8 +194,9 @@ ScenarioArea SourceReader::readArea(JsonObjectReader &reader, bool isMinimum) co
         area.polygon.push_back(readPoint(point, m_fixes));
         point.finish();
     });
-    if (area.polygon.size() < 3)
+    if (area.polygon.size() < 3) {
         reader.fail("polygon", tr("must hold at least three points"));
+    }
     return area;
 }
 
@@ -214,8 +221,9 @@ void SourceReader::readVideoRadar(JsonObjectReader &reader)
     radar.radials = reader.integer("radials", {16, 16384}, radar.radials);
     radar.cells = reader.integer("cells", {16, 16320}, radar.cells);
     radar.range = reader.number("range", {0.5, 250}, radar.range);
-    if (radar.range * 1852 / radar.cells > LargestCell)
+    if (radar.range * 1852 / radar.cells > LargestCell) {
         reader.fail("cells", tr("must be more for that range: a cell is %1 m at most").arg(LargestCell));
+    }
     radar.beamWidth = reader.number("beamWidth", {0.1, 10}, radar.beamWidth);
     radar.clutterRange = reader.number("clutterRange", {0, 250}, radar.clutterRange);
     radar.noise = reader.integer("noise", {0, 120}, radar.noise);

@@ -50,8 +50,9 @@ void StormCells::advanceTo(double time)
     m_now = time;
     m_blobs.clear();
     for (Cell &cell : m_cells) {
-        if (time - cell.born >= cell.life)
+        if (time - cell.born >= cell.life) {
             cell = makeCell(time);
+        }
         placeBlobs(cell);
     }
 }
@@ -77,8 +78,9 @@ int StormCells::levelAt(double east, double north) const
         const double x = (east - blob.east) / blob.radius;
         const double y = (north - blob.north) / blob.radius;
         const double squared = x * x + y * y;
-        if (squared < Reach * Reach)
+        if (squared < Reach * Reach) {
             strength = std::max(strength, blob.strength * std::exp(-squared / 2));
+        }
     }
     return std::min(static_cast<int>(strength * LevelsOfStrength), HighestLevel);
 }
@@ -92,10 +94,11 @@ std::vector<StormCells::Run> StormCells::runs(double azimuth, double stepMiles, 
     for (int step = 0; step < steps; ++step) {
         const double range = (step + 0.5) * stepMiles;
         const int level = levelAt(range * east, range * north);
-        if (level > 0 && level == last)
+        if (level > 0 && level == last) {
             runs.back().to = step + 1;
-        else if (level > 0)
+        } else if (level > 0) {
             runs.push_back({level, step, step + 1});
+        }
         last = level;
     }
     return runs;

@@ -54,8 +54,9 @@ void Cat048Writer::write(const TargetReport &report, double secondsOfDay)
     writePosition(report, 256);
     writeVelocity(report);
     writeCodes(report);
-    if (report.byModeS)
+    if (report.byModeS) {
         writeModeS(report);
+    }
     m_encoder.setRaw(m_trackNumber, report.trackNumber);
     writeStatus(report);
     m_encoder.endRecord();
@@ -64,8 +65,9 @@ void Cat048Writer::write(const TargetReport &report, double secondsOfDay)
 void Cat048Writer::writeModeS(const TargetReport &report)
 {
     m_encoder.setRaw(m_address, report.address);
-    if (!report.callsign.isEmpty())
+    if (!report.callsign.isEmpty()) {
         m_encoder.setText(m_callsign, report.callsign.toStdString());
+    }
     for (const ModeSRegister &bds : report.registers) {
         m_encoder.addRepetition(m_registers);
         m_encoder.setExplicit(m_registerOctets, bds.octets);
@@ -82,14 +84,17 @@ void Cat048Writer::writeModeS(const TargetReport &report)
 void Cat048Writer::writeStatus(const TargetReport &report)
 {
     m_encoder.setRaw(m_tentative, report.tentative);
-    if (report.byPrimary != report.bySecondary)
+    if (report.byPrimary != report.bySecondary) {
         m_encoder.setRaw(m_sensors, report.byPrimary ? 1 : 2);
-    if (!report.codesValid)
+    }
+    if (!report.codesValid) {
         m_encoder.setRaw(m_climb, 3);
-    else if (std::abs(report.verticalRate) > 200)
+    } else if (std::abs(report.verticalRate) > 200) {
         m_encoder.setRaw(m_climb, report.verticalRate > 0 ? 1 : 2);
-    if (report.trackEnd)
+    }
+    if (report.trackEnd) {
         m_encoder.setRaw(m_trackEnd, 1);
+    }
 }
 
 // Monoradar tracks without Mode S data.
@@ -119,16 +124,18 @@ void Cat001Writer::write(const TargetReport &report, double secondsOfDay)
     m_encoder.setRaw(m_simulated, 1);
     m_encoder.setRaw(
         m_detection, static_cast<std::uint64_t>((report.byPrimary ? 1 : 0) + (report.bySecondary ? 2 : 0)));
-    if (isEmergency(report.squawk))
+    if (isEmergency(report.squawk)) {
         m_encoder.setRaw(m_emergency, (report.squawk >> 6 & 7) - 4U);
+    }
     writePosition(report, 512);
     writeVelocity(report);
     writeCodes(report);
     m_encoder.setRaw(m_trackNumber, report.trackNumber);
     m_encoder.setRaw(m_tentative, report.tentative);
     m_encoder.setRaw(m_sensors, report.bySecondary);
-    if (report.trackEnd)
+    if (report.trackEnd) {
         m_encoder.setRaw(m_trackEnd, 1);
+    }
     m_encoder.endRecord();
 }
 
@@ -136,8 +143,9 @@ void Cat001Writer::write(const TargetReport &report, double secondsOfDay)
 
 std::unique_ptr<TargetWriter> TargetWriter::create(const ScenarioRadar &radar)
 {
-    if (radar.category == ScenarioRadar::TargetCategory::Cat001)
+    if (radar.category == ScenarioRadar::TargetCategory::Cat001) {
         return std::make_unique<Cat001Writer>(radar);
+    }
     return std::make_unique<Cat048Writer>(radar);
 }
 
@@ -159,28 +167,32 @@ void TargetWriter::beginRecord()
 
 void TargetWriter::writePosition(const TargetReport &report, double cartesianLimit)
 {
-    if (!report.positionValid)
+    if (!report.positionValid) {
         return;
+    }
     m_encoder.set(m_rho, report.slantRange);
     m_encoder.setRaw(m_theta, angleBits(report.azimuth));
-    if (report.slantRange >= cartesianLimit)
+    if (report.slantRange >= cartesianLimit) {
         return;
+    }
     m_encoder.set(m_x, report.slantRange * std::sin(Earth::radians(report.azimuth)));
     m_encoder.set(m_y, report.slantRange * std::cos(Earth::radians(report.azimuth)));
 }
 
 void TargetWriter::writeVelocity(const TargetReport &report)
 {
-    if (!report.positionValid)
+    if (!report.positionValid) {
         return;
+    }
     m_encoder.set(m_groundSpeed, report.speed / SecondsAnHour);
     m_encoder.setRaw(m_heading, angleBits(report.track));
 }
 
 void TargetWriter::writeCodes(const TargetReport &report)
 {
-    if (!report.codesValid)
+    if (!report.codesValid) {
         return;
+    }
     m_encoder.setRaw(m_squawk, report.squawk);
     m_encoder.set(m_level, report.flightLevelQuarters / 4.0);
 }

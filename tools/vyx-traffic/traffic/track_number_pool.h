@@ -8,15 +8,17 @@ class TrackNumberPool {
 public:
     explicit TrackNumberPool(std::uint16_t last)
     {
-        for (std::uint32_t number = 1; number <= last; ++number)
+        for (std::uint32_t number = 1; number <= last; ++number) {
             m_free.push_back(static_cast<std::uint16_t>(number));
+        }
     }
 
     // 0 where all are in use.
     std::uint16_t take()
     {
-        if (m_free.empty())
+        if (m_free.empty()) {
             return 0;
+        }
         const std::uint16_t number = m_free.front();
         m_free.pop_front();
         return number;
@@ -25,8 +27,9 @@ public:
     // number: one that was taken, or 0.
     void giveBack(std::uint16_t number)
     {
-        if (number != 0)
+        if (number != 0) {
             m_free.push_back(number);
+        }
     }
 
 private:

@@ -16,11 +16,13 @@ bool TrafficOutput::open(const TrafficOptions &options)
 {
     if (options.destination) {
         m_sender = std::make_unique<UdpSender>();
-        if (!m_sender->open(*options.destination))
+        if (!m_sender->open(*options.destination)) {
             return fail(m_sender->lastError());
+        }
     }
-    if (!options.pcapFile.isEmpty() && !openPcap(options.pcapFile, options.destination))
+    if (!options.pcapFile.isEmpty() && !openPcap(options.pcapFile, options.destination)) {
         return false;
+    }
     return options.blockFile.isEmpty() || openBlocks(options.blockFile);
 }
 
@@ -50,20 +52,24 @@ bool TrafficOutput::write(const QByteArray &datagram, const QDateTime &time, std
         auto destination = m_pcapDestination;
         destination.port = static_cast<std::uint16_t>(destination.port + portOffset);
         const auto sender = static_cast<std::uint32_t>(FirstSenderAddress + station);
-        if (!m_pcap->write(time, {sender, SenderPort}, destination, datagram))
+        if (!m_pcap->write(time, {sender, SenderPort}, destination, datagram)) {
             return fail(m_pcap->lastError());
+        }
     }
-    if (m_blocks && m_blocks->write(datagram) != datagram.size())
+    if (m_blocks && m_blocks->write(datagram) != datagram.size()) {
         return fail(QStringLiteral("%1: %2").arg(m_blocks->fileName(), m_blocks->errorString()));
+    }
     return true;
 }
 
 bool TrafficOutput::close()
 {
-    if (m_pcap && !m_pcap->close())
+    if (m_pcap && !m_pcap->close()) {
         return fail(m_pcap->lastError());
-    if (m_blocks && !m_blocks->flush())
+    }
+    if (m_blocks && !m_blocks->flush()) {
         return fail(QStringLiteral("%1: %2").arg(m_blocks->fileName(), m_blocks->errorString()));
+    }
     return true;
 }
 
@@ -77,8 +83,9 @@ void TrafficOutput::count(std::uint64_t datagrams, std::uint64_t octets, std::ui
 QString TrafficOutput::summary() const
 {
     const QString sent = tr("%1 datagrams, %2 octets").arg(m_datagrams).arg(m_octets);
-    if (m_refused == 0)
+    if (m_refused == 0) {
         return sent;
+    }
     return sent + tr(", %1 refused (%2)").arg(m_refused).arg(m_sender->lastError());
 }
 

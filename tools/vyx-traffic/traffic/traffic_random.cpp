@@ -29,7 +29,8 @@ double TrafficRandom::normal()
 {
     // Twelve uniform numbers have a variance of one: near enough to the bell for measurement noise.
     double sum = -6;
-    for (int i = 0; i < 12; ++i)
+    for (int i = 0; i < 12; ++i) {
         sum += uniform();
+    }
     return sum;
 }

@@ -23,32 +23,40 @@ TrafficSource::TrafficSource(const Scenario &scenario, std::uint64_t seed) : m_t
     addTrackers(scenario, seed);
     addOthers(scenario, seed);
     double longest = 0;
-    for (const Place &place : m_stations)
+    for (const Place &place : m_stations) {
         longest = std::max(longest, place.station->lookInterval());
+    }
     m_traffic.setLingering(LingeringLooks * longest);
 }
 
 void TrafficSource::add(const ScenarioSource &source, std::unique_ptr<TrafficStation> station)
 {
-    if (!m_indices.contains(source.name))
+    if (!m_indices.contains(source.name)) {
         m_indices.insert(source.name, m_stations.size());
+    }
     m_stations.push_back({std::move(station), source.portOffset});
 }
 
 void TrafficSource::addTrackers(const Scenario &scenario, std::uint64_t seed)
 {
-    for (std::size_t i = 0; i < scenario.radars.size(); ++i)
+    for (std::size_t i = 0; i < scenario.radars.size(); ++i) {
         add(scenario.radars[i], std::make_unique<RadarStation>(scenario, i, seed));
-    for (const ScenarioMlat &mlat : scenario.mlat)
+    }
+    for (const ScenarioMlat &mlat : scenario.mlat) {
         add(mlat, std::make_unique<MlatStation>(mlat, scenario));
-    for (const ScenarioSdps &sdps : scenario.sdps)
+    }
+    for (const ScenarioSdps &sdps : scenario.sdps) {
         add(sdps, std::make_unique<SdpsStation>(sdps, scenario));
-    for (const ScenarioSmr &smr : scenario.smr)
+    }
+    for (const ScenarioSmr &smr : scenario.smr) {
         add(smr, std::make_unique<SmrStation>(smr, scenario));
-    for (const ScenarioAdsb &adsb : scenario.adsb)
+    }
+    for (const ScenarioAdsb &adsb : scenario.adsb) {
         add(adsb, std::make_unique<AdsbStation>(adsb, scenario));
-    for (const ScenarioModeSReceiver &receiver : scenario.modeSReceivers)
+    }
+    for (const ScenarioModeSReceiver &receiver : scenario.modeSReceivers) {
         add(receiver, std::make_unique<ModeSReceiver>(receiver, scenario));
+    }
 }
 
 void TrafficSource::addOthers(const Scenario &scenario, std::uint64_t seed)
@@ -57,10 +65,12 @@ void TrafficSource::addOthers(const Scenario &scenario, std::uint64_t seed)
         const TrafficStation &tracks = *m_stations[m_indices.value(net.tracksOf, 0)].station;
         add(net, std::make_unique<SafetyNetStation>(net, scenario, tracks));
     }
-    for (std::size_t i = 0; i < scenario.weatherRadars.size(); ++i)
+    for (std::size_t i = 0; i < scenario.weatherRadars.size(); ++i) {
         add(scenario.weatherRadars[i], std::make_unique<WeatherStation>(scenario, i, seed));
-    for (std::size_t i = 0; i < scenario.videoRadars.size(); ++i)
+    }
+    for (std::size_t i = 0; i < scenario.videoRadars.size(); ++i) {
         add(scenario.videoRadars[i], std::make_unique<VideoStation>(scenario, i, seed));
+    }
 }
 
 double TrafficSource::nextTime() const

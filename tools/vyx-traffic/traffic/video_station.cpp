@@ -121,12 +121,14 @@ std::vector<VideoStation::Echo> VideoStation::echoes(const AirTraffic &traffic) 
     std::vector<Echo> echoes;
     for (const AirTarget &target : traffic.targets()) {
         const Aircraft::State &state = target.aircraft.state();
-        if (!target.flight->primaryEcho || target.flight->vehicle || target.endedAt)
+        if (!target.flight->primaryEcho || target.flight->vehicle || target.endedAt) {
             continue;
+        }
         const double distance = Earth::distance(m_radar.latitude, m_radar.longitude, state.latitude, state.longitude);
         const double miles = distance / Earth::MetresPerNauticalMile;
-        if (miles > m_radar.range || miles > Earth::radioHorizon(state.altitude, m_radar.antennaAltitude))
+        if (miles > m_radar.range || miles > Earth::radioHorizon(state.altitude, m_radar.antennaAltitude)) {
             continue;
+        }
         const double height = state.altitude * Earth::MetresPerFoot - m_radar.antennaAltitude;
         echoes.push_back({Earth::bearing(m_radar.latitude, m_radar.longitude, state.latitude, state.longitude),
             std::hypot(distance, height) / m_cellMetres,
@@ -141,8 +143,9 @@ void VideoStation::paintRadial(int radial, const std::vector<Echo> &echoes)
     paintClutter(radial);
     const double azimuth = (radial + 0.5) * 360 / m_radar.radials;
     for (const Echo &echo : echoes) {
-        if (std::abs(Earth::turnBetween(azimuth, echo.azimuth)) < 1.5 * m_radar.beamWidth)
+        if (std::abs(Earth::turnBetween(azimuth, echo.azimuth)) < 1.5 * m_radar.beamWidth) {
             paintEcho(echo, azimuth);
+        }
     }
     std::fill(m_cells.begin() + m_radar.cells, m_cells.end(), static_cast<unsigned char>(0));
 }
@@ -152,8 +155,9 @@ void VideoStation::paintNoise()
     constexpr std::size_t CellsADraw = 6;
     std::uint64_t drawn = 0;
     for (std::size_t i = 0; i < m_cells.size(); ++i) {
-        if (i % CellsADraw == 0)
+        if (i % CellsADraw == 0) {
             drawn = static_cast<std::uint64_t>(m_random.uniform() * 0x1p48);
+        }
         m_cells[i] = m_noise[drawn & 0xFF];
         drawn >>= 8;
     }
@@ -164,8 +168,9 @@ void VideoStation::paintClutter(int radial)
 {
     const auto cells = static_cast<std::size_t>(m_clutterCells);
     const unsigned char *clutter = m_clutter.data() + static_cast<std::size_t>(radial) * cells;
-    for (std::size_t i = 0; i < cells; ++i)
+    for (std::size_t i = 0; i < cells; ++i) {
         m_cells[i] = added(m_cells[i], clutter[i]);
+    }
 }
 
 // The beam weighs an echo on the way out and on the way back.
@@ -201,8 +206,9 @@ QByteArray VideoStation::encodeRadial(int radial, double time)
     m_encoder.setRaw("048/RES", EightBits);
     m_encoder.setRaw("049/NBVB", static_cast<std::uint64_t>(m_radar.cells));
     m_encoder.setRaw("049/NBCELLS", static_cast<std::uint64_t>(m_radar.cells));
-    for (std::size_t at = 0; at < m_cells.size(); at += BlockOctets)
+    for (std::size_t at = 0; at < m_cells.size(); at += BlockOctets) {
         m_encoder.setExplicit("051", std::span(m_cells).subspan(at, BlockOctets));
+    }
     m_encoder.setRaw("140", m_clock.timeBits(time));
     m_encoder.endRecord();
     const std::span<const unsigned char> block = m_encoder.block();

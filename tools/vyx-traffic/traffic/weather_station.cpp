@@ -19,8 +19,9 @@ constexpr std::size_t MostVectors = 65535; // that the end of a picture can coun
 int scaleFor(double range)
 {
     int scale = -16;
-    while (std::ldexp(LargestRange, scale - 7) < range)
+    while (std::ldexp(LargestRange, scale - 7) < range) {
         ++scale;
+    }
     return scale;
 }
 
@@ -69,8 +70,9 @@ WeatherStation::Levels WeatherStation::scan() const
     Levels levels;
     for (int i = 0; i < azimuths; ++i) {
         const double azimuth = i * 360.0 / azimuths;
-        for (const StormCells::Run &run : m_cells.runs(azimuth, step, steps))
+        for (const StormCells::Run &run : m_cells.runs(azimuth, step, steps)) {
             levels[static_cast<std::size_t>(run.level)].push_back({run.from, run.to, azimuth});
+        }
     }
     return levels;
 }

@@ -1,9 +1,0 @@
-#pragma once
-
-#include "display/static_map_painter.h"
-
-class StaticMapLinePainter final : public StaticMapPainter {
-public:
-    void paint(QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group,
-        const MapStyleClass &style) override;
-};

@@ -1,0 +1,122 @@
+#include "engine/engine_host.h"
+
+#include "app/crash_handler.h"
+#include "engine/data_engine.h"
+
+#include <QThread>
+
+#include <utility>
+#include <vector>
+
+namespace {
+constexpr int stopWaitMs = 5000;
+}
+
+EngineHost::EngineHost(QObject *parent)
+    : QObject(parent), m_shared(std::make_shared<Shared>()),
+      m_engine(new DataEngine(&m_shared->projector, &m_shared->display, &m_shared->video, &m_shared->weather))
+{
+    if (qEnvironmentVariableIsSet("VYXDISPLAY_NO_DATA_THREAD")) {
+        return;
+    }
+    m_thread = new QThread;
+    m_thread->setObjectName("data");
+    m_engine->moveToThread(m_thread);
+    connect(m_thread, &QThread::started, m_engine, [] { prepareThreadForCrashHandler(); });
+    connect(m_thread, &QThread::started, m_engine, &DataEngine::init);
+    connect(m_thread, &QThread::finished, m_engine, &QObject::deleteLater);
+    connect(m_thread, &QThread::finished, m_thread, &QObject::deleteLater);
+}
+
+EngineHost::~EngineHost()
+{
+    stop(stopWaitMs);
+}
+
+void EngineHost::start()
+{
+    if (m_thread) {
+        m_thread->start(QThread::InheritPriority);
+    } else {
+        m_engine->init();
+    }
+}
+
+template <typename Command>
+void EngineHost::post(Command command)
+{
+    if (m_engine) {
+        QMetaObject::invokeMethod(
+            m_engine, [engine = m_engine, command] { command(engine); }, Qt::QueuedConnection);
+    }
+}
+
+void EngineHost::openInput(
+    const Config &config, const QSharedPointer<SensorInfo> &sensor, const QDateTime &replayStart, quint64 requestId)
+{
+    post([=](DataEngine *engine) { engine->openInput(config, sensor, replayStart, requestId); });
+}
+
+void EngineHost::closeInput()
+{
+    post([](DataEngine *engine) { engine->closeInput(); });
+}
+
+void EngineHost::pauseInput(bool paused)
+{
+    post([paused](DataEngine *engine) { engine->pauseInput(paused); });
+}
+
+void EngineHost::setReplayAutoRewind(bool on)
+{
+    post([on](DataEngine *engine) { engine->setReplayAutoRewind(on); });
+}
+
+void EngineHost::setReplaySpeed(ReplaySpeed::Speed speed)
+{
+    post([speed](DataEngine *engine) { engine->setReplaySpeed(speed); });
+}
+
+void EngineHost::setRecordingIndex(const korvane::astfile::RecordingIndex &index)
+{
+    post([index](DataEngine *engine) { engine->setRecordingIndex(index); });
+}
+
+void EngineHost::startRecording(const QString &fileName)
+{
+    post([fileName](DataEngine *engine) { engine->startRecording(fileName); });
+}
+
+void EngineHost::stopRecording()
+{
+    post([](DataEngine *engine) { engine->stopRecording(); });
+}
+
+void EngineHost::setSnapshotTrailDots(int dots)
+{
+    post([dots](DataEngine *engine) { engine->setSnapshotTrailDots(dots); });
+}
+
+bool EngineHost::stop(int waitMs)
+{
+    DataEngine *engine = std::exchange(m_engine, nullptr);
+    QThread *thread = std::exchange(m_thread, nullptr);
+    if (!thread) {
+        delete engine;
+        return true;
+    }
+    // A thread that was never started has no finished signal to come.
+    if (!thread->isRunning()) {
+        delete engine;
+        delete thread;
+        return true;
+    }
+    thread->quit();
+    if (thread->wait(waitMs)) {
+        return true;
+    }
+    // It still reads the projector and writes the slots, so these must never go.
+    static std::vector<std::shared_ptr<Shared>> abandoned;
+    abandoned.push_back(m_shared);
+    return false;
+}

@@ -1,0 +1,136 @@
+#include "help/cheat_sheet_window.h"
+
+#include <QAction>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace {
+
+struct Row {
+    QString input;
+    QString effect;
+};
+
+QString tr(const char *text)
+{
+    return CheatSheetWindow::tr(text);
+}
+
+QString plainText(const QAction &action)
+{
+    QString text = action.text();
+    text.remove(u'&');
+    while (text.endsWith(u'.') || text.endsWith(u' ')) {
+        text.chop(1);
+    }
+    return text;
+}
+
+QList<Row> shortcutRows(const QList<QAction *> &actions)
+{
+    QList<Row> rows;
+    for (const QAction *action : actions) {
+        QStringList keys;
+        const QList<QKeySequence> shortcuts = action->shortcuts();
+        for (const QKeySequence &shortcut : shortcuts) {
+            if (!shortcut.isEmpty()) {
+                keys.append(shortcut.toString(QKeySequence::NativeText));
+            }
+        }
+        if (!keys.isEmpty()) {
+            rows.append({keys.join(tr(" or ")), plainText(*action)});
+        }
+    }
+    return rows;
+}
+
+QList<Row> mouseRows()
+{
+    return {{tr("Left click on a symbol"), tr("Select the track")}, {tr("Right drag on the map"), tr("Move the view")},
+        {tr("Right drag on a label"), tr("Move the label")},
+        {tr("Right double-click"), tr("Bring this point to the centre")}, {tr("Wheel"), tr("Zoom around the pointer")},
+        {tr("Alt + wheel"), tr("Zoom in small steps")},
+        {tr("Left click with the cross"), tr("Place the centre of the range rings")}};
+}
+
+QList<Row> viewKeyRows()
+{
+    return {{tr("F12"), tr("Rotate clockwise by 1°")}, {tr("F11"), tr("Rotate counter-clockwise by 1°")},
+        {tr("Alt + F12"), tr("Rotate clockwise by 0.1°")}, {tr("Alt + F11"), tr("Rotate counter-clockwise by 0.1°")}};
+}
+
+QLabel *makeKeyCap(const QString &text)
+{
+    auto *cap = new QLabel(text);
+    cap->setFrameShape(QFrame::StyledPanel);
+    cap->setContentsMargins(6, 2, 6, 2);
+    cap->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+    QFont font = cap->font();
+    font.setBold(true);
+    cap->setFont(font);
+    return cap;
+}
+
+void addSection(QGridLayout *grid, const QString &title, const QList<Row> &rows)
+{
+    if (rows.isEmpty()) {
+        return;
+    }
+    int at = grid->rowCount();
+    auto *heading = new QLabel(title);
+    QFont font = heading->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * 1.2);
+    heading->setFont(font);
+    heading->setContentsMargins(0, at > 1 ? 12 : 0, 0, 4);
+    grid->addWidget(heading, at++, 0, 1, 2);
+    for (const Row &row : rows) {
+        grid->addWidget(makeKeyCap(row.input), at, 0);
+        grid->addWidget(new QLabel(row.effect), at++, 1);
+    }
+}
+
+QVBoxLayout *makeColumn(QGridLayout *grid)
+{
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(4);
+    grid->setColumnStretch(1, 1);
+    auto *column = new QVBoxLayout;
+    column->addLayout(grid);
+    column->addStretch(1);
+    return column;
+}
+
+} // namespace
+
+CheatSheetWindow::CheatSheetWindow(const QList<QAction *> &actions, QWidget *parent)
+    : GeometryDialog(QStringLiteral("CheatSheetWindow"), parent)
+{
+    setWindowTitle(tr("Cheat Sheet"));
+    auto *commands = new QGridLayout;
+    addSection(commands, tr("Commands"), shortcutRows(actions));
+    auto *gestures = new QGridLayout;
+    addSection(gestures, tr("Mouse on the plan view"), mouseRows());
+    addSection(gestures, tr("Keys on the plan view"), viewKeyRows());
+    auto *sheet = new QWidget;
+    auto *columns = new QHBoxLayout(sheet);
+    columns->setSpacing(36);
+    columns->addLayout(makeColumn(commands));
+    columns->addLayout(makeColumn(gestures));
+    columns->addStretch(1);
+
+    auto *area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(sheet);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, Qt::Horizontal, this);
+    connect(buttons, &QDialogButtonBox::rejected, this, &CheatSheetWindow::reject);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(area, 1);
+    layout->addWidget(buttons);
+    resize(sheet->sizeHint() + QSize(48, buttons->sizeHint().height() + 48));
+}

@@ -1,0 +1,257 @@
+#include "map_painting/geo_static_map.h"
+
+#include "app/config.h"
+#include "map_painting/static_map_area_painter.h"
+#include "map_painting/static_map_image_painter.h"
+#include "map_painting/static_map_label_painter.h"
+#include "map_painting/static_map_line_painter.h"
+#include "map_painting/static_map_symbol_painter.h"
+#include "view/geo_view.h"
+
+#include <QPainter>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qsizetype PointsAtOnce = 5000; // prepared in a few milliseconds
+constexpr int SmallestSymbol = 4; // pixels
+constexpr int LargestSymbol = 256;
+constexpr std::size_t MostPoints = 30000; // of lines and edges, in a region that is not crowded
+constexpr double WidestElement = 512.0; // pixels that labels, symbols or wide lines may reach beyond their points
+
+// A map that is being loaded changes often without anything to be seen.
+bool looksTheSame(const MapLibrary::Map &one, const MapLibrary::Map &other)
+{
+    return one.id == other.id && one.data == other.data && one.revision == other.revision && one.entry == other.entry;
+}
+
+// Of lines and edges, in the plane's own copy of the world.
+std::size_t pointsIn(const StaticMapGroup &group, const PlaneBox &box, double metresPerPixel)
+{
+    std::size_t count = 0;
+    for (const std::vector<StaticMapShape> *shapes : {&group.areas, &group.lines}) {
+        for (const StaticMapShape &shape : *shapes) {
+            if (!shape.bounds().touches(box)) {
+                continue;
+            }
+            const StaticMapShape::Level &level = shape.level(metresPerPixel);
+            for (const StaticMapShape::Block &block : level.blocks) {
+                count += block.bounds.touches(box) ? block.last - block.first : 0;
+            }
+        }
+    }
+    return count;
+}
+
+} // namespace
+
+GeoStaticMap::GeoStaticMap(Projector *projector, QObject *parent)
+    : GeoLayer(QStringLiteral("Static maps"), parent),
+      m_projector(projector), m_painters{std::make_unique<StaticMapImagePainter>(),
+                                  std::make_unique<StaticMapAreaPainter>(), std::make_unique<StaticMapLinePainter>(),
+                                  std::make_unique<StaticMapSymbolPainter>(), std::make_unique<StaticMapLabelPainter>()}
+{
+}
+
+GeoStaticMap::~GeoStaticMap()
+{
+    for (const Prepared &prepared : std::as_const(m_prepared)) {
+        prepared.cancel();
+    }
+    m_pool.waitForDone();
+}
+
+void GeoStaticMap::applyConfig(const Config &config)
+{
+    m_smoothImages = config.mapSmoothPixmapTransform;
+    setSymbolSize(config.mapStaticSymbolSize);
+    forgetPainted();
+    setVisible(config.mapStaticVisible);
+}
+
+void GeoStaticMap::setSymbolSize(int pixels)
+{
+    m_symbolSize = std::clamp(pixels, SmallestSymbol, LargestSymbol);
+    forgetPainted();
+}
+
+void GeoStaticMap::setStyleSheet(const MapStyleSheet &sheet)
+{
+    m_styles = sheet;
+    forgetPainted();
+}
+
+void GeoStaticMap::setMaps(const QList<MapLibrary::Map> &maps)
+{
+    const bool same = std::equal(maps.begin(), maps.end(), m_maps.begin(), m_maps.end(), looksTheSame);
+    m_maps = maps;
+    if (same) {
+        return;
+    }
+    QSet<quint64> present;
+    for (const MapLibrary::Map &map : maps) {
+        if (!map.data) {
+            continue;
+        }
+        present.insert(map.id);
+        prepare(map);
+    }
+    m_prepared.removeIf([&present](QHash<quint64, Prepared>::iterator prepared) {
+        if (present.contains(prepared.key())) {
+            return false;
+        }
+        prepared->cancel();
+        return true;
+    });
+    forgetPainted();
+}
+
+bool GeoStaticMap::preparing() const
+{
+    return std::any_of(m_prepared.begin(), m_prepared.end(), [](const Prepared &prepared) { return prepared.token; });
+}
+
+void GeoStaticMap::prepare(const MapLibrary::Map &map)
+{
+    Prepared &prepared = m_prepared[map.id];
+    if (prepared.data == map.data && prepared.revision == map.revision) {
+        return;
+    }
+    prepared.cancel();
+    prepared.token.reset();
+    prepared.data = map.data;
+    prepared.revision = map.revision;
+    if (shapePointCount(*map.data) > PointsAtOnce) {
+        prepareInBackground(map.id, prepared);
+    } else {
+        prepared.geometry = StaticMapGeometry::make(map.data, *m_projector, false);
+    }
+}
+
+void GeoStaticMap::prepareInBackground(quint64 id, Prepared &prepared)
+{
+    const auto token = std::make_shared<std::atomic<bool>>(false);
+    prepared.token = token;
+    m_pool.start([this, id, token, data = prepared.data, projector = m_projector] {
+        const StaticMapGeometry::Pointer geometry = StaticMapGeometry::make(data, *projector, *token);
+        if (geometry) {
+            QMetaObject::invokeMethod(this, [this, id, token, geometry] { takeGeometry(id, token, geometry); });
+        }
+    });
+}
+
+void GeoStaticMap::takeGeometry(quint64 id, const Token &token, const StaticMapGeometry::Pointer &geometry)
+{
+    const auto prepared = m_prepared.find(id);
+    if (prepared == m_prepared.end() || prepared->token != token) {
+        return;
+    }
+    prepared->token.reset();
+    prepared->geometry = geometry;
+    forgetPainted();
+}
+
+// What was painted refers to maps and styles that are going to be replaced.
+void GeoStaticMap::forgetPainted()
+{
+    for (const auto &painter : m_painters) {
+        painter->forget();
+    }
+    m_labels.forget();
+    m_regionValid = false;
+    m_picture.invalidate();
+    Q_EMIT polluted();
+}
+
+std::vector<ShownMap> GeoStaticMap::shownMaps(double metresPerPixel) const
+{
+    std::vector<ShownMap> shown;
+    for (const MapLibrary::Map &map : m_maps) {
+        const StaticMapGeometry::Pointer geometry = m_prepared.value(map.id).geometry;
+        if (geometry && map.visible() && map.inZoomRange(metresPerPixel)) {
+            shown.push_back({geometry, map.priority()});
+        }
+    }
+    std::stable_sort(shown.begin(), shown.end(),
+        [](const ShownMap &one, const ShownMap &other) { return one.priority < other.priority; });
+    return shown;
+}
+
+void GeoStaticMap::paint(QPainter &painter, const GeoView &view)
+{
+    const std::vector<ShownMap> maps = shownMaps(view.metresPerPixel());
+    if (maps.empty() || view.screenRect().isEmpty()) {
+        return;
+    }
+    const StaticMapRegion region = StaticMapRegion::around(view);
+    if (!m_regionValid || region != m_region) {
+        m_region = region;
+        decideForRegion(maps, view.metresPerPixel());
+    }
+    const QList<QRect> parts = m_picture.turnTo(view);
+    for (const QRect &part : parts) {
+        paintPart(view, part, maps);
+    }
+    painter.resetTransform();
+    painter.drawImage(QPointF(0.0, 0.0), m_picture.image());
+}
+
+void GeoStaticMap::decideForRegion(const std::vector<ShownMap> &maps, double metresPerPixel)
+{
+    m_labels.layOut(m_region, maps, m_styles, m_symbolSize);
+    std::size_t points = 0;
+    for (const ShownMap &map : maps) {
+        for (const StaticMapGroup &group : map.geometry->groups()) {
+            points += pointsIn(group, m_region.plane, metresPerPixel);
+        }
+    }
+    m_crowded = points > MostPoints;
+    m_regionValid = true;
+    m_picture.invalidate();
+}
+
+void GeoStaticMap::paintPart(const GeoView &view, const QRect &part, const std::vector<ShownMap> &maps)
+{
+    QPainter painter(&m_picture.image());
+    painter.setClipRect(part);
+    StaticMapFrame frame;
+    frame.sight = PlaneBox::of(view.planeTransform().mapRect(QRectF(part)));
+    frame.metresPerPixel = view.metresPerPixel();
+    frame.devicePixelRatio = view.devicePixelRatio();
+    frame.symbolSize = m_symbolSize;
+    frame.smoothImages = m_smoothImages;
+    frame.crowded = m_crowded;
+    frame.labels = &m_labels;
+    for (const ShownMap &map : maps) {
+        std::vector<MapStyleClass> styles;
+        for (const StaticMapGroup &group : map.geometry->groups()) {
+            styles.push_back(m_styles.style(group.className));
+        }
+        for (const auto &elements : m_painters) {
+            for (std::size_t i = 0; i < styles.size(); ++i) {
+                paintGroup(
+                    painter, view, frame, map.geometry->groups()[i], map.geometry->period(), styles[i], *elements);
+            }
+        }
+    }
+}
+
+void GeoStaticMap::paintGroup(QPainter &painter, const GeoView &view, const StaticMapFrame &frame,
+    const StaticMapGroup &group, double period, const MapStyleClass &style, StaticMapPainter &elements)
+{
+    const PlaneBox reach = group.bounds.grown(WidestElement * frame.metresPerPixel);
+    const auto [first, last] = copiesInSight(frame.sight, period);
+    for (int copy = first; copy <= last; ++copy) {
+        const double east = copy * period;
+        StaticMapFrame ofCopy = frame;
+        ofCopy.copy = copy;
+        ofCopy.sight = frame.sight.moved(-east);
+        if (!reach.touches(ofCopy.sight)) {
+            continue;
+        }
+        ofCopy.toScreen = QTransform::fromTranslate(east, 0.0) * view.screenTransform();
+        elements.paint(painter, ofCopy, group, style);
+    }
+}

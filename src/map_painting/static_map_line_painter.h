@@ -1,0 +1,9 @@
+#pragma once
+
+#include "map_painting/static_map_painter.h"
+
+class StaticMapLinePainter final : public StaticMapPainter {
+public:
+    void paint(QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group,
+        const MapStyleClass &style) override;
+};

@@ -1,0 +1,186 @@
+#include "display/geo_map_display.h"
+#include "display/geo_range_ring_map.h"
+#include "display/geo_track_display.h"
+#include "plan_view/geo_pointer_tool.h"
+#include "plan_view/geo_widget.h"
+
+#include <QCursor>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+namespace {
+
+constexpr double WheelFactor = 0.8;
+constexpr double FineWheelFactor = 0.9;
+constexpr double KeyRotation = 1.0; // degrees
+constexpr double FineKeyRotation = 0.1;
+
+// With Alt held some window systems turn the wheel into a horizontal one.
+int wheelDelta(const QWheelEvent &event)
+{
+    const QPoint delta = event.angleDelta();
+    const bool turned = delta.y() == 0 && event.modifiers().testFlag(Qt::AltModifier);
+    return turned ? delta.x() : delta.y();
+}
+
+} // namespace
+
+void GeoWidget::setPointerTool(GeoPointerTool *tool)
+{
+    m_pointerTool = tool;
+    if (!m_panning && !m_draggingLabel) {
+        showIdleCursor();
+    }
+}
+
+bool GeoWidget::toolTakes(
+    const QMouseEvent &event, bool (GeoPointerTool::*handler)(const QPointF &, const QTransform &))
+{
+    return m_pointerTool && !m_settingRangeRingsCenter
+        && (m_pointerTool->*handler)(event.position(), screenTransform());
+}
+
+void GeoWidget::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton) {
+        startRightDrag(event->position());
+    } else if (event->button() == Qt::LeftButton && !m_settingRangeRingsCenter
+        && !toolTakes(*event, &GeoPointerTool::pressed)) {
+        selectTrackAt(event->position().toPoint());
+    }
+}
+
+void GeoWidget::startRightDrag(const QPointF &position)
+{
+    const QPoint pixel = position.toPoint();
+    if (m_trackDisplay) {
+        m_draggedTrack = m_trackDisplay->findTrackByLabelPosition(screenTransform(), pixel.x(), pixel.y());
+    }
+    m_draggingLabel = m_draggedTrack != 0;
+    m_panning = !m_draggingLabel;
+    m_lastMousePosition = position;
+    setCursor(Qt::ClosedHandCursor);
+}
+
+void GeoWidget::selectTrackAt(const QPoint &pixel)
+{
+    Q_EMIT geoPointerClickEvent(screenTransform().inverted().map(QPointF(pixel)));
+    if (!m_trackDisplay) {
+        return;
+    }
+    const unsigned long long id = m_trackDisplay->findTrackBySymbolPosition(screenTransform(), pixel.x(), pixel.y());
+    if (id == 0) {
+        return;
+    }
+    m_trackDisplay->setSelected(id);
+    Q_EMIT trackSelected(m_trackDisplay->selectedTrackId());
+}
+
+void GeoWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPointF position = event->position();
+    if (m_panning) {
+        const QPointF delta = position - m_lastMousePosition;
+        m_lastMousePosition = position;
+        translateView(delta.x(), delta.y());
+        refresh();
+    } else if (m_draggingLabel) {
+        // Offsets are whole pixels: the fractions must not be lost from one move to the next.
+        dragLabel(position.toPoint() - m_lastMousePosition.toPoint());
+        m_lastMousePosition = position;
+    } else {
+        toolTakes(*event, &GeoPointerTool::moved);
+        const QPoint pixel = position.toPoint();
+        const QPointF planePoint = screenTransform().inverted().map(QPointF(pixel));
+        Q_EMIT cursorMoved(planePoint, pixel);
+        Q_EMIT geoPointerMoveEvent(planePoint);
+    }
+}
+
+void GeoWidget::dragLabel(const QPoint &delta)
+{
+    if (!m_trackDisplay || !m_trackDisplay->hasTrack(m_draggedTrack)) {
+        return;
+    }
+    QPoint offset = m_trackDisplay->trackLabelOffset(m_draggedTrack);
+    if (m_trackDisplay->trackLabelOffsetDefault(m_draggedTrack)) {
+        offset = QPoint(m_trackDisplay->labelOffsetX(), m_trackDisplay->labelOffsetY());
+    }
+    m_trackDisplay->setTrackLabelOffset(m_draggedTrack, offset.x() + delta.x(), offset.y() - delta.y());
+}
+
+void GeoWidget::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton) {
+        m_panning = false;
+        m_draggingLabel = false;
+        m_draggedTrack = 0;
+        showIdleCursor();
+        notifyViewRectChange();
+    } else if (event->button() == Qt::LeftButton && m_settingRangeRingsCenter) {
+        placeRangeRings(event->position());
+    } else if (event->button() == Qt::LeftButton) {
+        toolTakes(*event, &GeoPointerTool::released);
+    }
+}
+
+void GeoWidget::placeRangeRings(const QPointF &position)
+{
+    const QPointF center = screenTransform().inverted().map(position);
+    if (m_mapDisplay) {
+        GeoRangeRingMap *rings = m_mapDisplay->rangeRingMap();
+        rings->setRings(center, rings->number(), rings->distance());
+    }
+    m_settingRangeRingsCenter = false;
+    showIdleCursor();
+    Q_EMIT rangeRingsCenterSet(center);
+}
+
+void GeoWidget::showIdleCursor()
+{
+    const Qt::CursorShape free = m_pointerTool ? m_pointerTool->cursorShape() : Qt::ArrowCursor;
+    setCursor(m_settingRangeRingsCenter ? Qt::CrossCursor : free);
+}
+
+void GeoWidget::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::RightButton) {
+        // Unless a tool knows better, the second press of a quick pair of clicks is a press like any other.
+        if (event->button() != Qt::LeftButton || !toolTakes(*event, &GeoPointerTool::doubleClicked)) {
+            mousePressEvent(event);
+        }
+        return;
+    }
+    const QPoint pixel = event->position().toPoint();
+    moveTo(pixel.x(), pixel.y());
+    QCursor::setPos(mapToGlobal(centerPixel()));
+}
+
+void GeoWidget::wheelEvent(QWheelEvent *event)
+{
+    const int delta = wheelDelta(*event);
+    const bool fine = event->modifiers().testFlag(Qt::AltModifier);
+    const double factor = fine ? FineWheelFactor : WheelFactor;
+    const QPointF anchor = event->position() - QPointF(centerPixel());
+    if (delta > 0 && currentZoom() >= MinimumZoom) {
+        zoomBy(1.0 / factor, anchor);
+    } else if (delta < 0 && currentZoom() <= MaximumZoom) {
+        zoomBy(factor, anchor);
+    }
+    event->accept();
+}
+
+void GeoWidget::keyPressEvent(QKeyEvent *event)
+{
+    if (m_pointerTool && m_pointerTool->keyPressed(*event)) {
+        return;
+    }
+    const double step = event->modifiers().testFlag(Qt::AltModifier) ? FineKeyRotation : KeyRotation;
+    if (event->key() == Qt::Key_F12) {
+        rotate(step);
+    } else if (event->key() == Qt::Key_F11) {
+        rotate(-step);
+    }
+    QWidget::keyPressEvent(event);
+}

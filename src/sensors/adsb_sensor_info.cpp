@@ -1,0 +1,31 @@
+#include "sensors/adsb_sensor_info.h"
+
+#include "sensors/json_number.h"
+
+#include <QJsonArray>
+
+QJsonObject AdsbSensorInfo::jsonObject() const
+{
+    auto object = SensorInfo::jsonObject();
+    object[QLatin1String("coverage")] = static_cast<qint64>(m_coverage);
+    object[QLatin1String("update_interval")] = m_updateInterval;
+    object[QLatin1String("versions")] = QJsonArray::fromStringList(m_versions);
+    return object;
+}
+
+bool AdsbSensorInfo::setJsonObject(const QJsonObject &object)
+{
+    if (!SensorInfo::setJsonObject(object)) {
+        return false;
+    }
+    m_coverage = unsignedValue(object[QLatin1String("coverage")], m_coverage);
+    m_updateInterval = object[QLatin1String("update_interval")].toDouble(m_updateInterval);
+    m_versions.clear();
+    const auto versions = object[QLatin1String("versions")].toArray();
+    for (const auto &version : versions) {
+        if (version.isString()) {
+            m_versions.append(version.toString());
+        }
+    }
+    return true;
+}

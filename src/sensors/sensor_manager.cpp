@@ -1,0 +1,101 @@
+#include "sensors/sensor_manager.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSaveFile>
+
+SensorManager::SensorManager(QObject *parent) : QObject(parent) { }
+
+void SensorManager::reset()
+{
+    m_sensors.clear();
+}
+
+bool SensorManager::hasSensor(const QString &name) const
+{
+    return !findSensor(name).isNull();
+}
+
+QSharedPointer<SensorInfo> SensorManager::findSensor(const QString &name) const
+{
+    return m_sensors.value(name);
+}
+
+void SensorManager::addSensor(const QSharedPointer<SensorInfo> &sensor)
+{
+    if (sensor && !sensor->name().isEmpty()) {
+        m_sensors.insert(sensor->name(), sensor);
+    }
+}
+
+void SensorManager::removeSensor(const QString &name)
+{
+    m_sensors.remove(name);
+}
+
+QStringList SensorManager::sensorNames() const
+{
+    auto names = QStringList(m_sensors.keys());
+    names.sort(Qt::CaseSensitive);
+    return names;
+}
+
+QMap<QString, QStringList> SensorManager::manufacturerModels() const
+{
+    QMap<QString, QStringList> models;
+    for (const auto &sensor : m_sensors) {
+        if (sensor->manufacturer().isEmpty()) {
+            continue;
+        }
+        auto &list = models[sensor->manufacturer()];
+        if (!sensor->model().isEmpty() && !list.contains(sensor->model())) {
+            list.append(sensor->model());
+        }
+    }
+    return models;
+}
+
+QString SensorManager::uniqueName(const QString &name) const
+{
+    QString candidate = name;
+    for (int i = 1; hasSensor(candidate); ++i) {
+        candidate = QStringLiteral("%1_dup%2").arg(name).arg(i);
+    }
+    return candidate;
+}
+
+bool SensorManager::loadFromJsonFile(const QFileInfo &file)
+{
+    QFile device(file.filePath());
+    if (!device.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    const auto document = QJsonDocument::fromJson(device.readAll());
+    if (!document.isArray()) {
+        return false;
+    }
+    reset();
+    const auto elements = document.array();
+    for (const auto &element : elements) {
+        // Without a parent: whoever was handed a record may hold it for longer than this manager lives.
+        const auto sensor = SensorInfo::create(element.toObject());
+        if (!sensor) {
+            continue;
+        }
+        sensor->setName(uniqueName(sensor->name()));
+        addSensor(sensor);
+    }
+    return true;
+}
+
+bool SensorManager::saveToJsonFile(const QFileInfo &file) const
+{
+    QJsonArray elements;
+    for (const auto &sensor : m_sensors) {
+        elements.append(sensor->jsonObject());
+    }
+    const auto text = QJsonDocument(elements).toJson(QJsonDocument::Indented);
+    QSaveFile device(file.filePath());
+    return device.open(QIODevice::WriteOnly) && device.write(text) == text.size() && device.commit();
+}

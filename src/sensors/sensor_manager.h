@@ -1,0 +1,42 @@
+#pragma once
+
+#include "sensors/sensor_info.h"
+
+#include <QFileInfo>
+#include <QHash>
+#include <QMap>
+#include <QObject>
+#include <QSharedPointer>
+#include <QStringList>
+
+// The sensor records by unique name, read from and written to one JSON file.
+class SensorManager final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit SensorManager(QObject *parent = nullptr);
+
+    void reset();
+    bool hasSensor(const QString &name) const;
+    // Null when there is none.
+    QSharedPointer<SensorInfo> findSensor(const QString &name) const;
+    // Replaces a record of the same name; ignores null and a record without a name.
+    void addSensor(const QSharedPointer<SensorInfo> &sensor);
+    void removeSensor(const QString &name);
+
+    // Sorted case-sensitively.
+    QStringList sensorNames() const;
+    // The models of each manufacturer that some record names; a record without a model adds an empty list.
+    QMap<QString, QStringList> manufacturerModels() const;
+
+    // Replaces all records. False, with the records unchanged, when the file cannot be read or is no JSON array.
+    // Elements that do not describe a sensor are skipped; a name already taken becomes "NAME_dup1" and so on.
+    bool loadFromJsonFile(const QFileInfo &file);
+    // The file is replaced whole or stays as it was.
+    bool saveToJsonFile(const QFileInfo &file) const;
+
+private:
+    QString uniqueName(const QString &name) const;
+
+    QHash<QString, QSharedPointer<SensorInfo>> m_sensors;
+};

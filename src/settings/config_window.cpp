@@ -1,0 +1,119 @@
+#include "settings/config_window.h"
+
+#include "settings/display_config_page.h"
+#include "settings/input_config_page.h"
+#include "settings/map_config_page.h"
+#include "settings/processor_config_page.h"
+#include "settings/sensor_config_page.h"
+#include "settings/track_config_page.h"
+#include "settings/video_config_page.h"
+#include "settings/weather_config_page.h"
+#include "widgets/field_form.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+ConfigWindow::ConfigWindow(const Config &config, SensorManager *sensors, QWidget *parent)
+    : GeometryDialog(QStringLiteral("ConfigWindow"), parent), m_config(config), m_pageList(new QListWidget(this)),
+      m_stack(new QStackedWidget(this))
+{
+    setWindowTitle(tr("Settings"));
+    setModal(true);
+    m_pageList->setSpacing(2);
+    addPage(new DisplayConfigPage(this));
+    addPage(new InputConfigPage(this));
+    addPage(new ProcessorConfigPage(this));
+    addPage(new SensorConfigPage(sensors, this));
+    addPage(new MapConfigPage(this));
+    addPage(new WeatherConfigPage(this));
+    addPage(new VideoConfigPage(this));
+    addPage(new TrackConfigPage(this));
+    m_pageList->setFixedWidth(m_pageList->sizeHintForColumn(0) + 40);
+    connect(m_pageList, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);
+    m_pageList->setCurrentRow(0);
+
+    auto *buttons = new QDialogButtonBox(
+        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, Qt::Horizontal, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &ConfigWindow::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &ConfigWindow::reject);
+    connect(buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, &ConfigWindow::apply);
+
+    auto *panes = new QHBoxLayout;
+    panes->addWidget(m_pageList);
+    panes->addWidget(m_stack, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(panes, 1);
+    layout->addWidget(buttons);
+    resize(720, 560);
+}
+
+void ConfigWindow::addPage(ConfigPage *page)
+{
+    page->load(m_config);
+    m_pages.append(page);
+    m_pageList->addItem(page->title());
+    m_stack->addWidget(makeScrollable(page));
+}
+
+QWidget *ConfigWindow::makeScrollable(ConfigPage *page)
+{
+    auto *area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(page);
+    area->setMinimumWidth(page->minimumSizeHint().width() + 24);
+    return area;
+}
+
+void ConfigWindow::setConsent(std::function<bool(const Config &edited)> consent)
+{
+    m_consent = std::move(consent);
+}
+
+bool ConfigWindow::apply()
+{
+    qsizetype refused = -1;
+    for (qsizetype i = m_pages.size() - 1; i >= 0; --i) {
+        if (!m_pages.at(i)->validate()) {
+            refused = i;
+        }
+    }
+    if (refused >= 0) {
+        showRefused(refused);
+        return false;
+    }
+    Config edited = m_config;
+    for (const ConfigPage *page : std::as_const(m_pages)) {
+        page->store(&edited);
+    }
+    if (m_consent && !m_consent(edited)) {
+        return false;
+    }
+    m_config = edited;
+    Q_EMIT configApplied(m_config);
+    return true;
+}
+
+void ConfigWindow::showRefused(qsizetype page)
+{
+    // The page on screen is enough when it has a note itself: the operator is looking at it.
+    const int current = m_pageList->currentRow();
+    const qsizetype shown = m_pages.at(current)->form()->firstWithNote() ? current : page;
+    m_pageList->setCurrentRow(static_cast<int>(shown));
+    if (QWidget *field = m_pages.at(shown)->form()->firstWithNote()) {
+        field->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void ConfigWindow::accept()
+{
+    if (apply()) {
+        QDialog::accept();
+    }
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "app/config.h"
+#include "widgets/geometry_dialog.h"
+
+#include <functional>
+
+class ConfigPage;
+class QListWidget;
+class QStackedWidget;
+class SensorManager;
+
+// The settings window: pages chosen in a list at the left. Keys that no page shows pass through untouched.
+class ConfigWindow final : public GeometryDialog {
+    Q_OBJECT
+
+public:
+    // The sensor manager offers its sensors on the sensor page; it must outlive the window and may be null.
+    ConfigWindow(const Config &config, SensorManager *sensors, QWidget *parent = nullptr);
+
+    // The record as last applied.
+    const Config &config() const { return m_config; }
+
+    // Asked before anything is applied; false leaves all as it is, and the window open.
+    void setConsent(std::function<bool(const Config &edited)> consent);
+    // Applies all pages, or none: when a field is refused, its page is shown with a note beside it. True when applied.
+    bool apply();
+    void accept() override;
+
+Q_SIGNALS:
+    void configApplied(const Config &config);
+
+private:
+    void addPage(ConfigPage *page);
+    QWidget *makeScrollable(ConfigPage *page);
+    void showRefused(qsizetype page);
+
+    Config m_config;
+    std::function<bool(const Config &edited)> m_consent;
+    QList<ConfigPage *> m_pages;
+    QListWidget *m_pageList = nullptr;
+    QStackedWidget *m_stack = nullptr;
+};

@@ -1,0 +1,71 @@
+#include "settings/sensor_config_page.h"
+
+#include "app/config.h"
+#include "sensors/sensor_manager.h"
+#include "settings/sensor_form.h"
+#include "widgets/combo_items.h"
+#include "widgets/field_form.h"
+
+#include <QComboBox>
+
+SensorConfigPage::SensorConfigPage(SensorManager *sensors, QWidget *parent)
+    : ConfigPage(tr("Sensor"), parent), m_sensors(sensors), m_choice(new QComboBox)
+{
+    m_choice->setObjectName(QStringLiteral("sensorChoice"));
+    form()->addField(tr("From the &file:"), m_choice);
+    form()->addHeading(tr("Sensor of the input"));
+    m_sensorForm = new SensorForm(SensorForm::Use::Configured, form());
+    form()->addStretch();
+    fillChoice();
+    connect(m_choice, &QComboBox::activated, this, &SensorConfigPage::choose);
+}
+
+void SensorConfigPage::fillChoice()
+{
+    m_choice->addItem(tr("As entered below"));
+    const QStringList names = m_sensors ? m_sensors->sensorNames() : QStringList();
+    for (const QString &name : names) {
+        m_choice->addItem(name, name);
+        if (m_sensors->findSensor(name)->type() != RadarSensor) {
+            disableItem(m_choice, m_choice->count() - 1, tr("Reports of this type of sensor are not received yet."));
+        }
+    }
+    m_choice->setEnabled(!names.isEmpty());
+    m_choice->setToolTip(names.isEmpty() ? tr("The sensor file holds no sensor.") : QString());
+}
+
+void SensorConfigPage::choose(int index)
+{
+    const QString name = m_choice->itemData(index).toString();
+    const QSharedPointer<SensorInfo> sensor = name.isEmpty() ? nullptr : m_sensors->findSensor(name);
+    if (sensor) {
+        m_sensorForm->setSensor(sensor.data());
+    }
+}
+
+void SensorConfigPage::load(const Config &config)
+{
+    Config asType = config;
+    for (const SensorType type : {RadarSensor, AdsbSensor, MlatSensor, SdpsSensor, SmrSensor}) {
+        asType.sensorType = type;
+        m_sensorForm->setTypeFields(*asType.sensor(nullptr));
+    }
+    m_sensorForm->setSensor(config.sensor(nullptr).data());
+    const int listed = config.sensorType == UnknownSensor ? -1 : m_choice->findData(config.sensorName);
+    m_choice->setCurrentIndex(listed > 0 ? listed : 0);
+}
+
+bool SensorConfigPage::validate()
+{
+    return m_sensorForm->validate();
+}
+
+void SensorConfigPage::store(Config *config) const
+{
+    const QSharedPointer<SensorInfo> sensor = m_sensorForm->makeSensor();
+    if (!sensor) {
+        config->sensorType = UnknownSensor;
+    } else {
+        config->setSensor(sensor);
+    }
+}

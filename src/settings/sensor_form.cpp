@@ -1,0 +1,183 @@
+#include "settings/sensor_form.h"
+
+#include "sensors/sensor_info.h"
+#include "settings/sensor_type_fields.h"
+#include "widgets/combo_items.h"
+#include "widgets/coordinate_edit.h"
+#include "widgets/field_form.h"
+
+#include <QComboBox>
+#include <QCompleter>
+#include <QLineEdit>
+#include <QSpinBox>
+
+SensorForm::SensorForm(Use use, FieldForm *form) : QObject(form), m_use(use), m_form(form)
+{
+    addRows();
+    if (m_use == Use::Record) {
+        addDetailRows();
+    }
+    m_typeFields = SensorTypeFields::makeAll(form, use == Use::Record);
+    connect(m_type, &QComboBox::currentIndexChanged, this, &SensorForm::showTypeFields);
+    showTypeFields();
+}
+
+SensorForm::~SensorForm() = default;
+
+void SensorForm::addRows()
+{
+    m_type = makeTypeBox();
+    m_type->setObjectName(QStringLiteral("sensorType"));
+    m_form->addField(tr("&Type:"), m_type);
+    const auto add = [this](const QString &label, QWidget *field, const QString &objectName) {
+        field->setObjectName(objectName);
+        m_form->addField(label, field);
+        m_baseFields.push_back(field);
+    };
+    add(tr("&Name:"), m_name = new QLineEdit, QStringLiteral("sensorName"));
+    add(tr("&SAC:"), m_sac = new QSpinBox, QStringLiteral("sensorSac"));
+    m_sac->setRange(0, 255);
+    m_sac->setToolTip(tr("System area code, 0 to 255"));
+    add(tr("S&IC:"), m_sic = new QSpinBox, QStringLiteral("sensorSic"));
+    m_sic->setRange(0, 255);
+    m_sic->setToolTip(tr("System identification code, 0 to 255"));
+    const auto format = m_use == Use::Record ? GeoCoordinate::HighPrecision : GeoCoordinate::NormalPrecision;
+    add(tr("&Location:"), m_location = new CoordinateEdit(format), QStringLiteral("sensorLocation"));
+}
+
+void SensorForm::addDetailRows()
+{
+    const auto add = [this](const QString &label, QWidget *field, const QString &objectName) {
+        field->setObjectName(objectName);
+        m_form->addField(label, field);
+        m_baseFields.push_back(field);
+    };
+    add(tr("&Description:"), m_description = new QLineEdit, QStringLiteral("sensorDescription"));
+    add(tr("Manu&facturer:"), m_manufacturer = new QLineEdit, QStringLiteral("sensorManufacturer"));
+    add(tr("&Model:"), m_model = new QLineEdit, QStringLiteral("sensorModel"));
+    add(tr("In service since &year:"), m_commissionYear = new QSpinBox, QStringLiteral("sensorCommissionYear"));
+    m_commissionYear->setRange(0, 9999);
+    m_commissionYear->setSpecialValueText(tr("not given"));
+    connect(m_manufacturer, &QLineEdit::textChanged, this, &SensorForm::completeModels);
+}
+
+QComboBox *SensorForm::makeTypeBox()
+{
+    auto *box = new QComboBox;
+    if (m_use == Use::Configured) {
+        box->addItem(tr("None"), UnknownSensor);
+    }
+    for (const SensorType type : {RadarSensor, AdsbSensor, MlatSensor, SdpsSensor, SmrSensor}) {
+        box->addItem(SensorInfo::typeFullName(type), type);
+        if (m_use == Use::Configured && type != RadarSensor) {
+            disableItem(box, box->count() - 1, tr("Reports of this type of sensor are not received yet."));
+        }
+    }
+    return box;
+}
+
+SensorType SensorForm::type() const
+{
+    return sensorType(m_type->currentData().toUInt());
+}
+
+void SensorForm::showTypeFields()
+{
+    const SensorType chosen = type();
+    for (QWidget *field : m_baseFields) {
+        m_form->setRowVisible(field, chosen != UnknownSensor);
+    }
+    for (const auto &fields : m_typeFields) {
+        fields->setVisible(fields->type() == chosen);
+    }
+}
+
+void SensorForm::setSensor(const SensorInfo *sensor)
+{
+    m_form->clearNotes();
+    m_type->setCurrentIndex(m_type->findData(sensor ? sensor->type() : UnknownSensor));
+    if (!sensor) {
+        return;
+    }
+    m_name->setText(sensor->name());
+    m_sac->setValue(sensor->sac());
+    m_sic->setValue(sensor->sic());
+    m_location->setCoordinate(sensor->location());
+    if (m_use == Use::Record) {
+        m_description->setText(sensor->description());
+        m_manufacturer->setText(sensor->manufacturer());
+        m_model->setText(sensor->model());
+        m_commissionYear->setValue(sensor->commissionYear());
+    }
+    setTypeFields(*sensor);
+}
+
+void SensorForm::setTypeFields(const SensorInfo &sensor)
+{
+    for (const auto &fields : m_typeFields) {
+        if (fields->type() == sensor.type()) {
+            fields->load(sensor);
+        }
+    }
+}
+
+void SensorForm::setManufacturerModels(const QMap<QString, QStringList> &models)
+{
+    m_manufacturerModels = models;
+    auto *completer = new QCompleter(models.keys(), m_manufacturer);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    m_manufacturer->setCompleter(completer);
+    completeModels();
+}
+
+void SensorForm::completeModels()
+{
+    auto *completer = new QCompleter(m_manufacturerModels.value(m_manufacturer->text().trimmed()), m_model);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    m_model->setCompleter(completer); // deletes the one before, which is the field's child
+}
+
+bool SensorForm::validate()
+{
+    m_form->clearNotes();
+    if (type() == UnknownSensor) {
+        return true;
+    }
+    const QString name = m_name->text().trimmed();
+    QString nameProblem;
+    if (name.isEmpty()) {
+        nameProblem = tr("A sensor needs a name.");
+    } else if (m_namesInUse.contains(name)) {
+        nameProblem = tr("Another sensor is named \"%1\".").arg(name);
+    }
+    bool valid = m_form->check(m_name, nameProblem);
+    const bool located = m_location->coordinate().isValid();
+    valid = m_form->check(m_location, located ? QString() : tr("INVALID COORDINATE")) && valid;
+    for (const auto &fields : m_typeFields) {
+        valid = (fields->type() != type() || fields->check()) && valid;
+    }
+    return valid;
+}
+
+QSharedPointer<SensorInfo> SensorForm::makeSensor() const
+{
+    const QSharedPointer<SensorInfo> sensor = SensorInfo::create(type());
+    if (!sensor) {
+        return {};
+    }
+    sensor->setName(m_name->text().trimmed());
+    sensor->setSacSic(static_cast<unsigned char>(m_sac->value()), static_cast<unsigned char>(m_sic->value()));
+    sensor->setLocation(m_location->coordinate());
+    if (m_use == Use::Record) {
+        sensor->setDescription(m_description->text().trimmed());
+        sensor->setManufacturer(m_manufacturer->text().trimmed());
+        sensor->setModel(m_model->text().trimmed());
+        sensor->setCommissionYear(static_cast<unsigned short>(m_commissionYear->value()));
+    }
+    for (const auto &fields : m_typeFields) {
+        if (fields->type() == type()) {
+            fields->store(sensor.data());
+        }
+    }
+    return sensor;
+}

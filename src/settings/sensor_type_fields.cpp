@@ -1,0 +1,299 @@
+#include "settings/sensor_type_fields.h"
+
+#include "sensors/adsb_sensor_info.h"
+#include "sensors/mlat_sensor_info.h"
+#include "sensors/radar_sensor_info.h"
+#include "sensors/sdps_sensor_info.h"
+#include "sensors/smr_sensor_info.h"
+#include "widgets/field_form.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QSpinBox>
+
+#include <limits>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("SensorTypeFields", text);
+}
+
+QSpinBox *makeNumber(int minimum, int maximum, const QString &unit)
+{
+    auto *box = new QSpinBox;
+    box->setRange(minimum, maximum);
+    box->setSuffix(unit);
+    return box;
+}
+
+QSpinBox *makeCoverage()
+{
+    return makeNumber(0, 100000, tr(" NM"));
+}
+
+QSpinBox *makeAltitude()
+{
+    return makeNumber(-1000, 100000, tr(" m"));
+}
+
+QDoubleSpinBox *makeSeconds()
+{
+    auto *box = new QDoubleSpinBox;
+    box->setRange(0.0, 3600.0);
+    box->setDecimals(3);
+    box->setSuffix(tr(" s"));
+    box->setSpecialValueText(tr("not given"));
+    return box;
+}
+
+class RadarFields final : public SensorTypeFields {
+public:
+    explicit RadarFields(FieldForm *form) : SensorTypeFields(form)
+    {
+        addRow(tr("Antenna &altitude:"), m_altitude, QStringLiteral("radarAntennaAltitude"));
+        addRow(tr("&Rotation period:"), m_period, QStringLiteral("radarRotationPeriod"));
+        addRow(m_primary, QStringLiteral("radarPrimary"));
+        addRow(tr("Coverage, &primary:"), m_coveragePrimary, QStringLiteral("radarCoveragePrimary"));
+        addRow(m_secondary, QStringLiteral("radarSecondary"));
+        addRow(m_modeS, QStringLiteral("radarModeS"));
+        addRow(tr("Coverage, se&condary:"), m_coverageSecondary, QStringLiteral("radarCoverageSecondary"));
+        // A Mode S radar is a secondary one.
+        QObject::connect(m_modeS, &QCheckBox::toggled, m_secondary, [this](bool on) {
+            m_secondary->setChecked(on || m_secondary->isChecked());
+            m_secondary->setEnabled(!on);
+        });
+    }
+
+    SensorType type() const override { return RadarSensor; }
+
+    void load(const SensorInfo &sensor) override
+    {
+        const auto &radar = static_cast<const RadarSensorInfo &>(sensor);
+        m_altitude->setValue(radar.antennaAltitude());
+        m_period->setValue(radar.rotationPeriod());
+        m_primary->setChecked(radar.isPrimary());
+        m_modeS->setChecked(radar.isModeS());
+        m_secondary->setChecked(radar.isSecondary());
+        m_coveragePrimary->setValue(static_cast<int>(radar.coveragePrimary()));
+        m_coverageSecondary->setValue(static_cast<int>(radar.coverageSecondary()));
+    }
+
+    void store(SensorInfo *sensor) const override
+    {
+        auto *radar = static_cast<RadarSensorInfo *>(sensor);
+        radar->setAntennaAltitude(m_altitude->value());
+        radar->setRotationPeriod(m_period->value());
+        radar->setRadarType(m_primary->isChecked(), m_secondary->isChecked(), m_modeS->isChecked());
+        radar->setCoveragePrimary(static_cast<unsigned int>(m_coveragePrimary->value()));
+        radar->setCoverageSecondary(static_cast<unsigned int>(m_coverageSecondary->value()));
+    }
+
+    bool check() override
+    {
+        const bool any = m_primary->isChecked() || m_secondary->isChecked() || m_modeS->isChecked();
+        return form()->check(m_modeS, any ? QString() : tr("A radar is primary, secondary or both."));
+    }
+
+private:
+    QSpinBox *m_altitude = makeAltitude();
+    QDoubleSpinBox *m_period = makeSeconds();
+    QCheckBox *m_primary = new QCheckBox(tr("Primary radar"));
+    QCheckBox *m_secondary = new QCheckBox(tr("Secondary radar"));
+    QCheckBox *m_modeS = new QCheckBox(tr("Mode S"));
+    QSpinBox *m_coveragePrimary = makeCoverage();
+    QSpinBox *m_coverageSecondary = makeCoverage();
+};
+
+class AdsbFields final : public SensorTypeFields {
+public:
+    AdsbFields(FieldForm *form, bool details) : SensorTypeFields(form)
+    {
+        addRow(tr("Co&verage:"), m_coverage, QStringLiteral("adsbCoverage"));
+        addRow(tr("&Update interval:"), m_interval, QStringLiteral("adsbUpdateInterval"));
+        if (!details) {
+            return;
+        }
+        m_versions = new QLineEdit;
+        m_versions->setPlaceholderText(tr("such as 0, 1, 2"));
+        addRow(tr("ADS-&B versions:"), m_versions, QStringLiteral("adsbVersions"));
+    }
+
+    SensorType type() const override { return AdsbSensor; }
+
+    void load(const SensorInfo &sensor) override
+    {
+        const auto &adsb = static_cast<const AdsbSensorInfo &>(sensor);
+        m_coverage->setValue(static_cast<int>(adsb.coverage()));
+        m_interval->setValue(adsb.updateInterval());
+        if (m_versions) {
+            m_versions->setText(QStringList(adsb.versions()).join(QStringLiteral(", ")));
+        }
+    }
+
+    void store(SensorInfo *sensor) const override
+    {
+        auto *adsb = static_cast<AdsbSensorInfo *>(sensor);
+        adsb->setCoverage(static_cast<unsigned int>(m_coverage->value()));
+        adsb->setUpdateInterval(m_interval->value());
+        if (m_versions) {
+            adsb->setVersions(versions());
+        }
+    }
+
+private:
+    QList<QString> versions() const
+    {
+        QList<QString> versions;
+        const QStringList parts = m_versions->text().split(u',');
+        for (const QString &part : parts) {
+            if (!part.trimmed().isEmpty()) {
+                versions.append(part.trimmed());
+            }
+        }
+        return versions;
+    }
+
+    QSpinBox *m_coverage = makeCoverage();
+    QDoubleSpinBox *m_interval = makeSeconds();
+    QLineEdit *m_versions = nullptr; // null without details
+};
+
+class MlatFields final : public SensorTypeFields {
+public:
+    explicit MlatFields(FieldForm *form) : SensorTypeFields(form)
+    {
+        addRow(tr("Co&verage:"), m_coverage, QStringLiteral("mlatCoverage"));
+    }
+
+    SensorType type() const override { return MlatSensor; }
+
+    void load(const SensorInfo &sensor) override
+    {
+        m_coverage->setValue(static_cast<int>(static_cast<const MlatSensorInfo &>(sensor).coverage()));
+    }
+
+    void store(SensorInfo *sensor) const override
+    {
+        static_cast<MlatSensorInfo *>(sensor)->setCoverage(static_cast<unsigned int>(m_coverage->value()));
+    }
+
+private:
+    QSpinBox *m_coverage = makeCoverage();
+};
+
+class SdpsFields final : public SensorTypeFields {
+public:
+    explicit SdpsFields(FieldForm *form) : SensorTypeFields(form)
+    {
+        addRow(tr("Co&verage:"), m_coverage, QStringLiteral("sdpsCoverage"));
+        addRow(tr("&Update interval:"), m_interval, QStringLiteral("sdpsUpdateInterval"));
+    }
+
+    SensorType type() const override { return SdpsSensor; }
+
+    void load(const SensorInfo &sensor) override
+    {
+        const auto &sdps = static_cast<const SdpsSensorInfo &>(sensor);
+        m_coverage->setValue(static_cast<int>(sdps.coverage()));
+        m_interval->setValue(sdps.updateInterval());
+    }
+
+    void store(SensorInfo *sensor) const override
+    {
+        auto *sdps = static_cast<SdpsSensorInfo *>(sensor);
+        sdps->setCoverage(static_cast<unsigned int>(m_coverage->value()));
+        sdps->setUpdateInterval(m_interval->value());
+    }
+
+private:
+    QSpinBox *m_coverage = makeCoverage();
+    QDoubleSpinBox *m_interval = makeSeconds();
+};
+
+class SmrFields final : public SensorTypeFields {
+public:
+    SmrFields(FieldForm *form, bool details) : SensorTypeFields(form)
+    {
+        addRow(tr("Antenna &altitude:"), m_altitude, QStringLiteral("smrAntennaAltitude"));
+        addRow(tr("&Rotation period:"), m_period, QStringLiteral("smrRotationPeriod"));
+        m_coverage->setRange(0.0, 1000.0);
+        m_coverage->setDecimals(2);
+        m_coverage->setSuffix(tr(" NM"));
+        addRow(tr("Co&verage:"), m_coverage, QStringLiteral("smrCoverage"));
+        if (!details) {
+            return;
+        }
+        m_acp = makeNumber(0, std::numeric_limits<int>::max(), QString());
+        m_acp->setSpecialValueText(tr("not given"));
+        m_acp->setToolTip(tr("Azimuth change pulses per revolution of the antenna"));
+        addRow(tr("Azimuth &pulses:"), m_acp, QStringLiteral("smrAcp"));
+    }
+
+    SensorType type() const override { return SmrSensor; }
+
+    void load(const SensorInfo &sensor) override
+    {
+        const auto &smr = static_cast<const SmrSensorInfo &>(sensor);
+        m_altitude->setValue(smr.antennaAltitude());
+        m_period->setValue(smr.rotationPeriod());
+        m_coverage->setValue(smr.coverage());
+        if (m_acp) {
+            m_acp->setValue(static_cast<int>(smr.acp()));
+        }
+    }
+
+    void store(SensorInfo *sensor) const override
+    {
+        auto *smr = static_cast<SmrSensorInfo *>(sensor);
+        smr->setAntennaAltitude(m_altitude->value());
+        smr->setRotationPeriod(m_period->value());
+        smr->setCoverage(m_coverage->value());
+        if (m_acp) {
+            smr->setAcp(static_cast<unsigned int>(m_acp->value()));
+        }
+    }
+
+private:
+    QSpinBox *m_altitude = makeAltitude();
+    QDoubleSpinBox *m_period = makeSeconds();
+    QDoubleSpinBox *m_coverage = new QDoubleSpinBox;
+    QSpinBox *m_acp = nullptr; // null without details
+};
+
+} // namespace
+
+void SensorTypeFields::setVisible(bool visible)
+{
+    for (QWidget *field : m_fields) {
+        m_form->setRowVisible(field, visible);
+    }
+}
+
+void SensorTypeFields::addRow(const QString &label, QWidget *field, const QString &objectName)
+{
+    field->setObjectName(objectName);
+    m_form->addField(label, field);
+    m_fields.push_back(field);
+}
+
+void SensorTypeFields::addRow(QWidget *field, const QString &objectName)
+{
+    field->setObjectName(objectName);
+    m_form->addField(field);
+    m_fields.push_back(field);
+}
+
+std::vector<std::unique_ptr<SensorTypeFields>> SensorTypeFields::makeAll(FieldForm *form, bool details)
+{
+    std::vector<std::unique_ptr<SensorTypeFields>> all;
+    all.push_back(std::make_unique<RadarFields>(form));
+    all.push_back(std::make_unique<AdsbFields>(form, details));
+    all.push_back(std::make_unique<MlatFields>(form));
+    all.push_back(std::make_unique<SdpsFields>(form));
+    all.push_back(std::make_unique<SmrFields>(form, details));
+    return all;
+}

@@ -1,0 +1,47 @@
+#include "vyxdisplay/exit_report.h"
+
+#include "engine/snapshot_json.h"
+#include "ui/main_window.h"
+
+#include <QImageWriter>
+
+#include <cstdio>
+
+ExitReport::ExitReport(MainWindow *window, const QString &screenshot, const QString &snapshot, QObject *parent)
+    : QObject(parent), m_window(window), m_screenshot(screenshot), m_snapshot(snapshot)
+{
+    connect(window, &MainWindow::shutdownBegun, this, &ExitReport::write);
+}
+
+void ExitReport::write()
+{
+    if (!m_screenshot.isEmpty()) {
+        writeScreenshot();
+    }
+    if (!m_snapshot.isEmpty()) {
+        writeSnapshot();
+    }
+}
+
+void ExitReport::writeScreenshot()
+{
+    QImageWriter writer(m_screenshot);
+    if (!writer.write(m_window->grab().toImage())) {
+        fail(m_screenshot, writer.errorString());
+    }
+}
+
+void ExitReport::writeSnapshot()
+{
+    const QSharedPointer<const DisplaySnapshot> newest = m_window->newestSnapshot();
+    QString reason;
+    if (!SnapshotJson::save(newest ? *newest : DisplaySnapshot(), m_snapshot, &reason)) {
+        fail(m_snapshot, reason);
+    }
+}
+
+void ExitReport::fail(const QString &fileName, const QString &reason)
+{
+    m_succeeded = false;
+    std::fprintf(stderr, "%s\n", qUtf8Printable(tr("Cannot write %1: %2").arg(fileName, reason)));
+}

@@ -1,0 +1,196 @@
+#include "app/app_identity.h"
+#include "app/app_log.h"
+#include "app/app_paths.h"
+#include "app/config.h"
+#include "app/crash_handler.h"
+#include "engine/replay_speed.h"
+#include "ui/main_window.h"
+#include "vyxdisplay/command_line.h"
+#include "vyxdisplay/demo_traffic.h"
+#include "vyxdisplay/exit_report.h"
+#include "vyxdisplay/first_frame.h"
+#include "vyxdisplay/termination_signals.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLocale>
+#include <QLoggingCategory>
+#include <QSplashScreen>
+#include <QStyleFactory>
+#include <QTimer>
+#include <QTranslator>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+constexpr int wrongUse = 2;
+
+int complain(const QString &line)
+{
+    std::fprintf(stderr, "vyxdisplay: %s\n", qUtf8Printable(line));
+    return wrongUse;
+}
+
+int print(const QString &text)
+{
+    std::fputs(qUtf8Printable(text), stdout);
+    return 0;
+}
+
+// The toolkit aborts where it finds no screen.
+bool screenAvailable([[maybe_unused]] const QStringList &arguments)
+{
+#ifdef Q_OS_LINUX
+    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        if (!qEnvironmentVariableIsEmpty(variable)) {
+            return true;
+        }
+    }
+    return arguments.contains("-platform") || arguments.contains("--platform");
+#else
+    return true;
+#endif
+}
+
+void applyStyle(const QString &configured)
+{
+    const QString key = QStyleFactory::keys().contains(configured) ? configured : QString("windowsvista");
+    if (QStyle *style = QStyleFactory::create(key)) {
+        QApplication::setStyle(style);
+    }
+}
+
+void installTranslator(QTranslator &translator, const QString &file)
+{
+    if (translator.load(file, QString())) {
+        QApplication::installTranslator(&translator);
+    }
+}
+
+void showSplash(QSplashScreen &splash)
+{
+    splash.setWindowFlag(Qt::WindowStaysOnTopHint);
+    splash.setCursor(Qt::ArrowCursor);
+    splash.show();
+    splash.showMessage(QApplication::applicationDisplayName() + " " + QApplication::applicationVersion(),
+        Qt::AlignRight | Qt::AlignBottom, Qt::white);
+    QApplication::processEvents();
+}
+
+// From the main window's construction to the end of the event loop.
+int runWindow(const CommandLine &commandLine, DemoTraffic *demo, QSplashScreen &splash, const QElapsedTimer &clock)
+{
+    MainWindow window([&commandLine, demo](Config &config) {
+        if (demo) {
+            demo->applyTo(config);
+        }
+        commandLine.applyTo(config);
+    });
+    FirstFrame firstFrame(window.centralWidget(), clock);
+    QObject::connect(&firstFrame, &FirstFrame::painted, &window, [&window](qint64 milliseconds) {
+        window.showLog(LogLevel::Debug, MainWindow::tr("First frame after %1 ms").arg(milliseconds));
+    });
+    const ExitReport report(&window, commandLine.screenshot, commandLine.snapshot);
+    const TerminationSignals signalsToEnd;
+    QObject::connect(&signalsToEnd, &TerminationSignals::requested, &window, &MainWindow::requestExit);
+    // Told to end from outside, the program does not wait until somebody answers a dialog.
+    QObject::connect(&window, &MainWindow::shutdownComplete, qApp, [] { QCoreApplication::exit(); });
+    window.show();
+    window.loadUi();
+    splash.finish(&window);
+    QApplication::processEvents();
+
+    if (demo) {
+        QObject::connect(demo, &DemoTraffic::message, &window, &MainWindow::showLog);
+        QObject::connect(&window, &MainWindow::inputOpened, demo, &DemoTraffic::start);
+    }
+    if (commandLine.exitAtEnd) {
+        QObject::connect(&window, &MainWindow::inputClosed, &window, &MainWindow::requestExit, Qt::QueuedConnection);
+    }
+    for (const ReplaySpeed::Speed speed : ReplaySpeed::values()) {
+        if (ReplaySpeed::name(speed) == commandLine.replaySpeed) {
+            window.setReplaySpeed(speed);
+        }
+    }
+    if (demo || commandLine.start) {
+        window.openInput();
+    }
+    if (commandLine.exitAfter) {
+        QTimer::singleShot(*commandLine.exitAfter, &window, &MainWindow::requestExit);
+    }
+    const int status = QApplication::exec();
+    return status != 0 || report.succeeded() ? status : 1;
+}
+
+int runApplication(int argc, char *argv[], const CommandLine &commandLine, const QElapsedTimer &clock)
+{
+    QApplication application(argc, argv);
+    setApplicationIdentity();
+    if (!debugModeMarked()) {
+        QLoggingCategory::setFilterRules("default.debug=false");
+    }
+    Config config;
+    config.load(AppPaths::configFile());
+    applyStyle(config.displayStyle);
+
+    const QString language = config.displayLanguage.isEmpty() ? QLocale::system().name() : config.displayLanguage;
+    QTranslator toolkitTexts;
+    QTranslator ownTexts;
+    installTranslator(toolkitTexts, "qt_" + language);
+    installTranslator(ownTexts, "vyxdisplay_" + language);
+
+    std::unique_ptr<DemoTraffic> demo;
+    if (commandLine.demo) {
+        demo = std::make_unique<DemoTraffic>(*commandLine.demo);
+        QString error;
+        if (!demo->prepare(&error)) {
+            return complain(error);
+        }
+    }
+    QSplashScreen splash(QPixmap(":resource/local/splash.png"));
+    showSplash(splash);
+    return runWindow(commandLine, demo.get(), splash, clock);
+}
+
+int qMain(int argc, char *argv[])
+{
+    QElapsedTimer clock;
+    clock.start();
+    setApplicationIdentity();
+    installCrashHandler(AppPaths::crashLogFile());
+
+    const QStringList arguments(argv, argv + argc);
+    QString error;
+    const std::optional<CommandLine> commandLine = CommandLine::parse(arguments, &error);
+    if (!commandLine) {
+        return complain(error);
+    }
+    if (commandLine->demo) {
+        AppPaths::setProfile("demo");
+        installCrashHandler(AppPaths::crashLogFile());
+    }
+    if (commandLine->help) {
+        return print(CommandLine::helpText());
+    }
+    if (commandLine->version) {
+        return print(CommandLine::versionText());
+    }
+    if (commandLine->demo == "list") {
+        const QString scenarios = DemoTraffic::list(&error);
+        return scenarios.isEmpty() ? complain(error) : print(scenarios);
+    }
+    if (!screenAvailable(arguments)) {
+        return complain(QCoreApplication::translate(
+            "main", "no screen: set DISPLAY or WAYLAND_DISPLAY, or QT_QPA_PLATFORM=offscreen to run without one"));
+    }
+    return runApplication(argc, argv, *commandLine, clock);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    return qMain(argc, argv);
+}

@@ -1,0 +1,119 @@
+#include "widgets/field_form.h"
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPalette>
+
+namespace {
+
+QColor noteColor(const QPalette &palette)
+{
+    const bool lightGround = palette.color(QPalette::Window).lightness() > 127;
+    return lightGround ? QColor(0xb0, 0x00, 0x20) : QColor(0xff, 0x8a, 0x80);
+}
+
+} // namespace
+
+FieldForm::FieldForm(QWidget *parent) : QWidget(parent), m_grid(new QGridLayout(this))
+{
+    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setColumnStretch(1, 1);
+    m_grid->setHorizontalSpacing(12);
+}
+
+void FieldForm::addHeading(const QString &text)
+{
+    auto *heading = new QLabel(text, this);
+    QFont font = heading->font();
+    font.setBold(true);
+    heading->setFont(font);
+    heading->setContentsMargins(0, m_nextRow == 0 ? 0 : 10, 0, 0);
+    m_grid->addWidget(heading, m_nextRow++, 0, 1, 2);
+}
+
+void FieldForm::addField(const QString &label, QWidget *field)
+{
+    auto *labelWidget = new QLabel(label, this);
+    labelWidget->setBuddy(field);
+    m_grid->addWidget(labelWidget, m_nextRow, 0);
+    place(field, labelWidget);
+}
+
+void FieldForm::addField(QWidget *field)
+{
+    place(field, nullptr);
+}
+
+void FieldForm::place(QWidget *field, QLabel *label)
+{
+    // What is narrow by nature stands beside its label, not at the far end of a wide column.
+    const bool narrow = qobject_cast<QAbstractSpinBox *>(field) || qobject_cast<QAbstractButton *>(field);
+    m_grid->addWidget(field, m_nextRow++, 1, narrow ? Qt::AlignLeft : Qt::Alignment());
+    auto *note = new QLabel(this);
+    note->setWordWrap(true);
+    note->setFocusPolicy(Qt::NoFocus);
+    QPalette notePalette = note->palette();
+    notePalette.setColor(QPalette::WindowText, noteColor(palette()));
+    note->setPalette(notePalette);
+    note->hide();
+    m_grid->addWidget(note, m_nextRow++, 1);
+    m_rows.insert(field, Row{label, note});
+    m_order.append(field);
+}
+
+void FieldForm::addSpacing()
+{
+    m_grid->setRowMinimumHeight(m_nextRow++, 10);
+}
+
+void FieldForm::addStretch()
+{
+    m_grid->setRowStretch(m_nextRow++, 1);
+}
+
+void FieldForm::setRowVisible(QWidget *field, bool visible)
+{
+    const Row row = m_rows.value(field);
+    field->setVisible(visible);
+    if (row.label) {
+        row.label->setVisible(visible);
+    }
+    if (row.note) {
+        row.note->setVisible(visible && !row.note->text().isEmpty());
+    }
+}
+
+bool FieldForm::check(QWidget *field, const QString &problem)
+{
+    const Row row = m_rows.value(field);
+    if (row.note) {
+        row.note->setText(problem);
+        row.note->setVisible(!problem.isEmpty());
+    }
+    return problem.isEmpty();
+}
+
+void FieldForm::clearNotes()
+{
+    for (QWidget *field : std::as_const(m_order)) {
+        check(field, QString());
+    }
+}
+
+QString FieldForm::note(const QWidget *field) const
+{
+    const Row row = m_rows.value(field);
+    return row.note ? row.note->text() : QString();
+}
+
+QWidget *FieldForm::firstWithNote() const
+{
+    for (QWidget *field : m_order) {
+        if (!note(field).isEmpty()) {
+            return field;
+        }
+    }
+    return nullptr;
+}

@@ -1,0 +1,41 @@
+#include "widgets/file_edit.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+
+FileEdit::FileEdit(const QString &title, const QString &filter, QWidget *parent)
+    : QWidget(parent), m_title(title), m_filter(filter), m_edit(new QLineEdit(this))
+{
+    auto *button = new QPushButton(tr("Browse..."), this);
+    button->setAutoDefault(false);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_edit, 1);
+    row->addWidget(button);
+    setFocusProxy(m_edit);
+    connect(button, &QPushButton::clicked, this, &FileEdit::browse);
+}
+
+QString FileEdit::path() const
+{
+    return QDir::fromNativeSeparators(m_edit->text().trimmed());
+}
+
+void FileEdit::setPath(const QString &path)
+{
+    m_edit->setText(QDir::toNativeSeparators(path));
+}
+
+void FileEdit::browse()
+{
+    const QString start = QDir(m_baseDir).absoluteFilePath(path());
+    const QString chosen = m_saving
+        ? QFileDialog::getSaveFileName(this, m_title, start, m_filter, nullptr, QFileDialog::DontConfirmOverwrite)
+        : QFileDialog::getOpenFileName(this, m_title, start, m_filter);
+    if (!chosen.isEmpty()) {
+        setPath(chosen);
+    }
+}

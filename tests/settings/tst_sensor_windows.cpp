@@ -1,0 +1,211 @@
+#include "sensors/sensor_manager.h"
+#include "settings/sensor_edit_window.h"
+#include "settings/sensor_form.h"
+#include "settings/sensor_manager_window.h"
+#include "test_program.h"
+#include "widgets/field_form.h"
+
+#include <QJsonDocument>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+class TestSensorWindows : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void editingKeepsEveryField();
+    void refusesInWords();
+    void renamingReplacesTheRecord();
+    void closingWithChangesAsks_data();
+    void closingWithChangesAsks();
+    void failuresNameFileAndReason();
+    void offersOnlyRadarsForInput();
+
+private:
+    void answer(QMessageBox::StandardButton button);
+
+    QTemporaryDir m_dir;
+    QString m_asked; // texts of the last message box
+};
+
+namespace {
+
+QSharedPointer<SensorInfo> makeSensor(const QString &json)
+{
+    const QString common = QStringLiteral(R"("location": "395427.35S0062317.08W", "sac": 200, "sic": 7,
+        "description": "On the hill", "manufacturer": "Korvane", "model": "K 2", "commission_year": 1998)");
+    return SensorInfo::create(QJsonDocument::fromJson(QStringLiteral("{%1, %2}").arg(json, common).toUtf8()).object());
+}
+
+QSharedPointer<SensorInfo> makeRadar(const QString &name)
+{
+    return makeSensor(QStringLiteral(R"("type": "radar", "name": "%1", "ssr": true)").arg(name));
+}
+
+template <typename Field>
+Field *field(const QWidget &window, const char *name)
+{
+    return window.findChild<Field *>(QString::fromLatin1(name));
+}
+
+} // namespace
+
+void TestSensorWindows::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+}
+
+void TestSensorWindows::init()
+{
+    m_asked.clear();
+}
+
+// Presses the button of the message box that comes up next.
+void TestSensorWindows::answer(QMessageBox::StandardButton button)
+{
+    QTimer::singleShot(0, this, [this, button] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        m_asked = box->text() + u'\n' + box->informativeText();
+        box->button(button)->click();
+    });
+}
+
+void TestSensorWindows::editingKeepsEveryField()
+{
+    for (const char *json : {R"("type": "radar", "name": "R", "antenna_altitude": -3, "rotation_period": 9.875,
+        "psr": true, "ssr": true, "modes": false, "psr_coverage": 61, "ssr_coverage": 251)",
+             R"("type": "radar", "name": "R", "psr": true)", R"("type": "mlat", "name": "M", "coverage": 31)",
+             R"("type": "adsb", "name": "A", "coverage": 190, "update_interval": 0.5, "versions": ["0", "DO-260B"])",
+             R"("type": "sdps", "name": "S", "coverage": 900, "update_interval": 4.0)",
+             R"("type": "smr", "name": "G", "antenna_altitude": 45, "rotation_period": 0.985, "coverage": 2.75,
+        "acp": 16384)"}) {
+        const QSharedPointer<SensorInfo> sensor = makeSensor(QString::fromLatin1(json));
+        SensorManager sensors;
+        sensors.addSensor(sensor);
+        SensorEditWindow window(sensor, &sensors);
+        window.accept();
+        QVERIFY(window.sensor() && window.sensor() != sensor);
+        QCOMPARE(window.sensor()->jsonObject(), sensor->jsonObject());
+    }
+}
+
+void TestSensorWindows::refusesInWords()
+{
+    struct Entry {
+        QString name;
+        QString location;
+        QString words;
+    };
+    const QString place = QStringLiteral("395427.35n1162317.08e"); // lower case is understood
+    const QString taken = QStringLiteral("Another sensor is named \"R1\".");
+    SensorManager sensors;
+    sensors.addSensor(makeRadar(QStringLiteral("R1")));
+    sensors.addSensor(makeRadar(QStringLiteral("Mine")));
+    for (const Entry &entry : {Entry{"R2", place, ""}, Entry{"Mine", place, ""}, Entry{"r1", place, ""},
+             Entry{"  ", place, "A sensor needs a name."}, Entry{" R1 ", place, taken},
+             Entry{"R2", "", "INVALID COORDINATE"}, Entry{"R2", "395427N1162317E", "INVALID COORDINATE"}}) {
+        SensorEditWindow window(sensors.findSensor(QStringLiteral("Mine")), &sensors);
+        field<QLineEdit>(window, "sensorName")->setText(entry.name);
+        field<QLineEdit>(window, "sensorLocation")->setText(entry.location);
+        window.accept();
+        QCOMPARE(window.sensor().isNull(), !entry.words.isEmpty());
+        auto *form = window.findChild<FieldForm *>();
+        QCOMPARE(form->firstWithNote() ? form->note(form->firstWithNote()) : QString(), entry.words);
+    }
+}
+
+void TestSensorWindows::renamingReplacesTheRecord()
+{
+    SensorManager sensors;
+    sensors.addSensor(makeRadar(QStringLiteral("R1")));
+    SensorManagerWindow window(&sensors, QString());
+    const QSignalSpy changes(&window, &SensorManagerWindow::sensorsChanged);
+    window.putSensor(makeRadar(QStringLiteral("R9")), QStringLiteral("R1"));
+    QCOMPARE(sensors.sensorNames(), QStringList{QStringLiteral("R9")});
+    QCOMPARE(window.selectedName(), QStringLiteral("R9"));
+    QCOMPARE(changes.size(), 1);
+    QVERIFY(window.hasUnsavedChanges());
+    QVERIFY(window.saveFile(m_dir.filePath(QStringLiteral("again.json"))));
+    QVERIFY(!window.hasUnsavedChanges());
+}
+
+void TestSensorWindows::closingWithChangesAsks_data()
+{
+    QTest::addColumn<QMessageBox::StandardButton>("button");
+    QTest::addColumn<bool>("closes");
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<int>("saved"); // records in the file
+    QTest::newRow("save") << QMessageBox::Save << true << QStringList{"R1", "R2"} << 2;
+    QTest::newRow("discard brings the old records back") << QMessageBox::Discard << true << QStringList{"R1"} << 1;
+    QTest::newRow("cancel stays open") << QMessageBox::Cancel << false << QStringList{"R1", "R2"} << 1;
+}
+
+void TestSensorWindows::closingWithChangesAsks()
+{
+    QFETCH(QMessageBox::StandardButton, button);
+    const QString file = m_dir.filePath(QStringLiteral("sensors.json"));
+    SensorManager sensors;
+    sensors.addSensor(makeRadar(QStringLiteral("R1")));
+    QVERIFY(sensors.saveToJsonFile(QFileInfo(file)));
+    SensorManagerWindow window(&sensors, file);
+    window.show();
+    window.putSensor(makeRadar(QStringLiteral("R2")));
+    answer(button);
+    window.close();
+    QVERIFY(!m_asked.isEmpty());
+    QTEST(!window.isVisible(), "closes");
+    QTEST(sensors.sensorNames(), "names");
+    SensorManager written;
+    QVERIFY(written.loadFromJsonFile(QFileInfo(file)));
+    QTEST(static_cast<int>(written.sensorNames().size()), "saved");
+}
+
+void TestSensorWindows::failuresNameFileAndReason()
+{
+    QFile text(m_dir.filePath(QStringLiteral("text.json")));
+    QVERIFY(text.open(QIODevice::WriteOnly));
+    text.write("{}");
+    text.close();
+    SensorManager sensors;
+    sensors.addSensor(makeRadar(QStringLiteral("R1")));
+    SensorManagerWindow window(&sensors, QString());
+    const QSignalSpy fileChanges(&window, &SensorManagerWindow::databaseFileChanged);
+    const auto explained = [&](const QString &file, bool (SensorManagerWindow::*access)(const QString &)) {
+        answer(QMessageBox::Ok);
+        const QString path = m_dir.filePath(file);
+        return (window.*access)(path) || !m_asked.contains(path) ? QString() : m_asked;
+    };
+    QVERIFY(explained("none.json", &SensorManagerWindow::openFile).contains("No such file"));
+    QVERIFY(explained("text.json", &SensorManagerWindow::openFile).contains("It is no JSON list of sensors."));
+    QVERIFY(explained("no/such/dir.json", &SensorManagerWindow::saveFile).contains("No such file"));
+    QCOMPARE(fileChanges.size(), 0);
+    QCOMPARE(sensors.sensorNames(), QStringList{QStringLiteral("R1")});
+}
+
+void TestSensorWindows::offersOnlyRadarsForInput()
+{
+    SensorManager sensors;
+    sensors.addSensor(makeRadar(QStringLiteral("R1")));
+    sensors.addSensor(makeSensor(QStringLiteral(R"("type": "mlat", "name": "M1")")));
+    SensorManagerWindow window(&sensors, QString());
+    const QSignalSpy chosen(&window, &SensorManagerWindow::sensorChosen);
+    auto *use = field<QAbstractButton>(window, "useButton");
+    window.selectSensor(QStringLiteral("M1"));
+    use->click();
+    QCOMPARE(chosen.size(), 0);
+    window.selectSensor(QStringLiteral("R1"));
+    use->click();
+    QCOMPARE(chosen.size(), 1);
+    QCOMPARE(chosen.first().first().value<QSharedPointer<SensorInfo>>()->name(), QStringLiteral("R1"));
+}
+
+VYX_TEST(TestSensorWindows)
+#include "tst_sensor_windows.moc"

@@ -1,0 +1,138 @@
+#include "window_fixture.h"
+
+#include "test_program.h"
+#include "vyxdisplay/demo_traffic.h"
+#include "vyxdisplay/exit_report.h"
+#include "vyxdisplay/termination_signals.h"
+
+#include <QFile>
+#include <QImage>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSignalSpy>
+
+#include <csignal>
+
+namespace {
+
+constexpr auto sensorAnswer = R"(if [ "$2" = --sensor-json ]; then
+  echo '{"type":"radar","name":"SHOW","sac":1,"sic":2,"location":"480000.00N0160000.00E"}'
+  exit 0
+fi
+)";
+
+} // namespace
+
+class TestRunEnds : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void demoNeedsAnAnswer();
+    void demoEndIsReported();
+    void demoTrafficEndsWithTheTerminal();
+    void reportIsWrittenAtTheEnd();
+    void signalsAskForTheEnd();
+
+private:
+    QString script(const QString &text);
+
+    QTemporaryDir m_directory;
+};
+
+QString TestRunEnds::script(const QString &text)
+{
+    QFile file(m_directory.filePath("generator"));
+    if (!file.open(QFile::WriteOnly | QFile::Truncate)) {
+        return {};
+    }
+    file.write("#!/bin/sh\n" + text.toUtf8());
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return file.fileName();
+}
+
+void TestRunEnds::demoNeedsAnAnswer()
+{
+    const QList<std::pair<const char *, const char *>> answers{{"", "was found neither"},
+        {"echo no such scenario >&2; exit 2", "no such scenario"}, {"exit 1", "does not answer"},
+        {"echo '{\"type\":\"kettle\"}'", "names no sensor"}, {"echo hello", "names no sensor"}};
+    for (const auto &[text, error] : answers) {
+        DemoTraffic demo({}, *text ? script(text) : QString());
+        QString reason;
+        QVERIFY2(!demo.prepare(&reason), text);
+        QVERIFY2(reason.contains(error) && !reason.contains('\n'), qPrintable(reason));
+    }
+}
+
+void TestRunEnds::demoEndIsReported()
+{
+    const QList<std::pair<QString, LogLevel>> endings{
+        {"exit 0", LogLevel::Info}, {"exit 3", LogLevel::Warning}, {"kill -9 $$", LogLevel::Warning}};
+    for (const auto &[ending, level] : endings) {
+        QFile arguments(m_directory.filePath("arguments"));
+        DemoTraffic demo("a scenario.json",
+            script(QString(sensorAnswer) + "echo \"$@\" > '" + arguments.fileName() + "'\n" + ending));
+        QString reason;
+        QVERIFY2(demo.prepare(&reason), qPrintable(reason));
+        Config config;
+        demo.applyTo(config);
+        QCOMPARE(config.sensorName, "SHOW");
+        QVERIFY(!config.inputUdpMulticast1);
+
+        QSignalSpy messages(&demo, &DemoTraffic::message);
+        demo.start();
+        QTRY_COMPARE(messages.size(), 1);
+        QCOMPARE(messages[0][0].value<LogLevel>(), level);
+        QVERIFY(arguments.open(QFile::ReadOnly));
+        QCOMPARE(QString::fromUtf8(arguments.readAll()).trimmed(),
+            QString("a scenario.json --with-parent --to udp:127.0.0.1:%1").arg(config.inputUdpPort1));
+    }
+}
+
+void TestRunEnds::demoTrafficEndsWithTheTerminal()
+{
+    const QString pidFile = m_directory.filePath("pid");
+    auto demo = std::make_unique<DemoTraffic>(
+        QString(), script(QString(sensorAnswer) + "echo $$ > '" + pidFile + "'\nexec sleep 60"));
+    QString reason;
+    QVERIFY2(demo->prepare(&reason), qPrintable(reason));
+    demo->start();
+    QFile file(pidFile);
+    QTRY_VERIFY(QFileInfo(pidFile).size() > 0);
+    QVERIFY(file.open(QFile::ReadOnly));
+    const pid_t child = file.readAll().trimmed().toInt();
+    QCOMPARE(kill(child, 0), 0);
+    demo.reset();
+    QCOMPARE(kill(child, 0), -1);
+}
+
+void TestRunEnds::reportIsWrittenAtTheEnd()
+{
+    WindowFixture fixture;
+    const auto window = fixture.makeWindow();
+    QVERIFY(fixture.openInput(*window));
+    QTRY_VERIFY((window->pullSlots(), window->newestSnapshot()));
+    const QString screenshot = m_directory.filePath("window.png");
+    const QString snapshot = m_directory.filePath("snapshot.json");
+    const ExitReport report(window.get(), screenshot, snapshot);
+    const ExitReport unwritable(window.get(), {}, m_directory.filePath("missing/snapshot.json"));
+    QVERIFY(fixture.close(*window));
+    QVERIFY(report.succeeded());
+    QVERIFY(!unwritable.succeeded());
+    QCOMPARE(QImage(screenshot).size(), window->size());
+    QFile file(snapshot);
+    QVERIFY(file.open(QFile::ReadOnly));
+    QVERIFY(QJsonDocument::fromJson(file.readAll()).object()["tracks"].isArray());
+}
+
+void TestRunEnds::signalsAskForTheEnd()
+{
+    for (const int number : {SIGINT, SIGTERM}) {
+        const TerminationSignals termination;
+        QSignalSpy requested(&termination, &TerminationSignals::requested);
+        raise(number);
+        QTRY_COMPARE(requested.size(), 1);
+    }
+}
+
+VYX_TEST(TestRunEnds)
+#include "tst_run_ends.moc"
