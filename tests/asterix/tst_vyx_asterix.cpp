@@ -1,8 +1,10 @@
+#include "adsb_blocks.h"
 #include "astfile/pcap_writer.h"
 #include "octets.h"
 #include "test_program.h"
 #include "vyx-asterix/command_line.h"
 #include "vyx-asterix/encode_command.h"
+#include "vyx-asterix/input_file.h"
 #include "vyx-asterix/stat_command.h"
 
 #include <QFile>
@@ -168,6 +170,88 @@ private Q_SLOTS:
             }
         }
         QTEST(printed, "printed");
+    }
+
+    // Files are larger than memory: pieces of them must give what the whole would.
+    void readsLargeFilesInPieces()
+    {
+        QByteArray contents;
+        int blocks = 0;
+        for (; contents.size() < 3000000; ++blocks) {
+            const int items = blocks % 300; // so that pieces end at every place of a block
+            contents += QByteArray::fromHex("30") + char((3 + 3 * items) >> 8) + char((3 + 3 * items) & 255)
+                + QByteArray::fromHex("8019C9").repeated(items);
+        }
+        const qsizetype good = contents.size();
+        contents += brokenBlock + plotBlock + QByteArray::fromHex("300000") + plotBlock;
+        const QString fileName = write(contents);
+
+        std::string error;
+        std::size_t most = 0;
+        const auto measure = [&most](const InputMessage &message) {
+            most = std::max(most, message.size);
+            return true;
+        };
+        QVERIFY(readInputFile(fileName.toStdString(), measure, error));
+        QVERIFY2(most < 1000000, qPrintable(QString::number(most)));
+
+        const Outcome outcome = run(runDecode, fileName);
+        const QString place = fileName + ": octet %1: CAT048: %2";
+        QCOMPARE(outcome.err,
+            (QStringList{place.arg(good + 9).arg("item runs past the end of the block"),
+                place.arg(good + 16).arg("block length is zero")}));
+        const QByteArrayList lines = outcome.out.trimmed().split('\n');
+        const QJsonObject last = QJsonDocument::fromJson(lines.back()).object();
+        QCOMPARE(last["block"].toInt(), blocks + 2);
+        QCOMPARE(last["offset"].toInt(), static_cast<int>(good) + 12);
+        const Outcome encoded = run(runEncode, write(lines.mid(0, lines.size() - 2).join('\n')));
+        QCOMPARE(encoded.status, 0);
+        QCOMPARE(encoded.out.count("\x19\xC9"), lines.size() - 2);
+    }
+
+    void refusesLinesThatFitNoRecord()
+    {
+        const QByteArray good = R"({"cat":34,"block":1,"items":{"000":1}})"
+                                "\n";
+        const QString fileName = write(good + QByteArray(9000000, 'x') + '\n' + good);
+        const Outcome outcome = run(runEncode, fileName);
+        QCOMPARE(outcome.status, 1);
+        QCOMPARE(outcome.err, QStringList{fileName + ": line 2: the line is too long for a record"});
+        QCOMPARE(outcome.out.toHex(), QByteArray("22000740014001"));
+    }
+
+    void choosesTheEditionOfAdsbReports_data()
+    {
+        QTest::addColumn<QByteArray>("edition");
+        QTest::addColumn<bool>("isNamed");
+        QTest::newRow("0.23 by its contents") << QByteArray("0.23") << false;
+        QTest::newRow("0.26 by its contents") << QByteArray("0.26") << false;
+        QTest::newRow("2.7 by its contents") << QByteArray("2.7") << false;
+        QTest::newRow("0.26 by name") << QByteArray("0.26") << true;
+    }
+
+    void choosesTheEditionOfAdsbReports()
+    {
+        QFETCH(QByteArray, edition);
+        QFETCH(bool, isNamed);
+        AdsbBlocks maker(edition.constData(), 7);
+        QByteArray contents = plotBlock;
+        for (int i = 0; i < 20; ++i) {
+            const auto block = maker.makeBlock(5).block();
+            contents.append(reinterpret_cast<const char *>(block.data()), static_cast<int>(block.size()));
+        }
+        const std::vector<std::pair<int, std::string>> named = {{21, edition.toStdString()}};
+        const QString fileName = write(contents);
+        const Outcome expected = run(runDecode, fileName, named);
+        QVERIFY(expected.err.isEmpty());
+        const auto editions = isNamed ? named : decltype(named){{48, "1.32"}};
+        for (const auto command : {runDecode, runStat}) {
+            const Outcome outcome = run(command, fileName, editions);
+            QCOMPARE(outcome.status, 0);
+            QCOMPARE(outcome.err.size(), isNamed ? 0 : 1);
+            QVERIFY(isNamed || outcome.err[0].contains("20 of CAT021 read as edition " + edition + ','));
+        }
+        QCOMPARE(run(runDecode, fileName, editions).out, expected.out);
     }
 
     void reportsUnreadableFile()

@@ -7,6 +7,9 @@ using korvane::asterix::errorText;
 
 namespace {
 
+// Its editions differ in layout, and nothing in a block names the edition.
+constexpr int ChosenCategory = 21;
+
 std::string categoryName(std::uint32_t category)
 {
     char text[8];
@@ -15,9 +18,13 @@ std::string categoryName(std::uint32_t category)
 
 } // namespace
 
-BlockReader::BlockReader(std::string fileName, const _ast_uap_t *uap, BlockHandler onBlock, FaultHandler onFault)
-    : m_fileName(std::move(fileName)), m_uap(uap), m_onBlock(std::move(onBlock)), m_onFault(std::move(onFault))
+BlockReader::BlockReader(const CommandLine &command, BlockHandler onBlock, LineHandler onLine)
+    : m_fileName(command.fileName), m_onBlock(std::move(onBlock)), m_onLine(std::move(onLine))
 {
+    for (const auto &[category, edition] : command.editions) {
+        m_profile.select(category, edition);
+        m_isChoosingEdition = m_isChoosingEdition && category != ChosenCategory;
+    }
 }
 
 void BlockReader::read(const InputMessage &message)
@@ -25,8 +32,7 @@ void BlockReader::read(const InputMessage &message)
     const bool isDatagram = message.number > 0;
     std::size_t offset = 0;
     while (offset < message.size) {
-        const bool isWhole =
-            ast_datablock_decode(&m_block, message.data + offset, message.size - offset, m_uap) && m_block.size > 0;
+        const bool isWhole = decode(message.data + offset, message.size - offset) && m_block.size > 0;
         if (!isWhole && isDatagram && isTrailer(message, offset)) {
             ++m_trailers;
             return;
@@ -35,12 +41,7 @@ void BlockReader::read(const InputMessage &message)
             fault(message, offset);
             return; // without its length field there is no way to the next block
         }
-        ++m_number;
-        if (m_block.error == Error::UnknownCategory) {
-            ++m_unknown[m_block.category];
-        } else {
-            m_onBlock({m_block, message, offset, m_number});
-        }
+        deliver(message);
         const bool isMalformed = !m_block.valid && m_block.error != Error::UnknownCategory;
         if (isMalformed) {
             fault(message, offset);
@@ -50,6 +51,27 @@ void BlockReader::read(const InputMessage &message)
         }
         offset += m_block.size;
     }
+}
+
+bool BlockReader::decode(const unsigned char *data, std::size_t length)
+{
+    if (m_isChoosingEdition && data[0] == ChosenCategory) {
+        return ast_datablock_smart_decode(&m_block, data, length);
+    }
+    return ast_datablock_decode(&m_block, data, length, m_profile.uap());
+}
+
+void BlockReader::deliver(const InputMessage &message)
+{
+    ++m_number;
+    if (m_block.error == Error::UnknownCategory) {
+        ++m_unknown[m_block.category];
+        return;
+    }
+    if (m_isChoosingEdition && m_block.category == ChosenCategory && !m_block.records.empty()) {
+        ++m_chosen[korvane::asterix::editionOf(m_block.records.front())];
+    }
+    m_onBlock({m_block, message, m_number});
 }
 
 // Recorders put octets of their own after the last block. What could be the beginning of a block of a known category
@@ -64,7 +86,7 @@ bool BlockReader::isTrailer(const InputMessage &message, std::size_t offset) con
     }
     const unsigned char empty[] = {message.data[offset], 0, 3};
     _ast_datablock_t probe;
-    return !ast_datablock_decode(&probe, empty, sizeof empty, m_uap) || probe.error == Error::UnknownCategory;
+    return !ast_datablock_decode(&probe, empty, sizeof empty, m_profile.uap()) || probe.error == Error::UnknownCategory;
 }
 
 void BlockReader::fault(const InputMessage &message, std::size_t offset)
@@ -74,17 +96,21 @@ void BlockReader::fault(const InputMessage &message, std::size_t offset)
     if (message.number > 0) {
         place += "datagram " + std::to_string(message.number) + ", ";
     }
-    m_onFault(place + "octet " + std::to_string(offset + m_block.errorOffset) + ": " + categoryName(m_block.category)
-        + ": " + errorText(m_block.error));
+    m_onLine(place + "octet " + std::to_string(message.offset + offset + m_block.errorOffset) + ": "
+        + categoryName(m_block.category) + ": " + errorText(m_block.error));
 }
 
-void BlockReader::reportPassedOver()
+void BlockReader::reportAtEnd()
 {
+    for (const auto &[edition, count] : m_chosen) {
+        m_onLine(m_fileName + ": " + std::to_string(count) + " of " + categoryName(ChosenCategory) + " read as edition "
+            + std::string(edition) + ", which suits them best; --uap 21=EDITION names one");
+    }
     for (const auto &[category, count] : m_unknown) {
-        m_onFault(m_fileName + ": " + std::to_string(count) + " of " + categoryName(category)
+        m_onLine(m_fileName + ": " + std::to_string(count) + " of " + categoryName(category)
             + " passed over: " + errorText(Error::UnknownCategory));
     }
     if (m_trailers > 0) {
-        m_onFault(m_fileName + ": " + std::to_string(m_trailers) + " datagrams end in octets that are no data block");
+        m_onLine(m_fileName + ": " + std::to_string(m_trailers) + " datagrams end in octets that are no data block");
     }
 }

@@ -119,7 +119,9 @@ const char *CommandLine::helpText()
   vyx-asterix --help | --version
 
 FILE holds data blocks back to back, or is a network capture, which its first octets tell; "-" is standard input for
-encode. --uap decodes a category with another edition of its document than the standard one; it may be repeated.
+decode and encode. --uap names the edition of a category's document where it is not the standard one; it may be
+repeated. decode and stat choose the edition of CAT021 by its contents where --uap names none, and say on standard error
+which they took; name it to encode such lines again.
 
 A malformed block gives one line on standard error and is not decoded beyond the fault; of a datagram the rest is
 passed over, in a file of blocks the next block is found by the length field. Categories without a table are passed

@@ -1,7 +1,6 @@
 #include "vyx-asterix/decode_command.h"
 
 #include "asterix/json_writer.h"
-#include "asterix/profile.h"
 #include "vyx-asterix/block_reader.h"
 
 namespace {
@@ -27,7 +26,7 @@ public:
         place.hasTime = block.message.hasTime && block.message.timeMilliseconds >= 0;
         place.timeMilliseconds = block.message.timeMilliseconds;
         for (const _ast_datarecord_t &record : block.decoded.records) {
-            place.offset = static_cast<std::uint64_t>(record.data - block.message.data);
+            place.offset = block.message.offset + static_cast<std::uint64_t>(record.data - block.message.data);
             appendRecordJson(m_text, record, place, m_expansion);
             if (m_text.size() >= FlushSize) {
                 flush();
@@ -52,13 +51,9 @@ private:
 
 int runDecode(const CommandLine &command, const TextSink &out, const LineSink &err)
 {
-    korvane::asterix::Profile profile;
-    for (const auto &[category, edition] : command.editions) {
-        profile.select(category, edition);
-    }
     RecordPrinter printer(out, command.isExpanding ? Expansion::AsObject : Expansion::AsHexText);
     BlockReader reader(
-        command.fileName, profile.uap(), [&](const BlockReader::Block &block) { printer.print(block); }, err);
+        command, [&](const BlockReader::Block &block) { printer.print(block); }, err);
     std::string error;
     const auto read = [&](const InputMessage &message) {
         reader.read(message);
@@ -69,6 +64,6 @@ int runDecode(const CommandLine &command, const TextSink &out, const LineSink &e
     if (!isRead) {
         err(error);
     }
-    reader.reportPassedOver();
+    reader.reportAtEnd();
     return isRead && printer.isOpen() && reader.faults() == 0 ? 0 : 1;
 }

@@ -1,62 +1,67 @@
 #include "vyx-asterix/input_file.h"
 
 #include "astfile/file_reader.h"
+#include "vyx-asterix/octet_stream.h"
 
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
-#include <unistd.h>
+#include <algorithm>
 
 namespace {
 
 using korvane::astfile::DataPacket;
 using korvane::astfile::FileReader;
 using korvane::astfile::RecFile;
+using Octets = std::span<const unsigned char>;
+using MessageHandler = std::function<bool(const InputMessage &)>;
 
-// Reads a descriptor up to its end, beginning with what contents holds already.
-bool readToEnd(int descriptor, std::string &contents)
+constexpr std::size_t BlockHeaderSize = 3;
+constexpr std::size_t StreamRoom = 1U << 19; // several of the largest blocks
+constexpr std::size_t MagicSize = 4;
+
+bool startsWith(Octets octets, std::string_view magic)
 {
-    std::size_t size = 0;
-    for (;;) {
-        contents.resize(std::max<std::size_t>(size * 2, 1U << 20));
-        const ssize_t got = ::read(descriptor, contents.data() + size, contents.size() - size);
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
-        if (got <= 0) {
-            contents.resize(size);
-            return got == 0;
-        }
-        size += static_cast<std::size_t>(got);
-    }
+    const auto isEqual = [](unsigned char octet, char wanted) { return octet == static_cast<unsigned char>(wanted); };
+    return octets.size() >= magic.size()
+        && std::equal(
+            octets.begin(), octets.begin() + static_cast<std::ptrdiff_t>(magic.size()), magic.begin(), isEqual);
 }
 
 // The magic numbers of network captures: micro- and nanoseconds in both octet orders, and the next generation's.
-RecFile::Format captureFormat(const std::string &contents)
+RecFile::Format captureFormat(Octets beginning)
 {
-    constexpr const char *magics[] = {"\xA1\xB2\xC3\xD4", "\xD4\xC3\xB2\xA1", "\xA1\xB2\x3C\x4D", "\x4D\x3C\xB2\xA1"};
-    for (const char *magic : magics) {
-        if (contents.compare(0, 4, magic) == 0) {
+    for (const char *magic : {"\xA1\xB2\xC3\xD4", "\xD4\xC3\xB2\xA1", "\xA1\xB2\x3C\x4D", "\x4D\x3C\xB2\xA1"}) {
+        if (startsWith(beginning, magic)) {
             return RecFile::Pcap;
         }
     }
-    return contents.compare(0, 4, "\x0A\x0D\x0D\x0A") == 0 ? RecFile::PcapNg : RecFile::Unknown;
+    return startsWith(beginning, "\x0A\x0D\x0D\x0A") ? RecFile::PcapNg : RecFile::Unknown;
 }
 
 // Captures are known by their contents, other recordings by their names. Unknown: a file of blocks.
-RecFile::Format recordingFormat(const std::string &fileName, const std::string &contents)
+RecFile::Format recordingFormat(const std::string &fileName, Octets beginning)
 {
-    const RecFile::Format byContents = captureFormat(contents);
+    const RecFile::Format byContents = captureFormat(beginning);
     if (byContents != RecFile::Unknown) {
         return byContents;
     }
     const RecFile::Format byName = RecFile::formatFromFileName(QString::fromStdString(fileName));
-    const bool isPacked = contents.compare(0, 2, "\x1F\x8B") == 0;
+    const bool isPacked = startsWith(beginning, "\x1F\x8B");
     return byName == RecFile::FinalFormat || byName == RecFile::Gps || isPacked ? byName : RecFile::Unknown;
 }
 
-bool readRecording(const std::string &fileName, RecFile::Format format,
-    const std::function<bool(const InputMessage &)> &handler, std::string &error)
+void setMessage(InputMessage &message, const DataPacket &packet, bool isFileOfBlocks)
+{
+    message.offset += isFileOfBlocks ? message.size : 0;
+    message.data = reinterpret_cast<const unsigned char *>(packet.data.constData());
+    message.size = static_cast<std::size_t>(packet.data.size());
+    if (!isFileOfBlocks) {
+        ++message.number;
+        message.hasTime = packet.timeStamp.isValid();
+        message.timeMilliseconds = message.hasTime ? packet.timeStamp.toMSecsSinceEpoch() : 0;
+    }
+}
+
+bool readRecording(
+    const std::string &fileName, RecFile::Format format, const MessageHandler &handler, std::string &error)
 {
     QString reason;
     const std::unique_ptr<FileReader> reader = FileReader::create(format, &reason);
@@ -67,11 +72,7 @@ bool readRecording(const std::string &fileName, RecFile::Format format,
     DataPacket packet;
     InputMessage message;
     for (reader->read(&packet); packet.kind == DataPacket::Data; reader->read(&packet)) {
-        message.data = reinterpret_cast<const unsigned char *>(packet.data.constData());
-        message.size = static_cast<std::size_t>(packet.data.size());
-        ++message.number;
-        message.hasTime = packet.timeStamp.isValid();
-        message.timeMilliseconds = message.hasTime ? packet.timeStamp.toMSecsSinceEpoch() : 0;
+        setMessage(message, packet, format == RecFile::RawAsterix);
         if (!handler(message)) {
             return true;
         }
@@ -82,45 +83,64 @@ bool readRecording(const std::string &fileName, RecFile::Format format,
     return packet.kind == DataPacket::End;
 }
 
-} // namespace
+struct WholeBlocks {
+    std::size_t size = 0; // octets
+    bool isBroken = false; // behind them is a length field that cannot be right: there is no way on
+};
 
-bool readWholeFile(const std::string &fileName, std::string &contents, std::string &error)
+WholeBlocks wholeBlocks(Octets octets)
 {
-    const int descriptor = fileName == "-" ? ::dup(STDIN_FILENO) : ::open(fileName.c_str(), O_RDONLY | O_CLOEXEC);
-    const bool isRead = descriptor >= 0 && readToEnd(descriptor, contents);
-    if (!isRead) {
-        error = fileName + ": " + std::strerror(errno);
+    WholeBlocks blocks;
+    while (octets.size() - blocks.size >= BlockHeaderSize) {
+        const unsigned char *const header = octets.data() + blocks.size;
+        const std::size_t length = static_cast<std::size_t>(header[1] << 8 | header[2]);
+        blocks.isBroken = length < BlockHeaderSize;
+        if (blocks.isBroken || length > octets.size() - blocks.size) {
+            break;
+        }
+        blocks.size += length;
     }
-    if (descriptor >= 0) {
-        ::close(descriptor);
-    }
-    return isRead;
+    return blocks;
 }
 
-bool readInputFile(
-    const std::string &fileName, const std::function<bool(const InputMessage &)> &handler, std::string &error)
+bool readBlocks(OctetStream &stream, const MessageHandler &handler)
 {
-    std::string contents;
-    if (!readWholeFile(fileName, contents, error)) {
-        return false;
-    }
-    const RecFile::Format format = recordingFormat(fileName, contents);
-    if (format == RecFile::RawAsterix) {
-        contents.clear();
-        const auto append = [&contents](const InputMessage &block) {
-            contents.append(reinterpret_cast<const char *>(block.data), block.size);
-            return true;
-        };
-        if (!readRecording(fileName, format, append, error)) {
+    for (bool isLast = false; !isLast;) {
+        const WholeBlocks blocks = wholeBlocks(stream.pending());
+        if (blocks.size == 0 && !blocks.isBroken && stream.fill()) {
+            continue;
+        }
+        if (!stream.error().empty()) {
             return false;
         }
-    } else if (format != RecFile::Unknown) {
-        contents = {};
+        isLast = blocks.size == 0 || blocks.isBroken;
+        InputMessage message;
+        message.data = stream.pending().data();
+        message.size = isLast ? stream.pending().size() : blocks.size;
+        message.offset = stream.offset();
+        if (!handler(message)) {
+            return true;
+        }
+        stream.consume(message.size);
+    }
+    return true;
+}
+
+} // namespace
+
+bool readInputFile(const std::string &fileName, const MessageHandler &handler, std::string &error)
+{
+    OctetStream stream(StreamRoom);
+    if (!stream.open(fileName)) {
+        error = stream.error();
+        return false;
+    }
+    while (stream.pending().size() < MagicSize && stream.fill()) { }
+    const RecFile::Format format = recordingFormat(fileName, stream.pending());
+    if (format != RecFile::Unknown) {
         return readRecording(fileName, format, handler, error);
     }
-    InputMessage message;
-    message.data = reinterpret_cast<const unsigned char *>(contents.data());
-    message.size = contents.size();
-    handler(message);
-    return true;
+    const bool isRead = readBlocks(stream, handler);
+    error = stream.error();
+    return isRead;
 }

@@ -1,6 +1,5 @@
 #include "vyx-asterix/stat_command.h"
 
-#include "asterix/profile.h"
 #include "vyx-asterix/block_reader.h"
 
 #include <cstdio>
@@ -124,13 +123,9 @@ private:
 
 int runStat(const CommandLine &command, const TextSink &out, const LineSink &err)
 {
-    korvane::asterix::Profile profile;
-    for (const auto &[category, edition] : command.editions) {
-        profile.select(category, edition);
-    }
     Statistics statistics;
     BlockReader reader(
-        command.fileName, profile.uap(), [&](const BlockReader::Block &block) { statistics.add(block); }, err);
+        command, [&](const BlockReader::Block &block) { statistics.add(block); }, err);
     std::string error;
     const auto read = [&](const InputMessage &message) {
         reader.read(message);
@@ -140,7 +135,7 @@ int runStat(const CommandLine &command, const TextSink &out, const LineSink &err
     if (!isRead) {
         err(error);
     }
-    reader.reportPassedOver();
+    reader.reportAtEnd();
     const bool isWritten = out(statistics.text());
     return isRead && isWritten && reader.faults() == 0 ? 0 : 1;
 }

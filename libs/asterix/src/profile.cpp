@@ -63,6 +63,11 @@ std::vector<EditionName> editions()
     return names;
 }
 
+std::string_view editionOf(const _ast_datarecord_t &record)
+{
+    return record.uap ? record.uap->layout->edition().edition : std::string_view();
+}
+
 Profile::Profile() : m_uap(std::make_unique<_ast_uap_t>(standardProfile())) { }
 
 Profile::~Profile() = default;

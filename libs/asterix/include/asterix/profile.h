@@ -19,6 +19,9 @@ struct EditionName {
 // All tables; of several editions of a category the standard one comes first.
 std::vector<EditionName> editions();
 
+// The edition of the table that decoded the record, such as "2.7"; never invalid. Empty for a record of no table.
+std::string_view editionOf(const _ast_datarecord_t &record);
+
 // A user application profile of one's own: the standard tables, some of them exchanged. Keep it for as long as blocks
 // are decoded with it; the records that it decoded may outlive it.
 class Profile {
