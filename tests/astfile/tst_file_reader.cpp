@@ -117,6 +117,42 @@ private Q_SLOTS:
         QVERIFY2(reader->lastError().contains("IEEE802_11"), qPrintable(reader->lastError()));
         QCOMPARE(readAll(*reader), QStringList("end"));
     }
+
+    // Megabytes in which there is nothing to give: who waits for a packet must be able to stop waiting.
+    void readingIsCancelledByOctets()
+    {
+        constexpr int Megabytes = 4;
+        QByteArray frames = capture();
+        // The first record's header, and a frame of its length that is no IP.
+        const QByteArray stray = frames.mid(24, 16) + QByteArray(frames.at(24 + 8), '\0');
+        while (frames.size() < Megabytes << 20) {
+            frames += stray;
+        }
+        const std::pair<QString, QByteArray> rows[]{
+            {"strays.pcap", frames}, {"noise.modes", QByteArray(Megabytes << 20, '\x7f')}};
+        for (const auto &[name, octets] : rows) {
+            int asked = 0;
+            bool cancelled = false;
+            const RecFile::Format format = RecFile::formatFromFileName(name);
+            const auto reader = FileReader::create(format);
+            reader->setCancel([&] { return ++asked > 0 && cancelled; });
+            QVERIFY(reader->open(write(name, octets), format));
+            const QStringList whole = readAll(*reader);
+            QVERIFY2(asked >= 2 * Megabytes, qPrintable(name));
+            QCOMPARE(whole.last(), QStringLiteral("end"));
+
+            QVERIFY(reader->reset());
+            cancelled = true;
+            const QStringList steps = readAll(*reader);
+            QVERIFY2(steps.filter("error@").size() == 1, qPrintable(name));
+            QVERIFY(reader->octetsRead() < 1 << 20);
+            QVERIFY(!reader->seek(QDateTime::currentDateTimeUtc()));
+            QCOMPARE(reader->lastError(), QStringLiteral("Reading was cancelled."));
+            cancelled = false;
+            QVERIFY(reader->reset());
+            QCOMPARE(readAll(*reader), whole);
+        }
+    }
 };
 
 VYX_TEST(TestFileReader)

@@ -32,7 +32,7 @@ bool CaptureReader::openFile(const QString &fileName, RecFile::Format format)
     if (format != RecFile::Pcap && format != RecFile::PcapNg) {
         return fail(tr("This reader reads network captures only."));
     }
-    auto source = OctetSource::open(fileName, &m_lastError);
+    auto source = openSource(fileName);
     if (!source) {
         return false;
     }

@@ -139,6 +139,11 @@ qint64 FileReader::octetsTotal() const
     return m_open ? source()->octetsTotal() : 0;
 }
 
+std::unique_ptr<OctetSource> FileReader::openSource(const QString &fileName)
+{
+    return OctetSource::open(fileName, m_cancel, &m_lastError);
+}
+
 bool FileReader::fail(const QString &reason)
 {
     m_lastError = reason;

@@ -2,6 +2,7 @@
 
 #include "gzip_source.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace korvane::astfile {
@@ -18,17 +19,21 @@ public:
 
 } // namespace
 
-std::unique_ptr<OctetSource> OctetSource::open(const QString &fileName, QString *error)
+std::unique_ptr<OctetSource> OctetSource::open(const QString &fileName, const Cancel &cancel, QString *error)
 {
     auto file = std::make_unique<QFile>(fileName);
     if (!file->open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         *error = file->errorString();
         return nullptr;
     }
+    std::unique_ptr<OctetSource> source;
     if (GzipSource::recognises(file->peek(GzipSource::HeaderSize))) {
-        return std::make_unique<GzipSource>(std::move(file));
+        source = std::make_unique<GzipSource>(std::move(file));
+    } else {
+        source = std::make_unique<PlainSource>(std::move(file));
     }
-    return std::make_unique<PlainSource>(std::move(file));
+    source->m_cancel = cancel;
+    return source;
 }
 
 OctetSource::OctetSource(std::unique_ptr<QFile> file)
@@ -49,6 +54,10 @@ bool OctetSource::seekFile(qint64 offset)
 
 qint64 OctetSource::readFile(std::span<unsigned char> room)
 {
+    if (m_cancel && m_cancel()) {
+        m_error = QCoreApplication::translate("OctetSource", "Reading was cancelled.");
+        return -1;
+    }
     const qint64 got = m_file->read(reinterpret_cast<char *>(room.data()), static_cast<qint64>(room.size()));
     if (got < 0) {
         m_error = m_file->errorString();

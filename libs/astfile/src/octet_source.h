@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <span>
 
@@ -14,8 +15,11 @@ struct SeekMarks;
 // A file's contents from any offset on; those of files packed by gzip are unpacked.
 class OctetSource {
 public:
+    // Asked before each read from the disk, of a few hundred KiB at the most: true fails that read and all that follow.
+    using Cancel = std::function<bool()>;
+
     // Null, with error set, when the file cannot be opened.
-    static std::unique_ptr<OctetSource> open(const QString &fileName, QString *error);
+    static std::unique_ptr<OctetSource> open(const QString &fileName, const Cancel &cancel, QString *error);
 
     OctetSource(const OctetSource &) = delete;
     OctetSource &operator=(const OctetSource &) = delete;
@@ -52,6 +56,9 @@ protected:
     qint64 m_octetsRead = 0; // position in the file
     qint64 m_octetsTotal = 0;
     QString m_error;
+
+private:
+    Cancel m_cancel;
 };
 
 } // namespace korvane::astfile

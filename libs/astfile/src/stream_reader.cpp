@@ -14,7 +14,7 @@ bool StreamReader::openFile(const QString &fileName, RecFile::Format format)
     if (!m_framing) {
         return fail(QCoreApplication::translate("StreamReader", "This reader reads no network captures."));
     }
-    auto source = OctetSource::open(fileName, &m_lastError);
+    auto source = openSource(fileName);
     if (!source) {
         return false;
     }

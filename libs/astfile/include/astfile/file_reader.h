@@ -4,6 +4,7 @@
 #include "astfile/rec_file.h"
 #include "astfile/recording_index.h"
 
+#include <functional>
 #include <memory>
 
 namespace korvane::astfile {
@@ -21,6 +22,11 @@ public:
 
     // Null when the format is none that can be read; error, when given, then says why.
     static std::unique_ptr<FileReader> create(const RecFile::Format &format, QString *error = nullptr);
+
+    // Asked on the reading thread each time that a few hundred KiB more are to be taken from the disk, however few
+    // packets these hold: true ends open(), reset(), seek() or read() there, as a fault of the disk would. Holds from
+    // the next open() on.
+    void setCancel(std::function<bool()> cancel) { m_cancel = std::move(cancel); }
 
     // Closes the file read so far and opens another, in the format of create(); the two capture formats stand for each
     // other, since a capture is recognised by its contents. False, with lastError() set, when that fails.
@@ -66,6 +72,8 @@ protected:
     // The open file; null while closed.
     virtual OctetSource *source() const = 0;
 
+    // Null, with lastError() set, when the file cannot be opened.
+    std::unique_ptr<OctetSource> openSource(const QString &fileName);
     // Keeps the reason for lastError() and returns false.
     bool fail(const QString &reason);
     void setEnd(DataPacket *packet) const;
@@ -78,6 +86,7 @@ private:
 
     bool positionBefore(qint64 timeMs);
 
+    std::function<bool()> m_cancel; // null: never
     RecordingIndex m_index;
     DataPacket m_held; // found by seek(), given by the next read()
     bool m_isHeld = false;
