@@ -45,11 +45,20 @@ AlertSnapshot snapshotOf(const Alert &alert)
 
 } // namespace
 
-AlertManager::AlertManager(QObject *parent)
-    : QObject(parent), m_lifeTimer(this), m_clock(&QDateTime::currentDateTimeUtc)
+AlertManager::AlertManager(QObject *parent) : QObject(parent), m_lifeTimer(this)
 {
     connect(&m_lifeTimer, &QTimer::timeout, this, &AlertManager::checkLife);
-    m_lifeTimer.start(1000);
+    m_lifeTimer.setInterval(1000);
+    setTimedAgeing(true);
+}
+
+void AlertManager::setTimedAgeing(bool on)
+{
+    if (on) {
+        m_lifeTimer.start();
+    } else {
+        m_lifeTimer.stop();
+    }
 }
 
 QSharedPointer<Alert> AlertManager::createAlert(unsigned int id)

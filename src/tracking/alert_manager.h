@@ -37,8 +37,11 @@ public:
     QList<AlertSnapshot> snapshotAlerts() const;
 
     // The UTC time by which alerts age.
-    QDateTime now() const { return m_clock(); }
-    void setClock(Clock clock) { m_clock = std::move(clock); }
+    QDateTime now() const { return m_clock->now(); }
+    void setClock(SharedClock clock) { m_clock = std::move(clock); }
+
+    // Off, for whoever calls checkLife() in another rhythm than the timer's second; on at first.
+    void setTimedAgeing(bool on);
 
 public Q_SLOTS:
     // Ends alerts that are no longer refreshed and removes those that ended long enough ago.
@@ -50,7 +53,7 @@ private:
     QTimer m_lifeTimer;
     unsigned int m_activeLifeSpan = 8000;
     unsigned int m_endLifeSpan = 8000;
-    Clock m_clock;
+    SharedClock m_clock = std::make_shared<Clock>(); // the system's until another is set
 };
 
 // How an alert calls one of its tracks: by call sign, Mode A code ("A7500") or track number ("#0042") of the local

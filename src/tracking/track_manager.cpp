@@ -59,11 +59,20 @@ QList<QPointF> trailOf(const std::deque<TrackHistoryElement> &history, int trail
 
 } // namespace
 
-TrackManager::TrackManager(QObject *parent)
-    : QObject(parent), m_lifeTimer(this), m_clock(&QDateTime::currentDateTimeUtc)
+TrackManager::TrackManager(QObject *parent) : QObject(parent), m_lifeTimer(this)
 {
     connect(&m_lifeTimer, &QTimer::timeout, this, &TrackManager::checkLife);
-    m_lifeTimer.start(1000);
+    m_lifeTimer.setInterval(1000);
+    setTimedAgeing(true);
+}
+
+void TrackManager::setTimedAgeing(bool on)
+{
+    if (on) {
+        m_lifeTimer.start();
+    } else {
+        m_lifeTimer.stop();
+    }
 }
 
 TrackManager::~TrackManager() = default;

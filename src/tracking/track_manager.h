@@ -53,8 +53,11 @@ public:
     QList<TrackSnapshot> snapshotTracks(int trailDots) const;
 
     // The UTC time by which tracks age; trackers stamp reports with it.
-    QDateTime now() const { return m_clock(); }
-    void setClock(Clock clock) { m_clock = std::move(clock); }
+    QDateTime now() const { return m_clock->now(); }
+    void setClock(SharedClock clock) { m_clock = std::move(clock); }
+
+    // Off, for whoever calls checkLife() in another rhythm than the timer's second; on at first.
+    void setTimedAgeing(bool on);
 
 public Q_SLOTS:
     // Makes tracks coast, terminates and removes them by age. Never confirms one: reports do that.
@@ -80,5 +83,5 @@ private:
     QTimer m_lifeTimer;
     unsigned int m_coastingSpan = 2000;
     unsigned int m_terminationSpan = 12000;
-    Clock m_clock;
+    SharedClock m_clock = std::make_shared<Clock>(); // the system's until another is set
 };

@@ -103,9 +103,11 @@ private Q_SLOTS:
         }
         const auto handler =
             qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) { said += text; });
+        const auto clock = std::make_shared<Clock>();
+        alerts->setClock(clock);
         qint64 second = 0;
         for (const Message &record : messages) {
-            alerts->setClock([second] { return QDateTime::fromSecsSinceEpoch(second, Qt::UTC); });
+            clock->startRecorded(QDateTime::fromSecsSinceEpoch(second, Qt::UTC));
             processor.procCat004Message(record);
             ++second;
         }

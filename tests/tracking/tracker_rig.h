@@ -16,7 +16,8 @@ public:
 
     explicit TrackerRig(SensorType type)
     {
-        manager->setClock([this] { return now; });
+        setTime(0.0);
+        manager->setClock(m_clock);
         const auto sensor =
             SensorInfo::create(QJsonObject{{"type", sensorTypeToString(type)}, {"location", "500000.00N0080000.00E"},
                 {"rotation_period", ReportPeriod}, {"update_interval", ReportPeriod}});
@@ -29,7 +30,11 @@ public:
         return qobject_cast<Kind *>(tracker.data());
     }
 
-    void setTime(double second) { now = m_start.addMSecs(qRound64(second * 1000)); }
+    void setTime(double second)
+    {
+        now = m_start.addMSecs(qRound64(second * 1000));
+        m_clock->startRecorded(now);
+    }
 
     void receive(const QByteArray &octets)
     {
@@ -53,9 +58,10 @@ public:
 private:
     const QDateTime m_start = QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC);
     MercatorProjector m_projector;
+    std::shared_ptr<Clock> m_clock = std::make_shared<Clock>();
 
 public:
-    QDateTime now = m_start;
+    QDateTime now; // as set
     QSharedPointer<TrackManager> manager = QSharedPointer<TrackManager>::create();
     QSharedPointer<Tracker> tracker;
 };

@@ -72,8 +72,10 @@ private Q_SLOTS:
         const auto waiting = manager.createAlert(6);
         const auto alert = manager.createAlert(5);
         QCOMPARE(manager.createAlert(5), alert);
-        const auto tick = [&manager](int now) {
-            manager.setClock([now] { return second(now); });
+        const auto clock = std::make_shared<Clock>();
+        manager.setClock(clock);
+        const auto tick = [&](int now) {
+            clock->startRecorded(second(now));
             manager.checkLife();
         };
         for (int now = 0; now <= 37; ++now) {

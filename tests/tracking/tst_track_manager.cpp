@@ -9,9 +9,9 @@ class TestTrackManager : public QObject {
 private Q_SLOTS:
     void init()
     {
-        m_now = m_start;
+        m_clock->startRecorded(m_start);
         m_manager = std::make_unique<TrackManager>();
-        m_manager->setClock([this] { return m_now; });
+        m_manager->setClock(m_clock);
     }
 
     void numbersGoRound()
@@ -94,7 +94,7 @@ private Q_SLOTS:
         m_manager->setTrackLifeSpan(5000, termination);
         const auto track = m_manager->createTrack(); // without a position it ages from its creation
         track->setState(static_cast<Track::State>(before));
-        m_now = m_start.addMSecs(age);
+        m_clock->startRecorded(m_start.addMSecs(age));
         m_manager->checkLife();
         QTEST(int(track->state()), "after");
         QCOMPARE(m_manager->hasTrackNum(track->trackNumber()), !track->terminated());
@@ -143,7 +143,7 @@ private Q_SLOTS:
 
 private:
     const QDateTime m_start = QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC);
-    QDateTime m_now;
+    std::shared_ptr<Clock> m_clock = std::make_shared<Clock>();
     std::unique_ptr<TrackManager> m_manager;
 };
 
