@@ -83,7 +83,20 @@ void TrackManager::reset()
     m_tracksByNumber.clear();
     m_tracksByIcaoAddr.clear();
     m_tracksByOtherTrackNumber.clear();
+    m_numbersInUse = 0;
     m_nextTrackNumber = 1;
+}
+
+void TrackManager::setTrackNumberCount(unsigned int count)
+{
+    m_maxTrackNumber = m_minTrackNumber + std::clamp(count, 2u, MaximumTrackNumbers) - 1;
+    m_numbersInUse = static_cast<unsigned int>(std::count_if(m_tracksByNumber.cbegin(), m_tracksByNumber.cend(),
+        [this](const auto &track) { return isGivenOut(track->trackNumber()); }));
+}
+
+bool TrackManager::isGivenOut(unsigned int trackNumber) const
+{
+    return trackNumber >= m_minTrackNumber && trackNumber <= m_maxTrackNumber;
 }
 
 // Numbers go round, so that a number that has become free rests as long as possible. One number fewer is tried than the
@@ -91,6 +104,13 @@ void TrackManager::reset()
 unsigned int TrackManager::nextValidTrackNum()
 {
     const unsigned int span = m_maxTrackNumber - m_minTrackNumber;
+    if (span > 0 && m_numbersInUse == span + 1) {
+        // A full store refuses every report of a further target. It does so at once, with the rotation where the search
+        // would have left it.
+        const unsigned int first = isGivenOut(m_nextTrackNumber) ? m_nextTrackNumber : m_minTrackNumber;
+        m_nextTrackNumber = m_minTrackNumber + (first - m_minTrackNumber + span - 1) % (span + 1) + 1;
+        return 0;
+    }
     for (unsigned int i = 0; i < span; ++i) {
         if (m_nextTrackNumber < m_minTrackNumber || m_nextTrackNumber > m_maxTrackNumber) {
             m_nextTrackNumber = m_minTrackNumber;
@@ -107,8 +127,17 @@ QSharedPointer<Track> TrackManager::insertNewTrack(unsigned int trackNumber)
 {
     auto track = QSharedPointer<Track>::create(trackNumber, now());
     track->setIncarnationId(m_nextIncarnationId++);
-    m_tracksByNumber.insert(trackNumber, track);
+    store(track);
     return track;
+}
+
+void TrackManager::store(const QSharedPointer<Track> &track)
+{
+    const auto count = m_tracksByNumber.size();
+    m_tracksByNumber.insert(track->trackNumber(), track);
+    if (m_tracksByNumber.size() > count && isGivenOut(track->trackNumber())) {
+        ++m_numbersInUse;
+    }
 }
 
 QSharedPointer<Track> TrackManager::createTrack()
@@ -131,7 +160,7 @@ void TrackManager::registerTrack(const QSharedPointer<Track> &track)
     if (track->incarnationId() == 0) {
         track->setIncarnationId(m_nextIncarnationId++);
     }
-    m_tracksByNumber.insert(track->trackNumber(), track);
+    store(track);
     if (track->icaoAddrValid()) {
         m_tracksByIcaoAddr.insert(track->icaoAddr(), track);
     }
@@ -145,7 +174,9 @@ void TrackManager::removeTrack(const QSharedPointer<Track> &track)
     if (!track) {
         return;
     }
-    m_tracksByNumber.remove(track->trackNumber());
+    if (m_tracksByNumber.remove(track->trackNumber()) && isGivenOut(track->trackNumber())) {
+        --m_numbersInUse;
+    }
     if (track->icaoAddrValid()) {
         m_tracksByIcaoAddr.remove(track->icaoAddr());
     }

@@ -16,11 +16,19 @@ class TrackManager final : public QObject {
     Q_OBJECT
 
 public:
+    static constexpr unsigned int DefaultTrackNumbers = 4096;
+    static constexpr unsigned int MaximumTrackNumbers = 65535;
+
     explicit TrackManager(QObject *parent = nullptr);
     ~TrackManager() override;
 
     // Forgets all tracks and starts numbering at 1 again. Incarnation ids count on.
     void reset();
+
+    // How many track numbers are given out, from 1 on; brought into 2 to MaximumTrackNumbers. Tracks above a lower
+    // number keep theirs while they live.
+    void setTrackNumberCount(unsigned int count);
+    unsigned int trackNumberCount() const { return m_maxTrackNumber - m_minTrackNumber + 1; }
 
     // A new tentative track under the next free number; null when no number is free. Trackers fill in its identity and
     // then call registerTrack, so that the next report finds it.
@@ -66,14 +74,17 @@ public Q_SLOTS:
 private:
     using Index = QHash<unsigned int, QSharedPointer<Track>>;
 
+    bool isGivenOut(unsigned int trackNumber) const;
     unsigned int nextValidTrackNum();
+    void store(const QSharedPointer<Track> &track);
     QSharedPointer<Track> insertNewTrack(unsigned int trackNumber);
     template <typename Matches>
     QSharedPointer<Track> find(const Index &index, unsigned int key, Matches matches);
     void age(const QSharedPointer<Track> &track, const QDateTime &now);
 
     unsigned int m_minTrackNumber = 1;
-    unsigned int m_maxTrackNumber = 4096;
+    unsigned int m_maxTrackNumber = DefaultTrackNumbers;
+    unsigned int m_numbersInUse = 0; // of those that are given out
     unsigned int m_nextTrackNumber = 1;
     quint64 m_nextIncarnationId = 1;
     Index m_tracksByNumber; // owns the tracks

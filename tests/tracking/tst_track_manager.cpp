@@ -33,6 +33,27 @@ private Q_SLOTS:
         QVERIFY(afterReset->incarnationId() > wrapped->incarnationId());
     }
 
+    // The rotation moves on by one number fewer than there are with each refusal: the number that is missed changes.
+    void refusesWhenAllNumbersAreInUse()
+    {
+        m_manager->setTrackNumberCount(4);
+        m_manager->createTrack(9); // takes none of the four
+        for (unsigned int number = 1; number <= 4; ++number) {
+            QCOMPARE(m_manager->createTrack()->trackNumber(), number);
+        }
+        QVERIFY(!m_manager->createTrack()); // tries 1 to 3
+        QVERIFY(!m_manager->createTrack()); // tries 4, 1 and 2
+        m_manager->removeTrack(m_manager->findTrackByTrackNum(2));
+        QVERIFY(!m_manager->createTrack()); // tries 3, 4 and 1
+        QCOMPARE(m_manager->createTrack()->trackNumber(), 2u);
+        m_manager->setTrackNumberCount(3);
+        m_manager->removeTrack(m_manager->findTrackByTrackNum(4)); // above the numbers now: frees none
+        QVERIFY(!m_manager->createTrack());
+        m_manager->setTrackNumberCount(70000);
+        QCOMPARE(m_manager->trackNumberCount(), 65535u);
+        QCOMPARE(m_manager->createTrack()->trackNumber(), 4u);
+    }
+
     void findersIndexWhatTheyFind()
     {
         const auto track = m_manager->createTrack();
