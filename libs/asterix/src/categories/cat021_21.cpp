@@ -31,90 +31,13 @@ constexpr Field item271[] = {
 };
 
 // I021/295 Data Ages
-constexpr Field item295[] = {
-    quantity("AOS", 8, {1, 10}, "s"),
-    quantity("TRD", 8, {1, 10}, "s"),
-    quantity("M3A", 8, {1, 10}, "s"),
-    quantity("QI", 8, {1, 10}, "s"),
-    quantity("TI1", 8, {1, 10}, "s"),
-    quantity("MAM", 8, {1, 10}, "s"),
-    quantity("GH", 8, {1, 10}, "s"),
-    quantity("FL", 8, {1, 10}, "s"),
-    quantity("ISA", 8, {1, 10}, "s"),
-    quantity("FSA", 8, {1, 10}, "s"),
-    quantity("AS", 8, {1, 10}, "s"),
-    quantity("TAS", 8, {1, 10}, "s"),
-    quantity("MH", 8, {1, 10}, "s"),
-    quantity("BVR", 8, {1, 10}, "s"),
-    quantity("GVR", 8, {1, 10}, "s"),
-    quantity("GV", 8, {1, 10}, "s"),
-    quantity("TAR", 8, {1, 10}, "s"),
-    quantity("TI2", 8, {1, 10}, "s"),
-    quantity("TS", 8, {1, 10}, "s"),
-    quantity("MET", 8, {1, 10}, "s"),
-    quantity("ROA", 8, {1, 10}, "s"),
-    quantity("ARA", 8, {1, 10}, "s"),
-    quantity("SCC", 8, {1, 10}, "s"),
-};
+constexpr DataAges item295 = dataAges("ISA");
 
-constexpr Field items[] = {
-    item("Aircraft Operational Status", group("008", item008)),
-    item("Data Source Identification", group("010", item010)),
-    item("Service Identification", raw("015", 8)),
-    item("Service Management", quantity("016", 8, {1, 2}, "s")),
-    item("Emitter Category", raw("020", 8)),
-    item("Target Report Descriptor", extended("040", item040)),
-    item("Mode 3/A Code in Octal Representation", group("070", item070)),
-    item("Time of Applicability for Position", quantity("071", 24, {1, 128}, "s")),
-    item("Time of Applicability for Velocity", quantity("072", 24, {1, 128}, "s")),
-    item("Time of Message Reception for Position", quantity("073", 24, {1, 128}, "s")),
-    item("Time of Message Reception of Position-High Precision", group("074", item074)),
-    item("Time of Message Reception for Velocity", quantity("075", 24, {1, 128}, "s")),
-    item("Time of Message Reception of Velocity-High Precision", group("076", item076)),
-    item("Time of ASTERIX Report Transmission", quantity("077", 24, {1, 128}, "s")),
-    item("Target Address", raw("080", 24)),
-    item("Quality Indicators", extended("090", item090)),
-    item("Trajectory Intent", compound("110", item110)),
-    item("Position in WGS-84 Co-ordinates", group("130", item130)),
-    item("High-Resolution Position in WGS-84 Co-ordinates", group("131", item131)),
-    item("Message Amplitude", signedQuantity("132", 8, {1, 1}, "dBm")),
-    item("Geometric Height", signedQuantity("140", 16, {25, 4}, "ft")),
-    item("Flight Level", signedQuantity("145", 16, {1, 4}, "FL")),
-    item("Selected Altitude", group("146", item146)),
-    item("Final State Selected Altitude", group("148", item148)),
-    item("Air Speed", group("150", item150)),
-    item("True Airspeed", group("151", item151)),
-    item("Magnetic Heading", quantity("152", 16, {360, 65536}, "°")),
-    item("Barometric Vertical Rate", group("155", item155)),
-    item("Geometric Vertical Rate", group("157", item157)),
-    item("Airborne Ground Vector", group("160", item160)),
-    item("Track Number", group("161", item161)),
-    item("Track Angle Rate", group("165", item165)),
-    item("Target Identification", icao("170", 48)),
-    item("Target Status", group("200", item200)),
-    item("MOPS Version", group("210", item210)),
-    item("Met Information", compound("220", item220)),
-    item("Roll Angle", signedQuantity("230", 16, {1, 100}, "°")),
-    item("Mode S MB Data", repetitive("250", item250)),
-    item("ACAS Resolution Advisory Report", group("260", item260)),
-    item("Surface Capabilities and Characteristics", extended("271", item271)),
-    item("Data Ages", compound("295", item295)),
-    item("Receiver ID", raw("400", 8)),
-    item("Reserved Expansion Field", expansion("RE", cat021Expansion)),
-    item("Special Purpose Field", explicitLength("SP")),
-};
-
-// Item names by field reference number.
-constexpr const char *order[] = {"010", "040", "161", "015", "071", "130", "131", "072", "150", "151", "080", "073",
-    "074", "075", "076", "140", "090", "210", "070", "230", "145", "152", "200", "155", "157", "160", "165", "077",
-    "170", "020", "220", "146", "148", "110", "016", "008", "271", "132", "250", "260", "400", "295", Unused, Unused,
-    Unused, Unused, Unused, "RE", "SP"};
-
-constexpr Variation variations[] = {variation("", order)};
+constexpr Items items = itemsWith(item040, item090, item200, item271, item295.fields);
 
 } // namespace
 
 constexpr Edition cat021Edition21{
-    21, "2.1", "ADS-B Target Reports", items, std::size(items), variations, std::size(variations)};
+    21, "2.1", "ADS-B Target Reports", items.fields, std::size(items.fields), variations, std::size(variations)};
 
 } // namespace korvane::asterix

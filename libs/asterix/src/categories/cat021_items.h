@@ -124,6 +124,85 @@ inline constexpr Field item165[] = {spare(6), signedQuantity("TAR", 10, {1, 32},
 // I021/210 MOPS Version
 inline constexpr Field item210[] = {spare(1), raw("VNS", 1), raw("VN", 3), raw("LTT", 3)};
 
+// I021/295 Data Ages. The editions differ in the name of the selected altitude's.
+struct DataAges {
+    Field fields[23];
+};
+constexpr DataAges dataAges(const char *selectedAltitude)
+{
+    DataAges ages{};
+    const char *const names[] = {"AOS", "TRD", "M3A", "QI", "TI1", "MAM", "GH", "FL", selectedAltitude, "FSA", "AS",
+        "TAS", "MH", "BVR", "GVR", "GV", "TAR", "TI2", "TS", "MET", "ROA", "ARA", "SCC"};
+    for (std::size_t i = 0; i < std::size(names); ++i) {
+        ages.fields[i] = quantity(names[i], 8, {1, 10}, "s");
+    }
+    return ages;
+}
+
+// All items, those given in the form that they have in the edition.
+struct Items {
+    Field fields[44];
+};
+template <std::size_t N040, std::size_t N090, std::size_t N200, std::size_t N271, std::size_t N295>
+constexpr Items itemsWith(const Field (&item040)[N040], const Field (&item090)[N090], const Field (&item200)[N200],
+    const Field (&item271)[N271], const Field (&item295)[N295])
+{
+    return {{
+        item("Aircraft Operational Status", group("008", item008)),
+        item("Data Source Identification", group("010", item010)),
+        item("Service Identification", raw("015", 8)),
+        item("Service Management", quantity("016", 8, {1, 2}, "s")),
+        item("Emitter Category", raw("020", 8)),
+        item("Target Report Descriptor", extended("040", item040)),
+        item("Mode 3/A Code in Octal Representation", group("070", item070)),
+        item("Time of Applicability for Position", quantity("071", 24, {1, 128}, "s")),
+        item("Time of Applicability for Velocity", quantity("072", 24, {1, 128}, "s")),
+        item("Time of Message Reception for Position", quantity("073", 24, {1, 128}, "s")),
+        item("Time of Message Reception of Position-High Precision", group("074", item074)),
+        item("Time of Message Reception for Velocity", quantity("075", 24, {1, 128}, "s")),
+        item("Time of Message Reception of Velocity-High Precision", group("076", item076)),
+        item("Time of ASTERIX Report Transmission", quantity("077", 24, {1, 128}, "s")),
+        item("Target Address", raw("080", 24)),
+        item("Quality Indicators", extended("090", item090)),
+        item("Trajectory Intent", compound("110", item110)),
+        item("Position in WGS-84 Co-ordinates", group("130", item130)),
+        item("High-Resolution Position in WGS-84 Co-ordinates", group("131", item131)),
+        item("Message Amplitude", signedQuantity("132", 8, {1, 1}, "dBm")),
+        item("Geometric Height", signedQuantity("140", 16, {25, 4}, "ft")),
+        item("Flight Level", signedQuantity("145", 16, {1, 4}, "FL")),
+        item("Selected Altitude", group("146", item146)),
+        item("Final State Selected Altitude", group("148", item148)),
+        item("Air Speed", group("150", item150)),
+        item("True Airspeed", group("151", item151)),
+        item("Magnetic Heading", quantity("152", 16, {360, 65536}, "°")),
+        item("Barometric Vertical Rate", group("155", item155)),
+        item("Geometric Vertical Rate", group("157", item157)),
+        item("Airborne Ground Vector", group("160", item160)),
+        item("Track Number", group("161", item161)),
+        item("Track Angle Rate", group("165", item165)),
+        item("Target Identification", icao("170", 48)),
+        item("Target Status", group("200", item200)),
+        item("MOPS Version", group("210", item210)),
+        item("Met Information", compound("220", item220)),
+        item("Roll Angle", signedQuantity("230", 16, {1, 100}, "°")),
+        item("Mode S MB Data", repetitive("250", item250)),
+        item("ACAS Resolution Advisory Report", group("260", item260)),
+        item("Surface Capabilities and Characteristics", extended("271", item271)),
+        item("Data Ages", compound("295", item295)),
+        item("Receiver ID", raw("400", 8)),
+        item("Reserved Expansion Field", expansion("RE", cat021Expansion)),
+        item("Special Purpose Field", explicitLength("SP")),
+    }};
+}
+
+// Item names by field reference number.
+inline constexpr const char *order[] = {"010", "040", "161", "015", "071", "130", "131", "072", "150", "151", "080",
+    "073", "074", "075", "076", "140", "090", "210", "070", "230", "145", "152", "200", "155", "157", "160", "165",
+    "077", "170", "020", "220", "146", "148", "110", "016", "008", "271", "132", "250", "260", "400", "295", Unused,
+    Unused, Unused, Unused, Unused, "RE", "SP"};
+
+inline constexpr Variation variations[] = {variation("", order)};
+
 } // namespace late
 
 } // namespace korvane::asterix::cat021
