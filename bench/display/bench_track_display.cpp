@@ -25,7 +25,7 @@ TrackSnapshot track(quint64 id, std::mt19937 &random)
     track.callsign = QStringLiteral("VYX%1").arg(id);
     track.modeACodeValid = true;
     track.modeAString = QStringLiteral("%1").arg(below(4096), 4, 8, QLatin1Char('0'));
-    track.type = below(11);
+    track.type = static_cast<Track::Type>(below(11));
     track.carCoordinateValid = true;
     track.carCoordinate = QPointF(below(Screen.width()), below(Screen.height())) * MetresPerPixel;
     track.groundSpeed = 120 + below(400);
@@ -38,7 +38,7 @@ TrackSnapshot track(quint64 id, std::mt19937 &random)
     track.selectedAltitudeValid = true;
     track.verticalRate = below(6000) - 3000;
     track.verticalRateValid = true;
-    track.verticalTrend = below(4);
+    track.verticalTrend = static_cast<Track::VerticalTrend>(below(4));
     for (int i = 1; i <= 20; ++i) {
         track.trail.append(track.carCoordinate - QPointF(i, i % 3) * 1000.0);
     }

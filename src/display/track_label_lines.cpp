@@ -11,8 +11,6 @@ namespace {
 constexpr QChar CoastingMark(0x2798); // ➘
 constexpr QChar ClimbingMark(0x2191); // ↑
 constexpr QChar DescendingMark(0x2193); // ↓
-constexpr int Climbing = 2; // Track::VerticalTrend
-constexpr int Descending = 3;
 
 // Appends the number with zeros in front up to the width; a sign counts. Labels are written at each new snapshot: this
 // takes a fifth of what QString::arg does.
@@ -84,9 +82,9 @@ QString levelLine(const TrackSnapshot &track, const TrackLabelFields &fields)
     if (fields.level) {
         line = QLatin1Char('F');
         appendValue(line, track.levelValid, track.level / 100);
-        if (track.verticalTrend == Climbing) {
+        if (track.verticalTrend == Track::TrendClimbing) {
             line += ClimbingMark;
-        } else if (track.verticalTrend == Descending) {
+        } else if (track.verticalTrend == Track::TrendDescending) {
             line += DescendingMark;
         }
     }

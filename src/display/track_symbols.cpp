@@ -23,9 +23,11 @@ TrackSymbols::TrackSymbols(int size, const QColor &color)
     }
 }
 
-TrackSymbols::Symbol TrackSymbols::forTrackType(int type)
+TrackSymbols::Symbol TrackSymbols::forTrackType(Track::Type type)
 {
-    return type >= Psr && type <= Smr ? Symbol(type) : Unknown;
+    static constexpr Symbol Symbols[] = {
+        Unknown, Psr, Ssr, PsrSsr, ModeS, PsrModeS, Adsb, Mlat, Smr, Unknown, Unknown};
+    return Symbols[type];
 }
 
 void TrackSymbols::setSize(int size)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tracking/track.h"
 #include "view/svg_symbol.h"
 
 #include <QColor>
@@ -16,8 +17,8 @@ public:
     // The size is in logical pixels, width and height.
     TrackSymbols(int size, const QColor &color);
 
-    // By the number of a Track::Type; any that has no drawing of its own is unknown.
-    static Symbol forTrackType(int type);
+    // A type that has no drawing of its own is unknown.
+    static Symbol forTrackType(Track::Type type);
 
     void setSize(int size);
     void setColor(const QColor &color);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tracking/alert.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -14,8 +16,8 @@ struct AlertSnapshot {
     };
 
     unsigned int id = 0;
-    int type = 0; // Alert::Type
-    int state = 0; // Alert::State
+    Alert::Type type = Alert::None;
+    Alert::State state = Alert::Initial;
     QString stateString;
     QString objectName;
     QDateTime lastUpdate;

@@ -18,10 +18,10 @@ class Alert;
 // flag is false. Belongs to the thread of its TrackManager; others may hold the pointer but must not look inside.
 class Track {
 public:
-    // Life state; the display carries the raw values.
+    // Life state; recorded pictures carry the raw values.
     enum State : int { Tentative = 0, Confirmed = 1, Coasting = 2, Terminated = 3 };
 
-    // The surveillance behind the track; the display carries the raw values.
+    // The surveillance behind the track; recorded pictures carry the raw values.
     enum Type : int {
         Unknown = 0,
         Psr = 1, // primary radar only

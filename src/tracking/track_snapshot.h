@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geo/geo_coordinate.h"
+#include "tracking/track.h"
 
 #include <QDateTime>
 #include <QList>
@@ -22,8 +23,8 @@ struct TrackSnapshot {
     bool modeACodeSmoothed = false;
     bool modeACodeGarbled = false;
     QString modeAString;
-    int type = 0; // Track::Type
-    int state = 0; // Track::State
+    Track::Type type = Track::Unknown;
+    Track::State state = Track::Tentative;
     bool coasting = false;
     GeoCoordinate geoCoordinate;
     bool geoCoordinateValid = false;
@@ -40,7 +41,7 @@ struct TrackSnapshot {
     bool selectedAltitudeValid = false;
     int verticalRate = 0;
     bool verticalRateValid = false;
-    int verticalTrend = 0; // Track::VerticalTrend
+    Track::VerticalTrend verticalTrend = Track::TrendUnknown;
     QDateTime lastUpdate; // UTC
     QString alertsString; // "MSAW APW STCA", those that are active
     QList<QPointF> trail; // newest first, plane metres

@@ -107,7 +107,7 @@ QString AlertListModel::text(const AlertListEntry &entry, int column) const
 {
     switch (column) {
     case Type:
-        return Alert::typeString(static_cast<Alert::Type>(entry.type));
+        return Alert::typeString(entry.type);
     case Track1:
         return entry.track1;
     case Track2:

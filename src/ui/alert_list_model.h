@@ -10,8 +10,8 @@
 // What the list shows of one alert.
 struct AlertListEntry {
     unsigned int id = 0;
-    int type = 0;
-    int state = 0;
+    Alert::Type type = Alert::None;
+    Alert::State state = Alert::Initial;
     QString stateText;
     QString track1;
     QString track2;

@@ -12,19 +12,19 @@
 
 namespace {
 
-QString typeText(int type)
+QString typeText(Track::Type type)
 {
     static const char *const texts[] = {"", QT_TR_NOOP("PSR"), QT_TR_NOOP("SSR"), QT_TR_NOOP("PSR+SSR"),
         QT_TR_NOOP("Mode S"), QT_TR_NOOP("Mode S+PSR"), QT_TR_NOOP("ADS-B"), QT_TR_NOOP("MLAT"), QT_TR_NOOP("SMR"),
         QT_TR_NOOP("SDPS Mode S"), QT_TR_NOOP("SDPS")};
-    return type > 0 && type < static_cast<int>(std::size(texts)) ? TrackListModel::tr(texts[type]) : QString();
+    return type == Track::Unknown ? QString() : TrackListModel::tr(texts[type]);
 }
 
-QString stateText(int state)
+QString stateText(Track::State state)
 {
     static const char *const texts[] = {
         QT_TR_NOOP("Tentative"), QT_TR_NOOP("Confirmed"), QT_TR_NOOP("Coasting"), QT_TR_NOOP("Terminated")};
-    return state >= 0 && state < static_cast<int>(std::size(texts)) ? TrackListModel::tr(texts[state]) : QString();
+    return TrackListModel::tr(texts[state]);
 }
 
 QString levelText(const TrackListEntry &entry)

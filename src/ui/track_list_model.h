@@ -19,12 +19,12 @@ struct TrackListEntry {
     QString country; // of registration, by the address: ISO 3166-1 code of two letters
     QString countryName;
     std::optional<int> level; // hundreds of feet
-    int verticalTrend = 0;
+    Track::VerticalTrend verticalTrend = Track::TrendUnknown;
     std::optional<int> groundSpeed; // knots
     std::optional<int> heading; // degrees, 1 to 360
     std::optional<int> verticalRate; // feet per minute
-    int type = 0;
-    int state = 0;
+    Track::Type type = Track::Unknown;
+    Track::State state = Track::Tentative;
     unsigned int trackNumber = 0;
     QString alerts;
 

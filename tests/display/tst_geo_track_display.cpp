@@ -38,7 +38,7 @@ TrackSnapshot aircraft(quint64 id, const QPointF &place = {})
 {
     TrackSnapshot track;
     track.incarnationId = id;
-    track.type = 8; // the small filled box
+    track.type = Track::Smr; // the small filled box
     track.carCoordinate = place;
     track.carCoordinateValid = true;
     track.callsign = QStringLiteral("ABC123");

@@ -60,10 +60,10 @@ void tst_TrackLabelLines::line_data()
     row("no valid squawk", L::Callsign, F{}, "ABC123 ----", [](T &t) { t.modeACodeValid = false; });
 
     const F all = only({&F::level, &F::selectedAltitude, &F::groundSpeed});
-    const auto climbing = [](T &t) { t.verticalTrend = 2; };
+    const auto climbing = [](T &t) { t.verticalTrend = Track::TrendClimbing; };
     row("climbing", L::Level, F{}, "F350↑452", climbing);
     row("selected altitude after an arrow", L::Level, all, "F350↑F181 452", [](T &t) {
-        t.verticalTrend = 2;
+        t.verticalTrend = Track::TrendClimbing;
         t.selectedAltitude = 18050;
     });
     row("nothing valid", L::Level, all, "F--- F--- ---",

@@ -25,7 +25,7 @@ struct Row {
     SensorType sensor;
     int processor;
     const char *report; // for ASTERIX; %1 to %7: latitude, longitude, range in NM and metres, knots in NM/s, vx, vy
-    int type;
+    Track::Type type;
     const char *identity; // address, call sign and code
     double metres; // half a step of the encoding, each of these
     double knots;
@@ -36,19 +36,19 @@ const Row rows[]{
     {"radar", RadarSensor, 0,
         "48 161/TRN=7 220=0x4b1a2c 240=VYX12 020/TYP=7 040/RHO=%3 040/THETA=321.1 070/MODE3A=02345 090/FL=350 "
         "200/GSP=%5 200/HDG=123",
-        5, "4B1A2C VYX12 2345", 4.1, 0.11, 0.003},
-    {"radar, Alenia SIR-M", RadarSensor, 2, nullptr, 3, "------ ------- 2345", 0.7, 0.18, 0.03},
+        Track::ModeSPsr, "4B1A2C VYX12 2345", 4.1, 0.11, 0.003},
+    {"radar, Alenia SIR-M", RadarSensor, 2, nullptr, Track::PsrSsr, "------ ------- 2345", 0.7, 0.18, 0.03},
     {"ADS-B", AdsbSensor, 0,
-        "21 080=0x4b1a2c 170=VYX12 130/LAT=%1 130/LON=%2 070/MODE3A=02345 145=350 160/GS=%5 160/TA=123", 6,
+        "21 080=0x4b1a2c 170=VYX12 130/LAT=%1 130/LON=%2 070/MODE3A=02345 145=350 160/GS=%5 160/TA=123", Track::Adsb,
         "4B1A2C VYX12 2345", 1.5, 0.11, 0.003},
-    {"ADS-B, Mode S", AdsbSensor, 1, nullptr, 6, "4B1A2C VYX12 2345", 3.2, 0.71, 0.1},
+    {"ADS-B, Mode S", AdsbSensor, 1, nullptr, Track::Adsb, "4B1A2C VYX12 2345", 3.2, 0.71, 0.1},
     {"multilateration", MlatSensor, 0,
         "20 161/TRN=7 220=0x4b1a2c 245/CHR=VYX12 041/LAT=%1 041/LON=%2 070/MODE3A=02345 090/FL=350 202/VX=%6 202/VY=%7",
-        7, "4B1A2C VYX12 2345", 0.4, 0.35, 0.05},
+        Track::Mlat, "4B1A2C VYX12 2345", 0.4, 0.35, 0.05},
     {"system tracks", SdpsSensor, 0,
-        "62 040=7 380/ADR=0x4b1a2c 390/CS=VYX12 105/LAT=%1 105/LON=%2 060/MODE3A=02345 136=350 185/VX=%6 185/VY=%7", 9,
-        "4B1A2C VYX12 2345", 0.4, 0.35, 0.05},
-    {"surface movement radar", SmrSensor, 0, "10 161/TRK=7 040/RHO=%4 040/TH=321.1 200/GSP=%5 200/TRA=123", 8,
+        "62 040=7 380/ADR=0x4b1a2c 390/CS=VYX12 105/LAT=%1 105/LON=%2 060/MODE3A=02345 136=350 185/VX=%6 185/VY=%7",
+        Track::SdpsModeS, "4B1A2C VYX12 2345", 0.4, 0.35, 0.05},
+    {"surface movement radar", SmrSensor, 0, "10 161/TRK=7 040/RHO=%4 040/TH=321.1 200/GSP=%5 200/TRA=123", Track::Smr,
         "------ ------- ----", 0.6, 0.11, 0.003},
 };
 
@@ -139,7 +139,7 @@ private Q_SLOTS:
         QCOMPARE(tracks.size(), 1);
         const auto &track = tracks.first();
         QCOMPARE(track.type, row.type);
-        QCOMPARE(track.state, int(Track::Confirmed));
+        QCOMPARE(track.state, Track::Confirmed);
         QCOMPARE(QStringList({track.icaoAddrString, track.callsign, track.modeAString}).join(' '), row.identity);
         QCOMPARE(track.levelValid ? track.level : -1, onGround ? -1 : Level);
         QCOMPARE(track.onGround, onGround);

@@ -20,8 +20,8 @@ private:
         track.callsign = "TEST1";
         track.modeACode = 03271;
         track.modeAString = "3271S";
-        track.type = 5;
-        track.state = 1;
+        track.type = Track::ModeSPsr;
+        track.state = Track::Confirmed;
         track.geoCoordinate = GeoCoordinate(50.5, -14.25);
         track.carCoordinate = QPointF(-1000.5, 2000.0);
         track.groundSpeed = 450.25;
@@ -30,7 +30,7 @@ private:
         track.level = 35000;
         track.selectedAltitude = 36000;
         track.verticalRate = -1200;
-        track.verticalTrend = 3;
+        track.verticalTrend = Track::TrendDescending;
         track.lastUpdate = QDateTime({2024, 2, 29}, {13, 5, 7, 8}, QTimeZone(3600)); // 12:05:07.008 UTC
         track.alertsString = "MSAW STCA";
         track.trail = {{1.0, 2.0}, {-3.5, 4.0}};
@@ -71,7 +71,7 @@ private Q_SLOTS:
         later.trackNumber = 20;
         AlertSnapshot alert;
         alert.id = 4000000000U;
-        alert.type = 3;
+        alert.type = Alert::STCA;
         alert.stateString = "Active";
         alert.track1.otherTrackNumber = 5;
         QVERIFY(SnapshotJson::save({{later, fullTrack()}, {alert}, {false, true, false}}, path));

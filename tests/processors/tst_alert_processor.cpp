@@ -114,7 +114,7 @@ private Q_SLOTS:
         qInstallMessageHandler(handler);
         for (const AlertSnapshot &alert : alerts->snapshotAlerts()) {
             said += QStringLiteral("%1 %2 %3-%4 %5 %6")
-                        .arg(Alert::typeString(Alert::Type(alert.type)), alert.stateString)
+                        .arg(Alert::typeString(alert.type), alert.stateString)
                         .arg(alert.startTime.toSecsSinceEpoch())
                         .arg(alert.lastUpdate.toSecsSinceEpoch())
                         .arg(alert.track1.text, alert.track2.text);

@@ -11,8 +11,8 @@ AlertSnapshot conflict(unsigned int id, quint64 firstTrack, quint64 secondTrack)
 {
     AlertSnapshot alert;
     alert.id = id;
-    alert.type = 3;
-    alert.state = 1;
+    alert.type = Alert::STCA;
+    alert.state = Alert::Active;
     alert.stateString = "Active";
     alert.startTime = QDateTime(QDate(2024, 5, 1), QTime(23, 59, 50), Qt::UTC).addSecs(id);
     alert.track1.incarnationId = firstTrack;
@@ -37,7 +37,7 @@ void TestAlertListModel::showsAlerts()
     AlertListModel model;
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     AlertSnapshot area = conflict(2, 7, 0);
-    area.type = 2;
+    area.type = Alert::APW;
     area.objectName = "LO-R 16";
     area.track2Applicable = false;
     area.endTime = area.startTime.addSecs(5);

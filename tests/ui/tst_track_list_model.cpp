@@ -63,7 +63,7 @@ void TestTrackListModel::showsValues()
     unknown.incarnationId = 2;
     unknown.callsignValid = unknown.modeACodeValid = unknown.levelValid = false;
     unknown.groundSpeedValid = unknown.headingValid = unknown.verticalRateValid = false;
-    unknown.type = 99;
+    unknown.type = Track::Unknown;
     known.icaoAddr = 0x49F123;
     known.icaoAddrString = "49F123";
     known.icaoAddrValid = true;
