@@ -29,10 +29,7 @@ void GeoRangeRingMap::applyConfig(const Config &config)
     const GeoCoordinate &place =
         config.sensorLocation.isValid() ? config.sensorLocation : config.displayCenterCoordinate;
     if (place.isValid()) {
-        double x = 0.0;
-        double y = 0.0;
-        m_projector->toCartesian(&x, &y, place.latitude(), place.longitude());
-        setDefaultCenter(QPointF(x, y));
+        setDefaultCenter(m_projector->toCartesian(place));
     }
     m_number = std::clamp(config.mapRangeRingNumber, 0, MaximumRings);
     m_distance = config.mapRangeRingDistance;
@@ -68,14 +65,13 @@ void GeoRangeRingMap::layOut()
 {
     m_layoutValid = true;
     m_rings.clear();
-    double latitude = 0.0;
-    double longitude = 0.0;
-    if (!m_projector->toWgs84(&latitude, &longitude, center().x(), center().y())) {
+    const GeoCoordinate middle = m_projector->toWgs84(center());
+    if (!middle.isValid()) {
         return;
     }
     for (int i = 1; i <= m_number; ++i) {
         const double radius = i * m_distance * wgs84::MetresPerNauticalMile;
-        m_rings.push_back(groundCircle(*m_projector, GeoCoordinate(latitude, longitude), radius));
+        m_rings.push_back(groundCircle(*m_projector, middle, radius));
     }
 }
 

@@ -109,10 +109,7 @@ void GeoSensorMap::layOut()
     if (!m_location.isValid()) {
         return;
     }
-    double x = 0.0;
-    double y = 0.0;
-    m_projector->toCartesian(&x, &y, m_location.latitude(), m_location.longitude());
-    m_site = QPointF(x, y);
+    m_site = m_projector->toCartesian(m_location);
     for (double radius : m_coverages) {
         m_coverageRings.push_back(groundCircle(*m_projector, m_location, radius * wgs84::MetresPerNauticalMile));
     }

@@ -18,10 +18,7 @@ QPolygonF groundCircle(Projector &projector, const GeoCoordinate &center, double
         } else if (longitude - center.longitude() < -180.0) {
             longitude += 360.0;
         }
-        double x = 0.0;
-        double y = 0.0;
-        projector.toCartesian(&x, &y, place.latitude(), longitude);
-        circle.append(QPointF(x, y));
+        circle.append(projector.toCartesian(place.latitude(), longitude));
     }
     circle.append(circle.first());
     return circle;

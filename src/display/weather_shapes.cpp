@@ -41,10 +41,7 @@ private:
         const QGeoCoordinate place = m_site.atDistanceAndAzimuth(range * wgs84::MetresPerNauticalMile, azimuth);
         // Across the 180th meridian the shape goes on where it was.
         const double longitude = m_site.longitude() + std::remainder(place.longitude() - m_site.longitude(), 360.0);
-        double x = 0.0;
-        double y = 0.0;
-        m_projector.toCartesian(&x, &y, place.latitude(), longitude);
-        return QPointF(x, y);
+        return m_projector.toCartesian(place.latitude(), longitude);
     }
 
     Projector &m_projector;

@@ -7,6 +7,8 @@
 class MercatorProjector final : public Projector {
 public:
     // Always true.
+    using Projector::toCartesian;
+    using Projector::toWgs84;
     bool toCartesian(double *x, double *y, const double &latitude, const double &longitude) override;
     // False when the result lies outside 90 degrees of latitude or 180 of longitude; it is written in any case.
     bool toWgs84(double *latitude, double *longitude, const double &x, const double &y) override;

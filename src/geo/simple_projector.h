@@ -6,6 +6,8 @@
 class SimpleProjector final : public Projector {
 public:
     // Both always true.
+    using Projector::toCartesian;
+    using Projector::toWgs84;
     bool toCartesian(double *x, double *y, const double &latitude, const double &longitude) override;
     bool toWgs84(double *latitude, double *longitude, const double &x, const double &y) override;
 };

@@ -10,6 +10,8 @@ public:
     StereographicProjector(const double &latitude, const double &longitude);
 
     // Both false, with nothing written, when an output pointer is null.
+    using Projector::toCartesian;
+    using Projector::toWgs84;
     bool toCartesian(double *x, double *y, const double &latitude, const double &longitude) override;
     // The exact centre (0, 0) gives a latitude that is not a number: the formula divides by the distance from it.
     bool toWgs84(double *latitude, double *longitude, const double &x, const double &y) override;

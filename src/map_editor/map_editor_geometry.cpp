@@ -58,12 +58,7 @@ GeoCoordinate MapEditorGeometry::unproject(const QPointF &planePoint) const
 {
     const double period = m_projection.period();
     const double x = period > 0.0 ? std::remainder(planePoint.x(), period) : planePoint.x();
-    double latitude = 0.0;
-    double longitude = 0.0;
-    if (!m_projector->toWgs84(&latitude, &longitude, x, planePoint.y())) {
-        return {};
-    }
-    return GeoCoordinate(latitude, longitude);
+    return m_projector->toWgs84(QPointF(x, planePoint.y()));
 }
 
 QPolygonF MapEditorGeometry::projected(const MapElementRef &ref) const

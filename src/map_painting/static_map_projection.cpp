@@ -13,12 +13,7 @@ constexpr double Pole = 90.0;
 
 double periodOf(Projector &projector)
 {
-    double west = 0.0;
-    double east = 0.0;
-    double y = 0.0;
-    projector.toCartesian(&west, &y, 0.0, 10.0);
-    projector.toCartesian(&east, &y, 0.0, 10.0 + Turn);
-    const double period = east - west;
+    const double period = projector.toCartesian(0.0, 10.0 + Turn).x() - projector.toCartesian(0.0, 10.0).x();
     return std::isfinite(period) && period > 1.0 ? period : 0.0;
 }
 

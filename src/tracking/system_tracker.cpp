@@ -4,20 +4,14 @@
 
 SystemTracker::SystemTracker(const GeoCoordinate &location, const QSharedPointer<TrackManager> &trackManager,
     Projector *projector, QObject *parent)
-    : Tracker(trackManager, projector, parent)
+    : Tracker(trackManager, projector, parent), m_sensorPlanePosition(projector->toCartesian(location))
 {
-    projector->toCartesian(
-        &m_sensorPlanePosition.rx(), &m_sensorPlanePosition.ry(), location.latitude(), location.longitude());
 }
 
 void SystemTracker::placeOnPlane(Track &track, const QPointF &position, bool deriveWgs84) const
 {
     track.setCarCoordinate(position);
-    if (!deriveWgs84) {
-        return;
+    if (deriveWgs84) {
+        track.setGeoCoordinate(projector().toWgs84(position));
     }
-    double latitude = 0.0;
-    double longitude = 0.0;
-    projector().toWgs84(&latitude, &longitude, position.x(), position.y());
-    track.setGeoCoordinate({latitude, longitude});
 }

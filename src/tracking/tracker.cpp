@@ -137,8 +137,5 @@ void Tracker::project(Track &track) const
     if (!track.geoCoordinateValid()) {
         return;
     }
-    QPointF point;
-    m_projector->toCartesian(
-        &point.rx(), &point.ry(), track.geoCoordinate().latitude(), track.geoCoordinate().longitude());
-    track.setCarCoordinate(point);
+    track.setCarCoordinate(m_projector->toCartesian(track.geoCoordinate()));
 }

@@ -42,13 +42,7 @@ QLabel *StatusReadOuts::addReadOut(QStatusBar *bar, const QString &widestText, c
 
 void StatusReadOuts::showCursorPosition(const QPointF &planePoint)
 {
-    double latitude = 0.0;
-    double longitude = 0.0;
-    if (!m_projector->toWgs84(&latitude, &longitude, planePoint.x(), planePoint.y())) {
-        m_cursor->clear();
-        return;
-    }
-    m_cursor->setText(GeoCoordinate(latitude, longitude).toATCString(GeoCoordinate::NormalPrecisionSpace));
+    m_cursor->setText(m_projector->toWgs84(planePoint).toATCString(GeoCoordinate::NormalPrecisionSpace));
 }
 
 void StatusReadOuts::showZoom(double metresPerPixel)

@@ -86,6 +86,9 @@ private Q_SLOTS:
                 QVERIFY(projector->toCartesian(&x, &y, before.y(), before.x()));
                 QVERIFY(projector->toWgs84(&after.ry(), &after.rx(), x, y));
                 QVERIFY2((after - before).manhattanLength() < 2e-9, qPrintable(QString::number(before.y(), 'g', 15)));
+                QCOMPARE(projector->toCartesian(before.y(), before.x()), QPointF(x, y));
+                const GeoCoordinate place = projector->toWgs84(QPointF(x, y));
+                QCOMPARE(place, GeoCoordinate(after.y(), after.x())); // none beyond 180 degrees
             }
         }
     }
@@ -106,6 +109,7 @@ private Q_SLOTS:
             double longitude = 0.0;
             QVERIFY(projector.toWgs84(&latitude, &longitude, sign * 2.0e7, 3.0e7));
             QVERIFY(!projector.toWgs84(&latitude, &longitude, sign * 2.1e7, 0.0));
+            QVERIFY(!projector.toWgs84(QPointF(sign * 2.1e7, 0.0)).isValid());
             QVERIFY(sign * longitude > 180.0 && sign * longitude < 189.0); // written all the same
         }
     }
