@@ -6,7 +6,7 @@
 
 // What the left button and the keys do on the plan view while the tool is set there. Each handler says whether it took
 // the event; what it leaves goes the ordinary way. Positions are widget pixels; the transform goes from plane to
-// pixels. Not asked while the centre of the range rings is being placed. GUI thread.
+// pixels. GUI thread.
 class GeoPointerTool {
 public:
     virtual ~GeoPointerTool() = default;

@@ -29,7 +29,9 @@ double milliseconds(const QElapsedTimer &timer)
 
 } // namespace
 
-GeoWidget::GeoWidget(QWidget *parent) : QWidget(parent), m_repaintTimer(this)
+GeoWidget::GeoWidget(QWidget *parent)
+    : QWidget(parent), m_repaintTimer(this),
+      m_rangeRingTool([this](const QPointF &planePoint) { placeRangeRings(planePoint); })
 {
     qRegisterMetaType<PaintStats>();
     setMouseTracking(true);
@@ -229,8 +231,8 @@ void GeoWidget::changeViewPort(const QTransform &viewTransform)
 
 void GeoWidget::startSettingRangeRingsCenter()
 {
-    m_settingRangeRingsCenter = true;
-    setCursor(Qt::CrossCursor);
+    m_passingTool = &m_rangeRingTool;
+    showIdleCursor();
 }
 
 void GeoWidget::setFollowSelectedTrack(bool follow)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plan_view/range_ring_tool.h"
 #include "view/geo_view.h"
 #include "view/paint_stats.h"
 
@@ -10,7 +11,6 @@
 #include <QWidget>
 
 class GeoMapDisplay;
-class GeoPointerTool;
 class GeoTrackDisplay;
 
 // The plan view: owns the transform between the projection plane (metres, x east, y north) and the screen, paints the
@@ -38,12 +38,11 @@ public:
     // The view transform alone: from plane points with y turned over to pixels from the widget centre.
     void saveViewport(QTransform &viewTransform) const;
 
-    // True from startSettingRangeRingsCenter() to the next release of the left button.
-    bool settingRangeRingsCenter() const { return m_settingRangeRingsCenter; }
     bool followSelectedTrack() const { return m_followSelectedTrack; }
 
     // Offers the left button and the keys to the tool first; it stays the caller's, who takes it back (null) before it
-    // goes. Also to be called when the tool's cursor has changed.
+    // goes. Also to be called when the tool's cursor has changed. While the centre of the range rings is being placed,
+    // the tool rests.
     void setPointerTool(GeoPointerTool *tool);
     GeoPointerTool *pointerTool() const { return m_pointerTool; }
 
@@ -68,6 +67,7 @@ public Q_SLOTS:
     // North up; the zoom is brought into its limits.
     void setView(const double &x, const double &y, const double &zoom);
     void changeViewPort(const QTransform &viewTransform);
+    // The next release of the left button says where.
     void startSettingRangeRingsCenter();
     void setFollowSelectedTrack(bool follow);
 
@@ -112,7 +112,8 @@ private:
     void startRightDrag(const QPointF &position);
     void selectTrackAt(const QPoint &pixel);
     void dragLabel(const QPoint &delta);
-    void placeRangeRings(const QPointF &position);
+    void placeRangeRings(const QPointF &planePoint);
+    GeoPointerTool *toolAtWork() const { return m_passingTool ? m_passingTool : m_pointerTool; }
     void showIdleCursor();
     bool toolTakes(const QMouseEvent &event, bool (GeoPointerTool::*handler)(const QPointF &, const QTransform &));
 
@@ -122,11 +123,12 @@ private:
     QPointer<GeoMapDisplay> m_mapDisplay;
     QPointer<GeoTrackDisplay> m_trackDisplay;
     GeoPointerTool *m_pointerTool = nullptr; // the caller's
+    RangeRingTool m_rangeRingTool;
+    GeoPointerTool *m_passingTool = nullptr; // goes before the caller's until its work is done
     bool m_panning = false;
     bool m_draggingLabel = false;
     QPointF m_lastMousePosition;
     unsigned long long m_draggedTrack = 0; // 0: none
-    bool m_settingRangeRingsCenter = false;
     bool m_followSelectedTrack = false;
     PaintStatsCollector m_paintStats;
     QElapsedTimer m_clock;

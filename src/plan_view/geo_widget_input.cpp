@@ -1,7 +1,6 @@
 #include "display/geo_map_display.h"
 #include "display/geo_range_ring_map.h"
 #include "display/geo_track_display.h"
-#include "plan_view/geo_pointer_tool.h"
 #include "plan_view/geo_widget.h"
 
 #include <QCursor>
@@ -37,16 +36,15 @@ void GeoWidget::setPointerTool(GeoPointerTool *tool)
 bool GeoWidget::toolTakes(
     const QMouseEvent &event, bool (GeoPointerTool::*handler)(const QPointF &, const QTransform &))
 {
-    return m_pointerTool && !m_settingRangeRingsCenter
-        && (m_pointerTool->*handler)(event.position(), screenTransform());
+    GeoPointerTool *tool = toolAtWork();
+    return tool && (tool->*handler)(event.position(), screenTransform());
 }
 
 void GeoWidget::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::RightButton) {
         startRightDrag(event->position());
-    } else if (event->button() == Qt::LeftButton && !m_settingRangeRingsCenter
-        && !toolTakes(*event, &GeoPointerTool::pressed)) {
+    } else if (event->button() == Qt::LeftButton && !toolTakes(*event, &GeoPointerTool::pressed)) {
         selectTrackAt(event->position().toPoint());
     }
 }
@@ -118,29 +116,26 @@ void GeoWidget::mouseReleaseEvent(QMouseEvent *event)
         m_draggedTrack = 0;
         showIdleCursor();
         notifyViewRectChange();
-    } else if (event->button() == Qt::LeftButton && m_settingRangeRingsCenter) {
-        placeRangeRings(event->position());
     } else if (event->button() == Qt::LeftButton) {
         toolTakes(*event, &GeoPointerTool::released);
     }
 }
 
-void GeoWidget::placeRangeRings(const QPointF &position)
+void GeoWidget::placeRangeRings(const QPointF &planePoint)
 {
-    const QPointF center = screenTransform().inverted().map(position);
     if (m_mapDisplay) {
         GeoRangeRingMap *rings = m_mapDisplay->rangeRingMap();
-        rings->setRings(center, rings->number(), rings->distance());
+        rings->setRings(planePoint, rings->number(), rings->distance());
     }
-    m_settingRangeRingsCenter = false;
+    m_passingTool = nullptr;
     showIdleCursor();
-    Q_EMIT rangeRingsCenterSet(center);
+    Q_EMIT rangeRingsCenterSet(planePoint);
 }
 
 void GeoWidget::showIdleCursor()
 {
-    const Qt::CursorShape free = m_pointerTool ? m_pointerTool->cursorShape() : Qt::ArrowCursor;
-    setCursor(m_settingRangeRingsCenter ? Qt::CrossCursor : free);
+    const GeoPointerTool *tool = toolAtWork();
+    setCursor(tool ? tool->cursorShape() : Qt::ArrowCursor);
 }
 
 void GeoWidget::mouseDoubleClickEvent(QMouseEvent *event)
@@ -173,7 +168,8 @@ void GeoWidget::wheelEvent(QWheelEvent *event)
 
 void GeoWidget::keyPressEvent(QKeyEvent *event)
 {
-    if (m_pointerTool && m_pointerTool->keyPressed(*event)) {
+    GeoPointerTool *tool = toolAtWork();
+    if (tool && tool->keyPressed(*event)) {
         return;
     }
     const double step = event->modifiers().testFlag(Qt::AltModifier) ? FineKeyRotation : KeyRotation;

@@ -2,6 +2,7 @@
 #include "display/geo_range_ring_map.h"
 #include "display/geo_track_display.h"
 #include "geo/mercator_projector.h"
+#include "plan_view/geo_pointer_tool.h"
 #include "plan_view/geo_widget.h"
 #include "test_program.h"
 
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void labelDragEndsWithItsTrack();
     void leftClickSelects();
     void placesRangeRings();
+    void aToolRestsWhileTheRingsArePlaced();
     void followsTheSelectedTrack();
     void paintsMapBelowTracks();
 
@@ -49,6 +51,19 @@ bool near(const QPointF &one, const QPointF &other, double reach = 1e-6)
 {
     return QLineF(one, other).length() <= reach;
 }
+
+// Counts what it is offered, and takes all of it.
+class CountingTool final : public GeoPointerTool {
+public:
+    bool pressed(const QPointF &, const QTransform &) override { return ++events > 0; }
+    bool moved(const QPointF &, const QTransform &) override { return ++events > 0; }
+    bool released(const QPointF &, const QTransform &) override { return ++events > 0; }
+    bool doubleClicked(const QPointF &, const QTransform &) override { return ++events > 0; }
+    bool keyPressed(const QKeyEvent &) override { return ++events > 0; }
+    Qt::CursorShape cursorShape() const override { return Qt::SizeAllCursor; }
+
+    int events = 0;
+};
 
 using Pairs = QList<std::pair<double, double>>;
 
@@ -280,6 +295,22 @@ void tst_GeoWidget::placesRangeRings()
     QVERIFY(near(rings->center(), QPointF(50000, 20000)));
     QTest::mouseClick(m_widget.get(), Qt::LeftButton, {}, QPoint(20, 20));
     QCOMPARE(placed.size(), 1);
+}
+
+void tst_GeoWidget::aToolRestsWhileTheRingsArePlaced()
+{
+    CountingTool tool;
+    m_widget->setPointerTool(&tool);
+    m_widget->startSettingRangeRingsCenter();
+    m_widget->setPointerTool(&tool); // as a tool does that has another cursor now
+    QCOMPARE(m_widget->cursor().shape(), Qt::CrossCursor);
+    QTest::keyClick(m_widget.get(), Qt::Key_Delete);
+    QTest::mouseMove(m_widget.get(), QPoint(30, 30));
+    QTest::mouseClick(m_widget.get(), Qt::LeftButton, {}, QPoint(20, 20));
+    QCOMPARE(tool.events, 0);
+    QCOMPARE(m_widget->cursor().shape(), Qt::SizeAllCursor);
+    QTest::mouseClick(m_widget.get(), Qt::LeftButton, {}, QPoint(20, 20));
+    QCOMPARE(tool.events, 2);
 }
 
 void tst_GeoWidget::followsTheSelectedTrack()
