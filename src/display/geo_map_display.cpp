@@ -12,26 +12,27 @@
 #include <QElapsedTimer>
 #include <QPainter>
 
+#include <algorithm>
+
 GeoMapDisplay::GeoMapDisplay(Projector *projector, QObject *parent) : QObject(parent)
 {
-    m_staticMap = addLayer<GeoStaticMap>(projector);
-    m_weatherMap = addLayer<GeoWeatherMap>(projector);
-    m_videoMap = addLayer<GeoVideoMap>(projector);
-    m_sensorMap = addLayer<GeoSensorMap>(projector);
-    m_rangeRingMap = addLayer<GeoRangeRingMap>(projector);
-    m_mapEditorLayer = addLayer<MapEditorLayer>();
+    m_staticMap = addLayer<GeoStaticMap>(MapLayer::StaticMaps, projector);
+    m_weatherMap = addLayer<GeoWeatherMap>(MapLayer::Weather, projector);
+    m_videoMap = addLayer<GeoVideoMap>(MapLayer::Video, projector);
+    m_sensorMap = addLayer<GeoSensorMap>(MapLayer::Sensor, projector);
+    m_rangeRingMap = addLayer<GeoRangeRingMap>(MapLayer::RangeRings, projector);
+    m_mapEditorLayer = addLayer<MapEditorLayer>(MapLayer::MapEditor);
 }
 
 GeoMapDisplay::~GeoMapDisplay() = default;
 
-template <typename Layer, typename... Arguments>
-Layer *GeoMapDisplay::addLayer(Arguments &&...arguments)
+void GeoMapDisplay::insertLayer(MapLayer place, std::unique_ptr<GeoLayer> layer)
 {
-    auto layer = std::make_unique<Layer>(std::forward<Arguments>(arguments)...);
-    Layer *added = layer.get();
-    connect(added, &GeoLayer::polluted, this, &GeoMapDisplay::polluted);
-    m_layers.push_back({std::move(layer), 0.0});
-    return added;
+    connect(layer.get(), &GeoLayer::polluted, this, &GeoMapDisplay::polluted);
+    const auto above = std::upper_bound(m_layers.begin(), m_layers.end(), place,
+        [](MapLayer added, const Entry &entry) { return added < entry.place; });
+    m_layers.insert(above, Entry{place, std::move(layer)});
+    Q_EMIT polluted();
 }
 
 void GeoMapDisplay::paint(QPainter &painter)

@@ -20,6 +20,9 @@ class MapEditorLayer;
 class Projector;
 class SensorInfo;
 
+// The layers' places in the drawing order, bottom first. A new layer is a place here and an addLayer().
+enum class MapLayer { StaticMaps, Weather, Video, Sensor, RangeRings, MapEditor };
+
 // The ground colour and the map layers over it, in drawing order. GUI thread only.
 class GeoMapDisplay final : public QObject {
     Q_OBJECT
@@ -39,6 +42,16 @@ public:
     void paint(QPainter &painter, const GeoView &view);
     // The same for the view that the painter shows.
     void paint(QPainter &painter);
+
+    // Makes a layer at its place, over any that is there already. It becomes the display's.
+    template <typename Layer, typename... Arguments>
+    Layer *addLayer(MapLayer place, Arguments &&...arguments)
+    {
+        auto layer = std::make_unique<Layer>(std::forward<Arguments>(arguments)...);
+        Layer *added = layer.get();
+        insertLayer(place, std::move(layer));
+        return added;
+    }
 
     // Owned by the display, never null.
     GeoStaticMap *staticMap() const { return m_staticMap; }
@@ -64,12 +77,12 @@ Q_SIGNALS:
 
 private:
     struct Entry {
+        MapLayer place;
         std::unique_ptr<GeoLayer> layer;
         double milliseconds = 0.0;
     };
 
-    template <typename Layer, typename... Arguments>
-    Layer *addLayer(Arguments &&...arguments);
+    void insertLayer(MapLayer place, std::unique_ptr<GeoLayer> layer);
 
     std::vector<Entry> m_layers; // bottom first
     GeoStaticMap *m_staticMap = nullptr;

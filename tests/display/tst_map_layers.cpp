@@ -7,6 +7,7 @@
 #include "painted_view.h"
 #include "sensors/radar_sensor_info.h"
 #include "test_program.h"
+#include "view/geo_layer.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -41,16 +42,11 @@ private Q_SLOTS:
     void sweepMeasuresItsPeriod();
     void ringsLieAtTheirTrueDistances();
     void takesTheConfiguration();
+    void aLayerPaintsAtItsPlace();
 
 private:
     // The site of the sensor in the plane.
-    QPointF plane(const GeoCoordinate &place)
-    {
-        double x = 0.0;
-        double y = 0.0;
-        m_projector.toCartesian(&x, &y, place.latitude(), place.longitude());
-        return QPointF(x, y);
-    }
+    QPointF plane(const GeoCoordinate &place) { return m_projector.toCartesian(place); }
 
     QPointF pixel(const PaintedView &view, const GeoCoordinate &from, double miles, double azimuth)
     {
@@ -199,6 +195,27 @@ void tst_MapLayers::takesTheConfiguration()
     display.setSensor(radar(0, 100));
     display.applyConfig(config);
     QCOMPARE(display.rangeRingMap()->center(), QPointF(1.0, 2.0));
+}
+
+void tst_MapLayers::aLayerPaintsAtItsPlace()
+{
+    class Sheet final : public GeoLayer {
+    public:
+        explicit Sheet(const QColor &color) : GeoLayer(QStringLiteral("Sheet")), m_color(color) { }
+        void paint(QPainter &painter, const GeoView &view) override { painter.fillRect(view.planeRect(), m_color); }
+
+    private:
+        QColor m_color;
+    };
+    const auto shown = [this](MapLayer first, MapLayer second) {
+        GeoMapDisplay display(&m_projector);
+        display.addLayer<Sheet>(first, Qt::red);
+        display.addLayer<Sheet>(second, Qt::blue);
+        return painted(display).at(QPoint(10, 10));
+    };
+    QCOMPARE(shown(MapLayer::RangeRings, MapLayer::StaticMaps), QColor(Qt::red));
+    QCOMPARE(shown(MapLayer::StaticMaps, MapLayer::RangeRings), QColor(Qt::blue));
+    QCOMPARE(shown(MapLayer::Video, MapLayer::Video), QColor(Qt::blue));
 }
 
 VYX_TEST(tst_MapLayers)
