@@ -1,7 +1,6 @@
 #include "ui/alert_list_model.h"
 
 #include "tracking/alert.h"
-#include "widgets/figure_font.h"
 #include "widgets/text_colors.h"
 
 #include <QBrush>
@@ -38,63 +37,34 @@ QVariant timeOrNone(const QDateTime &time)
 
 } // namespace
 
-AlertListModel::AlertListModel(QObject *parent) : RecordTableModel(parent), m_figures(figureFont()) { }
-
-int AlertListModel::columnCount(const QModelIndex &parent) const
+// In the order of Column.
+QList<ListColumn> AlertListModel::makeColumns()
 {
-    return parent.isValid() ? 0 : ColumnCount;
+    return {
+        {tr("Alert"), {}, "MSAW"},
+        {tr("Track"), {}, "WWWW9999"},
+        {tr("Other Track"), {}, "WWWW9999"},
+        {tr("Area"), {}, "WWWWWWWWWW"},
+        {tr("State"), {}, tr("Terminated")},
+        {tr("Begin UTC"), {}, "00:00:00"},
+        {tr("End UTC"), {}, "00:00:00"},
+    };
 }
 
-QVariant AlertListModel::data(const QModelIndex &index, int role) const
+AlertListModel::AlertListModel(QObject *parent) : RecordTableModel(makeColumns(), parent)
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
-        return {};
-    }
-    const AlertListEntry &entry = record(index.row());
-    switch (role) {
-    case Qt::DisplayRole:
-        return text(entry, index.column());
-    case SortRole:
-        return sortValue(entry, index.column());
-    case Qt::ForegroundRole:
-        return entry.state == Alert::Active ? QVariant(QBrush(alarmTextColor(QGuiApplication::palette()))) : QVariant();
-    case Qt::FontRole:
-        return m_figures;
-    default:
-        return {};
-    }
+    Q_ASSERT(columnCount() == ColumnCount);
 }
 
-QVariant AlertListModel::headerData(int section, Qt::Orientation orientation, int role) const
+QVariant AlertListModel::look(const AlertListEntry &entry, int, int role) const
 {
-    static const char *const titles[] = {QT_TR_NOOP("Alert"), QT_TR_NOOP("Track"), QT_TR_NOOP("Other Track"),
-        QT_TR_NOOP("Area"), QT_TR_NOOP("State"), QT_TR_NOOP("Begin UTC"), QT_TR_NOOP("End UTC")};
-    static_assert(std::size(titles) == ColumnCount);
-    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount) {
-        return {};
-    }
-    if (role == Qt::TextAlignmentRole) {
-        return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
-    }
-    return role == Qt::DisplayRole ? QVariant(tr(titles[section])) : QVariant();
-}
-
-QStringList AlertListModel::widestTexts()
-{
-    return {"MSAW", "WWWW9999", "WWWW9999", "WWWWWWWWWW", tr("Terminated"), "00:00:00", "00:00:00"};
+    const bool alarm = role == Qt::ForegroundRole && entry.state == Alert::Active;
+    return alarm ? QVariant(QBrush(alarmTextColor(QGuiApplication::palette()))) : QVariant();
 }
 
 void AlertListModel::setAlerts(const QList<AlertSnapshot> &alerts)
 {
-    std::vector<AlertListEntry> entries;
-    entries.reserve(static_cast<std::size_t>(alerts.size()));
-    std::transform(alerts.cbegin(), alerts.cend(), std::back_inserter(entries), entryFor);
-    replaceRecords(std::move(entries), &AlertListEntry::id);
-}
-
-void AlertListModel::clear()
-{
-    replaceRecords({}, &AlertListEntry::id);
+    showSnapshots(alerts, entryFor);
 }
 
 quint64 AlertListModel::trackId(int row) const
@@ -134,9 +104,7 @@ QVariant AlertListModel::sortValue(const AlertListEntry &entry, int column) cons
         return timeOrNone(entry.startTime);
     case End:
         return timeOrNone(entry.endTime);
-    default: {
-        const QString shown = text(entry, column);
-        return shown.isEmpty() ? QVariant() : QVariant(shown);
-    }
+    default:
+        return RecordTableModel::sortValue(entry, column);
     }
 }

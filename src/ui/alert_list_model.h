@@ -4,8 +4,6 @@
 #include "ui/record_table_model.h"
 
 #include <QDateTime>
-#include <QFont>
-#include <QStringList>
 
 // What the list shows of one alert.
 struct AlertListEntry {
@@ -25,7 +23,7 @@ struct AlertListEntry {
 };
 
 // The alerts of the newest snapshot, one a row.
-class AlertListModel final : public RecordTableModel<AlertListEntry, unsigned int> {
+class AlertListModel final : public RecordTableModel<AlertListEntry, &AlertListEntry::id> {
     Q_OBJECT
 
 public:
@@ -33,22 +31,16 @@ public:
 
     explicit AlertListModel(QObject *parent = nullptr);
 
-    int columnCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-
-    // A text per column that its width should hold.
-    static QStringList widestTexts();
-
     void setAlerts(const QList<AlertSnapshot> &alerts);
-    void clear();
 
     // The first of the alert's tracks that the terminal holds; 0 when it holds neither.
     quint64 trackId(int row) const;
 
-private:
-    QString text(const AlertListEntry &entry, int column) const;
-    QVariant sortValue(const AlertListEntry &entry, int column) const;
+protected:
+    QString text(const AlertListEntry &entry, int column) const override;
+    QVariant sortValue(const AlertListEntry &entry, int column) const override;
+    QVariant look(const AlertListEntry &entry, int column, int role) const override;
 
-    QFont m_figures;
+private:
+    static QList<ListColumn> makeColumns();
 };

@@ -1,6 +1,7 @@
 #include "ui/list_view.h"
 
 #include "ui/list_sort_model.h"
+#include "ui/record_table_model.h"
 #include "widgets/figure_font.h"
 #include "widgets/text_colors.h"
 
@@ -57,7 +58,7 @@ public:
 
 } // namespace
 
-ListView::ListView(QAbstractItemModel *model, const QStringList &widestTexts, QWidget *parent)
+ListView::ListView(QAbstractItemModel *model, const QList<ListColumn> &columns, QWidget *parent)
     : QTableView(parent), m_sorted(new ListSortModel(model, this))
 {
     setModel(m_sorted);
@@ -76,18 +77,18 @@ ListView::ListView(QAbstractItemModel *model, const QStringList &widestTexts, QW
     verticalHeader()->setDefaultSectionSize(QFontMetrics(figureFont()).height() + 4);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);
-    fitColumns(widestTexts);
+    fitColumns(columns);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListView::selectedRowChanged);
     connect(m_sorted, &QAbstractItemModel::rowsInserted, viewport(), qOverload<>(&QWidget::update));
     connect(m_sorted, &QAbstractItemModel::rowsRemoved, viewport(), qOverload<>(&QWidget::update));
 }
 
-void ListView::fitColumns(const QStringList &widestTexts)
+void ListView::fitColumns(const QList<ListColumn> &columns)
 {
     const QFontMetrics figures(figureFont());
-    for (int column = 0; column < widestTexts.size(); ++column) {
+    for (int column = 0; column < columns.size(); ++column) {
         const int title = horizontalHeader()->sectionSizeHint(column);
-        const int content = figures.horizontalAdvance(widestTexts[column]) + 2 * cellPadding + 2;
+        const int content = figures.horizontalAdvance(columns[column].widestText) + 2 * cellPadding + 2;
         horizontalHeader()->resizeSection(column, std::max(title, content));
     }
 }

@@ -3,6 +3,7 @@
 #include <QTableView>
 
 class ListSortModel;
+struct ListColumn;
 
 // The table of a list pane: one selected row at most, sorted by a click on a header, and a text in the place of the
 // rows while there are none. Rows are numbered as in the model that it was given, not as they stand on the screen.
@@ -10,8 +11,8 @@ class ListView final : public QTableView {
     Q_OBJECT
 
 public:
-    // The model stays the caller's. Columns become wide enough for their titles and for widestTexts.
-    ListView(QAbstractItemModel *model, const QStringList &widestTexts, QWidget *parent = nullptr);
+    // The model stays the caller's. Columns become wide enough for their titles and their widest texts.
+    ListView(QAbstractItemModel *model, const QList<ListColumn> &columns, QWidget *parent = nullptr);
 
     void setEmptyText(const QString &text);
     QString emptyText() const { return m_emptyText; }
@@ -30,7 +31,7 @@ protected:
     void rowsAboutToBeRemoved(const QModelIndex &parent, int start, int end) override;
 
 private:
-    void fitColumns(const QStringList &widestTexts);
+    void fitColumns(const QList<ListColumn> &columns);
 
     ListSortModel *m_sorted; // a child
     QString m_emptyText;

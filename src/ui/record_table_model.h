@@ -1,59 +1,140 @@
 #pragma once
 
+#include "widgets/figure_font.h"
+
 #include <QAbstractTableModel>
+#include <QFont>
 #include <QHash>
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 #include <vector>
+
+// One column of a list: texts as they are shown.
+struct ListColumn {
+    QString title;
+    QString explanation; // the header's tool tip; may be empty
+    QString widestText; // that the column's width should hold
+    Qt::Alignment alignment = Qt::AlignLeft;
+};
 
 // Rows of records that are replaced as a whole once a second. A record keeps its row while its key lasts, so that
 // selection, current row and scroll position of the views stay with it; views are told only of rows that came, went or
-// changed. Record needs operator==.
-template <typename Record, typename Key>
+// changed. Record needs operator==; Key is the member that tells one from another.
+template <typename Record, auto Key>
 class RecordTableModel : public QAbstractTableModel {
+    using KeyType = std::decay_t<decltype(std::declval<Record>().*Key)>;
+
 public:
     // For a proxy: the value to sort by; invalid where the record has none.
     static constexpr int SortRole = Qt::UserRole;
 
-    using QAbstractTableModel::QAbstractTableModel;
+    RecordTableModel(QList<ListColumn> columns, QObject *parent)
+        : QAbstractTableModel(parent), m_columns(std::move(columns)), m_figures(figureFont())
+    {
+    }
 
     int rowCount(const QModelIndex &parent = {}) const final
     {
         return parent.isValid() ? 0 : static_cast<int>(m_records.size());
     }
 
+    int columnCount(const QModelIndex &parent = {}) const final
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+    }
+
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const final
+    {
+        if (orientation != Qt::Horizontal || section < 0 || section >= m_columns.size()) {
+            return {};
+        }
+        switch (role) {
+        case Qt::DisplayRole:
+            return m_columns[section].title;
+        case Qt::ToolTipRole:
+            return textOrNone(m_columns[section].explanation);
+        case Qt::TextAlignmentRole:
+            return alignment(section);
+        default:
+            return {};
+        }
+    }
+
+    QVariant data(const QModelIndex &index, int role) const final
+    {
+        if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+            return {};
+        }
+        switch (role) {
+        case Qt::DisplayRole:
+            return text(record(index.row()), index.column());
+        case SortRole:
+            return sortValue(record(index.row()), index.column());
+        case Qt::FontRole:
+            return m_figures;
+        case Qt::TextAlignmentRole:
+            return alignment(index.column());
+        default:
+            return look(record(index.row()), index.column(), role);
+        }
+    }
+
+    const QList<ListColumn> &columns() const { return m_columns; }
+
+    void clear() { replaceRecords({}); }
+
     const Record &record(int row) const { return m_records[static_cast<std::size_t>(row)]; }
-    std::optional<int> rowOf(Key key) const
+    std::optional<int> rowOf(KeyType key) const
     {
         const auto found = m_rows.constFind(key);
         return found == m_rows.cend() ? std::nullopt : std::optional<int>(*found);
     }
 
 protected:
-    // Keys must differ from each other.
-    void replaceRecords(std::vector<Record> records, Key Record::*key)
+    virtual QString text(const Record &record, int column) const = 0;
+    // Invalid where the record has none.
+    virtual QVariant sortValue(const Record &record, int column) const { return textOrNone(text(record, column)); }
+    // Colours, decorations and tool tips.
+    virtual QVariant look(const Record &record, int column, int role) const = 0;
+
+    static QVariant textOrNone(const QString &text) { return text.isEmpty() ? QVariant() : QVariant(text); }
+
+    // Makes the records of what a snapshot holds. Keys must differ from each other.
+    template <typename Snapshot, typename Make>
+    void showSnapshots(const QList<Snapshot> &snapshots, Make make)
     {
-        QHash<Key, std::size_t> incoming;
-        incoming.reserve(static_cast<qsizetype>(records.size()));
-        for (std::size_t i = 0; i < records.size(); ++i) {
-            incoming.insert(records[i].*key, i);
-        }
-        removeAllBut(incoming, key);
-        updateRecords(records, incoming, key);
-        appendRemaining(records, incoming);
-        indexRows(key);
+        std::vector<Record> records;
+        records.reserve(static_cast<std::size_t>(snapshots.size()));
+        std::transform(snapshots.cbegin(), snapshots.cend(), std::back_inserter(records), make);
+        replaceRecords(std::move(records));
     }
 
 private:
-    void removeAllBut(const QHash<Key, std::size_t> &incoming, Key Record::*key)
+    QVariant alignment(int column) const { return QVariant::fromValue(m_columns[column].alignment | Qt::AlignVCenter); }
+
+    void replaceRecords(std::vector<Record> records)
+    {
+        QHash<KeyType, std::size_t> incoming;
+        incoming.reserve(static_cast<qsizetype>(records.size()));
+        for (std::size_t i = 0; i < records.size(); ++i) {
+            incoming.insert(records[i].*Key, i);
+        }
+        removeAllBut(incoming);
+        updateRecords(records, incoming);
+        appendRemaining(records, incoming);
+        indexRows();
+    }
+
+    void removeAllBut(const QHash<KeyType, std::size_t> &incoming)
     {
         for (int last = rowCount() - 1; last >= 0; --last) {
-            if (incoming.contains(record(last).*key)) {
+            if (incoming.contains(record(last).*Key)) {
                 continue;
             }
             int first = last;
-            while (first > 0 && !incoming.contains(record(first - 1).*key)) {
+            while (first > 0 && !incoming.contains(record(first - 1).*Key)) {
                 --first;
             }
             beginRemoveRows({}, first, last);
@@ -64,13 +145,13 @@ private:
     }
 
     // Tells of one span from the first to the last changed row: a proxy sorts once for it, however many rows it holds.
-    void updateRecords(std::vector<Record> &records, QHash<Key, std::size_t> &incoming, Key Record::*key)
+    void updateRecords(std::vector<Record> &records, QHash<KeyType, std::size_t> &incoming)
     {
         int first = -1;
         int last = -1;
         for (int row = 0; row < rowCount(); ++row) {
             Record &held = m_records[static_cast<std::size_t>(row)];
-            Record &next = records[incoming.take(held.*key)];
+            Record &next = records[incoming.take(held.*Key)];
             if (held == next) {
                 continue;
             }
@@ -83,7 +164,7 @@ private:
         }
     }
 
-    void appendRemaining(std::vector<Record> &records, const QHash<Key, std::size_t> &remaining)
+    void appendRemaining(std::vector<Record> &records, const QHash<KeyType, std::size_t> &remaining)
     {
         if (remaining.isEmpty()) {
             return;
@@ -97,15 +178,17 @@ private:
         endInsertRows();
     }
 
-    void indexRows(Key Record::*key)
+    void indexRows()
     {
         m_rows.clear();
         m_rows.reserve(static_cast<qsizetype>(m_records.size()));
         for (int row = 0; row < rowCount(); ++row) {
-            m_rows.insert(record(row).*key, row);
+            m_rows.insert(record(row).*Key, row);
         }
     }
 
+    const QList<ListColumn> m_columns;
+    const QFont m_figures;
     std::vector<Record> m_records;
-    QHash<Key, int> m_rows;
+    QHash<KeyType, int> m_rows;
 };

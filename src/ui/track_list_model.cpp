@@ -1,7 +1,6 @@
 #include "ui/track_list_model.h"
 
 #include "tracking/track.h"
-#include "widgets/figure_font.h"
 #include "widgets/text_colors.h"
 
 #include <QBrush>
@@ -44,99 +43,49 @@ QString rateText(int feetPerMinute)
     return (feetPerMinute > 0 ? QString("+%1") : QString("%1")).arg(feetPerMinute);
 }
 
-QVariant textOrNone(const QString &text)
-{
-    return text.isEmpty() ? QVariant() : QVariant(text);
-}
-
 QVariant numberOrNone(const std::optional<int> &number)
 {
     return number ? QVariant(*number) : QVariant();
 }
 
-bool isNumeric(int column)
-{
-    switch (column) {
-    case TrackListModel::Level:
-    case TrackListModel::GroundSpeed:
-    case TrackListModel::Heading:
-    case TrackListModel::VerticalRate:
-    case TrackListModel::TrackNumber:
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
-TrackListModel::TrackListModel(QObject *parent) : RecordTableModel(parent), m_figures(figureFont()) { }
-
-int TrackListModel::columnCount(const QModelIndex &parent) const
+// In the order of Column.
+QList<ListColumn> TrackListModel::makeColumns()
 {
-    return parent.isValid() ? 0 : ColumnCount;
+    return {
+        {tr("Callsign"), tr("Aircraft identification"), "WWWW9999"},
+        {tr("Reg"), tr("Country of registration, by the aircraft address"), "WWWWWWW"},
+        {tr("Squawk"), tr("Mode 3/A code"), "7777GS"},
+        {tr("Level"), tr("Flight level and vertical trend"), QString("000%1").arg(QChar(0x2191)), Qt::AlignRight},
+        {tr("Speed"), tr("Ground speed, knots"), "9999", Qt::AlignRight},
+        {tr("Hdg"), tr("Track over ground, degrees"), "360", Qt::AlignRight},
+        {tr("Rate"), tr("Vertical rate, feet per minute"), "-9999", Qt::AlignRight},
+        {tr("Type"), tr("What sees the track"), tr("SDPS Mode S")},
+        {tr("State"), tr("Life state"), tr("Terminated")},
+        {tr("Address"), tr("24-bit aircraft address"), "AAAAAA"},
+        {tr("Number"), tr("Track number"), "99999", Qt::AlignRight},
+        {tr("Alert"), tr("Active safety-net alerts"), "MSAW STCA"},
+    };
 }
 
-QVariant TrackListModel::data(const QModelIndex &index, int role) const
+TrackListModel::TrackListModel(QObject *parent) : RecordTableModel(makeColumns(), parent)
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
-        return {};
-    }
-    const TrackListEntry &entry = record(index.row());
+    Q_ASSERT(columnCount() == ColumnCount);
+}
+
+QVariant TrackListModel::look(const TrackListEntry &entry, int column, int role) const
+{
     switch (role) {
-    case Qt::DisplayRole:
-        return text(entry, index.column());
-    case SortRole:
-        return sortValue(entry, index.column());
     case Qt::ForegroundRole:
         return foreground(entry);
-    case Qt::FontRole:
-        return m_figures;
     case Qt::DecorationRole:
-        return index.column() == Country ? flag(entry) : QVariant();
+        return column == Country ? flag(entry) : QVariant();
     case Qt::ToolTipRole:
-        return index.column() == Country ? textOrNone(entry.countryName) : QVariant();
-    case Qt::TextAlignmentRole:
-        return QVariant::fromValue(
-            isNumeric(index.column()) ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
+        return column == Country ? textOrNone(entry.countryName) : QVariant();
     default:
         return {};
     }
-}
-
-QVariant TrackListModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    static const char *const titles[] = {QT_TR_NOOP("Callsign"), QT_TR_NOOP("Reg"), QT_TR_NOOP("Squawk"),
-        QT_TR_NOOP("Level"), QT_TR_NOOP("Speed"), QT_TR_NOOP("Hdg"), QT_TR_NOOP("Rate"), QT_TR_NOOP("Type"),
-        QT_TR_NOOP("State"), QT_TR_NOOP("Address"), QT_TR_NOOP("Number"), QT_TR_NOOP("Alert")};
-    static_assert(std::size(titles) == ColumnCount);
-    static const char *const explanations[] = {QT_TR_NOOP("Aircraft identification"),
-        QT_TR_NOOP("Country of registration, by the aircraft address"), QT_TR_NOOP("Mode 3/A code"),
-        QT_TR_NOOP("Flight level and vertical trend"), QT_TR_NOOP("Ground speed, knots"),
-        QT_TR_NOOP("Track over ground, degrees"), QT_TR_NOOP("Vertical rate, feet per minute"),
-        QT_TR_NOOP("What sees the track"), QT_TR_NOOP("Life state"), QT_TR_NOOP("24-bit aircraft address"),
-        QT_TR_NOOP("Track number"), QT_TR_NOOP("Active safety-net alerts")};
-    static_assert(std::size(explanations) == ColumnCount);
-    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount) {
-        return {};
-    }
-    switch (role) {
-    case Qt::DisplayRole:
-        return tr(titles[section]);
-    case Qt::ToolTipRole:
-        return tr(explanations[section]);
-    case Qt::TextAlignmentRole:
-        return QVariant::fromValue(
-            isNumeric(section) ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
-    default:
-        return {};
-    }
-}
-
-QStringList TrackListModel::widestTexts()
-{
-    return {"WWWW9999", "WWWWWWW", "7777GS", QString("000%1").arg(QChar(0x2191)), "9999", "360", "-9999",
-        tr("SDPS Mode S"), tr("Terminated"), "AAAAAA", "99999", "MSAW STCA"};
 }
 
 TrackListEntry TrackListModel::entryFor(const TrackSnapshot &track) const
@@ -174,16 +123,7 @@ TrackListEntry TrackListModel::entryFor(const TrackSnapshot &track) const
 
 void TrackListModel::setTracks(const QList<TrackSnapshot> &tracks)
 {
-    std::vector<TrackListEntry> entries;
-    entries.reserve(static_cast<std::size_t>(tracks.size()));
-    std::transform(tracks.cbegin(), tracks.cend(), std::back_inserter(entries),
-        [this](const TrackSnapshot &track) { return entryFor(track); });
-    replaceRecords(std::move(entries), &TrackListEntry::incarnationId);
-}
-
-void TrackListModel::clear()
-{
-    replaceRecords({}, &TrackListEntry::incarnationId);
+    showSnapshots(tracks, [this](const TrackSnapshot &track) { return entryFor(track); });
 }
 
 QString TrackListModel::text(const TrackListEntry &entry, int column) const
@@ -234,7 +174,7 @@ QVariant TrackListModel::sortValue(const TrackListEntry &entry, int column) cons
     case TrackNumber:
         return entry.trackNumber;
     default:
-        return textOrNone(text(entry, column));
+        return RecordTableModel::sortValue(entry, column);
     }
 }
 

@@ -4,10 +4,8 @@
 #include "tracking/track_snapshot.h"
 #include "ui/record_table_model.h"
 
-#include <QFont>
 #include <QHash>
 #include <QPixmap>
-#include <QStringList>
 
 // What the list shows of one track. Numbers are held as they are shown, so that a row counts as changed only when its
 // text changes.
@@ -32,7 +30,7 @@ struct TrackListEntry {
 };
 
 // The tracks of the newest snapshot, one a row.
-class TrackListModel final : public RecordTableModel<TrackListEntry, quint64> {
+class TrackListModel final : public RecordTableModel<TrackListEntry, &TrackListEntry::incarnationId> {
     Q_OBJECT
 
 public:
@@ -54,29 +52,24 @@ public:
 
     explicit TrackListModel(QObject *parent = nullptr);
 
-    int columnCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-
-    // A text per column that its width should hold.
-    static QStringList widestTexts();
-
     // Where the countries of registration are looked up, from the next tracks on.
     void setAddresses(const korvane::airdb::ICAOAddrDictionary &addresses) { m_addresses = addresses; }
 
     void setTracks(const QList<TrackSnapshot> &tracks);
-    void clear();
 
     quint64 trackId(int row) const { return record(row).incarnationId; }
 
+protected:
+    QString text(const TrackListEntry &entry, int column) const override;
+    QVariant sortValue(const TrackListEntry &entry, int column) const override;
+    QVariant look(const TrackListEntry &entry, int column, int role) const override;
+
 private:
-    QString text(const TrackListEntry &entry, int column) const;
-    QVariant sortValue(const TrackListEntry &entry, int column) const;
+    static QList<ListColumn> makeColumns();
     QVariant foreground(const TrackListEntry &entry) const;
     QVariant flag(const TrackListEntry &entry) const;
     TrackListEntry entryFor(const TrackSnapshot &track) const;
 
     korvane::airdb::ICAOAddrDictionary m_addresses;
     mutable QHash<QString, QPixmap> m_flags; // by country, as they are asked for
-    QFont m_figures;
 };

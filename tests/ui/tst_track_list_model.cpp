@@ -154,7 +154,7 @@ void TestTrackListModel::sorts()
 void TestTrackListModel::selectionStaysWithItsTrack()
 {
     TrackListModel model;
-    ListView view(&model, TrackListModel::widestTexts());
+    ListView view(&model, model.columns());
     view.sortByColumn(TrackListModel::Level, Qt::AscendingOrder);
     model.setTracks({track(1, "A", 1000), track(2, "B", 2000), track(3, "C", 3000)});
     view.selectRow(*model.rowOf(2));
