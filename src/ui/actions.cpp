@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace {
 
@@ -212,6 +213,19 @@ void Actions::makeAction(const ActionSpec &spec, QMainWindow *window)
         bar->addSeparator();
     }
     bar->addAction(action);
+}
+
+QMenu *Actions::setMenu(ActionId id, QMenu *menu)
+{
+    QAction *action = (*this)[id];
+    QMenu *before = action->menu();
+    action->setMenu(menu);
+    for (const QToolBar *bar : m_toolBars) {
+        if (auto *button = qobject_cast<QToolButton *>(bar->widgetForAction(action))) {
+            button->setPopupMode(QToolButton::InstantPopup);
+        }
+    }
+    return before;
 }
 
 void Actions::setToolBarText(bool wanted)

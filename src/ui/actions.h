@@ -95,6 +95,10 @@ public:
     QMenu *menu(MenuId id) const { return m_menus[static_cast<std::size_t>(id)]; }
     QToolBar *toolBar(ToolBarId id) const { return m_toolBars[static_cast<std::size_t>(id)]; }
 
+    // Puts the menu behind an action, in the menu bar and under its tool button. The menu that was there before, or
+    // null, is left to the caller.
+    QMenu *setMenu(ActionId id, QMenu *menu);
+
     // Shows the icon texts beside the icons of the tool bars, as long as the window is wide enough for all of them, or
     // the icons alone.
     void setToolBarText(bool wanted);

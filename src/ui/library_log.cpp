@@ -2,23 +2,25 @@
 
 #include "asterix/asterix.h"
 #include "modes/log.h"
-#include "ui/main_window.h"
 
 #include <QMutex>
+#include <QObject>
+
+#include <utility>
 
 namespace {
 
-QMutex windowMutex;
-MainWindow *logWindow = nullptr; // under the mutex
+QMutex sinkMutex;
+QObject *sinkReceiver = nullptr; // these two under the mutex
+LibraryLog::Sink sink;
 
 void show(LogLevel level, const QString &text)
 {
-    const QMutexLocker lock(&windowMutex);
-    if (!logWindow) {
-        return;
+    const QMutexLocker lock(&sinkMutex);
+    if (sinkReceiver) {
+        QMetaObject::invokeMethod(
+            sinkReceiver, [to = sink, level, text] { to(level, text); }, Qt::QueuedConnection);
     }
-    QMetaObject::invokeMethod(
-        logWindow, [window = logWindow, level, text] { window->showLog(level, text); }, Qt::QueuedConnection);
 }
 
 // Mode S chatter is for debugging, whatever level it has in the library.
@@ -32,10 +34,11 @@ public:
 
 } // namespace
 
-void LibraryLog::setWindow(MainWindow *window)
+void LibraryLog::setSink(QObject *receiver, Sink newSink)
 {
-    const QMutexLocker lock(&windowMutex);
-    logWindow = window;
+    const QMutexLocker lock(&sinkMutex);
+    sinkReceiver = receiver;
+    sink = std::move(newSink);
 }
 
 void LibraryLog::logAsterix(int level, const char *text)

@@ -1,12 +1,21 @@
 #pragma once
 
-class MainWindow;
+#include "app/log_level.h"
+
+#include <QString>
+
+#include <functional>
+
+class QObject;
 
 // Carries the log lines of the decoding libraries, from whatever thread they come, into the application log.
 namespace LibraryLog {
 
-// The window that shows the log; null drops the lines. A window takes itself out before it goes.
-void setWindow(MainWindow *window);
+using Sink = std::function<void(LogLevel level, const QString &text)>;
+
+// Lines go to the sink by queued calls in the receiver's thread. Without a receiver they are dropped; one takes itself
+// out before it goes.
+void setSink(QObject *receiver, Sink sink);
 
 // The handler of the ASTERIX library. Levels are the library's, text is UTF-8. Any thread.
 void logAsterix(int level, const char *text);

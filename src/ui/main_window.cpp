@@ -3,25 +3,31 @@
 #include "airdb/lib_air_db.h"
 #include "app/app_log.h"
 #include "app/app_paths.h"
+#include "app/map_places.h"
 #include "asterix/asterix.h"
 #include "display/geo_map_display.h"
-#include "display/geo_range_ring_map.h"
 #include "display/geo_sensor_map.h"
 #include "display/geo_track_display.h"
+#include "display/geo_video_map.h"
+#include "display/geo_weather_map.h"
 #include "engine/data_engine.h"
-#include "maps/map_library.h"
 #include "plan_view/geo_widget.h"
 #include "sensors/sensor_manager.h"
 #include "settings/track_label_format_window.h"
 #include "ui/actions.h"
-#include "ui/alert_list_model.h"
+#include "ui/home_view.h"
+#include "ui/input_session.h"
+#include "ui/layout_menu.h"
 #include "ui/library_log.h"
-#include "ui/list_view.h"
+#include "ui/list_panes.h"
 #include "ui/log_pane.h"
+#include "ui/map_windows.h"
 #include "ui/range_ring_window.h"
+#include "ui/replay_controls.h"
 #include "ui/scope_notice.h"
+#include "ui/snapshot_pump.h"
+#include "ui/stats_window.h"
 #include "ui/status_read_outs.h"
-#include "ui/track_list_model.h"
 #include "ui/weather_intensity_window.h"
 
 #include <QAction>
@@ -32,11 +38,19 @@
 #include <QStatusBar>
 
 namespace {
-constexpr int pullIntervalMs = 100;
-constexpr int listIntervalMs = 1000;
-constexpr int clockIntervalMs = 500;
-constexpr int dropStatsIntervalMs = 60000;
-constexpr int statusMessageMs = 8000;
+
+constexpr int ClockIntervalMs = 500;
+constexpr int StatusMessageMs = 8000;
+
+// The layers that an action shows and hides.
+constexpr std::pair<ActionId, bool Config::*> LayerToggles[] = {
+    {ActionId::ToggleStaticMaps, &Config::mapStaticVisible},
+    {ActionId::ToggleSensorMap, &Config::mapSensorVisible},
+    {ActionId::ToggleWeatherMap, &Config::mapWeatherVisible},
+    {ActionId::ToggleVideoMap, &Config::mapVideoVisible},
+    {ActionId::ToggleRangeRings, &Config::mapRangeRingVisible},
+};
+
 } // namespace
 
 MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *parent)
@@ -48,43 +62,35 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     }
     makeDisplay();
     makeFurniture();
-    makeDocks();
-    if (isDebugMode()) {
-        setLogLevel(LogLevel::Debug);
-        showLog(LogLevel::Debug, tr("Debug functions enabled"));
-    }
-    ast_library_init();
-    LibraryLog::setWindow(this);
-    LibraryLog::install(isDebugMode());
-
+    makeMessagesDock();
+    makeParts();
+    routeLibraryLogs();
     connectEngine();
+    connectSession();
     connectDisplay();
     connectInputActions();
-    connectReplay();
     connectViewActions();
     connectTrackActions();
     connectMapActions();
-    connectRadarPicture();
-    connectStaticMaps();
-    connectLayouts();
+    connectMapWindows();
     connectDialogActions();
     loadSensorDatabase();
     loadAircraftDatabase();
     applyConfig();
     applySensor();
-    setInputState(InputState::Closed);
+    showSession();
     m_host.start();
-    startTimers();
+    m_pump->start();
+    connect(&m_clockTimer, &QTimer::timeout, this, &MainWindow::updateClock);
+    m_clockTimer.start(ClockIntervalMs);
 }
 
 MainWindow::~MainWindow()
 {
-    LibraryLog::setWindow(nullptr);
-    // The docks are hidden when the base class goes, after the members that their lists are made of.
-    for (QDockWidget *dock : {m_trackDock, m_alertDock}) {
-        disconnect(dock, nullptr, this, nullptr);
+    LibraryLog::setSink(nullptr, {});
+    if (m_host.engine()) {
+        disconnect(m_host.engine(), nullptr, this, nullptr);
     }
-    deleteMapWindows();
 }
 
 bool MainWindow::isDebugMode()
@@ -108,9 +114,10 @@ void MainWindow::makeDisplay()
 void MainWindow::makeFurniture()
 {
     setObjectName("mainWindow");
-    setWindowTitle(QGuiApplication::applicationDisplayName());
+    setAcceptDrops(true);
     m_actions = new Actions(this);
     m_readOuts = new StatusReadOuts(statusBar(), &m_host.shared().projector);
+    m_statsWindow = new StatsWindow(this);
     makeResizeMenu();
     showCurrentZoom(m_geoWidget->currentZoom());
     showCurrentRotation(m_geoWidget->currentRotation());
@@ -128,30 +135,37 @@ void MainWindow::makeResizeMenu()
     action->setMenu(sizes);
 }
 
-void MainWindow::makeDocks()
+void MainWindow::makeMessagesDock()
 {
-    const auto addDock = [this](const QString &title, const QString &name, QWidget *content, Qt::DockWidgetArea area) {
-        auto *dock = new QDockWidget(title, this);
-        dock->setObjectName(name); // under which the window's state remembers it
-        dock->setWidget(content);
-        addDockWidget(area, dock);
-        return dock;
-    };
     m_logPane = new LogPane(this);
-    m_trackModel = new TrackListModel(this);
-    m_alertModel = new AlertListModel(this);
-    m_trackView = new ListView(m_trackModel, TrackListModel::widestTexts(), this);
-    m_trackView->setObjectName("trackList");
-    m_trackView->sortByColumn(TrackListModel::Callsign, Qt::AscendingOrder);
-    m_alertView = new ListView(m_alertModel, AlertListModel::widestTexts(), this);
-    m_alertView->setObjectName("alertList");
-    m_alertView->sortByColumn(AlertListModel::Start, Qt::DescendingOrder);
-
-    m_messagesDock = addDock(tr("Messages"), "messagesDock", m_logPane, Qt::BottomDockWidgetArea);
-    m_trackDock = addDock(tr("Track List"), "trackListDock", m_trackView, Qt::RightDockWidgetArea);
-    m_alertDock = addDock(tr("Alert List"), "alertListDock", m_alertView, Qt::RightDockWidgetArea);
+    m_messagesDock = new QDockWidget(tr("Messages"), this);
+    m_messagesDock->setObjectName("messagesDock"); // under which the window's state remembers it
+    m_messagesDock->setWidget(m_logPane);
+    addDockWidget(Qt::BottomDockWidgetArea, m_messagesDock);
     m_actions->menu(MenuId::View)->addSeparator();
     m_actions->menu(MenuId::View)->addAction(m_messagesDock->toggleViewAction());
+}
+
+void MainWindow::makeParts()
+{
+    m_session = std::make_unique<InputSession>(&m_config, &m_host);
+    m_pump = std::make_unique<SnapshotPump>(&m_host.shared(), m_mapDisplay.get(), m_trackDisplay.get());
+    m_lists = std::make_unique<ListPanes>(this, m_trackDisplay.get(), [this] { return m_pump->newest(); });
+    m_home = std::make_unique<HomeView>(m_geoWidget, &m_host.shared().projector, &m_config.live());
+    m_layoutMenu = std::make_unique<LayoutMenu>(this, m_actions, m_geoWidget);
+    m_mapWindows = std::make_unique<MapWindows>(this, m_actions, m_geoWidget, &m_host.shared().projector);
+    m_replay = std::make_unique<ReplayControls>(this, m_actions, &m_config, &m_host, m_session.get());
+}
+
+void MainWindow::routeLibraryLogs()
+{
+    if (isDebugMode()) {
+        setLogLevel(LogLevel::Debug);
+        showLog(LogLevel::Debug, tr("Debug functions enabled"));
+    }
+    ast_library_init();
+    LibraryLog::setSink(this, [this](LogLevel level, const QString &text) { showLog(level, text); });
+    LibraryLog::install(isDebugMode());
 }
 
 void MainWindow::connectEngine()
@@ -161,11 +175,26 @@ void MainWindow::connectEngine()
     connect(engine, &DataEngine::inputOpened, this, &MainWindow::onEngineInputOpened);
     connect(engine, &DataEngine::inputOpenFailed, this, &MainWindow::onEngineInputOpenFailed);
     connect(engine, &DataEngine::inputClosed, this, &MainWindow::onEngineInputClosed);
+    connect(engine, &DataEngine::replayProgress, this, &MainWindow::onEngineReplayProgress);
     connect(engine, &DataEngine::alertStatusChanged, this, &MainWindow::updateAlertStatus);
     connect(engine, &DataEngine::antennaRotated, m_mapDisplay->sensorMap(), &GeoSensorMap::antennaRotated);
     connect(engine, &DataEngine::antennaNorthCrossed, m_mapDisplay->sensorMap(), &GeoSensorMap::antennaNorthCrossed);
+    connect(engine, &DataEngine::pipelineStats, m_statsWindow, &StatsWindow::setPipelineStats);
     connect(m_trackDisplay.get(), &GeoTrackDisplay::shownTrailDotsChanged, &m_host, &EngineHost::setSnapshotTrailDots);
     m_host.setSnapshotTrailDots(m_trackDisplay->trailVisible() ? m_trackDisplay->trailDots() : 0);
+}
+
+void MainWindow::connectSession()
+{
+    InputSession *session = m_session.get();
+    connect(session, &InputSession::logMessage, this, &MainWindow::showLog);
+    connect(session, &InputSession::changed, this, &MainWindow::showSession);
+    connect(session, &InputSession::openingBegun, this, &MainWindow::beginRadarPicture);
+    connect(session, &InputSession::opened, m_lists.get(), &ListPanes::start);
+    connect(session, &InputSession::opened, this, &MainWindow::inputOpened);
+    connect(session, &InputSession::closed, this, &MainWindow::pullSlots); // the input's last picture
+    connect(session, &InputSession::closed, this, &MainWindow::inputClosed);
+    connect(session, &InputSession::shutDownDone, this, &MainWindow::continueShutdown);
 }
 
 void MainWindow::connectDisplay()
@@ -173,29 +202,94 @@ void MainWindow::connectDisplay()
     connect(m_geoWidget, &GeoWidget::cursorMoved, this, &MainWindow::showCursorPosition);
     connect(m_geoWidget, &GeoWidget::zoomChanged, this, &MainWindow::showCurrentZoom);
     connect(m_geoWidget, &GeoWidget::rotationChanged, this, &MainWindow::showCurrentRotation);
-    connect(m_geoWidget, &GeoWidget::trackSelected, this, &MainWindow::selectTrackInList);
-    connect(m_geoWidget, &GeoWidget::rangeRingsCenterSet, this, &MainWindow::placeRangeRings);
-    connect(m_trackView, &ListView::selectedRowChanged, this, &MainWindow::trackListSelectionChanged);
-    connect(m_alertView, &ListView::selectedRowChanged, this, &MainWindow::alertListSelectionChanged);
-    // A list is not kept up to date while it is out of sight.
-    connect(m_trackDock, &QDockWidget::visibilityChanged, this, &MainWindow::updateTrackList);
-    connect(m_alertDock, &QDockWidget::visibilityChanged, this, &MainWindow::updateAlertList);
+    connect(m_geoWidget, &GeoWidget::paintStats, m_statsWindow, &StatsWindow::setPaintStats);
+    connect(m_geoWidget, &GeoWidget::trackSelected, m_lists.get(), &ListPanes::selectTrackInList);
+    connect(m_geoWidget, &GeoWidget::rangeRingsCenterSet, this, [this] {
+        m_home->noteRingsPlaced();
+        showRangeRings();
+    });
+    connect(m_mapDisplay->videoMap(), &GeoVideoMap::siteUnknown, this, [this](unsigned char sac, unsigned char sic) {
+        showLog(LogLevel::Warning,
+            tr("Radar video of SAC %1, SIC %2 is not shown: no sensor has this identification.").arg(sac).arg(sic));
+    });
+    connect(m_pump.get(), &SnapshotPump::alertStatusChanged, this, &MainWindow::updateAlertStatus);
+    connect(m_pump.get(), &SnapshotPump::dropStats, m_statsWindow, &StatsWindow::setDropStats);
+    connect(m_pump.get(), &SnapshotPump::dropStats, this, &MainWindow::dropStats);
 }
 
-void MainWindow::startTimers()
+void MainWindow::connectInputActions()
 {
-    m_pullTimer.setTimerType(Qt::PreciseTimer);
-    connect(&m_pullTimer, &QTimer::timeout, this, &MainWindow::pullSlots);
-    m_pullTimer.start(pullIntervalMs);
-    m_trackListTimer.setInterval(listIntervalMs);
-    connect(&m_trackListTimer, &QTimer::timeout, this, &MainWindow::updateTrackList);
-    m_alertListTimer.setInterval(listIntervalMs);
-    connect(&m_alertListTimer, &QTimer::timeout, this, &MainWindow::updateAlertList);
-    connect(&m_clockTimer, &QTimer::timeout, this, &MainWindow::updateClock);
-    m_clockTimer.start(clockIntervalMs);
-    connect(&m_dropStatsTimer, &QTimer::timeout, this, &MainWindow::publishDropStats);
-    m_dropStatsTimer.start(dropStatsIntervalMs);
-    updateClock();
+    connect((*m_actions)[ActionId::Start], &QAction::triggered, this, &MainWindow::openInput);
+    connect((*m_actions)[ActionId::Stop], &QAction::triggered, this, &MainWindow::closeInput);
+    connect((*m_actions)[ActionId::Pause], &QAction::triggered, this, &MainWindow::pauseInput);
+    connect((*m_actions)[ActionId::Exit], &QAction::triggered, this, &MainWindow::exitApplication);
+}
+
+void MainWindow::connectViewActions()
+{
+    const auto on = [this](
+                        ActionId id, auto slot) { connect((*m_actions)[id], &QAction::triggered, m_geoWidget, slot); };
+    on(ActionId::ZoomIn, &GeoWidget::zoomIn);
+    on(ActionId::ZoomOut, &GeoWidget::zoomOut);
+    on(ActionId::RotateRight, &GeoWidget::rotateClockWise);
+    on(ActionId::RotateLeft, &GeoWidget::rotateCounterClockWise);
+    on(ActionId::RotateNorthUp, &GeoWidget::rotateNorthUp);
+    on(ActionId::MoveLeft, &GeoWidget::moveLeft);
+    on(ActionId::MoveUp, &GeoWidget::moveUp);
+    on(ActionId::MoveDown, &GeoWidget::moveDown);
+    on(ActionId::MoveRight, &GeoWidget::moveRight);
+    on(ActionId::SetRangeRingsCenter, &GeoWidget::startSettingRangeRingsCenter);
+    connect((*m_actions)[ActionId::FullScreen], &QAction::triggered, this, &MainWindow::setFullScreen);
+}
+
+void MainWindow::connectTrackActions()
+{
+    QAction *label = (*m_actions)[ActionId::ToggleTrackLabel];
+    connect(label, &QAction::toggled, m_trackDisplay.get(), &GeoTrackDisplay::showLabel);
+    // The format window switches labels too.
+    connect(m_trackDisplay.get(), &GeoTrackDisplay::polluted, label,
+        [this, label] { label->setChecked(m_trackDisplay->labelVisible()); });
+    label->setChecked(m_trackDisplay->labelVisible());
+    connect((*m_actions)[ActionId::FollowSelectedTrack], &QAction::toggled, m_geoWidget,
+        &GeoWidget::setFollowSelectedTrack);
+
+    const auto toggleDock = [this](ActionId id, QDockWidget *dock) {
+        QAction *action = (*m_actions)[id];
+        connect(action, &QAction::triggered, dock, &QWidget::setVisible);
+        // A dock behind another's tab is there all the same.
+        connect(dock->toggleViewAction(), &QAction::toggled, action, &QAction::setChecked);
+        action->setChecked(dock->toggleViewAction()->isChecked());
+    };
+    toggleDock(ActionId::ToggleTrackList, m_lists->trackDock());
+    toggleDock(ActionId::ToggleAlertList, m_lists->alertDock());
+}
+
+void MainWindow::connectMapActions()
+{
+    for (const auto &[id, visible] : LayerToggles) {
+        connect((*m_actions)[id], &QAction::triggered, this,
+            [this, member = visible](bool on) { editConfig([member, on](Config &config) { config.*member = on; }); });
+    }
+}
+
+void MainWindow::connectMapWindows()
+{
+    MapWindows *maps = m_mapWindows.get();
+    connect(m_layoutMenu.get(), &LayoutMenu::logMessage, this, &MainWindow::showLog);
+    connect(maps, &MapWindows::logMessage, this, &MainWindow::showLog);
+    connect(maps, &MapWindows::loading, this, &MainWindow::showMapLoadInfo);
+    connect(maps, &MapWindows::loaded, statusBar(), &QStatusBar::clearMessage);
+    connect(maps, &MapWindows::centerRequested, this, [this](const GeoCoordinate &center) { m_home->jumpTo(center); });
+    const auto store = [this](QString Config::*member, const QString &file) {
+        editConfig([member, &file](Config &config) {
+            if (MapPlaces::resolve(config.*member) != file) {
+                config.*member = AppPaths::storePath(file);
+            }
+        });
+    };
+    connect(maps, &MapWindows::indexChosen, this, [store](const QString &file) { store(&Config::mapIndex, file); });
+    connect(maps, &MapWindows::styleSheetChosen, this,
+        [store](const QString &file) { store(&Config::mapStyleSheet, file); });
 }
 
 void MainWindow::showLog(LogLevel level, const QString &text)
@@ -205,13 +299,8 @@ void MainWindow::showLog(LogLevel level, const QString &text)
     }
     m_logPane->appendLine(level, formatLogLine(level, QDateTime::currentDateTime(), text));
     if (!m_logPane->isVisible()) {
-        statusBar()->showMessage(text, statusMessageMs);
+        statusBar()->showMessage(text, StatusMessageMs);
     }
-}
-
-void MainWindow::updateClock()
-{
-    m_readOuts->showTime(QDateTime::currentDateTimeUtc());
 }
 
 void MainWindow::applyConfig()
@@ -221,28 +310,36 @@ void MainWindow::applyConfig()
     m_trackDisplay->applyConfig(config);
     m_readOuts->setTimeZone(config.displayLocalTimeZoneName);
     m_actions->setToolBarText(config.displayToolbarText);
-    (*m_actions)[ActionId::ToggleStaticMaps]->setChecked(config.mapStaticVisible);
-    (*m_actions)[ActionId::ToggleSensorMap]->setChecked(config.mapSensorVisible);
-    (*m_actions)[ActionId::ToggleWeatherMap]->setChecked(config.mapWeatherVisible);
-    (*m_actions)[ActionId::ToggleVideoMap]->setChecked(config.mapVideoVisible);
+    for (const auto &[id, visible] : LayerToggles) {
+        (*m_actions)[id]->setChecked(config.*visible);
+    }
     if (m_weatherIntensityWindow) {
         m_weatherIntensityWindow->refresh();
     }
-    (*m_actions)[ActionId::ToggleRangeRings]->setChecked(config.mapRangeRingVisible);
-    if (!m_mapLibrary->indexFile().isEmpty()) {
-        loadMaps(); // the first time when the window is shown
-    }
+    m_mapWindows->reload(config);
     updateClock();
     updateNotices();
 }
 
 void MainWindow::applySensor()
 {
-    m_sensor = m_config.live().sensor(nullptr);
-    placeDefaultLayout();
-    m_mapDisplay->setSensor(m_sensor);
+    m_session->setSensor(m_config.live().sensor(nullptr));
+    if (m_home->place().isValid()) {
+        m_layoutMenu->placeDefault(m_home->planePoint(m_home->place()));
+    }
+    m_mapDisplay->setSensor(m_session->sensor());
     beginRadarPicture();
     updateNotices();
+}
+
+void MainWindow::beginRadarPicture()
+{
+    QList<QSharedPointer<SensorInfo>> sensors;
+    for (const QString &name : m_sensors->sensorNames()) {
+        sensors.append(m_sensors->findSensor(name));
+    }
+    m_mapDisplay->videoMap()->setKnownSensors(sensors);
+    m_mapDisplay->weatherMap()->clear();
 }
 
 void MainWindow::editConfig(const std::function<void(Config &)> &change)
@@ -266,16 +363,5 @@ void MainWindow::loadAircraftDatabase()
     if (!database.loadFromDataFile(file)) {
         showLog(LogLevel::Warning, tr("Cannot load the aircraft database: %1").arg(database.lastError()));
     }
-    m_trackModel->setAddresses(database.getICAOAddrDict());
-}
-
-void MainWindow::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::PaletteChange && m_actions) {
-        m_actions->updateIcons();
-    }
-    if (event->type() == QEvent::WindowStateChange && m_actions) {
-        (*m_actions)[ActionId::FullScreen]->setChecked(isFullScreen());
-    }
-    QMainWindow::changeEvent(event);
+    m_lists->setAddresses(database.getICAOAddrDict());
 }

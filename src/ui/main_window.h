@@ -4,9 +4,7 @@
 #include "app/run_config.h"
 #include "engine/display_snapshot.h"
 #include "engine/engine_host.h"
-#include "engine/largest_delay.h"
 #include "engine/replay_speed.h"
-#include "engine/slot_reader.h"
 #include "maps/map_file.h"
 #include "processors/video_processor.h"
 #include "processors/weather_processor.h"
@@ -18,37 +16,31 @@
 #include <QTimer>
 
 class Actions;
-class AlertListModel;
 class GeoMapDisplay;
 class GeoTrackDisplay;
 class GeoWidget;
-class ListView;
+class HomeView;
+class InputSession;
+class LayoutMenu;
+class ListPanes;
 class LogPane;
-class MapLayout;
-class MapEditorWindow;
-class MapLibrary;
+class MapWindows;
 class RangeRingWindow;
-class RecordingScan;
-class ReplayWindow;
+class ReplayControls;
 class ScopeNotice;
 class SensorManager;
-class StaticMapsWindow;
+class SnapshotPump;
 class StatsWindow;
 class StatusReadOuts;
 class TrackLabelFormatWindow;
-class TrackListModel;
 class WeatherIntensityWindow;
-namespace korvane::astfile {
-class RecordingIndex;
-}
 
-#include <array>
 #include <functional>
 #include <memory>
-#include <optional>
 
-// The one top-level window. Owns all that lives on the GUI thread, carries the operator's commands to the engine and
-// shows what comes back. Loads its own settings; its window state is restored by loadUi().
+// The one top-level window. Owns all that lives on the GUI thread and connects it: commands to the session and the
+// engine, pictures to the display, settings to all of them. What is done stands in the classes that it owns. Loads its
+// own settings; its window state is restored by loadUi().
 class MainWindow final : public QMainWindow {
     Q_OBJECT
 
@@ -65,9 +57,9 @@ public:
     void setLogLevel(LogLevel minimum) { m_minimumLevel = minimum; }
 
     const Config &config() const { return m_config.live(); }
-    bool inputOpen() const { return m_inputState == InputState::Open; }
+    bool inputOpen() const;
     // Null before the first.
-    QSharedPointer<const DisplaySnapshot> newestSnapshot() const { return m_snapshot; }
+    QSharedPointer<const DisplaySnapshot> newestSnapshot() const;
     GeoWidget *geoWidget() const { return m_geoWidget; }
     const EngineHost &engineHost() const { return m_host; }
 
@@ -81,31 +73,26 @@ public Q_SLOTS:
     void showLog(LogLevel level, const QString &text);
     void showLogInfo(const QString &text) { showLog(LogLevel::Info, text); }
 
+    // The input: see InputSession.
     void openInput();
     void pauseInput(bool paused);
     void closeInput();
     void onEngineInputOpened(unsigned long long requestId);
     void onEngineInputOpenFailed(unsigned long long requestId);
     void onEngineInputClosed(unsigned long long requestId);
-    void onEngineReplayProgress(const QDateTime &time);
 
-    // Asks for a recording and plays it.
+    // Recordings: see InputSession and ReplayControls.
     void openRecordingFile();
-    // Plays a recording from its beginning, in place of the input that is open. A file of no known format is refused.
     void playRecording(const QString &fileName);
-    // For this and all later recordings.
     void setReplaySpeed(ReplaySpeed::Speed speed);
     void changeReplaySpeed(QAction *action);
+    void initReplaySpeedMenu();
     void updateReplaySpeedMenu();
-    // Makes the recording the input of this run.
     void applyReplayConfig(const QFileInfo &file);
-    // Shows the file in the playback window and reads it to find its times.
     void updateInputFileMeta(const QFileInfo &file);
-    // Back to the input that was there before the first recording.
-    void returnToLiveInput();
-    // Asks for a file and records the live input to it, or ends the recording.
-    void recordInput(bool on);
+    void onEngineReplayProgress(const QDateTime &time);
 
+    // Pictures and lists: see SnapshotPump and ListPanes.
     void pullSlots();
     void procWeatherPicture(const WeatherProcessor::Picture &picture);
     void procVideoRadial(const VideoProcessor::Radial &radial);
@@ -115,12 +102,12 @@ public Q_SLOTS:
     void clearAlertList();
     void trackListSelectionChanged();
     void alertListSelectionChanged();
-    // By incarnation id; 0 clears the selection.
     void selectTrackInList(unsigned long long id);
     // Any other type than the three is ignored.
     void updateAlertStatus(Alert::Type type, bool on);
     void updateClock();
 
+    // The view: see GeoWidget, StatusReadOuts and LayoutMenu.
     void toggleFullScreen();
     void setFullScreen(bool on);
     void resizeMainWindow(const QSize &size);
@@ -129,7 +116,6 @@ public Q_SLOTS:
     void showCurrentRotation(double degrees);
     // Of a map that is being loaded.
     void showMapLoadInfo(const QFileInfo &file, const QString &progress);
-    // Shows the layout that the action of the layout menu is for, now and at the next start.
     void loadLayout(QAction *action);
     void updateMapLayoutMenu();
 
@@ -174,29 +160,24 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    enum class InputState { Closed, Opening, Open };
     enum class Shutdown { NotBegun, Begun, Complete };
 
     // Construction.
     void makeDisplay();
     void makeFurniture();
-    void makeDocks();
     void makeResizeMenu();
+    void makeMessagesDock();
+    void makeParts();
+    void routeLibraryLogs();
     void connectEngine();
+    void connectSession();
     void connectDisplay();
     void connectInputActions();
-    void connectReplay();
-    void initReplaySpeedMenu();
     void connectViewActions();
     void connectTrackActions();
     void connectMapActions();
-    void connectRadarPicture();
-    void connectStaticMaps();
-    void connectLayouts();
+    void connectMapWindows();
     void connectDialogActions();
-    void setRangeRings(const GeoCoordinate &center, int number, double distanceNauticalMiles);
-    void chooseSensor(const QSharedPointer<SensorInfo> &sensor);
-    void startTimers();
 
     // Settings.
     void applyConfig();
@@ -207,51 +188,14 @@ private:
     void editConfig(const std::function<void(Config &)> &change);
     void loadSensorDatabase();
     void loadAircraftDatabase();
+    void setRangeRings(const GeoCoordinate &center, int number, double distanceNauticalMiles);
+    void showRangeRings();
+    void chooseSensor(const QSharedPointer<SensorInfo> &sensor);
 
-    // Input.
-    bool isCurrentAnswer(unsigned long long requestId) const { return requestId == m_requestId; }
-    void inputEnded(unsigned long long requestId);
-    void setInputState(InputState state);
+    // What the window shows of the session.
+    void showSession();
     void updateInputActions();
     void updateNotices();
-    QString scopeNotice() const;
-    QString inputDescription() const;
-    void publishDropStats();
-
-    // Replay.
-    bool replaying() const { return m_config.live().inputComm == Config::InputComm::File; }
-    void startReplay(const QDateTime &start);
-    void showIndex(const korvane::astfile::RecordingIndex &index, const QString &error);
-    void updateReplayWindow();
-
-    // Maps and layouts.
-    void loadMaps();
-    void showEditedMap(const QString &path);
-    void showEditedStyleSheet(const QString &path);
-    // False when another index is to be shown and the operator keeps his unsaved changes of this one.
-    bool settleMaps(const Config &edited);
-    // False when one stays open.
-    bool closeMapWindows();
-    void deleteMapWindows();
-    void loadLayouts();
-    void saveLayouts();
-    void placeDefaultLayout();
-    // The built-in one is current from now on.
-    void leaveLayout();
-    // A layout other than the built-in one.
-    bool layoutChosen() const;
-
-    // View.
-    // Where the built-in views are centred; invalid: nowhere.
-    GeoCoordinate homeCoordinate() const;
-    void showInitialView();
-    bool restoreView();
-    void saveView() const;
-    void placeRangeRings(const QPointF &planePoint);
-    void showRangeRings();
-    QPointF planePoint(const GeoCoordinate &coordinate) const;
-    GeoCoordinate coordinate(const QPointF &planePoint) const;
-    GeoCoordinate viewCenter() const;
 
     // Life cycle.
     void loadUiState();
@@ -264,60 +208,30 @@ private:
     RunConfig m_config;
     EngineHost m_host;
     std::unique_ptr<SensorManager> m_sensors;
-    QSharedPointer<SensorInfo> m_sensor; // of the input; null when none is configured
-
     std::unique_ptr<GeoMapDisplay> m_mapDisplay;
     std::unique_ptr<GeoTrackDisplay> m_trackDisplay;
-    GeoWidget *m_geoWidget = nullptr;
-    MapLibrary *m_mapLibrary = nullptr;
-    MapLayout *m_layouts = nullptr;
-    ScopeNotice *m_scopeNotice = nullptr;
 
+    // Widgets, and what hangs on them, are the window's children.
+    GeoWidget *m_geoWidget = nullptr;
+    ScopeNotice *m_scopeNotice = nullptr;
     Actions *m_actions = nullptr;
     StatusReadOuts *m_readOuts = nullptr;
     LogPane *m_logPane = nullptr;
-    TrackListModel *m_trackModel = nullptr;
-    AlertListModel *m_alertModel = nullptr;
-    ListView *m_trackView = nullptr;
-    ListView *m_alertView = nullptr;
     QDockWidget *m_messagesDock = nullptr;
-    QDockWidget *m_trackDock = nullptr;
-    QDockWidget *m_alertDock = nullptr;
+    StatsWindow *m_statsWindow = nullptr;
     QPointer<RangeRingWindow> m_rangeRingWindow;
     QPointer<WeatherIntensityWindow> m_weatherIntensityWindow;
     QPointer<TrackLabelFormatWindow> m_trackLabelFormatWindow;
-    QPointer<StaticMapsWindow> m_staticMapsWindow;
-    QPointer<MapEditorWindow> m_mapEditorWindow;
-    ReplayWindow *m_replayWindow = nullptr;
-    StatsWindow *m_statsWindow = nullptr;
 
-    QTimer m_pullTimer;
-    QTimer m_trackListTimer;
-    QTimer m_alertListTimer;
+    // These work on all of the above, so they go before it.
+    std::unique_ptr<InputSession> m_session;
+    std::unique_ptr<SnapshotPump> m_pump;
+    std::unique_ptr<ListPanes> m_lists;
+    std::unique_ptr<HomeView> m_home;
+    std::unique_ptr<LayoutMenu> m_layoutMenu;
+    std::unique_ptr<MapWindows> m_mapWindows;
+    std::unique_ptr<ReplayControls> m_replay;
     QTimer m_clockTimer;
-    QTimer m_dropStatsTimer;
-
-    SlotReader<DisplaySnapshot> m_displayReader;
-    SlotReader<VideoBatch> m_videoReader;
-    SlotReader<WeatherProcessor::Picture> m_weatherReader;
-    LargestDelay m_videoDelay;
-    LargestDelay m_weatherDelay;
-    QSharedPointer<const DisplaySnapshot> m_snapshot;
-    std::array<bool, 3> m_alertStatus = {}; // as in the newest snapshot
-    bool m_updatingList = false; // the program moves the selection, not the operator
-
-    InputState m_inputState = InputState::Closed;
-    quint64 m_requestId = 0; // of the newest request
-    bool m_inputWasOpen = false; // there is a last picture to look at
-    bool m_paused = false;
-    bool m_ringCenterPlaced = false;
-
-    ReplaySpeed::Speed m_replaySpeed = ReplaySpeed::Normal;
-    QDateTime m_replayStart; // of the next opening; invalid: the beginning
-    bool m_reopenInput = false; // as soon as the one that is being closed has closed
-    RecordingScan *m_recordingScan = nullptr;
-    QFileInfo m_scannedFile;
-    std::optional<Config::InputComm> m_liveInput; // the kind of input before the first recording
 
     LogLevel m_minimumLevel = LogLevel::Info;
     Shutdown m_shutdown = Shutdown::NotBegun;

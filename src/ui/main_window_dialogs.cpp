@@ -12,10 +12,16 @@
 #include "settings/sensor_manager_window.h"
 #include "settings/track_label_format_window.h"
 #include "ui/actions.h"
+#include "ui/home_view.h"
+#include "ui/input_session.h"
+#include "ui/layout_menu.h"
 #include "ui/main_window.h"
+#include "ui/map_windows.h"
 #include "ui/range_ring_window.h"
 #include "ui/rotation_window.h"
 #include "ui/set_center_window.h"
+#include "ui/snapshot_pump.h"
+#include "ui/stats_window.h"
 #include "ui/weather_intensity_window.h"
 
 #include <QAction>
@@ -31,7 +37,6 @@ void openOver(QDialog *dialog)
 
 void bringUp(QDialog *dialog)
 {
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->show();
     dialog->raise();
     dialog->activateWindow();
@@ -52,12 +57,13 @@ void MainWindow::connectDialogActions()
     on(ActionId::CheatSheet, &MainWindow::showCheatSheet);
     on(ActionId::WhatsNew, &MainWindow::showChangelog);
     on(ActionId::About, &MainWindow::showAbout);
+    on(ActionId::Statistics, &MainWindow::showStatsWindow);
 }
 
 void MainWindow::showConfigWindow()
 {
     auto *window = new ConfigWindow(m_config.live(), m_sensors.get(), this);
-    window->setConsent([this](const Config &edited) { return settleMaps(edited); });
+    window->setConsent([this](const Config &edited) { return m_mapWindows->settle(edited); });
     connect(window, &ConfigWindow::configApplied, this, [this](const Config &edited) {
         const QString sensorDatabase = m_config.live().sensorDatabase;
         m_config.apply(edited);
@@ -82,11 +88,9 @@ void MainWindow::showRotationWindow()
 void MainWindow::showSetCenterWindow()
 {
     auto *window = new SetCenterWindow(this);
-    window->setCenter(viewCenter());
-    connect(window, &SetCenterWindow::centerEntered, m_geoWidget, [this](const GeoCoordinate &center) {
-        const QPointF point = planePoint(center);
-        m_geoWidget->jumpTo(point.x(), point.y());
-    });
+    window->setCenter(m_home->viewCenter());
+    connect(
+        window, &SetCenterWindow::centerEntered, this, [this](const GeoCoordinate &center) { m_home->jumpTo(center); });
     openOver(window);
 }
 
@@ -94,10 +98,11 @@ void MainWindow::showRangeRingWindow()
 {
     if (!m_rangeRingWindow) {
         m_rangeRingWindow = new RangeRingWindow(this);
+        m_rangeRingWindow->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_rangeRingWindow, &RangeRingWindow::ringsEntered, this, &MainWindow::setRangeRings);
     }
     const GeoRangeRingMap *rings = m_mapDisplay->rangeRingMap();
-    m_rangeRingWindow->setRings(coordinate(rings->center()), rings->number(), rings->distance());
+    m_rangeRingWindow->setRings(m_home->ringCenter(), rings->number(), rings->distance());
     bringUp(m_rangeRingWindow);
 }
 
@@ -108,14 +113,21 @@ void MainWindow::setRangeRings(const GeoCoordinate &center, int number, double d
         config.mapRangeRingDistance = distanceNauticalMiles;
         config.mapRangeRingVisible = true;
     });
-    m_ringCenterPlaced = true;
-    m_mapDisplay->rangeRingMap()->setRings(planePoint(center), number, distanceNauticalMiles);
+    m_home->placeRings(center, number, distanceNauticalMiles);
+}
+
+void MainWindow::showRangeRings()
+{
+    if (!config().mapRangeRingVisible) {
+        editConfig([](Config &config) { config.mapRangeRingVisible = true; });
+    }
 }
 
 void MainWindow::showWeatherIntensityWindow()
 {
     if (!m_weatherIntensityWindow) {
         m_weatherIntensityWindow = new WeatherIntensityWindow(m_mapDisplay->weatherMap(), this);
+        m_weatherIntensityWindow->setAttribute(Qt::WA_DeleteOnClose);
     }
     bringUp(m_weatherIntensityWindow);
 }
@@ -124,9 +136,16 @@ void MainWindow::showTrackLabelFormatWindow()
 {
     if (!m_trackLabelFormatWindow) {
         m_trackLabelFormatWindow = new TrackLabelFormatWindow(m_trackDisplay.get(), this);
+        m_trackLabelFormatWindow->setAttribute(Qt::WA_DeleteOnClose);
     }
     m_trackLabelFormatWindow->setGround(m_config.live().mapBackgroundColor);
     bringUp(m_trackLabelFormatWindow);
+}
+
+void MainWindow::showStatsWindow()
+{
+    m_pump->publishDropStats(); // otherwise only once a minute
+    bringUp(m_statsWindow);
 }
 
 void MainWindow::showCheatSheet()
@@ -163,6 +182,6 @@ void MainWindow::chooseSensor(const QSharedPointer<SensorInfo> &sensor)
 {
     editConfig([&sensor](Config &config) { config.setSensor(sensor); });
     applySensor();
-    leaveLayout(); // it was made for another place
-    showInitialView();
+    m_layoutMenu->leave(); // it was made for another place
+    m_home->showSensor();
 }

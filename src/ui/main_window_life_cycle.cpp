@@ -5,13 +5,19 @@
 #include "display/track_display_format.h"
 #include "engine/data_engine.h"
 #include "plan_view/geo_widget.h"
-#include "ui/list_view.h"
+#include "ui/actions.h"
+#include "ui/home_view.h"
+#include "ui/input_session.h"
+#include "ui/layout_menu.h"
+#include "ui/list_panes.h"
 #include "ui/main_window.h"
+#include "ui/map_windows.h"
+#include "ui/snapshot_pump.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QLayout>
 #include <QMessageBox>
 #include <QScreen>
@@ -19,11 +25,9 @@
 namespace {
 
 // Raised when docks or tool bars change so that an older arrangement no longer fits.
-constexpr int arrangementVersion = 1;
-constexpr auto arrangementKey = "windowState";
-constexpr auto trackListKey = "trackListHeader";
-constexpr auto alertListKey = "alertListHeader";
-constexpr auto trackFormatKey = "trackDisplayFormat";
+constexpr int ArrangementVersion = 1;
+constexpr auto ArrangementKey = "windowState";
+constexpr auto TrackFormatKey = "trackDisplayFormat";
 
 } // namespace
 
@@ -31,11 +35,11 @@ void MainWindow::loadUi()
 {
     loadUiState();
     layout()->activate(); // the view is fitted to the scope's final size
-    if (!restoreView()) {
-        showInitialView();
+    if (!m_home->restore(objectName())) {
+        m_home->showSensor();
     }
-    loadLayouts();
-    loadMaps();
+    m_layoutMenu->load();
+    m_mapWindows->load(config());
     m_geoWidget->setFocus();
 }
 
@@ -46,14 +50,13 @@ void MainWindow::loadUiState()
     if (!known) {
         resizeMainWindow({1600, 900});
     }
-    if (!restoreState(UiState::value(group, arrangementKey), arrangementVersion)) {
+    if (!restoreState(UiState::value(group, ArrangementKey), ArrangementVersion)) {
         arrangeDocks();
     }
-    m_trackView->horizontalHeader()->restoreState(UiState::value(group, trackListKey));
-    m_alertView->horizontalHeader()->restoreState(UiState::value(group, alertListKey));
+    m_lists->restore(group);
     TrackDisplayFormat format;
     format.readFrom(*m_trackDisplay);
-    if (format.fromBytes(UiState::value(group, trackFormatKey))) {
+    if (format.fromBytes(UiState::value(group, TrackFormatKey))) {
         format.applyTo(*m_trackDisplay);
     }
 }
@@ -62,21 +65,20 @@ void MainWindow::saveUiState() const
 {
     const QString group = objectName();
     UiState::saveGeometry(group, saveGeometry());
-    UiState::saveValue(group, arrangementKey, saveState(arrangementVersion));
-    UiState::saveValue(group, trackListKey, m_trackView->horizontalHeader()->saveState());
-    UiState::saveValue(group, alertListKey, m_alertView->horizontalHeader()->saveState());
+    UiState::saveValue(group, ArrangementKey, saveState(ArrangementVersion));
+    m_lists->save(group);
     TrackDisplayFormat format;
     format.readFrom(*m_trackDisplay);
-    UiState::saveValue(group, trackFormatKey, format.toBytes());
-    saveView();
+    UiState::saveValue(group, TrackFormatKey, format.toBytes());
+    m_home->save(group);
 }
 
 void MainWindow::arrangeDocks()
 {
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    splitDockWidget(m_trackDock, m_alertDock, Qt::Vertical);
-    resizeDocks({m_trackDock}, {std::min(520, width() / 3)}, Qt::Horizontal);
-    resizeDocks({m_trackDock, m_alertDock}, {3, 1}, Qt::Vertical);
+    splitDockWidget(m_lists->trackDock(), m_lists->alertDock(), Qt::Vertical);
+    resizeDocks({m_lists->trackDock()}, {std::min(520, width() / 3)}, Qt::Horizontal);
+    resizeDocks({m_lists->trackDock(), m_lists->alertDock()}, {3, 1}, Qt::Vertical);
     resizeDocks({m_messagesDock}, {height() / 9}, Qt::Vertical);
 }
 
@@ -88,7 +90,7 @@ void MainWindow::setShutdownWaits(int confirmMs, int threadMs)
 
 void MainWindow::exitApplication()
 {
-    if (m_inputState != InputState::Closed) {
+    if (m_session->state() != InputSession::State::Closed) {
         showLog(LogLevel::Info, tr("UDP input is working now, stop it first!"));
         return;
     }
@@ -116,10 +118,10 @@ void MainWindow::closeEvent(QCloseEvent *event)
         return;
     }
     event->ignore();
-    if (m_shutdown == Shutdown::Begun || (m_inputState != InputState::Closed && !m_exitQuestion())) {
+    if (m_shutdown == Shutdown::Begun || (m_session->state() != InputSession::State::Closed && !m_exitQuestion())) {
         return;
     }
-    if (!closeMapWindows()) {
+    if (!m_mapWindows->close()) {
         return; // the operator wants to look after his unsaved changes
     }
     // While the question stood open the program may have been told to end.
@@ -133,12 +135,9 @@ void MainWindow::beginShutdown()
     Q_EMIT shutdownBegun();
     saveUiState();
     m_shutdown = Shutdown::Begun;
-    m_pullTimer.stop();
-    if (m_inputState == InputState::Closed) {
+    m_pump->stop();
+    if (!m_session->shutDown()) {
         QTimer::singleShot(0, this, &MainWindow::continueShutdown);
-    } else {
-        setInputState(InputState::Closed);
-        m_host.closeInput();
     }
     QTimer::singleShot(m_confirmWaitMs, this, &MainWindow::forceShutdown);
 }
@@ -164,4 +163,15 @@ void MainWindow::continueShutdown()
     m_shutdown = Shutdown::Complete;
     close();
     Q_EMIT shutdownComplete();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange && m_actions) {
+        m_actions->updateIcons();
+    }
+    if (event->type() == QEvent::WindowStateChange && m_actions) {
+        (*m_actions)[ActionId::FullScreen]->setChecked(isFullScreen());
+    }
+    QMainWindow::changeEvent(event);
 }

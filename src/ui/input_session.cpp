@@ -1,0 +1,190 @@
+#include "ui/input_session.h"
+
+#include "app/run_config.h"
+#include "astfile/rec_file.h"
+#include "engine/engine_host.h"
+
+#include <utility>
+
+using korvane::astfile::RecFile;
+
+InputSession::InputSession(RunConfig *config, EngineHost *host) : m_config(config), m_host(host) { }
+
+bool InputSession::replaying() const
+{
+    return m_config->live().inputComm == Config::InputComm::File;
+}
+
+QString InputSession::description() const
+{
+    const Config &config = m_config->live();
+    switch (config.inputComm) {
+    case Config::InputComm::Serial:
+        return tr("serial line %1").arg(config.inputSerialDevice);
+    case Config::InputComm::File:
+        return tr("recording %1").arg(config.inputFileName.fileName());
+    case Config::InputComm::Udp:
+        break;
+    }
+    return config.inputUdpMulticast1
+        ? tr("UDP %1:%2").arg(config.inputUdpMcastAddress1.toString()).arg(config.inputUdpPort1)
+        : tr("UDP port %1").arg(config.inputUdpPort1);
+}
+
+QString InputSession::notice() const
+{
+    switch (m_state) {
+    case State::Opening:
+        return tr("Opening %1 ...").arg(description());
+    case State::Open:
+        return m_paused ? tr("Paused. The picture is not being updated.") : QString();
+    case State::Closed:
+        break;
+    }
+    if (!m_sensor) {
+        return tr("No sensor is configured. Choose one in Settings (F10), then press Start.");
+    }
+    return m_wasOpen ? tr("Input stopped. This is the last picture.")
+                     : tr("No input is running. Press Start to open %1.").arg(description());
+}
+
+void InputSession::setState(State state)
+{
+    m_state = state;
+    m_paused = false;
+    Q_EMIT changed();
+}
+
+void InputSession::open()
+{
+    if (m_state != State::Closed) {
+        Q_EMIT logMessage(LogLevel::Warning, tr("Input is working now, stop first!"));
+        return;
+    }
+    if (!m_sensor) {
+        Q_EMIT logMessage(LogLevel::Warning, tr("Unknown sensor"));
+        return;
+    }
+    ++m_requestId;
+    Q_EMIT openingBegun();
+    setState(State::Opening);
+    m_host->openInput(m_config->live(), m_sensor, m_replayStart, m_requestId);
+    m_replayStart = QDateTime();
+}
+
+void InputSession::close()
+{
+    if (m_state == State::Closed) {
+        Q_EMIT logMessage(LogLevel::Warning, tr("Inpput is not working now."));
+        return;
+    }
+    m_host->closeInput();
+}
+
+void InputSession::pause(bool paused)
+{
+    if (m_state != State::Open) {
+        return;
+    }
+    m_paused = paused;
+    m_host->pauseInput(paused);
+    Q_EMIT changed();
+}
+
+void InputSession::onOpened(quint64 requestId)
+{
+    if (!isCurrent(requestId) || m_state != State::Opening) {
+        return;
+    }
+    m_wasOpen = true;
+    setState(State::Open);
+    Q_EMIT opened();
+}
+
+void InputSession::onEnded(quint64 requestId)
+{
+    if (!isCurrent(requestId)) {
+        return;
+    }
+    setState(State::Closed);
+    if (m_shuttingDown) {
+        Q_EMIT shutDownDone();
+    } else if (std::exchange(m_reopen, false)) {
+        open();
+    } else {
+        Q_EMIT closed();
+    }
+}
+
+bool InputSession::shutDown()
+{
+    m_shuttingDown = true;
+    if (m_state == State::Closed) {
+        return false;
+    }
+    setState(State::Closed);
+    m_host->closeInput();
+    return true;
+}
+
+void InputSession::play(const QString &fileName)
+{
+    const QFileInfo file(fileName);
+    if (RecFile::formatFromFileName(file.fileName()) == RecFile::Unknown) {
+        Q_EMIT logMessage(LogLevel::Critical, tr("Recording file format is not supported."));
+        return;
+    }
+    if (!file.isReadable()) {
+        Q_EMIT logMessage(LogLevel::Warning, tr("Failed to open recording file: %1").arg(fileName));
+        return;
+    }
+    chooseRecording(file);
+    restart({});
+}
+
+void InputSession::chooseRecording(const QFileInfo &file)
+{
+    if (!replaying()) {
+        m_liveInput = m_config->live().inputComm;
+    }
+    m_config->overrideWith([&file](Config &config) {
+        config.inputComm = Config::InputComm::File;
+        config.inputFileName = file;
+    });
+    Q_EMIT recordingChosen(file);
+    Q_EMIT changed();
+}
+
+void InputSession::restart(const QDateTime &start)
+{
+    m_replayStart = start;
+    if (m_state == State::Closed) {
+        open();
+    } else {
+        m_reopen = true;
+        m_host->closeInput();
+    }
+}
+
+void InputSession::returnToLiveInput()
+{
+    if (!m_liveInput) {
+        return;
+    }
+    m_config->overrideWith([this](Config &config) { config.inputComm = *m_liveInput; });
+    m_liveInput.reset();
+    restart({});
+}
+
+void InputSession::setReplaySpeed(ReplaySpeed::Speed speed)
+{
+    m_replaySpeed = speed;
+    m_host->setReplaySpeed(speed);
+    Q_EMIT changed();
+}
+
+void InputSession::setAutoRewind(bool on)
+{
+    m_config->edit([on](Config &config) { config.inputFileAutoRewind = on; });
+    m_host->setReplayAutoRewind(on);
+}

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "app/config.h"
+#include "app/log_level.h"
+#include "engine/replay_speed.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QObject>
+#include <QSharedPointer>
+
+class EngineHost;
+class RunConfig;
+class SensorInfo;
+
+#include <optional>
+
+// The input as the operator sees it: what was asked of the engine and what it answered, which recording is played in
+// place of the live input, and what the input is recorded to. The engine's answers are handed in; those to an older
+// request than the last are ignored. GUI thread.
+class InputSession final : public QObject {
+    Q_OBJECT
+
+public:
+    enum class State { Closed, Opening, Open };
+
+    // Both must outlive the session.
+    InputSession(RunConfig *config, EngineHost *host);
+
+    State state() const { return m_state; }
+    bool paused() const { return m_paused; }
+    // The input of this run is a recording, whether or not it is open.
+    bool replaying() const;
+    // There is a live input to go back to.
+    bool liveInputWaits() const { return m_liveInput.has_value(); }
+    ReplaySpeed::Speed replaySpeed() const { return m_replaySpeed; }
+    // Of the input; null when none is configured.
+    const QSharedPointer<SensorInfo> &sensor() const { return m_sensor; }
+    void setSensor(const QSharedPointer<SensorInfo> &sensor) { m_sensor = sensor; }
+
+    // "UDP port 20000".
+    QString description() const;
+    // Why the picture is empty or old; empty while it is neither.
+    QString notice() const;
+
+    // Ends the input with the program: whatever is under way, none opens any more. False when none was open; otherwise
+    // shutDownDone() follows when the engine has closed it.
+    bool shutDown();
+
+public Q_SLOTS:
+    void open();
+    void close();
+    void pause(bool paused);
+
+    // Plays a recording from its beginning, in place of the input that is open. A file of no known format is refused.
+    void play(const QString &fileName);
+    // Makes the recording the input of this run.
+    void chooseRecording(const QFileInfo &file);
+    // Plays the recording from there (invalid: the beginning), in place of what is open.
+    void restart(const QDateTime &start);
+    // Back to the input that was there before the first recording.
+    void returnToLiveInput();
+    // For this and all later recordings.
+    void setReplaySpeed(ReplaySpeed::Speed speed);
+    void setAutoRewind(bool on);
+
+    void onOpened(quint64 requestId);
+    // Opening failed, or the input closed.
+    void onEnded(quint64 requestId);
+
+Q_SIGNALS:
+    void logMessage(LogLevel level, const QString &text);
+    // State, pause, replay speed, or which input it is.
+    void changed();
+    void recordingChosen(const QFileInfo &file);
+    // A request goes out: what the last input left behind is of no use now.
+    void openingBegun();
+    void opened();
+    // The input has ended, and no other one takes its place at once.
+    void closed();
+    void shutDownDone();
+
+private:
+    bool isCurrent(quint64 requestId) const { return requestId == m_requestId; }
+    void setState(State state);
+
+    RunConfig *m_config;
+    EngineHost *m_host;
+    QSharedPointer<SensorInfo> m_sensor;
+    State m_state = State::Closed;
+    quint64 m_requestId = 0; // of the newest request
+    bool m_wasOpen = false; // there is a last picture to look at
+    bool m_paused = false;
+    bool m_shuttingDown = false;
+    bool m_reopen = false; // as soon as the one that is being closed has closed
+    QDateTime m_replayStart; // of the next opening; invalid: the beginning
+    ReplaySpeed::Speed m_replaySpeed = ReplaySpeed::Normal;
+    std::optional<Config::InputComm> m_liveInput; // the kind of input before the first recording
+};

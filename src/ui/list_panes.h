@@ -1,0 +1,74 @@
+#pragma once
+
+#include "engine/display_snapshot.h"
+
+#include <QObject>
+#include <QSharedPointer>
+#include <QTimer>
+
+#include <functional>
+
+class AlertListModel;
+class GeoTrackDisplay;
+class ListView;
+class QDockWidget;
+class QMainWindow;
+class TrackListModel;
+namespace korvane::airdb {
+class ICAOAddrDictionary;
+}
+
+// The track list and the alert list: their panes, what they show of the newest snapshot, and the selection, which goes
+// both ways between the lists and the plan view. GUI thread.
+class ListPanes final : public QObject {
+    Q_OBJECT
+
+public:
+    using NewestSnapshot = std::function<QSharedPointer<const DisplaySnapshot>()>;
+
+    // The panes become the window's, which must outlive this object, as must the display.
+    ListPanes(QMainWindow *window, GeoTrackDisplay *tracks, NewestSnapshot newest);
+
+    QDockWidget *trackDock() const { return m_trackDock; }
+    QDockWidget *alertDock() const { return m_alertDock; }
+
+    // From now on the lists follow the snapshots, once a second. Does nothing a second time.
+    void start();
+    // What stands in the place of the rows while there are none.
+    void setEmptyTexts(const QString &tracks, const QString &alerts);
+    // Where the countries of registration are looked up, from the next tracks on.
+    void setAddresses(const korvane::airdb::ICAOAddrDictionary &addresses);
+
+    // The columns, among the window's state.
+    void restore(const QString &group);
+    void save(const QString &group) const;
+
+public Q_SLOTS:
+    // A list is not kept up to date while it is out of sight.
+    void updateTrackList();
+    void updateAlertList();
+    void clearTrackList();
+    void clearAlertList();
+    void trackListSelectionChanged();
+    void alertListSelectionChanged();
+    // By incarnation id; 0 clears the selection.
+    void selectTrackInList(unsigned long long id);
+
+private:
+    void makeLists();
+    QDockWidget *addDock(const QString &title, const QString &name, QWidget *content);
+    bool outOfSight(const ListView *list) const;
+
+    QMainWindow *m_window;
+    GeoTrackDisplay *m_tracks;
+    NewestSnapshot m_newest;
+    TrackListModel *m_trackModel = nullptr; // these six are the window's
+    AlertListModel *m_alertModel = nullptr;
+    ListView *m_trackView = nullptr;
+    ListView *m_alertView = nullptr;
+    QDockWidget *m_trackDock = nullptr;
+    QDockWidget *m_alertDock = nullptr;
+    QTimer m_trackTimer;
+    QTimer m_alertTimer;
+    bool m_updating = false; // the program moves the selection, not the operator
+};

@@ -1,0 +1,310 @@
+// What can be asked of the window, handed on to the part that does it, and what the window shows of the session.
+
+#include "astfile/rec_file.h"
+#include "plan_view/geo_widget.h"
+#include "ui/actions.h"
+#include "ui/home_view.h"
+#include "ui/input_session.h"
+#include "ui/layout_menu.h"
+#include "ui/list_panes.h"
+#include "ui/main_window.h"
+#include "ui/map_windows.h"
+#include "ui/replay_controls.h"
+#include "ui/scope_notice.h"
+#include "ui/snapshot_pump.h"
+#include "ui/status_read_outs.h"
+
+#include <QAction>
+#include <QDateTime>
+#include <QDragEnterEvent>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QScreen>
+#include <QStatusBar>
+
+namespace {
+
+constexpr int LoadInfoMs = 2000;
+
+// The one local file that is being dragged, if it is a recording; else empty.
+QString draggedRecording(const QMimeData *data)
+{
+    using korvane::astfile::RecFile;
+    const QList<QUrl> urls = data->urls();
+    const QString file = urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
+    return RecFile::formatFromFileName(file) != RecFile::Unknown ? file : QString();
+}
+
+} // namespace
+
+// The input.
+
+bool MainWindow::inputOpen() const
+{
+    return m_session->state() == InputSession::State::Open;
+}
+
+void MainWindow::openInput()
+{
+    m_session->open();
+}
+
+void MainWindow::pauseInput(bool paused)
+{
+    m_session->pause(paused);
+}
+
+void MainWindow::closeInput()
+{
+    m_session->close();
+}
+
+void MainWindow::onEngineInputOpened(unsigned long long requestId)
+{
+    m_session->onOpened(requestId);
+}
+
+void MainWindow::onEngineInputOpenFailed(unsigned long long requestId)
+{
+    m_session->onEnded(requestId);
+}
+
+void MainWindow::onEngineInputClosed(unsigned long long requestId)
+{
+    m_session->onEnded(requestId);
+}
+
+void MainWindow::showSession()
+{
+    m_pump->setInputLive(!m_session->replaying());
+    updateInputActions();
+    updateNotices();
+}
+
+void MainWindow::updateInputActions()
+{
+    const bool closed = m_session->state() == InputSession::State::Closed;
+    for (const ActionId id : {ActionId::Start, ActionId::Settings, ActionId::SensorManager}) {
+        (*m_actions)[id]->setEnabled(closed);
+    }
+    QAction *pause = (*m_actions)[ActionId::Pause];
+    pause->setEnabled(inputOpen());
+    pause->setChecked(m_session->paused());
+    (*m_actions)[ActionId::Record]->setEnabled(inputOpen() && !m_session->replaying());
+}
+
+void MainWindow::updateNotices()
+{
+    m_scopeNotice->showText(m_session->notice());
+    const QString input = m_session->description();
+    const QString idle = tr("No input is running.");
+    const QString waiting =
+        m_session->replaying() ? tr("No tracks yet in %1.").arg(input) : tr("No tracks. Listening on %1.").arg(input);
+    m_lists->setEmptyTexts(inputOpen() ? waiting : idle, inputOpen() ? tr("No alerts.") : idle);
+    const QString program = QGuiApplication::applicationDisplayName();
+    setWindowTitle(m_session->replaying() ? tr("%1 - %2").arg(config().inputFileName.fileName(), program) : program);
+}
+
+// Recordings.
+
+void MainWindow::openRecordingFile()
+{
+    m_replay->openRecordingFile();
+}
+
+void MainWindow::playRecording(const QString &fileName)
+{
+    m_session->play(fileName);
+}
+
+void MainWindow::setReplaySpeed(ReplaySpeed::Speed speed)
+{
+    m_session->setReplaySpeed(speed);
+}
+
+void MainWindow::changeReplaySpeed(QAction *action)
+{
+    m_replay->changeSpeed(action);
+}
+
+void MainWindow::initReplaySpeedMenu()
+{
+    m_replay->initSpeedMenu();
+}
+
+void MainWindow::updateReplaySpeedMenu()
+{
+    m_replay->updateSpeedMenu();
+}
+
+void MainWindow::applyReplayConfig(const QFileInfo &file)
+{
+    m_session->chooseRecording(file);
+}
+
+void MainWindow::updateInputFileMeta(const QFileInfo &file)
+{
+    m_replay->updateFileMeta(file);
+}
+
+void MainWindow::onEngineReplayProgress(const QDateTime &time)
+{
+    m_replay->showPosition(time);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!draggedRecording(event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    const QString file = draggedRecording(event->mimeData());
+    if (!file.isEmpty()) {
+        event->acceptProposedAction();
+        playRecording(file);
+    }
+}
+
+// Pictures and lists.
+
+QSharedPointer<const DisplaySnapshot> MainWindow::newestSnapshot() const
+{
+    return m_pump->newest();
+}
+
+void MainWindow::pullSlots()
+{
+    m_pump->pull();
+}
+
+void MainWindow::procWeatherPicture(const WeatherProcessor::Picture &picture)
+{
+    m_pump->showWeather(picture);
+}
+
+void MainWindow::procVideoRadial(const VideoProcessor::Radial &radial)
+{
+    m_pump->showRadial(radial);
+}
+
+void MainWindow::updateTrackList()
+{
+    m_lists->updateTrackList();
+}
+
+void MainWindow::updateAlertList()
+{
+    m_lists->updateAlertList();
+}
+
+void MainWindow::clearTrackList()
+{
+    m_lists->clearTrackList();
+}
+
+void MainWindow::clearAlertList()
+{
+    m_lists->clearAlertList();
+}
+
+void MainWindow::trackListSelectionChanged()
+{
+    m_lists->trackListSelectionChanged();
+}
+
+void MainWindow::alertListSelectionChanged()
+{
+    m_lists->alertListSelectionChanged();
+}
+
+void MainWindow::selectTrackInList(unsigned long long id)
+{
+    m_lists->selectTrackInList(id);
+}
+
+void MainWindow::updateAlertStatus(Alert::Type type, bool on)
+{
+    m_readOuts->showAlertStatus(type, on);
+}
+
+void MainWindow::updateClock()
+{
+    m_readOuts->showTime(QDateTime::currentDateTimeUtc());
+}
+
+// The view.
+
+void MainWindow::toggleFullScreen()
+{
+    setFullScreen(!isFullScreen());
+}
+
+void MainWindow::setFullScreen(bool on)
+{
+    // The other states stay, so that a maximized window comes back maximized.
+    setWindowState(on ? windowState() | Qt::WindowFullScreen : windowState() & ~Qt::WindowFullScreen);
+}
+
+void MainWindow::resizeMainWindow(const QSize &size)
+{
+    setWindowState(windowState() & ~(Qt::WindowFullScreen | Qt::WindowMaximized));
+    // Without a screen there is nothing to fit into.
+    const bool onScreen = QGuiApplication::platformName() != "offscreen";
+    const QSize frame = frameGeometry().size() - geometry().size();
+    resize(onScreen ? size.boundedTo(screen()->availableSize() - frame) : size);
+}
+
+void MainWindow::showCursorPosition(const QPointF &planePoint, const QPoint &)
+{
+    m_readOuts->showCursorPosition(planePoint);
+}
+
+void MainWindow::showCurrentZoom(double metresPerPixel)
+{
+    m_readOuts->showZoom(metresPerPixel);
+}
+
+void MainWindow::showCurrentRotation(double degrees)
+{
+    m_readOuts->showRotation(degrees);
+}
+
+void MainWindow::showMapLoadInfo(const QFileInfo &file, const QString &progress)
+{
+    statusBar()->showMessage(tr("Loading map %1: %2").arg(file.fileName(), progress), LoadInfoMs);
+}
+
+void MainWindow::loadLayout(QAction *action)
+{
+    m_layoutMenu->loadLayout(action);
+}
+
+void MainWindow::updateMapLayoutMenu()
+{
+    m_layoutMenu->updateMenu();
+}
+
+// Windows of the parts.
+
+void MainWindow::showReplayWindow()
+{
+    m_replay->showWindow();
+}
+
+void MainWindow::showMapWindow()
+{
+    m_mapWindows->showMaps();
+}
+
+void MainWindow::launchStaticMapEditor(const QString &path, MapFile::Format format)
+{
+    m_mapWindows->showEditor(path, format);
+}
+
+void MainWindow::showLayoutSaveWindow()
+{
+    m_layoutMenu->showSaveWindow();
+}

@@ -1,0 +1,97 @@
+#include "ui/snapshot_pump.h"
+
+#include "display/geo_map_display.h"
+#include "display/geo_track_display.h"
+#include "display/geo_video_map.h"
+#include "display/geo_weather_map.h"
+
+#include <QDateTime>
+
+namespace {
+constexpr int PullIntervalMs = 100;
+constexpr int DropStatsIntervalMs = 60000;
+} // namespace
+
+SnapshotPump::SnapshotPump(const EngineHost::Shared *shared, GeoMapDisplay *map, GeoTrackDisplay *tracks)
+    : m_shared(shared), m_map(map), m_tracks(tracks)
+{
+    m_pullTimer.setTimerType(Qt::PreciseTimer);
+    connect(&m_pullTimer, &QTimer::timeout, this, &SnapshotPump::pull);
+    connect(&m_dropStatsTimer, &QTimer::timeout, this, &SnapshotPump::publishDropStats);
+}
+
+void SnapshotPump::start()
+{
+    m_pullTimer.start(PullIntervalMs);
+    m_dropStatsTimer.start(DropStatsIntervalMs);
+}
+
+void SnapshotPump::stop()
+{
+    m_pullTimer.stop();
+}
+
+void SnapshotPump::pull()
+{
+    pullVideo();
+    pullWeather();
+    pullDisplay();
+}
+
+void SnapshotPump::pullVideo()
+{
+    const auto batch = m_videoReader.take(m_shared->video);
+    if (!batch) {
+        return;
+    }
+    for (const VideoProcessor::Radial &radial : batch->radials) {
+        showRadial(radial);
+    }
+    if (m_live && !batch->radials.isEmpty()) {
+        m_videoDelay.add(batch->radials.constFirst().timeOfDay, QDateTime::currentDateTimeUtc());
+    }
+}
+
+void SnapshotPump::pullWeather()
+{
+    const auto picture = m_weatherReader.take(m_shared->weather);
+    if (!picture) {
+        return;
+    }
+    showWeather(*picture);
+    if (m_live) {
+        m_weatherDelay.add(picture->timeOfDay, QDateTime::currentDateTimeUtc());
+    }
+}
+
+void SnapshotPump::pullDisplay()
+{
+    const QSharedPointer<const DisplaySnapshot> snapshot = m_displayReader.take(m_shared->display);
+    if (!snapshot) {
+        return;
+    }
+    m_newest = snapshot;
+    m_tracks->setSnapshot(snapshot);
+    for (std::size_t i = 0; i < m_alertStatus.size(); ++i) {
+        if (m_alertStatus[i] != snapshot->alertStatus[i]) {
+            m_alertStatus[i] = snapshot->alertStatus[i];
+            Q_EMIT alertStatusChanged(static_cast<Alert::Type>(i + 1), m_alertStatus[i]);
+        }
+    }
+}
+
+void SnapshotPump::showWeather(const WeatherProcessor::Picture &picture)
+{
+    m_map->weatherMap()->setPicture(picture);
+}
+
+void SnapshotPump::showRadial(const VideoProcessor::Radial &radial)
+{
+    m_map->videoMap()->addRadial(radial);
+}
+
+void SnapshotPump::publishDropStats()
+{
+    Q_EMIT dropStats({m_displayReader.dropped(), m_videoReader.dropped(), m_weatherReader.dropped(),
+        m_map->weatherMap()->emptyPictures(), m_weatherDelay.milliseconds(), m_videoDelay.milliseconds()});
+}
