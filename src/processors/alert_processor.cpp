@@ -89,8 +89,10 @@ void linkTrack(const QSharedPointer<Alert> &alert, const Side &side, TrackManage
     if (((*alert).*side.track)()) {
         return;
     }
-    const auto track = tracks.findTrackByOtherTrackNum(((*alert).*side.otherTrackNumber)());
-    if (!track) {
+    // The finder may return a track that the source has renumbered since.
+    const unsigned int number = ((*alert).*side.otherTrackNumber)();
+    const auto track = tracks.findTrackByOtherTrackNum(number);
+    if (!track || track->otherTrackNumber() != number) {
         return;
     }
     ((*alert).*side.setTrack)(track);

@@ -78,6 +78,7 @@ private Q_SLOTS:
                 "CAT004 STCA message: Track 2 number changed 0 => 9", "MSAW Active 0-2 T8 ---"});
         row("codes stay", {message(Stca, 5, 20, 21, 01234), message(Stca, 5, 20, 22)}, //
             {"STCA Active 1-1 [A1234] [#0022]"});
+        row("a number that a track had before", {message(Msaw, 5, 7)}, {"MSAW Active 0-0 [#0007] ---"});
         row("conflicts end", {message(Msaw, 5, 8), message(End, 6), message(End, 5)}, {"MSAW End 0-2 T8 ---"});
         row("ended alerts come back", {message(Msaw, 5, 8), message(End, 5), message(Msaw, 5, 8)},
             {"MSAW Active 2-2 T8 ---"});
@@ -105,6 +106,12 @@ private Q_SLOTS:
             qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) { said += text; });
         const auto clock = std::make_shared<Clock>();
         alerts->setClock(clock);
+        // 7 has become 8: an alert of another aircraft under the old number is not its alert.
+        const auto renumbered = tracks->findTrackByOtherTrackNum(8);
+        renumbered->setOtherTrackNumber(7);
+        tracks->registerTrack(renumbered);
+        renumbered->setOtherTrackNumber(8);
+        tracks->registerTrack(renumbered);
         qint64 second = 0;
         for (const Message &record : messages) {
             clock->startRecorded(QDateTime::fromSecsSinceEpoch(second, Qt::UTC));
