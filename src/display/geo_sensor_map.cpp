@@ -4,11 +4,7 @@
 #include "display/ground_circle.h"
 #include "geo/projector.h"
 #include "geo/wgs84.h"
-#include "sensors/adsb_sensor_info.h"
-#include "sensors/mlat_sensor_info.h"
-#include "sensors/radar_sensor_info.h"
-#include "sensors/sdps_sensor_info.h"
-#include "sensors/smr_sensor_info.h"
+#include "sensors/sensor_info.h"
 #include "view/geo_view.h"
 #include "view/map_text.h"
 
@@ -33,37 +29,14 @@ std::function<qint64()> steadyClock()
 }
 
 // Nautical miles, largest first, without zeros and repetitions.
-std::vector<double> coverages(const SensorInfo &sensor)
+std::vector<double> ringsOf(const SensorInfo &sensor)
 {
-    std::vector<double> radii;
-    if (const auto *radar = dynamic_cast<const RadarSensorInfo *>(&sensor)) {
-        radii.push_back(radar->isPrimary() ? radar->coveragePrimary() : 0.0);
-        radii.push_back(radar->isSecondary() ? radar->coverageSecondary() : 0.0);
-    } else if (const auto *adsb = dynamic_cast<const AdsbSensorInfo *>(&sensor)) {
-        radii.push_back(adsb->coverage());
-    } else if (const auto *mlat = dynamic_cast<const MlatSensorInfo *>(&sensor)) {
-        radii.push_back(mlat->coverage());
-    } else if (const auto *sdps = dynamic_cast<const SdpsSensorInfo *>(&sensor)) {
-        radii.push_back(sdps->coverage());
-    } else if (const auto *smr = dynamic_cast<const SmrSensorInfo *>(&sensor)) {
-        radii.push_back(smr->coverage());
-    }
+    const QList<double> entered = sensor.coverages();
+    std::vector<double> radii(entered.begin(), entered.end());
     std::erase_if(radii, [](double radius) { return !(radius > 0.0); });
     std::sort(radii.begin(), radii.end(), std::greater<>());
     radii.erase(std::unique(radii.begin(), radii.end()), radii.end());
     return radii;
-}
-
-// Seconds; nothing for a sensor that does not turn.
-std::optional<double> rotationPeriod(const SensorInfo &sensor)
-{
-    if (const auto *radar = dynamic_cast<const RadarSensorInfo *>(&sensor)) {
-        return radar->rotationPeriod();
-    }
-    if (const auto *smr = dynamic_cast<const SmrSensorInfo *>(&sensor)) {
-        return smr->rotationPeriod();
-    }
-    return std::nullopt;
 }
 
 } // namespace
@@ -93,11 +66,10 @@ void GeoSensorMap::setSensor(const QSharedPointer<SensorInfo> &sensor)
 {
     m_location = sensor ? sensor->location() : GeoCoordinate();
     m_sensorName = sensor ? sensor->name() : QString();
-    m_coverages = sensor ? coverages(*sensor) : std::vector<double>();
-    const std::optional<double> period = sensor ? rotationPeriod(*sensor) : std::nullopt;
-    m_turning = period.has_value();
+    m_coverages = sensor ? ringsOf(*sensor) : std::vector<double>();
+    m_turning = sensor && sensor->turns();
     m_sweep.reset();
-    m_sweep.setNominalPeriod(period.value_or(0.0));
+    m_sweep.setNominalPeriod(m_turning ? sensor->reportPeriod() : 0.0);
     layOut();
     Q_EMIT polluted();
 }

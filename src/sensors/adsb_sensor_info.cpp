@@ -1,6 +1,6 @@
 #include "sensors/adsb_sensor_info.h"
 
-#include "sensors/json_number.h"
+#include "sensors/json_reader.h"
 
 #include <QJsonArray>
 
@@ -18,8 +18,9 @@ bool AdsbSensorInfo::setJsonObject(const QJsonObject &object)
     if (!SensorInfo::setJsonObject(object)) {
         return false;
     }
-    m_coverage = unsignedValue(object[QLatin1String("coverage")], m_coverage);
-    m_updateInterval = object[QLatin1String("update_interval")].toDouble(m_updateInterval);
+    auto values = reader(object);
+    m_coverage = values.unsignedInteger("coverage", m_coverage);
+    m_updateInterval = values.number("update_interval", LongestPeriod, m_updateInterval);
     m_versions.clear();
     const auto versions = object[QLatin1String("versions")].toArray();
     for (const auto &version : versions) {

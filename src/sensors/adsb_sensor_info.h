@@ -15,6 +15,9 @@ public:
     Type type() const override { return AdsbSensor; }
     QJsonObject jsonObject() const override;
     bool setJsonObject(const QJsonObject &object) override;
+    QList<double> coverages() const override { return {static_cast<double>(m_coverage)}; }
+    double reportPeriod() const override { return m_updateInterval; }
+    std::optional<TrackLife> trackLife() const override { return TrackLife{0.5, 1.5, 3.0, 3000, 15000}; }
 
     unsigned int coverage() const { return m_coverage; } // radius, nautical miles
     void setCoverage(const unsigned int &coverage) { m_coverage = coverage; }

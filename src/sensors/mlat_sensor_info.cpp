@@ -1,6 +1,6 @@
 #include "sensors/mlat_sensor_info.h"
 
-#include "sensors/json_number.h"
+#include "sensors/json_reader.h"
 
 QJsonObject MlatSensorInfo::jsonObject() const
 {
@@ -14,6 +14,7 @@ bool MlatSensorInfo::setJsonObject(const QJsonObject &object)
     if (!SensorInfo::setJsonObject(object)) {
         return false;
     }
-    m_coverage = unsignedValue(object[QLatin1String("coverage")], m_coverage);
+    auto values = reader(object);
+    m_coverage = values.unsignedInteger("coverage", m_coverage);
     return true;
 }

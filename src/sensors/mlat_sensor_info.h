@@ -13,6 +13,8 @@ public:
     Type type() const override { return MlatSensor; }
     QJsonObject jsonObject() const override;
     bool setJsonObject(const QJsonObject &object) override;
+    QList<double> coverages() const override { return {static_cast<double>(m_coverage)}; }
+    std::optional<TrackLife> trackLife() const override { return TrackLife{0.0, 0.0, 0.0, 3000, 15000}; }
 
     unsigned int coverage() const { return m_coverage; } // radius, nautical miles
     void setCoverage(const unsigned int &coverage) { m_coverage = coverage; }

@@ -1,6 +1,6 @@
 #include "sensors/radar_sensor_info.h"
 
-#include "sensors/json_number.h"
+#include "sensors/json_reader.h"
 
 void RadarSensorInfo::setRadarType(bool psr, bool ssr, bool modeS)
 {
@@ -27,12 +27,19 @@ bool RadarSensorInfo::setJsonObject(const QJsonObject &object)
     if (!SensorInfo::setJsonObject(object)) {
         return false;
     }
-    m_antennaAltitude = object[QLatin1String("antenna_altitude")].toInt();
-    m_rotationPeriod = object[QLatin1String("rotation_period")].toDouble();
-    m_primary = object[QLatin1String("psr")].toBool();
-    m_secondary = object[QLatin1String("ssr")].toBool();
-    m_modeS = object[QLatin1String("modes")].toBool();
-    m_coveragePrimary = unsignedValue(object[QLatin1String("psr_coverage")], 0);
-    m_coverageSecondary = unsignedValue(object[QLatin1String("ssr_coverage")], 0);
+    auto values = reader(object);
+    m_antennaAltitude = static_cast<int>(values.integer("antenna_altitude", LowestAntenna, HighestAntenna, 0));
+    m_rotationPeriod = values.number("rotation_period", LongestPeriod, 0.0);
+    m_primary = values.flag("psr");
+    m_secondary = values.flag("ssr");
+    m_modeS = values.flag("modes");
+    m_coveragePrimary = values.unsignedInteger("psr_coverage", 0);
+    m_coverageSecondary = values.unsignedInteger("ssr_coverage", 0);
     return true;
+}
+
+QList<double> RadarSensorInfo::coverages() const
+{
+    return {isPrimary() ? static_cast<double>(m_coveragePrimary) : 0.0,
+        isSecondary() ? static_cast<double>(m_coverageSecondary) : 0.0};
 }

@@ -14,6 +14,10 @@ public:
     QJsonObject jsonObject() const override;
     // A key that is missing becomes 0 or false, unlike in the other subclasses. Mode S does not force secondary here.
     bool setJsonObject(const QJsonObject &object) override;
+    QList<double> coverages() const override;
+    double reportPeriod() const override { return m_rotationPeriod; }
+    bool turns() const override { return true; }
+    std::optional<TrackLife> trackLife() const override { return TrackLife{1.0, 1.25, 3.0, 5000, 12000}; }
 
     int antennaAltitude() const { return m_antennaAltitude; } // metres
     void setAntennaAltitude(int altitude) { m_antennaAltitude = altitude; }

@@ -1,6 +1,6 @@
 #include "sensors/sdps_sensor_info.h"
 
-#include "sensors/json_number.h"
+#include "sensors/json_reader.h"
 
 QJsonObject SdpsSensorInfo::jsonObject() const
 {
@@ -15,7 +15,8 @@ bool SdpsSensorInfo::setJsonObject(const QJsonObject &object)
     if (!SensorInfo::setJsonObject(object)) {
         return false;
     }
-    m_coverage = unsignedValue(object[QLatin1String("coverage")], m_coverage);
-    m_updateInterval = object[QLatin1String("update_interval")].toDouble(m_updateInterval);
+    auto values = reader(object);
+    m_coverage = values.unsignedInteger("coverage", m_coverage);
+    m_updateInterval = values.number("update_interval", LongestPeriod, m_updateInterval);
     return true;
 }

@@ -1,6 +1,7 @@
 #include "sensors/sensor_info.h"
 
 #include "sensors/adsb_sensor_info.h"
+#include "sensors/json_reader.h"
 #include "sensors/mlat_sensor_info.h"
 #include "sensors/radar_sensor_info.h"
 #include "sensors/sdps_sensor_info.h"
@@ -8,6 +9,7 @@
 
 namespace {
 constexpr auto LocationFormat = GeoCoordinate::HighPrecision;
+constexpr int LastYear = 9999;
 } // namespace
 
 SensorInfo::SensorInfo(QObject *parent) : QObject(parent) { }
@@ -33,8 +35,14 @@ QJsonObject SensorInfo::jsonObject() const
     };
 }
 
+JsonReader SensorInfo::reader(const QJsonObject &object)
+{
+    return {object, m_refusedValues};
+}
+
 bool SensorInfo::setJsonObject(const QJsonObject &object)
 {
+    m_refusedValues.clear();
     if (typeFromString(object[QLatin1String("type")].toString()) != type()) {
         return false;
     }
@@ -42,13 +50,15 @@ bool SensorInfo::setJsonObject(const QJsonObject &object)
     if (!location.isValid()) {
         return false;
     }
-    m_name = object[QLatin1String("name")].toString();
-    m_description = object[QLatin1String("description")].toString();
-    m_manufacturer = object[QLatin1String("manufacturer")].toString();
-    m_model = object[QLatin1String("model")].toString();
-    m_commissionYear = static_cast<unsigned short>(object[QLatin1String("commission_year")].toInt());
-    m_sac = static_cast<unsigned char>(object[QLatin1String("sac")].toInt(m_sac));
-    m_sic = static_cast<unsigned char>(object[QLatin1String("sic")].toInt(m_sic));
+    auto values = reader(object);
+    m_name = values.text("name");
+    m_description = values.text("description");
+    m_manufacturer = values.text("manufacturer");
+    m_model = values.text("model");
+    const bool hasYear = !object[QLatin1String("commission_year")].isNull();
+    m_commissionYear = static_cast<unsigned short>(hasYear ? values.integer("commission_year", 0, LastYear, 0) : 0);
+    m_sac = static_cast<unsigned char>(values.integer("sac", 0, 255, m_sac));
+    m_sic = static_cast<unsigned char>(values.integer("sic", 0, 255, m_sic));
     m_location = location;
     return true;
 }

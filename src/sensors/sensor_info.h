@@ -4,11 +4,18 @@
 #include "sensors/sensor_type.h"
 
 #include <QJsonObject>
+#include <QList>
 #include <QObject>
 #include <QSharedPointer>
 #include <QString>
+#include <QStringList>
 
-// One source of surveillance data. What only some kinds of sensor have stands in the subclasses.
+#include <optional>
+
+class JsonReader;
+
+// One source of surveillance data. What only some kinds of sensor have stands in the subclasses; what others ask every
+// sensor stands here.
 class SensorInfo : public QObject {
     Q_OBJECT
 
@@ -20,8 +27,30 @@ public:
 
     virtual Type type() const { return UnknownSensor; }
     virtual QJsonObject jsonObject() const;
-    // False, with nothing of the subclass read, when the object is of another type or its location is not valid.
+    // False, with nothing of the subclass read, when the object is of another type or its location is not valid. A
+    // value of the wrong kind or beyond its range becomes what a missing one does.
     virtual bool setJsonObject(const QJsonObject &object);
+    // The values that the last setJsonObject did not take, as "sac": 300.
+    const QStringList &refusedValues() const { return m_refusedValues; }
+
+    // The radii that it covers, one for each of its ways to detect, nautical miles; 0 where none was entered.
+    virtual QList<double> coverages() const { return {}; }
+    // Seconds between two reports of one target; 0 when not known.
+    virtual double reportPeriod() const { return 0.0; }
+    // Whether it has an antenna that turns once in a report period.
+    virtual bool turns() const { return false; }
+
+    // How long its tracks live without a report: multiples of the report period, or fixed spans where that is not known
+    // or too short to be true.
+    struct TrackLife {
+        double shortestPeriod = 0.0; // seconds; none is long enough for who has fixed spans only
+        double coastingPeriods = 0.0;
+        double terminationPeriods = 0.0;
+        unsigned int coastingMs = 0;
+        unsigned int terminationMs = 0;
+    };
+    // Nothing for an unknown sensor.
+    virtual std::optional<TrackLife> trackLife() const { return std::nullopt; }
 
     unsigned char sac() const { return m_sac; }
     unsigned char sic() const { return m_sic; }
@@ -54,7 +83,15 @@ public:
     // Null when the object's type is unknown or setJsonObject refuses it.
     static QSharedPointer<SensorInfo> create(const QJsonObject &object, QObject *parent = nullptr);
 
+protected:
+    static constexpr double LongestPeriod = 3600.0; // seconds
+    static constexpr int LowestAntenna = -1000; // metres
+    static constexpr int HighestAntenna = 100000;
+
+    JsonReader reader(const QJsonObject &object);
+
 private:
+    QStringList m_refusedValues;
     unsigned char m_sac = 0;
     unsigned char m_sic = 0;
     unsigned short m_commissionYear = 0;

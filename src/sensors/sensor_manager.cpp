@@ -85,8 +85,37 @@ bool SensorManager::loadFromJsonFile(const QFileInfo &file)
         }
         sensor->setName(uniqueName(sensor->name()));
         addSensor(sensor);
+        warnOfRefusedValues(file, *sensor);
     }
+    warnOfSharedSources(file);
     return true;
+}
+
+void SensorManager::warnOfRefusedValues(const QFileInfo &file, const SensorInfo &sensor)
+{
+    for (const auto &value : sensor.refusedValues()) {
+        Q_EMIT warning(tr("%1: sensor \"%2\" has a value that is not valid and takes its default: %3")
+                           .arg(file.filePath(), sensor.name(), value));
+    }
+}
+
+// A SAC/SIC of 0/0 was not entered.
+void SensorManager::warnOfSharedSources(const QFileInfo &file)
+{
+    QMap<int, QString> firstOfSource;
+    for (const auto &name : sensorNames()) {
+        const auto sensor = findSensor(name);
+        const int source = sensor->sac() << 8 | sensor->sic();
+        const auto first = firstOfSource.constFind(source);
+        if (first == firstOfSource.constEnd()) {
+            firstOfSource.insert(source, name);
+        } else if (source != 0) {
+            Q_EMIT warning(tr("%1: sensors \"%2\" and \"%3\" have the same SAC/SIC, %4/%5")
+                               .arg(file.filePath(), *first, name)
+                               .arg(sensor->sac())
+                               .arg(sensor->sic()));
+        }
+    }
 }
 
 bool SensorManager::saveToJsonFile(const QFileInfo &file) const

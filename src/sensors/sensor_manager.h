@@ -30,12 +30,19 @@ public:
     QMap<QString, QStringList> manufacturerModels() const;
 
     // Replaces all records. False, with the records unchanged, when the file cannot be read or is no JSON array.
-    // Elements that do not describe a sensor are skipped; a name already taken becomes "NAME_dup1" and so on.
+    // Elements that do not describe a sensor are skipped; a name already taken becomes "NAME_dup1" and so on. Values
+    // that are not taken, and sensors that cannot be told apart by their SAC/SIC, are warned of.
     bool loadFromJsonFile(const QFileInfo &file);
     // The file is replaced whole or stays as it was.
     bool saveToJsonFile(const QFileInfo &file) const;
 
+Q_SIGNALS:
+    // Something in a file that is read is not as it should be; the text names the file.
+    void warning(const QString &text);
+
 private:
+    void warnOfRefusedValues(const QFileInfo &file, const SensorInfo &sensor);
+    void warnOfSharedSources(const QFileInfo &file);
     QString uniqueName(const QString &name) const;
 
     QHash<QString, QSharedPointer<SensorInfo>> m_sensors;

@@ -1,6 +1,10 @@
 #include "sensors/smr_sensor_info.h"
 
-#include "sensors/json_number.h"
+#include "sensors/json_reader.h"
+
+namespace {
+constexpr double LargestCoverage = 100000.0; // nautical miles
+} // namespace
 
 QJsonObject SmrSensorInfo::jsonObject() const
 {
@@ -17,9 +21,11 @@ bool SmrSensorInfo::setJsonObject(const QJsonObject &object)
     if (!SensorInfo::setJsonObject(object)) {
         return false;
     }
-    m_antennaAltitude = object[QLatin1String("antenna_altitude")].toInt(m_antennaAltitude);
-    m_rotationPeriod = object[QLatin1String("rotation_period")].toDouble(m_rotationPeriod);
-    m_coverage = object[QLatin1String("coverage")].toDouble(m_coverage);
-    m_acp = unsignedValue(object[QLatin1String("acp")], 0);
+    auto values = reader(object);
+    m_antennaAltitude =
+        static_cast<int>(values.integer("antenna_altitude", LowestAntenna, HighestAntenna, m_antennaAltitude));
+    m_rotationPeriod = values.number("rotation_period", LongestPeriod, m_rotationPeriod);
+    m_coverage = values.number("coverage", LargestCoverage, m_coverage);
+    m_acp = values.unsignedInteger("acp", 0);
     return true;
 }

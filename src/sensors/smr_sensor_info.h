@@ -14,6 +14,10 @@ public:
     QJsonObject jsonObject() const override;
     // A missing "acp" becomes 0; the other keys keep their value when missing.
     bool setJsonObject(const QJsonObject &object) override;
+    QList<double> coverages() const override { return {m_coverage}; }
+    double reportPeriod() const override { return m_rotationPeriod; }
+    bool turns() const override { return true; }
+    std::optional<TrackLife> trackLife() const override { return TrackLife{1.0, 1.25, 3.0, 1500, 3000}; }
 
     int antennaAltitude() const { return m_antennaAltitude; } // metres
     void setAntennaAltitude(int altitude) { m_antennaAltitude = altitude; }

@@ -74,6 +74,8 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     connectMapActions();
     connectMapWindows();
     connectDialogActions();
+    connect(m_sensors.get(), &SensorManager::warning, this,
+        [this](const QString &text) { showLog(LogLevel::Warning, text); });
     loadSensorDatabase();
     loadAircraftDatabase();
     applyConfig();

@@ -109,6 +109,74 @@ private Q_SLOTS:
         }
     }
 
+    void valuesThatAreNotTaken_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QJsonValue>("value");
+        QTest::addColumn<QJsonValue>("taken");
+        const auto row = [](const char *type, const char *key, const QJsonValue &value, const QJsonValue &taken) {
+            const auto text = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+            QTest::addRow("%s %s %s", type, key, text.constData()) << QString(type) << QString(key) << value << taken;
+        };
+        row("mlat", "sac", 255, 255);
+        row("mlat", "sac", 300, 0);
+        row("mlat", "sic", -1, 0);
+        row("mlat", "sic", 1.5, 0);
+        row("mlat", "commission_year", 9999, 9999);
+        row("mlat", "commission_year", 70000, QJsonValue());
+        row("mlat", "commission_year", QJsonValue(), QJsonValue());
+        row("mlat", "description", 5, "");
+        row("mlat", "coverage", "80", 0);
+        row("mlat", "coverage", 4294967296.0, 0);
+        row("radar", "rotation_period", 3600, 3600);
+        row("radar", "rotation_period", 1e300, 0);
+        row("radar", "rotation_period", -4, 0);
+        row("radar", "psr", 1, false);
+        row("radar", "antenna_altitude", 1e6, 0);
+        row("smr", "antenna_altitude", -1000, -1000);
+        row("smr", "coverage", 1e300, 0);
+        row("sdps", "update_interval", QJsonValue(), 0);
+    }
+
+    void valuesThatAreNotTaken()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, key);
+        QFETCH(QJsonValue, value);
+        auto object = sensorObject(type);
+        object[key] = value;
+        const auto sensor = SensorInfo::create(object);
+        QVERIFY(sensor);
+        QTEST(sensor->jsonObject().value(key), "taken");
+        QCOMPARE(sensor->refusedValues().isEmpty(), sensor->jsonObject().value(key) == value);
+        QVERIFY(sensor->setJsonObject(sensorObject(type)));
+        QVERIFY(sensor->refusedValues().isEmpty());
+    }
+
+    void filesAreWarnedOf()
+    {
+        const auto sensor = [](const char *name, const QJsonValue &sac, int sic) {
+            auto object = sensorObject(QStringLiteral("radar"), QString::fromLatin1(name));
+            object[QStringLiteral("sac")] = sac;
+            object[QStringLiteral("sic")] = sic;
+            return object;
+        };
+        QTemporaryDir directory;
+        const QString path = directory.filePath(QStringLiteral("sensors.json"));
+        const QJsonArray elements{sensor("a", 25, 3), sensor("b", 25, 4), sensor("c", 25, 3), sensor("d", 0, 0),
+            sensor("e", 0, 0), sensor("f", 300, 7)};
+        write(path, QJsonDocument(elements).toJson());
+        SensorManager manager;
+        QStringList warnings;
+        connect(&manager, &SensorManager::warning, this, [&warnings](const QString &text) { warnings += text; });
+        QVERIFY(manager.loadFromJsonFile(QFileInfo(path)));
+        QCOMPARE(manager.sensorNames().size(), 6);
+        QCOMPARE(warnings,
+            QStringList({path + R"(: sensor "f" has a value that is not valid and takes its default: "sac": 300)",
+                path + R"(: sensors "a" and "c" have the same SAC/SIC, 25/3)"}));
+    }
+
     void refusedObjects()
     {
         RadarSensorInfo radar;
