@@ -165,6 +165,7 @@ private Q_SLOTS:
         sky.tracker.setReferencePosition(Airport.latitude - 9.1, Airport.longitude); // 1012 km
         sky.airborne(0, Airport, false);
         QVERIFY(!sky.airborne(1, Airport, true)->positionValid());
+        QCOMPARE(sky.tracker.positionsOutOfRange(), 1ULL);
         sky.tracker.setReferencePosition(Airport.latitude - 8.9, Airport.longitude);
         QVERIFY(isAt(*sky.airborne(2, Airport, false), Airport));
     }
@@ -235,6 +236,44 @@ private Q_SLOTS:
         QVERIFY(!other->icaoAddrValid());
         QCOMPARE(other->icaoAddr(), Address);
         QVERIFY(!aircraft->callsignValid());
+    }
+
+    void expiredValuesMustBeHeardAgain()
+    {
+        Sky sky;
+        sky.hear(0, encodeIdentification(Address, 'A', 3, "SWR12"));
+        sky.hear(0, encodeIdentityReply(Address, 01234));
+        sky.hear(0, encodeVelocity(Address, 480, 90, 640));
+        sky.airborne(0, Airport, false);
+        QVERIFY(isAt(*sky.airborne(0, Airport, true), Airport));
+        auto target = sky.hear(60, encodeAllCall(Address));
+        QVERIFY(isAt(*target, Airport) && !target->positionExpired());
+        target = sky.hear(60.001, encodeAllCall(Address));
+        QVERIFY(!target->positionValid() && target->positionExpired());
+        target = sky.hear(300, encodeAllCall(Address));
+        QVERIFY(target->callsignValid() && target->squawkValid() && target->altitudeBaroValid());
+        QVERIFY(target->groundSpeedValid() && target->headingValid() && target->verticalRateValid());
+        target = sky.hear(300.001, encodeAllCall(Address));
+        QVERIFY(!target->callsignValid() && target->callsignExpired());
+        QVERIFY(!target->altitudeBaroValid() && !target->groundSpeedValid());
+        QVERIFY(!target->headingValid() && !target->verticalRateValid());
+        target = sky.hear(301, encodeCommBAltitude(Address, 12000, 0x202CC371C32CE0));
+        QCOMPARE(target->callsign(), std::string("KLM1023")); // the squitter's does not stand in its way any more
+        QVERIFY(target->callsignValid() && !target->callsignExpired() && target->altitudeBaroValid());
+        QVERIFY(isAt(*sky.airborne(302, Airport, false), Airport)); // the old position still vouches for it
+    }
+
+    void silentTargetsAreForgotten()
+    {
+        Sky sky;
+        sky.airborne(0, Airport, false);
+        for (int second = 1; second <= 660; ++second) {
+            sky.hear(second, encodeIdentification(0x111111, 'A', 1, "NEW")); // never a pause
+            QVERIFY(sky.tracker.targets().size() == 2 || second > 600);
+        }
+        QCOMPARE(sky.tracker.targets().size(), 1U);
+        sky.hear(-1000, encodeIdentification(0x222222, 'A', 1, "OLD")); // a recording is played from further ahead
+        QCOMPARE(sky.tracker.targets().size(), 1U);
     }
 
     void killsTargets()

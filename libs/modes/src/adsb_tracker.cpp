@@ -16,6 +16,8 @@ constexpr unsigned long long SlowSurfacePairSpan = 50000;
 constexpr double SlowSurfaceSpeed = 25; // knots
 constexpr unsigned long long PositionMemory = 600000; // milliseconds for which a position vouches for the next
 constexpr int MaximumRefusals = 3;
+constexpr unsigned long long TargetMemory = PositionMemory; // a target that is silent for longer is forgotten
+constexpr unsigned long long SweepPeriod = 60000; // milliseconds between two looks for such
 
 unsigned long long span(unsigned long long a, unsigned long long b)
 {
@@ -49,6 +51,7 @@ std::shared_ptr<ADSBTarget> ADSBTracker::procModeSMsg(const ModeSMessage &messag
     if (!message.valid() || !message.isAddressConfirmed()) {
         return nullptr;
     }
+    forgetSilentTargets(message.timeStamp());
     const std::shared_ptr<ADSBTarget> target = findOrMake(message);
     if (!target) {
         return nullptr;
@@ -59,6 +62,7 @@ std::shared_ptr<ADSBTarget> ADSBTracker::procModeSMsg(const ModeSMessage &messag
     }
     if (message.squawk()) {
         target->m_squawk = message.squawk();
+        target->m_squawkTime = message.timeStamp();
     }
     if (message.altitude()) {
         takeAltitude(*target, *message.altitude(), message.timeStamp());
@@ -84,6 +88,16 @@ std::shared_ptr<ADSBTarget> ADSBTracker::findOrMake(const ModeSMessage &message)
     target->m_isAddressValid = isIcao;
     m_targets.emplace(key, target);
     return target;
+}
+
+// In a stream without a pause the caller may never ask for it.
+void ADSBTracker::forgetSilentTargets(unsigned long long time)
+{
+    if (span(time, m_lastSweep) < SweepPeriod) {
+        return;
+    }
+    m_lastSweep = time;
+    std::erase_if(m_targets, [time](const auto &entry) { return span(time, entry.second->lastSeen()) > TargetMemory; });
 }
 
 std::vector<std::shared_ptr<ADSBTarget>> ADSBTracker::killTargets(unsigned long long time)
@@ -117,7 +131,7 @@ void ADSBTracker::clearReferencePosition()
     m_reference.reset();
 }
 
-void ADSBTracker::takeContent(ADSBTarget &target, const ModeSMessage &message) const
+void ADSBTracker::takeContent(ADSBTarget &target, const ModeSMessage &message)
 {
     const SquitterContent &content = message.content();
     const unsigned long long time = message.timeStamp();
@@ -130,34 +144,44 @@ void ADSBTracker::takeContent(ADSBTarget &target, const ModeSMessage &message) c
             takePosition(target, *airborne->position, time);
         }
     } else if (const auto *const velocity = std::get_if<AirborneVelocity>(&content)) {
+        target.m_movementTime = time;
         target.m_groundSpeed = velocity->groundSpeed;
         target.m_heading = velocity->track ? velocity->track : velocity->heading;
         target.m_verticalRate = velocity->verticalRate;
     } else if (const auto *const surface = std::get_if<SurfacePosition>(&content)) {
         target.m_isOnGround = true;
+        target.m_movementTime = time;
         target.m_groundSpeed = surface->groundSpeed;
         target.m_heading = surface->track;
         takePosition(target, surface->position, time);
     } else if (const auto *const identification = std::get_if<Identification>(&content)) {
-        if (identification->callsign[0]) {
-            target.m_callsign = identification->callsign;
-        }
+        takeCallsign(target, identification->callsign, time);
     } else if (const auto *const emergency = std::get_if<EmergencyStatus>(&content)) {
         if (emergency->squawk) {
             target.m_squawk = emergency->squawk;
+            target.m_squawkTime = time;
         }
     } else if (const auto *const coarse = std::get_if<CoarsePosition>(&content)) {
         takeCoarse(target, *coarse, time);
-    } else if (target.m_callsign.empty() && message.registers().only() == 0x20) {
-        target.m_callsign = decodeBds20(message.messageField())->callsign;
+    } else if (!target.callsignValid() && message.registers().only() == 0x20) {
+        takeCallsign(target, decodeBds20(message.messageField())->callsign, time);
     }
 }
 
-void ADSBTracker::takeCoarse(ADSBTarget &target, const CoarsePosition &content, unsigned long long time) const
+void ADSBTracker::takeCallsign(ADSBTarget &target, const char *callsign, unsigned long long time)
+{
+    if (callsign[0]) {
+        target.m_callsign = callsign;
+        target.m_callsignTime = time;
+    }
+}
+
+void ADSBTracker::takeCoarse(ADSBTarget &target, const CoarsePosition &content, unsigned long long time)
 {
     if (content.altitude) {
         takeAltitude(target, *content.altitude, time);
     }
+    target.m_movementTime = time;
     target.m_groundSpeed = content.groundSpeed;
     target.m_heading = content.track;
     takePosition(target, content.position, time);
@@ -165,7 +189,7 @@ void ADSBTracker::takeCoarse(ADSBTarget &target, const CoarsePosition &content, 
 
 void ADSBTracker::takeAltitude(ADSBTarget &target, int altitude, unsigned long long time) const
 {
-    const bool isRecent = target.m_altitude && span(time, target.m_altitudeTime) <= m_altitudeCheckingTime * 1000ULL;
+    const bool isRecent = target.m_altitude && span(time, *target.m_altitudeTime) <= m_altitudeCheckingTime * 1000ULL;
     if (m_isCheckingAltitude && isRecent) {
         const long long change = altitude - static_cast<long long>(*target.m_altitude);
         if (std::max(change, -change) > static_cast<long long>(m_altitudeMaxChange)) {
@@ -181,7 +205,7 @@ void ADSBTracker::takeAltitude(ADSBTarget &target, int altitude, unsigned long l
 }
 
 // A pair is believed before a report alone is: alone, a report near a wrong position only confirms it.
-void ADSBTracker::takePosition(ADSBTarget &target, const CprPosition &report, unsigned long long time) const
+void ADSBTracker::takePosition(ADSBTarget &target, const CprPosition &report, unsigned long long time)
 {
     target.m_reports[report.isOdd ? 1 : 0] = ADSBTarget::Report{report, time};
     std::optional<LatLon> position = decodePair(target, report);
@@ -191,7 +215,9 @@ void ADSBTracker::takePosition(ADSBTarget &target, const CprPosition &report, un
     if (!position) {
         return;
     }
-    if (isInRange(*position) && isReachable(target, *position, time, report.isSurface)) {
+    const bool inRange = isInRange(*position);
+    m_positionsOutOfRange += inRange ? 0 : 1;
+    if (inRange && isReachable(target, *position, time, report.isSurface)) {
         target.m_position = position;
         target.m_positionTime = time;
         target.m_refusedPositions = 0;
@@ -228,7 +254,7 @@ std::optional<LatLon> ADSBTracker::decodePair(const ADSBTarget &target, const Cp
 std::optional<LatLon> ADSBTracker::decodeAlone(
     const ADSBTarget &target, const CprPosition &report, unsigned long long time) const
 {
-    if (!target.m_position || span(time, target.m_positionTime) > PositionMemory) {
+    if (!target.m_position || span(time, target.positionTime()) > PositionMemory) {
         return std::nullopt;
     }
     return decodeCprLocal(report, *target.m_position);
@@ -238,7 +264,7 @@ std::optional<LatLon> ADSBTracker::decodeAlone(
 bool ADSBTracker::isReachable(
     const ADSBTarget &target, const LatLon &position, unsigned long long time, bool isSurface) const
 {
-    const unsigned long long elapsed = span(time, target.m_positionTime);
+    const unsigned long long elapsed = span(time, target.positionTime());
     if (!target.m_position || time == 0 || elapsed > PositionMemory) {
         return true;
     }

@@ -11,7 +11,7 @@
 namespace korvane::modes {
 
 // Puts the messages of each address together. Times are those of the messages, so that recordings replay at any speed.
-// For one thread.
+// What is silent for ten minutes is forgotten within another. For one thread.
 class ADSBTracker {
 public:
     ADSBTracker() = default;
@@ -35,14 +35,19 @@ public:
 
     const std::unordered_map<std::uint64_t, std::shared_ptr<ADSBTarget>> &targets() const { return m_targets; }
 
+    // How many positions have not been taken because they lie beyond MaximumRange.
+    unsigned long long positionsOutOfRange() const { return m_positionsOutOfRange; }
+
     static constexpr double MaximumRange = 1000 * 1000.0; // metres
 
 private:
     std::shared_ptr<ADSBTarget> findOrMake(const ModeSMessage &message);
-    void takeContent(ADSBTarget &target, const ModeSMessage &message) const;
-    void takeCoarse(ADSBTarget &target, const CoarsePosition &content, unsigned long long time) const;
+    void forgetSilentTargets(unsigned long long time);
+    void takeContent(ADSBTarget &target, const ModeSMessage &message);
+    static void takeCallsign(ADSBTarget &target, const char *callsign, unsigned long long time);
+    void takeCoarse(ADSBTarget &target, const CoarsePosition &content, unsigned long long time);
     void takeAltitude(ADSBTarget &target, int altitude, unsigned long long time) const;
-    void takePosition(ADSBTarget &target, const CprPosition &report, unsigned long long time) const;
+    void takePosition(ADSBTarget &target, const CprPosition &report, unsigned long long time);
     std::optional<LatLon> decodePair(const ADSBTarget &target, const CprPosition &newest) const;
     std::optional<LatLon> decodeAlone(
         const ADSBTarget &target, const CprPosition &report, unsigned long long time) const;
@@ -50,6 +55,8 @@ private:
     bool isInRange(const LatLon &position) const;
 
     std::unordered_map<std::uint64_t, std::shared_ptr<ADSBTarget>> m_targets; // by address, and kind of address above
+    unsigned long long m_lastSweep = 0; // milliseconds
+    unsigned long long m_positionsOutOfRange = 0;
     std::optional<LatLon> m_reference;
     bool m_isCheckingAltitude = false;
     unsigned int m_altitudeCheckingTime = 4; // seconds
