@@ -151,6 +151,16 @@ private Q_SLOTS:
         QVERIFY(flagged.v && !flagged.g && flagged.l && flagged.code == 02345);
         const _ast_item_mode3a_t plain = squawk("010108 F4E5", "2.1");
         QVERIFY(!plain.v && !plain.g && !plain.l && plain.code == 02345);
+        const auto ground = [](const char *record, const char *edition) {
+            const Octets octets = Octets::block(21, record);
+            const _ast_ground_bit_t bit = ast_datarecord_021_get_groundbit(Decoded(octets, 21, edition).record());
+            return bit.present ? int(bit.onGround) : -1;
+        };
+        QCOMPARE(ground("40 4000", "0.26"), 1);
+        QCOMPARE(ground("40 0140", "2.1"), 1);
+        QCOMPARE(ground("40 0100", "2.7"), 0);
+        QCOMPARE(ground("40 FE", "2.7"), 0); // the octet with the bit is not sent
+        QCOMPARE(ground("80 1903", "2.7"), -1);
         // The bit that says "range exceeded" belongs to no value.
         const Octets exceeded = Octets::block(21, "0101012980 FFFF 84004000 599631CB3820");
         const Decoded beyond(exceeded, 21, "2.1");

@@ -44,6 +44,7 @@ constexpr Source sources[] = {
     {21, ReportField::Longitude, "131/LON"},
     {21, ReportField::Latitude, "130/LAT"},
     {21, ReportField::Longitude, "130/LON"},
+    {21, ReportField::GroundBit, "040/GBS"},
     {21, ReportField::Mode3A, "070/MODE3A"},
     {21, ReportField::Mode3ANotValidated, "070/V"},
     {21, ReportField::Mode3AGarbled, "070/G"},
@@ -93,7 +94,7 @@ ReportPlace makePlace(const Uap &uap, const Node &node, double factor)
     }
     place.node = &node;
     place.slot = static_cast<std::uint8_t>(slot);
-    place.isNested = node.anchor->parent != nullptr;
+    place.isNested = node.anchor->parent || (node.anchor->kind == Kind::Extended && node.bitOffset >= 8);
     place.isSigned = node.isSigned;
     place.bits = static_cast<std::uint8_t>(node.bits);
     place.bitOffset = node.bitOffset;

@@ -30,6 +30,7 @@ enum class ReportField : std::uint8_t {
     Level,
     SelectedAltitude,
     VerticalRate,
+    GroundBit,
     Count
 };
 
@@ -40,7 +41,7 @@ inline constexpr std::size_t ReportPlaces = 2;
 struct ReportPlace {
     const Node *node = nullptr; // null: the UAP does not have it
     std::uint8_t slot = 0; // FRN minus 1 of its item
-    bool isNested = false; // in a sub-item: has to be searched for in each record
+    bool isNested = false; // in a sub-item or a later extent: has to be searched for in each record
     bool isSigned = false;
     std::uint8_t bits = 0;
     std::uint16_t bitOffset = 0; // from the first bit of the item

@@ -111,6 +111,16 @@ _ast_item_wgs84_t ast_datarecord_get_wgs84coord(const _ast_datarecord_t &record)
     return latitude && longitude ? _ast_item_wgs84_t{true, *latitude, *longitude} : _ast_item_wgs84_t{};
 }
 
+_ast_ground_bit_t ast_datarecord_021_get_groundbit(const _ast_datarecord_t &record)
+{
+    if (!record.valid) {
+        return {};
+    }
+    const ReportPlace &place = record.uap->reportFields[static_cast<std::size_t>(ReportField::GroundBit)][0];
+    const bool present = place.node && record.itemOffsets[place.slot] != 0;
+    return {present, present && findFlag(record, ReportField::GroundBit)};
+}
+
 _ast_item_mode3a_t ast_datarecord_021_get_squawk(const _ast_datarecord_t &record)
 {
     const auto found = findBits(record, ReportField::Mode3A);

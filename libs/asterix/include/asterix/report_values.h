@@ -28,6 +28,11 @@ struct _ast_vrate_t {
     double rate; // feet per minute, climbing positive
 };
 
+struct _ast_ground_bit_t {
+    bool present;
+    bool onGround; // false as well where its extent is not sent
+};
+
 // I021/080, I010/220, I020/220, I048/220, I062/380 ADR.
 _ast_item_address_t ast_datarecord_get_icaoaddr(const _ast_datarecord_t &record);
 // I021/170, I010/245, I020/245, I048/240, I062/245 else I062/380 ID.
@@ -37,6 +42,8 @@ _ast_item_wgs84_t ast_datarecord_get_wgs84coord(const _ast_datarecord_t &record)
 // I021/070; v, g and l are false in the editions that do not send them. Edition 0.23 has no Mode 3/A code. Of CAT021
 // only.
 _ast_item_mode3a_t ast_datarecord_021_get_squawk(const _ast_datarecord_t &record);
+// I021/040 GBS. Of CAT021 only.
+_ast_ground_bit_t ast_datarecord_021_get_groundbit(const _ast_datarecord_t &record);
 // I021/160, I001/200, I010/200, I048/200; of the Cartesian velocity I010/202, I020/202, I062/185 otherwise.
 _ast_speed_t ast_datarecord_get_speed(const _ast_datarecord_t &record);
 // The same items; magnetic I021/152 and I062/380 MHG.
