@@ -8,11 +8,19 @@ namespace {
 
 constexpr qint64 ReportLifeSpan = 4000; // milliseconds that selected altitude and vertical rate stay valid
 constexpr qint64 CleanupPauseMs = 4000;
+constexpr qint64 RefusalReportPeriodMs = 60000;
 
-void setModeA(Track &track, const korvane::modes::ADSBTarget &target)
+void setIdentity(Track &track, const korvane::modes::ADSBTarget &target)
 {
+    if (target.callsignValid()) {
+        reports::setCallsign(track, target.callsign().c_str());
+    } else if (target.callsignExpired()) {
+        track.setModeSCallsign({});
+    }
     if (target.squawkValid()) {
         reports::setModeA(track, target.squawk(), false, false);
+    } else if (target.squawkExpired()) {
+        track.setModeACodeValid(false);
     }
 }
 
@@ -76,8 +84,12 @@ void AdsbTracker::procCat021Record(const _ast_datarecord_t &record)
         return;
     }
     track->setState(Track::Confirmed);
-    if (const auto callsign = ast_datarecord_get_callsign(record); callsign.present) {
+    // Stations send blanks or zeros for a call sign that they have not heard yet, or not again.
+    if (const auto callsign = ast_datarecord_get_callsign(record); callsign.text[0]) {
         reports::setCallsign(*track, callsign.text);
+    }
+    if (const auto ground = ast_datarecord_021_get_groundbit(record); ground.present) {
+        track->setGround(ground.onGround);
     }
     if (const auto position = ast_datarecord_get_wgs84coord(record); position.present) {
         track->setGeoCoordinate({position.latitude, position.longitude});
@@ -110,6 +122,7 @@ QSharedPointer<Track> AdsbTracker::trackOf(unsigned int address)
 void AdsbTracker::procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &message)
 {
     const auto target = m_modesTracker.procModeSMsg(message);
+    reportRefusedPositions();
     if (!target || !target->icaoAddrValid()) {
         return;
     }
@@ -118,21 +131,43 @@ void AdsbTracker::procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMe
         return;
     }
     track->setState(Track::Confirmed);
-    if (target->callsignValid()) {
-        reports::setCallsign(*track, target->callsign().c_str());
-    }
-    if (target->positionValid()) {
-        track->setGeoCoordinate({target->latitude(), target->longitude()});
-        project(*track);
-    }
-    setModeA(*track, *target);
-    track->setGroundSpeed(target->groundSpeedValid() ? target->groundSpeed() : 0.0);
-    track->setGroundSpeedValid(target->groundSpeedValid());
-    track->setHeading(target->headingValid() ? target->heading() : 0.0);
-    track->setHeadingValid(target->headingValid());
-    reports::setLevel(*track, target->altitudeBaroValid() ? std::optional(target->altitudeBaro()) : std::nullopt);
+    takeTarget(*track, *target);
     track->recordHistory(trackManager().now());
     cleanUpTargets();
+}
+
+// What has expired is taken from the track; what was never heard is left as it was.
+void AdsbTracker::takeTarget(Track &track, const korvane::modes::ADSBTarget &target) const
+{
+    setIdentity(track, target);
+    if (target.positionValid()) {
+        track.setGeoCoordinate({target.latitude(), target.longitude()});
+        project(track);
+    } else if (target.positionExpired()) {
+        track.clearPosition();
+    }
+    track.setGroundSpeed(target.groundSpeedValid() ? target.groundSpeed() : 0.0);
+    track.setGroundSpeedValid(target.groundSpeedValid());
+    track.setHeading(target.headingValid() ? target.heading() : 0.0);
+    track.setHeadingValid(target.headingValid());
+    reports::setLevel(track, target.altitudeBaroValid() ? std::optional(target.altitudeBaro()) : std::nullopt);
+}
+
+void AdsbTracker::reportRefusedPositions()
+{
+    const auto refused = m_modesTracker.positionsOutOfRange() - m_reportedRefusals;
+    if (refused == 0) {
+        return;
+    }
+    const auto now = trackManager().now();
+    if (m_lastRefusalReport.isValid() && std::abs(m_lastRefusalReport.msecsTo(now)) < RefusalReportPeriodMs) {
+        return;
+    }
+    m_lastRefusalReport = now;
+    m_reportedRefusals = m_modesTracker.positionsOutOfRange();
+    Q_EMIT message(LogLevel::Warning,
+        tr("ADS-B Tracker: %1 positions more than 1,000 km from the sensor were not taken, is its location right?")
+            .arg(refused));
 }
 
 // Runs after a pause only: what is flying is heard all the time, and the library's memory of it is worth keeping.

@@ -28,9 +28,13 @@ private:
     void procCat021Record(const _ast_datarecord_t &record);
     // Null when no track number is free.
     QSharedPointer<Track> trackOf(unsigned int address);
+    void takeTarget(Track &track, const korvane::modes::ADSBTarget &target) const;
     void cleanUpTargets();
+    void reportRefusedPositions();
 
     korvane::modes::ADSBTracker m_modesTracker;
     unsigned int m_noUpdatedTargetDeletionTime = 10;
     QDateTime m_lastTargetCleanup; // of the last Mode S message
+    unsigned long long m_reportedRefusals = 0; // of positions out of range
+    QDateTime m_lastRefusalReport;
 };

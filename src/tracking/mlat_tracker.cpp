@@ -2,13 +2,16 @@
 
 #include "tracking/report_items.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace {
 
 constexpr qint64 DownlinkLifeSpan = 4000; // milliseconds that a value from a Mode S register stays valid
 constexpr double FeetPerLevel = 100.0;
 constexpr double ReportPeriod = 1.0; // seconds
+constexpr int CertainContradictions = 10; // more of them than jitter of the levels would give
 
 Track::State stateOf(const _ast_datarecord_020_t &record)
 {
@@ -70,13 +73,18 @@ void MlatTracker::procCat020Message(const _ast_datarecord_020_t &record)
     if (record.i245.present) {
         reports::setCallsign(*track, record.i245.text);
     }
-    placeReported(*track, record.i041, record.i042);
+    placeReported(*track, record.i010, record.i041, record.i042);
     reports::setModeA(*track, record.i070);
+    const bool levelKnown = track->levelValid();
+    const int previousLevel = track->level();
     reports::setLevel(*track, levelOf(record));
     reports::setSelectedAltitude(*track, reports::selectedAltitude(record.i250), now, DownlinkLifeSpan);
     reports::setVerticalRate(*track, reports::verticalRate(record.i250), now, DownlinkLifeSpan);
     if (record.i170.present) {
         track->setVerticalTrend(trendOf(record.i170.cdm));
+        if (levelKnown && track->levelValid()) {
+            compareTrend(*track, track->level() - previousLevel, record.i010);
+        }
     }
     reports::setVelocityFromComponents(*track, record.i202.present, record.i202.vx, record.i202.vy);
     track->recordHistory(now);
@@ -99,4 +107,31 @@ QSharedPointer<Track> MlatTracker::trackOf(const _ast_datarecord_020_t &record, 
         tr("MLAT Tracker: CAT020 message has neither valid track number (I020/161) nor valid Mode-S address "
            "(I020/220), ignore."));
     return {};
+}
+
+// A source that counts its trends in another order shows climbing targets as descending, and the reverse.
+void MlatTracker::compareTrend(const Track &track, int levelChange, const _ast_sacsic_t &code)
+{
+    const auto trend = track.verticalTrend();
+    const bool hasDirection = trend == Track::TrendClimbing || trend == Track::TrendDescending;
+    Source &sender = source(code);
+    if (levelChange == 0 || !hasDirection || sender.warnedOfTrends) {
+        return;
+    }
+    if ((trend == Track::TrendClimbing) == (levelChange > 0)) {
+        sender.contradictions = std::max(0, sender.contradictions - 1);
+        return;
+    }
+    sender.contradictedFeet = (sender.contradictions == 0 ? 0 : sender.contradictedFeet) + std::abs(levelChange);
+    if (++sender.contradictions < CertainContradictions) {
+        return;
+    }
+    sender.warnedOfTrends = true;
+    Q_EMIT message(LogLevel::Warning,
+        tr("MLAT Tracker: the vertical trends (I020/170) of SAC/SIC %1/%2 contradict its levels, which changed the "
+           "other "
+           "way by %3 ft; the trends shown may be wrong.")
+            .arg(code.sac)
+            .arg(code.sic)
+            .arg(sender.contradictedFeet));
 }

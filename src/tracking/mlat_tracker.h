@@ -17,6 +17,7 @@ public:
 
 private:
     void procCat020Message(const _ast_datarecord_020_t &record);
+    void compareTrend(const Track &track, int levelChange, const _ast_sacsic_t &code);
     // Null when the report names no track, which is logged, or no track number is free.
     QSharedPointer<Track> trackOf(const _ast_datarecord_020_t &record, const QDateTime &now);
 };

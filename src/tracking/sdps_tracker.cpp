@@ -21,6 +21,15 @@ void addHalfCircleToWesternLongitude(_ast_datarecord_062_t &record)
     }
 }
 
+Track::State stateOf(const _ast_datarecord_062_t &record)
+{
+    const auto &status = record.i080;
+    if (status.present && status.cnf) {
+        return Track::Tentative;
+    }
+    return status.present && status.cst ? Track::Coasting : Track::Confirmed;
+}
+
 // The measured level, else the calculated one unless it is an altitude above the sea.
 std::optional<int> levelOf(const _ast_datarecord_062_t &record)
 {
@@ -86,14 +95,25 @@ void SdpsTracker::procAsterixMessage(const _ast_datablock_t &block)
 void SdpsTracker::procCat062Message(const _ast_datarecord_062_t &record)
 {
     const auto now = trackManager().now();
-    const auto track = trackOf(record, now);
+    const auto identity = identityOf(record);
+    if (!identity.usable()) {
+        Q_EMIT message(LogLevel::Debug,
+            tr("SDPS Tracker: CAT062 message has neither valid track number (I062/040) nor valid Mode-S address "
+               "(I062/380/ADR), ignore."));
+        return;
+    }
+    if (record.i080.present && record.i080.tse) {
+        endTrack(identity, now);
+        return;
+    }
+    const auto track = associate(identity, now);
     if (!track) {
         return;
     }
     track->setType(record.i380.present ? Track::SdpsModeS : Track::Sdps);
-    track->setState(record.i080.present && record.i080.cnf ? Track::Tentative : Track::Confirmed);
+    track->setState(stateOf(record));
     setCallsign(*track, record);
-    placeReported(*track, record.i105, record.i100);
+    placeReported(*track, record.i010, record.i105, record.i100);
     reports::setModeA(*track, record.i060);
     reports::setLevel(*track, levelOf(record));
     setVerticalMovement(*track, record, now);
@@ -101,7 +121,7 @@ void SdpsTracker::procCat062Message(const _ast_datarecord_062_t &record)
     track->recordHistory(now);
 }
 
-QSharedPointer<Track> SdpsTracker::trackOf(const _ast_datarecord_062_t &record, const QDateTime &now)
+Tracker::Identity SdpsTracker::identityOf(const _ast_datarecord_062_t &record) const
 {
     Identity identity;
     if (record.i040.present) {
@@ -112,11 +132,5 @@ QSharedPointer<Track> SdpsTracker::trackOf(const _ast_datarecord_062_t &record, 
     }
     identity.reportPeriod =
         m_sensor->updateInterval() < ShortestUpdateInterval ? AssumedUpdateInterval : m_sensor->updateInterval();
-    if (identity.usable()) {
-        return associate(identity, now);
-    }
-    Q_EMIT message(LogLevel::Debug,
-        tr("SDPS Tracker: CAT062 message has neither valid track number (I062/040) nor valid Mode-S address "
-           "(I062/380/ADR), ignore."));
-    return {};
+    return identity;
 }

@@ -22,8 +22,7 @@ public:
 
 private:
     void procCat062Message(const _ast_datarecord_062_t &record);
-    // Null when the report names no track, which is logged, or no track number is free.
-    QSharedPointer<Track> trackOf(const _ast_datarecord_062_t &record, const QDateTime &now);
+    Identity identityOf(const _ast_datarecord_062_t &record) const;
 
     QSharedPointer<SdpsSensorInfo> m_sensor;
     bool m_correctLongitudeWrap = false;

@@ -1,6 +1,13 @@
 #include "tracking/system_tracker.h"
 
 #include "geo/projector.h"
+#include "geo/wgs84.h"
+
+#include <cmath>
+
+namespace {
+constexpr double LargestDisagreement = wgs84::MetresPerNauticalMile; // in the plane
+} // namespace
 
 SystemTracker::SystemTracker(const GeoCoordinate &location, const QSharedPointer<TrackManager> &trackManager,
     Projector *projector, QObject *parent)
@@ -14,4 +21,28 @@ void SystemTracker::placeOnPlane(Track &track, const QPointF &position, bool der
     if (deriveWgs84) {
         track.setGeoCoordinate(projector().toWgs84(position));
     }
+}
+
+void SystemTracker::comparePositions(const Track &track, const _ast_sacsic_t &code)
+{
+    Source &sender = source(code);
+    if (sender.warnedOfPositions || !track.geoCoordinateValid()) {
+        return;
+    }
+    QPointF derived;
+    projector().toCartesian(
+        &derived.rx(), &derived.ry(), track.geoCoordinate().latitude(), track.geoCoordinate().longitude());
+    const QPointF apart = derived - track.carCoordinate();
+    const double distance = std::hypot(apart.x(), apart.y());
+    if (distance <= LargestDisagreement) {
+        return;
+    }
+    sender.warnedOfPositions = true;
+    Q_EMIT message(LogLevel::Warning,
+        tr("%1 Tracker: the WGS-84 and Cartesian positions of SAC/SIC %2/%3 lie %4 NM apart, see the settings \"Ignore "
+           "WGS-84 positions\" and \"Ignore Cartesian positions\".")
+            .arg(SensorInfo::typeFullName(type()))
+            .arg(code.sac)
+            .arg(code.sic)
+            .arg(distance / wgs84::MetresPerNauticalMile, 0, 'f', 1));
 }

@@ -2,6 +2,7 @@
 
 #include "tracking/tracker.h"
 
+#include <QHash>
 #include <QPointF>
 
 // What the sources have in common that report positions on the globe, in metres around their own location, or both.
@@ -29,16 +30,29 @@ protected:
         cartesian.present = cartesian.present && !m_ignoreCartesianCoordinates;
     }
 
+    // What is watched of one of the sources behind the sensor.
+    struct Source {
+        bool warnedOfPositions = false;
+        bool warnedOfTrends = false;
+        int contradictions = 0; // of trends and levels, less the reports in which they agree
+        int contradictedFeet = 0; // by which levels changed in those
+    };
+    Source &source(const _ast_sacsic_t &code) { return m_sources[static_cast<quint16>(code.sac << 8 | code.sic)]; }
+
     // Each position as it is reported, or derived from the other where only that one is; both are left as they were
-    // where there is none. Items as _ast_item_wgs84_t and _ast_item_cartesian_t.
+    // where there is none. Positions that contradict each other are taken all the same, and warned of once a source.
+    // Items as _ast_item_wgs84_t and _ast_item_cartesian_t.
     template <typename Wgs84Item, typename CartesianItem>
-    void placeReported(Track &track, const Wgs84Item &wgs84, const CartesianItem &cartesian) const
+    void placeReported(Track &track, const _ast_sacsic_t &code, const Wgs84Item &wgs84, const CartesianItem &cartesian)
     {
         if (wgs84.present) {
             track.setGeoCoordinate({wgs84.latitude, wgs84.longitude});
         }
         if (cartesian.present) {
             placeOnPlane(track, m_sensorPlanePosition + QPointF(cartesian.x, cartesian.y), !wgs84.present);
+            if (wgs84.present) {
+                comparePositions(track, code);
+            }
         } else if (wgs84.present) {
             project(track);
         }
@@ -46,7 +60,9 @@ protected:
 
 private:
     void placeOnPlane(Track &track, const QPointF &position, bool deriveWgs84) const;
+    void comparePositions(const Track &track, const _ast_sacsic_t &code);
 
+    QHash<quint16, Source> m_sources; // by SAC and SIC
     QPointF m_sensorPlanePosition;
     bool m_ignoreWgs84Coordinates = false;
     bool m_ignoreCartesianCoordinates = false;

@@ -107,6 +107,12 @@ void Track::setCarCoordinate(const QPointF &coordinate)
     m_carCoordinateValid = true;
 }
 
+void Track::clearPosition()
+{
+    setGeoCoordinate({});
+    m_carCoordinateValid = false;
+}
+
 void Track::setSelectedAltitude(int altitude, const QDateTime &now)
 {
     m_selectedAltitude = altitude;

@@ -92,6 +92,8 @@ public:
     const QPointF &carCoordinate() const { return m_carCoordinate; }
     bool carCoordinateValid() const { return m_carCoordinateValid; }
     void setCarCoordinate(const QPointF &coordinate);
+    // Neither position is valid until it is set again.
+    void clearPosition();
 
     double groundSpeed() const { return m_groundSpeed; } // knots
     bool groundSpeedValid() const { return m_groundSpeedValid; }

@@ -83,7 +83,7 @@ QSharedPointer<Track> Tracker::findOrCreate(unsigned int number)
 // A known track number decides. Otherwise the aircraft address does, so that a track first seen by its address keeps
 // its identity when the sensor gives it a number, or gives it a new one after having lost it. Finders may return a
 // track that has gone on to another key; such an entry does not count as known.
-QSharedPointer<Track> Tracker::associate(const Identity &identity, const QDateTime &now)
+QSharedPointer<Track> Tracker::find(const Identity &identity, const QDateTime &now)
 {
     QSharedPointer<Track> track;
     if (identity.number != 0) {
@@ -92,6 +92,12 @@ QSharedPointer<Track> Tracker::associate(const Identity &identity, const QDateTi
     if (!track && identity.address.value_or(0) != 0) {
         track = findByAddress(identity, now);
     }
+    return track;
+}
+
+QSharedPointer<Track> Tracker::associate(const Identity &identity, const QDateTime &now)
+{
+    auto track = find(identity, now);
     if (!track) {
         track = createTrack();
     }
@@ -106,6 +112,14 @@ QSharedPointer<Track> Tracker::associate(const Identity &identity, const QDateTi
     }
     m_trackManager->registerTrack(track);
     return track;
+}
+
+void Tracker::endTrack(const Identity &identity, const QDateTime &now)
+{
+    if (const auto track = find(identity, now)) {
+        track->setState(Track::Terminated);
+        m_trackManager->removeTrack(track);
+    }
 }
 
 QSharedPointer<Track> Tracker::findByNumber(unsigned int number)

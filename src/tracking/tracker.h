@@ -58,9 +58,13 @@ protected:
     QSharedPointer<Track> createTrack();
     // The track of a sensor that numbers its tracks once and for all, new where there was none. Null as createTrack().
     QSharedPointer<Track> findOrCreate(unsigned int number);
+    // The track that a report with this identity, which must be usable, belongs to; null where there is none.
+    QSharedPointer<Track> find(const Identity &identity, const QDateTime &now);
     // The track of a sensor that may know an aircraft by number, by address or by both, new where there was none; its
     // identity is brought up to date. The identity must be usable. Null as createTrack().
     QSharedPointer<Track> associate(const Identity &identity, const QDateTime &now);
+    // The source has ended the track: it goes at once.
+    void endTrack(const Identity &identity, const QDateTime &now);
 
     // Sets the track's position and plane position to the point at so many metres over ground and degrees clockwise
     // from north.

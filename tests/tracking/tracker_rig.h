@@ -36,6 +36,8 @@ public:
         m_clock->startRecorded(now);
     }
 
+    double second() const { return static_cast<double>(m_start.msecsTo(now)) / 1000; }
+
     void receive(const QByteArray &octets)
     {
         _ast_datablock_t block;

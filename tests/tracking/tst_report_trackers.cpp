@@ -62,6 +62,12 @@ const Row rows[]{
     {"plane ignored", 62, "040=7 105/LAT=50.625 105/LON=8.4375 100/X=1000", "x 939258", IgnoreCartesian},
     {"aircraft-derived data end", 62, "380/ADR=99; @1 040=7 380/ADR=99; @2 040=7", "tracks 1, type 10, address 000063"},
     {"tentative", 62, "040=7 080/CNF=1", "state 0"},
+    {"coasting", 62, "040=7 080/CST=1", "state 2"},
+    {"tentative before coasting", 62, "040=7 080/CNF=1 080/CST=1", "state 0"},
+    {"coasting no more", 62, "040=7 080/CST=1; 040=7", "state 1"},
+    {"end of track", 62, "040=7; 040=7 080/TSE=1", "tracks 0"},
+    {"end of a track known by its address", 62, "380/ADR=99; 380/ADR=99 080/TSE=1", "tracks 0"},
+    {"end of another track", 62, "040=7; 040=8 080/TSE=1", "tracks 1"},
     {"flight plan's call sign", 62, "040=7 380/ID=VYX12 390/CS=PLAN7", "call PLAN7"},
     {"target identification", 62, "040=7 245/CHR=VYX12", "call -------"},
     {"calculated level", 62, "040=7 135/CTB=-3.25", "level -325"},
@@ -92,6 +98,9 @@ const Row rows[]{
     {"magnetic heading, level below zero", 21, "080=99 152=45 145=-3.25", "speed -, heading 45.0, level -325"},
     {"sent 4 s ago", 21, "080=99 146/ALT=12000 155/BVR=300; @4 080=99", "rate 300, trend 2, selected 12000"},
     {"and a moment more", 21, "080=99 146/ALT=12000 155/BVR=300; @4.001 080=99", "rate -, trend 0, selected -"},
+    {"call sign of zeros", 21, "080=99 170=VYX12; 080=99 170=", "call VYX12"},
+    {"on the ground", 21, "080=99 040/GBS=1; 080=99", "ground 1"},
+    {"in the air again", 21, "080=99 040/GBS=1; 080=99 040/ATP=1", "ground 0"},
     {"no address", 21, "170=VYX12; 080=0", "tracks 0"},
 
     {"all fields", 10, "161/TRK=7 040/RHO=3000 040/TH=90 200/GSP=0.0078125 200/TRA=45 220=99 090/FL=1",
@@ -155,6 +164,48 @@ private Q_SLOTS:
         }
     }
 
+    void contradictionsAreWarnedOfOnce_data()
+    {
+        QTest::addColumn<int>("category");
+        QTest::addColumn<QString>("reports");
+        QTest::addColumn<QString>("warning");
+        const auto row = [](const char *name, int category, const QString &reports, const QString &warning = {}) {
+            QTest::newRow(name) << category << reports << warning;
+        };
+        const QString positions = "%1 Tracker: the WGS-84 and Cartesian positions of SAC/SIC 25/0 lie %2 NM apart, see "
+                                  "the settings \"Ignore WGS-84 positions\" and \"Ignore Cartesian positions\".";
+        row("positions", 20, "161/TRN=7 041/LAT=50 041/LON=8 042/X=2000 042/Y=0; 161/TRN=8 041/LAT=50 042/X=9000",
+            positions.arg("MLAT", "1.1"));
+        row("positions of a system", 62, "040=7 105/LAT=50 105/LON=8 100/X=0 100/Y=3704; 040=7 105/LAT=9 100/X=0",
+            positions.arg("SDPS", "2.0"));
+        row("positions within the limit", 20, "161/TRN=7 041/LAT=50 041/LON=8 042/X=1800 042/Y=0; 161/TRN=7 042/X=99");
+        const auto climb = [](int cdm, int reports) {
+            QStringList texts;
+            for (int i = 0; i < reports; ++i) {
+                texts += QStringLiteral("@%1 161/TRN=7 170/CDM=%2 090/FL=%3").arg(i).arg(cdm).arg(100 + i);
+            }
+            return texts.join("; ");
+        };
+        row("trend", 20, climb(1, 20),
+            "MLAT Tracker: the vertical trends (I020/170) of SAC/SIC 25/0 contradict its levels, which changed the "
+            "other way by 1000 ft; the trends shown may be wrong.");
+        row("trend in a few reports", 20, climb(1, 10));
+        row("trend that agrees", 20, climb(0, 20));
+        row("level flight", 20, climb(2, 20));
+    }
+
+    void contradictionsAreWarnedOfOnce()
+    {
+        QFETCH(int, category);
+        QFETCH(QString, reports);
+        QFETCH(QString, warning);
+        TrackerRig rig(sensors[category]);
+        QSignalSpy messages(rig.tracker.data(), &Tracker::message);
+        rig.send(category, reports);
+        const QList<QVariantList> expected{{QVariant::fromValue(LogLevel::Warning), warning}};
+        QCOMPARE(messages, warning.isEmpty() ? QList<QVariantList>() : expected);
+    }
+
     void exhaustedTrackNumbersAreReportedNowAndThen()
     {
         for (const auto &[category, report] :
@@ -167,6 +218,46 @@ private Q_SLOTS:
             rig.send(category, QStringLiteral("@10 %1").arg(report));
             QCOMPARE(messages.size(), 2);
         }
+    }
+
+    void whatIsNotHeardAgainIsNoLongerShown()
+    {
+        TrackerRig rig(AdsbSensor);
+        receive(rig, 0, modes::encodeIdentification(0x4b1a2c, 'A', 3, "VYX12"));
+        receive(rig, 0, modes::encodeIdentityReply(0x4b1a2c, 01234));
+        for (const bool isOdd : {false, true}) {
+            receive(rig, 0, modes::encodeAirbornePosition(0x4b1a2c, {50.5, 8.5}, 35000, isOdd));
+        }
+        const auto hearVelocityUntil = [&](double last) { // without the pause after which targets are forgotten
+            for (double second = rig.second() + 3; second < last; second += 3) {
+                receive(rig, second, modes::encodeVelocity(0x4b1a2c, 450, 270, 0));
+            }
+            receive(rig, last, modes::encodeVelocity(0x4b1a2c, 450, 270, 0));
+        };
+        hearVelocityUntil(60);
+        QCOMPARE(shown(rig, "call, code, level, dots"), "call VYX12, code 1234, level 35000, dots 21");
+        QVERIFY(rig.manager->allTracks().first()->carCoordinateValid());
+        hearVelocityUntil(60.001);
+        QCOMPARE(shown(rig, "lat, x, level, dots"), "lat -, x -, level 35000, dots 21"); // and so it ages
+        hearVelocityUntil(300.001);
+        QCOMPARE(shown(rig, "call, code, level, speed"), "call -------, code ----, level -, speed 450.0");
+        receive(rig, 301, modes::encodeAirbornePosition(0x4b1a2c, {50.5, 8.5}, 35000, false));
+        QCOMPARE(shown(rig, "level, dots"), "level 35000, dots 22");
+    }
+
+    void positionsOutOfRangeAreReportedOnceAMinute()
+    {
+        TrackerRig rig(AdsbSensor);
+        QSignalSpy messages(rig.tracker.data(), &Tracker::message);
+        for (int second = 0; second <= 61; ++second) {
+            receive(rig, second, modes::encodeAirbornePosition(0x4b1a2c, {10, 8}, 35000, second % 2));
+        }
+        QCOMPARE(messages.size(), 2); // a position needs two reports, so that the first one comes at second 1
+        const QString text = "ADS-B Tracker: %1 positions more than 1,000 km from the sensor were not taken, is its "
+                             "location right?";
+        QCOMPARE(messages[0][1].toString(), text.arg(1));
+        QVERIFY(messages[1][1].toString() != text.arg(1));
+        QCOMPARE(messages[0][0].value<LogLevel>(), LogLevel::Warning);
     }
 
     void libraryTargetsAreForgottenAfterAPause()
