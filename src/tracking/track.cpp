@@ -27,6 +27,23 @@ void Track::setIcaoAddr(unsigned int address)
     m_icaoAddr = address;
     m_icaoAddrValid = address != 0;
     m_icaoAddrString = digits(address, 6, 16);
+    markUnindexed();
+}
+
+void Track::setOtherTrackNumber(unsigned int number)
+{
+    if (number != m_otherTrackNumber) {
+        m_otherTrackNumber = number;
+        markUnindexed();
+    }
+}
+
+void Track::markUnindexed()
+{
+    if (m_indexed && m_unindexedCount) {
+        ++*m_unindexedCount;
+    }
+    m_indexed = false;
 }
 
 QString Track::icaoAddrString() const

@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <deque>
+#include <memory>
 
 class Alert;
 
@@ -56,7 +57,7 @@ public:
     // The sensor's own track number; valid when not 0.
     unsigned int otherTrackNumber() const { return m_otherTrackNumber; }
     bool otherTrackNumberValid() const { return m_otherTrackNumber != 0; }
-    void setOtherTrackNumber(unsigned int number) { m_otherTrackNumber = number; }
+    void setOtherTrackNumber(unsigned int number);
 
     // 24-bit ICAO aircraft address; setting it makes it valid unless it is 0.
     unsigned int icaoAddr() const { return m_icaoAddr; }
@@ -156,6 +157,10 @@ public:
     bool terminated() const { return m_state == Terminated; }
 
 private:
+    friend class TrackManager;
+
+    // Its manager cannot find it by its identity before it is registered.
+    void markUnindexed();
     void updateModeAString();
 
     quint64 m_incarnationId = 0;
@@ -169,6 +174,7 @@ private:
     int m_verticalRate = 0;
     VerticalTrend m_verticalTrend = TrendUnknown;
     State m_state = Tentative;
+    bool m_indexed = false; // by its manager, under its present identity
     bool m_icaoAddrValid = false;
     bool m_modeACodeValid = false;
     bool m_modeACodeSmoothed = false;
@@ -193,6 +199,7 @@ private:
     QDateTime m_verticalRateLastUpdate;
     QDateTime m_lastUpdate;
     QSet<QSharedPointer<Alert>> m_alerts;
+    std::shared_ptr<int> m_unindexedCount; // how many tracks of its manager are not indexed; null without a manager
     // A list that is filled at the front and cut at the back would keep four times the memory that its elements need.
     std::deque<TrackHistoryElement> m_history;
 };

@@ -84,6 +84,7 @@ void TrackManager::reset()
     m_tracksByIcaoAddr.clear();
     m_tracksByOtherTrackNumber.clear();
     m_numbersInUse = 0;
+    m_unindexedCount = std::make_shared<int>(0);
     m_nextTrackNumber = 1;
 }
 
@@ -133,10 +134,45 @@ QSharedPointer<Track> TrackManager::insertNewTrack(unsigned int trackNumber)
 
 void TrackManager::store(const QSharedPointer<Track> &track)
 {
-    const auto count = m_tracksByNumber.size();
-    m_tracksByNumber.insert(track->trackNumber(), track);
-    if (m_tracksByNumber.size() > count && isGivenOut(track->trackNumber())) {
+    auto &entry = m_tracksByNumber[track->trackNumber()];
+    if (entry == track) {
+        return;
+    }
+    if (entry) {
+        release(*entry);
+    } else if (isGivenOut(track->trackNumber())) {
         ++m_numbersInUse;
+    }
+    entry = track;
+    track->m_unindexedCount = m_unindexedCount;
+    track->m_indexed = false;
+    ++*m_unindexedCount;
+}
+
+void TrackManager::release(Track &track)
+{
+    *m_unindexedCount -= track.m_indexed ? 0 : 1;
+    track.m_indexed = false;
+    track.m_unindexedCount.reset();
+}
+
+void TrackManager::indexUnder(Index &index, unsigned int key, const QSharedPointer<Track> &track)
+{
+    auto &entry = index[key];
+    if (entry == track) {
+        return;
+    }
+    if (entry) {
+        entry->markUnindexed(); // it may still have the key
+    }
+    entry = track;
+}
+
+void TrackManager::removeKey(Index &index, unsigned int key, const Track &track)
+{
+    const auto entry = index.take(key);
+    if (entry && entry.data() != &track) {
+        entry->markUnindexed();
     }
 }
 
@@ -162,11 +198,13 @@ void TrackManager::registerTrack(const QSharedPointer<Track> &track)
     }
     store(track);
     if (track->icaoAddrValid()) {
-        m_tracksByIcaoAddr.insert(track->icaoAddr(), track);
+        indexUnder(m_tracksByIcaoAddr, track->icaoAddr(), track);
     }
     if (track->otherTrackNumberValid()) {
-        m_tracksByOtherTrackNumber.insert(track->otherTrackNumber(), track);
+        indexUnder(m_tracksByOtherTrackNumber, track->otherTrackNumber(), track);
     }
+    *m_unindexedCount -= track->m_indexed ? 0 : 1;
+    track->m_indexed = true;
 }
 
 void TrackManager::removeTrack(const QSharedPointer<Track> &track)
@@ -174,14 +212,15 @@ void TrackManager::removeTrack(const QSharedPointer<Track> &track)
     if (!track) {
         return;
     }
-    if (m_tracksByNumber.remove(track->trackNumber()) && isGivenOut(track->trackNumber())) {
-        --m_numbersInUse;
+    if (const auto stored = m_tracksByNumber.take(track->trackNumber())) {
+        release(*stored);
+        m_numbersInUse -= isGivenOut(track->trackNumber()) ? 1 : 0;
     }
     if (track->icaoAddrValid()) {
-        m_tracksByIcaoAddr.remove(track->icaoAddr());
+        removeKey(m_tracksByIcaoAddr, track->icaoAddr(), *track);
     }
     if (track->otherTrackNumberValid()) {
-        m_tracksByOtherTrackNumber.remove(track->otherTrackNumber());
+        removeKey(m_tracksByOtherTrackNumber, track->otherTrackNumber(), *track);
     }
 }
 
@@ -196,6 +235,9 @@ QSharedPointer<Track> TrackManager::find(const Index &index, unsigned int key, M
 {
     if (const auto indexed = index.constFind(key); indexed != index.constEnd()) {
         return *indexed;
+    }
+    if (*m_unindexedCount == 0) {
+        return {};
     }
     const auto found = std::find_if(m_tracksByNumber.cbegin(), m_tracksByNumber.cend(), matches);
     if (found == m_tracksByNumber.cend()) {

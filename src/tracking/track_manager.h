@@ -54,8 +54,6 @@ public:
     // Milliseconds since the last position after which a track coasts and after which it is removed. A termination span
     // shorter than the coasting span is raised to it.
     void setTrackLifeSpan(unsigned int coastingMs, unsigned int terminationMs);
-    unsigned int coastingSpan() const { return m_coastingSpan; }
-    unsigned int terminationSpan() const { return m_terminationSpan; }
 
     // One entry a track, whatever its state, in no particular order; at most trailDots points of trail each.
     QList<TrackSnapshot> snapshotTracks(int trailDots) const;
@@ -77,6 +75,9 @@ private:
     bool isGivenOut(unsigned int trackNumber) const;
     unsigned int nextValidTrackNum();
     void store(const QSharedPointer<Track> &track);
+    void release(Track &track);
+    static void indexUnder(Index &index, unsigned int key, const QSharedPointer<Track> &track);
+    static void removeKey(Index &index, unsigned int key, const Track &track);
     QSharedPointer<Track> insertNewTrack(unsigned int trackNumber);
     template <typename Matches>
     QSharedPointer<Track> find(const Index &index, unsigned int key, Matches matches);
@@ -90,6 +91,9 @@ private:
     Index m_tracksByNumber; // owns the tracks
     Index m_tracksByIcaoAddr;
     Index m_tracksByOtherTrackNumber;
+    // Tracks that a finder may have to search for. While there is none, what is not indexed is not there: the first
+    // report of each target, and each report that is refused, need no search.
+    std::shared_ptr<int> m_unindexedCount = std::make_shared<int>(0);
     QList<QSharedPointer<Track>> m_trackList;
     QTimer m_lifeTimer;
     unsigned int m_coastingSpan = 2000;

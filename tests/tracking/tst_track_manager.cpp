@@ -69,6 +69,45 @@ private Q_SLOTS:
         QVERIFY(!m_manager->findTrackByOtherTrackNum(78));
     }
 
+    // Finders search only while a track may not be indexed: whatever happens to tracks, they find what a search would.
+    void findersFindWhatASearchWould()
+    {
+        QList<QSharedPointer<Track>> tracks;
+        quint32 state = 4711;
+        const auto below = [&state](quint32 limit) {
+            state = state * 1664525u + 1013904223u;
+            return state / 65536u % limit;
+        };
+        for (int step = 0; step < 20000; ++step) {
+            const auto action = below(8);
+            if (action == 0 || tracks.isEmpty()) {
+                tracks.append(m_manager->createTrack());
+                continue;
+            }
+            const auto track = tracks[below(static_cast<quint32>(tracks.size()))];
+            if (action == 1) {
+                m_manager->removeTrack(track);
+                tracks.removeOne(track);
+            } else if (action == 2) {
+                track->setIcaoAddr(below(6));
+            } else if (action == 3) {
+                track->setOtherTrackNumber(below(6));
+            } else if (action < 6) {
+                m_manager->registerTrack(track);
+            } else {
+                const unsigned int key = 1 + below(5);
+                const auto has = [key](const auto &candidate) { return candidate->icaoAddr() == key; };
+                const bool held = std::any_of(tracks.begin(), tracks.end(), has);
+                const auto found = m_manager->findTrackByICAOAddr(key);
+                QVERIFY2(found || !held, qPrintable(QString::number(step)));
+                const auto isNumbered = [key](const auto &other) { return other->otherTrackNumber() == key; };
+                QVERIFY(
+                    m_manager->findTrackByOtherTrackNum(key) || std::none_of(tracks.begin(), tracks.end(), isNumbered));
+            }
+        }
+        QVERIFY(!tracks.isEmpty());
+    }
+
     void removalGoesByKey()
     {
         const auto first = m_manager->createTrack();
