@@ -29,10 +29,7 @@ void SystemTracker::comparePositions(const Track &track, const _ast_sacsic_t &co
     if (sender.warnedOfPositions || !track.geoCoordinateValid()) {
         return;
     }
-    QPointF derived;
-    projector().toCartesian(
-        &derived.rx(), &derived.ry(), track.geoCoordinate().latitude(), track.geoCoordinate().longitude());
-    const QPointF apart = derived - track.carCoordinate();
+    const QPointF apart = projector().toCartesian(track.geoCoordinate()) - track.carCoordinate();
     const double distance = std::hypot(apart.x(), apart.y());
     if (distance <= LargestDisagreement) {
         return;
