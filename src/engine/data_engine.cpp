@@ -1,7 +1,8 @@
 #include "engine/data_engine.h"
 
-#include "astfile/file_reader.h"
+#include "engine/serial_input.h"
 #include "engine/track_life_span.h"
+#include "engine/udp_input.h"
 #include "processors/alert_processor.h"
 #include "tracking/adsb_tracker.h"
 #include "tracking/alert_manager.h"
@@ -10,138 +11,151 @@
 #include "tracking/track_manager.h"
 #include "tracking/tracker.h"
 
-#include <QSerialPort>
-#include <QUdpSocket>
+#include <utility>
 
 namespace {
 
 constexpr int PublishPeriodMs = 200;
-constexpr qsizetype ReceiveBufferSize = 65536; // no datagram is larger; serial chunks may be
+constexpr int LogPeriodMs = 1000;
 
 } // namespace
 
 DataEngine::DataEngine(Projector *projector, SnapshotSlot<DisplaySnapshot> *displaySlot,
     SnapshotSlot<VideoBatch> *videoSlot, SnapshotSlot<WeatherProcessor::Picture> *weatherSlot, QObject *parent)
-    : QObject(parent), m_projector(projector), m_displaySlot(displaySlot), m_videoSlot(videoSlot),
-      m_weatherSlot(weatherSlot)
+    : QObject(parent), m_projector(projector), m_publisher(displaySlot, videoSlot, weatherSlot)
 {
 }
 
-DataEngine::~DataEngine() = default;
+// What is read and written by an input must not go before it.
+DataEngine::~DataEngine()
+{
+    delete std::exchange(m_input, nullptr);
+}
 
 void DataEngine::init()
 {
     m_trackManager = QSharedPointer<TrackManager>::create();
     m_alertManager = QSharedPointer<AlertManager>::create();
+    m_trackManager->setClock(m_clock);
+    m_alertManager->setClock(m_clock);
     makeProcessors();
     connectRecorder();
-    m_receiveBuffer.resize(ReceiveBufferSize);
-    m_clock.start();
-
-    m_replayTimer.setSingleShot(true);
-    connect(&m_replayTimer, &QTimer::timeout, this, &DataEngine::procInputFile);
-    connect(&m_videoTimer, &QTimer::timeout, this, &DataEngine::publishVideoBatch);
-    connect(&m_snapshotTimer, &QTimer::timeout, this, &DataEngine::publishSnapshot);
-    for (QTimer *timer : {&m_videoTimer, &m_snapshotTimer}) {
-        timer->setTimerType(Qt::PreciseTimer);
-        timer->start(PublishPeriodMs);
-    }
+    startTimers();
     publishSnapshot();
 }
 
 void DataEngine::makeProcessors()
 {
     m_alertProcessor = QSharedPointer<AlertProcessor>::create(m_alertManager, m_trackManager);
-    connect(m_alertProcessor.data(), &AlertProcessor::message, this, &DataEngine::logMessage);
+    connect(m_alertProcessor.data(), &AlertProcessor::message, this, &DataEngine::log);
     connect(m_alertProcessor.data(), &AlertProcessor::alertStatusChanged, this, &DataEngine::alertStatusChanged);
     m_weatherProcessor = QSharedPointer<WeatherProcessor>::create();
-    connect(m_weatherProcessor.data(), &WeatherProcessor::message, this, &DataEngine::logMessage);
+    connect(m_weatherProcessor.data(), &WeatherProcessor::message, this, &DataEngine::log);
     connect(m_weatherProcessor.data(), &WeatherProcessor::pictureReady, this, &DataEngine::publishWeatherPicture);
     m_videoProcessor = QSharedPointer<VideoProcessor>::create();
-    connect(m_videoProcessor.data(), &VideoProcessor::message, this, &DataEngine::logMessage);
+    connect(m_videoProcessor.data(), &VideoProcessor::message, this, &DataEngine::log);
     connect(m_videoProcessor.data(), &VideoProcessor::radialReady, this, &DataEngine::accumulateVideoRadial);
+}
+
+void DataEngine::startTimers()
+{
+    connect(&m_videoTimer, &QTimer::timeout, this, &DataEngine::publishVideoBatch);
+    connect(&m_snapshotTimer, &QTimer::timeout, this, &DataEngine::publishSnapshot);
+    connect(&m_logTimer, &QTimer::timeout, this, [this] { m_logGate.sumUp(); });
+    for (QTimer *timer : {&m_videoTimer, &m_snapshotTimer}) {
+        timer->setTimerType(Qt::PreciseTimer);
+        timer->start(PublishPeriodMs);
+    }
+    m_logTimer.start(LogPeriodMs);
+}
+
+void DataEngine::procMessage(const QByteArray &data)
+{
+    if (m_input) {
+        m_input->router().procMessage(data);
+    }
 }
 
 void DataEngine::openInput(
     const Config &config, const QSharedPointer<SensorInfo> &sensor, const QDateTime &replayStart, quint64 requestId)
 {
-    if (m_inputOpen) {
-        Q_EMIT logMessage(LogLevel::Warning, tr("Input is working now, stop first!"));
+    if (m_input) {
+        log(LogLevel::Warning, tr("Input is working now, stop first!"));
         return;
     }
     m_config = config;
     m_sensor = sensor;
-    m_replayStart = replayStart;
     m_requestId = requestId;
-    discardInputState();
+    m_replay.autoRewind = config.inputFileAutoRewind;
+    m_replay.start = replayStart;
+    m_replay.index = m_nextIndex;
+    m_clock->startLive();
+    clearPicture();
     if (const auto lifeSpan = TrackLifeSpan::forSensor(sensor.data())) {
         m_trackManager->setTrackLifeSpan(lifeSpan->coastingMs, lifeSpan->terminationMs);
     }
-    createTracker();
-    m_alertManager->reset();
-    m_alertProcessor->resetAlertStatus();
+    m_input = makeInput().release();
     publishSnapshot();
-
-    if (!processorAvailable() || !openInputByKind()) {
+    if (!m_input) {
         Q_EMIT inputOpenFailed(requestId);
         return;
     }
-    m_inputOpen = true;
-    m_inputPaused = false;
-    Q_EMIT inputOpened(requestId);
+    m_input->setParent(this);
+    connectInput(m_input);
+    reportOpening(m_input->open());
 }
 
-void DataEngine::discardInputState()
+// A given up opening is answered by the closing that it was given up for.
+void DataEngine::reportOpening(Input::Opening opening)
 {
-    m_mismatchingSources.clear();
-    m_modesDecoder = std::make_unique<korvane::modes::ModeSDecoder>();
-    m_modesMessage = std::make_shared<korvane::modes::ModeSMessage>();
-    m_receiverClock = {};
-    m_modesBuffer.clear();
-    m_aleniaSirMFailureReported = false;
-    m_backlogTimer.invalidate();
-    m_udpDrops = {};
-    m_progressTimer.invalidate();
+    if (opening == Input::Opening::Opened) {
+        Q_EMIT inputOpened(m_requestId);
+    } else if (opening == Input::Opening::Failed) {
+        const std::unique_ptr<Input> failed(std::exchange(m_input, nullptr));
+        m_clock->hold();
+        Q_EMIT inputFault(m_requestId, failed->faultReason());
+        Q_EMIT inputOpenFailed(m_requestId);
+    }
+}
+
+void DataEngine::clearPicture()
+{
     m_weatherProcessor->reset();
-    m_videoBatch.reset();
-    m_meter.reset();
+    m_publisher.reset();
     m_trackManager->reset();
+    m_alertManager->reset();
+    m_alertProcessor->resetAlertStatus();
 }
 
-void DataEngine::createTracker()
+// Numbers and times of the run before mean nothing in the next one.
+void DataEngine::restartPicture()
 {
-    m_tracker = Tracker::create(m_sensor, m_trackManager, m_projector);
-    if (!m_tracker) {
-        Q_EMIT logMessage(LogLevel::Warning,
-            tr("There is no tracker for sensors of the type %1, its reports are not shown.")
-                .arg(SensorInfo::typeFullName(m_sensor ? m_sensor->type() : SensorInfo::UnknownSensor)));
-        return;
-    }
-    connect(m_tracker.data(), &Tracker::message, this, &DataEngine::logMessage);
-    configureTracker();
+    m_weatherProcessor->reset();
+    m_trackManager->reset();
+    m_alertManager->reset();
+    m_input->setRouter(makeRouter());
 }
 
-void DataEngine::configureTracker()
+// Null, with the reason logged, when there is none. An input whose messages nothing decodes would look alive and show
+// nothing, so it is not opened.
+std::unique_ptr<Input> DataEngine::makeInput()
 {
-    if (const auto *radar = qobject_cast<RadarTracker *>(m_tracker.data())) {
-        connect(radar, &RadarTracker::antennaRotated, this, &DataEngine::antennaRotated);
-        connect(radar, &RadarTracker::antennaNorthCrossed, this, &DataEngine::antennaNorthCrossed);
+    if (!processorAvailable()) {
+        return nullptr;
     }
-    if (auto *system = qobject_cast<SystemTracker *>(m_tracker.data())) {
-        system->setIgnoreWgs84Coordinates(m_config.processorAsterixIgnoreWgs84Coordinates);
-        system->setIgnoreCartesianCoordinates(m_config.processorAsterixIgnoreCartesianCoordinates);
+    switch (m_config.inputComm) {
+    case Config::InputComm::Udp:
+        return std::make_unique<UdpInput>(m_config, makeRouter(), &m_recorder);
+    case Config::InputComm::Serial:
+        return std::make_unique<SerialInput>(m_config, makeRouter(), &m_recorder);
+    case Config::InputComm::File:
+        return makeRecordingInput();
     }
-    if (auto *sdps = qobject_cast<SdpsTracker *>(m_tracker.data())) {
-        sdps->setCorrectLongitudeWrap(m_config.processorAsterixCorrectLongitudeWrap);
-    }
-    if (auto *adsb = qobject_cast<AdsbTracker *>(m_tracker.data())) {
-        adsb->setAltituteBaroChecking(m_config.processorModeSBaroAltituteChecking,
-            m_config.processorModeSBaroAltituteCheckingTime, m_config.processorModeSBaroAltituteMaxChange);
-        adsb->setNoUpdatedTargetDeletionTime(m_config.processorModeSNoUpdatedTargetDeletionTime);
-    }
+    log(LogLevel::Warning, Config::inputMethodName(m_config.inputComm));
+    Q_EMIT inputFault(m_requestId, Config::inputMethodName(m_config.inputComm));
+    return nullptr;
 }
 
-// An input whose messages nothing decodes would look alive and show nothing, so it is not opened.
 bool DataEngine::processorAvailable()
 {
     switch (m_config.processorType) {
@@ -150,55 +164,191 @@ bool DataEngine::processorAvailable()
     case Config::ProcessorType::AleniaSirM:
         return true;
     }
-    Q_EMIT logMessage(LogLevel::Warning,
-        tr("The input is not opened: this version has no decoder for \"%1\".")
-            .arg(Config::processorName(m_config.processorType)));
+    const QString reason = tr("The input is not opened: this version has no decoder for \"%1\".")
+                               .arg(Config::processorName(m_config.processorType));
+    log(LogLevel::Warning, reason);
+    Q_EMIT inputFault(m_requestId, reason);
     return false;
 }
 
-bool DataEngine::openInputByKind()
+std::unique_ptr<Input> DataEngine::makeRecordingInput()
 {
-    switch (m_config.inputComm) {
-    case Config::InputComm::Udp:
-        return openInputUdp();
-    case Config::InputComm::Serial:
-        return openInputSerial();
-    case Config::InputComm::File:
-        return openInputFile();
+    auto input = std::make_unique<RecordingInput>(
+        m_config.inputFileName.filePath(), &m_replay, ReplayClock(m_clock, [this] { agePicture(); }),
+        [this] { return m_readingCancelled > 0; }, makeRouter());
+    connect(input.get(), &RecordingInput::progressed, this, &DataEngine::replayProgress);
+    connect(input.get(), &RecordingInput::restarted, this, &DataEngine::restartPicture);
+    return input;
+}
+
+void DataEngine::agePicture()
+{
+    m_trackManager->checkLife();
+    m_alertManager->checkLife();
+}
+
+void DataEngine::connectInput(Input *input)
+{
+    connect(input, &Input::message, this, &DataEngine::log);
+    connect(input, &Input::ended, this, [this, input] {
+        if (!input->faultReason().isEmpty()) {
+            Q_EMIT inputFault(m_requestId, input->faultReason());
+        }
+        closeInput();
+    });
+}
+
+std::unique_ptr<MessageRouter> DataEngine::makeRouter()
+{
+    const MessageRouter::Consumers consumers{
+        makeTracker(), m_alertProcessor.data(), m_weatherProcessor.data(), m_videoProcessor.data()};
+    auto router = std::make_unique<MessageRouter>(m_config, m_sensor, consumers, m_clock, &m_publisher.meter());
+    connect(router.get(), &MessageRouter::message, this, &DataEngine::log);
+    return router;
+}
+
+// Null for sensors that none serves.
+QSharedPointer<Tracker> DataEngine::makeTracker()
+{
+    const auto tracker = Tracker::create(m_sensor, m_trackManager, m_projector);
+    if (!tracker) {
+        log(LogLevel::Warning,
+            tr("There is no tracker for sensors of the type %1, its reports are not shown.")
+                .arg(SensorInfo::typeFullName(m_sensor ? m_sensor->type() : SensorInfo::UnknownSensor)));
+        return tracker;
     }
-    Q_EMIT logMessage(LogLevel::Warning, Config::inputMethodName(m_config.inputComm));
-    return false;
+    connect(tracker.data(), &Tracker::message, this, &DataEngine::log);
+    configureTracker(tracker.data());
+    return tracker;
+}
+
+void DataEngine::configureTracker(Tracker *tracker)
+{
+    auto *adsb = qobject_cast<AdsbTracker *>(tracker);
+    auto *sdps = qobject_cast<SdpsTracker *>(tracker);
+    // These see whole countries.
+    m_trackManager->setTrackNumberCount(
+        adsb || sdps ? TrackManager::MaximumTrackNumbers : TrackManager::DefaultTrackNumbers);
+    if (const auto *radar = qobject_cast<RadarTracker *>(tracker)) {
+        connect(radar, &RadarTracker::antennaRotated, this, &DataEngine::antennaRotated);
+        connect(radar, &RadarTracker::antennaNorthCrossed, this, &DataEngine::antennaNorthCrossed);
+    }
+    if (auto *system = qobject_cast<SystemTracker *>(tracker)) {
+        system->setIgnoreWgs84Coordinates(m_config.processorAsterixIgnoreWgs84Coordinates);
+        system->setIgnoreCartesianCoordinates(m_config.processorAsterixIgnoreCartesianCoordinates);
+    }
+    if (sdps) {
+        sdps->setCorrectLongitudeWrap(m_config.processorAsterixCorrectLongitudeWrap);
+    }
+    if (adsb) {
+        adsb->setAltituteBaroChecking(m_config.processorModeSBaroAltituteChecking,
+            m_config.processorModeSBaroAltituteCheckingTime, m_config.processorModeSBaroAltituteMaxChange);
+        adsb->setNoUpdatedTargetDeletionTime(m_config.processorModeSNoUpdatedTargetDeletionTime);
+    }
 }
 
 void DataEngine::closeInput()
 {
-    if (!m_inputOpen && !m_udpSocket1 && !m_udpSocket2 && !m_serialPort && !m_fileReader) {
+    Input *input = std::exchange(m_input, nullptr);
+    if (!input) {
         return;
     }
-    switch (m_config.inputComm) {
-    case Config::InputComm::Udp:
-        closeInputUdp();
-        break;
-    case Config::InputComm::Serial:
-        closeInputSerial();
-        break;
-    case Config::InputComm::File:
-        closeInputFile();
-        break;
-    }
-    m_inputOpen = false;
+    input->updateClock();
+    input->close();
+    input->deleteLater(); // the call may come from within it
+    m_clock->hold();
     m_recorder.stop();
     m_alertProcessor->resetAlertStatus();
+    m_logGate.sumUp();
     publishSnapshot(); // what came in since the last one; it stays
     Q_EMIT inputClosed(m_requestId);
 }
 
 void DataEngine::pauseInput(bool paused)
 {
-    m_inputPaused = paused;
+    if (!m_input) {
+        return;
+    }
+    m_input->setPaused(paused);
+    if (paused) {
+        m_clock->hold();
+    } else {
+        m_clock->release();
+    }
 }
 
 void DataEngine::setReplaySpeed(ReplaySpeed::Speed speed)
 {
-    m_replaySpeed = speed;
+    m_replay.speed = speed;
+}
+
+void DataEngine::startRecording(const QString &fileName)
+{
+    if (!m_input || !m_input->isLive()) {
+        log(LogLevel::Warning, tr("There is no live input to record."));
+        Q_EMIT recordingStopped();
+        return;
+    }
+    m_recorder.start(fileName);
+}
+
+void DataEngine::stopRecording()
+{
+    m_recorder.stop();
+}
+
+void DataEngine::connectRecorder()
+{
+    connect(&m_recorder, &InputRecorder::started, this, [this](const QString &fileName) {
+        log(LogLevel::Info, tr("Recording input to %1").arg(fileName));
+        Q_EMIT recordingStarted(fileName);
+    });
+    connect(&m_recorder, &InputRecorder::stopped, this,
+        [this](const QString &fileName, quint64 messages, const QString &reason) {
+            if (reason.isEmpty()) {
+                log(LogLevel::Info, tr("Recording %1 finished, %2 messages.").arg(fileName).arg(messages));
+            } else {
+                log(LogLevel::Warning,
+                    tr("Recording %1 stopped after %2 messages: %3").arg(fileName).arg(messages).arg(reason));
+            }
+            Q_EMIT recordingStopped();
+        });
+}
+
+void DataEngine::setSnapshotTrailDots(int count)
+{
+    m_trailDots = count;
+}
+
+void DataEngine::publishSnapshot()
+{
+    if (m_input) {
+        m_input->updateClock();
+    }
+    const auto stats = m_publisher.publishSnapshot([this](DisplaySnapshot &snapshot) {
+        snapshot.tracks = m_trackManager->snapshotTracks(m_trailDots);
+        snapshot.alerts = m_alertManager->snapshotAlerts();
+        snapshot.alertStatus = {m_alertProcessor->alertStatus(Alert::MSAW), m_alertProcessor->alertStatus(Alert::APW),
+            m_alertProcessor->alertStatus(Alert::STCA)};
+        snapshot.time = m_clock->now();
+        snapshot.recordedTime = m_clock->isRecorded();
+    });
+    if (stats) {
+        Q_EMIT pipelineStats(*stats);
+    }
+}
+
+void DataEngine::publishVideoBatch()
+{
+    m_publisher.publishVideoBatch();
+}
+
+void DataEngine::accumulateVideoRadial(const VideoProcessor::Radial &radial)
+{
+    m_publisher.addVideoRadial(radial);
+}
+
+void DataEngine::publishWeatherPicture(const WeatherProcessor::Picture &picture)
+{
+    m_publisher.publishWeatherPicture(picture);
 }

@@ -3,6 +3,7 @@
 #include "tracking/alert_snapshot.h"
 #include "tracking/track_snapshot.h"
 
+#include <QDateTime>
 #include <QList>
 
 #include <array>
@@ -12,4 +13,6 @@ struct DisplaySnapshot {
     QList<TrackSnapshot> tracks;
     QList<AlertSnapshot> alerts;
     std::array<bool, 3> alertStatus = {}; // MSAW, APW, STCA: index is Alert::Type minus 1
+    QDateTime time = {}; // of the picture, UTC: all ages in it count to here; stands still while the input does
+    bool recordedTime = false; // a recording's own, also after its end, until another input is opened
 };

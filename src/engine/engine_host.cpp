@@ -59,7 +59,13 @@ void EngineHost::openInput(
 
 void EngineHost::closeInput()
 {
-    post([](DataEngine *engine) { engine->closeInput(); });
+    if (m_engine) {
+        m_engine->cancelReading();
+    }
+    post([](DataEngine *engine) {
+        engine->closeInput();
+        engine->allowReading();
+    });
 }
 
 void EngineHost::pauseInput(bool paused)
@@ -111,6 +117,7 @@ bool EngineHost::stop(int waitMs)
         delete thread;
         return true;
     }
+    engine->cancelReading();
     thread->quit();
     if (thread->wait(waitMs)) {
         return true;

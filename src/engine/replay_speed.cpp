@@ -49,3 +49,9 @@ qint64 ReplaySpeed::delay(qint64 recordedMs, Speed speed)
     const SpeedRow *row = rowOf(speed);
     return row ? std::max<qint64>(0, recordedMs * row->multiplier / row->divisor) : std::max<qint64>(0, recordedMs);
 }
+
+qint64 ReplaySpeed::recorded(qint64 realMs, Speed speed)
+{
+    const SpeedRow *row = rowOf(speed);
+    return row && row->multiplier > 0 ? realMs * row->divisor / row->multiplier : 0;
+}

@@ -18,6 +18,9 @@ public:
     // Milliseconds to wait between two packets stamped recordedMs apart; whole milliseconds, rounded toward zero, and 0
     // where the time stamps run backwards.
     static qint64 delay(qint64 recordedMs, Speed speed);
+
+    // Milliseconds of the recording that are played in realMs; 0 at Max, which plays packets and no time between them.
+    static qint64 recorded(qint64 realMs, Speed speed);
 };
 
 Q_DECLARE_METATYPE(ReplaySpeed::Speed)

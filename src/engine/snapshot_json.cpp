@@ -104,7 +104,8 @@ QJsonObject SnapshotJson::toJson(const DisplaySnapshot &snapshot)
     }
     const QJsonObject status{
         {"MSAW", snapshot.alertStatus[0]}, {"APW", snapshot.alertStatus[1]}, {"STCA", snapshot.alertStatus[2]}};
-    return {{"tracks", tracks}, {"alerts", alerts}, {"alertStatus", status}};
+    return {{"time", timeValue(snapshot.time)}, {"recordedTime", snapshot.recordedTime}, {"tracks", tracks},
+        {"alerts", alerts}, {"alertStatus", status}};
 }
 
 bool SnapshotJson::save(const DisplaySnapshot &snapshot, const QString &fileName, QString *error)

@@ -5,7 +5,8 @@
 #include <QJsonObject>
 #include <QString>
 
-// The air picture as JSON: {"tracks": [...], "alerts": [...], "alertStatus": {"MSAW", "APW", "STCA"}}. Values that are
+// The air picture as JSON: {"time", "recordedTime", "tracks": [...], "alerts": [...], "alertStatus": {"MSAW", "APW",
+// "STCA"}}. Values that are
 // not valid are null; times are ISO 8601, UTC, with milliseconds; units as in TrackSnapshot.
 class SnapshotJson {
 public:

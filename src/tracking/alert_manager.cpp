@@ -47,18 +47,12 @@ AlertSnapshot snapshotOf(const Alert &alert)
 
 AlertManager::AlertManager(QObject *parent) : QObject(parent), m_lifeTimer(this)
 {
-    connect(&m_lifeTimer, &QTimer::timeout, this, &AlertManager::checkLife);
-    m_lifeTimer.setInterval(1000);
-    setTimedAgeing(true);
-}
-
-void AlertManager::setTimedAgeing(bool on)
-{
-    if (on) {
-        m_lifeTimer.start();
-    } else {
-        m_lifeTimer.stop();
-    }
+    connect(&m_lifeTimer, &QTimer::timeout, this, [this] {
+        if (!m_clock->isRecorded()) {
+            checkLife();
+        }
+    });
+    m_lifeTimer.start(1000);
 }
 
 QSharedPointer<Alert> AlertManager::createAlert(unsigned int id)

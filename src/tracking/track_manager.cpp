@@ -61,18 +61,12 @@ QList<QPointF> trailOf(const std::deque<TrackHistoryElement> &history, int trail
 
 TrackManager::TrackManager(QObject *parent) : QObject(parent), m_lifeTimer(this)
 {
-    connect(&m_lifeTimer, &QTimer::timeout, this, &TrackManager::checkLife);
-    m_lifeTimer.setInterval(1000);
-    setTimedAgeing(true);
-}
-
-void TrackManager::setTimedAgeing(bool on)
-{
-    if (on) {
-        m_lifeTimer.start();
-    } else {
-        m_lifeTimer.stop();
-    }
+    connect(&m_lifeTimer, &QTimer::timeout, this, [this] {
+        if (!m_clock->isRecorded()) {
+            checkLife();
+        }
+    });
+    m_lifeTimer.start(1000);
 }
 
 TrackManager::~TrackManager() = default;

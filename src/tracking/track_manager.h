@@ -62,11 +62,9 @@ public:
     QDateTime now() const { return m_clock->now(); }
     void setClock(SharedClock clock) { m_clock = std::move(clock); }
 
-    // Off, for whoever calls checkLife() in another rhythm than the timer's second; on at first.
-    void setTimedAgeing(bool on);
-
 public Q_SLOTS:
-    // Makes tracks coast, terminates and removes them by age. Never confirms one: reports do that.
+    // Called by a timer every second, but not in recorded time: whoever drives that calls this each time that a second
+    // of it has passed. Makes tracks coast, terminates and removes them by age. Never confirms one: reports do that.
     void checkLife();
 
 private:

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "engine/data_engine.h"
+#include "engine/udp_input.h"
 #include "geo/mercator_projector.h"
 #include "sensors/radar_sensor_info.h"
 
+#include <QCoreApplication>
 #include <QSignalSpy>
 #include <QStringList>
 #include <QUdpSocket>
@@ -15,10 +17,13 @@ public:
     SnapshotSlot<DisplaySnapshot> displaySlot;
     SnapshotSlot<VideoBatch> videoSlot;
     SnapshotSlot<WeatherProcessor::Picture> weatherSlot;
+    qint64 nowMs = QDateTime::currentMSecsSinceEpoch(); // of the system, set by hand
+    const std::shared_ptr<Clock> clock = std::make_shared<Clock>([this] { return nowMs; }, [this] { return nowMs; });
     DataEngine engine{&projector, &displaySlot, &videoSlot, &weatherSlot};
     QSignalSpy opened{&engine, &DataEngine::inputOpened};
     QSignalSpy failed{&engine, &DataEngine::inputOpenFailed};
     QSignalSpy closed{&engine, &DataEngine::inputClosed};
+    QSignalSpy faults{&engine, &DataEngine::inputFault};
     QSignalSpy northCrossed{&engine, &DataEngine::antennaNorthCrossed};
     QStringList log; // "W text", by the level's first letter
     Config config; // of the next open()
@@ -30,6 +35,8 @@ public:
         });
         config.inputUdpMulticast1 = false;
         config.inputUdpMulticast2 = false;
+        config.inputUdpPort1 = config.inputUdpPort2 = 0; // any
+        engine.setClock(clock);
         engine.init();
     }
 
@@ -48,18 +55,23 @@ public:
         engine.openInput(config, sensor, start, requestId);
     }
 
-    // The tracks in a snapshot taken now.
-    QList<TrackSnapshot> tracks()
+    // Taken now.
+    QSharedPointer<const DisplaySnapshot> snapshot()
     {
         engine.publishSnapshot();
-        return displaySlot.read().value->tracks;
+        return displaySlot.read().value;
     }
+    QList<TrackSnapshot> tracks() { return snapshot()->tracks; }
 
-    // A port that nobody uses at the moment.
-    static quint16 freePort()
+    // Of the open UDP input's sockets, which the system has chosen unless the configuration did.
+    quint16 port(int index = 0) const { return engine.findChildren<UdpInput *>().last()->port(index); }
+
+    // Enough for everything that is due at once.
+    static void turnEventLoop()
     {
-        QUdpSocket socket;
-        return socket.bind(QHostAddress::LocalHost, 0) ? socket.localPort() : 0;
+        for (int turn = 0; turn < 20; ++turn) {
+            QCoreApplication::processEvents();
+        }
     }
 };
 

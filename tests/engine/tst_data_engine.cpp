@@ -13,7 +13,6 @@ private Q_SLOTS:
     void answersCarryTheRequestThatTheyAnswer()
     {
         EngineRig rig;
-        rig.config.inputUdpPort1 = EngineRig::freePort();
         rig.engine.closeInput();
         QCOMPARE(rig.closed.size(), 0);
         rig.open(7);
@@ -39,7 +38,6 @@ private Q_SLOTS:
             {3, 0, "W Unknown Input Method"}};
         for (const auto &[comm, processor, line] : rows) {
             EngineRig rig;
-            rig.config.inputUdpPort1 = EngineRig::freePort();
             rig.config.inputComm = static_cast<Config::InputComm>(comm);
             rig.config.processorType = static_cast<Config::ProcessorType>(processor);
             rig.open(3);
@@ -77,7 +75,6 @@ private Q_SLOTS:
     void openingClearsThePictureAndClosingKeepsIt()
     {
         EngineRig rig;
-        rig.config.inputUdpPort1 = EngineRig::freePort();
         rig.open();
         rig.engine.procMessage(plotBlock(1) + plotBlock(2));
         rig.engine.closeInput();

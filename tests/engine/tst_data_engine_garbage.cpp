@@ -68,12 +68,11 @@ private Q_SLOTS:
     void goodReportsBesideGarbageAreShown()
     {
         EngineRig rig;
-        rig.config.inputUdpPort1 = EngineRig::freePort();
         rig.open();
         QCOMPARE(rig.opened.count(), 1);
         QUdpSocket sender;
         const auto send = [&](const QByteArray &datagram) {
-            sender.writeDatagram(datagram, QHostAddress::LocalHost, rig.config.inputUdpPort1);
+            sender.writeDatagram(datagram, QHostAddress::LocalHost, rig.port());
         };
         Garbage garbage;
         for (int number = 1; number <= goodTracks; ++number) {

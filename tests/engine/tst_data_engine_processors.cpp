@@ -17,7 +17,6 @@ private:
 
         OpenRig()
         {
-            config.inputUdpPort1 = freePort();
             QObject::connect(&engine, &DataEngine::alertStatusChanged, &engine,
                 [this](Alert::Type type, bool on) { status += Alert::typeString(type) + (on ? " on" : " off"); });
             open();
@@ -26,7 +25,7 @@ private:
         void send(const QByteArray &hex)
         {
             const quint64 count = engine.messagesReceived() + 1;
-            sender.writeDatagram(QByteArray::fromHex(hex), QHostAddress::LocalHost, config.inputUdpPort1);
+            sender.writeDatagram(QByteArray::fromHex(hex), QHostAddress::LocalHost, port());
             QTRY_COMPARE(engine.messagesReceived(), count);
             engine.publishSnapshot();
         }

@@ -20,12 +20,11 @@ private:
 
     void send(const EngineRig &rig, const QByteArray &data)
     {
-        QCOMPARE(m_sender.writeDatagram(data, QHostAddress::LocalHost, rig.config.inputUdpPort1), data.size());
+        QCOMPARE(m_sender.writeDatagram(data, QHostAddress::LocalHost, rig.port()), data.size());
     }
 
     static void openLive(EngineRig &rig)
     {
-        rig.config.inputUdpPort1 = EngineRig::freePort();
         rig.open();
         QCOMPARE(rig.opened.size(), 1);
     }

@@ -17,7 +17,6 @@ private:
         explicit OpenRig(
             const std::function<void(Config &)> &configure = {}, const QSharedPointer<SensorInfo> &sensor = radar())
         {
-            config.inputUdpPort1 = freePort();
             if (configure) {
                 configure(config);
             }

@@ -124,14 +124,13 @@ private Q_SLOTS:
         }
 
         EngineRig rig;
-        rig.config.inputUdpPort1 = EngineRig::freePort();
         rig.config.processorType = static_cast<Config::ProcessorType>(row.processor);
         const auto sensor = SensorInfo::create(row.sensor);
         sensor->setLocation(Site);
         rig.open(1, sensor);
         QUdpSocket source;
         for (const auto &datagram : datagrams) {
-            source.writeDatagram(datagram, QHostAddress::LocalHost, rig.config.inputUdpPort1);
+            source.writeDatagram(datagram, QHostAddress::LocalHost, rig.port());
         }
         QTRY_COMPARE(rig.engine.messagesReceived(), quint64(datagrams.size()));
 

@@ -79,7 +79,7 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QJsonObject root = QJsonDocument::fromJson(file.readAll()).object();
         QVERIFY(!SnapshotJson::save({}, dir.filePath("no/such/folder.json")));
-        QCOMPARE(root.keys(), QStringList({"alertStatus", "alerts", "tracks"}));
+        QCOMPARE(root.keys(), QStringList({"alertStatus", "alerts", "recordedTime", "time", "tracks"}));
         QCOMPARE(root["alertStatus"].toObject(), json(R"({"MSAW": false, "APW": true, "STCA": false})"));
         QCOMPARE(root["tracks"][0]["trackNumber"].toInt(), 17); // by number
         const QJsonValue first = root["alerts"][0];

@@ -1,8 +1,12 @@
-#include "engine/data_engine.h"
+#include "engine/message_router.h"
+
+#include "app/log_gate.h"
+#include "engine/pipeline_meter.h"
 #include "processors/alert_processor.h"
+#include "processors/video_processor.h"
+#include "processors/weather_processor.h"
 #include "sensors/sensor_info.h"
 #include "sirm/alenia_sir_m_radar_decoder.h"
-#include "tracking/track_manager.h"
 #include "tracking/tracker.h"
 
 #include <algorithm>
@@ -47,9 +51,24 @@ bool isTrackerCategory(std::uint32_t category)
 
 } // namespace
 
-void DataEngine::procMessage(const QByteArray &data)
+MessageRouter::MessageRouter(const Config &config, const QSharedPointer<SensorInfo> &sensor, const Consumers &consumers,
+    const SharedClock &clock, PipelineMeter *meter)
+    : m_config(config), m_sensor(sensor), m_consumers(consumers), m_clock(clock), m_meter(meter),
+      m_uap(configuredUap(config.processorAsterixUap)), m_modesMessage(std::make_shared<ModeSMessage>())
 {
-    m_meter.countMessage(data.size());
+}
+
+template <typename MakeText>
+void MessageRouter::debug(MakeText makeText)
+{
+    if (LogGate::isShown(LogLevel::Debug)) {
+        Q_EMIT message(LogLevel::Debug, makeText());
+    }
+}
+
+void MessageRouter::procMessage(const QByteArray &data)
+{
+    m_meter->countMessage(data.size());
     switch (m_config.processorType) {
     case Config::ProcessorType::Asterix:
         return procAsterixMessage(data);
@@ -60,14 +79,14 @@ void DataEngine::procMessage(const QByteArray &data)
     }
 }
 
-void DataEngine::procAsterixMessage(const QByteArray &data)
+void MessageRouter::procAsterixMessage(const QByteArray &data)
 {
     const auto *octets = reinterpret_cast<const unsigned char *>(data.constData());
     const auto size = static_cast<std::size_t>(data.size());
     auto offset = static_cast<std::size_t>(envelopeSize(m_config.processorAsterixFormat));
     while (offset < size && decodeBlock(octets + offset, size - offset)) {
         if (m_block.size == 0) {
-            Q_EMIT logMessage(LogLevel::Warning,
+            Q_EMIT message(LogLevel::Warning,
                 tr("Decoded ASTERIX data block reports zero size, the rest of the message is dropped."));
             return;
         }
@@ -78,16 +97,14 @@ void DataEngine::procAsterixMessage(const QByteArray &data)
     }
 }
 
-bool DataEngine::decodeBlock(const unsigned char *data, std::size_t length)
+bool MessageRouter::decodeBlock(const unsigned char *data, std::size_t length)
 {
-    if (const _ast_uap_t *uap = configuredUap(m_config.processorAsterixUap)) {
-        return ast_datablock_decode(&m_block, data, length, uap);
-    }
-    return ast_datablock_smart_decode(&m_block, data, length);
+    return m_uap ? ast_datablock_decode(&m_block, data, length, m_uap)
+                 : ast_datablock_smart_decode(&m_block, data, length);
 }
 
 // False when the check is on and the block's first source identification is another sensor's.
-bool DataEngine::fromConfiguredSensor()
+bool MessageRouter::fromConfiguredSensor()
 {
     if (!m_config.processorAsterixVerifySacSic || !m_sensor) {
         return true;
@@ -105,7 +122,7 @@ bool DataEngine::fromConfiguredSensor()
     const auto key = static_cast<quint16>(source.sac * 256 + source.sic);
     if (!m_mismatchingSources.contains(key)) {
         m_mismatchingSources.insert(key);
-        Q_EMIT logMessage(LogLevel::Warning,
+        Q_EMIT message(LogLevel::Warning,
             tr("ASTERIX data block with SAC/SIC %1/%2 does not match the configured sensor SAC/SIC %3/%4, dropped.")
                 .arg(source.sac)
                 .arg(source.sic)
@@ -115,43 +132,44 @@ bool DataEngine::fromConfiguredSensor()
     return false;
 }
 
-void DataEngine::routeBlock()
+void MessageRouter::routeBlock()
 {
     if (isTrackerCategory(m_block.category)) {
-        if (m_tracker) {
-            m_tracker->procAsterixMessage(m_block);
+        if (m_consumers.tracker) {
+            m_consumers.tracker->procAsterixMessage(m_block);
         }
         return;
     }
     switch (m_block.category) {
     case 4:
-        return m_alertProcessor->procMessage(m_block);
+        return m_consumers.alerts->procMessage(m_block);
     case 8:
-        return m_weatherProcessor->procAsterixMessage(m_block);
+        return m_consumers.weather->procAsterixMessage(m_block);
     case 240:
-        return m_videoProcessor->procAsterixMessage(m_block);
+        return m_consumers.video->procAsterixMessage(m_block);
     default:
         logUnsupportedCategory();
     }
 }
 
-void DataEngine::logUnsupportedCategory()
+void MessageRouter::logUnsupportedCategory()
 {
-    std::array<char, 8> name = {};
-    ast_category_to_str(name.data(), name.size(), m_block.category);
-    Q_EMIT logMessage(
-        LogLevel::Debug, tr("Unsupported ASTERIX catetory received: %1").arg(QString::fromLatin1(name.data())));
+    debug([this] {
+        std::array<char, 8> name = {};
+        ast_category_to_str(name.data(), name.size(), m_block.category);
+        return tr("Unsupported ASTERIX catetory received: %1").arg(QString::fromLatin1(name.data()));
+    });
 }
 
 // Frames may be spread over messages: what is left over waits for the next one.
-void DataEngine::procModeSMessage(const QByteArray &data)
+void MessageRouter::procModeSMessage(const QByteArray &data)
 {
     m_modesBuffer.append(data.constData(), static_cast<std::size_t>(data.size()));
     const std::size_t taken =
         ModeSEncapsulation::extractAll(m_modesBuffer, m_config.processorModeSEncapsulation, m_modesFrames);
     m_modesBuffer.erase(0, taken);
     if (m_modesFrames.empty()) {
-        Q_EMIT logMessage(LogLevel::Debug, tr("Failed to extract Mode-S encapsulation."));
+        debug([] { return tr("Failed to extract Mode-S encapsulation."); });
     }
     for (ModeSFrame &frame : m_modesFrames) {
         procModeSFrame(frame);
@@ -159,21 +177,21 @@ void DataEngine::procModeSMessage(const QByteArray &data)
 }
 
 // Receivers count from whenever they were switched on; the tracker needs UTC in any case.
-void DataEngine::procModeSFrame(ModeSFrame &frame)
+void MessageRouter::procModeSFrame(ModeSFrame &frame)
 {
-    const auto now = static_cast<unsigned long long>(m_trackManager->now().toMSecsSinceEpoch());
+    const auto now = static_cast<unsigned long long>(m_clock->nowMs());
     frame.timeStamp = m_config.processorModeSIgnoreTimeStamp ? now : m_receiverClock.toUtc(frame, now);
-    m_modesDecoder->decode(ModeSMessage::AnyDownlink, frame, *m_modesMessage);
+    m_modesDecoder.decode(ModeSMessage::AnyDownlink, frame, *m_modesMessage);
     if (!m_modesMessage->valid()) {
-        Q_EMIT logMessage(LogLevel::Debug, tr("Failed to decode Mode-S message."));
-    } else if (m_tracker) {
-        m_tracker->procModeSMessage(m_modesMessage);
+        debug([] { return tr("Failed to decode Mode-S message."); });
+    } else if (m_consumers.tracker) {
+        m_consumers.tracker->procModeSMessage(m_modesMessage);
     }
 }
 
 // Datagrams and chunks may hold several messages. What follows the last one, such as the check sequence of a frame, is
 // no failure.
-void DataEngine::procAleniaSirMMessage(const QByteArray &data)
+void MessageRouter::procAleniaSirMMessage(const QByteArray &data)
 {
     const qsizetype envelope = std::min(envelopeSize(m_config.processorAleniaSirMFormat), data.size());
     const auto *octets = reinterpret_cast<const unsigned char *>(data.constData()) + envelope;
@@ -183,21 +201,21 @@ void DataEngine::procAleniaSirMMessage(const QByteArray &data)
         logAleniaSirMFailure(data.size() - envelope);
         return;
     }
-    while (result.valid() && m_tracker) {
-        m_tracker->procAleniaSirMMessage(QSharedPointer<AleniaSirMRadarMessage>(result.message.release()));
+    while (result.valid() && m_consumers.tracker) {
+        m_consumers.tracker->procAleniaSirMMessage(QSharedPointer<AleniaSirMRadarMessage>(result.message.release()));
         octets += result.size;
         left -= result.size;
         result = AleniaSirMRadarDecoder::decode(octets, left);
     }
 }
 
-void DataEngine::logAleniaSirMFailure(qsizetype size)
+void MessageRouter::logAleniaSirMFailure(qsizetype size)
 {
     if (m_aleniaSirMFailureReported) {
-        Q_EMIT logMessage(LogLevel::Debug, tr("Failed to decode Alenia SIR-M message (%1 bytes).").arg(size));
+        debug([size] { return tr("Failed to decode Alenia SIR-M message (%1 bytes).").arg(size); });
         return;
     }
     m_aleniaSirMFailureReported = true;
-    Q_EMIT logMessage(LogLevel::Warning,
+    Q_EMIT message(LogLevel::Warning,
         tr("Failed to decode Alenia SIR-M message (%1 bytes), further failures are logged as debug.").arg(size));
 }

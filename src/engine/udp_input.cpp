@@ -1,0 +1,223 @@
+#include "engine/udp_input.h"
+
+#include "engine/input_recorder.h"
+#include "engine/udp_socket_options.h"
+
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
+#include <QUdpSocket>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr int ReceiveBufferOctets = 8 * 1024 * 1024;
+constexpr qsizetype LargestDatagram = 65536;
+constexpr qint64 BacklogOctets = 512 * 1024;
+constexpr qint64 BacklogWarningPeriodMs = 10000;
+constexpr int DatagramsPerClockLook = 64;
+constexpr qint64 DrainBudgetMs = 50;
+
+} // namespace
+
+UdpInput::UdpInput(
+    const Config &config, std::unique_ptr<MessageRouter> router, InputRecorder *recorder, QObject *parent)
+    : Input(std::move(router), parent), m_recorder(recorder), m_receiveBuffer(LargestDatagram, '\0'),
+      m_monotonicClock([] { return QDeadlineTimer::current().deadline(); }),
+      m_nextBacklogWarningMs(std::numeric_limits<qint64>::min())
+{
+    m_sources.resize(config.inputEnable2 ? 2 : 1);
+    m_sources.front().address = {config.inputUdpPort1, config.inputUdpMulticast1, config.inputUdpMcastAddress1,
+        config.inputUdpMcastLanInterface1};
+    if (config.inputEnable2) {
+        m_sources.back().address = {config.inputUdpPort2, config.inputUdpMulticast2, config.inputUdpMcastAddress2,
+            config.inputUdpMcastLanInterface2};
+    }
+}
+
+UdpInput::~UdpInput() = default;
+
+Input::Opening UdpInput::open()
+{
+    return std::all_of(m_sources.begin(), m_sources.end(), [this](Source &source) { return openSource(source); })
+        ? Opening::Opened
+        : Opening::Failed;
+}
+
+quint16 UdpInput::port(int source) const
+{
+    return m_sources.at(static_cast<std::size_t>(source)).address.port;
+}
+
+bool UdpInput::openSource(Source &source)
+{
+    source.socket = std::make_unique<QUdpSocket>();
+    if (!bindSocket(source)) {
+        return false;
+    }
+    QUdpSocket *socket = source.socket.get();
+    UdpSocketOptions::setReceiveBuffer(socket, ReceiveBufferOctets);
+    UdpSocketOptions::receiveJoinedGroupsOnly(socket);
+    Q_EMIT message(
+        LogLevel::Debug, tr("UDP socket receive buffer size: %1 bytes").arg(UdpSocketOptions::receiveBuffer(socket)));
+    if (source.address.multicast) {
+        if (!joinGroup(source)) {
+            return false;
+        }
+    } else {
+        Q_EMIT message(LogLevel::Info, tr("Start UDP input :%1").arg(source.address.port));
+    }
+    connect(socket, &QUdpSocket::readyRead, this, [this, &source] { procReadable(source); });
+    return true;
+}
+
+bool UdpInput::bindSocket(Source &source)
+{
+    QUdpSocket &socket = *source.socket;
+    const quint16 port = source.address.port;
+    if (socket.bind(QHostAddress::AnyIPv4, port, QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint)) {
+        source.address.port = socket.localPort();
+        return true;
+    }
+    switch (socket.error()) {
+    case QAbstractSocket::AddressInUseError:
+        reportFault(tr("UDP port %1 is in use by another program that does not share it.").arg(port));
+        break;
+    case QAbstractSocket::SocketAccessError:
+        reportFault(tr("There is no right to receive on UDP port %1.").arg(port));
+        break;
+    default:
+        reportFault(tr("UDP port %1 cannot be opened: %2").arg(port).arg(socket.errorString()));
+    }
+    Q_EMIT message(LogLevel::Info, tr("Failed to bind UDP port %1.").arg(port));
+    return false;
+}
+
+bool UdpInput::joinGroup(const Source &source)
+{
+    const Address &address = source.address;
+    const QString group = address.group.toString();
+    const QString lanInterface = address.lanInterface.humanReadableName();
+    if (source.socket->joinMulticastGroup(address.group, address.lanInterface)) {
+        Q_EMIT message(LogLevel::Info,
+            tr("Start UDP multicast input %1:%2 on interface %3").arg(group).arg(address.port).arg(lanInterface));
+        return true;
+    }
+    if (!address.group.isMulticast()) {
+        reportFault(tr("%1 is no multicast group.").arg(group));
+    } else if (!address.lanInterface.isValid()) {
+        reportFault(tr("The network interface for the multicast group %1 is not there.").arg(group));
+    } else {
+        reportFault(tr("The multicast group %1 cannot be joined on interface %2: %3")
+                        .arg(group, lanInterface, source.socket->errorString()));
+    }
+    Q_EMIT message(
+        LogLevel::Info, tr("Failed to join UDP multicast group %1 on interface %2").arg(group, lanInterface));
+    return false;
+}
+
+// Runs when the socket becomes readable. While a drain is to be continued anyway there is nothing to do: a second one
+// would be queued on top of it, then a third, and timers would starve.
+void UdpInput::procReadable(Source &source)
+{
+    if (!source.drainScheduled) {
+        drain(source);
+    }
+}
+
+// Reads until a read finds nothing. Asking whether something is pending, and not reading when nothing is, would leave
+// the socket's notification switched off for good: it may be on its way while a continued drain empties the socket.
+void UdpInput::drain(Source &source)
+{
+    warnOfBacklog(source);
+    QElapsedTimer budget;
+    budget.start();
+    int datagrams = 0;
+    while (readDatagram(source)) {
+        if (++datagrams % DatagramsPerClockLook == 0 && budget.elapsed() >= DrainBudgetMs) {
+            continueDrain(source);
+            return;
+        }
+    }
+}
+
+void UdpInput::continueDrain(Source &source)
+{
+    source.drainScheduled = true;
+    const auto next = [this, &source] {
+        source.drainScheduled = false;
+        drain(source);
+    };
+    QMetaObject::invokeMethod(this, next, Qt::QueuedConnection);
+}
+
+// One datagram is one message. False when there is none, and when what the last one led to has closed the input.
+bool UdpInput::readDatagram(const Source &source)
+{
+    QUdpSocket &socket = *source.socket;
+    if (socket.state() != QAbstractSocket::BoundState) {
+        return false;
+    }
+    QHostAddress sender;
+    quint16 senderPort = 0;
+    // Addresses cost time and are wanted by recordings only.
+    const bool recording = m_recorder->active();
+    const qint64 size = recording
+        ? socket.readDatagram(m_receiveBuffer.data(), m_receiveBuffer.size(), &sender, &senderPort)
+        : socket.readDatagram(m_receiveBuffer.data(), m_receiveBuffer.size());
+    if (size < 0) {
+        return false;
+    }
+    const QByteArray datagram = QByteArray::fromRawData(m_receiveBuffer.constData(), size);
+    if (recording) {
+        record(datagram, source, sender, senderPort);
+    }
+    if (!m_paused) {
+        router().procMessage(datagram);
+    }
+    return true;
+}
+
+void UdpInput::record(const QByteArray &datagram, const Source &source, const QHostAddress &sender, quint16 senderPort)
+{
+    const Address &address = source.address;
+    const QHostAddress receiver = address.multicast ? address.group : QHostAddress(QHostAddress::LocalHost);
+    m_recorder->record(
+        datagram, InputRecorder::endpoint(sender, senderPort), InputRecorder::endpoint(receiver, address.port));
+}
+
+void UdpInput::warnOfBacklog(Source &source)
+{
+    const qint64 nowMs = m_monotonicClock();
+    if (nowMs < m_nextBacklogWarningMs || source.socket->state() != QAbstractSocket::BoundState) {
+        return;
+    }
+    const UdpSocketOptions::Queue queue = UdpSocketOptions::queue(source.socket.get());
+    // Where the granted buffer is small the backlog cannot grow that large; what was lost tells the same.
+    if (queue.pendingOctets <= BacklogOctets && queue.drops == source.drops) {
+        return;
+    }
+    source.drops = queue.drops;
+    m_nextBacklogWarningMs = nowMs + BacklogWarningPeriodMs;
+    Q_EMIT message(LogLevel::Warning,
+        tr("UDP input backlog: %1 KB pending, decoding cannot keep up, datagrams may be dropped by the OS.")
+            .arg(queue.pendingOctets / 1024));
+}
+
+void UdpInput::close()
+{
+    Q_EMIT message(LogLevel::Info, tr("Stop UDP input"));
+    for (Source &source : m_sources) {
+        closeSource(source);
+    }
+}
+
+void UdpInput::closeSource(Source &source)
+{
+    if (source.address.multicast) {
+        source.socket->leaveMulticastGroup(source.address.group, source.address.lanInterface);
+    }
+    source.socket->disconnect(this);
+    source.socket->close();
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "engine/input.h"
+
+#include <QByteArray>
+#include <QHostAddress>
+#include <QNetworkInterface>
+
+#include <functional>
+#include <vector>
+
+class Config;
+class InputRecorder;
+class QUdpSocket;
+
+// One or two UDP ports. Every datagram is a message.
+class UdpInput final : public Input {
+    Q_OBJECT
+
+public:
+    // The recorder outlives the input.
+    UdpInput(const Config &config, std::unique_ptr<MessageRouter> router, InputRecorder *recorder,
+        QObject *parent = nullptr);
+    ~UdpInput() override;
+
+    Opening open() override;
+    void close() override;
+
+    // What the first or second source, from 0, is bound to: the configured port, or the system's choice where that is
+    // 0.
+    quint16 port(int source) const;
+
+    // Milliseconds of a clock that never goes back, from any origin: by it the backlog warning is limited.
+    void setMonotonicClock(std::function<qint64()> clock) { m_monotonicClock = std::move(clock); }
+
+private:
+    struct Address {
+        quint16 port = 0;
+        bool multicast = false;
+        QHostAddress group;
+        QNetworkInterface lanInterface;
+    };
+    struct Source {
+        Address address;
+        std::unique_ptr<QUdpSocket> socket;
+        bool drainScheduled = false; // continues on the next turn of the event loop
+        quint32 drops = 0; // at the last backlog warning
+    };
+
+    bool openSource(Source &source);
+    bool bindSocket(Source &source);
+    bool joinGroup(const Source &source);
+    void closeSource(Source &source);
+    void procReadable(Source &source);
+    void drain(Source &source);
+    void continueDrain(Source &source);
+    bool readDatagram(const Source &source);
+    void record(const QByteArray &datagram, const Source &source, const QHostAddress &sender, quint16 senderPort);
+    void warnOfBacklog(Source &source);
+
+    InputRecorder *const m_recorder;
+    std::vector<Source> m_sources; // as many as are configured, from the start on
+    QByteArray m_receiveBuffer; // reused by every datagram
+    std::function<qint64()> m_monotonicClock;
+    qint64 m_nextBacklogWarningMs;
+};

@@ -1,0 +1,59 @@
+#include "engine/engine_host.h"
+
+#include "engine/data_engine.h"
+#include "sensors/radar_sensor_info.h"
+#include "test_program.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+class TestEngineHost final : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_dir;
+
+    // A capture of so many octets in which no datagram is; it takes no room on the disk.
+    QFileInfo emptyCapture(qint64 size)
+    {
+        QFile file(m_dir.filePath("empty.pcap"));
+        const QByteArray header = QByteArray::fromHex("d4c3b2a1 02000400 00000000 00000000 ffff0000 01000000");
+        const bool made = file.open(QIODevice::WriteOnly) && file.write(header) == header.size() && file.resize(size);
+        return made ? QFileInfo(file.fileName()) : QFileInfo();
+    }
+
+    void open(EngineHost &host)
+    {
+        Config config;
+        config.inputComm = Config::InputComm::File;
+        config.inputFileName = emptyCapture(qint64{1} << 40);
+        host.openInput(config, QSharedPointer<RadarSensorInfo>::create(), {}, 5);
+    }
+
+private Q_SLOTS:
+    // Hours of reading without a packet: who closes the input, or the program, does not wait for it.
+    void readingIsGivenUpForACloseAndForTheEnd()
+    {
+        EngineHost host;
+        QSignalSpy log(host.engine(), &DataEngine::logMessage);
+        QSignalSpy closed(host.engine(), &DataEngine::inputClosed);
+        QSignalSpy answered(host.engine(), &DataEngine::inputOpened);
+        connect(host.engine(), &DataEngine::inputOpenFailed, this, [] { QFAIL("The opening was answered."); });
+        host.start();
+        for (int turn = 1; turn <= 2; ++turn) {
+            open(host);
+            QTRY_COMPARE(log.size(), turn);
+            host.closeInput();
+            QTRY_COMPARE(closed.size(), turn);
+            QCOMPARE(closed.last(), QVariantList{5ULL});
+        }
+        QCOMPARE(answered.size(), 0);
+        open(host);
+        QTRY_COMPARE(log.size(), 3);
+        QVERIFY(host.stop(2000));
+    }
+};
+
+VYX_TEST(TestEngineHost)
+#include "tst_engine_host.moc"
