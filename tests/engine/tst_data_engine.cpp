@@ -43,6 +43,7 @@ private Q_SLOTS:
             rig.open(3);
             QCOMPARE(rig.failed, QList<QVariantList>({{3ULL}}));
             QCOMPARE(rig.log.last(), line);
+            QCOMPARE("W " + rig.faults.first().at(1).toString(), line);
             // Nothing is left behind: no answer to a close, and the next request is served.
             rig.engine.closeInput();
             QCOMPARE(rig.opened.size() + rig.closed.size(), 0);

@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 using korvane::astfile::PcapWriter;
 
 // Playing recordings. Times in a recording are milliseconds after its beginning.
@@ -173,8 +175,10 @@ private Q_SLOTS:
         file("text.pcap", "this is no capture");
         file("short.ast", "\x30");
         file("raw.ast", plotBlock(1));
+        QCOMPARE(::mkfifo(QFile::encodeName(m_dir.filePath("pipe.pcap")).constData(), 0600), 0);
         const std::tuple<QString, QDateTime, QString> rows[]{{"a.txt", {}, "C Recording file format is not supported."},
             {"none.ast", {}, "W Failed to open recording file: " + m_dir.filePath("none.ast")},
+            {"pipe.pcap", {}, "W " + m_dir.filePath("pipe.pcap") + " is no file."},
             {"text.pcap", {}, "W Failed to open recording file: " + m_dir.filePath("text.pcap")},
             {"short.ast", {}, "W The file ends within a data block's header. (at octet 0)"},
             {"raw.ast", m_begin, "W The recording contains no timestamp, its start time cannot be sought."}};
@@ -183,6 +187,8 @@ private Q_SLOTS:
             open(rig, m_dir.filePath(name), start);
             QCOMPARE(rig.failed.size(), 1);
             QVERIFY2(rig.log.contains(line), qPrintable(rig.log.join('\n')));
+            QCOMPARE(rig.faults.size(), 1);
+            QVERIFY(rig.log.contains("W " + rig.faults.first().at(1).toString()));
             rig.engine.closeInput();
             QCOMPARE(rig.opened.size() + rig.closed.size(), 0);
         }

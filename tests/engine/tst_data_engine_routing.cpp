@@ -1,3 +1,4 @@
+#include "app/log_gate.h"
 #include "engine_rig.h"
 #include "modes/encoder.h"
 #include "sirm/alenia_sir_m_radar_encoder.h"
@@ -124,6 +125,23 @@ private Q_SLOTS:
         QCOMPARE(seen(0), 1); // automatic: by the record's own type
         QCOMPARE(seen(2), 0); // as a plot: no track number in it
         QCOMPARE(seen(99), 1);
+    }
+
+    // Debug lines are made only where they are shown, and of many alike the most are counted.
+    void repeatedFaultsAreSummedUp()
+    {
+        const QByteArray block = QByteArray::fromHex("3f0004c0");
+        for (const auto level : {LogLevel::Info, LogLevel::None}) {
+            OpenRig rig;
+            LogGate::setShownLevel(level);
+            for (int i = 0; i < 1000; ++i) {
+                rig.engine.procMessage(block);
+            }
+            const QString text = "D Unsupported ASTERIX catetory received: CAT063";
+            QCOMPARE(rig.log, level == LogLevel::Info ? QStringList() : QStringList({text, text, text}));
+            rig.engine.closeInput();
+            QCOMPARE(rig.log.filter(text + " … 997 more like this").size(), level == LogLevel::Info ? 0 : 1);
+        }
     }
 
     void otherSensorsAreDroppedAndReportedOncePerSource()

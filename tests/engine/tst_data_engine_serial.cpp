@@ -65,6 +65,7 @@ private Q_SLOTS:
         open(rig);
         closeFarEnd();
         QTRY_COMPARE(rig.closed, QList<QVariantList>({{2ULL}}));
+        QCOMPARE(rig.faults.size(), 1);
         QCOMPARE(rig.log.filter("W The serial device is gone: ").size(), 1);
     }
 
@@ -79,6 +80,8 @@ private Q_SLOTS:
             open(rig);
             QCOMPARE(rig.failed.size(), 1);
             QCOMPARE(rig.log.last(), line);
+            QCOMPARE(rig.faults.size(), 1);
+            QVERIFY(rig.log.contains("W " + rig.faults.first().at(1).toString()));
             rig.engine.closeInput();
             QCOMPARE(rig.closed.size(), 0);
         }

@@ -90,6 +90,12 @@ private Q_SLOTS:
                 portTaken
                     ? QStringLiteral("I Failed to bind UDP port %1.").arg(other.localPort())
                     : "I Failed to join UDP multicast group 10.9.8.7 on interface " + m_loopback.humanReadableName());
+            const QString reason = portTaken
+                ? QStringLiteral("UDP port %1 is in use by another program that does not share it.")
+                      .arg(other.localPort())
+                : QStringLiteral("10.9.8.7 is no multicast group.");
+            QCOMPARE(rig.faults, QList<QVariantList>({{6ULL, reason}}));
+            QVERIFY(rig.log.contains("W " + reason));
             QUdpSocket socket;
             const QString start = QStringLiteral("I Start UDP input :");
             const QStringList started = rig.log.filter(start);
