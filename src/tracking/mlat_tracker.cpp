@@ -103,9 +103,10 @@ QSharedPointer<Track> MlatTracker::trackOf(const _ast_datarecord_020_t &record, 
     if (identity.usable()) {
         return associate(identity, now);
     }
-    Q_EMIT message(LogLevel::Debug,
-        tr("MLAT Tracker: CAT020 message has neither valid track number (I020/161) nor valid Mode-S address "
-           "(I020/220), ignore."));
+    debug([] {
+        return tr("MLAT Tracker: CAT020 message has neither valid track number (I020/161) nor valid Mode-S address "
+                  "(I020/220), ignore.");
+    });
     return {};
 }
 

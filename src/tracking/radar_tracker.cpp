@@ -107,7 +107,7 @@ QSharedPointer<Track> RadarTracker::trackOf(const _ast_datarecord_001_t &record)
     if (record.i161.present) {
         return findOrCreate(record.i161.trackNumber);
     }
-    Q_EMIT message(LogLevel::Debug, tr("Radar Tracker: CAT001 message has no valid track number (I001/161), ignore."));
+    debug([] { return tr("Radar Tracker: CAT001 message has no valid track number (I001/161), ignore."); });
     return {};
 }
 
@@ -154,9 +154,10 @@ QSharedPointer<Track> RadarTracker::trackOf(const _ast_datarecord_048_t &record,
     if (identity.usable()) {
         return associate(identity, now);
     }
-    Q_EMIT message(LogLevel::Debug,
-        tr("Radar Tracker: CAT048 message has neither valid track number (I048/161) nor valid Mode-S address "
-           "(I048/220), ignore."));
+    debug([] {
+        return tr("Radar Tracker: CAT048 message has neither valid track number (I048/161) nor valid Mode-S address "
+                  "(I048/220), ignore.");
+    });
     return {};
 }
 

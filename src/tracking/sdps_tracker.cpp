@@ -97,9 +97,10 @@ void SdpsTracker::procCat062Message(const _ast_datarecord_062_t &record)
     const auto now = trackManager().now();
     const auto identity = identityOf(record);
     if (!identity.usable()) {
-        Q_EMIT message(LogLevel::Debug,
-            tr("SDPS Tracker: CAT062 message has neither valid track number (I062/040) nor valid Mode-S address "
-               "(I062/380/ADR), ignore."));
+        debug([] {
+            return tr("SDPS Tracker: CAT062 message has neither valid track number (I062/040) nor valid Mode-S address "
+                      "(I062/380/ADR), ignore.");
+        });
         return;
     }
     if (record.i080.present && record.i080.tse) {

@@ -20,8 +20,7 @@ void SmrTracker::procAsterixMessage(const _ast_datablock_t &block)
 void SmrTracker::procCat010Message(const _ast_datarecord_010_t &record)
 {
     if (!record.i161.present) {
-        Q_EMIT message(
-            LogLevel::Debug, tr("SMR Tracker: CAT010 message has no valid track number (I010/161), ignore."));
+        debug([] { return tr("SMR Tracker: CAT010 message has no valid track number (I010/161), ignore."); });
         return;
     }
     if (!record.i040.present) {

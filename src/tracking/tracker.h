@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/log_level.h"
+#include "app/log_gate.h"
 #include "asterix/asterix.h"
 #include "sensors/sensor_info.h"
 #include "tracking/track_manager.h"
@@ -50,6 +50,15 @@ protected:
 
         bool usable() const { return number != 0 || address.value_or(0) != 0; }
     };
+
+    // For what every faulty report says: the text is made only where debug lines are shown.
+    template <typename MakeText>
+    void debug(MakeText makeText)
+    {
+        if (LogGate::isShown(LogLevel::Debug)) {
+            Q_EMIT message(LogLevel::Debug, makeText());
+        }
+    }
 
     TrackManager &trackManager() const { return *m_trackManager; }
     Projector &projector() const { return *m_projector; }

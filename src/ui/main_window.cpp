@@ -3,6 +3,7 @@
 #include "airdb/lib_air_db.h"
 #include "app/app_log.h"
 #include "app/app_paths.h"
+#include "app/log_gate.h"
 #include "app/map_places.h"
 #include "asterix/asterix.h"
 #include "display/geo_map_display.h"
@@ -95,6 +96,12 @@ MainWindow::~MainWindow()
     }
 }
 
+void MainWindow::setLogLevel(LogLevel minimum)
+{
+    m_minimumLevel = minimum;
+    LogGate::setShownLevel(minimum);
+}
+
 bool MainWindow::isDebugMode()
 {
     return debugModeMarked();
@@ -161,8 +168,8 @@ void MainWindow::makeParts()
 
 void MainWindow::routeLibraryLogs()
 {
+    setLogLevel(minimumLogLevel(isDebugMode()));
     if (isDebugMode()) {
-        setLogLevel(LogLevel::Debug);
         showLog(LogLevel::Debug, tr("Debug functions enabled"));
     }
     ast_library_init();

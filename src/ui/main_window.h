@@ -54,7 +54,7 @@ public:
 
     // Decided at the first call and kept.
     static bool isDebugMode();
-    void setLogLevel(LogLevel minimum) { m_minimumLevel = minimum; }
+    void setLogLevel(LogLevel minimum);
 
     const Config &config() const { return m_config.live(); }
     bool inputOpen() const;
