@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/setting_group.h"
 #include "app/tile_services.h"
 #include "geo/geo_coordinate.h"
 #include "modes/mode_s_encapsulation.h"
@@ -18,8 +19,8 @@ class QObject;
 class SensorInfo;
 
 // Every setting of the terminal, as a plain value. Each key of the settings file is a member of the same name; a
-// member's initialiser is the key's default. A new key needs a member here and a line in config.cpp. The spelling
-// "Altitute" is part of the file format.
+// member's initialiser is the key's default. A new key needs a member here and a line in the table of setting.cpp. The
+// spelling "Altitute" is part of the file format.
 class Config {
     Q_DECLARE_TR_FUNCTIONS(Config)
 
@@ -39,12 +40,16 @@ public:
 
     // Writes every key to an INI file: whole or, when it cannot be written, not at all. Errors are not reported.
     void save(const QString &fileName) const;
+    // The same; false when it cannot be written.
+    bool trySave(const QString &fileName) const;
     // A key that the file lacks leaves its member as it is, so that older files load, and a missing file changes
     // nothing. Values are not range-checked; one that does not convert gives zero.
     void load(const QString &fileName);
 
-    // The one configured sensor as a record. Both are defined in tracking/config_sensor.cpp, a floor above this one,
-    // where the records are known; who calls them links that library.
+    // The groups in which at least one setting differs.
+    static SettingGroups changedGroups(const Config &a, const Config &b);
+
+    // The one configured sensor as a record.
     // Copies the fields that every sensor has and those of its own type; false for a null pointer.
     bool setSensor(const QSharedPointer<SensorInfo> &sensor);
     // A new record; a null pointer when no sensor type is configured.

@@ -5,7 +5,7 @@
 #include "sensors/sdps_sensor_info.h"
 #include "sensors/smr_sensor_info.h"
 
-// The part of the configuration that deals in sensor records, which stand a floor above it.
+// The part of the configuration that deals in sensor records.
 
 namespace {
 

@@ -1,49 +1,22 @@
 #include "app/run_config.h"
 
-#include <tuple>
+#include "app/setting.h"
 
-namespace {
+#include <QDir>
 
-// The keys that a run may override.
-constexpr auto overridable = std::make_tuple(&Config::inputComm, &Config::inputUdpMulticast1,
-    &Config::inputUdpMcastLanInterface1, &Config::inputUdpMcastAddress1, &Config::inputUdpPort1, &Config::inputEnable2,
-    &Config::inputUdpMulticast2, &Config::inputUdpMcastLanInterface2, &Config::inputUdpMcastAddress2,
-    &Config::inputUdpPort2, &Config::inputSerialDevice, &Config::inputSerialBaudRate, &Config::inputFileName,
-    &Config::inputFileAutoRewind, &Config::processorType, &Config::processorAsterixFormat, &Config::processorAsterixUap,
-    &Config::processorAsterixVerifySacSic, &Config::sensorType, &Config::sensorName, &Config::sensorSac,
-    &Config::sensorSic, &Config::sensorLocation, &Config::sensorRadarAntennaAltitude,
-    &Config::sensorRadarRotationPeriod, &Config::sensorRadarIsPrimary, &Config::sensorRadarIsSecondary,
-    &Config::sensorRadarIsModeS, &Config::sensorRadarCoveragePrimary, &Config::sensorRadarCoverageSecondary,
-    &Config::sensorAdsbCoverage, &Config::sensorAdsbUpdateInterval, &Config::sensorMlatCoverage,
-    &Config::sensorSdpsCoverage, &Config::sensorSdpsUpdateInterval, &Config::sensorSmrAntennaAltitude,
-    &Config::sensorSmrRotationPeriod, &Config::sensorSmrCoverage);
-
-template <typename T>
-bool same(const T &a, const T &b)
-{
-    return a == b;
-}
-
-bool same(const QNetworkInterface &a, const QNetworkInterface &b)
-{
-    return a.name() == b.name();
-}
-
-// A key that still has the run's own value goes back to the stored one.
-template <typename T>
-void keepStored(Config &edited, const Config &live, const Config &stored, T Config::*key)
-{
-    if (same(edited.*key, live.*key) && !same(live.*key, stored.*key)) {
-        edited.*key = stored.*key;
-    }
-}
-
-} // namespace
-
-RunConfig::RunConfig(const QString &fileName) : m_fileName(fileName)
+RunConfig::RunConfig(const QString &fileName, std::chrono::milliseconds writeDelay, QObject *parent)
+    : QObject(parent), m_fileName(fileName)
 {
     m_stored.load(fileName);
     m_live = m_stored;
+    m_writeTimer.setSingleShot(true);
+    m_writeTimer.setInterval(writeDelay);
+    connect(&m_writeTimer, &QTimer::timeout, this, &RunConfig::flush);
+}
+
+RunConfig::~RunConfig()
+{
+    flush();
 }
 
 void RunConfig::overrideWith(const std::function<void(Config &)> &change)
@@ -53,11 +26,22 @@ void RunConfig::overrideWith(const std::function<void(Config &)> &change)
 
 void RunConfig::apply(const Config &edited)
 {
+    const SettingGroups kept = RunGroups & ~Config::changedGroups(m_live, edited);
     Config stored = edited;
-    std::apply([&](auto... keys) { (keepStored(stored, m_live, m_stored, keys), ...); }, overridable);
-    m_stored = stored;
+    for (const Setting &setting : Setting::all()) {
+        if (setting.groups() & kept) {
+            setting.copy(m_stored, stored);
+        }
+    }
     m_live = edited;
-    m_stored.save(m_fileName);
+    if (!Config::changedGroups(m_stored, stored)) {
+        return;
+    }
+    m_stored = stored;
+    m_waiting = true;
+    if (!m_writeTimer.isActive()) {
+        m_writeTimer.start();
+    }
 }
 
 void RunConfig::edit(const std::function<void(Config &)> &change)
@@ -65,4 +49,17 @@ void RunConfig::edit(const std::function<void(Config &)> &change)
     Config edited = m_live;
     change(edited);
     apply(edited);
+}
+
+bool RunConfig::flush()
+{
+    m_writeTimer.stop();
+    if (!m_waiting) {
+        return true;
+    }
+    m_waiting = !m_stored.trySave(m_fileName);
+    if (m_waiting) {
+        Q_EMIT writeFailed(tr("Cannot write the settings file %1").arg(QDir::toNativeSeparators(m_fileName)));
+    }
+    return !m_waiting;
 }

@@ -2,14 +2,23 @@
 
 #include "app/config.h"
 
+#include <QObject>
+#include <QTimer>
+
+#include <chrono>
 #include <functional>
 
 // The settings of this run, and the settings file behind them. What the command line sets holds for this run alone: the
-// file keeps the user's own values of those keys, unless he changes them in the settings window.
-class RunConfig final {
+// file keeps the user's own values of input, processor and sensor, each as a group, until he changes one of the group.
+class RunConfig final : public QObject {
+    Q_OBJECT
+
 public:
-    // Loads the file; a missing one leaves the defaults.
-    explicit RunConfig(const QString &fileName);
+    // Loads the file; a missing one leaves the defaults. Changes are written that long after the first of them.
+    explicit RunConfig(const QString &fileName, std::chrono::milliseconds writeDelay = std::chrono::seconds(1),
+        QObject *parent = nullptr);
+    // Writes what waits.
+    ~RunConfig() override;
 
     // What is in force.
     const Config &live() const { return m_live; }
@@ -17,13 +26,22 @@ public:
     // For this run only, to settings of inputs, processor and sensor.
     void overrideWith(const std::function<void(Config &)> &change);
 
-    // Takes over settings that the user edited, beginning from live(), and writes the file.
+    // Takes over settings that the user edited, beginning from live(). A group that he edited is stored as he saw it:
+    // the run's own values go with his, so that the file never mixes two inputs or two sensors.
     void apply(const Config &edited);
     // The same for a change of the user's to single keys, wherever he made it.
     void edit(const std::function<void(Config &)> &change);
 
+    // Writes what waits, at once. False when the file cannot be written: it is tried again with the next change.
+    bool flush();
+
+Q_SIGNALS:
+    void writeFailed(const QString &text);
+
 private:
     QString m_fileName;
-    Config m_stored; // as in the file
+    Config m_stored; // as in the file, or to be
     Config m_live;
+    bool m_waiting = false;
+    QTimer m_writeTimer;
 };
