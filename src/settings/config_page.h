@@ -1,11 +1,25 @@
 #pragma once
 
+#include "app/setting.h"
+#include "widgets/combo_items.h"
+
+#include <QComboBox>
+#include <QList>
+#include <QSpinBox>
 #include <QWidget>
 
-class Config;
-class FieldForm;
+#include <functional>
+#include <optional>
+#include <utility>
 
-// One page of the settings window. A page owns the fields of its keys and touches no other key of a record.
+class ColorButton;
+class FieldForm;
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+
+// One page of the settings window. A page binds fields to settings, and touches no other setting of a record. A bound
+// field is named after its setting's key, and takes range and unit from the table of settings.
 class ConfigPage : public QWidget {
     Q_OBJECT
 
@@ -15,13 +29,97 @@ public:
     const QString &title() const { return m_title; }
     FieldForm *form() const { return m_form; }
 
-    virtual void load(const Config &config) = 0;
+    // The settings that the page edits.
+    const QList<const Setting *> &settings() const { return m_settings; }
+
+    virtual void load(const Config &config);
     // Notes beside the fields what is wrong; true when nothing is.
-    virtual bool validate() = 0;
+    virtual bool validate() { return true; }
     // Only after a successful validate().
-    virtual void store(Config *config) const = 0;
+    virtual void store(Config *config) const;
+
+    // Locks the page, and says why, if it edits what an input is opened with.
+    void setInputRunning(bool running);
+
+    // Show puts the setting's value into the field; entered is what stands there, nothing for what cannot be taken.
+    template <typename T>
+    void bind(QWidget *field, T Config::*member, std::function<void(const T &)> show,
+        std::function<std::optional<T>()> entered)
+    {
+        addBinding(
+            field, Setting::of(member), [member, show](const Config &config) { show(config.*member); },
+            [member, entered](Config *config) {
+                if (const std::optional<T> value = entered()) {
+                    config->*member = *value;
+                }
+            });
+    }
+    void bind(QCheckBox *field, bool Config::*member);
+    void bind(ColorButton *field, QColor Config::*member);
+    void bind(QLineEdit *field, QString Config::*member);
+    void bind(QDoubleSpinBox *field, double Config::*member);
+    template <typename T>
+    void bind(QSpinBox *field, T Config::*member)
+    {
+        giveRange(field, Setting::of(member));
+        bind<T>(
+            field, member, [field](const T &value) { field->setValue(static_cast<int>(value)); },
+            [field] { return std::optional(static_cast<T>(field->value())); });
+    }
+    // The items hold the values as numbers.
+    template <typename T>
+    void bind(QComboBox *field, T Config::*member)
+    {
+        bind<T>(
+            field, member, [field](const T &value) { selectValue(field, static_cast<int>(value)); },
+            [field] { return std::optional(static_cast<T>(field->currentData().toInt())); });
+    }
+
+protected:
+    template <typename T>
+    using Choices = QList<std::pair<QString, T>>;
+
+    // Rows of a label and a new field for the setting.
+    QCheckBox *addSwitch(const QString &text, bool Config::*member, const QString &toolTip = {});
+    ColorButton *addColor(const QString &label, const QString &chooserTitle, QColor Config::*member);
+    QDoubleSpinBox *addNumber(
+        const QString &label, double Config::*member, int decimals, double step, const QString &toolTip = {});
+    template <typename T>
+    QSpinBox *addNumber(const QString &label, T Config::*member, const QString &toolTip = {})
+    {
+        QSpinBox *field = addSpinBox(label, toolTip);
+        bind(field, member);
+        return field;
+    }
+    template <typename T>
+    QComboBox *addChoice(
+        const QString &label, T Config::*member, const Choices<T> &choices, const QString &toolTip = {})
+    {
+        QComboBox *field = addComboBox(label, toolTip);
+        for (const auto &[text, value] : choices) {
+            field->addItem(text, static_cast<int>(value));
+        }
+        bind(field, member);
+        return field;
+    }
+    // For settings whose fields are not bound one by one.
+    void addSettings(SettingGroup group);
 
 private:
+    struct Binding {
+        std::function<void(const Config &)> show;
+        std::function<void(Config *)> store;
+    };
+
+    void addBinding(QWidget *field, const Setting &setting, std::function<void(const Config &)> show,
+        std::function<void(Config *)> store);
+    QSpinBox *addSpinBox(const QString &label, const QString &toolTip);
+    QComboBox *addComboBox(const QString &label, const QString &toolTip);
+    static void giveRange(QSpinBox *field, const Setting &setting);
+
     QString m_title;
+    QLabel *m_lock = nullptr;
     FieldForm *m_form = nullptr;
+    QList<const Setting *> m_settings;
+    QList<Binding> m_bindings;
 };

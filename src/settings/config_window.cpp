@@ -12,6 +12,7 @@
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
@@ -20,7 +21,7 @@
 
 ConfigWindow::ConfigWindow(const Config &config, SensorManager *sensors, QWidget *parent)
     : GeometryDialog(QStringLiteral("ConfigWindow"), parent), m_config(config), m_pageList(new QListWidget(this)),
-      m_stack(new QStackedWidget(this))
+      m_stack(new QStackedWidget(this)), m_saveProblem(new QLabel(this))
 {
     setWindowTitle(tr("Settings"));
     setModal(true);
@@ -33,6 +34,7 @@ ConfigWindow::ConfigWindow(const Config &config, SensorManager *sensors, QWidget
     addPage(new WeatherConfigPage(this));
     addPage(new VideoConfigPage(this));
     addPage(new TrackConfigPage(this));
+    m_untouched = entered();
     m_pageList->setFixedWidth(m_pageList->sizeHintForColumn(0) + 40);
     connect(m_pageList, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);
     m_pageList->setCurrentRow(0);
@@ -43,11 +45,15 @@ ConfigWindow::ConfigWindow(const Config &config, SensorManager *sensors, QWidget
     connect(buttons, &QDialogButtonBox::rejected, this, &ConfigWindow::reject);
     connect(buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, &ConfigWindow::apply);
 
+    m_saveProblem->setObjectName(QStringLiteral("saveProblem"));
+    m_saveProblem->setWordWrap(true);
+    m_saveProblem->hide();
     auto *panes = new QHBoxLayout;
     panes->addWidget(m_pageList);
     panes->addWidget(m_stack, 1);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(panes, 1);
+    layout->addWidget(m_saveProblem);
     layout->addWidget(buttons);
     resize(720, 560);
 }
@@ -88,16 +94,43 @@ bool ConfigWindow::apply()
         showRefused(refused);
         return false;
     }
+    const Config now = entered();
     Config edited = m_config;
-    for (const ConfigPage *page : std::as_const(m_pages)) {
-        page->store(&edited);
+    for (const Setting &setting : Setting::all()) {
+        if (!setting.same(now, m_untouched)) {
+            setting.copy(now, edited);
+        }
     }
     if (m_consent && !m_consent(edited)) {
         return false;
     }
     m_config = edited;
+    m_untouched = now;
+    m_saveProblem->hide();
     Q_EMIT configApplied(m_config);
     return true;
+}
+
+Config ConfigWindow::entered() const
+{
+    Config config = m_config;
+    for (const ConfigPage *page : m_pages) {
+        page->store(&config);
+    }
+    return config;
+}
+
+void ConfigWindow::setInputRunning(bool running)
+{
+    for (ConfigPage *page : std::as_const(m_pages)) {
+        page->setInputRunning(running);
+    }
+}
+
+void ConfigWindow::showSaveProblem(const QString &problem)
+{
+    m_saveProblem->setText(tr("%1. The settings hold until the program ends.").arg(problem));
+    m_saveProblem->show();
 }
 
 void ConfigWindow::showRefused(qsizetype page)
@@ -113,7 +146,7 @@ void ConfigWindow::showRefused(qsizetype page)
 
 void ConfigWindow::accept()
 {
-    if (apply()) {
+    if (apply() && m_saveProblem->isHidden()) {
         QDialog::accept();
     }
 }

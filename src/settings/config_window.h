@@ -6,11 +6,13 @@
 #include <functional>
 
 class ConfigPage;
+class QLabel;
 class QListWidget;
 class QStackedWidget;
 class SensorManager;
 
-// The settings window: pages chosen in a list at the left. Keys that no page shows pass through untouched.
+// The settings window: pages chosen in a list at the left. What the operator did not touch passes through unchanged,
+// though its field shows it rounded, cut off at the end of a range or spelled in another way.
 class ConfigWindow final : public GeometryDialog {
     Q_OBJECT
 
@@ -20,9 +22,15 @@ public:
 
     // The record as last applied.
     const Config &config() const { return m_config; }
+    const QList<ConfigPage *> &pages() const { return m_pages; }
 
     // Asked before anything is applied; false leaves all as it is, and the window open.
     void setConsent(std::function<bool(const Config &edited)> consent);
+    // Locks the pages of what an input is opened with.
+    void setInputRunning(bool running);
+    // Shown above the buttons until the next attempt; the window stays open. For a receiver of configApplied().
+    void showSaveProblem(const QString &problem);
+
     // Applies all pages, or none: when a field is refused, its page is shown with a note beside it. True when applied.
     bool apply();
     void accept() override;
@@ -34,10 +42,13 @@ private:
     void addPage(ConfigPage *page);
     QWidget *makeScrollable(ConfigPage *page);
     void showRefused(qsizetype page);
+    Config entered() const;
 
     Config m_config;
+    Config m_untouched; // what the fields hold of it
     std::function<bool(const Config &edited)> m_consent;
     QList<ConfigPage *> m_pages;
     QListWidget *m_pageList = nullptr;
     QStackedWidget *m_stack = nullptr;
+    QLabel *m_saveProblem = nullptr;
 };

@@ -1,12 +1,8 @@
 #include "settings/display_config_page.h"
 
-#include "app/config.h"
-#include "widgets/color_button.h"
 #include "widgets/coordinate_edit.h"
 #include "widgets/field_form.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QCompleter>
 #include <QLineEdit>
 #include <QStyleFactory>
@@ -37,33 +33,47 @@ QComboBox *makeTimeZoneBox()
 
 DisplayConfigPage::DisplayConfigPage(QWidget *parent)
     : ConfigPage(tr("Display"), parent), m_center(new CoordinateEdit(GeoCoordinate::NormalPrecision)),
-      m_background(new ColorButton(tr("Background Colour"))), m_timeZone(makeTimeZoneBox()), m_style(new QComboBox),
-      m_toolbarText(new QCheckBox(tr("Te&xt beside the icons of the tool bars")))
+      m_timeZone(makeTimeZoneBox())
 {
-    m_center->setObjectName(QStringLiteral("displayCenter"));
-    m_timeZone->setObjectName(QStringLiteral("displayTimeZone"));
-    m_style->setObjectName(QStringLiteral("displayStyle"));
-    m_style->addItems(QStyleFactory::keys());
-    form()->addHeading(tr("Plan view"));
-    form()->addField(tr("&Centre:"), m_center);
-    form()->addField(tr("&Background:"), m_background);
-    form()->addHeading(tr("Window"));
-    form()->addField(tr("&Time zone:"), m_timeZone);
-    form()->addField(tr("St&yle:"), m_style);
-    form()->addField(m_toolbarText);
+    addPlanViewRows();
+    addWindowRows();
     form()->addStretch();
 }
 
-void DisplayConfigPage::load(const Config &config)
+void DisplayConfigPage::addPlanViewRows()
 {
-    m_center->setCoordinate(config.displayCenterCoordinate);
-    m_background->setColor(config.mapBackgroundColor);
-    m_timeZone->setCurrentText(config.displayLocalTimeZoneName);
-    if (m_style->findText(config.displayStyle, Qt::MatchFixedString) < 0) {
-        m_style->addItem(config.displayStyle); // of another system; stays chosen until somebody chooses otherwise
-    }
-    m_style->setCurrentIndex(m_style->findText(config.displayStyle, Qt::MatchFixedString));
-    m_toolbarText->setChecked(config.displayToolbarText);
+    form()->addHeading(tr("Plan view"));
+    m_center->setToolTip(tr("Where the view begins while no sensor is configured, and the centre of the range rings."));
+    form()->addField(tr("&Centre:"), m_center);
+    bind<GeoCoordinate>(
+        m_center, &Config::displayCenterCoordinate,
+        [this](const GeoCoordinate &center) { m_center->setCoordinate(center); },
+        [this] { return std::optional(m_center->coordinate()); });
+    addColor(tr("&Background:"), tr("Background Colour"), &Config::mapBackgroundColor);
+}
+
+void DisplayConfigPage::addWindowRows()
+{
+    form()->addHeading(tr("Window"));
+    form()->addField(tr("&Time zone:"), m_timeZone);
+    bind<QString>(
+        m_timeZone, &Config::displayLocalTimeZoneName,
+        [this](const QString &zone) { m_timeZone->setCurrentText(zone); },
+        [this] { return std::optional(m_timeZone->currentText().trimmed()); });
+    auto *style = new QComboBox;
+    style->addItems(QStyleFactory::keys());
+    form()->addField(tr("St&yle:"), style);
+    bind<QString>(
+        style, &Config::displayStyle,
+        [style](const QString &name) {
+            // Of another system: stays chosen until somebody chooses otherwise.
+            if (style->findText(name, Qt::MatchFixedString) < 0) {
+                style->addItem(name);
+            }
+            style->setCurrentIndex(style->findText(name, Qt::MatchFixedString));
+        },
+        [style] { return std::optional(style->currentText()); });
+    addSwitch(tr("Te&xt beside the icons of the tool bars"), &Config::displayToolbarText);
 }
 
 QString DisplayConfigPage::timeZoneProblem() const
@@ -84,16 +94,4 @@ bool DisplayConfigPage::validate()
     const bool centred = m_center->coordinate().isValid();
     const bool centreGood = form()->check(m_center, centred ? QString() : tr("INVALID COORDINATE"));
     return form()->check(m_timeZone, timeZoneProblem()) && centreGood;
-}
-
-void DisplayConfigPage::store(Config *config) const
-{
-    config->displayCenterCoordinate = m_center->coordinate();
-    config->mapBackgroundColor = m_background->color();
-    config->displayLocalTimeZoneName = m_timeZone->currentText().trimmed();
-    // Style names are compared without regard to case: another spelling is no change.
-    if (config->displayStyle.compare(m_style->currentText(), Qt::CaseInsensitive) != 0) {
-        config->displayStyle = m_style->currentText();
-    }
-    config->displayToolbarText = m_toolbarText->isChecked();
 }

@@ -2,10 +2,7 @@
 
 #include "settings/config_page.h"
 
-class ColorButton;
 class CoordinateEdit;
-class QCheckBox;
-class QComboBox;
 
 // Settings of the plan view and of the window around it.
 class DisplayConfigPage final : public ConfigPage {
@@ -14,16 +11,13 @@ class DisplayConfigPage final : public ConfigPage {
 public:
     explicit DisplayConfigPage(QWidget *parent = nullptr);
 
-    void load(const Config &config) override;
     bool validate() override;
-    void store(Config *config) const override;
 
 private:
+    void addPlanViewRows();
+    void addWindowRows();
     QString timeZoneProblem() const;
 
     CoordinateEdit *m_center = nullptr;
-    ColorButton *m_background = nullptr;
     QComboBox *m_timeZone = nullptr;
-    QComboBox *m_style = nullptr;
-    QCheckBox *m_toolbarText = nullptr;
 };

@@ -1,145 +1,156 @@
 #include "settings/input_config_page.h"
 
-#include "app/config.h"
+#include "astfile/rec_file.h"
 #include "settings/udp_input_fields.h"
-#include "widgets/combo_items.h"
 #include "widgets/field_form.h"
+#include "widgets/file_edit.h"
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
-#include <QFileDialog>
-#include <QHBoxLayout>
 #include <QIntValidator>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSerialPort>
 #include <QSerialPortInfo>
 
-InputConfigPage::InputConfigPage(QWidget *parent) : ConfigPage(tr("Input"), parent), m_comm(new QComboBox)
+using korvane::astfile::RecFile;
+
+namespace {
+
+const QList<RecFile::Format> PlayableFormats{RecFile::Pcap, RecFile::PcapNg, RecFile::RawAsterix, RecFile::FinalFormat,
+    RecFile::Gps, RecFile::ModeS};
+
+// Why a file cannot be played; empty when it can.
+QString playingProblem(const QFileInfo &file)
+{
+    if (file.filePath().isEmpty()) {
+        return InputConfigPage::tr("Choose a recording file.");
+    }
+    if (!file.exists()) {
+        return InputConfigPage::tr("This file does not exist.");
+    }
+    if (!file.isFile() || !file.isReadable()) {
+        return InputConfigPage::tr("This file cannot be read.");
+    }
+    if (!PlayableFormats.contains(RecFile::formatFromFileName(file.fileName()))) {
+        return InputConfigPage::tr("This is no recording: its name has none of the endings of recording files.");
+    }
+    return {};
+}
+
+} // namespace
+
+InputConfigPage::InputConfigPage(QWidget *parent) : ConfigPage(tr("Input"), parent)
 {
     using Comm = Config::InputComm;
+    Choices<Comm> methods;
     for (const Comm comm : {Comm::Udp, Comm::Serial, Comm::File}) {
-        m_comm->addItem(Config::inputMethodName(comm), static_cast<int>(comm));
+        methods.append({Config::inputMethodName(comm), comm});
     }
-    m_comm->setObjectName(QStringLiteral("inputComm"));
-    form()->addField(tr("&Data from:"), m_comm);
-    m_udp1 = new UdpInputFields(1, form());
-    form()->addSpacing();
-    m_enable2 = new QCheckBox(tr("&Second input"));
-    m_enable2->setObjectName(QStringLiteral("udpEnable2"));
-    form()->addField(m_enable2);
-    m_udp2 = new UdpInputFields(2, form());
+    m_comm = addChoice(tr("&Data from:"), &Config::inputComm, methods);
+    addUdpRows();
     addSerialRows();
     addFileRows();
     form()->addStretch();
-    connect(m_enable2, &QCheckBox::toggled, m_udp2, &UdpInputFields::setEnabled);
     connect(m_comm, &QComboBox::currentIndexChanged, this, &InputConfigPage::showChosen);
-    m_udp2->setEnabled(false);
     showChosen();
+}
+
+void InputConfigPage::addUdpRows()
+{
+    m_udp1 = new UdpInputFields({&Config::inputUdpPort1, &Config::inputUdpMulticast1, &Config::inputUdpMcastAddress1,
+                                    &Config::inputUdpMcastLanInterface1},
+        false, this);
+    form()->addSpacing();
+    m_enable2 = addSwitch(tr("&Second input"), &Config::inputEnable2,
+        tr("Listens on another port too: for sensors that send over two networks."));
+    m_udp2 = new UdpInputFields({&Config::inputUdpPort2, &Config::inputUdpMulticast2, &Config::inputUdpMcastAddress2,
+                                    &Config::inputUdpMcastLanInterface2},
+        true, this);
+    connect(m_enable2, &QCheckBox::toggled, m_udp2, &UdpInputFields::setEnabled);
+    m_udp2->setEnabled(false);
 }
 
 void InputConfigPage::addSerialRows()
 {
     m_serialDevice = new QComboBox;
-    m_serialDevice->setObjectName(QStringLiteral("serialDevice"));
     m_serialDevice->setEditable(true);
     const QList<QSerialPortInfo> ports = QSerialPortInfo::availablePorts();
     for (const QSerialPortInfo &port : ports) {
         m_serialDevice->addItem(port.portName());
     }
-    m_baudRate = new QComboBox;
-    m_baudRate->setObjectName(QStringLiteral("serialBaudRate"));
-    m_baudRate->setEditable(true);
-    m_baudRate->setValidator(new QIntValidator(1, 100'000'000, m_baudRate));
-    for (const int rate : {1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200, 230400, 460800, 921600}) {
-        m_baudRate->addItem(QString::number(rate), rate);
-    }
-    m_dataBits = new QComboBox;
-    for (const int bits : {5, 6, 7, 8}) {
-        m_dataBits->addItem(QString::number(bits), bits);
-    }
-    m_parity = new QComboBox;
-    m_parity->addItem(tr("None"), QSerialPort::NoParity);
-    m_parity->addItem(tr("Even"), QSerialPort::EvenParity);
-    m_parity->addItem(tr("Odd"), QSerialPort::OddParity);
-    m_parity->addItem(tr("Space"), QSerialPort::SpaceParity);
-    m_parity->addItem(tr("Mark"), QSerialPort::MarkParity);
-    m_stopBits = new QComboBox;
-    m_stopBits->addItem(tr("1"), QSerialPort::OneStop);
-    m_stopBits->addItem(tr("1.5"), QSerialPort::OneAndHalfStop);
-    m_stopBits->addItem(tr("2"), QSerialPort::TwoStop);
     form()->addField(tr("D&evice:"), m_serialDevice);
+    bind<QString>(
+        m_serialDevice, &Config::inputSerialDevice,
+        [this](const QString &device) { m_serialDevice->setCurrentText(device); },
+        [this] { return std::optional(m_serialDevice->currentText().trimmed()); });
+
+    m_baudRate = new QComboBox;
+    m_baudRate->setEditable(true);
+    const Setting &baudRate = Setting::of(&Config::inputSerialBaudRate);
+    m_baudRate->setValidator(new QIntValidator(
+        static_cast<int>(baudRate.minimum()), static_cast<int>(baudRate.maximum()), m_baudRate));
+    for (const int rate : {1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200, 230400, 460800, 921600}) {
+        m_baudRate->addItem(QString::number(rate));
+    }
+    m_baudRate->setToolTip(tr("Bits per second."));
     form()->addField(tr("&Baud rate:"), m_baudRate);
-    form()->addField(tr("Da&ta bits:"), m_dataBits);
-    form()->addField(tr("&Parity:"), m_parity);
-    form()->addField(tr("&Stop bits:"), m_stopBits);
-    m_serialFields = {m_serialDevice, m_baudRate, m_dataBits, m_parity, m_stopBits};
+    bind<int>(
+        m_baudRate, &Config::inputSerialBaudRate,
+        [this](int rate) { m_baudRate->setCurrentText(QString::number(rate)); },
+        [this] {
+            return m_baudRate->lineEdit()->hasAcceptableInput() ? std::optional(m_baudRate->currentText().toInt())
+                                                                : std::nullopt;
+        });
+    m_serialFields = {m_serialDevice, m_baudRate,
+        addChoice(tr("Da&ta bits:"), &Config::inputSerialDataBits,
+            {{QStringLiteral("5"), 5}, {QStringLiteral("6"), 6}, {QStringLiteral("7"), 7}, {QStringLiteral("8"), 8}}),
+        addChoice(tr("&Parity:"), &Config::inputSerialParity,
+            {{tr("None"), QSerialPort::NoParity}, {tr("Even"), QSerialPort::EvenParity},
+                {tr("Odd"), QSerialPort::OddParity}, {tr("Space"), QSerialPort::SpaceParity},
+                {tr("Mark"), QSerialPort::MarkParity}}),
+        addChoice(tr("&Stop bits:"), &Config::inputSerialStopBits,
+            {{tr("1"), QSerialPort::OneStop}, {tr("1.5"), QSerialPort::OneAndHalfStop},
+                {tr("2"), QSerialPort::TwoStop}})};
 }
 
 void InputConfigPage::addFileRows()
 {
-    m_fileRow = new QWidget;
-    m_fileName = new QLineEdit(m_fileRow);
-    m_fileName->setObjectName(QStringLiteral("fileName"));
-    auto *browseButton = new QPushButton(tr("B&rowse..."), m_fileRow);
-    browseButton->setAutoDefault(false);
-    auto *row = new QHBoxLayout(m_fileRow);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_fileName, 1);
-    row->addWidget(browseButton);
-    m_fileRow->setFocusProxy(m_fileName);
-    m_autoRewind = new QCheckBox(tr("Start &again at the end of the file"));
-    form()->addField(tr("&File:"), m_fileRow);
-    form()->addField(m_autoRewind);
-    connect(browseButton, &QPushButton::clicked, this, &InputConfigPage::browse);
+    m_file = new FileEdit(tr("Recording File"), RecFile::formatNameFilter(PlayableFormats));
+    form()->addField(tr("&File:"), m_file);
+    bind<QFileInfo>(
+        m_file, &Config::inputFileName, [this](const QFileInfo &file) { m_file->setPath(file.filePath()); },
+        [this] { return std::optional(QFileInfo(m_file->path())); });
+    m_autoRewind = addSwitch(tr("Start &again at the end of the file"), &Config::inputFileAutoRewind);
+}
+
+Config::InputComm InputConfigPage::chosen() const
+{
+    return static_cast<Config::InputComm>(m_comm->currentData().toInt());
 }
 
 void InputConfigPage::showChosen()
 {
     form()->clearNotes();
-    const auto chosen = static_cast<Config::InputComm>(m_comm->currentData().toInt());
-    m_udp1->setVisible(chosen == Config::InputComm::Udp);
-    form()->setRowVisible(m_enable2, chosen == Config::InputComm::Udp);
-    m_udp2->setVisible(chosen == Config::InputComm::Udp);
+    const Config::InputComm comm = chosen();
+    m_udp1->setVisible(comm == Config::InputComm::Udp);
+    form()->setRowVisible(m_enable2, comm == Config::InputComm::Udp);
+    m_udp2->setVisible(comm == Config::InputComm::Udp);
     for (QWidget *field : std::as_const(m_serialFields)) {
-        form()->setRowVisible(field, chosen == Config::InputComm::Serial);
+        form()->setRowVisible(field, comm == Config::InputComm::Serial);
     }
-    form()->setRowVisible(m_fileRow, chosen == Config::InputComm::File);
-    form()->setRowVisible(m_autoRewind, chosen == Config::InputComm::File);
-}
-
-void InputConfigPage::browse()
-{
-    const QString chosen = QFileDialog::getOpenFileName(this, tr("Recording File"), m_fileName->text(),
-        tr("Recordings (*.pcap *.pcapng *.cap *.raw *.bin *.ast);;All files (*)"));
-    if (!chosen.isEmpty()) {
-        m_fileName->setText(QDir::toNativeSeparators(chosen));
-    }
+    form()->setRowVisible(m_file, comm == Config::InputComm::File);
+    form()->setRowVisible(m_autoRewind, comm == Config::InputComm::File);
 }
 
 void InputConfigPage::load(const Config &config)
 {
-    selectValue(m_comm, static_cast<int>(config.inputComm));
-    m_udp1->load({config.inputUdpMulticast1, config.inputUdpMcastLanInterface1, config.inputUdpMcastAddress1,
-        config.inputUdpPort1});
-    m_enable2->setChecked(config.inputEnable2);
-    m_udp2->load({config.inputUdpMulticast2, config.inputUdpMcastLanInterface2, config.inputUdpMcastAddress2,
-        config.inputUdpPort2});
-    m_serialDevice->setCurrentText(config.inputSerialDevice);
-    m_baudRate->setCurrentText(QString::number(config.inputSerialBaudRate));
-    selectValue(m_dataBits, config.inputSerialDataBits);
-    selectValue(m_parity, config.inputSerialParity);
-    selectValue(m_stopBits, config.inputSerialStopBits);
-    m_fileName->setText(QDir::toNativeSeparators(config.inputFileName.filePath()));
-    m_autoRewind->setChecked(config.inputFileAutoRewind);
+    ConfigPage::load(config);
     showChosen();
 }
 
 bool InputConfigPage::validate()
 {
     form()->clearNotes();
-    switch (static_cast<Config::InputComm>(m_comm->currentData().toInt())) {
+    switch (chosen()) {
     case Config::InputComm::Udp:
         return validateUdp();
     case Config::InputComm::Serial:
@@ -166,48 +177,5 @@ bool InputConfigPage::validateSerial()
 
 bool InputConfigPage::validateFile()
 {
-    const QFileInfo file(QDir::fromNativeSeparators(m_fileName->text().trimmed()));
-    QString problem;
-    if (m_fileName->text().trimmed().isEmpty()) {
-        problem = tr("Choose a recording file.");
-    } else if (!file.exists()) {
-        problem = tr("This file does not exist.");
-    } else if (!file.isFile() || !file.isReadable()) {
-        problem = tr("This file cannot be read.");
-    }
-    return form()->check(m_fileRow, problem);
-}
-
-void InputConfigPage::store(Config *config) const
-{
-    config->inputComm = static_cast<Config::InputComm>(m_comm->currentData().toInt());
-    UdpInput udp{config->inputUdpMulticast1, config->inputUdpMcastLanInterface1, config->inputUdpMcastAddress1,
-        config->inputUdpPort1};
-    m_udp1->store(&udp);
-    config->inputUdpMulticast1 = udp.multicast;
-    config->inputUdpMcastLanInterface1 = udp.interface;
-    config->inputUdpMcastAddress1 = udp.group;
-    config->inputUdpPort1 = udp.port;
-    config->inputEnable2 = m_enable2->isChecked();
-    udp = {config->inputUdpMulticast2, config->inputUdpMcastLanInterface2, config->inputUdpMcastAddress2,
-        config->inputUdpPort2};
-    m_udp2->store(&udp);
-    config->inputUdpMulticast2 = udp.multicast;
-    config->inputUdpMcastLanInterface2 = udp.interface;
-    config->inputUdpMcastAddress2 = udp.group;
-    config->inputUdpPort2 = udp.port;
-    storeSerial(config);
-    config->inputFileName.setFile(QDir::fromNativeSeparators(m_fileName->text().trimmed()));
-    config->inputFileAutoRewind = m_autoRewind->isChecked();
-}
-
-void InputConfigPage::storeSerial(Config *config) const
-{
-    config->inputSerialDevice = m_serialDevice->currentText().trimmed();
-    if (m_baudRate->lineEdit()->hasAcceptableInput()) {
-        config->inputSerialBaudRate = m_baudRate->currentText().toInt();
-    }
-    config->inputSerialDataBits = m_dataBits->currentData().toInt();
-    config->inputSerialParity = m_parity->currentData().toInt();
-    config->inputSerialStopBits = m_stopBits->currentData().toInt();
+    return form()->check(m_file, playingProblem(QFileInfo(m_file->path())));
 }

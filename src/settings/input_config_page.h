@@ -4,9 +4,7 @@
 
 #include <QList>
 
-class QCheckBox;
-class QComboBox;
-class QLineEdit;
+class FileEdit;
 class UdpInputFields;
 
 // Where surveillance data comes from: two UDP sockets, a serial line or a recording file. Only the fields of the chosen
@@ -19,17 +17,16 @@ public:
 
     void load(const Config &config) override;
     bool validate() override;
-    void store(Config *config) const override;
 
 private:
+    void addUdpRows();
     void addSerialRows();
     void addFileRows();
     void showChosen();
-    void browse();
+    Config::InputComm chosen() const;
     bool validateUdp();
     bool validateSerial();
     bool validateFile();
-    void storeSerial(Config *config) const;
 
     QComboBox *m_comm = nullptr;
     UdpInputFields *m_udp1 = nullptr;
@@ -37,11 +34,7 @@ private:
     UdpInputFields *m_udp2 = nullptr;
     QComboBox *m_serialDevice = nullptr;
     QComboBox *m_baudRate = nullptr;
-    QComboBox *m_dataBits = nullptr;
-    QComboBox *m_parity = nullptr;
-    QComboBox *m_stopBits = nullptr;
-    QWidget *m_fileRow = nullptr;
-    QLineEdit *m_fileName = nullptr;
+    FileEdit *m_file = nullptr;
     QCheckBox *m_autoRewind = nullptr;
     QList<QWidget *> m_serialFields;
 };

@@ -1,17 +1,11 @@
 #include "settings/map_config_page.h"
 
 #include "app/app_paths.h"
-#include "app/config.h"
 #include "app/map_places.h"
-#include "widgets/color_button.h"
 #include "widgets/field_form.h"
 #include "widgets/file_edit.h"
-#include "widgets/range_ring_fields.h"
 
-#include <QCheckBox>
-#include <QDoubleSpinBox>
 #include <QFileInfo>
-#include <QSpinBox>
 
 namespace {
 
@@ -32,75 +26,51 @@ MapConfigPage::MapConfigPage(QWidget *parent) : ConfigPage(tr("Map Layers"), par
 
 void MapConfigPage::addStaticMapRows()
 {
-    m_staticVisible = new QCheckBox(tr("Show static ma&ps"));
-    m_staticVisible->setObjectName(QStringLiteral("staticVisible"));
-    m_index = new FileEdit(tr("Select Map Index"), tr("Map Index (*.idx);;All files (*)"));
-    m_index->setObjectName(QStringLiteral("mapIndex"));
-    m_styleSheet = new FileEdit(tr("Select Map Style Sheet"), tr("Map Style Sheet (*.mss)"));
-    m_styleSheet->setObjectName(QStringLiteral("mapStyleSheet"));
-    m_symbolSize = new QSpinBox;
-    m_symbolSize->setObjectName(QStringLiteral("symbolSize"));
-    m_symbolSize->setRange(4, 256);
-    m_symbolSize->setSuffix(tr(" pixels"));
     form()->addHeading(tr("Static maps"));
-    form()->addField(m_staticVisible);
-    form()->addField(tr("Map inde&x:"), m_index);
-    form()->addField(tr("S&tyle sheet:"), m_styleSheet);
-    form()->addField(tr("Symbol si&ze:"), m_symbolSize);
+    addSwitch(tr("Show static ma&ps"), &Config::mapStaticVisible);
+    m_index =
+        addFile(tr("Map inde&x:"), tr("Select Map Index"), tr("Map Index (*.idx);;All files (*)"), &Config::mapIndex);
+    m_styleSheet = addFile(
+        tr("S&tyle sheet:"), tr("Select Map Style Sheet"), tr("Map Style Sheet (*.mss)"), &Config::mapStyleSheet);
+    addNumber(tr("Symbol si&ze:"), &Config::mapStaticSymbolSize);
+    addSwitch(tr("Smooth scaled p&ictures"), &Config::mapSmoothPixmapTransform,
+        tr("Pictures in maps look softer when they are enlarged, and take longer to draw."));
+}
+
+FileEdit *MapConfigPage::addFile(
+    const QString &label, const QString &title, const QString &filter, QString Config::*member)
+{
+    auto *field = new FileEdit(title, filter);
+    form()->addField(label, field);
+    bind<QString>(
+        field, member,
+        [field](const QString &path) {
+            field->setPath(path);
+            field->setBaseDir(folder(path));
+        },
+        [field] { return std::optional(AppPaths::storePath(field->path())); });
+    return field;
 }
 
 void MapConfigPage::addSensorRows()
 {
-    m_sensorVisible = new QCheckBox(tr("Show the &sensor"));
-    m_sensorColor = new ColorButton(tr("Sensor Colour"));
-    m_coverageVisible = new QCheckBox(tr("Show its co&verage"));
-    m_northMarkerVisible = new QCheckBox(tr("Flash the &north marker of a radar"));
-    m_northMarkerColor = new ColorButton(tr("North Marker Colour"));
-    m_antennaLineVisible = new QCheckBox(tr("Show the &antenna line of a radar"));
-    m_antennaLineColor = new ColorButton(tr("Antenna Line Colour"));
     form()->addHeading(tr("Sensor"));
-    form()->addField(m_sensorVisible);
-    form()->addField(m_coverageVisible);
-    form()->addField(m_antennaLineVisible);
-    form()->addField(m_northMarkerVisible);
-    form()->addField(tr("S&ite and coverage:"), m_sensorColor);
-    form()->addField(tr("Antenna &line:"), m_antennaLineColor);
-    form()->addField(tr("North &marker:"), m_northMarkerColor);
+    addSwitch(tr("Show the &sensor"), &Config::mapSensorVisible);
+    addSwitch(tr("Show its co&verage"), &Config::mapSensorCoverageVisible);
+    addSwitch(tr("Show the &antenna line of a radar"), &Config::mapSensorRadarAntennaLineVisible);
+    addSwitch(tr("Flash the &north marker of a radar"), &Config::mapSensorRadarNorthMarkerVisible);
+    addColor(tr("Sit&e and coverage:"), tr("Sensor Colour"), &Config::mapSensorColor);
+    addColor(tr("Antenna &line:"), tr("Antenna Line Colour"), &Config::mapSensorRadarAntennaLineColor);
+    addColor(tr("North &marker:"), tr("North Marker Colour"), &Config::mapSensorRadarNorthMarkerColor);
 }
 
 void MapConfigPage::addRangeRingRows()
 {
-    m_ringsVisible = new QCheckBox(tr("Show range &rings"));
-    m_ringsVisible->setObjectName(QStringLiteral("ringsVisible"));
-    m_ringNumber = makeRingNumberBox();
-    m_ringDistance = makeRingDistanceBox();
-    m_ringColor = new ColorButton(tr("Range Ring Colour"));
     form()->addHeading(tr("Range rings"));
-    form()->addField(m_ringsVisible);
-    form()->addField(tr("N&umber of rings:"), m_ringNumber);
-    form()->addField(tr("&Distance between rings:"), m_ringDistance);
-    form()->addField(tr("&Colour:"), m_ringColor);
-}
-
-void MapConfigPage::load(const Config &config)
-{
-    m_staticVisible->setChecked(config.mapStaticVisible);
-    m_index->setPath(config.mapIndex);
-    m_index->setBaseDir(folder(config.mapIndex));
-    m_styleSheet->setPath(config.mapStyleSheet);
-    m_styleSheet->setBaseDir(folder(config.mapStyleSheet));
-    m_symbolSize->setValue(config.mapStaticSymbolSize);
-    m_sensorVisible->setChecked(config.mapSensorVisible);
-    m_sensorColor->setColor(config.mapSensorColor);
-    m_coverageVisible->setChecked(config.mapSensorCoverageVisible);
-    m_northMarkerVisible->setChecked(config.mapSensorRadarNorthMarkerVisible);
-    m_northMarkerColor->setColor(config.mapSensorRadarNorthMarkerColor);
-    m_antennaLineVisible->setChecked(config.mapSensorRadarAntennaLineVisible);
-    m_antennaLineColor->setColor(config.mapSensorRadarAntennaLineColor);
-    m_ringsVisible->setChecked(config.mapRangeRingVisible);
-    m_ringNumber->setValue(config.mapRangeRingNumber);
-    m_ringDistance->setValue(config.mapRangeRingDistance);
-    m_ringColor->setColor(config.mapRangeRingColor);
+    addSwitch(tr("Show range &rings"), &Config::mapRangeRingVisible);
+    addNumber(tr("N&umber of rings:"), &Config::mapRangeRingNumber);
+    addNumber(tr("&Distance between rings:"), &Config::mapRangeRingDistance, 2, 1.0);
+    addColor(tr("&Colour:"), tr("Range Ring Colour"), &Config::mapRangeRingColor);
 }
 
 bool MapConfigPage::validate()
@@ -111,23 +81,4 @@ bool MapConfigPage::validate()
         valid &= form()->check(file, file->path().isEmpty() ? tr("The name of a file is needed.") : QString());
     }
     return valid;
-}
-
-void MapConfigPage::store(Config *config) const
-{
-    config->mapStaticVisible = m_staticVisible->isChecked();
-    config->mapIndex = AppPaths::storePath(m_index->path());
-    config->mapStyleSheet = AppPaths::storePath(m_styleSheet->path());
-    config->mapStaticSymbolSize = m_symbolSize->value();
-    config->mapSensorVisible = m_sensorVisible->isChecked();
-    config->mapSensorColor = m_sensorColor->color();
-    config->mapSensorCoverageVisible = m_coverageVisible->isChecked();
-    config->mapSensorRadarNorthMarkerVisible = m_northMarkerVisible->isChecked();
-    config->mapSensorRadarNorthMarkerColor = m_northMarkerColor->color();
-    config->mapSensorRadarAntennaLineVisible = m_antennaLineVisible->isChecked();
-    config->mapSensorRadarAntennaLineColor = m_antennaLineColor->color();
-    config->mapRangeRingVisible = m_ringsVisible->isChecked();
-    config->mapRangeRingNumber = m_ringNumber->value();
-    config->mapRangeRingDistance = m_ringDistance->value();
-    config->mapRangeRingColor = m_ringColor->color();
 }

@@ -1,101 +1,101 @@
 #include "settings/processor_config_page.h"
 
-#include "app/config.h"
-#include "widgets/combo_items.h"
+#include "app/uap_profile.h"
 #include "widgets/field_form.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 
-namespace {
-
-QComboBox *makeTypeBox()
+ProcessorConfigPage::ProcessorConfigPage(QWidget *parent) : ConfigPage(tr("Processor"), parent)
 {
     using Type = Config::ProcessorType;
-    auto *box = new QComboBox;
+    Choices<Type> types;
     for (const Type type : {Type::Asterix, Type::ModeS, Type::AleniaSirM}) {
-        box->addItem(Config::processorName(type), static_cast<int>(type));
-        if (type != Type::Asterix) {
-            disableItem(box, box->count() - 1, ProcessorConfigPage::tr("These messages are not decoded yet."));
-        }
+        types.append({Config::processorName(type), type});
     }
-    return box;
+    m_type = addChoice(tr("&Processor:"), &Config::processorType, types,
+        tr("What the messages of the input are: it must fit what the sensor sends."));
+    addAsterixRows();
+    addModeSRows();
+    addSirMRows();
+    form()->addStretch();
+    connect(m_type, &QComboBox::currentIndexChanged, this, &ProcessorConfigPage::showChosen);
+    showChosen();
 }
 
-QComboBox *makeFormatBox()
+void ProcessorConfigPage::addAsterixRows()
 {
     using Format = Config::AsterixFormat;
-    auto *box = new QComboBox;
+    Choices<Format> formats;
     for (const Format format : {Format::Raw, Format::Hdlc, Format::ManagAir}) {
-        box->addItem(Config::asterixFormatName(format), static_cast<int>(format));
+        formats.append({Config::asterixFormatName(format), format});
     }
-    return box;
-}
-
-// The profiles in the order of their selector in the settings.
-QComboBox *makeUapBox()
-{
-    struct Profile {
-        QString name;
-        bool decoded;
+    Choices<int> profiles;
+    for (const UapProfile &profile : uapProfiles()) {
+        profiles.append({profile.name(), static_cast<int>(profiles.size())});
+    }
+    m_asterixFields = {
+        addChoice(tr("&Format:"), &Config::processorAsterixFormat, formats,
+            tr("What the data blocks are wrapped in on the line.")),
+        addChoice(tr("U&ser application profile:"), &Config::processorAsterixUap, profiles,
+            tr("The edition of the category that the sensor encodes. Automatic finds it out block by block.")),
+        addSwitch(tr("&Drop messages with another SAC/SIC than the sensor's"), &Config::processorAsterixVerifySacSic,
+            tr("Keeps the reports of other sensors on the same line off the picture.")),
+        addSwitch(tr("Ignore &WGS-84 positions"), &Config::processorAsterixIgnoreWgs84Coordinates,
+            tr("For MLAT and SDPS sensors: places tracks by their Cartesian position.")),
+        addSwitch(tr("Ignore &Cartesian positions"), &Config::processorAsterixIgnoreCartesianCoordinates,
+            tr("For MLAT and SDPS sensors: places tracks by their WGS-84 position.")),
+        addSwitch(tr("Correct the &longitude wrap"), &Config::processorAsterixCorrectLongitudeWrap,
+            tr("For SDPS sensors that let longitudes overflow: brings them back to -180° to 180°.")),
     };
-    const QList<Profile> profiles{{ProcessorConfigPage::tr("Automatic"), true},
-        {ProcessorConfigPage::tr("Standard"), true}, {ProcessorConfigPage::tr("CAT001 plots"), true},
-        {QStringLiteral("ASR10SS"), false}, {QStringLiteral("CAT021 0.23"), false},
-        {QStringLiteral("CAT021 0.26"), false}, {QStringLiteral("CAT021 2.1"), false},
-        {QStringLiteral("CAT021 2.7"), false}, {QStringLiteral("THALES"), false}};
-    auto *box = new QComboBox;
-    for (const Profile &profile : profiles) {
-        box->addItem(profile.name, box->count());
-        if (!profile.decoded) {
-            disableItem(box, box->count() - 1, ProcessorConfigPage::tr("This profile is not decoded yet."));
-        }
-    }
-    return box;
 }
 
-} // namespace
-
-ProcessorConfigPage::ProcessorConfigPage(QWidget *parent)
-    : ConfigPage(tr("Processor"), parent), m_type(makeTypeBox()), m_format(makeFormatBox()), m_uap(makeUapBox()),
-      m_verifySacSic(new QCheckBox(tr("&Drop messages with another SAC/SIC than the sensor's"))),
-      m_ignoreWgs84(new QCheckBox(tr("Ignore &WGS-84 positions"))),
-      m_ignoreCartesian(new QCheckBox(tr("Ignore &Cartesian positions")))
+void ProcessorConfigPage::addModeSRows()
 {
-    m_type->setObjectName(QStringLiteral("processorType"));
-    m_format->setObjectName(QStringLiteral("asterixFormat"));
-    m_uap->setObjectName(QStringLiteral("asterixUap"));
-    m_verifySacSic->setObjectName(QStringLiteral("asterixVerifySacSic"));
-    for (QCheckBox *box : {m_ignoreWgs84, m_ignoreCartesian}) {
+    using Encapsulation = korvane::modes::ModeSEncapsulation;
+    Choices<Encapsulation::Format> encapsulations;
+    for (const auto format : {Encapsulation::Raw, Encapsulation::Avr, Encapsulation::Beast, Encapsulation::RawRssi}) {
+        encapsulations.append({QString::fromStdString(Encapsulation::name(format)), format});
+    }
+    m_modeSFields = {addChoice(tr("&Encapsulation:"), &Config::processorModeSEncapsulation, encapsulations,
+                         tr("How the receiver hands out the frames.")),
+        addSwitch(tr("&Ignore the receiver's time stamps"), &Config::processorModeSIgnoreTimeStamp,
+            tr("Dates a frame when it arrives. Right unless the receiver's clock is better than the line.")),
+        addNumber(tr("Forget a silent &target after:"), &Config::processorModeSNoUpdatedTargetDeletionTime,
+            tr("How long the decoder keeps what it knows of an aircraft that is no longer heard."))};
+    m_baroCheck = addSwitch(tr("Check &barometric altitudes for jumps"), &Config::processorModeSBaroAltituteChecking,
+        tr("Drops altitudes that an aircraft cannot have reached since the last one."));
+    auto *time =
+        addNumber(tr("Compare &with altitudes up to:"), &Config::processorModeSBaroAltituteCheckingTime,
+            tr("The age up to which the last altitude is compared; an older one is replaced whatever comes."));
+    auto *change = addNumber(tr("Largest &change:"), &Config::processorModeSBaroAltituteMaxChange,
+        tr("An altitude that differs by more from the last one is dropped."));
+    m_modeSFields += {m_baroCheck, time, change};
+    for (QSpinBox *box : {time, change}) {
         box->setEnabled(false);
-        box->setToolTip(tr("For multilateration and system tracks, which are not received yet."));
+        connect(m_baroCheck, &QCheckBox::toggled, box, &QSpinBox::setEnabled);
     }
-    form()->addField(tr("&Processor:"), m_type);
-    form()->addHeading(tr("ASTERIX"));
-    form()->addField(tr("&Format:"), m_format);
-    form()->addField(tr("U&ser application profile:"), m_uap);
-    form()->addField(m_verifySacSic);
-    form()->addField(m_ignoreWgs84);
-    form()->addField(m_ignoreCartesian);
-    form()->addStretch();
 }
 
-void ProcessorConfigPage::load(const Config &config)
+void ProcessorConfigPage::addSirMRows()
 {
-    selectValue(m_type, static_cast<int>(config.processorType));
-    selectValue(m_format, static_cast<int>(config.processorAsterixFormat));
-    selectValue(m_uap, config.processorAsterixUap);
-    m_verifySacSic->setChecked(config.processorAsterixVerifySacSic);
-    m_ignoreWgs84->setChecked(config.processorAsterixIgnoreWgs84Coordinates);
-    m_ignoreCartesian->setChecked(config.processorAsterixIgnoreCartesianCoordinates);
+    using Format = Config::AleniaSirMFormat;
+    Choices<Format> formats;
+    for (const Format format : {Format::Raw, Format::Hdlc, Format::ManagAir}) {
+        formats.append({Config::aleniaSirMFormatName(format), format});
+    }
+    m_sirMFields = {addChoice(tr("F&ormat:"), &Config::processorAleniaSirMFormat, formats,
+        tr("What the radar's messages are wrapped in on the line."))};
 }
 
-void ProcessorConfigPage::store(Config *config) const
+void ProcessorConfigPage::showChosen()
 {
-    config->processorType = static_cast<Config::ProcessorType>(m_type->currentData().toInt());
-    config->processorAsterixFormat = static_cast<Config::AsterixFormat>(m_format->currentData().toInt());
-    config->processorAsterixUap = m_uap->currentData().toInt();
-    config->processorAsterixVerifySacSic = m_verifySacSic->isChecked();
-    config->processorAsterixIgnoreWgs84Coordinates = m_ignoreWgs84->isChecked();
-    config->processorAsterixIgnoreCartesianCoordinates = m_ignoreCartesian->isChecked();
+    const auto chosen = static_cast<Config::ProcessorType>(m_type->currentData().toInt());
+    const auto show = [this, chosen](const QList<QWidget *> &fields, Config::ProcessorType type) {
+        for (QWidget *field : fields) {
+            form()->setRowVisible(field, chosen == type);
+        }
+    };
+    show(m_asterixFields, Config::ProcessorType::Asterix);
+    show(m_modeSFields, Config::ProcessorType::ModeS);
+    show(m_sirMFields, Config::ProcessorType::AleniaSirM);
 }

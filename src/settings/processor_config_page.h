@@ -2,25 +2,22 @@
 
 #include "settings/config_page.h"
 
-class QCheckBox;
-class QComboBox;
-
-// How received messages are decoded.
+// How received messages are decoded. Only the fields of the chosen processor are shown.
 class ProcessorConfigPage final : public ConfigPage {
     Q_OBJECT
 
 public:
     explicit ProcessorConfigPage(QWidget *parent = nullptr);
 
-    void load(const Config &config) override;
-    bool validate() override { return true; } // nothing can be entered wrongly
-    void store(Config *config) const override;
-
 private:
+    void addAsterixRows();
+    void addModeSRows();
+    void addSirMRows();
+    void showChosen();
+
     QComboBox *m_type = nullptr;
-    QComboBox *m_format = nullptr;
-    QComboBox *m_uap = nullptr;
-    QCheckBox *m_verifySacSic = nullptr;
-    QCheckBox *m_ignoreWgs84 = nullptr;
-    QCheckBox *m_ignoreCartesian = nullptr;
+    QCheckBox *m_baroCheck = nullptr;
+    QList<QWidget *> m_asterixFields;
+    QList<QWidget *> m_modeSFields;
+    QList<QWidget *> m_sirMFields;
 };

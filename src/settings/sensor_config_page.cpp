@@ -1,12 +1,8 @@
 #include "settings/sensor_config_page.h"
 
-#include "app/config.h"
 #include "sensors/sensor_manager.h"
 #include "settings/sensor_form.h"
-#include "widgets/combo_items.h"
 #include "widgets/field_form.h"
-
-#include <QComboBox>
 
 SensorConfigPage::SensorConfigPage(SensorManager *sensors, QWidget *parent)
     : ConfigPage(tr("Sensor"), parent), m_sensors(sensors), m_choice(new QComboBox)
@@ -16,6 +12,7 @@ SensorConfigPage::SensorConfigPage(SensorManager *sensors, QWidget *parent)
     form()->addHeading(tr("Sensor of the input"));
     m_sensorForm = new SensorForm(SensorForm::Use::Configured, form());
     form()->addStretch();
+    addSettings(SettingGroup::Sensor);
     fillChoice();
     connect(m_choice, &QComboBox::activated, this, &SensorConfigPage::choose);
 }
@@ -26,12 +23,10 @@ void SensorConfigPage::fillChoice()
     const QStringList names = m_sensors ? m_sensors->sensorNames() : QStringList();
     for (const QString &name : names) {
         m_choice->addItem(name, name);
-        if (m_sensors->findSensor(name)->type() != RadarSensor) {
-            disableItem(m_choice, m_choice->count() - 1, tr("Reports of this type of sensor are not received yet."));
-        }
     }
     m_choice->setEnabled(!names.isEmpty());
-    m_choice->setToolTip(names.isEmpty() ? tr("The sensor file holds no sensor.") : QString());
+    m_choice->setToolTip(names.isEmpty() ? tr("The sensor file holds no sensor.")
+                                         : tr("Fills the fields below from the sensor file."));
 }
 
 void SensorConfigPage::choose(int index)

@@ -2,7 +2,6 @@
 
 #include "settings/config_page.h"
 
-class QComboBox;
 class SensorForm;
 class SensorManager;
 

@@ -2,7 +2,6 @@
 
 #include "sensors/sensor_info.h"
 #include "settings/sensor_type_fields.h"
-#include "widgets/combo_items.h"
 #include "widgets/coordinate_edit.h"
 #include "widgets/field_form.h"
 
@@ -37,10 +36,10 @@ void SensorForm::addRows()
     add(tr("&Name:"), m_name = new QLineEdit, QStringLiteral("sensorName"));
     add(tr("&SAC:"), m_sac = new QSpinBox, QStringLiteral("sensorSac"));
     m_sac->setRange(0, 255);
-    m_sac->setToolTip(tr("System area code, 0 to 255"));
+    m_sac->setToolTip(tr("System area code, 0 to 255: whose sensor it is, as in its messages."));
     add(tr("S&IC:"), m_sic = new QSpinBox, QStringLiteral("sensorSic"));
     m_sic->setRange(0, 255);
-    m_sic->setToolTip(tr("System identification code, 0 to 255"));
+    m_sic->setToolTip(tr("System identification code, 0 to 255: which of the area's sensors it is."));
     const auto format = m_use == Use::Record ? GeoCoordinate::HighPrecision : GeoCoordinate::NormalPrecision;
     add(tr("&Location:"), m_location = new CoordinateEdit(format), QStringLiteral("sensorLocation"));
 }
@@ -69,9 +68,6 @@ QComboBox *SensorForm::makeTypeBox()
     }
     for (const SensorType type : {RadarSensor, AdsbSensor, MlatSensor, SdpsSensor, SmrSensor}) {
         box->addItem(SensorInfo::typeFullName(type), type);
-        if (m_use == Use::Configured && type != RadarSensor) {
-            disableItem(box, box->count() - 1, tr("Reports of this type of sensor are not received yet."));
-        }
     }
     return box;
 }

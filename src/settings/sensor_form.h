@@ -25,7 +25,7 @@ class SensorForm final : public QObject {
 
 public:
     enum class Use {
-        Configured, // the sensor of the settings: may be none, whole-second coordinate, types that can be received
+        Configured, // the sensor of the settings: may be none, whole-second coordinate
         Record, // a record of the sensor file: descriptive data and hundredths of seconds, every type
     };
 

@@ -133,10 +133,7 @@ void SensorManagerWindow::updateState()
     m_editButton->setEnabled(!selected.isNull());
     m_duplicateButton->setEnabled(!selected.isNull());
     m_removeButton->setEnabled(!selected.isNull());
-    const bool received = selected && selected->type() == RadarSensor;
-    m_useButton->setEnabled(received);
-    m_useButton->setToolTip(
-        selected && !received ? tr("Reports of this type of sensor are not received yet.") : QString());
+    m_useButton->setEnabled(!selected.isNull());
     m_saveButton->setEnabled(m_changed || m_databaseFile.isEmpty());
     const QString file = m_databaseFile.isEmpty() ? tr("not saved yet") : QDir::toNativeSeparators(m_databaseFile);
     m_fileLabel->setText(m_changed ? tr("File: %1 (changed)").arg(file) : tr("File: %1").arg(file));

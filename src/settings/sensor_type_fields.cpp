@@ -1,5 +1,6 @@
 #include "settings/sensor_type_fields.h"
 
+#include "app/setting.h"
 #include "sensors/adsb_sensor_info.h"
 #include "sensors/mlat_sensor_info.h"
 #include "sensors/radar_sensor_info.h"
@@ -22,30 +23,26 @@ QString tr(const char *text)
     return QCoreApplication::translate("SensorTypeFields", text);
 }
 
-QSpinBox *makeNumber(int minimum, int maximum, const QString &unit)
+// Range and unit are those of the configured sensor's setting; a record's are the same.
+template <typename Box, typename T>
+Box *makeNumber(T Config::*member)
 {
-    auto *box = new QSpinBox;
-    box->setRange(minimum, maximum);
-    box->setSuffix(unit);
+    const Setting &setting = Setting::of(member);
+    auto *box = new Box;
+    box->setRange(static_cast<T>(setting.minimum()), static_cast<T>(setting.maximum()));
+    box->setSuffix(setting.unitSuffix());
     return box;
 }
 
-QSpinBox *makeCoverage()
+QSpinBox *makeNumber(int Config::*member)
 {
-    return makeNumber(0, 100000, tr(" NM"));
+    return makeNumber<QSpinBox>(member);
 }
 
-QSpinBox *makeAltitude()
+QDoubleSpinBox *makeSeconds(double Config::*member)
 {
-    return makeNumber(-1000, 100000, tr(" m"));
-}
-
-QDoubleSpinBox *makeSeconds()
-{
-    auto *box = new QDoubleSpinBox;
-    box->setRange(0.0, 3600.0);
+    auto *box = makeNumber<QDoubleSpinBox>(member);
     box->setDecimals(3);
-    box->setSuffix(tr(" s"));
     box->setSpecialValueText(tr("not given"));
     return box;
 }
@@ -99,13 +96,13 @@ public:
     }
 
 private:
-    QSpinBox *m_altitude = makeAltitude();
-    QDoubleSpinBox *m_period = makeSeconds();
+    QSpinBox *m_altitude = makeNumber(&Config::sensorRadarAntennaAltitude);
+    QDoubleSpinBox *m_period = makeSeconds(&Config::sensorRadarRotationPeriod);
     QCheckBox *m_primary = new QCheckBox(tr("Primary radar"));
     QCheckBox *m_secondary = new QCheckBox(tr("Secondary radar"));
     QCheckBox *m_modeS = new QCheckBox(tr("Mode S"));
-    QSpinBox *m_coveragePrimary = makeCoverage();
-    QSpinBox *m_coverageSecondary = makeCoverage();
+    QSpinBox *m_coveragePrimary = makeNumber(&Config::sensorRadarCoveragePrimary);
+    QSpinBox *m_coverageSecondary = makeNumber(&Config::sensorRadarCoverageSecondary);
 };
 
 class AdsbFields final : public SensorTypeFields {
@@ -157,8 +154,8 @@ private:
         return versions;
     }
 
-    QSpinBox *m_coverage = makeCoverage();
-    QDoubleSpinBox *m_interval = makeSeconds();
+    QSpinBox *m_coverage = makeNumber(&Config::sensorAdsbCoverage);
+    QDoubleSpinBox *m_interval = makeSeconds(&Config::sensorAdsbUpdateInterval);
     QLineEdit *m_versions = nullptr; // null without details
 };
 
@@ -182,7 +179,7 @@ public:
     }
 
 private:
-    QSpinBox *m_coverage = makeCoverage();
+    QSpinBox *m_coverage = makeNumber(&Config::sensorMlatCoverage);
 };
 
 class SdpsFields final : public SensorTypeFields {
@@ -210,8 +207,8 @@ public:
     }
 
 private:
-    QSpinBox *m_coverage = makeCoverage();
-    QDoubleSpinBox *m_interval = makeSeconds();
+    QSpinBox *m_coverage = makeNumber(&Config::sensorSdpsCoverage);
+    QDoubleSpinBox *m_interval = makeSeconds(&Config::sensorSdpsUpdateInterval);
 };
 
 class SmrFields final : public SensorTypeFields {
@@ -220,14 +217,13 @@ public:
     {
         addRow(tr("Antenna &altitude:"), m_altitude, QStringLiteral("smrAntennaAltitude"));
         addRow(tr("&Rotation period:"), m_period, QStringLiteral("smrRotationPeriod"));
-        m_coverage->setRange(0.0, 1000.0);
         m_coverage->setDecimals(2);
-        m_coverage->setSuffix(tr(" NM"));
         addRow(tr("Co&verage:"), m_coverage, QStringLiteral("smrCoverage"));
         if (!details) {
             return;
         }
-        m_acp = makeNumber(0, std::numeric_limits<int>::max(), QString());
+        m_acp = new QSpinBox;
+        m_acp->setRange(0, std::numeric_limits<int>::max());
         m_acp->setSpecialValueText(tr("not given"));
         m_acp->setToolTip(tr("Azimuth change pulses per revolution of the antenna"));
         addRow(tr("Azimuth &pulses:"), m_acp, QStringLiteral("smrAcp"));
@@ -258,9 +254,9 @@ public:
     }
 
 private:
-    QSpinBox *m_altitude = makeAltitude();
-    QDoubleSpinBox *m_period = makeSeconds();
-    QDoubleSpinBox *m_coverage = new QDoubleSpinBox;
+    QSpinBox *m_altitude = makeNumber(&Config::sensorSmrAntennaAltitude);
+    QDoubleSpinBox *m_period = makeSeconds(&Config::sensorSmrRotationPeriod);
+    QDoubleSpinBox *m_coverage = makeNumber<QDoubleSpinBox>(&Config::sensorSmrCoverage);
     QSpinBox *m_acp = nullptr; // null without details
 };
 

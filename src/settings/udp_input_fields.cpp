@@ -1,6 +1,7 @@
 #include "settings/udp_input_fields.h"
 
 #include "geo/input_validator.h"
+#include "settings/config_page.h"
 #include "widgets/field_form.h"
 
 #include <QCheckBox>
@@ -28,24 +29,43 @@ QString interfaceText(const QNetworkInterface &interface)
 
 } // namespace
 
-UdpInputFields::UdpInputFields(int number, FieldForm *form)
-    : QObject(form), m_form(form), m_multicast(new QCheckBox(number == 1 ? tr("&Multicast") : tr("M&ulticast"))),
+UdpInputFields::UdpInputFields(const Members &members, bool second, ConfigPage *page)
+    : QObject(page), m_form(page->form()), m_multicast(new QCheckBox(second ? tr("M&ulticast") : tr("&Multicast"))),
       m_group(new QLineEdit), m_interface(new QComboBox), m_port(new QSpinBox)
 {
-    m_multicast->setObjectName(QStringLiteral("udpMulticast%1").arg(number));
-    m_group->setObjectName(QStringLiteral("udpGroup%1").arg(number));
-    m_interface->setObjectName(QStringLiteral("udpInterface%1").arg(number));
-    m_port->setObjectName(QStringLiteral("udpPort%1").arg(number));
     m_group->setValidator(InputValidator::ipAddrValidator());
     m_group->setPlaceholderText(QStringLiteral("239.0.0.1"));
-    m_port->setRange(1, 65535);
+    m_group->setToolTip(tr("The multicast group that the sensor sends to, 224.0.0.0 to 239.255.255.255."));
+    m_interface->setToolTip(tr("The network interface on which the group is joined."));
     fillInterfaces();
-    form->addField(number == 1 ? tr("&Port:") : tr("Po&rt:"), m_port);
-    form->addField(m_multicast);
-    form->addField(number == 1 ? tr("&Group:") : tr("Gr&oup:"), m_group);
-    form->addField(number == 1 ? tr("&Interface:") : tr("I&nterface:"), m_interface);
+    addRows(second);
+    bindTo(page, members);
     connect(m_multicast, &QCheckBox::toggled, this, &UdpInputFields::updateEnabled);
     updateEnabled();
+}
+
+void UdpInputFields::addRows(bool second)
+{
+    m_form->addField(second ? tr("Po&rt:") : tr("&Port:"), m_port);
+    m_form->addField(m_multicast);
+    m_form->addField(second ? tr("Gr&oup:") : tr("&Group:"), m_group);
+    m_form->addField(second ? tr("I&nterface:") : tr("&Interface:"), m_interface);
+}
+
+void UdpInputFields::bindTo(ConfigPage *page, const Members &members)
+{
+    page->bind(m_port, members.port);
+    page->bind(m_multicast, members.multicast);
+    page->bind<QHostAddress>(
+        m_group, members.group, [this](const QHostAddress &group) { m_group->setText(group.toString()); },
+        [this] { return group().isNull() ? std::nullopt : std::optional(group()); });
+    page->bind<QNetworkInterface>(
+        m_interface, members.interface, [this](const QNetworkInterface &interface) { showInterface(interface); },
+        [this] {
+            const QString name = m_interface->currentData().toString();
+            return std::optional(
+                name.isEmpty() ? QNetworkInterface() : QNetworkInterface::interfaceFromName(name));
+        });
 }
 
 void UdpInputFields::fillInterfaces()
@@ -59,27 +79,13 @@ void UdpInputFields::fillInterfaces()
     }
 }
 
-void UdpInputFields::load(const UdpInput &input)
+void UdpInputFields::showInterface(const QNetworkInterface &interface)
 {
-    m_multicast->setChecked(input.multicast);
-    m_group->setText(input.group.toString());
-    m_port->setValue(input.port);
-    const QString name = input.interface.name();
-    if (input.interface.isValid() && m_interface->findData(name) < 0) {
-        m_interface->addItem(interfaceText(input.interface), name);
+    const QString name = interface.name();
+    if (interface.isValid() && m_interface->findData(name) < 0) {
+        m_interface->addItem(interfaceText(interface), name);
     }
-    m_interface->setCurrentIndex(input.interface.isValid() ? m_interface->findData(name) : 0);
-}
-
-void UdpInputFields::store(UdpInput *input) const
-{
-    input->multicast = m_multicast->isChecked();
-    if (!group().isNull()) {
-        input->group = group();
-    }
-    input->port = static_cast<quint16>(m_port->value());
-    const QString name = m_interface->currentData().toString();
-    input->interface = name.isEmpty() ? QNetworkInterface() : QNetworkInterface::interfaceFromName(name);
+    m_interface->setCurrentIndex(interface.isValid() ? m_interface->findData(name) : 0);
 }
 
 QHostAddress UdpInputFields::group() const

@@ -1,35 +1,31 @@
 #pragma once
 
-#include <QHostAddress>
-#include <QList>
-#include <QNetworkInterface>
+#include "app/config.h"
+
 #include <QObject>
 
+class ConfigPage;
 class FieldForm;
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
 class QSpinBox;
 
-// One UDP input as fields and as a value.
-struct UdpInput {
-    bool multicast = true;
-    QNetworkInterface interface; // invalid: the system chooses
-    QHostAddress group;
-    quint16 port = 0;
-};
-
-// The rows of one UDP input in a form.
+// The rows of one UDP input on a page.
 class UdpInputFields final : public QObject {
     Q_OBJECT
 
 public:
-    // The form is the parent. The number goes into the object names of the fields.
-    UdpInputFields(int number, FieldForm *form);
+    struct Members {
+        quint16 Config::*port;
+        bool Config::*multicast;
+        QHostAddress Config::*group;
+        QNetworkInterface Config::*interface;
+    };
 
-    void load(const UdpInput &input);
-    // A group that is no multicast group is left as it is in the input handed in.
-    void store(UdpInput *input) const;
+    // The page is the parent. The second of two inputs gets mnemonics of its own.
+    UdpInputFields(const Members &members, bool second, ConfigPage *page);
+
     bool validate();
     // Notes under the port that another input listens there already.
     bool validateAgainst(const UdpInputFields &other);
@@ -38,7 +34,10 @@ public:
     void setEnabled(bool enabled);
 
 private:
+    void addRows(bool second);
+    void bindTo(ConfigPage *page, const Members &members);
     void fillInterfaces();
+    void showInterface(const QNetworkInterface &interface);
     void updateEnabled();
     QHostAddress group() const; // null unless the text is a multicast group
 

@@ -1,5 +1,7 @@
 #include "widgets/range_ring_fields.h"
 
+#include "app/setting.h"
+
 #include <QDoubleSpinBox>
 #include <QSpinBox>
 
@@ -7,7 +9,8 @@ QSpinBox *makeRingNumberBox()
 {
     auto *box = new QSpinBox;
     box->setObjectName(QStringLiteral("ringNumber"));
-    box->setRange(1, 50);
+    const Setting &setting = Setting::of(&Config::mapRangeRingNumber);
+    box->setRange(static_cast<int>(setting.minimum()), static_cast<int>(setting.maximum()));
     return box;
 }
 
@@ -15,8 +18,9 @@ QDoubleSpinBox *makeRingDistanceBox()
 {
     auto *box = new QDoubleSpinBox;
     box->setObjectName(QStringLiteral("ringDistance"));
-    box->setRange(0.1, 1000.0);
+    const Setting &setting = Setting::of(&Config::mapRangeRingDistance);
     box->setDecimals(2);
-    box->setSuffix(QDoubleSpinBox::tr(" NM"));
+    box->setRange(setting.minimum(), setting.maximum());
+    box->setSuffix(setting.unitSuffix());
     return box;
 }

@@ -3,8 +3,7 @@
 class QDoubleSpinBox;
 class QSpinBox;
 
-// The fields of every window that asks for range rings; they are the caller's.
-// A number of 1 to 50.
+// The fields of windows that ask for range rings, with the ranges of the settings; they are the caller's.
 QSpinBox *makeRingNumberBox();
-// A distance of 0.1 to 1000 nautical miles.
+// Nautical miles.
 QDoubleSpinBox *makeRingDistanceBox();
