@@ -22,6 +22,7 @@ GeoMapDisplay::GeoMapDisplay(Projector *projector, QObject *parent) : QObject(pa
     m_sensorMap = addLayer<GeoSensorMap>(MapLayer::Sensor, projector);
     m_rangeRingMap = addLayer<GeoRangeRingMap>(MapLayer::RangeRings, projector);
     m_mapEditorLayer = addLayer<MapEditorLayer>(MapLayer::MapEditor);
+    setBackgroundColor(Config().mapBackgroundColor);
 }
 
 GeoMapDisplay::~GeoMapDisplay() = default;

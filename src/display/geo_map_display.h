@@ -91,5 +91,5 @@ private:
     GeoSensorMap *m_sensorMap = nullptr;
     GeoRangeRingMap *m_rangeRingMap = nullptr;
     MapEditorLayer *m_mapEditorLayer = nullptr;
-    QColor m_backgroundColor = QColor(173, 173, 173);
+    QColor m_backgroundColor;
 };

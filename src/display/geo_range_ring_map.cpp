@@ -21,7 +21,7 @@ constexpr double SmallestLabelledGap = 18.0; // pixels from ring to ring
 GeoRangeRingMap::GeoRangeRingMap(Projector *projector, QObject *parent)
     : GeoLayer(QStringLiteral("Range rings"), parent), m_projector(projector)
 {
-    setVisible(false);
+    takeLook(Config());
 }
 
 void GeoRangeRingMap::applyConfig(const Config &config)
@@ -31,6 +31,11 @@ void GeoRangeRingMap::applyConfig(const Config &config)
     if (place.isValid()) {
         setDefaultCenter(m_projector->toCartesian(place));
     }
+    takeLook(config);
+}
+
+void GeoRangeRingMap::takeLook(const Config &config)
+{
     m_number = std::clamp(config.mapRangeRingNumber, 0, MaximumRings);
     m_distance = config.mapRangeRingDistance;
     m_layoutValid = false;

@@ -35,6 +35,7 @@ public Q_SLOTS:
     void setColor(const QColor &color);
 
 private:
+    void takeLook(const Config &config);
     void layOut();
     void paintDistances(QPainter &painter, const GeoView &view) const;
 
@@ -42,9 +43,9 @@ private:
     QPointF m_center;
     QPointF m_defaultCenter;
     bool m_centerSet = false;
-    int m_number = 5;
-    double m_distance = 50.0;
-    QColor m_color = QColor(0x39, 0x3F, 0x42);
+    int m_number = 0;
+    double m_distance = 0.0;
+    QColor m_color;
     bool m_layoutValid = false;
     std::vector<QPolygonF> m_rings; // plane, inner first
 };

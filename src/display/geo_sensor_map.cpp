@@ -44,6 +44,7 @@ std::vector<double> ringsOf(const SensorInfo &sensor)
 GeoSensorMap::GeoSensorMap(Projector *projector, QObject *parent)
     : GeoLayer(QStringLiteral("Sensor"), parent), m_projector(projector), m_clock(steadyClock())
 {
+    GeoSensorMap::applyConfig(Config());
 }
 
 void GeoSensorMap::setClock(std::function<qint64()> clock)

@@ -67,10 +67,10 @@ private:
     std::vector<QPolygonF> m_coverageRings; // plane, one a coverage
     QPolygonF m_rim; // plane, where the antenna line ends: one point a degree from north, clockwise
 
-    bool m_coverageVisible = true;
-    bool m_northMarkerVisible = true;
-    bool m_antennaLineVisible = true;
-    QColor m_color = QColor(0x00, 0x66, 0x33);
-    QColor m_northMarkerColor = Qt::red;
-    QColor m_antennaLineColor = QColor(0x00, 0x66, 0x33);
+    bool m_coverageVisible = false;
+    bool m_northMarkerVisible = false;
+    bool m_antennaLineVisible = false;
+    QColor m_color;
+    QColor m_northMarkerColor;
+    QColor m_antennaLineColor;
 };

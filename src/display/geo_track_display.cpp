@@ -14,7 +14,6 @@
 
 namespace {
 
-const QColor DefaultSymbolColor(0x00, 0x8F, 0xCC);
 constexpr int DefaultSymbolSize = 24;
 constexpr int DefaultLabelPoints = 12;
 // Far enough up and to the right that a label of two or three lines leaves symbol and vector free.
@@ -34,13 +33,10 @@ QFont defaultLabelFont()
 } // namespace
 
 GeoTrackDisplay::GeoTrackDisplay(QObject *parent)
-    : QObject(parent), m_labelPen(Qt::white), m_labelSelectedPen(Qt::green), m_labelAlertPen(Qt::red),
-      m_labelBackgroundColor(80, 80, 80), m_labelOffset(DefaultLabelOffset),
-      m_symbols(DefaultSymbolSize, DefaultSymbolColor)
+    : QObject(parent), m_labelOffset(DefaultLabelOffset), m_symbols(DefaultSymbolSize, QColor())
 {
     setLabelFont(defaultLabelFont());
-    setSymbolColor(DefaultSymbolColor);
-    setLabelAlertColor(Qt::red);
+    applyConfig(Config());
 }
 
 GeoTrackDisplay::~GeoTrackDisplay() = default;

@@ -87,7 +87,7 @@ struct GeoVideoMap::Radar {
 GeoVideoMap::GeoVideoMap(Projector *projector, QObject *parent)
     : GeoLayer(QStringLiteral("Video"), parent), m_projector(projector), m_clock(steadyClock()), m_palette(m_colors)
 {
-    setVisible(false);
+    GeoVideoMap::applyConfig(Config());
 }
 
 GeoVideoMap::~GeoVideoMap() = default;

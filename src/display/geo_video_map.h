@@ -66,7 +66,7 @@ private:
     std::function<qint64()> m_clock;
     VideoPalette::Settings m_colors;
     VideoPalette m_palette;
-    qint64 m_validity = 5000; // milliseconds
+    qint64 m_validity = 0; // milliseconds
 
     Source m_sensorSource = {0, 0};
     Place m_sensorPlace;

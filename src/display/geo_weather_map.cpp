@@ -30,7 +30,7 @@ GeoWeatherMap::GeoWeatherMap(Projector *projector, QObject *parent)
     : GeoLayer(QStringLiteral("Weather"), parent), m_projector(projector), m_clock(steadyClock())
 {
     m_levelVisible.fill(true);
-    setVisible(false);
+    GeoWeatherMap::applyConfig(Config());
 }
 
 void GeoWeatherMap::setClock(std::function<qint64()> clock)

@@ -68,11 +68,11 @@ private:
 
     QList<QColor> m_colors;
     std::array<bool, LevelCount> m_levelVisible;
-    int m_opacity = 128; // 0 to 255
-    qint64 m_validity = 900000; // milliseconds
-    double m_vectorWidth = 0.35; // degrees
-    bool m_autoVectorWidth = true;
-    bool m_ignoreEmpty = true;
+    int m_opacity = 0; // 0 to 255
+    qint64 m_validity = 0; // milliseconds
+    double m_vectorWidth = 0.0; // degrees
+    bool m_autoVectorWidth = false;
+    bool m_ignoreEmpty = false;
 
     std::optional<WeatherProcessor::Picture> m_picture;
     qint64 m_pictureTime = 0;

@@ -13,9 +13,9 @@ public:
     struct Settings {
         QColor low;
         QColor high;
-        int lowOpacity = 64; // 0 to 255
-        int highOpacity = 255;
-        int threshold = 30; // amplitudes up to this are not shown; 0 to 255
+        int lowOpacity = 0; // 0 to 255
+        int highOpacity = 0;
+        int threshold = 0; // amplitudes up to this are not shown; 0 to 255
 
         bool operator==(const Settings &other) const = default;
     };

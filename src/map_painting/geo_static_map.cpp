@@ -53,6 +53,7 @@ GeoStaticMap::GeoStaticMap(Projector *projector, QObject *parent)
                                   std::make_unique<StaticMapAreaPainter>(), std::make_unique<StaticMapLinePainter>(),
                                   std::make_unique<StaticMapSymbolPainter>(), std::make_unique<StaticMapLabelPainter>()}
 {
+    GeoStaticMap::applyConfig(Config());
 }
 
 GeoStaticMap::~GeoStaticMap()

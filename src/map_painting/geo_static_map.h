@@ -77,7 +77,7 @@ private:
     QList<MapLibrary::Map> m_maps;
     QHash<quint64, Prepared> m_prepared;
     MapStyleSheet m_styles;
-    int m_symbolSize = 32;
+    int m_symbolSize = 0;
     bool m_smoothImages = false;
 
     std::array<std::unique_ptr<StaticMapPainter>, 5> m_painters; // in drawing order

@@ -86,7 +86,8 @@ bool ConfigWindow::apply()
 {
     qsizetype refused = -1;
     for (qsizetype i = m_pages.size() - 1; i >= 0; --i) {
-        if (!m_pages.at(i)->validate()) {
+        // What is locked cannot be put right either.
+        if (m_pages.at(i)->form()->isEnabled() && !m_pages.at(i)->validate()) {
             refused = i;
         }
     }

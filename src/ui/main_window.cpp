@@ -58,6 +58,8 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     : QMainWindow(parent), m_config(AppPaths::configFile()), m_sensors(std::make_unique<SensorManager>()),
       m_exitQuestion([this] { return confirmExit(); })
 {
+    connect(&m_config, &RunConfig::writeFailed, this,
+        [this](const QString &text) { showLog(LogLevel::Warning, text); });
     if (overrides) {
         m_config.overrideWith(overrides);
     }
@@ -333,12 +335,17 @@ void MainWindow::applyConfig()
 void MainWindow::applySensor()
 {
     m_session->setSensor(m_config.live().sensor(nullptr));
-    if (m_home->place().isValid()) {
-        m_layoutMenu->placeDefault(m_home->planePoint(m_home->place()));
-    }
+    placeDefaultLayout();
     m_mapDisplay->setSensor(m_session->sensor());
     beginRadarPicture();
     updateNotices();
+}
+
+void MainWindow::placeDefaultLayout()
+{
+    if (m_home->place().isValid()) {
+        m_layoutMenu->placeDefault(m_home->planePoint(m_home->place()));
+    }
 }
 
 void MainWindow::beginRadarPicture()

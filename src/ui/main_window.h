@@ -183,8 +183,11 @@ private:
     void applyConfig();
     // Starts the sensor's picture anew; not while an input is open.
     void applySensor();
+    void placeDefaultLayout();
     // Forgets weather and video, and learns anew where radars stand.
     void beginRadarPicture();
+    // From the settings window.
+    void takeSettings(const Config &edited);
     void editConfig(const std::function<void(Config &)> &change);
     void loadSensorDatabase();
     void loadAircraftDatabase();

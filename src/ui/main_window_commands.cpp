@@ -84,7 +84,7 @@ void MainWindow::showSession()
 void MainWindow::updateInputActions()
 {
     const bool closed = m_session->state() == InputSession::State::Closed;
-    for (const ActionId id : {ActionId::Start, ActionId::Settings, ActionId::SensorManager}) {
+    for (const ActionId id : {ActionId::Start, ActionId::SensorManager}) {
         (*m_actions)[id]->setEnabled(closed);
     }
     QAction *pause = (*m_actions)[ActionId::Pause];

@@ -23,6 +23,7 @@
 #include "ui/snapshot_pump.h"
 #include "ui/stats_window.h"
 #include "ui/weather_intensity_window.h"
+#include "widgets/widget_style.h"
 
 #include <QAction>
 
@@ -64,16 +65,29 @@ void MainWindow::showConfigWindow()
 {
     auto *window = new ConfigWindow(m_config.live(), m_sensors.get(), this);
     window->setConsent([this](const Config &edited) { return m_mapWindows->settle(edited); });
-    connect(window, &ConfigWindow::configApplied, this, [this](const Config &edited) {
-        const QString sensorDatabase = m_config.live().sensorDatabase;
-        m_config.apply(edited);
-        applyConfig();
-        applySensor();
-        if (edited.sensorDatabase != sensorDatabase) {
-            loadSensorDatabase();
-        }
-    });
+    window->setInputRunning(m_session->state() != InputSession::State::Closed);
+    connect(this, &MainWindow::inputClosed, window, [window] { window->setInputRunning(false); });
+    connect(window, &ConfigWindow::configApplied, this, &MainWindow::takeSettings);
+    connect(&m_config, &RunConfig::writeFailed, window, &ConfigWindow::showSaveProblem);
     openOver(window);
+}
+
+void MainWindow::takeSettings(const Config &edited)
+{
+    const SettingGroups changed = Config::changedGroups(m_config.live(), edited);
+    const bool restyled = edited.displayStyle != m_config.live().displayStyle;
+    m_config.apply(edited);
+    m_config.flush(); // the operator is told while his window is still open
+    if (restyled) {
+        applyWidgetStyle(edited.displayStyle);
+    }
+    applyConfig();
+    if (changed & SettingGroup::Sensor) {
+        applySensor();
+    }
+    if (changed & SettingGroup::PlanView) {
+        placeDefaultLayout();
+    }
 }
 
 void MainWindow::showRotationWindow()

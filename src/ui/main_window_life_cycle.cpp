@@ -134,6 +134,7 @@ void MainWindow::beginShutdown()
 {
     Q_EMIT shutdownBegun();
     saveUiState();
+    m_config.flush();
     m_shutdown = Shutdown::Begun;
     m_pump->stop();
     if (!m_session->shutDown()) {

@@ -10,13 +10,13 @@
 #include "vyxdisplay/exit_report.h"
 #include "vyxdisplay/first_frame.h"
 #include "vyxdisplay/termination_signals.h"
+#include "widgets/widget_style.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QSplashScreen>
-#include <QStyleFactory>
 #include <QTimer>
 #include <QTranslator>
 
@@ -52,14 +52,6 @@ bool screenAvailable([[maybe_unused]] const QStringList &arguments)
 #else
     return true;
 #endif
-}
-
-void applyStyle(const QString &configured)
-{
-    const QString key = QStyleFactory::keys().contains(configured) ? configured : QString("windowsvista");
-    if (QStyle *style = QStyleFactory::create(key)) {
-        QApplication::setStyle(style);
-    }
 }
 
 void installTranslator(QTranslator &translator, const QString &file)
@@ -133,7 +125,7 @@ int runApplication(int argc, char *argv[], const CommandLine &commandLine, const
     }
     Config config;
     config.load(AppPaths::configFile());
-    applyStyle(config.displayStyle);
+    applyWidgetStyle(config.displayStyle);
 
     const QString language = config.displayLanguage.isEmpty() ? QLocale::system().name() : config.displayLanguage;
     QTranslator toolkitTexts;
