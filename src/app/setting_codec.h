@@ -35,9 +35,11 @@ struct ShortNumberCodec {
     static T decoded(const QVariant &stored) { return static_cast<T>(stored.toUInt()); }
 };
 template <>
-struct SettingCodec<quint8> : ShortNumberCodec<quint8> { };
+struct SettingCodec<quint8> : ShortNumberCodec<quint8> {
+};
 template <>
-struct SettingCodec<quint16> : ShortNumberCodec<quint16> { };
+struct SettingCodec<quint16> : ShortNumberCodec<quint16> {
+};
 
 // For values with a text each.
 template <typename T, auto ToText, auto FromText>
@@ -46,19 +48,24 @@ struct TextCodec {
     static T decoded(const QVariant &stored) { return FromText(stored.toString()); }
 };
 template <>
-struct SettingCodec<SensorType> : TextCodec<SensorType, sensorTypeToString, sensorTypeFromString> { };
+struct SettingCodec<SensorType> : TextCodec<SensorType, sensorTypeToString, sensorTypeFromString> {
+};
 template <>
-struct SettingCodec<TileService> : TextCodec<TileService, tileServiceIdentifier, tileServiceFromIdentifier> { };
+struct SettingCodec<TileService> : TextCodec<TileService, tileServiceIdentifier, tileServiceFromIdentifier> {
+};
 template <>
 struct SettingCodec<BingTileImagery> : TextCodec<BingTileImagery, bingTileImageryToString, bingTileImageryFromString> {
 };
 template <>
-struct SettingCodec<GoogleTileLayer> : TextCodec<GoogleTileLayer, googleTileLayerToCode, googleTileLayerFromCode> { };
+struct SettingCodec<GoogleTileLayer> : TextCodec<GoogleTileLayer, googleTileLayerToCode, googleTileLayerFromCode> {
+};
 template <>
 struct SettingCodec<TiandituTileLayer>
-    : TextCodec<TiandituTileLayer, tiandituTileLayerToCode, tiandituTileLayerFromCode> { };
+    : TextCodec<TiandituTileLayer, tiandituTileLayerToCode, tiandituTileLayerFromCode> {
+};
 template <>
-struct SettingCodec<FaaTileChart> : TextCodec<FaaTileChart, faaTileChartToString, faaTileChartFromString> { };
+struct SettingCodec<FaaTileChart> : TextCodec<FaaTileChart, faaTileChartToString, faaTileChartFromString> {
+};
 
 template <>
 struct SettingCodec<korvane::modes::ModeSEncapsulation::Format> {

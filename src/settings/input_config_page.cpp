@@ -15,8 +15,8 @@ using korvane::astfile::RecFile;
 
 namespace {
 
-const QList<RecFile::Format> PlayableFormats{RecFile::Pcap, RecFile::PcapNg, RecFile::RawAsterix, RecFile::FinalFormat,
-    RecFile::Gps, RecFile::ModeS};
+const QList<RecFile::Format> PlayableFormats{
+    RecFile::Pcap, RecFile::PcapNg, RecFile::RawAsterix, RecFile::FinalFormat, RecFile::Gps, RecFile::ModeS};
 
 // Why a file cannot be played; empty when it can.
 QString playingProblem(const QFileInfo &file)
@@ -86,8 +86,8 @@ void InputConfigPage::addSerialRows()
     m_baudRate = new QComboBox;
     m_baudRate->setEditable(true);
     const Setting &baudRate = Setting::of(&Config::inputSerialBaudRate);
-    m_baudRate->setValidator(new QIntValidator(
-        static_cast<int>(baudRate.minimum()), static_cast<int>(baudRate.maximum()), m_baudRate));
+    m_baudRate->setValidator(
+        new QIntValidator(static_cast<int>(baudRate.minimum()), static_cast<int>(baudRate.maximum()), m_baudRate));
     for (const int rate : {1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200, 230400, 460800, 921600}) {
         m_baudRate->addItem(QString::number(rate));
     }

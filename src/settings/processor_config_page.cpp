@@ -64,9 +64,8 @@ void ProcessorConfigPage::addModeSRows()
             tr("How long the decoder keeps what it knows of an aircraft that is no longer heard."))};
     m_baroCheck = addSwitch(tr("Check &barometric altitudes for jumps"), &Config::processorModeSBaroAltituteChecking,
         tr("Drops altitudes that an aircraft cannot have reached since the last one."));
-    auto *time =
-        addNumber(tr("Compare &with altitudes up to:"), &Config::processorModeSBaroAltituteCheckingTime,
-            tr("The age up to which the last altitude is compared; an older one is replaced whatever comes."));
+    auto *time = addNumber(tr("Compare &with altitudes up to:"), &Config::processorModeSBaroAltituteCheckingTime,
+        tr("The age up to which the last altitude is compared; an older one is replaced whatever comes."));
     auto *change = addNumber(tr("Largest &change:"), &Config::processorModeSBaroAltituteMaxChange,
         tr("An altitude that differs by more from the last one is dropped."));
     m_modeSFields += {m_baroCheck, time, change};

@@ -25,8 +25,8 @@ void SensorConfigPage::fillChoice()
         m_choice->addItem(name, name);
     }
     m_choice->setEnabled(!names.isEmpty());
-    m_choice->setToolTip(names.isEmpty() ? tr("The sensor file holds no sensor.")
-                                         : tr("Fills the fields below from the sensor file."));
+    m_choice->setToolTip(
+        names.isEmpty() ? tr("The sensor file holds no sensor.") : tr("Fills the fields below from the sensor file."));
 }
 
 void SensorConfigPage::choose(int index)

@@ -63,8 +63,7 @@ void UdpInputFields::bindTo(ConfigPage *page, const Members &members)
         m_interface, members.interface, [this](const QNetworkInterface &interface) { showInterface(interface); },
         [this] {
             const QString name = m_interface->currentData().toString();
-            return std::optional(
-                name.isEmpty() ? QNetworkInterface() : QNetworkInterface::interfaceFromName(name));
+            return std::optional(name.isEmpty() ? QNetworkInterface() : QNetworkInterface::interfaceFromName(name));
         });
 }
 

@@ -58,8 +58,8 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     : QMainWindow(parent), m_config(AppPaths::configFile()), m_sensors(std::make_unique<SensorManager>()),
       m_exitQuestion([this] { return confirmExit(); })
 {
-    connect(&m_config, &RunConfig::writeFailed, this,
-        [this](const QString &text) { showLog(LogLevel::Warning, text); });
+    connect(
+        &m_config, &RunConfig::writeFailed, this, [this](const QString &text) { showLog(LogLevel::Warning, text); });
     if (overrides) {
         m_config.overrideWith(overrides);
     }

@@ -1,6 +1,7 @@
 #include "app/app_identity.h"
 #include "app/app_paths.h"
 #include "app/config.h"
+#include "app/setting.h"
 #include "config_defaults.h"
 #include "test_program.h"
 
@@ -142,6 +143,25 @@ private Q_SLOTS:
         }
         config.save(path("kept.conf"));
         QCOMPARE(textsOf(path("kept.conf")), otherTexts());
+    }
+
+    // Each setting by itself: what it copies, and the groups that it changes.
+    void tellsWhatChanged()
+    {
+        writeTexts(path("other.conf"), otherTexts());
+        Config other;
+        other.load(path("other.conf"));
+        for (const Setting &setting : Setting::all()) {
+            Config changed;
+            setting.copy(other, changed);
+            QVERIFY2(!setting.same(changed, Config()), qPrintable(setting.key()));
+            for (const Setting &another : Setting::all()) {
+                QVERIFY2(another.key() == setting.key() || another.same(changed, Config()), qPrintable(setting.key()));
+            }
+            QCOMPARE(Config::changedGroups(Config(), changed), setting.groups());
+        }
+        QCOMPARE(Config::changedGroups(other, other), SettingGroups());
+        QCOMPARE(Setting::of(&Config::mapRangeRingDistance).key(), QStringLiteral("mapRangeRingDistance"));
     }
 
     void convertsWhatItCan_data()

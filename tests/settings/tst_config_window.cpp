@@ -1,7 +1,11 @@
 #include "sensors/radar_sensor_info.h"
 #include "sensors/sensor_manager.h"
+#include "settings/config_page.h"
 #include "settings/config_window.h"
 #include "test_program.h"
+#include "widgets/color_button.h"
+#include "widgets/field_form.h"
+#include "widgets/file_edit.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -22,6 +26,11 @@ class TestConfigWindow : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void applyWithoutEditsChangesNothing();
+    void everySettingHasAField();
+    void pagesShowAndTakeEverySetting();
+    void fieldsChangeTheirOwnSettingAlone();
+    void locksWhatTheInputWasOpenedWith();
+    void staysOpenWhenTheFileCannotBeWritten();
     void appliesWhatWasEntered_data();
     void appliesWhatWasEntered();
     void refusesInWords_data();
@@ -36,78 +45,72 @@ private:
 
 namespace {
 
-// A record without a single default among the keys that the window shows.
-Config unusualConfig(SensorType type)
+// For settings whose values are not free.
+const QHash<QString, QVariant> ChosenValues{{"displayCenterCoordinate", "335130S0702500W"},
+    {"displayLocalTimeZoneName", "Asia/Tokyo"}, {"inputUdpMcastLanInterface1", "lo"},
+    {"inputUdpMcastLanInterface2", "lo"}, {"inputUdpMcastAddress1", "224.1.2.3"},
+    {"inputUdpMcastAddress2", "239.7.7.7"}, {"processorModeSEncapsulation", "avr"},
+    {"sensorLocation", "010203S0040506W"}, {"sensorRadarIsModeS", false}, {"sensorRadarIsSecondary", true}};
+
+QVariant otherValue(const QString &key, const QVariant &value)
 {
-    using C = Config;
+    if (ChosenValues.contains(key)) {
+        return ChosenValues[key];
+    }
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return !value.toBool();
+    case QMetaType::Double:
+        return value.toDouble() + 0.5;
+    case QMetaType::Int:
+    case QMetaType::UInt:
+        return value.toInt() < 100 ? value.toInt() + 1 : value.toInt() - 1;
+    case QMetaType::QColor:
+        return QColor(1, int(key.size()), int(qHash(key, 1) % 200));
+    default:
+        return key;
+    }
+}
+
+// Another value than the default for every setting but those of the type of the sensor.
+Config otherConfig(const QTemporaryDir &directory, SensorType type)
+{
+    const QString path = directory.filePath(QStringLiteral("other.conf"));
+    QFile::remove(path);
     Config config;
-    for (bool C::*flag : {&C::displayToolbarText, &C::inputUdpMulticast1, &C::inputEnable2, &C::inputFileAutoRewind,
-             &C::processorAsterixVerifySacSic, &C::processorAsterixIgnoreWgs84Coordinates,
-             &C::processorAsterixIgnoreCartesianCoordinates, &C::mapSensorVisible, &C::mapSensorCoverageVisible,
-             &C::mapSensorRadarNorthMarkerVisible, &C::mapSensorRadarAntennaLineVisible, &C::mapRangeRingVisible,
-             &C::mapWeatherVisible, &C::mapWeatherAutoVectorWidth, &C::mapWeatherIgnoreEmptyPicture,
-             &C::mapVideoVisible}) {
-        config.*flag = !(config.*flag);
+    {
+        QSettings file(path, QSettings::IniFormat);
+        for (const Setting &setting : Setting::all()) {
+            setting.save(file, Config());
+        }
+        const QStringList keys = file.allKeys();
+        for (const QString &key : keys) {
+            file.setValue(key, otherValue(key, file.value(key)));
+        }
     }
-    int red = 0;
-    for (QColor C::*color : {&C::mapBackgroundColor, &C::mapSensorColor, &C::mapSensorRadarNorthMarkerColor,
-             &C::mapSensorRadarAntennaLineColor, &C::mapRangeRingColor, &C::trackSymbolColor, &C::trackLabelColor,
-             &C::mapVideoHighColor, &C::mapVideoLowColor, &C::trackLabelSelectedColor, &C::trackLabelAlertColor,
-             &C::trackLabelBackgroundColor}) {
-        config.*color = QColor(++red, 2, 3);
-    }
-    config.displayCenterCoordinate = GeoCoordinate(-33.5, -70.25);
-    config.displayLocalTimeZoneName = QStringLiteral("LCL");
-    config.displayStyle = QStringLiteral("fusion");
-    config.inputComm = Config::InputComm::Serial;
-    config.inputUdpMcastLanInterface1 = QNetworkInterface::interfaceFromName(QStringLiteral("lo"));
-    config.inputUdpMcastAddress1 = QHostAddress(QStringLiteral("10.1.2.3"));
-    config.inputUdpPort1 = 1;
-    config.inputUdpPort2 = 65535;
-    config.inputSerialDevice = QStringLiteral("ttyNoSuch7");
-    config.inputSerialBaudRate = 31250;
-    config.inputSerialDataBits = 7;
-    config.inputSerialParity = 2;
-    config.inputSerialStopBits = 3;
-    config.inputFileName.setFile(QStringLiteral("/no/such/file.pcap"));
-    config.processorType = Config::ProcessorType::ModeS;
-    config.processorAsterixFormat = Config::AsterixFormat::ManagAir;
-    config.processorAsterixUap = 7;
-    config.mapWeatherOpacity = 0;
-    config.mapWeatherValidity = 86400;
-    config.mapWeatherVectorWidth = 0.352;
-    config.mapWeatherColor[3] = QColor();
-    config.mapWeatherColor[7] = QColor(1, 2, 3);
-    config.mapVideoHighOpacity = 254;
-    config.mapVideoLowOpacity = 0;
-    config.mapVideoThreshold = 255;
-    config.mapVideoValidity = 3600;
-    config.mapRangeRingNumber = 50;
-    config.mapRangeRingDistance = 0.25;
-    config.trackLabelBackgroundOpacity = 255;
+    config.load(path);
     config.sensorType = type;
-    if (type == UnknownSensor) {
-        return config;
-    }
-    config.sensorName = QStringLiteral("West");
-    config.sensorSac = 255;
-    config.sensorSic = 7;
-    config.sensorLocation = GeoCoordinate::fromATCString(QStringLiteral("010203S0040506W"));
-    config.sensorRadarAntennaAltitude = -12;
-    config.sensorRadarRotationPeriod = 9.875;
-    config.sensorRadarIsPrimary = true;
-    config.sensorRadarIsModeS = false;
-    config.sensorRadarCoveragePrimary = 61;
-    config.sensorRadarCoverageSecondary = 201;
-    config.sensorAdsbCoverage = 199;
-    config.sensorAdsbUpdateInterval = 0.5;
-    config.sensorMlatCoverage = 31;
-    config.sensorSdpsCoverage = 800;
-    config.sensorSdpsUpdateInterval = 5.0;
-    config.sensorSmrAntennaAltitude = 88;
-    config.sensorSmrRotationPeriod = 0.9;
-    config.sensorSmrCoverage = 2.75;
     return config;
+}
+
+// What the operator does to a field, whatever it is.
+void change(QWidget *field)
+{
+    if (auto *box = qobject_cast<QCheckBox *>(field)) {
+        box->toggle();
+    } else if (auto *number = qobject_cast<QAbstractSpinBox *>(field)) {
+        const QString before = number->text();
+        number->stepBy(1);
+        number->stepBy(number->text() == before ? -1 : 0); // it stood at the end of its range
+    } else if (auto *color = qobject_cast<ColorButton *>(field)) {
+        color->setColor(QColor(1, 2, 3));
+    } else if (auto *file = qobject_cast<FileEdit *>(field)) {
+        file->setPath(QStringLiteral("/other/file"));
+    } else if (auto *line = qobject_cast<QLineEdit *>(field)) {
+        line->setText(line->text().contains(u'.') ? QStringLiteral("224.7.7.7") : QStringLiteral("335130S0702500W"));
+    } else if (auto *combo = qobject_cast<QComboBox *>(field)) {
+        combo->setCurrentIndex((combo->currentIndex() + 1) % combo->count());
+    }
 }
 
 void enter(const ConfigWindow &window, const Edits &edits)
@@ -117,6 +120,8 @@ void enter(const ConfigWindow &window, const Edits &edits)
         QVERIFY2(field, qPrintable(name));
         if (auto *line = qobject_cast<QLineEdit *>(field)) {
             line->setText(value);
+        } else if (auto *file = qobject_cast<FileEdit *>(field)) {
+            file->setPath(value);
         } else if (auto *combo = qobject_cast<QComboBox *>(field)) {
             combo->setCurrentText(value);
         } else if (auto *number = qobject_cast<QSpinBox *>(field)) {
@@ -163,15 +168,114 @@ QStringList TestConfigWindow::changedKeys(const Config &before, const Config &af
 
 void TestConfigWindow::applyWithoutEditsChangesNothing()
 {
-    QList<Config> configs{Config()};
-    for (const SensorType type : {UnknownSensor, RadarSensor, AdsbSensor, MlatSensor, SdpsSensor, SmrSensor}) {
-        configs.append(unusualConfig(type));
-    }
-    for (const Config &config : configs) {
+    Config odd = otherConfig(m_dir, SmrSensor);
+    odd.trackLabelBackgroundOpacity = 200; // beyond what the field takes
+    odd.mapWeatherVectorWidth = 0.123456789; // finer than it shows
+    odd.displayStyle = QStringLiteral("fUsIoN");
+    odd.inputComm = Config::InputComm::Serial;
+    for (const Config &config : {Config(), odd}) {
         ConfigWindow window(config, nullptr);
         QVERIFY(window.apply());
         QCOMPARE(changedKeys(config, window.config()).join(u' '), QString());
     }
+}
+
+// Every setting has its place in the window, or is edited elsewhere for a reason.
+void TestConfigWindow::everySettingHasAField()
+{
+    const QHash<QString, QString> elsewhere{
+        {"displayLanguage", "there are no translations to choose from yet"},
+        {"sensorDatabase", "Open and Save as of the sensor manager"},
+    };
+    const ConfigWindow window(Config(), nullptr);
+    QHash<QString, int> pages;
+    for (const ConfigPage *page : window.pages()) {
+        for (const Setting *setting : page->settings()) {
+            ++pages[setting->key()];
+        }
+    }
+    for (const Setting &setting : Setting::all()) {
+        // The tiles have no page as long as there is no tile layer.
+        const bool excepted = elsewhere.contains(setting.key()) || setting.groups() == SettingGroup::Tiles;
+        QVERIFY2(pages.value(setting.key()) == (excepted ? 0 : 1), qPrintable(setting.key()));
+    }
+}
+
+void TestConfigWindow::pagesShowAndTakeEverySetting()
+{
+    for (const SensorType type : {UnknownSensor, RadarSensor, AdsbSensor, MlatSensor, SdpsSensor, SmrSensor}) {
+        const Config config = otherConfig(m_dir, type);
+        const ConfigWindow window(config, nullptr);
+        Config expected;
+        expected.setSensor(config.sensor(nullptr));
+        for (const ConfigPage *page : window.pages()) {
+            Config taken;
+            page->store(&taken);
+            for (const Setting *setting : page->settings()) {
+                const bool ofSensor(setting->groups() & SettingGroup::Sensor);
+                QVERIFY2(setting->same(taken, ofSensor ? expected : config), qPrintable(setting->key()));
+            }
+        }
+    }
+}
+
+void TestConfigWindow::fieldsChangeTheirOwnSettingAlone()
+{
+    const ConfigWindow window(Config(), nullptr);
+    for (ConfigPage *page : window.pages()) {
+        for (const Setting *setting : page->settings()) {
+            if (setting->groups() & SettingGroup::Sensor || setting->key().startsWith("mapWeatherColor")) {
+                continue; // one widget stands for several values
+            }
+            page->load(Config());
+            auto *field = page->findChild<QWidget *>(setting->key());
+            QVERIFY2(field, qPrintable(setting->key()));
+            change(field);
+            Config before;
+            Config after;
+            page->store(&after);
+            before.displayStyle = after.displayStyle = QString(); // the default may be a style of another system
+            const QStringList expected(setting->key() == "displayStyle" ? QStringList() : QStringList(setting->key()));
+            QVERIFY2(changedKeys(before, after) == expected, qPrintable(setting->key()));
+        }
+    }
+}
+
+void TestConfigWindow::locksWhatTheInputWasOpenedWith()
+{
+    Config config;
+    config.inputComm = Config::InputComm::File;
+    config.inputFileName.setFile(QStringLiteral("/gone/since.pcap"));
+    ConfigWindow window(config, nullptr);
+    window.setInputRunning(true);
+    QStringList locked;
+    for (const ConfigPage *page : window.pages()) {
+        QCOMPARE(!page->findChild<QLabel *>("lock")->isHidden(), !page->form()->isEnabled());
+        locked += page->form()->isEnabled() ? QStringList() : QStringList(page->title());
+    }
+    QCOMPARE(locked, QStringList({"Input", "Processor", "Sensor"}));
+    enter(window, {{"mapRangeRingNumber", "9"}});
+    QVERIFY2(window.apply(), "what is locked is not in the way of the rest");
+    QCOMPARE(changedKeys(config, window.config()), QStringList("mapRangeRingNumber"));
+    window.setInputRunning(false);
+    QVERIFY(window.pages().at(1)->form()->isEnabled() && !window.apply());
+}
+
+void TestConfigWindow::staysOpenWhenTheFileCannotBeWritten()
+{
+    ConfigWindow window(Config(), nullptr);
+    bool writable = false;
+    connect(&window, &ConfigWindow::configApplied, &window, [&window, &writable] {
+        if (!writable) {
+            window.showSaveProblem("Cannot write x");
+        }
+    });
+    window.show();
+    window.accept();
+    QVERIFY(window.isVisible() && shows(window, "Cannot write x. The settings hold until the program ends."));
+    writable = true;
+    window.accept();
+    QVERIFY(!window.isVisible());
 }
 
 void TestConfigWindow::appliesWhatWasEntered_data()
@@ -181,14 +285,15 @@ void TestConfigWindow::appliesWhatWasEntered_data()
     const auto row = [](const char *name, const Edits &edits, const char *changed) {
         QTest::newRow(name) << edits << QString::fromLatin1(changed);
     };
-    row("centre in lower case", {{"displayCenter", "395427n1162317w"}}, "displayCenterCoordinate");
+    row("centre in lower case", {{"displayCenterCoordinate", "395427n1162317w"}}, "displayCenterCoordinate");
     row("lowest and highest group",
-        {{"udpGroup1", "224.0.0.0"}, {"udpEnable2", "on"}, {"udpGroup2", "239.255.255.255"}},
+        {{"inputUdpMcastAddress1", "224.0.0.0"}, {"inputEnable2", "on"}, {"inputUdpMcastAddress2", "239.255.255.255"}},
         "inputEnable2 inputUdpMcastAddress1 inputUdpMcastAddress2");
-    row("unicast needs no group", {{"udpMulticast1", "off"}, {"udpGroup1", "1.2."}}, "inputUdpMulticast1");
-    row("input that is off needs no group", {{"udpGroup2", "1.2.3.4"}}, "");
+    row("unicast needs no group", {{"inputUdpMulticast1", "off"}, {"inputUdpMcastAddress1", "1.2."}},
+        "inputUdpMulticast1");
+    row("input that is off needs no group", {{"inputUdpMcastAddress2", "1.2.3.4"}}, "");
     row("what a hidden input holds is not asked for",
-        {{"udpGroup1", "nonsense"}, {"inputComm", "Async Serial"}, {"serialDevice", "ttyS1"}},
+        {{"inputUdpMcastAddress1", "nonsense"}, {"inputComm", "Async Serial"}, {"inputSerialDevice", "ttyS1"}},
         "inputComm inputSerialDevice");
     row("typed-in radar",
         {{"sensorType", "Radar"}, {"sensorName", " North "}, {"sensorSac", "25"},
@@ -217,18 +322,22 @@ void TestConfigWindow::refusesInWords_data()
         QTest::newRow(name) << edits << words;
     };
     const QString range = QStringLiteral("A multicast group lies between 224.0.0.0 and 239.255.255.255.");
-    row("incomplete centre", {{"displayCenter", "3954"}}, "INVALID COORDINATE");
-    row("unknown time zone", {{"displayTimeZone", "Mars/Olympus"}}, "There is no time zone \"Mars/Olympus\".");
-    row("group above the range", {{"udpGroup1", "240.0.0.0"}}, range);
-    row("group of the second input", {{"udpEnable2", "on"}, {"udpGroup2", "10.0.0.1"}}, range);
-    row("incomplete group", {{"udpGroup1", "239.0.0"}}, "This is no IP address.");
-    row("same group and port", {{"udpEnable2", "on"}, {"udpGroup2", "239.0.0.1"}, {"udpPort2", "50000"}},
+    row("incomplete centre", {{"displayCenterCoordinate", "3954"}}, "INVALID COORDINATE");
+    row("unknown time zone", {{"displayLocalTimeZoneName", "Mars/Olympus"}}, "There is no time zone \"Mars/Olympus\".");
+    row("group above the range", {{"inputUdpMcastAddress1", "240.0.0.0"}}, range);
+    row("group of the second input", {{"inputEnable2", "on"}, {"inputUdpMcastAddress2", "10.0.0.1"}}, range);
+    row("incomplete group", {{"inputUdpMcastAddress1", "239.0.0"}}, "This is no IP address.");
+    row("same group and port",
+        {{"inputEnable2", "on"}, {"inputUdpMcastAddress2", "239.0.0.1"}, {"inputUdpPort2", "50000"}},
         "Both inputs have the same group and port.");
-    row("same port for unicast", {{"udpEnable2", "on"}, {"udpMulticast2", "off"}, {"udpPort2", "50000"}},
+    row("same port for unicast", {{"inputEnable2", "on"}, {"inputUdpMulticast2", "off"}, {"inputUdpPort2", "50000"}},
         "Both inputs have the same port.");
-    row("baud rate of zero", {{"inputComm", "Async Serial"}, {"serialDevice", "x"}, {"serialBaudRate", "0"}},
+    row("baud rate of zero", {{"inputComm", "Async Serial"}, {"inputSerialDevice", "x"}, {"inputSerialBaudRate", "0"}},
         "Enter a rate in bits per second.");
     row("no recording", {{"inputComm", "Recording File"}}, "Choose a recording file.");
+    row("no file", {{"inputComm", "Recording File"}, {"inputFileName", "/no/such.pcap"}}, "This file does not exist.");
+    row("no recording by its name", {{"inputComm", "Recording File"}, {"inputFileName", "/etc/passwd"}},
+        "This is no recording: its name has none of the endings of recording files.");
     row("sensor without a name", {{"sensorType", "Radar"}, {"sensorLocation", "401020N0203040E"}},
         "A sensor needs a name.");
 }
@@ -240,7 +349,7 @@ void TestConfigWindow::refusesInWords()
     ConfigWindow window(Config(), nullptr);
     const QSignalSpy applied(&window, &ConfigWindow::configApplied);
     // A good edit beside the bad one must not slip through.
-    enter(window, edits + Edits{{"labelOpacity", "3"}});
+    enter(window, edits + Edits{{"trackLabelBackgroundOpacity", "3"}});
     window.accept();
     QVERIFY(shows(window, words));
     QCOMPARE(applied.size(), 0);

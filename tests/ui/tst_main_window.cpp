@@ -140,11 +140,11 @@ void TestMainWindow::staleAnswersAreIgnored()
     window->onEngineInputOpenFailed(1);
     QVERIFY(window->inputOpen());
     QVERIFY(action(*window, ActionId::Pause)->isEnabled());
-    QVERIFY(!action(*window, ActionId::Settings)->isEnabled());
+    QVERIFY(!action(*window, ActionId::SensorManager)->isEnabled());
     window->onEngineInputClosed(2);
     QVERIFY(!window->inputOpen());
     QVERIFY(!action(*window, ActionId::Pause)->isEnabled());
-    QVERIFY(action(*window, ActionId::Settings)->isEnabled());
+    QVERIFY(action(*window, ActionId::SensorManager)->isEnabled());
 }
 
 void TestMainWindow::failedOpeningIsReported()

@@ -173,9 +173,7 @@ void TestMapLayouts::mapsAreLoadedAndToggled()
 
     QAction *toggle = action(*window, ActionId::ToggleStaticMaps);
     toggle->trigger();
-    Config saved;
-    saved.load(AppPaths::configFile());
-    QVERIFY(!saved.mapStaticVisible);
+    QVERIFY(!window->config().mapStaticVisible);
 
     window->showMapWindow();
     auto *list = window->findChild<StaticMapsWindow *>();

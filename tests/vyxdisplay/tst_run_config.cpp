@@ -1,7 +1,9 @@
 #include "app/run_config.h"
+#include "sensors/radar_sensor_info.h"
 #include "test_program.h"
 #include "vyxdisplay/command_line.h"
 
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -12,21 +14,38 @@ private Q_SLOTS:
     void init();
     void overridesAreNotSaved();
     void everyKeyOfTheCommandLineIsProtected();
+    void editedGroupIsStoredWhole_data();
+    void editedGroupIsStoredWhole();
+    void writesOnceAndLater();
+    void saysThatTheFileCannotBeWritten();
 
 private:
     QString file() const { return m_directory->filePath("settings.conf"); }
     QByteArray written() const;
+    Config stored() const;
 
     std::unique_ptr<QTemporaryDir> m_directory;
 };
 
+namespace {
+
+void override(RunConfig &run, const QString &arguments)
+{
+    QString error;
+    const auto commandLine = CommandLine::parse(QStringLiteral("vyxdisplay %1").arg(arguments).split(' '), &error);
+    QVERIFY2(commandLine, qPrintable(error));
+    run.overrideWith([&commandLine](Config &config) { commandLine->applyTo(config); });
+}
+
+} // namespace
+
 void TestRunConfig::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
-    Config stored;
-    stored.inputUdpPort1 = 4000;
-    stored.sensorName = "HOME";
-    stored.save(file());
+    Config config;
+    config.inputUdpPort1 = 4000;
+    config.sensorName = "HOME";
+    config.save(file());
 }
 
 QByteArray TestRunConfig::written() const
@@ -35,40 +54,106 @@ QByteArray TestRunConfig::written() const
     return settings.open(QFile::ReadOnly) ? settings.readAll() : QByteArray();
 }
 
+Config TestRunConfig::stored() const
+{
+    Config config;
+    config.load(file());
+    return config;
+}
+
 void TestRunConfig::overridesAreNotSaved()
 {
     RunConfig run(file());
-    run.overrideWith([](Config &config) {
-        config.inputUdpPort1 = 9999;
-        config.sensorName = "DEMO";
-    });
+    override(run, "--input udp:9999 --sensor adsb:48,16:DEMO");
     run.edit([](Config &config) { config.mapRangeRingVisible = true; });
-    run.edit([](Config &config) { config.mapRangeRingNumber = 8; });
+    run.edit([](Config &config) { config.inputFileAutoRewind = true; }); // of any recording, no matter which is played
+    run.edit([](Config &config) { config.sensorDatabase = "sensors.json"; });
+    QVERIFY(run.flush());
     QCOMPARE(run.live().inputUdpPort1, 9999);
-    const Config next = RunConfig(file()).live();
-    QCOMPARE(next.inputUdpPort1, 4000);
-    QCOMPARE(next.sensorName, "HOME");
-    QVERIFY(next.mapRangeRingVisible && next.mapRangeRingNumber == 8);
-    // Unless the user changes the very key.
-    run.edit([](Config &config) { config.inputUdpPort1 = 7000; });
-    QCOMPARE(RunConfig(file()).live().inputUdpPort1, 7000);
-    QCOMPARE(RunConfig(file()).live().sensorName, "HOME");
+    QCOMPARE(stored().inputUdpPort1, 4000);
+    QCOMPARE(stored().sensorName, "HOME");
+    QVERIFY(stored().mapRangeRingVisible && stored().inputFileAutoRewind && stored().sensorDatabase == "sensors.json");
 }
 
 void TestRunConfig::everyKeyOfTheCommandLineIsProtected()
 {
-    RunConfig(file()).edit([](Config &) {});
     const QByteArray before = written();
     for (const char *arguments : {"--input udp:5001", "--input udp:239.9.9.9:5001@lo", "--input serial:ttyS7:115200",
              "--input file:/tmp/x.pcap", "--sensor adsb:48.1,16.2:OTHER"}) {
-        QString error;
-        const auto commandLine = CommandLine::parse(QString("vyxdisplay %1").arg(arguments).split(' '), &error);
-        QVERIFY2(commandLine, qPrintable(error));
         RunConfig run(file());
-        run.overrideWith([&commandLine](Config &config) { commandLine->applyTo(config); });
-        run.edit([](Config &) {});
+        override(run, arguments);
+        run.edit([](Config &config) { config.mapRangeRingNumber = 6; });
+        run.edit([](Config &config) { config.mapRangeRingNumber = 5; });
+        QVERIFY(run.flush());
         QVERIFY2(written() == before, arguments);
     }
+}
+
+// What the operator edits he sees with the run's own values around it: the file must not mix it with others.
+void TestRunConfig::editedGroupIsStoredWhole_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<std::function<void(Config &)>>("edit");
+    QTest::addColumn<SettingGroups>("groups"); // in which the file becomes what is in force
+    const auto row = [](const char *name, const char *arguments, const std::function<void(Config &)> &edit,
+                         SettingGroups groups) { QTest::newRow(name) << arguments << edit << groups; };
+    row(
+        "other port", "--input udp:30001 --sensor radar:48,16:A", [](Config &config) { config.inputUdpPort1 = 30002; },
+        SettingGroup::Input);
+    row(
+        "other sensor of the same type", "--input udp:30001 --sensor radar:48,16:A",
+        [](Config &config) {
+            const auto radar = QSharedPointer<RadarSensorInfo>::create();
+            radar->setName("B");
+            radar->setLocation(GeoCoordinate(47.0, 15.0));
+            radar->setRadarType(true, true, false);
+            config.setSensor(radar);
+        },
+        SettingGroup::Sensor);
+    row(
+        "other profile", "--sensor radar:48,16:A", [](Config &config) { config.processorAsterixUap = 3; },
+        SettingGroup::Processor);
+}
+
+void TestRunConfig::editedGroupIsStoredWhole()
+{
+    QFETCH(QString, arguments);
+    QFETCH(std::function<void(Config &)>, edit);
+    QFETCH(SettingGroups, groups);
+    RunConfig run(file());
+    override(run, arguments);
+    const SettingGroups overridden = Config::changedGroups(stored(), run.live());
+    run.edit(edit);
+    QVERIFY(run.flush());
+    QCOMPARE(Config::changedGroups(stored(), run.live()), overridden & ~groups);
+}
+
+void TestRunConfig::writesOnceAndLater()
+{
+    const QByteArray before = written();
+    {
+        RunConfig run(file(), std::chrono::milliseconds(60));
+        for (int number = 6; number < 30; ++number) {
+            run.edit([number](Config &config) { config.mapRangeRingNumber = number; });
+        }
+        QCOMPARE(written(), before);
+        QTRY_COMPARE_WITH_TIMEOUT(stored().mapRangeRingNumber, 29, 2000);
+        QVERIFY(QFile::remove(file()));
+        QTest::qWait(150);
+        QVERIFY2(!QFile::exists(file()), "written once");
+        run.edit([](Config &config) { config.mapRangeRingNumber = 30; });
+    }
+    QCOMPARE(stored().mapRangeRingNumber, 30); // at the latest when the program ends
+}
+
+void TestRunConfig::saysThatTheFileCannotBeWritten()
+{
+    RunConfig run(file() + "/settings.conf", std::chrono::milliseconds(0)); // below a file
+    const QSignalSpy failed(&run, &RunConfig::writeFailed);
+    run.edit([](Config &config) { config.mapRangeRingNumber = 7; });
+    QTRY_COMPARE(failed.size(), 1);
+    QVERIFY2(failed.first().first().toString().contains("settings.conf"), "names the file");
+    QVERIFY(!run.flush()); // not forgotten
 }
 
 VYX_TEST(TestRunConfig)

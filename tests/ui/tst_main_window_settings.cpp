@@ -1,0 +1,93 @@
+#include "window_fixture.h"
+
+#include "settings/config_page.h"
+#include "settings/config_window.h"
+#include "test_program.h"
+#include "ui/actions.h"
+#include "ui/log_pane.h"
+#include "widgets/color_button.h"
+#include "widgets/field_form.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QStyle>
+#include <QStyleFactory>
+
+// What the main window does with the settings window.
+class TestMainWindowSettings : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void inputRunsOnWhileSettingsChange();
+    void styleAppliesAtOnce();
+    void saysThatNothingIsSaved();
+};
+
+namespace {
+
+ConfigWindow *opened(MainWindow &window)
+{
+    (*window.findChild<Actions *>())[ActionId::Settings]->trigger();
+    return window.findChild<ConfigWindow *>();
+}
+
+bool locked(const ConfigWindow &settings)
+{
+    return !settings.pages().at(1)->form()->isEnabled();
+}
+
+} // namespace
+
+void TestMainWindowSettings::inputRunsOnWhileSettingsChange()
+{
+    WindowFixture fixture;
+    const auto window = fixture.makeWindow();
+    QVERIFY(fixture.openInput(*window));
+    ConfigWindow *settings = opened(*window);
+    QVERIFY(settings && locked(*settings));
+    settings->findChild<ColorButton *>("mapBackgroundColor")->setColor(QColor(1, 2, 3));
+    QVERIFY(settings->apply());
+    QCOMPARE(window->config().mapBackgroundColor, QColor(1, 2, 3));
+    QVERIFY(window->inputOpen());
+    window->closeInput();
+    QTRY_VERIFY(!locked(*settings));
+    QVERIFY(WindowFixture::close(*window));
+}
+
+void TestMainWindowSettings::styleAppliesAtOnce()
+{
+    const QString before = QApplication::style()->name();
+    const QStringList styles = QStyleFactory::keys();
+    WindowFixture fixture;
+    const auto window = fixture.makeWindow();
+    ConfigWindow *settings = opened(*window);
+    for (const QString &style : styles) {
+        settings->findChild<QComboBox *>("displayStyle")->setCurrentText(style);
+        QVERIFY(settings->apply());
+        QCOMPARE(QApplication::style()->name().toLower(), style.toLower());
+    }
+    QApplication::setStyle(before);
+    QVERIFY(WindowFixture::close(*window));
+}
+
+void TestMainWindowSettings::saysThatNothingIsSaved()
+{
+    WindowFixture fixture;
+    const auto window = fixture.makeWindow();
+    QVERIFY(QFile::remove(AppPaths::configFile()) && QDir().mkpath(AppPaths::configFile())); // no place for a file
+    ConfigWindow *settings = opened(*window);
+    settings->findChild<ColorButton *>("mapBackgroundColor")->setColor(QColor(1, 2, 3));
+    settings->accept();
+    QVERIFY(settings->isVisible());
+    const QString text = settings->findChild<QLabel *>("saveProblem")->text();
+    QVERIFY2(text.contains(QFileInfo(AppPaths::configFile()).fileName()), qPrintable(text));
+    const QString log = window->findChild<LogPane *>()->toPlainText();
+    QVERIFY2(log.contains("[WARNING ]") && log.contains("Cannot write the settings file"), qPrintable(log));
+    QCOMPARE(window->config().mapBackgroundColor, QColor(1, 2, 3)); // for this run
+    QVERIFY(WindowFixture::close(*window));
+}
+
+VYX_TEST(TestMainWindowSettings)
+#include "tst_main_window_settings.moc"
