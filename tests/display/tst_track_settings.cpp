@@ -34,7 +34,7 @@ PaintedView painted(const Config &config)
 {
     TrackSnapshot track;
     track.incarnationId = 1;
-    track.type = 8; // the small filled box
+    track.type = Track::Smr; // the small filled box
     track.carCoordinateValid = true;
     track.callsign = QStringLiteral("HHH");
     auto snapshot = QSharedPointer<DisplaySnapshot>::create();
