@@ -46,6 +46,7 @@ public:
     QString error() const { return m_error; }
 
 protected:
+    OctetSource() = default; // of no file
     explicit OctetSource(std::unique_ptr<QFile> file);
 
     bool seekFile(qint64 offset);

@@ -35,23 +35,19 @@ class IndexBuilder {
 public:
     explicit IndexBuilder(FileReader &reader) : m_reader(reader) { reader.source()->collectMarks(); }
 
-    // False: stopped.
-    bool run(const RecordingIndex::Progress &progress, QString *error)
+    // Up to the end, or to the fault that error then names.
+    void run(QString *error)
     {
         DataPacket packet;
         qint64 next = EntrySpacing;
         for (m_reader.read(&packet); packet.kind == DataPacket::Data; m_reader.read(&packet)) {
             if (packet.offset >= next) {
-                if (progress && !progress(m_reader.octetsRead(), m_reader.octetsTotal())) {
-                    return false;
-                }
                 addEntry(packet);
                 next = packet.offset + EntrySpacing;
             }
             note(packet);
         }
         *error = packet.error;
-        return !progress || progress(m_reader.octetsTotal(), m_reader.octetsTotal());
     }
 
     RecordingIndex finish(bool capture)
@@ -94,19 +90,23 @@ RecordingIndex RecordingIndex::build(
 {
     QString reason;
     RecordingIndex index;
+    bool stopped = false;
     const auto reader = FileReader::create(format, &reason);
+    if (reader && progress) {
+        reader->setCancel([&] {
+            stopped = stopped || !progress(reader->octetsRead(), reader->octetsTotal());
+            return stopped;
+        });
+    }
     if (reader && !reader->open(fileName, format)) {
         reason = reader->lastError();
     } else if (reader) {
         IndexBuilder builder(*reader);
-        if (builder.run(progress, &reason)) {
-            index = builder.finish(format == RecFile::Pcap || format == RecFile::PcapNg);
-        } else {
-            reason.clear();
-        }
+        builder.run(&reason);
+        index = stopped ? RecordingIndex() : builder.finish(format == RecFile::Pcap || format == RecFile::PcapNg);
     }
     if (error) {
-        *error = reason;
+        *error = stopped ? QString() : reason;
     }
     return index;
 }

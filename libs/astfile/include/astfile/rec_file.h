@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
+
 namespace korvane::astfile {
 
 // What kinds of recording files there are and how their names tell them apart.
@@ -22,6 +24,12 @@ public:
     // By the suffix of the name, in upper or lower case, with or without ".gz" behind it; the file itself is not looked
     // at. Unknown for any other suffix.
     static Format formatFromFileName(const QString &fileName);
+
+    // By what the file begins with, packed by gzip or not; its name decides only where that leaves a choice. Reads a
+    // few hundred KiB. Unknown, with the reason in error, for what is no recording, cannot be read, or is no regular
+    // file. cancel is asked before each read from the disk; true ends it.
+    static Format formatOfFile(
+        const QString &fileName, QString *error = nullptr, const std::function<bool()> &cancel = {});
 
     // Name for lists and log lines, such as "Network capture".
     static QString formatName(Format format);

@@ -31,10 +31,10 @@ public:
 
     RecordingIndex() = default;
 
-    // Reads the whole file, at the speed of its reader. Callable on any thread; progress is called there, every 256 KiB
-    // of contents. Null when the file cannot be opened or progress stopped the pass; error, when given, then says why,
-    // and is empty for a stopped pass. Where the recording is faulty the index covers what is before the fault, and
-    // error says what that is.
+    // Reads the whole file, at the speed of its reader. Callable on any thread; progress is called there, before each
+    // few hundred KiB that are taken from the disk, however few packets they hold. Null when the file cannot be opened
+    // or progress stopped the pass; error, when given, then says why, and is empty for a stopped pass. Where the
+    // recording is faulty the index covers what is before the fault, and error says what that is.
     static RecordingIndex build(
         const QString &fileName, RecFile::Format format, const Progress &progress = {}, QString *error = nullptr);
 
