@@ -1,0 +1,109 @@
+#pragma once
+
+#include "app/config.h"
+#include "geo/geo_coordinate.h"
+#include "modes/mode_s_encapsulation.h"
+#include "sensors/sensor_type.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+// What a stream of messages was found to hold: plain values, made by StreamAnalyser.
+
+// Where reported positions lie.
+struct PositionArea {
+    qint64 positions = 0;
+    GeoCoordinate center; // invalid where there are no positions
+    double radius = 0.0; // metres around the centre in which nine of ten of them lie
+};
+
+// What one source sent in one ASTERIX category.
+struct CategoryFindings {
+    int category = 0;
+    QString edition; // of the table that decoded most of the records, such as "2.7"; empty where none did
+    bool editionChosen = false; // told from other editions by the contents, not the only one there is
+    qint64 editionRecords = 0; // those that were decoded by it
+    qint64 records = 0;
+    qint64 undecodableOctets = 0; // of blocks with a fault in them, or of a category without a table
+
+    // Records that carry the item.
+    qint64 trackNumbers = 0;
+    qint64 addresses = 0;
+    qint64 polarPositions = 0;
+    qint64 cartesianPositions = 0;
+    qint64 wgs84Positions = 0;
+    // Records of which the tracker for this category makes a track: they say who and where.
+    qint64 trackable = 0;
+
+    // The sensor whose tracker reads the category; UnknownSensor for alerts, weather, video and what is not used.
+    SensorType sensorType() const;
+    // Whether it reports targets, rather than the state of the source, alerts, weather or video.
+    bool reportsTargets() const;
+};
+
+// One source of ASTERIX data: everything that it sent under one SAC/SIC.
+struct SourceFindings {
+    enum class PeriodBasis { None, Reported, SectorsAndMarkers, TrackUpdates };
+
+    bool identified = false; // false: for records without SAC/SIC
+    quint8 sac = 0;
+    quint8 sic = 0;
+    QList<CategoryFindings> categories; // reports of targets first, then by number
+    double rotationPeriod = 0.0; // seconds a turn of the antenna; 0: not known
+    PeriodBasis periodBasis = PeriodBasis::None;
+    GeoCoordinate site; // as the source says, or as follows from positions that it sends in two ways; invalid: unknown
+    PositionArea area; // of positions in WGS-84
+    // Kinds of detection that a radar marks its reports with.
+    bool primary = false;
+    bool secondary = false;
+    bool modeS = false;
+
+    // Sums over the categories that belong to the type's tracker.
+    qint64 trackable(SensorType type) const;
+    qint64 records(SensorType type) const;
+    const CategoryFindings *find(int category) const; // null: not sent
+
+    // "25/11"; "a source without SAC/SIC".
+    QString name() const;
+};
+
+struct ModeSFindings {
+    qint64 frames = 0; // valid ones
+    qint64 squitters = 0; // of them, extended squitters
+    qint64 aircraft = 0; // addresses that send extended squitters
+    PositionArea area;
+};
+
+struct SirMFindings {
+    unsigned radarId = 0; // of the first message
+    qint64 northMarkers = 0;
+    qint64 plots = 0;
+    qint64 tracks = 0;
+    double rotationPeriod = 0.0; // seconds; 0: not known
+};
+
+struct StreamFindings {
+    std::optional<Config::ProcessorType> kind; // nothing: none of those known
+    // The one of the kind counts.
+    Config::AsterixFormat asterixFormat = Config::AsterixFormat::Raw;
+    korvane::modes::ModeSEncapsulation::Format modeSEncapsulation = korvane::modes::ModeSEncapsulation::DefaultFormat;
+    Config::AleniaSirMFormat aleniaSirMFormat = Config::AleniaSirMFormat::Raw;
+
+    qint64 messages = 0;
+    qint64 octets = 0;
+    qint64 undecodableOctets = 0; // that are no data of the kind, envelopes and the ends of messages not counted
+    QDateTime first; // earliest and latest time of the messages, UTC; invalid where they have none
+    QDateTime last;
+
+    QList<SourceFindings> sources; // ASTERIX; by SAC/SIC
+    ModeSFindings modeS;
+    SirMFindings sirM;
+};
+
+// "CAT048 and CAT034 from 25/11, polar positions, track numbers, turning once in 4.0 s".
+QString describe(const SourceFindings &source);
+// One plain sentence about everything that was found.
+QString describe(const StreamFindings &findings);
