@@ -1,28 +1,24 @@
 #pragma once
 
+#include "app/background_pass.h"
 #include "map_import/map_import.h"
 
 #include <QObject>
 #include <QString>
 #include <QStringList>
-#include <QThread>
 
-#include <atomic>
-#include <memory>
-
-// Makes a map file of a file in a foreign format, beside everything else. One at a time; ends with this object.
+// Makes a map file of a file in a foreign format, beside everything else. One at a time; given up with this object.
 class MapConversion final : public QObject {
     Q_OBJECT
 
 public:
     explicit MapConversion(QObject *parent = nullptr);
-    ~MapConversion() override;
 
-    // Ends the conversion under way. The target's suffix says which of our formats it is to have.
+    // Gives up the conversion under way. The target's suffix says which of our formats it is to have.
     void start(const QString &source, const QString &target, const MapImport::Options &options);
-    // No answer comes any more; waits for the end.
-    void cancel();
-    bool running() const { return m_pass != nullptr; }
+    // No answer comes any more, and no target takes the place of one that was there.
+    void cancel() { m_pass.cancel(); }
+    bool running() const { return m_pass.running(); }
 
 Q_SIGNALS:
     // 0 to 100.
@@ -31,15 +27,5 @@ Q_SIGNALS:
     void finished(const QString &target, const QString &error, const QStringList &notes);
 
 private:
-    // What both threads see of one pass.
-    struct Pass {
-        std::atomic<bool> cancelled = false;
-        int percent = -1; // converting thread
-    };
-
-    void convert(const std::shared_ptr<Pass> &pass, const QString &source, const QString &target,
-        const MapImport::Options &options);
-
-    std::shared_ptr<Pass> m_pass; // null while none is under way
-    std::unique_ptr<QThread> m_thread;
+    BackgroundPass m_pass;
 };

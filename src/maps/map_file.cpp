@@ -21,6 +21,27 @@ constexpr std::array<FormatName, 3> FormatNames{{
     {MapFile::Map, QLatin1String("map"), QLatin1String("map")},
 }};
 
+qint64 pointsOf(const MapElementGroup &group)
+{
+    qint64 count = group.labels.size() + group.symbols.size() + group.images.size();
+    for (const MapPolylineElement &line : group.polylines) {
+        count += line.points.size();
+    }
+    for (const MapPolygonElement &area : group.polygons) {
+        count += area.points.size();
+    }
+    return count;
+}
+
+qint64 pointsOf(const MapData &map)
+{
+    qint64 count = 0;
+    for (const MapElementGroup &group : map.groups) {
+        count += pointsOf(group);
+    }
+    return count;
+}
+
 } // namespace
 
 std::unique_ptr<MapFile> MapFile::create(Format format)
@@ -169,7 +190,10 @@ bool MapFile::write(const MapData &map)
     if (!isOpen() || m_mode != QIODeviceBase::WriteOnly) {
         return fail(tr("Map file is not open for writing."));
     }
-    m_written = writeFile(map) && output().flush() && output().error() == QFileDevice::NoError;
+    m_pointsWritten = 0;
+    m_pointsToWrite = pointsOf(map);
+    // Asked a last time when everything is written: what is cancelled then must not take the old file's place.
+    m_written = writeFile(map) && output().flush() && output().error() == QFileDevice::NoError && mayGoOn();
     if (m_written || !m_lastError.isEmpty()) {
         return m_written;
     }
@@ -179,6 +203,18 @@ bool MapFile::write(const MapData &map)
 bool MapFile::reportProgress(qint64 octetsRead)
 {
     return !m_progress || m_progress(octetsRead, m_file.size()) || fail(tr("Reading was cancelled."));
+}
+
+bool MapFile::reportWritten(qint64 points)
+{
+    constexpr qint64 Step = 4096;
+    const qint64 before = std::exchange(m_pointsWritten, m_pointsWritten + points);
+    return before / Step == m_pointsWritten / Step || mayGoOn();
+}
+
+bool MapFile::mayGoOn()
+{
+    return !m_progress || m_progress(m_pointsWritten, m_pointsToWrite) || fail(tr("Writing was cancelled."));
 }
 
 QFileDevice &MapFile::output()

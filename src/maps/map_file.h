@@ -28,8 +28,9 @@ public:
         Map = 3, // binary
     };
     enum Capability { Read = 1, Write = 2 };
-    // Octets read and to read; false ends the reading with an error.
-    using Progress = std::function<bool(qint64 octetsRead, qint64 octetsTotal)>;
+    // Octets read and to read, or points written and to write; false ends it with an error. A file whose writing was
+    // ended is as it was before.
+    using Progress = std::function<bool(qint64 done, qint64 total)>;
 
     // Null for an unknown format.
     static std::unique_ptr<MapFile> create(Format format);
@@ -72,6 +73,8 @@ protected:
 
     // False, with the last error set, when the reading is to end.
     bool reportProgress(qint64 octetsRead);
+    // The same for the writing, of an element with so many points.
+    bool reportWritten(qint64 points);
 
     // Where to write.
     QFileDevice &output();
@@ -84,11 +87,14 @@ private:
     bool openToWrite();
     bool openToRead();
     bool openDevice(QFileDevice &device);
+    bool mayGoOn(); // writing
     bool fail(const QString &error);
 
     const Format m_format;
     QString m_lastError;
     Progress m_progress;
+    qint64 m_pointsWritten = 0;
+    qint64 m_pointsToWrite = 0;
     std::unique_ptr<QSaveFile> m_replacement; // while a regular file is being written
     bool m_written = false;
 };

@@ -1,19 +1,19 @@
 #include "maps/map_library.h"
 
+#include "app/background_pass.h"
 #include "maps/file_watch.h"
 #include "maps/map_load.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QHash>
-#include <QThreadPool>
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 namespace {
-// One map that takes long does not hold up all the others; more threads than this would slow the picture down.
-constexpr int loadingThreads = 2;
+// One map that takes long does not hold up all the others; more at once would slow the picture down.
+constexpr std::size_t loadsAtOnce = 2;
 } // namespace
 
 struct MapLibrary::Private {
@@ -24,9 +24,17 @@ struct MapLibrary::Private {
     MapStyleSheet styleSheet;
 
     quint64 lastId = 0;
-    QHash<quint64, std::shared_ptr<MapLoad>> loads; // under way, by the map's id
-    QThreadPool pool;
+    std::map<quint64, std::unique_ptr<BackgroundPass>> loads; // under way, by the map's id
+    QList<quint64> queue; // waits for its turn
     FileWatch watch;
+
+    bool isBeingLoaded(quint64 id) const { return loads.contains(id) || queue.contains(id); }
+
+    void cancelLoad(quint64 id)
+    {
+        queue.removeAll(id);
+        loads.erase(id);
+    }
 
     QList<MapIndexEntry> entries() const
     {
@@ -41,20 +49,6 @@ struct MapLibrary::Private {
     {
         const auto found = std::find_if(maps.begin(), maps.end(), [id](const Map &map) { return map.id == id; });
         return found == maps.end() ? nullptr : &*found;
-    }
-
-    void cancelLoad(quint64 id)
-    {
-        if (const std::shared_ptr<MapLoad> load = loads.take(id)) {
-            load->cancel();
-        }
-    }
-
-    void cancelLoads()
-    {
-        for (const std::shared_ptr<MapLoad> &load : std::exchange(loads, {})) {
-            load->cancel();
-        }
     }
 
     QString absolute(const QString &file) const
@@ -108,17 +102,10 @@ bool MapLibrary::Map::inZoomRange(double metresPerPixel) const
 
 MapLibrary::MapLibrary(QObject *parent) : QObject(parent), d(std::make_unique<Private>())
 {
-    d->pool.setMaxThreadCount(loadingThreads);
-    d->pool.setThreadPriority(QThread::LowPriority);
     connect(&d->watch, &FileWatch::changed, this, &MapLibrary::fileChanged);
 }
 
-MapLibrary::~MapLibrary()
-{
-    d->cancelLoads();
-    d->pool.clear();
-    d->pool.waitForDone();
-}
+MapLibrary::~MapLibrary() = default;
 
 QString MapLibrary::indexFile() const
 {
@@ -142,14 +129,15 @@ bool MapLibrary::modified() const
 
 bool MapLibrary::loading() const
 {
-    return !d->loads.isEmpty();
+    return !d->loads.empty() || !d->queue.isEmpty();
 }
 
 // Index.
 
 void MapLibrary::openIndex(const QString &fileName)
 {
-    d->cancelLoads();
+    d->queue.clear();
+    d->loads.clear();
     d->maps.clear();
     d->savedEntries.clear();
     d->indexFile = QFileInfo(fileName).absoluteFilePath();
@@ -178,9 +166,10 @@ bool MapLibrary::readIndex()
     }
     d->savedEntries = entries;
     d->watchFiles();
+    startLoads();
     Q_EMIT mapsChanged();
     for (const Map &map : QList<Map>(d->maps)) {
-        if (map.state == State::Waiting && !d->loads.contains(map.id)) {
+        if (map.state == State::Waiting && !d->isBeingLoaded(map.id)) {
             load(map.id);
         }
     }
@@ -238,6 +227,7 @@ void MapLibrary::remove(quint64 id)
     }
     d->cancelLoad(id);
     d->maps.removeIf([id](const Map &map) { return map.id == id; });
+    startLoads();
     d->watchFiles();
     Q_EMIT mapsChanged();
 }
@@ -285,10 +275,11 @@ void MapLibrary::reload(quint64 id)
 
 void MapLibrary::cancel(quint64 id)
 {
-    if (!d->loads.contains(id)) {
+    if (!d->isBeingLoaded(id)) {
         return;
     }
     d->cancelLoad(id);
+    startLoads();
     Map *map = d->find(id);
     map->state = State::Failed;
     map->error = tr("Loading was cancelled.");
@@ -304,13 +295,28 @@ void MapLibrary::load(quint64 id)
     map->error.clear();
     map->size = QFileInfo(map->path).size();
     d->watch.accept(map->path);
-
-    const auto running = std::make_shared<MapLoad>(map->path, map->format,
-        MapLoad::Listener{this, [this, id](int percent) { showProgress(id, percent); },
-            [this, id](const MapLoad::Result &result) { finish(id, result.data, result.error); }});
-    d->loads.insert(id, running);
-    running->start(&d->pool);
+    d->queue.append(id);
+    startLoads();
     Q_EMIT mapChanged(id);
+}
+
+void MapLibrary::startLoads()
+{
+    while (!d->queue.isEmpty() && d->loads.size() < loadsAtOnce) {
+        startLoad(d->queue.takeFirst());
+    }
+}
+
+void MapLibrary::startLoad(quint64 id)
+{
+    auto pass = std::make_unique<BackgroundPass>();
+    connect(pass.get(), &BackgroundPass::progressed, this, [this, id](int percent) { showProgress(id, percent); });
+    const auto work = [path = d->find(id)->path, format = d->find(id)->format](const BackgroundPass::Token &token) {
+        const auto report = [token](qint64 done, qint64 total) { return token.report(done, total); };
+        return report(0, 0) ? loadMap(path, format, report) : MapLoad();
+    };
+    pass->start(work, [this, id](const MapLoad &loaded) { finish(id, loaded.data, loaded.error); });
+    d->loads[id] = std::move(pass);
 }
 
 void MapLibrary::showProgress(quint64 id, int percent)
@@ -323,7 +329,8 @@ void MapLibrary::showProgress(quint64 id, int percent)
 
 void MapLibrary::finish(quint64 id, const QSharedPointer<const MapData> &data, const QString &error)
 {
-    d->loads.remove(id);
+    d->loads.erase(id);
+    startLoads();
     Map *map = d->find(id);
     map->state = data ? State::Loaded : State::Failed;
     map->error = error;

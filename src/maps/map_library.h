@@ -37,7 +37,7 @@ public:
     };
 
     explicit MapLibrary(QObject *parent = nullptr);
-    ~MapLibrary() override; // cancels what is loading, and waits for it
+    ~MapLibrary() override; // cancels what is loading
 
     // Forgets all maps and begins to load those of the index. The error is reported by message().
     void openIndex(const QString &fileName);
@@ -80,6 +80,8 @@ Q_SIGNALS:
 private:
     bool readIndex();
     void load(quint64 id);
+    void startLoads();
+    void startLoad(quint64 id);
     void showProgress(quint64 id, int percent);
     void finish(quint64 id, const QSharedPointer<const MapData> &data, const QString &error);
     bool readStyleSheet(MapStyleSheet &sheet);

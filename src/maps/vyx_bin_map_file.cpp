@@ -5,6 +5,9 @@
 #include <QDataStream>
 #include <QDebug>
 
+#include <algorithm>
+#include <functional>
+
 namespace {
 
 constexpr qint64 MagicSize = 4;
@@ -19,51 +22,62 @@ int versionOf(const QByteArray &magic)
     return magic == "MAP2" ? CurrentVersion : 0;
 }
 
-template <class Element>
-void writeList(QDataStream &stream, const QList<Element> &list);
+// Writes the groups of a map.
+class Writer {
+public:
+    // So many points are written; false ends it.
+    using Step = std::function<bool(qint64 points)>;
 
-template <class Shape>
-void writeElement(QDataStream &stream, const Shape &shape)
-{
-    stream << shape.name << quint32(shape.points.size());
-    for (const GeoCoordinate &point : shape.points) {
-        stream << point;
+    Writer(QDataStream &stream, const Step &step) : m_stream(stream), m_step(step) { }
+
+    // False when it was ended.
+    template <class Element>
+    bool writeList(const QList<Element> &list)
+    {
+        m_stream << quint32(list.size());
+        return std::all_of(list.begin(), list.end(), [this](const Element &element) { return write(element); });
     }
-}
 
-void writeElement(QDataStream &stream, const MapLabelElement &label)
-{
-    stream << label.name << label.caption << label.coordinate;
-}
-
-void writeElement(QDataStream &stream, const MapSymbolElement &symbol)
-{
-    stream << symbol.name << symbol.type << symbol.coordinate;
-}
-
-void writeElement(QDataStream &stream, const MapImageElement &image)
-{
-    stream << image.name << image.file << image.pixmap << image.northwest << image.southeast;
-}
-
-void writeElement(QDataStream &stream, const MapElementGroup &group)
-{
-    stream << group.name << group.className;
-    writeList(stream, group.polylines);
-    writeList(stream, group.polygons);
-    writeList(stream, group.labels); // before the symbols: the format's order, not the fields'
-    writeList(stream, group.symbols);
-    writeList(stream, group.images);
-}
-
-template <class Element>
-void writeList(QDataStream &stream, const QList<Element> &list)
-{
-    stream << quint32(list.size());
-    for (const Element &element : list) {
-        writeElement(stream, element);
+private:
+    template <class Shape>
+    bool write(const Shape &shape)
+    {
+        m_stream << shape.name << quint32(shape.points.size());
+        for (const GeoCoordinate &point : shape.points) {
+            m_stream << point;
+        }
+        return m_step(shape.points.size());
     }
-}
+
+    bool write(const MapLabelElement &label)
+    {
+        m_stream << label.name << label.caption << label.coordinate;
+        return m_step(1);
+    }
+
+    bool write(const MapSymbolElement &symbol)
+    {
+        m_stream << symbol.name << symbol.type << symbol.coordinate;
+        return m_step(1);
+    }
+
+    bool write(const MapImageElement &image)
+    {
+        m_stream << image.name << image.file << image.pixmap << image.northwest << image.southeast;
+        return m_step(1);
+    }
+
+    bool write(const MapElementGroup &group)
+    {
+        m_stream << group.name << group.className;
+        // Labels before symbols: the format's order, not the fields'.
+        return writeList(group.polylines) && writeList(group.polygons) && writeList(group.labels)
+            && writeList(group.symbols) && writeList(group.images);
+    }
+
+    QDataStream &m_stream;
+    const Step m_step;
+};
 
 } // namespace
 
@@ -113,6 +127,6 @@ bool VyxBinMapFile::writeFile(const MapData &map)
     stream.setFloatingPointPrecision(QDataStream::DoublePrecision);
     // Description behind version: the format's order, not the fields'.
     stream << map.name << map.title << map.author << map.version << map.description << map.comment;
-    writeList(stream, map.groups);
-    return stream.status() == QDataStream::Ok;
+    const bool whole = Writer(stream, [this](qint64 points) { return reportWritten(points); }).writeList(map.groups);
+    return whole && stream.status() == QDataStream::Ok;
 }

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <utility>
 
 namespace {
@@ -200,7 +201,13 @@ private:
 
 class Writer {
 public:
-    Writer(QIODevice *device, const QDir &folder) : m_xml(device), m_folder(folder) { m_xml.setAutoFormatting(true); }
+    // So many points are written; false ends it.
+    using Step = std::function<bool(qint64 points)>;
+
+    Writer(QIODevice *device, const QDir &folder, const Step &step) : m_xml(device), m_folder(folder), m_step(step)
+    {
+        m_xml.setAutoFormatting(true);
+    }
 
     // The reason in the error where it is not the device's.
     bool write(const MapData &map, QString *error)
@@ -227,43 +234,55 @@ private:
     {
         startElement(QStringLiteral("group"), group.name);
         m_xml.writeAttribute(QStringLiteral("class"), xmlText(group.className));
-        for (const MapPolylineElement &polyline : group.polylines) {
-            writeShape(QStringLiteral("polyline"), polyline.name, polyline.points);
-        }
-        for (const MapPolygonElement &polygon : group.polygons) {
-            writeShape(QStringLiteral("polygon"), polygon.name, polygon.points);
-        }
-        for (const MapLabelElement &label : group.labels) {
-            writePlace(QStringLiteral("label"), label.name, QStringLiteral("caption"), label.caption, label.coordinate);
-        }
-        for (const MapSymbolElement &symbol : group.symbols) {
-            writePlace(QStringLiteral("symbol"), symbol.name, QStringLiteral("type"), symbol.type, symbol.coordinate);
-        }
-        for (const MapImageElement &image : group.images) {
-            if (!writeImage(image, error)) {
-                return false;
-            }
-        }
+        const auto shape = [this](const QString &element) {
+            return [this, element](const auto &written) { return writeShape(element, written.name, written.points); };
+        };
+        const bool good = writeEach(group.polylines, shape(QStringLiteral("polyline")))
+            && writeEach(group.polygons, shape(QStringLiteral("polygon")))
+            && writeEach(group.labels, [this](const MapLabelElement &label) { return writeLabel(label); })
+            && writeEach(group.symbols, [this](const MapSymbolElement &symbol) { return writeSymbol(symbol); })
+            && writeEach(group.images, [&](const MapImageElement &image) { return writeImage(image, error); });
         m_xml.writeEndElement();
-        return true;
+        return good;
     }
 
-    void writeShape(const QString &element, const QString &name, const QList<GeoCoordinate> &points)
+    // False as soon as one is not written.
+    template <class Element, class Write>
+    bool writeEach(const QList<Element> &elements, const Write &write)
+    {
+        return std::all_of(elements.begin(), elements.end(), write);
+    }
+
+    bool writeLabel(const MapLabelElement &label)
+    {
+        return writePlace(
+            QStringLiteral("label"), label.name, QStringLiteral("caption"), label.caption, label.coordinate);
+    }
+
+    bool writeSymbol(const MapSymbolElement &symbol)
+    {
+        return writePlace(
+            QStringLiteral("symbol"), symbol.name, QStringLiteral("type"), symbol.type, symbol.coordinate);
+    }
+
+    bool writeShape(const QString &element, const QString &name, const QList<GeoCoordinate> &points)
     {
         startElement(element, name);
         for (const GeoCoordinate &point : points) {
             writeCoordinate(QStringLiteral("coordinate"), point);
         }
         m_xml.writeEndElement();
+        return m_step(points.size());
     }
 
-    void writePlace(const QString &element, const QString &name, const QString &field, const QString &value,
+    bool writePlace(const QString &element, const QString &name, const QString &field, const QString &value,
         const GeoCoordinate &coordinate)
     {
         startElement(element, name);
         writeText(field, value);
         writeCoordinate(QStringLiteral("coordinate"), coordinate);
         m_xml.writeEndElement();
+        return m_step(1);
     }
 
     bool writeImage(const MapImageElement &image, QString *error)
@@ -279,7 +298,7 @@ private:
         writeCoordinate(QStringLiteral("southeast"), image.southeast);
         writeText(QStringLiteral("file"), file);
         m_xml.writeEndElement();
-        return true;
+        return m_step(1);
     }
 
     void startElement(const QString &element, const QString &name)
@@ -297,6 +316,7 @@ private:
 
     QXmlStreamWriter m_xml;
     const QDir m_folder;
+    const Step m_step;
 };
 
 } // namespace
@@ -322,7 +342,8 @@ MapData VyxXmlMapFile::readFile()
 bool VyxXmlMapFile::writeFile(const MapData &map)
 {
     QString error;
-    const bool good = Writer(&output(), m_info.absoluteDir()).write(map, &error);
+    const auto step = [this](qint64 points) { return reportWritten(points); };
+    const bool good = Writer(&output(), m_info.absoluteDir(), step).write(map, &error);
     if (!error.isEmpty()) {
         setLastError(error);
     }

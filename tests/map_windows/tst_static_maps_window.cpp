@@ -3,6 +3,7 @@
 #include "app/app_identity.h"
 #include "app/app_paths.h"
 #include "app/map_places.h"
+#include "busy_workers.h"
 #include "map_import/map_import.h"
 #include "map_windows/map_conversion.h"
 #include "map_windows/map_import_window.h"
@@ -43,6 +44,7 @@ private Q_SLOTS:
     void goesToAMap();
     void installedIndexIsCopied();
     void convertsForeignFiles();
+    void nobodyWaitsForAConversion();
     void importsAsEntered();
 
 private:
@@ -266,6 +268,27 @@ void TestStaticMapsWindow::convertsForeignFiles()
         QCOMPARE(finished.first().at(1).toString().isEmpty(), converts);
         QCOMPARE(QFile::exists(path(target)), converts);
     }
+}
+
+void TestStaticMapsWindow::nobodyWaitsForAConversion()
+{
+    write("fix.geojson", R"({"type": "Feature", "geometry": {"type": "Point", "coordinates": [16.0, 48.0]}})");
+    BusyWorkers busy;
+    MapConversion conversion;
+    const QSignalSpy finished(&conversion, &MapConversion::finished);
+    conversion.start(path("fix.geojson"), path("cancelled.map"), {});
+    conversion.cancel();
+    QVERIFY(!conversion.running());
+    {
+        MapConversion closed;
+        closed.start(path("fix.geojson"), path("closed.map"), {});
+    }
+    conversion.start(path("fix.geojson"), path("fix.map"), {});
+    busy.letGo();
+    QVERIFY(!busy.waitedFor());
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(finished.first().first(), path("fix.map"));
+    QCOMPARE(QDir(path(".")).entryList({"*.map"}), MapImport::available() ? QStringList("fix.map") : QStringList());
 }
 
 void TestStaticMapsWindow::importsAsEntered()

@@ -175,6 +175,37 @@ private Q_SLOTS:
         file->setProgress({});
         QVERIFY(file->read() == map);
     }
+
+    void writingIsCancelled_data() { keepsTheFileWhenWritingFails_data(); }
+
+    // Also at the last moment.
+    void writingIsCancelled()
+    {
+        QFETCH(const int, format);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("m");
+        MapData map;
+        map.groups = {{"g", "c", QList<MapPolylineElement>(9, {"p", QList<GeoCoordinate>(1000, {1.0, 2.0})}), {},
+            QList<MapSymbolElement>(2000), QList<MapLabelElement>(2000), {}}};
+        constexpr qint64 Points = 13000;
+        QCOMPARE(writeMap(path, MapFile::Format(format), MapData{}), QString());
+        const auto file = MapFile::create(MapFile::Format(format));
+        for (const qint64 last : {Points / 2, Points, Points + 1}) {
+            QList<qint64> steps;
+            file->setProgress([&](qint64 written, qint64 total) {
+                steps.append(written);
+                return total == Points && written < last;
+            });
+            QVERIFY(file->open(QFileInfo(path), MapFile::Format(format), QIODevice::WriteOnly));
+            QCOMPARE(file->write(map), last > Points);
+            QCOMPARE(file->lastError(), last > Points ? QString() : "Writing was cancelled.");
+            file->close();
+            QVERIFY(steps.size() > 1 && std::is_sorted(steps.begin(), steps.end()));
+            file->setProgress({});
+            QVERIFY(file->open(QFileInfo(path), MapFile::Format(format), QIODevice::ReadOnly));
+            QCOMPARE(file->read().groups.isEmpty(), last <= Points);
+        }
+    }
 };
 
 VYX_TEST(tst_MapFileDamage)

@@ -1,3 +1,4 @@
+#include "busy_workers.h"
 #include "maps/map_library.h"
 #include "test_program.h"
 
@@ -23,6 +24,7 @@ private Q_SLOTS:
     void followsMapFiles();
     void followsTheIndex();
     void cancelledLoads();
+    void aLoadThatHangsHoldsUpNobody();
     void styleSheet();
 
 private:
@@ -220,6 +222,21 @@ void TestMapLibrary::cancelledLoads()
     QVERIFY(settled());
     QVERIFY(m_library->map(id)->data && m_library->map(id)->error.isEmpty());
     m_library->reload(id); // goes under way with the library
+}
+
+void TestMapLibrary::aLoadThatHangsHoldsUpNobody()
+{
+    writeIndex("<file>A.xml</file><file>B.xml</file><file>C.xml</file>");
+    BusyWorkers busy;
+    m_library->openIndex(path("map.idx"));
+    m_library->cancel(m_library->maps().first().id);
+    m_library->remove(m_library->maps().at(1).id);
+    m_library = std::make_unique<MapLibrary>();
+    m_library->openIndex(path("map.idx"));
+    busy.letGo();
+    QVERIFY(!busy.waitedFor());
+    QVERIFY(settled());
+    QCOMPARE(titles(), QStringList({"A", "B", "C"}));
 }
 
 void TestMapLibrary::styleSheet()
