@@ -1,164 +1,18 @@
 #include "vyxdisplay/command_line.h"
 
 #include "app/app_identity.h"
+#include "vyxdisplay/command_line_values.h"
 
 #include <QGuiApplication>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
 
 namespace {
 
+using namespace CommandLineValues;
 using Input = CommandLine::Input;
-using Sensor = CommandLine::Sensor;
-
-std::optional<quint16> portOf(const QString &text)
-{
-    bool isNumber = false;
-    const auto port = text.toUShort(&isNumber);
-    return isNumber && port > 0 ? std::optional(port) : std::nullopt;
-}
-
-// PORT or GROUP:PORT[@INTERFACE]
-std::optional<Input> udpInput(const QString &text, QString *error)
-{
-    const auto at = text.lastIndexOf(QLatin1Char('@'));
-    const auto address = at < 0 ? text : text.left(at);
-    const auto colon = address.lastIndexOf(QLatin1Char(':'));
-    const auto port = portOf(address.mid(colon + 1));
-    if (!port) {
-        *error = CommandLine::tr("'%1' is not a UDP port (1 to 65535)").arg(address.mid(colon + 1));
-        return {};
-    }
-    Input input;
-    input.port = *port;
-    if (colon >= 0 && (!input.group.setAddress(address.left(colon)) || !input.group.isMulticast())) {
-        *error = CommandLine::tr("'%1' is not a multicast group").arg(address.left(colon));
-        return {};
-    }
-    if (at >= 0) {
-        input.interface = QNetworkInterface::interfaceFromName(text.mid(at + 1));
-    }
-    if (at >= 0 && (colon < 0 || !input.interface.isValid())) {
-        *error = colon < 0 ? CommandLine::tr("an interface needs a multicast group")
-                           : CommandLine::tr("there is no network interface '%1'").arg(text.mid(at + 1));
-        return {};
-    }
-    return input;
-}
-
-// DEVICE[:BAUD]. Names of devices may hold colons themselves; a baud rate is digits only.
-std::optional<Input> serialInput(const QString &text, QString *error)
-{
-    static const QRegularExpression pattern(QStringLiteral("^(.+?)(?::([0-9]+))?$"));
-    const auto match = pattern.match(text);
-    Input input;
-    input.comm = Config::InputComm::Serial;
-    input.path = match.captured(1);
-    const auto baudRate = match.captured(2);
-    input.baudRate = baudRate.toInt();
-    if (!match.hasMatch()) {
-        *error = CommandLine::tr("a serial input needs a device");
-    } else if (!baudRate.isEmpty() && input.baudRate <= 0) {
-        *error = CommandLine::tr("'%1' is not a baud rate").arg(baudRate);
-    } else {
-        return input;
-    }
-    return {};
-}
-
-std::optional<Input> fileInput(const QString &text, QString *error)
-{
-    if (text.isEmpty()) {
-        *error = CommandLine::tr("a file input needs a path");
-        return {};
-    }
-    Input input;
-    input.comm = Config::InputComm::File;
-    input.path = text;
-    return input;
-}
-
-std::optional<Input> parsedInput(const QString &text, QString *error)
-{
-    const auto colon = text.indexOf(QLatin1Char(':'));
-    const auto kind = colon < 0 ? text : text.left(colon);
-    const auto rest = colon < 0 ? QString() : text.mid(colon + 1);
-    if (kind == QLatin1String("udp")) {
-        return udpInput(rest, error);
-    }
-    if (kind == QLatin1String("serial")) {
-        return serialInput(rest, error);
-    }
-    if (kind == QLatin1String("file")) {
-        return fileInput(rest, error);
-    }
-    *error = CommandLine::tr("'%1' is not a kind of input (udp, serial, file)").arg(kind);
-    return {};
-}
-
-// Decimal degrees with a comma between them, or degrees, minutes and seconds as 395427N1162317E.
-GeoCoordinate parsedLocation(const QString &text)
-{
-    const auto parts = text.split(QLatin1Char(','));
-    if (parts.size() != 2) {
-        return GeoCoordinate::fromATCString(text.toUpper());
-    }
-    bool isLatitude = false;
-    bool isLongitude = false;
-    const GeoCoordinate location(parts.at(0).toDouble(&isLatitude), parts.at(1).toDouble(&isLongitude));
-    if (isLatitude && isLongitude) {
-        return location;
-    }
-    return GeoCoordinate::fromATCString(QString(text).remove(QLatin1Char(',')).toUpper());
-}
-
-// TYPE:LOCATION[:NAME]
-std::optional<Sensor> parsedSensor(const QString &text, QString *error)
-{
-    Sensor sensor;
-    const auto type = text.section(QLatin1Char(':'), 0, 0);
-    sensor.type = sensorTypeFromString(type);
-    if (sensor.type == UnknownSensor) {
-        *error = CommandLine::tr("'%1' is not a type of sensor (radar, adsb, mlat, sdps, smr)").arg(type);
-        return {};
-    }
-    const auto location = text.section(QLatin1Char(':'), 1, 1);
-    sensor.location = parsedLocation(location);
-    if (!sensor.location.isValid()) {
-        *error = CommandLine::tr("'%1' is not a location (LATITUDE,LONGITUDE in degrees)").arg(location);
-        return {};
-    }
-    sensor.name = text.section(QLatin1Char(':'), 2);
-    if (sensor.name.isEmpty()) {
-        sensor.name = sensorTypeFullName(sensor.type);
-    }
-    return sensor;
-}
-
-std::optional<std::chrono::milliseconds> parsedSeconds(const QString &text, QString *error)
-{
-    constexpr double longest = 1e6; // some eleven days, and well inside a timer's range
-    bool isNumber = false;
-    const double seconds = text.toDouble(&isNumber);
-    if (isNumber && seconds > 0.0 && seconds <= longest) {
-        return std::chrono::milliseconds(qRound64(seconds * 1000.0));
-    }
-    *error = CommandLine::tr("'%1' is not a number of seconds").arg(text);
-    return {};
-}
-
-std::optional<QString> parsedSpeed(const QString &text, QString *error)
-{
-    for (const char *name : {"0.5x", "1x", "2x", "4x", "8x", "Max"}) {
-        if (text.compare(QLatin1String(name), Qt::CaseInsensitive) == 0) {
-            return QString::fromLatin1(name);
-        }
-    }
-    *error = CommandLine::tr("'%1' is not a speed (0.5x, 1x, 2x, 4x, 8x, Max)").arg(text);
-    return {};
-}
+using Processor = CommandLine::Processor;
 
 void applyInput(const Input &input, Config &config)
 {
@@ -183,6 +37,14 @@ void applyInput(const Input &input, Config &config)
         config.inputFileName.setFile(input.path);
         break;
     }
+}
+
+void applyProcessor(const Processor &processor, Config &config)
+{
+    config.processorType = processor.type;
+    config.processorAsterixFormat = processor.asterixFormat.value_or(config.processorAsterixFormat);
+    config.processorModeSEncapsulation = processor.encapsulation.value_or(config.processorModeSEncapsulation);
+    config.processorAleniaSirMFormat = processor.sirMFormat.value_or(config.processorAleniaSirMFormat);
 }
 
 // Options that the toolkit reads and removes by itself, written with one dash or two.
@@ -210,8 +72,9 @@ public:
         while (m_error.isEmpty() && !m_arguments.isEmpty()) {
             takeOption(m_arguments.takeFirst());
         }
-        if (m_error.isEmpty() && m_result.demo && (m_result.input || m_result.sensor)) {
-            m_error = CommandLine::tr("--demo brings an input and a sensor of its own");
+        const bool own = m_result.input || m_result.sensor || m_result.sensorAuto || m_result.processor;
+        if (m_error.isEmpty() && m_result.demo && own) {
+            m_error = CommandLine::tr("--demo brings an input, a processor and a sensor of its own");
         }
         return m_error;
     }
@@ -253,6 +116,10 @@ private:
             m_result.start = true;
         } else if (m_option == QLatin1String("--exit-at-end")) {
             m_result.exitAtEnd = true;
+        } else if (m_option == QLatin1String("--ignore-cartesian")) {
+            m_result.ignoreCartesian = true;
+        } else if (m_option == QLatin1String("--ignore-wgs84")) {
+            m_result.ignoreWgs84 = true;
         } else {
             return false;
         }
@@ -269,7 +136,11 @@ private:
         } else if (m_option == QLatin1String("--input")) {
             m_result.input = parsedValue(parsedInput);
         } else if (m_option == QLatin1String("--sensor")) {
-            m_result.sensor = parsedValue(parsedSensor);
+            takeSensor();
+        } else if (m_option == QLatin1String("--processor")) {
+            m_result.processor = parsedValue(parsedProcessor);
+        } else if (m_option == QLatin1String("--uap")) {
+            m_result.uap = parsedValue(parsedUap);
         } else if (m_option == QLatin1String("--exit-after")) {
             m_result.exitAfter = parsedValue(parsedSeconds);
         } else if (m_option == QLatin1String("--replay-speed")) {
@@ -282,6 +153,15 @@ private:
             return false;
         }
         return true;
+    }
+
+    void takeSensor()
+    {
+        const auto text = value();
+        m_result.sensorAuto = text == QLatin1String("auto");
+        if (m_error.isEmpty() && !m_result.sensorAuto) {
+            m_result.sensor = parsedValue(text, parsedSensor);
+        }
     }
 
     QString value()
@@ -307,9 +187,12 @@ private:
     std::optional<Value> parsedValue(std::optional<Value> (*parse)(const QString &, QString *))
     {
         const auto text = value();
-        if (!m_error.isEmpty()) {
-            return {};
-        }
+        return m_error.isEmpty() ? parsedValue(text, parse) : std::nullopt;
+    }
+
+    template <typename Value>
+    std::optional<Value> parsedValue(const QString &text, std::optional<Value> (*parse)(const QString &, QString *))
+    {
         const auto parsed = parse(text, &m_error);
         if (!parsed) {
             m_error.prepend(m_option + QStringLiteral(": "));
@@ -350,6 +233,18 @@ QString CommandLine::helpText()
               "                        in place of the configured sensor, for this run;\n"
               "                        TYPE is radar, adsb, mlat, sdps or smr, the location\n"
               "                        decimal degrees or 395427N1162317E\n"
+              "  --sensor auto         the sensor that the data come from, as far as they tell\n"
+              "  --processor PROCESSOR in place of the configured processor, for this run:\n"
+              "                          asterix[:FORMAT]\n"
+              "                          modes[:ENCAPSULATION]\n"
+              "                          sirm[:FORMAT]\n"
+              "                        FORMAT is raw, hdlc or managair, ENCAPSULATION raw,\n"
+              "                        avr, beast or raw-rssi\n"
+              "  --uap NAME            decode ASTERIX with that user application profile:\n"
+              "                          auto, standard, cat001-plot, asr10ss, cat021-0.23,\n"
+              "                          cat021-0.26, cat021-2.1, cat021-2.7 or thales\n"
+              "  --ignore-cartesian    place MLAT and SDPS tracks by their WGS-84 positions\n"
+              "  --ignore-wgs84        place MLAT and SDPS tracks by their Cartesian positions\n"
               "  RECORDING             play that file, as --input file:RECORDING --start\n"
               "  --replay-speed SPEED  of recordings: 0.5x, 1x, 2x, 4x, 8x or Max\n"
               "  --start               open the input at once\n"
@@ -372,6 +267,12 @@ void CommandLine::applyTo(Config &config) const
     if (input) {
         applyInput(*input, config);
     }
+    if (processor) {
+        applyProcessor(*processor, config);
+    }
+    config.processorAsterixUap = uap.value_or(config.processorAsterixUap);
+    config.processorAsterixIgnoreCartesianCoordinates |= ignoreCartesian;
+    config.processorAsterixIgnoreWgs84Coordinates |= ignoreWgs84;
     if (sensor) {
         config.sensorType = sensor->type;
         config.sensorLocation = sensor->location;

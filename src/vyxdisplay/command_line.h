@@ -23,6 +23,13 @@ public:
         QString path; // of the serial device or the file
         int baudRate = 0; // 0: as configured
     };
+    // A format that is not given: as configured.
+    struct Processor {
+        Config::ProcessorType type = Config::ProcessorType::Asterix;
+        std::optional<Config::AsterixFormat> asterixFormat;
+        std::optional<korvane::modes::ModeSEncapsulation::Format> encapsulation;
+        std::optional<Config::AleniaSirMFormat> sirMFormat;
+    };
     struct Sensor {
         SensorType type = UnknownSensor;
         GeoCoordinate location;
@@ -35,7 +42,8 @@ public:
     static QString helpText();
     static QString versionText();
 
-    // Puts the input and the sensor in the place of the configured ones, the second UDP input out of use.
+    // Puts the input, the processor and the sensor in the place of the configured ones, the second UDP input out of
+    // use.
     void applyTo(Config &config) const;
 
     bool help = false;
@@ -46,6 +54,11 @@ public:
     std::optional<QString> demo; // scenario, file or "list"; empty: the one shown first
     std::optional<Input> input;
     std::optional<Sensor> sensor;
+    bool sensorAuto = false; // the one that the data tell
+    std::optional<Processor> processor;
+    std::optional<int> uap; // as in Config::processorAsterixUap
+    bool ignoreCartesian = false;
+    bool ignoreWgs84 = false;
     std::optional<std::chrono::milliseconds> exitAfter;
     QString screenshot; // path of the picture to be written at exit, or empty
     QString snapshot; // path of the snapshot to be written at exit, or empty

@@ -1,6 +1,9 @@
+#include "app/setting.h"
 #include "test_program.h"
 #include "vyxdisplay/command_line.h"
 
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -77,6 +80,46 @@ private Q_SLOTS:
         QTEST(sensor.name, "name");
     }
 
+    void readsProcessors_data()
+    {
+        QTest::addColumn<QString>("arguments");
+        QTest::addColumn<QString>("changed"); // what comes to differ from the settings' defaults
+        const auto row = [](const char *arguments, const char *changed) {
+            QTest::newRow(arguments) << arguments << changed;
+        };
+        row("--processor asterix --uap auto", "");
+        row("--processor asterix:managair", "processorAsterixFormat=2");
+        row("--processor modes", "processorType=1");
+        row("--processor modes:raw-rssi", "processorType=1 processorModeSEncapsulation=raw-rssi");
+        row("--processor=sirm", "processorType=2");
+        row("--processor SIRM:HDLC", "processorType=2 processorAleniaSirMFormat=1");
+        row("--uap cat021-0.26", "processorAsterixUap=5");
+        row("--uap=thales", "processorAsterixUap=8");
+        row("--ignore-cartesian", "processorAsterixIgnoreCartesianCoordinates=true");
+        row("--ignore-wgs84", "processorAsterixIgnoreWgs84Coordinates=true");
+        row("--sensor auto", "");
+    }
+
+    void readsProcessors()
+    {
+        QFETCH(const QString, arguments);
+        Config config;
+        parsed(arguments.split(' ')).applyTo(config);
+        const QTemporaryDir directory;
+        config.save(directory.filePath("changed.conf"));
+        Config().save(directory.filePath("defaults.conf"));
+        const QSettings after(directory.filePath("changed.conf"), QSettings::IniFormat);
+        const QSettings before(directory.filePath("defaults.conf"), QSettings::IniFormat);
+        QStringList changed;
+        for (const Setting &setting : Setting::all()) {
+            if (after.value(setting.key()) != before.value(setting.key())) {
+                changed += setting.key() + '=' + after.value(setting.key()).toString();
+            }
+        }
+        QTEST(changed.join(' '), "changed");
+        QCOMPARE(parsed(arguments.split(' ')).sensorAuto, arguments.endsWith("auto") && arguments.contains("sensor"));
+    }
+
     void readsTheRest()
     {
         const auto all = parsed({"--start", "--exit-after=2.5", "--screenshot", "a=b.png", "--snapshot=c.json"});
@@ -118,7 +161,8 @@ private Q_SLOTS:
         row("recording beside a demo", {"--demo", "a", "b.pcap"}, "--demo");
         row("no speed", {"--replay-speed", "3x"}, "'3x'");
         row("value for a switch", {"--start=yes"}, "--start");
-        for (const auto *option : {"--input", "--sensor", "--exit-after", "--screenshot", "--snapshot"}) {
+        for (const auto *option :
+            {"--input", "--sensor", "--processor", "--uap", "--exit-after", "--screenshot", "--snapshot"}) {
             row(qPrintable(QString("%1 at the end").arg(option)), {option}, option);
             row(qPrintable(QString("%1 before an option").arg(option)), {option, "--start"}, option);
             row(qPrintable(QString("%1 empty").arg(option)), {option, ""}, option);
@@ -137,6 +181,12 @@ private Q_SLOTS:
         for (const auto *seconds : {"soon", "0", "-1", "nan", "1e9"}) {
             row(qPrintable(QString("seconds: %1").arg(seconds)), {QString("--exit-after=%1").arg(seconds)}, seconds);
         }
+        row("unknown processor", {"--processor", "tvt2"}, "'tvt2' is not a processor (asterix, modes, sirm)");
+        row("unknown encapsulation", {"--processor", "modes:hex"}, "'hex' is not an encapsulation (raw, avr, beast,");
+        row("no encapsulation", {"--processor", "modes:"}, "(raw, avr, beast, raw-rssi)");
+        row("unknown format", {"--processor", "sirm:beast"}, "'beast' is not a format (raw, hdlc, managair)");
+        row("unknown profile", {"--uap", "48=1.32"}, "'48=1.32' is not a user application profile (auto, standard,");
+        row("demo with a processor", {"--demo", "--processor", "modes"}, "--demo");
         row("demo with an input", {"--demo", "--input", "udp:8600"}, "--demo");
     }
 
