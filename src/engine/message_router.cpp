@@ -1,6 +1,7 @@
 #include "engine/message_router.h"
 
 #include "app/log_gate.h"
+#include "engine/envelope.h"
 #include "engine/pipeline_meter.h"
 #include "processors/alert_processor.h"
 #include "processors/video_processor.h"
@@ -17,21 +18,6 @@ using korvane::modes::ModeSFrame;
 using korvane::modes::ModeSMessage;
 
 namespace {
-
-// Octets before the data; what they say is not needed.
-template <typename Format>
-qsizetype envelopeSize(Format format)
-{
-    switch (format) {
-    case Format::Hdlc:
-        return 2;
-    case Format::ManagAir:
-        return 16;
-    case Format::Raw:
-        break;
-    }
-    return 0;
-}
 
 // Null: the library chooses.
 const _ast_uap_t *configuredUap(int selector)
@@ -83,7 +69,7 @@ void MessageRouter::procAsterixMessage(const QByteArray &data)
 {
     const auto *octets = reinterpret_cast<const unsigned char *>(data.constData());
     const auto size = static_cast<std::size_t>(data.size());
-    auto offset = static_cast<std::size_t>(envelopeSize(m_config.processorAsterixFormat));
+    std::size_t offset = envelopeSize(m_config.processorAsterixFormat);
     while (offset < size && decodeBlock(octets + offset, size - offset)) {
         if (m_block.size == 0) {
             Q_EMIT message(LogLevel::Warning,
@@ -193,7 +179,8 @@ void MessageRouter::procModeSFrame(ModeSFrame &frame)
 // no failure.
 void MessageRouter::procAleniaSirMMessage(const QByteArray &data)
 {
-    const qsizetype envelope = std::min(envelopeSize(m_config.processorAleniaSirMFormat), data.size());
+    const auto envelope =
+        std::min(static_cast<qsizetype>(envelopeSize(m_config.processorAleniaSirMFormat)), data.size());
     const auto *octets = reinterpret_cast<const unsigned char *>(data.constData()) + envelope;
     auto left = static_cast<std::size_t>(data.size() - envelope);
     auto result = AleniaSirMRadarDecoder::decode(octets, left);

@@ -45,13 +45,13 @@ Input::Opening RecordingInput::open()
 Input::Opening RecordingInput::openFile()
 {
     Q_EMIT message(LogLevel::Info, tr("Open recording file: %1").arg(m_fileName));
-    const RecFile::Format format = RecFile::formatFromFileName(m_fileName);
+    QString reason;
+    const RecFile::Format format = formatOfFile(&reason);
     if (format == RecFile::Unknown) {
         Q_EMIT message(LogLevel::Critical, tr("Recording file format is not supported."));
-        reportFault(tr("The ending of the name %1 is that of no recording format.").arg(m_fileName));
+        reportFault(reason);
         return Opening::Failed;
     }
-    QString reason;
     m_reader = FileReader::create(format, &reason);
     if (!m_reader) {
         Q_EMIT message(LogLevel::Critical, tr("Failed to crate recording file reader."));
@@ -72,6 +72,13 @@ Input::Opening RecordingInput::openFile()
     }
     m_reader->setIndex(m_settings->index);
     return startReplay();
+}
+
+// The contents tell; where they do not, the reader for the name finds out what is wrong with them.
+RecFile::Format RecordingInput::formatOfFile(QString *reason) const
+{
+    const RecFile::Format format = RecFile::formatOfFile(m_fileName, reason, m_cancelled);
+    return format != RecFile::Unknown ? format : RecFile::formatFromFileName(m_fileName);
 }
 
 Input::Opening RecordingInput::startReplay()

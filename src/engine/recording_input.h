@@ -1,6 +1,7 @@
 #pragma once
 
 #include "astfile/data_packet.h"
+#include "astfile/rec_file.h"
 #include "astfile/recording_index.h"
 #include "engine/input.h"
 #include "engine/replay_clock.h"
@@ -48,6 +49,7 @@ Q_SIGNALS:
 
 private:
     Opening openFile();
+    korvane::astfile::RecFile::Format formatOfFile(QString *reason) const;
     Opening startReplay();
     bool seekStart();
     void logStart();

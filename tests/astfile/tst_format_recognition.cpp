@@ -117,6 +117,13 @@ private Q_SLOTS:
             int(RecFile::Pcap));
     }
 
+    // A fault looks like the stamp behind the first of two records, here.
+    void theNameDecidesWhereContentsLeaveAChoice()
+    {
+        const QByteArray octets = block(1) + block(2) + QByteArray::fromHex("220007e0 190101 300002") + block(3);
+        QCOMPARE(int(RecFile::formatOfFile(m_files.write("fault.ast", octets))), int(RecFile::RawAsterix));
+    }
+
     void whatCannotBeReadSaysWhy()
     {
         QString error;

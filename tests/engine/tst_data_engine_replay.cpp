@@ -194,6 +194,19 @@ private Q_SLOTS:
         }
     }
 
+    void theContentsTellWhatIsPlayed()
+    {
+        const QString path = capture({0, 10, 20});
+        for (const char *name : {"day", "day.ast", "day.txt"}) {
+            EngineRig rig;
+            rig.engine.setReplaySpeed(ReplaySpeed::Max);
+            QVERIFY(QFile::copy(path, m_dir.filePath(name)));
+            open(rig, m_dir.filePath(name));
+            QTRY_COMPARE(rig.closed.size(), 1);
+            QCOMPARE(rig.tracks().size(), 3);
+        }
+    }
+
     void rawRecordingsPlayWithoutTimesUpToAFault()
     {
         EngineRig rig;

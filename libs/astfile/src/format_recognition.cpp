@@ -16,7 +16,9 @@ namespace {
 // Enough for several of the longest data blocks.
 constexpr std::size_t OctetsToTry = 512 * 1024;
 
-// What framings are tried for; the first of those that account for equally much is preferred.
+// What framings are tried for; the first of those that account for equally much is preferred. Up to a fault in a short
+// file another format may by chance account for more than the right one.
+constexpr qint64 NameCounts = 2;
 constexpr std::array FramedFormats = {RecFile::FinalFormat, RecFile::RawAsterix, RecFile::Gps, RecFile::ModeS};
 
 using Octets = std::span<const unsigned char>;
@@ -115,8 +117,8 @@ RecFile::Format framedFormat(Octets beginning, const QDateTime &modified, RecFil
     qint64 most = 0;
     for (const RecFile::Format format : FramedFormats) {
         BufferedInput input(std::make_unique<MemorySource>(beginning));
-        const qint64 explained = octetsExplained(format, input, modified);
-        if (explained > most || (explained == most && explained > 0 && format == named)) {
+        const qint64 explained = octetsExplained(format, input, modified) * (format == named ? NameCounts : 1);
+        if (explained > most) {
             best = format;
             most = explained;
         }
