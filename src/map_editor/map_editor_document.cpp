@@ -24,17 +24,29 @@ bool backUp(const QString &path)
     return QFile::rename(fresh, backup);
 }
 
-bool fail(QString *error, const QString &reason)
+// What went wrong; empty: nothing. Any thread.
+QString writeMap(const MapData &map, const QString &path, MapFile::Format format, const MapFile::Progress &progress)
 {
-    if (error) {
-        *error = reason;
+    const auto file = MapFile::create(format);
+    if (!file || !(file->capability() & MapFile::Write)) {
+        return MapEditorDocument::tr("Maps cannot be written in this format.");
     }
-    return false;
+    if (!backUp(path)) {
+        return MapEditorDocument::tr("Cannot write backup file \"%1\".").arg(path + QStringLiteral(".bak"));
+    }
+    file->setProgress(progress);
+    if (file->open(QFileInfo(path), format, QIODeviceBase::WriteOnly) && file->write(map)) {
+        file->close();
+    }
+    return file->lastError();
 }
 
 } // namespace
 
-MapEditorDocument::MapEditorDocument(QObject *parent) : QObject(parent) { }
+MapEditorDocument::MapEditorDocument(QObject *parent) : QObject(parent)
+{
+    connect(&m_pass, &BackgroundPass::progressed, this, &MapEditorDocument::progressed);
+}
 
 // The commands refer to store and styles.
 MapEditorDocument::~MapEditorDocument()
@@ -61,6 +73,7 @@ void MapEditorDocument::setFile(const QString &path, MapFile::Format format)
 
 void MapEditorDocument::newMap()
 {
+    m_pass.cancel();
     m_undo.clear();
     m_store.reset({});
     m_store.state().current = ++m_store.state().newest;
@@ -68,26 +81,11 @@ void MapEditorDocument::newMap()
     setFile(QString(), MapFile::Unknown);
 }
 
-bool MapEditorDocument::open(
-    const QString &path, QString *error, MapFile::Format stated, const MapFile::Progress &progress)
+void MapEditorDocument::take(const MapData &map, const QString &path, MapFile::Format format)
 {
-    const MapFile::Format format = stated == MapFile::Unknown ? MapFile::formatFromFileName(path) : stated;
-    const auto file = MapFile::create(format);
-    if (!file) {
-        return fail(error, tr("The name of the file does not end like that of a map file."));
-    }
-    file->setProgress(progress);
-    if (!file->open(QFileInfo(path), format, QIODeviceBase::ReadOnly)) {
-        return fail(error, file->lastError());
-    }
-    const MapData map = file->read();
-    if (!file->lastError().isEmpty()) {
-        return fail(error, file->lastError());
-    }
     newMap();
     m_store.reset(map);
     setFile(path, format);
-    return true;
 }
 
 void MapEditorDocument::setStyleSheet(const MapStyleSheet &sheet, const QString &file)
@@ -96,37 +94,47 @@ void MapEditorDocument::setStyleSheet(const MapStyleSheet &sheet, const QString 
     m_styles.reset(sheet, file);
 }
 
-bool MapEditorDocument::save(QString *error)
+void MapEditorDocument::load(const QString &path, MapFile::Format format, std::function<void(const MapLoad &)> loaded)
 {
-    if (!canSave()) {
-        return fail(error, tr("The map has to be saved under another name or in another format."));
-    }
-    return saveAs(m_path, m_format, error);
+    m_fileWork = FileWork::Reading;
+    const auto work = [path, format](const BackgroundPass::Token &token) {
+        return loadMap(path, format, [token](qint64 done, qint64 total) { return token.report(done, total); });
+    };
+    m_pass.start(work, std::move(loaded));
 }
 
-bool MapEditorDocument::saveAs(const QString &path, MapFile::Format format, QString *error)
+void MapEditorDocument::saveAs(
+    const QString &path, MapFile::Format format, std::function<void(bool saved, const QString &error)> done)
 {
-    const auto file = MapFile::create(format);
-    if (!file || !(file->capability() & MapFile::Write)) {
-        return fail(error, tr("Maps cannot be written in this format."));
-    }
     if (format == MapFile::Xml) {
         nameImageFiles(path);
     }
-    if (!backUp(path)) {
-        return fail(error, tr("Cannot write backup file \"%1\".").arg(path + QStringLiteral(".bak")));
+    m_fileWork = FileWork::Writing;
+    m_stopWriting = std::make_shared<std::atomic<bool>>(false);
+    const auto work = [map = m_store.map(), path, format, stop = m_stopWriting](const BackgroundPass::Token &token) {
+        const auto progress = [&token, &stop](qint64 written, qint64 total) {
+            token.report(written, total);
+            return !*stop;
+        };
+        return writeMap(map, path, format, progress);
+    };
+    const quint64 state = m_store.state().current;
+    m_pass.start(work, [this, path, format, state, stop = m_stopWriting, done = std::move(done)](const QString &error) {
+        if (error.isEmpty()) {
+            m_store.state().saved = state;
+            setFile(path, format);
+        }
+        done(error.isEmpty(), *stop ? QString() : error);
+    });
+}
+
+void MapEditorDocument::cancelFileWork()
+{
+    if (fileWork() == FileWork::Reading) {
+        m_pass.cancel();
+    } else if (fileWork() == FileWork::Writing) {
+        *m_stopWriting = true;
     }
-    if (!file->open(QFileInfo(path), format, QIODeviceBase::WriteOnly)) {
-        return fail(error, file->lastError());
-    }
-    const bool written = file->write(m_store.map());
-    file->close();
-    if (!written || !file->lastError().isEmpty()) {
-        return fail(error, file->lastError());
-    }
-    m_store.state().setSaved();
-    setFile(path, format);
-    return true;
 }
 
 // The XML format makes up a file for each image that has none, at each saving another one.

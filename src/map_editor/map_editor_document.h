@@ -1,12 +1,17 @@
 #pragma once
 
+#include "app/background_pass.h"
 #include "map_editor/map_editor_store.h"
 #include "map_editor/map_editor_styles.h"
 #include "maps/map_file.h"
+#include "maps/map_load.h"
 
 #include <QObject>
 #include <QUndoStack>
 
+#include <atomic>
+#include <functional>
+#include <memory>
 #include <utility>
 
 // What is chosen in the tree.
@@ -18,7 +23,8 @@ struct MapEditorSelection {
 };
 
 // A map with its file, its style sheet and their undo stack. What changes nothing leaves no trace on the stack. Places
-// that are passed in must exist. GUI thread.
+// that are passed in must exist. Files are read and written beside everything else; nobody waits for it, and the map
+// may be edited meanwhile. GUI thread.
 class MapEditorDocument final : public QObject {
     Q_OBJECT
 
@@ -39,17 +45,23 @@ public:
     bool canSave() const;
     bool isModified() const { return m_store.state().isModified(); }
 
-    // All of these forget the undo stack; a failure leaves everything as it was. An unknown format is found by the
-    // suffix.
+    // All of these forget the undo stack. The first two give up a reading under way, and must wait while a file is
+    // being written.
     void newMap();
-    bool open(const QString &path, QString *error, MapFile::Format format = MapFile::Unknown,
-        const MapFile::Progress &progress = {});
+    void take(const MapData &map, const QString &path, MapFile::Format format);
     void setStyleSheet(const MapStyleSheet &sheet, const QString &file);
 
-    // The file's former contents stay beside it under its name with ".bak" appended. A failure changes neither the file
-    // nor what is edited.
-    bool save(QString *error);
-    bool saveAs(const QString &path, MapFile::Format format, QString *error);
+    enum class FileWork { None, Reading, Writing };
+    FileWork fileWork() const { return m_pass.running() ? m_fileWork : FileWork::None; }
+    // Reads a map for take(). Gives up the reading under way, whose result is never handed over.
+    void load(const QString &path, MapFile::Format format, std::function<void(const MapLoad &)> loaded);
+    // Writes the map as it is now. The file's former contents stay beside it under its name with ".bak" appended. A
+    // failure changes neither the file nor what is edited; one without a reason was cancelled. What is being written
+    // when the document goes is written to its end. Not while another file is being written.
+    void saveAs(
+        const QString &path, MapFile::Format format, std::function<void(bool saved, const QString &error)> done);
+    // A reading ends at once; a writing tells how it ended.
+    void cancelFileWork();
 
     void setMeta(const MapData &meta);
     // Returns its place.
@@ -80,6 +92,8 @@ public:
 
 Q_SIGNALS:
     void pathChanged(const QString &path);
+    // Of the reading or writing, 0 to 100.
+    void progressed(int percent);
 
 private:
     void push(MapEditorCommands::Command command);
@@ -93,4 +107,7 @@ private:
     QUndoStack m_undo;
     QString m_path;
     MapFile::Format m_format = MapFile::Unknown;
+    BackgroundPass m_pass;
+    FileWork m_fileWork = FileWork::None; // the last
+    std::shared_ptr<std::atomic<bool>> m_stopWriting;
 };

@@ -6,6 +6,7 @@
 #include "map_editor/map_editor_meta_pane.h"
 #include "map_editor/map_editor_plan_tool.h"
 #include "map_editor/map_editor_point_pane.h"
+#include "map_editor/map_editor_progress.h"
 #include "map_editor/map_editor_style_pane.h"
 #include "map_editor/map_editor_tree_model.h"
 #include "map_editor/map_editor_tree_pane.h"
@@ -33,7 +34,7 @@ constexpr int MessageMs = 8000;
 MapEditorWindow::MapEditorWindow(QWidget *parent)
     : QMainWindow(parent), m_element(new MapEditorElementPane(&m_document)), m_tree(new MapEditorTreePane(&m_document)),
       m_tabs(new QTabWidget), m_meta(new MapEditorMetaPane(&m_document)), m_style(new MapEditorStylePane(&m_document)),
-      m_toolBar(addToolBar(tr("Edit")))
+      m_toolBar(addToolBar(tr("Edit"))), m_progress(new MapEditorProgress)
 {
     setObjectName(stateGroup);
     // A click on the plan view, to draw there, is not to hide this window behind it.
@@ -70,7 +71,7 @@ void MapEditorWindow::buildLayout()
     setCentralWidget(splitter);
     m_toolBar->setObjectName(QStringLiteral("editToolBar"));
     m_toolBar->setMovable(false);
-    statusBar();
+    statusBar()->addPermanentWidget(m_progress);
 }
 
 QAction *MapEditorWindow::addAction(QMenu *menu, const QString &text, const QKeySequence &shortcut)
@@ -88,10 +89,12 @@ void MapEditorWindow::makeFileMenu()
         connect(action, &QAction::triggered, this, slot);
         return action;
     };
-    add(tr("&New"), QKeySequence(Qt::CTRL | Qt::Key_N), &MapEditorWindow::newMap);
-    m_toolBar->addAction(add(tr("&Open..."), QKeySequence(Qt::CTRL | Qt::Key_O), &MapEditorWindow::openChosenFile));
-    m_toolBar->addAction(add(tr("&Save"), QKeySequence(Qt::CTRL | Qt::Key_S), &MapEditorWindow::save));
-    add(tr("Save &As..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &MapEditorWindow::saveAs);
+    QAction *fresh = add(tr("&New"), QKeySequence(Qt::CTRL | Qt::Key_N), &MapEditorWindow::newMap);
+    QAction *open = add(tr("&Open..."), QKeySequence(Qt::CTRL | Qt::Key_O), &MapEditorWindow::openChosenFile);
+    QAction *save = add(tr("&Save"), QKeySequence(Qt::CTRL | Qt::Key_S), &MapEditorWindow::save);
+    QAction *saveAs = add(tr("Save &As..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &MapEditorWindow::saveAs);
+    m_fileActions = {fresh, open, save, saveAs};
+    m_toolBar->addActions({open, save});
     menu->addSeparator();
     add(tr("Open Style Sheet..."), {}, &MapEditorWindow::openChosenStyleSheet);
     add(tr("Save Style Sheet As..."), {}, &MapEditorWindow::saveStyleSheetAs);
@@ -107,6 +110,9 @@ void MapEditorWindow::makeEditMenu()
     undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
     QAction *redo = m_document.undoStack().createRedoAction(this);
     redo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Y));
+    // What they undo and redo stands in the menu: the other buttons of the bar keep their places.
+    undo->setIconText(tr("Undo"));
+    redo->setIconText(tr("Redo"));
     menu->addActions({undo, redo});
     menu->addSeparator();
     const auto add = [&](const QString &text, const QKeySequence &shortcut, auto slot) {
@@ -170,6 +176,13 @@ void MapEditorWindow::connectPanes()
     connect(m_element, &MapEditorElementPane::refused, this, &MapEditorWindow::tell);
     connect(&m_document.undoStack(), &QUndoStack::indexChanged, this, &MapEditorWindow::updateTitle);
     connect(&m_document, &MapEditorDocument::pathChanged, this, &MapEditorWindow::updateTitle);
+    connect(&m_document, &MapEditorDocument::progressed, m_progress, &MapEditorProgress::setPercent);
+    connect(m_progress, &MapEditorProgress::cancelled, this, [this] {
+        m_document.cancelFileWork();
+        if (m_document.fileWork() == MapEditorDocument::FileWork::None) {
+            endFileWork();
+        }
+    });
     connect(&m_document.styles(), &MapEditorStyles::changed, this, [this](const QString &name) {
         if (!name.isEmpty()) {
             Q_EMIT stylePreview(m_document.styles().sheet());

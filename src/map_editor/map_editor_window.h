@@ -5,12 +5,14 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 
 class GeoWidget;
 class MapEditorElementPane;
 class MapEditorMetaPane;
 class MapEditorPlanTool;
+class MapEditorProgress;
 class MapEditorStylePane;
 class MapEditorTreePane;
 class MapLibrary;
@@ -36,12 +38,16 @@ public:
 
     MapEditorDocument &document() { return m_document; }
 
-    // These report a failure to the operator, with the file and the reason, and return false. Unsaved changes are asked
-    // about before another map takes their place. An unknown format is found by the suffix.
-    bool openFile(const QString &path, MapFile::Format format = MapFile::Unknown);
+    // These tell the operator of a failure, with the file and the reason. Unsaved changes are asked about before
+    // another map takes their place. Maps are read and written beside everything else; what is asked for while one is
+    // being written is done afterwards, unless that fails. An unknown format is found by the suffix.
+    void openFile(const QString &path, MapFile::Format format = MapFile::Unknown);
+    void saveFile(const QString &path);
     bool openStyleSheet(const QString &path);
-    bool saveFile(const QString &path);
     bool saveStyleSheet(const QString &path);
+    // False when the window stays open: because the operator wants it to, or because a map has to be written first. It
+    // closes after that, and the function is called then.
+    bool closeThen(std::function<void()> closed);
 
     // An index of -1 means a group.
     void select(const MapElementRef &ref);
@@ -50,8 +56,8 @@ public Q_SLOTS:
     void newMap();
     void openChosenFile();
     // All that has changed: the map and the style sheet.
-    bool save();
-    bool saveAs();
+    void save();
+    void saveAs();
     void openChosenStyleSheet();
     bool saveStyleSheetAs();
 
@@ -95,8 +101,19 @@ private:
     void takeLibraryStyles();
     void commitFields();
 
-    // Asks what to do with unsaved changes; false when the operator cancels or saving fails.
-    bool settleChanges(bool ofMap, bool ofStyles);
+    // Asks what to do with unsaved changes. False when they are not settled: the operator cancels, saving fails, or the
+    // map is being written, in which case the function is called after a success.
+    bool settleChanges(bool ofMap, bool ofStyles, const std::function<void()> &settled);
+    // Calls it after the writing that is under way; false: there is none.
+    bool afterWriting(const std::function<void()> &next);
+    void takeLoaded(const MapLoad &loaded, const QString &path, MapFile::Format format, quint64 before);
+    void saveThen(const std::function<void()> &saved);
+    void saveAsThen(const std::function<void()> &saved);
+    void saveFileThen(const QString &path, const std::function<void()> &saved);
+    void fileWritten(const QString &path, bool good, const QString &error);
+    bool saveChangedStyles();
+    void beginFileWork(const QString &text);
+    void endFileWork();
     void discardChanges();
     void reportFailure(const QString &text, const QString &fileName, const QString &reason);
     void tell(const QString &text);
@@ -115,7 +132,12 @@ private:
     MapEditorStylePane *m_style;
     QToolBar *m_toolBar;
 
+    MapEditorProgress *m_progress = nullptr;
+    std::function<void()> m_afterWriting; // none: nothing
+    std::function<void()> m_afterClosing; // when it is put off
+
     QMenu *m_moveMenu = nullptr;
+    QList<QAction *> m_fileActions; // of no use while a file is being read or written
     QList<QAction *> m_selectionActions; // of use while something is selected
     QAction *m_drawAction = nullptr;
     QAction *m_centerAction = nullptr;

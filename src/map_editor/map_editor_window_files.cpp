@@ -3,6 +3,7 @@
 #include "app/map_places.h"
 #include "map_editor/map_editor_element_pane.h"
 #include "map_editor/map_editor_meta_pane.h"
+#include "map_editor/map_editor_progress.h"
 #include "map_editor/map_editor_window.h"
 #include "maps/map_library.h"
 
@@ -11,7 +12,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QProgressDialog>
 
 namespace {
 
@@ -33,13 +33,40 @@ void MapEditorWindow::commitFields()
     m_meta->commit();
 }
 
+void MapEditorWindow::beginFileWork(const QString &text)
+{
+    m_progress->begin(text);
+    for (QAction *action : std::as_const(m_fileActions)) {
+        action->setEnabled(false);
+    }
+}
+
+void MapEditorWindow::endFileWork()
+{
+    m_progress->end();
+    for (QAction *action : std::as_const(m_fileActions)) {
+        action->setEnabled(true);
+    }
+}
+
+bool MapEditorWindow::afterWriting(const std::function<void()> &next)
+{
+    if (m_document.fileWork() != MapEditorDocument::FileWork::Writing) {
+        return false;
+    }
+    m_afterWriting = next;
+    return true;
+}
+
 void MapEditorWindow::newMap()
 {
     commitFields();
-    if (!settleChanges(true, false)) {
+    const auto again = [this] { newMap(); };
+    if (afterWriting(again) || !settleChanges(true, false, again)) {
         return;
     }
     m_document.newMap();
+    endFileWork();
     updateTitle();
 }
 
@@ -51,33 +78,42 @@ void MapEditorWindow::openChosenFile()
     }
 }
 
-bool MapEditorWindow::openFile(const QString &path, MapFile::Format format)
+void MapEditorWindow::openFile(const QString &path, MapFile::Format stated)
 {
     commitFields();
-    if (!settleChanges(true, false)) {
-        return false;
+    const auto again = [this, path, stated] { openFile(path, stated); };
+    if (afterWriting(again) || !settleChanges(true, false, again)) {
+        return;
     }
-    QProgressDialog progress(tr("Reading %1").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100, this);
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(500);
-    const auto show = [&progress](qint64 read, qint64 total) {
-        progress.setValue(total > 0 ? static_cast<int>(99 * read / total) : 0);
-        return !progress.wasCanceled();
-    };
-    QString reason;
-    const bool opened = m_document.open(path, &reason, format, show);
-    progress.reset();
-    if (!opened) {
-        reportFailure(tr("The map could not be opened."), path, reason);
+    const MapFile::Format format = stated == MapFile::Unknown ? MapFile::formatFromFileName(path) : stated;
+    const quint64 before = m_document.store().state().current;
+    beginFileWork(tr("Reading %1").arg(QFileInfo(path).fileName()));
+    m_document.load(path, format, [this, path, format, before](const MapLoad &loaded) {
+        endFileWork();
+        takeLoaded(loaded, path, format, before);
+    });
+}
+
+void MapEditorWindow::takeLoaded(const MapLoad &loaded, const QString &path, MapFile::Format format, quint64 before)
+{
+    if (!loaded.data) {
+        reportFailure(tr("The map could not be opened."), path, loaded.error);
+        return;
     }
+    commitFields();
+    // What was changed while the file was being read has not been asked about.
+    const auto again = [this, path, format] { openFile(path, format); };
+    if (m_document.store().state().current != before && !settleChanges(true, false, again)) {
+        return;
+    }
+    m_document.take(*loaded.data, path, format);
     updateTitle();
-    return opened;
 }
 
 bool MapEditorWindow::openStyleSheet(const QString &path)
 {
     commitFields();
-    if (!settleChanges(false, true)) {
+    if (!settleChanges(false, true, {})) {
         return false;
     }
     MapStyleSheet sheet;
@@ -101,21 +137,43 @@ void MapEditorWindow::openChosenStyleSheet()
     }
 }
 
-bool MapEditorWindow::save()
+void MapEditorWindow::save()
 {
-    commitFields();
-    bool complete = true;
-    if (m_document.isModified()) {
-        complete = m_document.canSave() ? saveFile(m_document.path()) : saveAs();
-    }
-    if (complete && m_document.styles().isModified()) {
-        const QString file = m_document.styles().file();
-        complete = file.isEmpty() ? saveStyleSheetAs() : saveStyleSheet(MapPlaces::writable(file));
-    }
-    return complete;
+    saveThen({});
 }
 
-bool MapEditorWindow::saveAs()
+void MapEditorWindow::saveThen(const std::function<void()> &saved)
+{
+    commitFields();
+    const auto rest = [this, saved] {
+        if (saveChangedStyles() && saved) {
+            saved();
+        }
+    };
+    if (!m_document.isModified()) {
+        rest();
+    } else if (m_document.canSave()) {
+        saveFileThen(m_document.path(), rest);
+    } else {
+        saveAsThen(rest);
+    }
+}
+
+bool MapEditorWindow::saveChangedStyles()
+{
+    if (!m_document.styles().isModified()) {
+        return true;
+    }
+    const QString file = m_document.styles().file();
+    return file.isEmpty() ? saveStyleSheetAs() : saveStyleSheet(MapPlaces::writable(file));
+}
+
+void MapEditorWindow::saveAs()
+{
+    saveAsThen({});
+}
+
+void MapEditorWindow::saveAsThen(const std::function<void()> &saved)
 {
     commitFields();
     const QFileInfo former(m_document.path());
@@ -127,28 +185,48 @@ bool MapEditorWindow::saveAs()
     QString path = QFileDialog::getSaveFileName(
         this, tr("Save Static Map"), suggested, tr("XML map (*.xml);;Binary map (*.map)"), &filter);
     if (path.isEmpty()) {
-        return false;
+        return;
     }
     if (QFileInfo(path).suffix().isEmpty()) {
         path += filter.contains(QStringLiteral("*.map")) ? QStringLiteral(".map") : QStringLiteral(".xml");
     }
-    return saveFile(path);
+    saveFileThen(path, saved);
 }
 
-bool MapEditorWindow::saveFile(const QString &path)
+void MapEditorWindow::saveFile(const QString &path)
 {
-    QString reason;
+    saveFileThen(path, {});
+}
+
+void MapEditorWindow::saveFileThen(const QString &path, const std::function<void()> &saved)
+{
+    if (afterWriting([this, path, saved] { saveFileThen(path, saved); })) {
+        return;
+    }
     const bool same = path == m_document.path();
     const MapFile::Format format = same ? m_document.format() : MapFile::formatFromFileName(path);
-    const bool written = m_document.saveAs(path, format, &reason);
+    m_afterWriting = saved;
+    beginFileWork(tr("Saving %1").arg(QFileInfo(path).fileName()));
+    m_document.saveAs(path, format, [this, path](bool done, const QString &error) { fileWritten(path, done, error); });
+}
+
+void MapEditorWindow::fileWritten(const QString &path, bool good, const QString &error)
+{
+    const auto next = std::exchange(m_afterWriting, {});
+    endFileWork();
     updateTitle();
-    if (!written) {
-        reportFailure(tr("The map could not be saved."), path, reason);
-        return false;
+    if (good) {
+        tell(tr("Saved %1").arg(QDir::toNativeSeparators(path)));
+        Q_EMIT saved(path);
+        if (next) {
+            next();
+        }
+        return;
     }
-    tell(tr("Saved %1").arg(QDir::toNativeSeparators(path)));
-    Q_EMIT saved(path);
-    return true;
+    m_afterClosing = {};
+    if (!error.isEmpty()) {
+        reportFailure(tr("The map could not be saved."), path, error);
+    }
 }
 
 bool MapEditorWindow::saveStyleSheetAs()
@@ -172,7 +250,7 @@ bool MapEditorWindow::saveStyleSheet(const QString &path)
     return true;
 }
 
-bool MapEditorWindow::settleChanges(bool ofMap, bool ofStyles)
+bool MapEditorWindow::settleChanges(bool ofMap, bool ofStyles, const std::function<void()> &settled)
 {
     const bool map = ofMap && m_document.isModified();
     if (!map && !(ofStyles && m_document.styles().isModified())) {
@@ -183,14 +261,15 @@ bool MapEditorWindow::settleChanges(bool ofMap, bool ofStyles)
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
     question.setInformativeText(tr("Save the changes?"));
     question.setDefaultButton(QMessageBox::Save);
-    switch (question.exec()) {
-    case QMessageBox::Save:
-        return save();
-    case QMessageBox::Discard:
-        return true;
-    default:
+    const int answer = question.exec();
+    if (answer != QMessageBox::Save) {
+        return answer == QMessageBox::Discard;
+    }
+    if (map) {
+        saveThen(settled);
         return false;
     }
+    return saveChangedStyles();
 }
 
 void MapEditorWindow::discardChanges()
@@ -207,20 +286,38 @@ void MapEditorWindow::discardChanges()
     }
 }
 
+bool MapEditorWindow::closeThen(std::function<void()> closed)
+{
+    m_afterClosing = std::move(closed);
+    const bool atOnce = close();
+    if (atOnce || !m_afterWriting) {
+        m_afterClosing = {};
+    }
+    return atOnce;
+}
+
 void MapEditorWindow::closeEvent(QCloseEvent *event)
 {
     commitFields();
-    if (!settleChanges(true, true)) {
+    const auto again = [this] {
+        const auto closed = std::exchange(m_afterClosing, {});
+        if (closeThen(closed) && closed) {
+            closed();
+        }
+    };
+    if (afterWriting(again) || !settleChanges(true, true, again)) {
         event->ignore();
         return;
     }
     discardChanges();
+    endFileWork();
     QMainWindow::closeEvent(event);
 }
 
 void MapEditorWindow::reportFailure(const QString &text, const QString &fileName, const QString &reason)
 {
-    QMessageBox box(QMessageBox::Warning, tr("Static Map Editor"), text, QMessageBox::Ok, this);
-    box.setInformativeText(QStringLiteral("%1\n%2").arg(QDir::toNativeSeparators(fileName), reason));
-    box.exec();
+    auto *box = new QMessageBox(QMessageBox::Warning, tr("Static Map Editor"), text, QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setInformativeText(QStringLiteral("%1\n%2").arg(QDir::toNativeSeparators(fileName), reason));
+    box->open();
 }

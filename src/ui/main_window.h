@@ -205,6 +205,7 @@ private:
     void saveUiState() const;
     void arrangeDocks();
     bool confirmExit();
+    void closeMapsAndShutDown();
     void beginShutdown();
     void forceShutdown();
 

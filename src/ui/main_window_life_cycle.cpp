@@ -121,11 +121,14 @@ void MainWindow::closeEvent(QCloseEvent *event)
     if (m_shutdown == Shutdown::Begun || (m_session->state() != InputSession::State::Closed && !m_exitQuestion())) {
         return;
     }
-    if (!m_mapWindows->close()) {
-        return; // the operator wants to look after his unsaved changes
-    }
-    // While the question stood open the program may have been told to end.
-    if (m_shutdown == Shutdown::NotBegun) {
+    closeMapsAndShutDown();
+}
+
+// Not when the operator wants to look after his unsaved changes. While he was asked, or a map was written, the program
+// may have been told to end.
+void MainWindow::closeMapsAndShutDown()
+{
+    if (m_mapWindows->close([this] { closeMapsAndShutDown(); }) && m_shutdown == Shutdown::NotBegun) {
         beginShutdown();
     }
 }

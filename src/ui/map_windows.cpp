@@ -142,7 +142,7 @@ bool MapWindows::settle(const Config &edited)
     return stays || !m_maps || m_maps->settleChanges();
 }
 
-bool MapWindows::close()
+bool MapWindows::close(const std::function<void()> &editorClosed)
 {
-    return (!m_editor || m_editor->close()) && (!m_maps || m_maps->close());
+    return (!m_editor || m_editor->closeThen(editorClosed)) && (!m_maps || m_maps->close());
 }

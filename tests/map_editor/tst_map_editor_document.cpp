@@ -1,3 +1,4 @@
+#include "busy_workers.h"
 #include "geo/mercator_projector.h"
 #include "map_editor/map_editor_document.h"
 #include "map_editor/map_editor_geometry.h"
@@ -26,6 +27,8 @@ private Q_SLOTS:
     void failuresLoseNothing();
     void legacyIsSavedAsAnotherFormat();
     void namesTheFilesOfImages();
+    void savesTheMapAsItWas();
+    void aDocumentThatGoesIsWrittenToItsEnd();
     void savesStylesWithBackup();
 };
 
@@ -63,6 +66,38 @@ void write(const QString &path, const QByteArray &octets)
 {
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(octets) == octets.size());
+}
+
+bool idle(const MapEditorDocument &document)
+{
+    return QTest::qWaitFor([&] { return document.fileWork() == MapEditorDocument::FileWork::None; });
+}
+
+bool opens(MapEditorDocument &document, const QString &path, QString *error = nullptr)
+{
+    bool good = false;
+    const MapFile::Format format = MapFile::formatFromFileName(path);
+    document.load(path, format, [&](const MapLoad &loaded) {
+        good = !loaded.data.isNull();
+        if (good) {
+            document.take(*loaded.data, path, format);
+        } else if (error) {
+            *error = loaded.error;
+        }
+    });
+    return idle(document) && good;
+}
+
+bool saves(MapEditorDocument &document, const QString &path, MapFile::Format format, QString *error = nullptr)
+{
+    bool good = false;
+    document.saveAs(path, format, [&](bool saved, const QString &reason) {
+        good = saved;
+        if (error) {
+            *error = reason;
+        }
+    });
+    return idle(document) && good;
 }
 
 // Makes one change after another at random places.
@@ -270,7 +305,7 @@ void TestMapEditorDocument::modifiedFollowsUndoAndSaving()
     const QTemporaryDir dir;
     MapEditorDocument document;
     document.addGroup(QStringLiteral("one"), QStringLiteral("nil"));
-    QVERIFY(document.saveAs(dir.filePath("m.xml"), MapFile::Xml, nullptr));
+    QVERIFY(saves(document, dir.filePath("m.xml"), MapFile::Xml));
     QVERIFY(!document.isModified());
     document.putStyle(defaultStyleClass(QStringLiteral("nil")));
     QVERIFY(!document.isModified() && document.styles().isModified());
@@ -302,20 +337,20 @@ void TestMapEditorDocument::savesWithBackup()
     const QString path = dir.filePath(name);
     MapEditorDocument document;
     document.store().reset(sampleMap());
-    QVERIFY(document.saveAs(path, format, nullptr));
+    QVERIFY(saves(document, path, format));
     QVERIFY(!QFile::exists(path + ".bak"));
     for (const char *title : {"second", "third"}) {
         const QByteArray former = contents(path);
         MapData meta;
         meta.title = QString::fromLatin1(title);
         document.setMeta(meta);
-        QVERIFY(document.save(nullptr));
+        QVERIFY(saves(document, path, format));
         QCOMPARE(contents(path + ".bak"), former);
         QVERIFY(contents(path) != former);
     }
     MapEditorDocument again;
     QString error;
-    QVERIFY2(again.open(path, &error), qPrintable(error));
+    QVERIFY2(opens(again, path, &error), qPrintable(error));
     QCOMPARE(again.store().map().title, QStringLiteral("third"));
     QCOMPARE(again.store().map().groups, document.store().map().groups);
     QVERIFY(again.canSave() && !again.isModified());
@@ -327,21 +362,21 @@ void TestMapEditorDocument::failuresLoseNothing()
     const QString path = dir.filePath("m.map");
     MapEditorDocument document;
     document.store().reset(sampleMap());
-    QVERIFY(document.saveAs(path, MapFile::Map, nullptr));
+    QVERIFY(saves(document, path, MapFile::Map));
     document.setGroupName(0, QStringLiteral("changed"));
     const QByteArray onDisk = contents(path);
     // No backup can take the place of a folder that is not empty.
     QVERIFY(QDir(dir.path()).mkpath("m.map.bak/full"));
     QString error;
-    QVERIFY(!document.save(&error));
+    QVERIFY(!saves(document, path, MapFile::Map, &error));
     QCOMPARE(error, QStringLiteral("Cannot write backup file \"%1.bak\".").arg(path));
-    QVERIFY(!document.saveAs(dir.filePath("none/m.map"), MapFile::Map, &error));
+    QVERIFY(!saves(document, dir.filePath("none/m.map"), MapFile::Map, &error));
     QVERIFY(error.contains("none/m.map"));
-    QVERIFY(!document.saveAs(dir.filePath("m.mapx"), MapFile::Legacy, &error));
+    QVERIFY(!saves(document, dir.filePath("m.mapx"), MapFile::Legacy, &error));
     write(dir.filePath("bad.xml"), "<map><data><group");
     for (const char *name : {"bad.xml", "none.map", "m.txt"}) {
         error.clear();
-        QVERIFY(!document.open(dir.filePath(name), &error));
+        QVERIFY(!opens(document, dir.filePath(name), &error));
         QVERIFY(!error.isEmpty());
     }
     QCOMPARE(contents(path), onDisk);
@@ -356,10 +391,11 @@ void TestMapEditorDocument::legacyIsSavedAsAnotherFormat()
     const QByteArray legacy = R"(<airport><line class="route"><point lat="48" lon="16"/></line></airport>)";
     write(dir.filePath("old.mapx"), legacy);
     MapEditorDocument document;
-    QVERIFY(document.open(dir.filePath("old.mapx"), nullptr));
+    QVERIFY(opens(document, dir.filePath("old.mapx")));
     QString error;
-    QVERIFY(!document.canSave() && !document.save(&error) && !error.isEmpty());
-    QVERIFY(document.saveAs(dir.filePath("new.xml"), MapFile::Xml, &error));
+    QVERIFY(!document.canSave());
+    QVERIFY(!saves(document, dir.filePath("old.mapx"), MapFile::Legacy, &error) && !error.isEmpty());
+    QVERIFY(saves(document, dir.filePath("new.xml"), MapFile::Xml, &error));
     QVERIFY(document.canSave());
     QCOMPARE(contents(dir.filePath("old.mapx")), legacy);
 }
@@ -373,11 +409,43 @@ void TestMapEditorDocument::namesTheFilesOfImages()
     MapEditorDocument document;
     document.store().reset(map);
     for (int i = 0; i < 2; ++i) {
-        QVERIFY(document.saveAs(dir.filePath("m.xml"), MapFile::Xml, nullptr));
+        QVERIFY(saves(document, dir.filePath("m.xml"), MapFile::Xml));
     }
     QCOMPARE(document.store().map().groups[1].images[0].file, QStringLiteral("m-2.png"));
     QCOMPARE(QDir(dir.path()).entryList({"*.png"}, QDir::Files), QStringList({"m-1.png", "m-2.png"}));
     QCOMPARE(contents(dir.filePath("m-1.png")), QByteArray("taken"));
+}
+
+// Not as it is when a worker gets to it.
+void TestMapEditorDocument::savesTheMapAsItWas()
+{
+    const QTemporaryDir dir;
+    MapEditorDocument document;
+    document.store().reset(sampleMap());
+    document.setGroupName(0, QStringLiteral("saved"));
+    {
+        const BusyWorkers busy;
+        document.saveAs(dir.filePath("m.map"), MapFile::Map, [](bool, const QString &) {});
+        document.setGroupName(0, QStringLiteral("later"));
+    }
+    QVERIFY(idle(document) && document.isModified());
+    document.undoStack().undo();
+    QVERIFY(!document.isModified());
+    MapEditorDocument again;
+    QVERIFY(opens(again, dir.filePath("m.map")));
+    QCOMPARE(again.store().map().groups[0].name, QStringLiteral("saved"));
+}
+
+void TestMapEditorDocument::aDocumentThatGoesIsWrittenToItsEnd()
+{
+    const QTemporaryDir dir;
+    {
+        const BusyWorkers busy;
+        MapEditorDocument document;
+        document.store().reset(sampleMap());
+        document.saveAs(dir.filePath("m.map"), MapFile::Map, [](bool, const QString &) {});
+    }
+    QTRY_VERIFY(loadMap(dir.filePath("m.map"), MapFile::Map, {}).data);
 }
 
 void TestMapEditorDocument::savesStylesWithBackup()

@@ -1,3 +1,4 @@
+#include "busy_workers.h"
 #include "display/geo_map_display.h"
 #include "geo/mercator_projector.h"
 #include "map_editor/map_editor_element_pane.h"
@@ -10,6 +11,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMouseEvent>
@@ -20,6 +22,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
 #include <QTreeView>
 
 class TestMapEditorWindow : public QObject {
@@ -45,10 +49,16 @@ private Q_SLOTS:
     void previewsStyles();
     void closingWithChangesAsks_data();
     void closingWithChangesAsks();
+    void closingWaitsForWhatIsBeingSaved();
+    void changesMadeWhileAMapIsReadAreAskedAbout();
+    void cancelledFileWorkChangesNothing();
     void failuresNameFileAndReason();
+    void toolButtonsKeepTheirPlaces();
 
 private:
     void answer(QMessageBox::StandardButton button);
+    bool saved(const QString &path);
+    MapData written() const;
     void mouse(QEvent::Type type, const QPointF &place, Qt::MouseButtons held = Qt::NoButton);
     void click(const QPointF &place);
     QPointF pixelOf(qsizetype point) const;
@@ -107,7 +117,7 @@ void TestMapEditorWindow::init()
     MapData map;
     map.groups = {group};
     m_window->document().store().reset(map);
-    QVERIFY(m_window->saveFile(m_dir->filePath("m.xml")));
+    QVERIFY(saved(m_dir->filePath("m.xml")));
     m_window->setGeoWidget(m_plan.get(), &m_projector);
     m_window->show();
     m_window->select(line);
@@ -123,12 +133,29 @@ void TestMapEditorWindow::cleanup()
 // Presses the button of the message box that comes up next.
 void TestMapEditorWindow::answer(QMessageBox::StandardButton button)
 {
-    QTimer::singleShot(0, this, [this, button] {
+    QTimer::singleShot(5, this, [this, button] {
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        QVERIFY(box);
+        if (!box) {
+            answer(button);
+            return;
+        }
         m_asked = box->text() + u'\n' + box->informativeText();
         box->button(button)->click();
     });
+}
+
+bool TestMapEditorWindow::saved(const QString &path)
+{
+    QSignalSpy spy(m_window.get(), &MapEditorWindow::saved);
+    m_window->saveFile(path);
+    return spy.wait();
+}
+
+// What is in the file.
+MapData TestMapEditorWindow::written() const
+{
+    const MapLoad loaded = loadMap(m_dir->filePath("m.xml"), MapFile::Xml, {});
+    return loaded.data ? *loaded.data : MapData();
 }
 
 void TestMapEditorWindow::mouse(QEvent::Type type, const QPointF &place, Qt::MouseButtons held)
@@ -274,13 +301,12 @@ void TestMapEditorWindow::fieldsTakeEffectWhenSaving()
     find<QLineEdit>("elementName")->setText(QStringLiteral("BIXIT"));
     find<QLineEdit>("coordinate")->setText(QStringLiteral("48.25, 16.75"));
     const QSignalSpy saved(m_window.get(), &MapEditorWindow::saved);
-    QVERIFY(m_window->save());
-    QCOMPARE(saved.size(), 1);
+    m_window->save();
+    QTRY_COMPARE(saved.size(), 1);
     QVERIFY(!m_window->isWindowModified());
-    MapEditorDocument written;
-    QVERIFY(written.open(m_dir->filePath("m.xml"), nullptr));
-    QCOMPARE(written.store().properties(symbol).name, QStringLiteral("BIXIT"));
-    QVERIFY(near(written.store().point(symbol, 0), GeoCoordinate(48.25, 16.75)));
+    const MapSymbolElement fix = written().groups.value(0).symbols.value(0);
+    QCOMPARE(fix.name, QStringLiteral("BIXIT"));
+    QVERIFY(near(fix.coordinate, GeoCoordinate(48.25, 16.75)));
 }
 
 void TestMapEditorWindow::typedCoordinatesAreChecked()
@@ -379,29 +405,117 @@ void TestMapEditorWindow::closingWithChangesAsks()
     answer(button);
     m_window->close();
     QVERIFY(m_asked.contains(QStringLiteral("map")));
+    QTRY_VERIFY(m_window->document().fileWork() == MapEditorDocument::FileWork::None);
     QTEST(!m_window->isVisible(), "closes");
-    MapEditorDocument written;
-    QVERIFY(written.open(m_dir->filePath("m.xml"), nullptr));
-    QTEST(static_cast<int>(written.store().pointCount(line)), "saved");
+    QTEST(static_cast<int>(written().groups.value(0).polylines.value(0).points.size()), "saved");
+}
+
+// Nobody stands still for it, and what was changed meanwhile is not lost either.
+void TestMapEditorWindow::closingWaitsForWhatIsBeingSaved()
+{
+    bool closed = false;
+    m_window->document().removePoints(line, {0});
+    {
+        BusyWorkers busy;
+        m_window->save();
+        QVERIFY(!m_window->closeThen([&closed] { closed = true; }));
+        m_window->document().removePoints(line, {0});
+        answer(QMessageBox::Save);
+        QVERIFY(m_window->isVisible() && !busy.waitedFor());
+    }
+    QTRY_VERIFY(closed);
+    QVERIFY(!m_window->isVisible());
+    QCOMPARE(written().groups.value(0).polylines.value(0).points.size(), 1);
+
+    // A failure keeps the window, and what is in it.
+    m_window->show();
+    m_window->document().addGroup(QStringLiteral("kept"), QStringLiteral("nil"));
+    closed = false;
+    m_window->saveFile(m_dir->filePath("none/m.map"));
+    QVERIFY(!m_window->closeThen([&closed] { closed = true; }));
+    answer(QMessageBox::Ok);
+    QTRY_VERIFY(m_asked.contains(QStringLiteral("none/m.map")));
+    QVERIFY(m_window->isVisible() && m_window->isWindowModified() && !closed);
+}
+
+void TestMapEditorWindow::changesMadeWhileAMapIsReadAreAskedAbout()
+{
+    QVERIFY(QFile::copy(m_dir->filePath("m.xml"), m_dir->filePath("other.xml")));
+    const QString other = m_dir->filePath("other.xml");
+    for (const QMessageBox::StandardButton button : {QMessageBox::Cancel, QMessageBox::Save}) {
+        m_asked.clear();
+        {
+            const BusyWorkers busy;
+            m_window->openFile(other);
+            m_window->document().setGroupName(0, QStringLiteral("changed %1").arg(button));
+        }
+        answer(button);
+        QTRY_VERIFY(!m_asked.isEmpty());
+        QCOMPARE(m_window->document().path(), m_dir->filePath("m.xml"));
+        if (button == QMessageBox::Cancel) {
+            m_window->document().undoStack().undo();
+        }
+    }
+    QTRY_COMPARE(m_window->document().path(), other);
+    QCOMPARE(written().groups.value(0).name, QStringLiteral("changed %1").arg(QMessageBox::Save));
+}
+
+void TestMapEditorWindow::cancelledFileWorkChangesNothing()
+{
+    const MapData before = written();
+    m_window->document().removePoints(line, {0});
+    {
+        const BusyWorkers busy;
+        m_window->save();
+        find<QToolButton>("cancelFileWork")->click();
+    }
+    QTRY_VERIFY(m_window->document().fileWork() == MapEditorDocument::FileWork::None);
+    QCOMPARE(written(), before);
+    QVERIFY(m_window->isWindowModified() && m_window->isVisible());
+    m_window->document().undoStack().undo();
+    {
+        const BusyWorkers busy;
+        m_window->openFile(m_dir->filePath("none.xml"));
+        find<QToolButton>("cancelFileWork")->click();
+    }
+    QTest::qWait(20);
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(m_window->document().path(), m_dir->filePath("m.xml"));
 }
 
 void TestMapEditorWindow::failuresNameFileAndReason()
 {
     const auto explained = [this](const char *file, auto access) {
         m_asked.clear();
-        answer(QMessageBox::Ok);
         const QString path = m_dir->filePath(QString::fromLatin1(file));
-        return !access(*m_window, path) && m_asked.contains(path);
+        access(*m_window, path);
+        answer(QMessageBox::Ok);
+        return QTest::qWaitFor([&] { return m_asked.contains(path); });
     };
-    QVERIFY(explained("none.xml", [](MapEditorWindow &window, const QString &path) { return window.openFile(path); }));
+    QVERIFY(explained("none.xml", [](MapEditorWindow &window, const QString &path) { window.openFile(path); }));
+    QVERIFY(explained("m.txt", [](MapEditorWindow &window, const QString &path) { window.openFile(path); }));
+    QVERIFY(explained("none/m.map", [](MapEditorWindow &window, const QString &path) { window.saveFile(path); }));
+    QVERIFY(explained("none.mss", [](MapEditorWindow &window, const QString &path) { window.openStyleSheet(path); }));
     QVERIFY(
-        explained("none/m.map", [](MapEditorWindow &window, const QString &path) { return window.saveFile(path); }));
-    QVERIFY(explained(
-        "none.mss", [](MapEditorWindow &window, const QString &path) { return window.openStyleSheet(path); }));
-    QVERIFY(explained(
-        "m.xml/s.mss", [](MapEditorWindow &window, const QString &path) { return window.saveStyleSheet(path); }));
+        explained("m.xml/s.mss", [](MapEditorWindow &window, const QString &path) { window.saveStyleSheet(path); }));
     QCOMPARE(linePoints().size(), 3);
     QCOMPARE(m_window->document().path(), m_dir->filePath("m.xml"));
+}
+
+void TestMapEditorWindow::toolButtonsKeepTheirPlaces()
+{
+    const auto places = [this] {
+        QList<QRect> rects;
+        for (const QToolButton *button : find<QToolBar>("editToolBar")->findChildren<QToolButton *>()) {
+            rects.append(button->geometry());
+        }
+        return rects;
+    };
+    const QList<QRect> before = places();
+    m_window->document().movePoint(line, 0, {48.1, 16.1});
+    m_window->document().undoStack().undo();
+    QTest::qWait(20);
+    QCOMPARE(places(), before);
 }
 
 VYX_TEST(TestMapEditorWindow)
