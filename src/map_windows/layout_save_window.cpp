@@ -1,13 +1,12 @@
 #include "map_windows/layout_save_window.h"
 
+#include "widgets/dialog_layout.h"
 #include "widgets/field_form.h"
 
 #include <QCheckBox>
 #include <QCompleter>
-#include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QVBoxLayout>
 
 LayoutSaveWindow::LayoutSaveWindow(const QStringList &names, QWidget *parent)
     : GeometryDialog(QStringLiteral("LayoutSaveWindow"), parent), m_names(names),
@@ -22,14 +21,8 @@ LayoutSaveWindow::LayoutSaveWindow(const QStringList &names, QWidget *parent)
     m_makeCurrent->setToolTip(tr("The current layout is shown again when the program is started."));
     m_form->addField(tr("&Name:"), m_name);
     m_form->addField(m_makeCurrent);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel, Qt::Horizontal, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &LayoutSaveWindow::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &LayoutSaveWindow::reject);
     connect(m_name, &QLineEdit::textChanged, this, [this] { m_form->clearNotes(); });
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_form);
-    layout->addStretch(1);
-    layout->addWidget(buttons);
+    layOutDialog(this, m_form, QDialogButtonBox::Save | QDialogButtonBox::Cancel);
 }
 
 void LayoutSaveWindow::setName(const QString &name)

@@ -91,7 +91,6 @@ QString DisplayConfigPage::timeZoneProblem() const
 
 bool DisplayConfigPage::validate()
 {
-    const bool centred = m_center->coordinate().isValid();
-    const bool centreGood = form()->check(m_center, centred ? QString() : tr("INVALID COORDINATE"));
+    const bool centreGood = form()->checkCoordinate(m_center);
     return form()->check(m_timeZone, timeZoneProblem()) && centreGood;
 }

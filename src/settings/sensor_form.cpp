@@ -147,8 +147,7 @@ bool SensorForm::validate()
         nameProblem = tr("Another sensor is named \"%1\".").arg(name);
     }
     bool valid = m_form->check(m_name, nameProblem);
-    const bool located = m_location->coordinate().isValid();
-    valid = m_form->check(m_location, located ? QString() : tr("INVALID COORDINATE")) && valid;
+    valid = m_form->checkCoordinate(m_location) && valid;
     for (const auto &fields : m_typeFields) {
         valid = (fields->type() != type() || fields->check()) && valid;
     }

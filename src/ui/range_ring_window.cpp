@@ -1,14 +1,13 @@
 #include "ui/range_ring_window.h"
 
 #include "widgets/coordinate_edit.h"
+#include "widgets/dialog_layout.h"
 #include "widgets/field_form.h"
 #include "widgets/range_ring_fields.h"
 
-#include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QVBoxLayout>
 
 RangeRingWindow::RangeRingWindow(QWidget *parent)
     : GeometryDialog(QStringLiteral("RangeRingWindow"), parent), m_form(new FieldForm(this)),
@@ -20,17 +19,9 @@ RangeRingWindow::RangeRingWindow(QWidget *parent)
     m_form->addField(tr("&Centre:"), m_center);
     m_form->addField(tr("&Number of rings:"), m_number);
     m_form->addField(tr("&Distance between rings:"), m_distance);
-    auto *buttons = new QDialogButtonBox(
-        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, Qt::Horizontal, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &RangeRingWindow::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &RangeRingWindow::reject);
+    const auto *buttons =
+        layOutDialog(this, m_form, QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply);
     connect(buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, &RangeRingWindow::apply);
-    connect(m_center, &QLineEdit::textChanged, this, [this] { m_form->clearNotes(); });
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_form);
-    layout->addSpacing(8);
-    layout->addStretch(1);
-    layout->addWidget(buttons);
 }
 
 void RangeRingWindow::setRings(const GeoCoordinate &center, int number, double distance)
@@ -42,12 +33,11 @@ void RangeRingWindow::setRings(const GeoCoordinate &center, int number, double d
 
 bool RangeRingWindow::apply()
 {
-    const GeoCoordinate center = m_center->coordinate();
-    if (!m_form->check(m_center, center.isValid() ? QString() : tr("INVALID COORDINATE"))) {
+    if (!m_form->checkCoordinate(m_center)) {
         m_center->setFocus();
         return false;
     }
-    Q_EMIT ringsEntered(center, m_number->value(), m_distance->value());
+    Q_EMIT ringsEntered(m_center->coordinate(), m_number->value(), m_distance->value());
     return true;
 }
 

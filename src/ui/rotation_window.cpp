@@ -1,11 +1,10 @@
 #include "ui/rotation_window.h"
 
 #include "view/geo_view.h"
+#include "widgets/dialog_layout.h"
 #include "widgets/field_form.h"
 
-#include <QDialogButtonBox>
 #include <QDoubleSpinBox>
-#include <QVBoxLayout>
 
 RotationWindow::RotationWindow(QWidget *parent)
     : GeometryDialog(QStringLiteral("RotationWindow"), parent), m_rotation(new QDoubleSpinBox)
@@ -19,14 +18,7 @@ RotationWindow::RotationWindow(QWidget *parent)
     m_rotation->setToolTip(tr("Positive turns the picture clockwise"));
     auto *form = new FieldForm(this);
     form->addField(tr("&Rotation, clockwise:"), m_rotation);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, Qt::Horizontal, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &RotationWindow::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &RotationWindow::reject);
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(form);
-    layout->addSpacing(8);
-    layout->addStretch(1);
-    layout->addWidget(buttons);
+    layOutDialog(this, form, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
 }
 
 void RotationWindow::setRotation(double degrees)

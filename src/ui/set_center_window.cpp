@@ -2,11 +2,10 @@
 
 #include "app/ui_state.h"
 #include "widgets/coordinate_edit.h"
+#include "widgets/dialog_layout.h"
 #include "widgets/field_form.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -25,16 +24,8 @@ SetCenterWindow::SetCenterWindow(QWidget *parent)
     m_recent->setPlaceholderText(tr("choose one"));
     m_form->addField(tr("&Coordinate:"), m_center);
     m_form->addField(tr("&Recent:"), m_recent);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, Qt::Horizontal, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &SetCenterWindow::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &SetCenterWindow::reject);
-    connect(m_center, &QLineEdit::textChanged, this, [this] { m_form->clearNotes(); });
     connect(m_recent, &QComboBox::textActivated, m_center, &QLineEdit::setText);
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_form);
-    layout->addSpacing(8);
-    layout->addStretch(1);
-    layout->addWidget(buttons);
+    layOutDialog(this, m_form, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     const QString recent = QString::fromLatin1(UiState::value(stateGroup(), recentKey));
     m_recent->addItems(recent.split(u' ', Qt::SkipEmptyParts));
     m_recent->setCurrentIndex(-1);
@@ -50,11 +41,11 @@ void SetCenterWindow::setCenter(const GeoCoordinate &center)
 
 void SetCenterWindow::accept()
 {
-    const GeoCoordinate center = m_center->coordinate();
-    if (!m_form->check(m_center, center.isValid() ? QString() : tr("INVALID COORDINATE"))) {
+    if (!m_form->checkCoordinate(m_center)) {
         m_center->setFocus();
         return;
     }
+    const GeoCoordinate center = m_center->coordinate();
     remember(center.toATCString());
     Q_EMIT centerEntered(center);
     QDialog::accept();

@@ -1,16 +1,15 @@
 #include "ui/weather_intensity_window.h"
 
 #include "display/geo_weather_map.h"
+#include "widgets/dialog_layout.h"
 #include "widgets/figure_font.h"
 
 #include <QCheckBox>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -37,28 +36,24 @@ WeatherIntensityWindow::WeatherIntensityWindow(GeoWeatherMap *weather, QWidget *
     : GeometryDialog(QStringLiteral("WeatherIntensityWindow"), parent), m_weather(weather)
 {
     setWindowTitle(tr("Weather Intensity"));
-    auto *layout = new QVBoxLayout(this);
-    auto *grid = new QGridLayout;
+    auto *levels = new QWidget(this);
+    auto *grid = new QGridLayout(levels);
+    grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(24);
     grid->setColumnStretch(0, 1);
-    layout->addLayout(grid);
     // The strongest on top, as on the scale beside a weather picture.
     for (int level = 0; level < GeoWeatherMap::LevelCount; ++level) {
         addLevel(level);
         grid->addWidget(m_levels[level].box, GeoWeatherMap::LevelCount - level, 0);
         grid->addWidget(m_levels[level].count, GeoWeatherMap::LevelCount - level, 1);
     }
-    layout->addSpacing(8);
-    layout->addStretch(1);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, Qt::Horizontal, this);
+    auto *buttons = layOutDialog(this, levels, QDialogButtonBox::Close);
     const auto addButton = [this, buttons](const QString &text, bool visible) {
         auto *button = buttons->addButton(text, QDialogButtonBox::ActionRole);
         connect(button, &QPushButton::clicked, this, [this, visible] { setAll(visible); });
     };
     addButton(tr("&All"), true);
     addButton(tr("&None"), false);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
-    layout->addWidget(buttons);
     connect(m_weather, &GeoWeatherMap::pictureChanged, this, &WeatherIntensityWindow::refresh);
     refresh();
 }

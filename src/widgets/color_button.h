@@ -12,7 +12,7 @@ public:
 
     QColor color() const { return m_color; }
     void setColor(const QColor &color);
-    // Lets the operator choose how much shows through as well.
+    // Lets the operator choose the opacity too.
     void setAlphaShown(bool shown) { m_alphaShown = shown; }
 
 Q_SIGNALS:

@@ -6,17 +6,45 @@
 
 #include <QRegularExpressionValidator>
 
+#include <cmath>
+
 namespace {
 
+// Brings what was typed into the ATC format before that format's own validator, if any, sees it.
 class CoordinateTextValidator final : public QValidator {
 public:
-    using QValidator::QValidator;
+    CoordinateTextValidator(GeoCoordinate::ATCStringFormat format, const QValidator *ofFormat, QObject *parent)
+        : QValidator(parent), m_format(format), m_ofFormat(ofFormat)
+    {
+    }
 
     State validate(QString &text, int &) const override
     {
-        return coordinateFromText(text).isValid() ? Acceptable : Intermediate;
+        const GeoCoordinate coordinate = coordinateFromText(text);
+        QString normal = coordinate.toATCString(m_format);
+        int end = 0;
+        const bool good =
+            coordinate.isValid() && (!m_ofFormat || m_ofFormat->validate(normal, end) == QValidator::Acceptable);
+        return good ? Acceptable : Intermediate;
     }
+
+private:
+    const GeoCoordinate::ATCStringFormat m_format;
+    const QValidator *const m_ofFormat; // null: none
 };
+
+// Whether the position needs more than whole seconds.
+bool hasHundredths(const GeoCoordinate &coordinate)
+{
+    constexpr double PerDegree = 360000.0;
+    const auto odd = [](double degrees) { return std::llround(std::abs(degrees) * PerDegree) % 100 != 0; };
+    return odd(coordinate.latitude()) || odd(coordinate.longitude());
+}
+
+GeoCoordinate exampleCoordinate()
+{
+    return GeoCoordinate(40.05, 116.0 + 44.0 / 60.0);
+}
 
 } // namespace
 
@@ -24,25 +52,26 @@ CoordinateEdit::CoordinateEdit(GeoCoordinate::ATCStringFormat format, QWidget *p
     : QLineEdit(parent), m_format(format)
 {
     const bool precise = format == GeoCoordinate::HighPrecision;
-    setValidator(
-        precise ? InputValidator::atcCoordinateHighPrecisionValidator() : InputValidator::atcCoordinateValidator());
-    const QString example = GeoCoordinate(40.05, 116.0 + 44.0 / 60.0).toATCString(format);
+    const QValidator *ofFormat =
+        precise ? InputValidator::atcCoordinateHighPrecisionValidator() : InputValidator::atcCoordinateValidator();
+    setValidator(new CoordinateTextValidator(format, ofFormat, this));
+    const QString example = exampleCoordinate().toATCString(format);
     setPlaceholderText(tr("such as %1").arg(example));
-    setToolTip(precise ? tr("Latitude and longitude in degrees, minutes, seconds and hundredths: %1").arg(example)
-                       : tr("Latitude and longitude in degrees, minutes and seconds: %1").arg(example));
+    setToolTip(tr("Latitude and longitude, as %1, %2 or with signs and letters")
+                   .arg(example, exampleCoordinate().toATCString(GeoCoordinate::DecimalDegrees)));
     setMinimumWidth(fontMetrics().horizontalAdvance(placeholderText()) + 24);
     connect(this, &QLineEdit::textEdited, this, [this](const QString &typed) {
         const int cursor = cursorPosition();
         setText(typed.toUpper());
         setCursorPosition(cursor);
     });
+    connect(this, &QLineEdit::editingFinished, this, &CoordinateEdit::showAsAtcText);
 }
 
-CoordinateEdit::CoordinateEdit(QWidget *parent)
-    : QLineEdit(parent), m_anyNotation(true), m_format(GeoCoordinate::HighPrecision)
+CoordinateEdit::CoordinateEdit(QWidget *parent) : QLineEdit(parent), m_format(GeoCoordinate::HighPrecision)
 {
-    setValidator(new CoordinateTextValidator(this));
-    const GeoCoordinate example(40.05, 116.0 + 44.0 / 60.0);
+    setValidator(new CoordinateTextValidator(m_format, nullptr, this));
+    const GeoCoordinate example = exampleCoordinate();
     setPlaceholderText(tr("such as %1").arg(example.toATCString(m_format)));
     setToolTip(tr("Latitude and longitude: %1, %2 or %3")
                    .arg(example.toATCString(), example.toATCString(m_format),
@@ -60,23 +89,41 @@ void CoordinateEdit::showReadable()
     setPalette(colors);
 }
 
+void CoordinateEdit::showAsAtcText()
+{
+    const GeoCoordinate entered = coordinate();
+    if (entered.isValid() && text() != m_setText) {
+        hold(entered, hasHundredths(entered) ? GeoCoordinate::HighPrecision : m_format);
+    }
+}
+
 GeoCoordinate CoordinateEdit::coordinate() const
 {
     if (m_set.isValid() && text() == m_setText) {
         return m_set;
     }
-    if (!hasAcceptableInput()) {
+    return hasAcceptableInput() ? coordinateFromText(text()) : GeoCoordinate();
+}
+
+QString CoordinateEdit::problem() const
+{
+    if (coordinate().isValid()) {
         return {};
     }
-    if (m_anyNotation) {
-        return coordinateFromText(text());
-    }
-    return GeoCoordinate::fromATCString(text().toUpper(), m_format);
+    const CoordinateFault fault = readCoordinate(text()).fault;
+    return fault == CoordinateFault::None
+        ? tr("Latitudes have to be below 90°, longitudes below 180°: such as 395427N1162317E.")
+        : coordinateFaultText(fault);
 }
 
 void CoordinateEdit::setCoordinate(const GeoCoordinate &coordinate)
 {
+    hold(coordinate, m_format);
+}
+
+void CoordinateEdit::hold(const GeoCoordinate &coordinate, GeoCoordinate::ATCStringFormat format)
+{
     m_set = coordinate;
-    m_setText = coordinate.toATCString(m_format);
+    m_setText = coordinate.toATCString(format);
     setText(m_setText);
 }

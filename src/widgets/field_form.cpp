@@ -1,5 +1,7 @@
 #include "widgets/field_form.h"
 
+#include "widgets/coordinate_edit.h"
+
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QGridLayout>
@@ -48,7 +50,7 @@ void FieldForm::addField(QWidget *field)
 
 void FieldForm::place(QWidget *field, QLabel *label)
 {
-    // What is narrow by nature stands beside its label, not at the far end of a wide column.
+    // Spin boxes and buttons keep their natural width instead of filling the column.
     const bool narrow = qobject_cast<QAbstractSpinBox *>(field) || qobject_cast<QAbstractButton *>(field);
     m_grid->addWidget(field, m_nextRow++, 1, narrow ? Qt::AlignLeft : Qt::Alignment());
     auto *note = new QLabel(this);
@@ -61,6 +63,13 @@ void FieldForm::place(QWidget *field, QLabel *label)
     m_grid->addWidget(note, m_nextRow++, 1);
     m_rows.insert(field, Row{label, note});
     m_order.append(field);
+    if (auto *coordinate = qobject_cast<CoordinateEdit *>(field)) {
+        connect(coordinate, &QLineEdit::textChanged, this, [this, coordinate] {
+            if (!this->note(coordinate).isEmpty()) {
+                checkCoordinate(coordinate);
+            }
+        });
+    }
 }
 
 void FieldForm::addSpacing()
@@ -93,6 +102,12 @@ bool FieldForm::check(QWidget *field, const QString &problem)
         row.note->setVisible(!problem.isEmpty());
     }
     return problem.isEmpty();
+}
+
+bool FieldForm::checkCoordinate(CoordinateEdit *field)
+{
+    const QString problem = field->problem();
+    return check(field, problem.isEmpty() ? problem : tr("INVALID COORDINATE") + u'\n' + problem);
 }
 
 void FieldForm::clearNotes()

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QWidget>
 
+class CoordinateEdit;
 class QGridLayout;
 class QLabel;
 
@@ -24,6 +25,9 @@ public:
 
     // Shows the problem under the field, or removes the note when the problem is empty; true when it is empty.
     bool check(QWidget *field, const QString &problem);
+    // The same with what is wrong with the coordinate. The note follows what is typed from then on, and goes when that
+    // is a coordinate.
+    bool checkCoordinate(CoordinateEdit *field);
     void clearNotes();
     QString note(const QWidget *field) const;
     // The field with the topmost note, or null.

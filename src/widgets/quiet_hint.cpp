@@ -10,7 +10,7 @@ QLabel *makeQuietHint(const QString &text, QWidget *parent)
     hint->setAlignment(Qt::AlignCenter);
     hint->setWordWrap(true);
     hint->setAttribute(Qt::WA_TransparentForMouseEvents);
-    hint->setForegroundRole(QPalette::WindowText); // on a view it would be another
+    hint->setForegroundRole(QPalette::WindowText); // an item view's default is another role
     QPalette palette = hint->palette();
     palette.setColor(QPalette::WindowText, quietTextColor(palette));
     hint->setPalette(palette);

@@ -4,5 +4,5 @@ class QLabel;
 class QString;
 class QWidget;
 
-// A quiet word where there is nothing to show, saying what to do about it. Owned by the parent.
+// A label in subdued colour for a place with nothing to show yet; it says what to do. Owned by the parent.
 QLabel *makeQuietHint(const QString &text, QWidget *parent);

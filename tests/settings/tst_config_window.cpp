@@ -135,8 +135,9 @@ void enter(const ConfigWindow &window, const Edits &edits)
 bool shows(const ConfigWindow &window, const QString &text)
 {
     const QList<QLabel *> labels = window.findChildren<QLabel *>();
-    return std::any_of(labels.begin(), labels.end(),
-        [&](const QLabel *label) { return label->text() == text && label->isVisibleTo(label->parentWidget()); });
+    return std::any_of(labels.begin(), labels.end(), [&](const QLabel *label) {
+        return label->text().startsWith(text) && label->isVisibleTo(label->parentWidget());
+    });
 }
 
 } // namespace

@@ -1,0 +1,30 @@
+#include "widgets/dialog_layout.h"
+
+#include <QDialog>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int Gap = 8; // pixels above the buttons
+
+} // namespace
+
+QDialogButtonBox *layOutDialog(QDialog *dialog, QWidget *contents, QDialogButtonBox::StandardButtons buttons)
+{
+    auto *box = new QDialogButtonBox(buttons, Qt::Horizontal, dialog);
+    QObject::connect(box, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
+    QObject::connect(box, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    for (const auto button : {QDialogButtonBox::Ok, QDialogButtonBox::Save, QDialogButtonBox::Close}) {
+        if (buttons & button) {
+            box->button(button)->setDefault(true);
+            break;
+        }
+    }
+    auto *layout = new QVBoxLayout(dialog);
+    layout->addWidget(contents);
+    layout->addSpacing(Gap);
+    layout->addStretch(1);
+    layout->addWidget(box);
+    return box;
+}
