@@ -226,21 +226,21 @@ void GeoStaticMap::paintPart(const GeoView &view, const QRect &part, const std::
     frame.crowded = m_crowded;
     frame.labels = &m_labels;
     for (const ShownMap &map : maps) {
-        std::vector<MapStyleClass> styles;
+        std::vector<Look> looks;
         for (const StaticMapGroup &group : map.geometry->groups()) {
-            styles.push_back(m_styles.style(group.className));
+            looks.push_back({m_styles.style(group.className), !m_styles.contains(group.className)});
         }
         for (const auto &elements : m_painters) {
-            for (std::size_t i = 0; i < styles.size(); ++i) {
+            for (std::size_t i = 0; i < looks.size(); ++i) {
                 paintGroup(
-                    painter, view, frame, map.geometry->groups()[i], map.geometry->period(), styles[i], *elements);
+                    painter, view, frame, map.geometry->groups()[i], map.geometry->period(), looks[i], *elements);
             }
         }
     }
 }
 
 void GeoStaticMap::paintGroup(QPainter &painter, const GeoView &view, const StaticMapFrame &frame,
-    const StaticMapGroup &group, double period, const MapStyleClass &style, StaticMapPainter &elements)
+    const StaticMapGroup &group, double period, const Look &look, StaticMapPainter &elements)
 {
     const PlaneBox reach = group.bounds.grown(WidestElement * frame.metresPerPixel);
     const auto [first, last] = copiesInSight(frame.sight, period);
@@ -253,6 +253,9 @@ void GeoStaticMap::paintGroup(QPainter &painter, const GeoView &view, const Stat
             continue;
         }
         ofCopy.toScreen = QTransform::fromTranslate(east, 0.0) * view.screenTransform();
-        elements.paint(painter, ofCopy, group, style);
+        if (look.cased) {
+            elements.paintCasing(painter, ofCopy, group, look.style);
+        }
+        elements.paint(painter, ofCopy, group, look.style);
     }
 }

@@ -63,6 +63,12 @@ private:
         }
     };
 
+    // How a group is painted.
+    struct Look {
+        MapStyleClass style;
+        bool cased = false; // set off against the ground, of which whoever chose the style knew nothing
+    };
+
     void prepare(const MapLibrary::Map &map);
     void prepareInBackground(quint64 id, Prepared &prepared);
     void takeGeometry(quint64 id, const Token &token, const StaticMapGeometry::Pointer &geometry);
@@ -71,7 +77,7 @@ private:
     void decideForRegion(const std::vector<ShownMap> &maps, double metresPerPixel);
     void paintPart(const GeoView &view, const QRect &part, const std::vector<ShownMap> &maps);
     static void paintGroup(QPainter &painter, const GeoView &view, const StaticMapFrame &frame,
-        const StaticMapGroup &group, double period, const MapStyleClass &style, StaticMapPainter &elements);
+        const StaticMapGroup &group, double period, const Look &look, StaticMapPainter &elements);
 
     Projector *m_projector;
     QList<MapLibrary::Map> m_maps;

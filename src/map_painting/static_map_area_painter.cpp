@@ -53,3 +53,12 @@ void StaticMapAreaPainter::paint(
         stroke.draw(area);
     }
 }
+
+void StaticMapAreaPainter::paintCasing(
+    QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group, const MapStyleClass &style)
+{
+    MapStyleClass casing = style;
+    casing.pen = casingPen(style.pen);
+    casing.brush = Qt::NoBrush;
+    paint(painter, frame, group, casing);
+}

@@ -8,4 +8,6 @@ class StaticMapAreaPainter final : public StaticMapPainter {
 public:
     void paint(QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group,
         const MapStyleClass &style) override;
+    void paintCasing(QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group,
+        const MapStyleClass &style) override;
 };

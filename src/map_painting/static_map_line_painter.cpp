@@ -17,3 +17,11 @@ void StaticMapLinePainter::paint(
         stroke.draw(line);
     }
 }
+
+void StaticMapLinePainter::paintCasing(
+    QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group, const MapStyleClass &style)
+{
+    MapStyleClass casing = style;
+    casing.pen = casingPen(style.pen);
+    paint(painter, frame, group, casing);
+}

@@ -6,4 +6,6 @@ class StaticMapLinePainter final : public StaticMapPainter {
 public:
     void paint(QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group,
         const MapStyleClass &style) override;
+    void paintCasing(QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group,
+        const MapStyleClass &style) override;
 };

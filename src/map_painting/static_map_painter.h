@@ -1,7 +1,5 @@
 #pragma once
 
-#include <memory>
-
 class QPainter;
 struct MapStyleClass;
 struct StaticMapFrame;
@@ -15,6 +13,9 @@ public:
     // The painter comes with logical pixels as its coordinates and keeps no state for the next call.
     virtual void paint(
         QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group, const MapStyleClass &style) = 0;
+
+    // Paints, to lie below the elements, a rim that sets them off against any ground. For those that need one.
+    virtual void paintCasing(QPainter &, const StaticMapFrame &, const StaticMapGroup &, const MapStyleClass &) { }
 
     // Groups and styles given before are no longer valid: nothing kept of them may be used.
     virtual void forget() { }

@@ -2,6 +2,7 @@
 
 #include "map_painting/static_map_frame.h"
 #include "map_painting/static_map_shape.h"
+#include "view/contrast.h"
 
 #include <QPainter>
 
@@ -56,6 +57,12 @@ double dashLength(const QPen &pen)
 }
 
 } // namespace
+
+QPen casingPen(const QPen &pen)
+{
+    constexpr double Rim = 1.0; // pixels on each side
+    return QPen(groundFor(pen.color()), std::max(pen.widthF(), 1.0) + 2.0 * Rim);
+}
 
 StaticMapStroke::StaticMapStroke(QPainter &painter, const StaticMapFrame &frame, const QPen &pen)
     : m_painter(painter), m_frame(frame), m_pen(affordable(pen, frame.crowded)), m_clip(frame, pen.widthF() + Softness),

@@ -11,6 +11,9 @@ class QPainter;
 class StaticMapShape;
 struct StaticMapFrame;
 
+// The pen for a rim round lines of this one, in black or white, whichever stands out from them.
+QPen casingPen(const QPen &pen);
+
 // Draws lines with a pen. Dashes begin at the line's start, in sight or not, so that they stay in place on the map.
 class StaticMapStroke {
 public:

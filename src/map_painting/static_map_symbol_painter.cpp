@@ -3,6 +3,7 @@
 #include "map_painting/static_map_frame.h"
 #include "map_painting/static_map_symbols.h"
 #include "maps/map_style_sheet.h"
+#include "view/contrast.h"
 
 #include <QPainter>
 
@@ -11,14 +12,28 @@
 void StaticMapSymbolPainter::paint(
     QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group, const MapStyleClass &style)
 {
+    draw(painter, frame, group, style.color, {});
+}
+
+void StaticMapSymbolPainter::paintCasing(
+    QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group, const MapStyleClass &style)
+{
+    for (const QPointF &offset : {QPointF(-1, 0), QPointF(1, 0), QPointF(0, -1), QPointF(0, 1)}) {
+        draw(painter, frame, group, groundFor(style.color), offset);
+    }
+}
+
+void StaticMapSymbolPainter::draw(QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group,
+    const QColor &color, const QPointF &offset)
+{
     const PlaneBox sight = frame.sight.grown(frame.symbolSize * frame.metresPerPixel);
     for (const StaticMapSymbol &symbol : group.symbols) {
         if (!sight.contains(symbol.place)) {
             continue;
         }
-        const QPointF place = wholePixel(frame.toScreen.map(symbol.place));
+        const QPointF place = wholePixel(frame.toScreen.map(symbol.place)) + offset;
         const int half = frame.symbolSize / 2;
-        painter.drawImage(place - QPointF(half, half), drawing(symbol.type, style.color, frame));
+        painter.drawImage(place - QPointF(half, half), drawing(symbol.type, color, frame));
     }
 }
 

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void smoothsImagesWhenConfigured();
     void detailIsNotMissedAtAnyScale();
     void areasAndLinesAreSoundCloseUp();
+    void whatHasNoStyleIsSeenOnAnyGround();
     void largeMapsArePreparedInTheBackground();
 };
 
@@ -209,6 +210,22 @@ void tst_StaticMapPicture::areasAndLinesAreSoundCloseUp()
     layer.setMaps({mapOf({lineGroup({west, east})})});
     const PaintedView view = painted(layer, 1.0, middle);
     QVERIFY(view.inkedNear(PaintedView::Middle) && view.ink() < 2000 && view.ink() > 400);
+}
+
+// The ground of the picture is black, as is what has no style.
+void tst_StaticMapPicture::whatHasNoStyleIsSeenOnAnyGround()
+{
+    const GeoCoordinate place(48.0, 16.0);
+    MapElementGroup symbols = group();
+    symbols.symbols = {{{}, QStringLiteral("waypoint"), place}};
+    const MapElementGroup line = lineGroup({{47.0, 16.0}, {49.0, 16.0}});
+    const MapElementGroup area = areaGroup(box(47.9, 15.9, 48.1, 16.1));
+    for (const MapElementGroup &element : {symbols, line, area}) {
+        QVERIFY(painted({mapOf({element})}, MapStyleSheet(), 200.0, place).ink() > 20);
+        const PaintedView styled = painted({mapOf({element})}, sheet({styleOf(Qt::black)}), 200.0, place);
+        QCOMPARE(styled.ink(), 0); // whoever chose black wants black
+    }
+    QVERIFY2(!painted({mapOf({area})}, MapStyleSheet(), 200.0, place).inked(PaintedView::Middle), "it is black itself");
 }
 
 void tst_StaticMapPicture::largeMapsArePreparedInTheBackground()
