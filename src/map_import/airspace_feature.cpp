@@ -67,7 +67,7 @@ const Kind *findKind(const QString &type)
             return &kind;
         }
     }
-    // A number that the list will have some day is an airspace all the same.
+    // Numbers that are added to the list later mean airspaces as well.
     return isNumber && number >= 0 ? &Kinds.front() : nullptr;
 }
 

@@ -16,9 +16,12 @@ bool FeatureReader::read(const QString &, const FeatureReaderOptions &, const Ma
 
 #else
 
+#include "map_import/watched_files.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
 #include <cpl_conv.h>
 #include <cpl_error.h>
@@ -31,8 +34,9 @@ bool FeatureReader::read(const QString &, const FeatureReaderOptions &, const Ma
 
 namespace {
 
+constexpr int OpeningPercent = 50; // drivers that read everything while opening take most of the time there
 constexpr int Wgs84 = 4326;
-constexpr double FarthestLongitude = 360.0; // files that do not jump at the 180th meridian go on from there
+constexpr double FarthestLongitude = 360.0; // some files continue a line beyond 180 instead of jumping to -180
 
 QString tr(const char *text, int count = -1)
 {
@@ -73,16 +77,17 @@ public:
     ~QuietErrors() { CPLPopErrorHandler(); }
     Q_DISABLE_COPY_MOVE(QuietErrors)
 
-    static QString last() { return QString::fromUtf8(CPLGetLastErrorMsg()).simplified(); }
+    static QString last() { return WatchedFiles::withPaths(QString::fromUtf8(CPLGetLastErrorMsg()).simplified()); }
 };
 
 Dataset openDataset(const QString &file)
 {
     static std::once_flag registered;
     std::call_once(registered, GDALAllRegister);
-    // Nothing but these: others would take a file for something else, or fetch what it names.
+    // Only these drivers: others might misread a file, or download what it refers to.
     const char *const drivers[] = {"GeoJSON", "LIBKML", "KML", "ESRI Shapefile", "DXF", nullptr};
-    return Dataset(GDALOpenEx(file.toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY, drivers, nullptr, nullptr));
+    return Dataset(GDALOpenEx(
+        WatchedFiles::nameOf(file).constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY, drivers, nullptr, nullptr));
 }
 
 ReferenceSystem systemOf(int epsg)
@@ -94,6 +99,36 @@ ReferenceSystem systemOf(int epsg)
     OSRSetAxisMappingStrategy(system.get(), OAMS_TRADITIONAL_GIS_ORDER);
     return system;
 }
+
+// Joins the octets read while a file is opened and the features read after that into one figure that never falls.
+class ReadingProgress {
+public:
+    ReadingProgress(const QString &file, const MapImport::Progress &progress)
+        : m_progress(progress), m_size(std::max<qint64>(1, QFileInfo(file).size())),
+          m_files([this](qint64 octets) { return reportOctets(octets); })
+    {
+    }
+
+    bool cancelled() const { return m_files.ended(); }
+    bool reportFeatures(int percent) { return report(OpeningPercent + (100 - OpeningPercent) * percent / 100); }
+
+private:
+    bool reportOctets(qint64 octets)
+    {
+        return report(static_cast<int>(OpeningPercent * std::min(octets, m_size) / m_size));
+    }
+
+    bool report(int percent)
+    {
+        m_percent = std::max(m_percent, percent);
+        return !m_progress || m_progress(m_percent);
+    }
+
+    const MapImport::Progress &m_progress;
+    const qint64 m_size;
+    int m_percent = 0;
+    WatchedFiles m_files;
+};
 
 // Reads the layers of one data set.
 class LayerReader {
@@ -117,7 +152,7 @@ private:
     const MapImport::Progress &m_progress;
     const FeatureReader::Sink &m_sink;
     MapImport::Report &m_report;
-    Transformation m_transformation; // null: the coordinates are as they should be
+    Transformation m_transformation; // null: the coordinates are WGS-84 degrees already
     QString m_layerName;
     int m_layer = 0;
     int m_layerCount = 1;
@@ -147,7 +182,7 @@ bool LayerReader::readLayer(OGRLayerH layer, int epsg, QString *error)
     qint64 read = 0;
     OGR_L_ResetReading(layer);
     const auto next = [layer] {
-        CPLErrorReset(); // what is left at the end is why there is no further one
+        CPLErrorReset(); // an error that is set after the last feature is the reason why reading stopped
         return Feature(OGR_L_GetNextFeature(layer));
     };
     while (const Feature feature = next()) {
@@ -288,7 +323,7 @@ bool LayerReader::addShape(OGRGeometryH geometry, ImportFeature &feature) const
 
 bool LayerReader::reportProgress(qint64 read, qint64 total) const
 {
-    constexpr qint64 Step = 256; // features; asking costs more than reading a small one
+    constexpr qint64 Step = 256; // features; calling back for each would take longer than reading it
     if (!m_progress || (read % Step != 0 && read != total)) {
         return true;
     }
@@ -345,7 +380,12 @@ bool FeatureReader::read(const QString &file, const FeatureReaderOptions &option
     const Sink &sink, MapImport::Report &report, QString *error)
 {
     const QuietErrors quiet;
+    ReadingProgress reading(file, progress);
     const Dataset dataset = openDataset(file);
+    if (reading.cancelled()) {
+        *error = tr("The import was cancelled.");
+        return false;
+    }
     if (!dataset) {
         const QString reason = QuietErrors::last();
         *error = tr("Cannot read \"%1\": %2")
@@ -354,7 +394,12 @@ bool FeatureReader::read(const QString &file, const FeatureReaderOptions &option
         return false;
     }
     const QList<OGRLayerH> layers = chosenLayers(dataset.get(), options.layers, error);
-    return !layers.isEmpty() && LayerReader(progress, sink, report).read(layers, options.epsg, error);
+    const MapImport::Progress ofFeatures = [&reading](int percent) { return reading.reportFeatures(percent); };
+    const bool good = !layers.isEmpty() && LayerReader(ofFeatures, sink, report).read(layers, options.epsg, error);
+    if (good && reading.cancelled()) {
+        *error = tr("The import was cancelled."); // and what was read is not all
+    }
+    return good && !reading.cancelled();
 }
 
 #endif

@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+
 class TestMapImport : public QObject {
     Q_OBJECT
 
@@ -152,11 +154,21 @@ private Q_SLOTS:
         const QByteArray line(R"({"type":"Feature","properties":{},"geometry":{"type":"Point","coordinates":[1,2]}})");
         const QString file = written(
             "many.geojson", R"({"type":"FeatureCollection","features":[)" + (line + ',').repeated(999) + line + "]}");
-        int last = 0;
-        const auto progress = [&last](int percent) { return (last = percent) < 50; };
-        QCOMPARE(MapImport::read(file, {}, progress, &m_error), MapData());
-        QVERIFY(m_error.contains("cancelled"));
-        QCOMPARE(last, 51);
+        QList<int> percents;
+        for (const int last : {1, 75, 101}) { // while the file is opened, while its features are read, not at all
+            percents.clear();
+            const auto progress = [&percents, last](int percent) {
+                percents.append(percent);
+                return percent < last;
+            };
+            QCOMPARE(MapImport::read(file, {}, progress, &m_error).groups.isEmpty(), last <= 100);
+            QCOMPARE(m_error.contains("cancelled"), last <= 100);
+            const auto tooMany =
+                std::count_if(percents.begin(), percents.end(), [last](int percent) { return percent >= last; });
+            QCOMPARE(static_cast<int>(tooMany), last <= 100 ? 1 : 0);
+            QVERIFY(std::is_sorted(percents.begin(), percents.end()));
+        }
+        QCOMPARE(percents.last(), 100);
     }
 };
 
