@@ -66,7 +66,7 @@ protected:
     void revert() override { apply(); }
 
 private:
-    MapData m_other; // the one that is not in the store
+    MapData m_other; // what the next undo or redo sets
 };
 
 class InsertGroupCommand final : public StoreCommand {
@@ -82,7 +82,7 @@ protected:
 
 private:
     int m_at;
-    MapElementGroup m_group; // while it is not in the store
+    MapElementGroup m_group; // kept here while undone
 };
 
 class RemoveGroupCommand final : public StoreCommand {
@@ -116,7 +116,7 @@ protected:
 
 private:
     int m_at;
-    QString m_name; // those that are not in the store
+    QString m_name; // name and class that the next undo or redo sets
     QString m_className;
 };
 
@@ -135,7 +135,7 @@ protected:
 private:
     MapElementRef m_at;
     int m_count;
-    QList<MapElement> m_elements; // while they are not in the store
+    QList<MapElement> m_elements; // kept here while undone
 };
 
 class RemoveElementsCommand final : public StoreCommand {
@@ -173,7 +173,7 @@ protected:
 
 private:
     MapElementRef m_ref;
-    MapElementProperties m_other; // those that are not in the store
+    MapElementProperties m_other; // what the next undo or redo sets
 };
 
 class SplicePointsCommand final : public StoreCommand {
@@ -196,8 +196,8 @@ protected:
 private:
     MapElementRef m_ref;
     qsizetype m_at;
-    qsizetype m_count; // in the store
-    QList<GeoCoordinate> m_other; // those that are not in the store
+    qsizetype m_count; // of points that the next undo or redo replaces
+    QList<GeoCoordinate> m_other; // what it replaces them by
 };
 
 class MovePointCommand final : public StoreCommand {

@@ -39,7 +39,7 @@ public:
 protected:
     virtual void apply() = 0;
     virtual void revert() = 0;
-    // Makes this command lead to where the later one leads, or, when that is where this one began, to nothing.
+    // Takes the later command into this one. When both together change nothing (backToBeginning), the stack drops it.
     void absorb(const MapEditorCommand &later, bool backToBeginning);
 
 private:

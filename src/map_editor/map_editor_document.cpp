@@ -48,7 +48,7 @@ MapEditorDocument::MapEditorDocument(QObject *parent) : QObject(parent)
     connect(&m_pass, &BackgroundPass::progressed, this, &MapEditorDocument::progressed);
 }
 
-// The commands refer to store and styles.
+// The undo commands refer to store and styles, which are destroyed first.
 MapEditorDocument::~MapEditorDocument()
 {
     m_undo.disconnect();
@@ -137,7 +137,7 @@ void MapEditorDocument::cancelFileWork()
     }
 }
 
-// The XML format makes up a file for each image that has none, at each saving another one.
+// Writing XML invents a file name for each image without one, a different name at every save; so they are named here.
 void MapEditorDocument::nameImageFiles(const QString &path)
 {
     QList<MapElementRef> nameless;
@@ -296,7 +296,7 @@ void MapEditorDocument::moveToGroup(const QList<MapElementRef> &elements, int gr
         taken.append(run);
         push(MapEditorCommands::removeElements(m_store, first, count));
     }
-    // In their former order.
+    // The runs come last first: going backwards keeps the elements in order.
     for (qsizetype i = taken.size() - 1; i >= 0; --i) {
         const MapElementKind kind = leaving[i].first.kind;
         push(MapEditorCommands::insertElements(m_store, {group, kind, m_store.elementCount(group, kind)}, taken[i]));
@@ -376,7 +376,7 @@ void MapEditorDocument::movePoint(
 {
     const GeoCoordinate former = m_store.point(ref, index);
     GeoCoordinate moved = coordinate;
-    // Neither a pointer nor a typed position tells of the height.
+    // Positions from the pointer or the keyboard have no altitude.
     if (moved.type() == QGeoCoordinate::Coordinate2D && former.type() == QGeoCoordinate::Coordinate3D) {
         moved.setAltitude(former.altitude());
     }
@@ -385,11 +385,11 @@ void MapEditorDocument::movePoint(
     }
 }
 
-void MapEditorDocument::putStyle(const MapStyleClass &style)
+void MapEditorDocument::putStyle(const MapStyleClass &style, quint64 run)
 {
     const MapStyleSheet &sheet = m_styles.sheet();
     if (!sheet.contains(style.name) || sheet.style(style.name) != style) {
-        push(MapEditorCommands::putStyle(m_styles, style));
+        push(MapEditorCommands::putStyle(m_styles, style, run));
     }
 }
 

@@ -22,9 +22,9 @@ struct MapEditorSelection {
     bool isEmpty() const { return groups.isEmpty() && elements.isEmpty(); }
 };
 
-// A map with its file, its style sheet and their undo stack. What changes nothing leaves no trace on the stack. Places
-// that are passed in must exist. Files are read and written beside everything else; nobody waits for it, and the map
-// may be edited meanwhile. GUI thread.
+// A map with its file, its style sheet and their undo stack. A call that changes nothing adds no undo step. Groups
+// and elements that are passed in must exist. Files are read and written beside everything else; nobody waits for it,
+// and the map may be edited meanwhile. GUI thread.
 class MapEditorDocument final : public QObject {
     Q_OBJECT
 
@@ -64,14 +64,14 @@ public:
     void cancelFileWork();
 
     void setMeta(const MapData &meta);
-    // Returns its place.
+    // Returns the group's index.
     int addGroup(const QString &name, const QString &className);
     void setGroupName(int group, const QString &name);
     void setGroupClass(int group, const QString &className);
     void moveGroup(int from, int to);
 
     MapElementRef addElement(int group, const MapElement &element);
-    // Behind the others of their groups and kinds.
+    // The copies go to the ends of the lists that hold the originals. Returns the copies.
     MapEditorSelection duplicate(const MapEditorSelection &selection);
     void remove(const MapEditorSelection &selection);
     void moveToGroup(const QList<MapElementRef> &elements, int group);
@@ -87,7 +87,8 @@ public:
     // Calls with one drag number above 0 are undone together. A point keeps its altitude unless another is given.
     void movePoint(const MapElementRef &ref, qsizetype index, const GeoCoordinate &coordinate, quint64 drag = 0);
 
-    void putStyle(const MapStyleClass &style);
+    // Calls with one run number above 0 are undone together.
+    void putStyle(const MapStyleClass &style, quint64 run = 0);
     void removeStyle(const QString &name);
 
 Q_SIGNALS:
@@ -97,7 +98,8 @@ Q_SIGNALS:
 
 private:
     void push(MapEditorCommands::Command command);
-    // Runs of neighbours, the last first, so that taking one leaves the places of the others alone.
+    // Joins neighbouring elements into runs of first element and count. The last run comes first: removing it does not
+    // move the others.
     static QList<std::pair<MapElementRef, int>> runs(QList<MapElementRef> elements);
     void nameImageFiles(const QString &path);
     void setFile(const QString &path, MapFile::Format format);

@@ -204,7 +204,7 @@ void MapEditorElementPane::commit()
 
 void MapEditorElementPane::commitGroup()
 {
-    // One change refills the fields, so both are read first.
+    // Changing one of them fills both fields again from the map, so both are read first.
     const QString name = m_name->text();
     const QString className = m_class->currentText();
     m_document->setGroupName(m_ref.group, name);
@@ -252,7 +252,7 @@ void MapEditorElementPane::setImageFile(const QString &file)
         Q_EMIT refused(tr("The image \"%1\" could not be read: %2").arg(file, reader.errorString()));
         return;
     }
-    // Beside the map, or in a folder below: other places mean nothing where the map is copied to.
+    // Only paths below the map's folder still work when the map is copied elsewhere with its images.
     const QString relative = QFileInfo(m_document->path()).dir().relativeFilePath(file);
     const bool below =
         !m_document->path().isEmpty() && !relative.startsWith(QStringLiteral("..")) && QDir::isRelativePath(relative);

@@ -21,13 +21,14 @@ public:
     // The document must outlive the pane.
     explicit MapEditorElementPane(MapEditorDocument *document, QWidget *parent = nullptr);
 
-    // An index of -1 means the group; a group of -1 nothing. Follows what it shows while others come and go.
+    // An index of -1 shows the group, a group of -1 nothing. Stays with the element when its index changes because
+    // others are inserted or removed.
     void setElement(const MapElementRef &ref);
     MapEditorPointPane *pointPane() const { return m_points; }
 
     // Takes over what stands in the fields, as leaving them does.
     void commit();
-    // The picture goes into the map's image with its place relative to the map's file.
+    // Gives the image element this picture, and the file's path relative to the map's folder.
     void setImageFile(const QString &file);
 
 Q_SIGNALS:
@@ -52,7 +53,7 @@ private:
     MapEditorDocument *m_document;
     MapElementRef m_ref;
     bool m_filling = false;
-    bool m_changing = false; // the map: it must not be changed by what hears of it
+    bool m_changing = false; // the map is being changed: commit() has to keep out of it
     FieldForm *m_form;
     QLineEdit *m_name;
     QComboBox *m_class;
@@ -63,5 +64,5 @@ private:
     CoordinateEdit *m_northwest; // corners of an image
     CoordinateEdit *m_southeast;
     MapEditorPointPane *m_points;
-    QLabel *m_hint; // instead of all of them
+    QLabel *m_hint; // shown instead of the fields while nothing is chosen
 };

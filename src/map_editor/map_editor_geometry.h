@@ -10,8 +10,8 @@
 #include <array>
 #include <vector>
 
-// The map that is edited on the projection plane: every point is projected once, and again only when it changes. Where
-// a line crosses the 180th meridian, it goes on beyond it.
+// The plane coordinates of the edited map. Every point is projected once, and again only when it changes. A line that
+// crosses the 180th meridian continues beyond it.
 class MapEditorGeometry final : public QObject {
     Q_OBJECT
 

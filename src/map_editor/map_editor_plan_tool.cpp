@@ -179,7 +179,7 @@ void MapEditorPlanTool::addDraftPoint(const QPointF &planePoint)
     }
 }
 
-// From the point before the first new one to the pointer.
+// The line of new points: it begins at the existing point before them and ends at the pointer.
 void MapEditorPlanTool::showDraft()
 {
     QPolygonF line;
@@ -371,6 +371,6 @@ void MapEditorPlanTool::setCursor(Qt::CursorShape shape)
     }
     m_cursor = shape;
     if (m_widget && m_active) {
-        m_widget->setPointerTool(this); // looks at the cursor again
+        m_widget->setPointerTool(this); // makes the widget ask for the cursor again
     }
 }

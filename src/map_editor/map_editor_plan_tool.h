@@ -19,13 +19,13 @@ class MapEditorPlanTool final : public QObject, public GeoPointerTool {
     Q_OBJECT
 
 public:
-    // All three must outlive the tool, except the widget.
+    // Document and projector must outlive the tool; the widget may go first.
     MapEditorPlanTool(MapEditorDocument *document, GeoWidget *widget, Projector *projector, QObject *parent = nullptr);
     ~MapEditorPlanTool() override;
 
-    // Takes the left button of the plan view and shows the map there, or gives both back.
+    // While active, the tool handles the left button on the plan view and the edited map is shown there.
     void setActive(bool active);
-    // Follows its element while others come and go.
+    // Stays with the element when its index changes because others are inserted or removed.
     void setElement(const MapElementRef &ref);
     void setCurrentPoint(qsizetype index); // -1: none
     // Whether the plan view shows the map in its own layer already.
@@ -74,10 +74,10 @@ private:
     bool m_active = false;
     bool m_shownElsewhere = false;
     qsizetype m_currentPoint = -1;
-    QTimer m_backdropTimer; // a drag changes the map many times a second
+    QTimer m_backdropTimer; // delays showBackdrop(): a drag changes the map many times a second
 
     bool m_dragging = false;
-    quint64 m_drag = 0; // number of the newest
+    quint64 m_drag = 0; // number of the current or last drag
     GeoCoordinate m_dragStart;
     QPointF m_grip; // from the pointer to the point, in plane metres
 

@@ -22,7 +22,8 @@ void MapEditorPointModel::setElement(const MapElementRef &ref)
     endResetModel();
 }
 
-// Points that take the place of others are changed rows; what remains is inserted or removed behind them.
+// As many points as are both removed and inserted count as changed rows; the surplus of either is inserted or removed
+// after them.
 void MapEditorPointModel::aboutToChange(const MapEditorChange &change)
 {
     if (!m_ref.isValid()) {
@@ -96,7 +97,7 @@ bool MapEditorPointModel::setData(const QModelIndex &index, const QVariant &valu
         return false;
     }
     const QString text = value.toString();
-    // The text is less precise than the point: what was only looked at must not move it.
+    // The text is less precise than the point: an editor that was opened and closed must not move it.
     if (text == data(index, Qt::EditRole).toString()) {
         return true;
     }

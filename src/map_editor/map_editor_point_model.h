@@ -14,7 +14,8 @@ public:
     // The document must outlive the model.
     explicit MapEditorPointModel(MapEditorDocument *document, QObject *parent = nullptr);
 
-    // Nothing is shown of an element without a list of points. The model keeps to its element while others come and go.
+    // The model is empty for elements without a list of points. It stays with the element when its index changes
+    // because others are inserted or removed.
     void setElement(const MapElementRef &ref);
     const MapElementRef &element() const { return m_ref; }
 

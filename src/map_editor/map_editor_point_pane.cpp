@@ -19,7 +19,7 @@
 
 namespace {
 
-// An editor that keeps to coordinates: what cannot be read is not taken over.
+// Edits a point with a CoordinateEdit; text that is no coordinate leaves the point as it was.
 class PointDelegate final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -60,7 +60,7 @@ MapEditorPointPane::MapEditorPointPane(MapEditorDocument *document, QWidget *par
     m_table->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setWordWrap(false);
-    // Rows of one height need not be looked at to be laid out.
+    // With one fixed height the view does not have to measure every row of a long list.
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 8);
     m_table->setColumnWidth(0, m_table->fontMetrics().horizontalAdvance(QStringLiteral("395427.35N1162317.08E")) + 24);
@@ -71,7 +71,7 @@ MapEditorPointPane::MapEditorPointPane(MapEditorDocument *document, QWidget *par
     connect(
         m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &MapEditorPointPane::updateButtons);
     connect(m_model, &QAbstractItemModel::modelReset, this, &MapEditorPointPane::updateButtons);
-    // The current row moves with its point, which the selection does not tell.
+    // When rows are inserted or removed the current row number changes without a signal from the selection model.
     const auto tellCurrent = [this] { Q_EMIT currentPointChanged(currentPoint()); };
     connect(m_model, &QAbstractItemModel::rowsInserted, this, tellCurrent);
     connect(m_model, &QAbstractItemModel::rowsRemoved, this, tellCurrent);

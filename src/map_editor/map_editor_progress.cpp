@@ -17,6 +17,7 @@ MapEditorProgress::MapEditorProgress(QWidget *parent) : QWidget(parent), m_text(
 {
     m_bar->setObjectName(QStringLiteral("fileProgress"));
     m_bar->setFixedWidth(BarWidth);
+    m_text->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto *cancel = new QToolButton;
     cancel->setObjectName(QStringLiteral("cancelFileWork"));
     cancel->setText(tr("Cancel"));

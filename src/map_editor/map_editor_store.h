@@ -31,7 +31,7 @@ struct MapElementProperties {
     QPixmap pixmap; // of an image
 };
 
-// One change of a map. Elements are those from ref on; points those of ref.
+// One change of a map. ref is where: the group, the first of the elements, or the element whose points changed.
 struct MapEditorChange {
     enum What {
         Everything,
@@ -70,7 +70,7 @@ class MapEditorStore final : public QObject {
 public:
     using QObject::QObject;
 
-    // A copy that is kept makes the next change copy what it changes: look, do not keep.
+    // Whoever keeps a copy makes the next change slow: it then has to copy the lists that it changes.
     const MapData &map() const { return m_map; }
     MapEditorState &state() { return m_state; }
     const MapEditorState &state() const { return m_state; }
@@ -113,7 +113,8 @@ private:
     MapEditorState m_state;
 };
 
-// Where the element, or with an index of -1 the group, stands after the change; its group is -1 when it is gone.
+// The reference to the same element (or group, with an index of -1) after the change; its group is -1 when the element
+// was removed.
 MapElementRef afterChange(MapElementRef ref, const MapEditorChange &change);
 
 // Whether its points are a list of any length.

@@ -87,8 +87,10 @@ void MapEditorStylePane::connectFields()
     }
     connect(m_line, &QComboBox::currentIndexChanged, this, &MapEditorStylePane::commit);
     connect(m_pattern, &QComboBox::currentIndexChanged, this, &MapEditorStylePane::commit);
-    connect(m_width, &QSpinBox::valueChanged, this, &MapEditorStylePane::commit);
-    connect(m_size, &QSpinBox::valueChanged, this, &MapEditorStylePane::commit);
+    for (QSpinBox *box : {m_width, m_size}) {
+        connect(box, &QSpinBox::valueChanged, this, [this, box] { commitStep(box); });
+        connect(box, &QSpinBox::editingFinished, this, [this] { m_steps = nullptr; });
+    }
     connect(m_family, &QFontComboBox::currentFontChanged, this, &MapEditorStylePane::commit);
     connect(m_list, &QListWidget::currentRowChanged, this, &MapEditorStylePane::fill);
     connect(&m_document->styles(), &MapEditorStyles::changed, this, &MapEditorStylePane::follow);
@@ -153,7 +155,7 @@ void MapEditorStylePane::fillList()
     fill();
 }
 
-// A list that is filled anew loses its place: only when a class came or went.
+// Filling the list scrolls it back to the top, so that is done only when a class was added or removed.
 void MapEditorStylePane::follow(const QString &name)
 {
     const bool listed = !m_list->findItems(name, Qt::MatchExactly).isEmpty();
@@ -188,7 +190,7 @@ void MapEditorStylePane::fill()
 
 MapStyleClass MapEditorStylePane::entered() const
 {
-    // What has no field stays as it is.
+    // Start from the present style: some of its properties have no field.
     MapStyleClass style = m_document->styles().sheet().style(currentClass());
     style.color = m_color->color();
     style.pen.setColor(m_penColor->color());
@@ -207,7 +209,28 @@ MapStyleClass MapEditorStylePane::entered() const
 
 void MapEditorStylePane::commit()
 {
-    if (!m_filling && m_list->currentItem()) {
-        m_document->putStyle(entered());
+    if (!m_filling) {
+        m_steps = nullptr;
+        commitRun(0);
+    }
+}
+
+// Steps of one box that follow each other are undone together.
+void MapEditorStylePane::commitStep(const QSpinBox *box)
+{
+    if (m_filling) {
+        return;
+    }
+    if (m_steps != box) {
+        m_steps = box;
+        ++m_run;
+    }
+    commitRun(m_run);
+}
+
+void MapEditorStylePane::commitRun(quint64 run)
+{
+    if (m_list->currentItem()) {
+        m_document->putStyle(entered(), run);
     }
 }

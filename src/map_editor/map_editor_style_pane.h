@@ -40,9 +40,13 @@ private:
     void follow(const QString &name);
     MapStyleClass entered() const;
     void commit();
+    void commitStep(const QSpinBox *box);
+    void commitRun(quint64 run);
 
     MapEditorDocument *m_document;
     bool m_filling = false;
+    const QSpinBox *m_steps = nullptr; // whose value was changed last, and is still being changed
+    quint64 m_run = 0; // of such changes
     QListWidget *m_list;
     MapStylePreview *m_preview;
     FieldForm *m_form;

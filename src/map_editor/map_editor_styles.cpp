@@ -45,12 +45,29 @@ void MapEditorStyles::remove(const QString &name)
 
 namespace {
 
+constexpr int ChangeStyleId = 2;
+
 class StyleCommand final : public MapEditorCommand {
 public:
-    StyleCommand(MapEditorStyles &styles, const QString &name, const std::optional<MapStyleClass> &after)
+    StyleCommand(
+        MapEditorStyles &styles, const QString &name, const std::optional<MapStyleClass> &after, quint64 run = 0)
         : MapEditorCommand(styles.state(), QCoreApplication::translate("MapEditorCommands", "Change Style")),
-          m_styles(styles), m_name(name), m_other(after)
+          m_styles(styles), m_name(name), m_other(after), m_run(run)
     {
+    }
+
+    int id() const override { return m_run == 0 ? -1 : ChangeStyleId; }
+
+    // QUndoStack has carried out the other command already, so the sheet holds its result.
+    bool mergeWith(const QUndoCommand *other) override
+    {
+        const auto *later = dynamic_cast<const StyleCommand *>(other);
+        if (!later || later->m_run != m_run || later->m_name != m_name) {
+            return false;
+        }
+        const MapStyleSheet &sheet = m_styles.sheet();
+        absorb(*later, m_other && sheet.contains(m_name) && sheet.style(m_name) == *m_other);
+        return true;
     }
 
 protected:
@@ -70,14 +87,15 @@ protected:
 private:
     MapEditorStyles &m_styles;
     QString m_name;
-    std::optional<MapStyleClass> m_other; // the one that is not in the sheet
+    std::optional<MapStyleClass> m_other; // what the next undo or redo sets; nothing: it removes the class
+    quint64 m_run;
 };
 
 } // namespace
 
-MapEditorCommands::Command MapEditorCommands::putStyle(MapEditorStyles &styles, const MapStyleClass &style)
+MapEditorCommands::Command MapEditorCommands::putStyle(MapEditorStyles &styles, const MapStyleClass &style, quint64 run)
 {
-    return std::make_unique<StyleCommand>(styles, style.name, style);
+    return std::make_unique<StyleCommand>(styles, style.name, style, run);
 }
 
 MapEditorCommands::Command MapEditorCommands::removeStyle(MapEditorStyles &styles, const QString &name)

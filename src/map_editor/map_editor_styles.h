@@ -22,7 +22,7 @@ public:
     void reset(const MapStyleSheet &sheet, const QString &file);
     // With a backup of the former contents. Empty names are refused with a reason.
     bool save(const QString &file, QString *error);
-    // As in the file.
+    // As it was last read or saved.
     const MapStyleSheet &savedSheet() const { return m_saved; }
 
     // For the undo commands: puts the class in the place of the one of its name, or removes that.
@@ -42,8 +42,9 @@ private:
 
 namespace MapEditorCommands {
 
-// Adds the class, or takes the place of the one of its name.
-Command putStyle(MapEditorStyles &styles, const MapStyleClass &style);
+// Adds the class, or takes the place of the one of its name. The changes of one run become one command, and none when
+// the class comes back to what it was. Runs have numbers above 0; 0 stands alone.
+Command putStyle(MapEditorStyles &styles, const MapStyleClass &style, quint64 run);
 Command removeStyle(MapEditorStyles &styles, const QString &name);
 
 } // namespace MapEditorCommands

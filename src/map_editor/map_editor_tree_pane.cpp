@@ -84,7 +84,7 @@ void MapEditorTreePane::updateHint()
 void MapEditorTreePane::setFilter(const QString &text)
 {
     if (m_filter->text() != text) {
-        m_filter->setText(text); // comes back here
+        m_filter->setText(text); // calls this function again
     } else {
         m_filtered->setFilterFixedString(text);
     }

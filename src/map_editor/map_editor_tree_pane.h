@@ -36,7 +36,7 @@ Q_SIGNALS:
 
 private:
     QModelIndex viewIndex(const MapElementRef &ref) const;
-    // At most so many rows are opened by themselves: more are no help to anybody.
+    // Expands all groups of a map with few elements.
     void expandSmall();
     void makeHint();
     void updateHint();
@@ -45,5 +45,5 @@ private:
     QSortFilterProxyModel *m_filtered;
     QLineEdit *m_filter;
     QTreeView *m_view;
-    QLabel *m_hint = nullptr; // on the empty view
+    QLabel *m_hint = nullptr; // shown while the view is empty
 };

@@ -37,7 +37,7 @@ MapEditorWindow::MapEditorWindow(QWidget *parent)
       m_toolBar(addToolBar(tr("Edit"))), m_progress(new MapEditorProgress)
 {
     setObjectName(stateGroup);
-    // A click on the plan view, to draw there, is not to hide this window behind it.
+    // As a dialog it stays in front of the main window when the operator clicks on the plan view to draw.
     setWindowFlags(windowFlags() | Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     buildLayout();
     makeFileMenu();
@@ -53,7 +53,7 @@ MapEditorWindow::MapEditorWindow(QWidget *parent)
 
 MapEditorWindow::~MapEditorWindow()
 {
-    // The panes and the tool look at the document until they are gone; the children go after it otherwise.
+    // Panes and tool use the document, a member. Left to ~QWidget, the panes would be destroyed after it.
     m_planTool.reset();
     delete takeCentralWidget();
 }
@@ -110,7 +110,7 @@ void MapEditorWindow::makeEditMenu()
     undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
     QAction *redo = m_document.undoStack().createRedoAction(this);
     redo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Y));
-    // What they undo and redo stands in the menu: the other buttons of the bar keep their places.
+    // A fixed text: with the name of the last change in it, the buttons beside them would move at every change.
     undo->setIconText(tr("Undo"));
     redo->setIconText(tr("Redo"));
     menu->addActions({undo, redo});
@@ -125,7 +125,7 @@ void MapEditorWindow::makeEditMenu()
     add(tr("&Rename"), {}, [this] { m_tree->renameCurrent(); });
     QAction *duplicate = add(tr("&Duplicate"), {}, &MapEditorWindow::duplicateSelected);
     QAction *remove = add(tr("De&lete"), QKeySequence(Qt::Key_Delete), &MapEditorWindow::removeSelected);
-    // In the fields and in the table of points the key has a meaning of its own.
+    // Only in the tree: in text fields and in the table of points the Delete key does something else.
     remove->setShortcutContext(Qt::WidgetShortcut);
     menu->removeAction(remove);
     QAction *removeInMenu = menu->addAction(remove->text(), this, &MapEditorWindow::removeSelected);
@@ -212,7 +212,7 @@ void MapEditorWindow::setMapLibrary(const MapLibrary *library)
     connect(library, &MapLibrary::mapsChanged, this, &MapEditorWindow::updateShownElsewhere);
     connect(library, &MapLibrary::mapChanged, this, &MapEditorWindow::updateShownElsewhere);
     connect(library, &MapLibrary::styleSheetChanged, this, [this] {
-        // Otherwise it is this window's own preview, or what it has saved.
+        // A change of the same file is this window's own preview, or what it has just saved.
         if (m_library->styleSheetFile() != m_document.styles().file()) {
             takeLibraryStyles();
         }
@@ -271,7 +271,7 @@ void MapEditorWindow::updateState()
     updatePlanActions();
 }
 
-// What they do, or why they cannot.
+// Tool tips say what an action does or why it is disabled.
 void MapEditorWindow::updatePlanActions()
 {
     const bool element = m_tree->current().isValid();

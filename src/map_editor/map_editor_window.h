@@ -31,7 +31,8 @@ public:
     explicit MapEditorWindow(QWidget *parent = nullptr);
     ~MapEditorWindow() override;
 
-    // Edits on this plan view too, while the window is open. Both must outlive the window, the widget excepted.
+    // Edits on this plan view too, while the window is open. The projector must outlive the window; the widget may go
+    // first.
     void setGeoWidget(GeoWidget *widget, Projector *projector);
     // Takes its style sheet. A map that the library shows is not shown a second time unless it was changed.
     void setMapLibrary(const MapLibrary *library);

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QStatusBar>
 
 namespace {
 
@@ -35,6 +36,7 @@ void MapEditorWindow::commitFields()
 
 void MapEditorWindow::beginFileWork(const QString &text)
 {
+    statusBar()->clearMessage(); // of the last file
     m_progress->begin(text);
     for (QAction *action : std::as_const(m_fileActions)) {
         action->setEnabled(false);

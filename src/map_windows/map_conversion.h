@@ -16,7 +16,7 @@ public:
 
     // Gives up the conversion under way. The target's suffix says which of our formats it is to have.
     void start(const QString &source, const QString &target, const MapImport::Options &options);
-    // No answer comes any more, and no target takes the place of one that was there.
+    // finished() is not emitted any more, and the target is left as it was.
     void cancel() { m_pass.cancel(); }
     bool running() const { return m_pass.running(); }
 

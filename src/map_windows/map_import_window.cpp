@@ -18,7 +18,7 @@
 
 namespace {
 
-// Of names with commas between them; the blanks around a name do not belong to it.
+// Splits at commas and strips blanks.
 QStringList namesIn(const QString &text)
 {
     QStringList names;
@@ -97,7 +97,7 @@ void MapImportWindow::makeFields(const Proposals &proposals)
     m_layers->setToolTip(tr("Names with commas between them"));
 }
 
-// What the features mean.
+// Rows about the meaning of the features: class, names, symbols.
 void MapImportWindow::addMeaningRows()
 {
     m_form->addField(tr("Map &file:"), m_target);

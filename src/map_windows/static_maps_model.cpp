@@ -248,7 +248,7 @@ QStringList StaticMapsModel::mimeTypes() const
 
 QMimeData *StaticMapsModel::mimeData(const QModelIndexList &indexes) const
 {
-    auto *data = new QMimeData; // the caller's
+    auto *data = new QMimeData; // owned by the caller
     data->setData(rowMimeType, QByteArray::number(indexes.isEmpty() ? 0 : id(indexes.constFirst().row())));
     return data;
 }
@@ -262,6 +262,6 @@ bool StaticMapsModel::dropMimeData(
         return false;
     }
     const int to = row < 0 ? rowCount() : row;
-    m_library->moveTo(dragged, from < to ? to - 1 : to); // the row leaves a gap behind it
+    m_library->moveTo(dragged, from < to ? to - 1 : to); // rows behind the dragged one move up
     return true;
 }

@@ -168,9 +168,9 @@ void StaticMapsWindow::makeLayout()
 
 void StaticMapsWindow::connectLibrary()
 {
-    // After the model, which was connected first.
+    // The model was connected first and so has its new rows already.
     connect(m_library, &MapLibrary::mapsChanged, this, [this] {
-        // Another index has other maps.
+        // The selected map may be gone, for example when another index was opened.
         selectMap(m_model->row(m_selected) >= 0 ? m_selected : m_model->id(0));
     });
     connect(m_library, &MapLibrary::mapsChanged, this, &StaticMapsWindow::updateState);
@@ -258,7 +258,7 @@ void StaticMapsWindow::showDetails(const QString &refusal)
     m_details->setText(lines.join(QStringLiteral("<br>")));
 }
 
-// They are drawn in black, and nobody would know why.
+// They are drawn in black, and the operator should learn why.
 QStringList StaticMapsWindow::unstyledClasses(const MapData &map) const
 {
     QStringList classes;
@@ -280,7 +280,7 @@ void StaticMapsWindow::chooseFiles()
 void StaticMapsWindow::addFiles(const QStringList &files)
 {
     for (const QString &file : files) {
-        // What is in nobody's format is added all the same, and then says for itself what is wrong with it.
+        // A file in no known format is added too: its row then shows what is wrong with it.
         if (MapFile::formatFromFileName(file) == MapFile::Unknown && MapImport::handles(file)) {
             m_toImport.append(file);
         } else {
@@ -403,7 +403,7 @@ bool StaticMapsWindow::settleChanges()
 
 QMessageBox::StandardButton StaticMapsWindow::askAboutChanges()
 {
-    QWidget *inFront = QApplication::activeModalWidget(); // which made the question necessary, and would hide it
+    QWidget *inFront = QApplication::activeModalWidget(); // the settings, for example, which would hide the question
     QMessageBox question(QMessageBox::Question, windowTitle(), tr("The list of maps has been changed."),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, inFront ? inFront : this);
     question.setInformativeText(tr("Save the changes to the map index?"));

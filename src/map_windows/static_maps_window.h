@@ -85,14 +85,14 @@ private:
     StaticMapsModel *m_model = nullptr;
     MapConversion *m_conversion = nullptr;
     std::function<QMessageBox::StandardButton()> m_unsavedQuestion;
-    quint64 m_selected = 0; // comes back after the rows have changed
+    quint64 m_selected = 0; // to be selected again after the rows have changed
     QTableView *m_table = nullptr;
     QLabel *m_indexLabel = nullptr;
     QLabel *m_details = nullptr;
     QLabel *m_styleLabel = nullptr;
     QPointer<QProgressDialog> m_conversionProgress;
     QPointer<QDialog> m_importWindow;
-    QStringList m_toImport; // after the one under way
+    QStringList m_toImport; // waiting for the import under way to end
     QHash<quint64, QString> m_importNotes; // what was left out of a map, in words
     QPushButton *m_editButton = nullptr;
     QPushButton *m_removeButton = nullptr;

@@ -47,6 +47,7 @@ private Q_SLOTS:
     void filterNarrowsTheTree();
     void changesWhatIsSelected();
     void previewsStyles();
+    void stepsOfABoxAreUndoneTogether();
     void closingWithChangesAsks_data();
     void closingWithChangesAsks();
     void closingWaitsForWhatIsBeingSaved();
@@ -386,6 +387,32 @@ void TestMapEditorWindow::previewsStyles()
     m_window->close();
     QVERIFY(m_asked.contains(QStringLiteral("styles")));
     QCOMPARE(shown().style(QStringLiteral("route")).pen.width(), 1);
+}
+
+void TestMapEditorWindow::stepsOfABoxAreUndoneTogether()
+{
+    auto *pane = m_window->findChild<MapEditorStylePane *>();
+    QVERIFY(pane->addClass(QStringLiteral("a")) && pane->addClass(QStringLiteral("b")));
+    QUndoStack &undo = m_window->document().undoStack();
+    auto *width = find<QSpinBox>("lineWidth");
+    const auto step = [width](const QList<int> &values) {
+        for (const int value : values) {
+            width->setValue(value);
+        }
+    };
+    const int before = undo.count();
+    step({2, 3, 4});
+    Q_EMIT width->editingFinished();
+    step({5, 6});
+    pane->selectClass(QStringLiteral("a"));
+    step({2, 3});
+    QCOMPARE(undo.count(), before + 3);
+    step({2, 1}); // back to where it was
+    QCOMPARE(undo.count(), before + 2);
+    undo.undo();
+    QCOMPARE(m_window->document().styles().sheet().style(QStringLiteral("b")).pen.width(), 4);
+    undo.undo();
+    QCOMPARE(m_window->document().styles().sheet().style(QStringLiteral("b")).pen.width(), 1);
 }
 
 void TestMapEditorWindow::closingWithChangesAsks_data()
