@@ -1,5 +1,6 @@
 #include "window_fixture.h"
 
+#include "busy_workers.h"
 #include "map_editor/map_editor_window.h"
 #include "map_windows/layout_save_window.h"
 #include "map_windows/static_maps_window.h"
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void menuFollowsTheLayouts();
     void mapsAreLoadedAndToggled();
     void otherFilesAreTaken();
+    void exitGoesOnWhenTheMapIsSaved();
 
 private:
     static QAction *action(const MainWindow &window, ActionId id) { return (*window.findChild<Actions *>())[id]; }
@@ -216,6 +218,26 @@ void TestMapLayouts::otherFilesAreTaken()
     saved.load(AppPaths::configFile());
     QVERIFY(saved.mapStyleSheet.endsWith("night.mss") && saved.mapIndex.endsWith("other.idx"));
     QVERIFY(WindowFixture::close(*window));
+}
+
+void TestMapLayouts::exitGoesOnWhenTheMapIsSaved()
+{
+    const auto window = WindowFixture::makeWindow();
+    window->showMapWindow();
+    window->findChild<StaticMapsWindow *>()->setUnsavedQuestion([] { return QMessageBox::Discard; });
+    window->launchStaticMapEditor({}, MapFile::Unknown);
+    auto *editor = window->findChild<MapEditorWindow *>();
+    editor->document().addGroup("g", "land");
+    const QString path = AppPaths::appDataDir() + "/edited.map";
+    {
+        BusyWorkers busy;
+        editor->saveFile(path);
+        window->close();
+        QTest::qWait(20);
+        QVERIFY(window->isVisible() && editor->isVisible() && !busy.waitedFor());
+    }
+    QVERIFY(QTest::qWaitFor([&window] { return !window->isVisible(); }, 8000));
+    QVERIFY(QFile::exists(path));
 }
 
 VYX_TEST(TestMapLayouts)
