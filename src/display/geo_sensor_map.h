@@ -26,10 +26,6 @@ public:
     void paint(QPainter &painter, const GeoView &view) override;
     void applyConfig(const Config &config) override;
 
-    bool coverageVisible() const { return m_coverageVisible; }
-    bool northMarkerVisible() const { return m_northMarkerVisible; }
-    bool antennaLineVisible() const { return m_antennaLineVisible; }
-
     // False, and nothing written, without a located sensor.
     bool sitePosition(QPointF &planePoint) const;
 

@@ -38,8 +38,6 @@ public:
     // The view transform alone: from plane points with y turned over to pixels from the widget centre.
     void saveViewport(QTransform &viewTransform) const;
 
-    bool followSelectedTrack() const { return m_followSelectedTrack; }
-
     // Offers the left button and the keys to the tool first; it stays the caller's, who takes it back (null) before it
     // goes. Also to be called when the tool's cursor has changed. While the centre of the range rings is being placed,
     // the tool rests.
@@ -110,6 +108,7 @@ private:
     void dropLostTracks();
     void keepSelectedTrackCentred();
     void startRightDrag(const QPointF &position);
+    void endRightDrag();
     void selectTrackAt(const QPoint &pixel);
     void dragLabel(const QPoint &delta);
     void placeRangeRings(const QPointF &planePoint);

@@ -78,6 +78,10 @@ void GeoWidget::selectTrackAt(const QPoint &pixel)
 void GeoWidget::mouseMoveEvent(QMouseEvent *event)
 {
     const QPointF position = event->position();
+    // A dialog that came up meanwhile may have swallowed the release.
+    if ((m_panning || m_draggingLabel) && !event->buttons().testFlag(Qt::RightButton)) {
+        endRightDrag();
+    }
     if (m_panning) {
         const QPointF delta = position - m_lastMousePosition;
         m_lastMousePosition = position;
@@ -111,14 +115,19 @@ void GeoWidget::dragLabel(const QPoint &delta)
 void GeoWidget::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::RightButton) {
-        m_panning = false;
-        m_draggingLabel = false;
-        m_draggedTrack = 0;
-        showIdleCursor();
-        notifyViewRectChange();
+        endRightDrag();
     } else if (event->button() == Qt::LeftButton) {
         toolTakes(*event, &GeoPointerTool::released);
     }
+}
+
+void GeoWidget::endRightDrag()
+{
+    m_panning = false;
+    m_draggingLabel = false;
+    m_draggedTrack = 0;
+    showIdleCursor();
+    notifyViewRectChange();
 }
 
 void GeoWidget::placeRangeRings(const QPointF &planePoint)

@@ -12,6 +12,7 @@ struct DropStats {
     // Largest delay of a live picture, from its own time of day to when the window took it; milliseconds.
     int weatherDelayMs = 0;
     int videoDelayMs = 0;
+    quint64 placelessWeatherPictures = 0; // taken, but the sensor is no radar with a place
 
     bool operator==(const DropStats &other) const = default;
 };

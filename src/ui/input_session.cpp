@@ -44,6 +44,9 @@ QString InputSession::notice() const
     if (!m_sensor) {
         return tr("No sensor is configured. Choose one in Settings (F10), then press Start.");
     }
+    if (!m_fault.isEmpty()) {
+        return m_wasOpen ? tr("Input stopped: %1\nThis is the last picture.").arg(m_fault) : m_fault;
+    }
     return m_wasOpen ? tr("Input stopped. This is the last picture.")
                      : tr("No input is running. Press Start to open %1.").arg(description());
 }
@@ -63,9 +66,11 @@ void InputSession::open()
     }
     if (!m_sensor) {
         Q_EMIT logMessage(LogLevel::Warning, tr("Unknown sensor"));
+        Q_EMIT openFailed(tr("Unknown sensor"));
         return;
     }
     ++m_requestId;
+    m_fault.clear();
     Q_EMIT openingBegun();
     setState(State::Opening);
     m_host->openInput(m_config->live(), m_sensor, m_replayStart, m_requestId);
@@ -78,6 +83,8 @@ void InputSession::close()
         Q_EMIT logMessage(LogLevel::Warning, tr("Inpput is not working now."));
         return;
     }
+    m_reopen = false; // stopping during a jump stops
+    m_replayStart = QDateTime();
     m_host->closeInput();
 }
 
@@ -101,11 +108,37 @@ void InputSession::onOpened(quint64 requestId)
     Q_EMIT opened();
 }
 
-void InputSession::onEnded(quint64 requestId)
+void InputSession::onFault(quint64 requestId, const QString &reason)
+{
+    if (isCurrent(requestId)) {
+        m_fault = reason;
+    }
+}
+
+void InputSession::onOpenFailed(quint64 requestId)
 {
     if (!isCurrent(requestId)) {
         return;
     }
+    m_wasOpen = false; // the engine has cleared the picture
+    m_fault = m_fault.isEmpty() ? tr("Cannot open %1.").arg(description())
+                                : tr("Cannot open %1: %2").arg(description(), m_fault);
+    const bool final = !m_reopen;
+    end();
+    if (final) {
+        Q_EMIT openFailed(m_fault);
+    }
+}
+
+void InputSession::onClosed(quint64 requestId)
+{
+    if (isCurrent(requestId)) {
+        end();
+    }
+}
+
+void InputSession::end()
+{
     setState(State::Closed);
     if (m_shuttingDown) {
         Q_EMIT shutDownDone();

@@ -29,6 +29,8 @@ public:
 
     State state() const { return m_state; }
     bool paused() const { return m_paused; }
+    // Of the newest opening, 0 before the first.
+    quint64 requestId() const { return m_requestId; }
     // The input of this run is a recording, whether or not it is open.
     bool replaying() const;
     // There is a live input to go back to.
@@ -65,8 +67,10 @@ public Q_SLOTS:
     void setAutoRewind(bool on);
 
     void onOpened(quint64 requestId);
-    // Opening failed, or the input closed.
-    void onEnded(quint64 requestId);
+    // Why the input of that request cannot be opened or has ended by itself, one sentence; comes before its end.
+    void onFault(quint64 requestId, const QString &reason);
+    void onOpenFailed(quint64 requestId);
+    void onClosed(quint64 requestId);
 
 Q_SIGNALS:
     void logMessage(LogLevel level, const QString &text);
@@ -76,12 +80,15 @@ Q_SIGNALS:
     // A request goes out: what the last input left behind is of no use now.
     void openingBegun();
     void opened();
+    // No input has been opened, and none is about to be, for that reason.
+    void openFailed(const QString &reason);
     // The input has ended, and no other one takes its place at once.
     void closed();
     void shutDownDone();
 
 private:
     bool isCurrent(quint64 requestId) const { return requestId == m_requestId; }
+    void end();
     void setState(State state);
 
     RunConfig *m_config;
@@ -90,6 +97,7 @@ private:
     State m_state = State::Closed;
     quint64 m_requestId = 0; // of the newest request
     bool m_wasOpen = false; // there is a last picture to look at
+    QString m_fault; // of the newest request; empty: none
     bool m_paused = false;
     bool m_shuttingDown = false;
     bool m_reopen = false; // as soon as the one that is being closed has closed

@@ -93,6 +93,12 @@ bool ListPanes::outOfSight(const ListView *list) const
     return m_window->isVisible() && !list->isVisible();
 }
 
+void ListPanes::refresh()
+{
+    updateTrackList();
+    updateAlertList();
+}
+
 void ListPanes::updateTrackList()
 {
     const auto snapshot = m_newest();

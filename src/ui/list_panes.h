@@ -44,6 +44,8 @@ public:
     void save(const QString &group) const;
 
 public Q_SLOTS:
+    // Both lists at once.
+    void refresh();
     // A list is not kept up to date while it is out of sight.
     void updateTrackList();
     void updateAlertList();

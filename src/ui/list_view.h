@@ -15,7 +15,6 @@ public:
     ListView(QAbstractItemModel *model, const QList<ListColumn> &columns, QWidget *parent = nullptr);
 
     void setEmptyText(const QString &text);
-    QString emptyText() const { return m_emptyText; }
 
     // -1: none.
     int selectedRow() const;

@@ -20,18 +20,30 @@ LogPane::LogPane(QWidget *parent) : QPlainTextEdit(parent)
     setFrameShape(NoFrame);
     setFont(figureFont());
     document()->setDocumentMargin(6);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &LogPane::followIfAtEnd);
+    // A lower pane, or a bar for a long line, takes the end out of sight: nobody has scrolled.
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &LogPane::showEnd);
 }
 
 void LogPane::appendLine(LogLevel level, const QString &line)
 {
-    const bool following = verticalScrollBar()->value() == verticalScrollBar()->maximum();
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
     if (!document()->isEmpty()) {
         cursor.insertBlock();
     }
     cursor.insertText(line, format(level));
-    if (following) {
+    showEnd();
+}
+
+void LogPane::followIfAtEnd()
+{
+    m_following = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+}
+
+void LogPane::showEnd()
+{
+    if (m_following) {
         verticalScrollBar()->setValue(verticalScrollBar()->maximum());
     }
 }

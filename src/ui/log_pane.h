@@ -13,7 +13,7 @@ public:
 
     explicit LogPane(QWidget *parent = nullptr);
 
-    // Follows the newest line unless the operator has scrolled back.
+    // Follows the newest line unless the operator has scrolled back, and again once he is back at the end.
     void appendLine(LogLevel level, const QString &line);
 
 protected:
@@ -21,5 +21,9 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
+    void followIfAtEnd();
+    void showEnd();
     QTextCharFormat format(LogLevel level) const;
+
+    bool m_following = true;
 };

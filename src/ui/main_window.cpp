@@ -28,6 +28,7 @@
 #include "ui/scope_notice.h"
 #include "ui/snapshot_pump.h"
 #include "ui/stats_window.h"
+#include "ui/status_line.h"
 #include "ui/status_read_outs.h"
 #include "ui/weather_intensity_window.h"
 
@@ -41,7 +42,6 @@
 namespace {
 
 constexpr int ClockIntervalMs = 500;
-constexpr int StatusMessageMs = 8000;
 
 // The layers that an action shows and hides.
 constexpr std::pair<ActionId, bool Config::*> LayerToggles[] = {
@@ -56,7 +56,13 @@ constexpr std::pair<ActionId, bool Config::*> LayerToggles[] = {
 
 MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *parent)
     : QMainWindow(parent), m_config(AppPaths::configFile()), m_sensors(std::make_unique<SensorManager>()),
-      m_exitQuestion([this] { return confirmExit(); })
+      m_exitQuestion([this] {
+          return confirm(
+              tr("Exit"), tr("%1 is running, do you want to exit?").arg(QGuiApplication::applicationDisplayName()));
+      }),
+      m_stopQuestion([this] {
+          return confirm(tr("Stop"), tr("The input is running on %1. Stop it?").arg(m_session->description()));
+      })
 {
     connect(
         &m_config, &RunConfig::writeFailed, this, [this](const QString &text) { showLog(LogLevel::Warning, text); });
@@ -128,6 +134,7 @@ void MainWindow::makeFurniture()
     setAcceptDrops(true);
     m_actions = new Actions(this);
     m_readOuts = new StatusReadOuts(statusBar(), &m_host.shared().projector);
+    m_statusLine = std::make_unique<StatusLine>(statusBar());
     m_statsWindow = new StatsWindow(this);
     makeResizeMenu();
     showCurrentZoom(m_geoWidget->currentZoom());
@@ -203,7 +210,9 @@ void MainWindow::connectSession()
     connect(session, &InputSession::openingBegun, this, &MainWindow::beginRadarPicture);
     connect(session, &InputSession::opened, m_lists.get(), &ListPanes::start);
     connect(session, &InputSession::opened, this, &MainWindow::inputOpened);
+    connect(session, &InputSession::openFailed, this, &MainWindow::inputFailed);
     connect(session, &InputSession::closed, this, &MainWindow::pullSlots); // the input's last picture
+    connect(session, &InputSession::closed, m_lists.get(), &ListPanes::refresh);
     connect(session, &InputSession::closed, this, &MainWindow::inputClosed);
     connect(session, &InputSession::shutDownDone, this, &MainWindow::continueShutdown);
 }
@@ -213,7 +222,10 @@ void MainWindow::connectDisplay()
     connect(m_geoWidget, &GeoWidget::cursorMoved, this, &MainWindow::showCursorPosition);
     connect(m_geoWidget, &GeoWidget::zoomChanged, this, &MainWindow::showCurrentZoom);
     connect(m_geoWidget, &GeoWidget::rotationChanged, this, &MainWindow::showCurrentRotation);
-    connect(m_geoWidget, &GeoWidget::paintStats, m_statsWindow, &StatsWindow::setPaintStats);
+    connect(m_geoWidget, &GeoWidget::paintStats, this, [this](const PaintStats &stats) {
+        m_statsWindow->setPaintStats(stats);
+        m_statsWindow->setLayerTimes(m_mapDisplay->layerTimes());
+    });
     connect(m_geoWidget, &GeoWidget::trackSelected, m_lists.get(), &ListPanes::selectTrackInList);
     connect(m_geoWidget, &GeoWidget::rangeRingsCenterSet, this, [this] {
         m_home->noteRingsPlaced();
@@ -231,7 +243,7 @@ void MainWindow::connectDisplay()
 void MainWindow::connectInputActions()
 {
     connect((*m_actions)[ActionId::Start], &QAction::triggered, this, &MainWindow::openInput);
-    connect((*m_actions)[ActionId::Stop], &QAction::triggered, this, &MainWindow::closeInput);
+    connect((*m_actions)[ActionId::Stop], &QAction::triggered, this, &MainWindow::stopInput);
     connect((*m_actions)[ActionId::Pause], &QAction::triggered, this, &MainWindow::pauseInput);
     connect((*m_actions)[ActionId::Exit], &QAction::triggered, this, &MainWindow::exitApplication);
 }
@@ -289,7 +301,7 @@ void MainWindow::connectMapWindows()
     connect(m_layoutMenu.get(), &LayoutMenu::logMessage, this, &MainWindow::showLog);
     connect(maps, &MapWindows::logMessage, this, &MainWindow::showLog);
     connect(maps, &MapWindows::loading, this, &MainWindow::showMapLoadInfo);
-    connect(maps, &MapWindows::loaded, statusBar(), &QStatusBar::clearMessage);
+    connect(maps, &MapWindows::loaded, this, [this] { m_statusLine->clearProgress(); });
     connect(maps, &MapWindows::centerRequested, this, [this](const GeoCoordinate &center) { m_home->jumpTo(center); });
     const auto store = [this](QString Config::*member, const QString &file) {
         editConfig([member, &file](Config &config) {
@@ -310,7 +322,7 @@ void MainWindow::showLog(LogLevel level, const QString &text)
     }
     m_logPane->appendLine(level, formatLogLine(level, QDateTime::currentDateTime(), text));
     if (!m_logPane->isVisible()) {
-        statusBar()->showMessage(text, StatusMessageMs);
+        m_statusLine->showLine(level, text);
     }
 }
 

@@ -31,6 +31,7 @@ class ScopeNotice;
 class SensorManager;
 class SnapshotPump;
 class StatsWindow;
+class StatusLine;
 class StatusReadOuts;
 class TrackLabelFormatWindow;
 class WeatherIntensityWindow;
@@ -65,6 +66,8 @@ public:
 
     // Replaces the question whether to exit while an input is open; true exits.
     void setExitQuestion(std::function<bool()> question) { m_exitQuestion = std::move(question); }
+    // Replaces the question whether to stop the live input; true stops.
+    void setStopQuestion(std::function<bool()> question) { m_stopQuestion = std::move(question); }
     // How long shutdown waits for the engine's answer and for its thread.
     void setShutdownWaits(int confirmMs, int threadMs);
 
@@ -77,6 +80,8 @@ public Q_SLOTS:
     void openInput();
     void pauseInput(bool paused);
     void closeInput();
+    // The operator's Stop: asks before it ends a live input.
+    void stopInput();
     void onEngineInputOpened(unsigned long long requestId);
     void onEngineInputOpenFailed(unsigned long long requestId);
     void onEngineInputClosed(unsigned long long requestId);
@@ -144,6 +149,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void inputOpened();
+    // None has been opened, for that reason.
+    void inputFailed(const QString &reason);
     // The input has ended, and no other one takes its place at once.
     void inputClosed();
     // Once a minute.
@@ -204,8 +211,8 @@ private:
     void loadUiState();
     void saveUiState() const;
     void arrangeDocks();
-    bool confirmExit();
     void closeMapsAndShutDown();
+    bool confirm(const QString &title, const QString &text);
     void beginShutdown();
     void forceShutdown();
 
@@ -220,6 +227,7 @@ private:
     ScopeNotice *m_scopeNotice = nullptr;
     Actions *m_actions = nullptr;
     StatusReadOuts *m_readOuts = nullptr;
+    std::unique_ptr<StatusLine> m_statusLine;
     LogPane *m_logPane = nullptr;
     QDockWidget *m_messagesDock = nullptr;
     StatsWindow *m_statsWindow = nullptr;
@@ -240,6 +248,9 @@ private:
     LogLevel m_minimumLevel = LogLevel::Info;
     Shutdown m_shutdown = Shutdown::NotBegun;
     std::function<bool()> m_exitQuestion;
-    int m_confirmWaitMs = 10000;
-    int m_threadWaitMs = 5000;
+    std::function<bool()> m_stopQuestion;
+    struct {
+        int confirmMs = 10000;
+        int threadMs = 5000;
+    } m_shutdownWaits;
 };

@@ -12,6 +12,7 @@
 #include "ui/replay_controls.h"
 #include "ui/scope_notice.h"
 #include "ui/snapshot_pump.h"
+#include "ui/status_line.h"
 #include "ui/status_read_outs.h"
 
 #include <QAction>
@@ -20,11 +21,8 @@
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QScreen>
-#include <QStatusBar>
 
 namespace {
-
-constexpr int LoadInfoMs = 2000;
 
 // The one local file that is being dragged, if it is a recording; else empty.
 QString draggedRecording(const QMimeData *data)
@@ -59,6 +57,16 @@ void MainWindow::closeInput()
     m_session->close();
 }
 
+void MainWindow::stopInput()
+{
+    const bool live = inputOpen() && !m_session->replaying();
+    const quint64 request = m_session->requestId();
+    // While the question stood open the input may have ended, and another may have taken its place.
+    if (!live || (m_stopQuestion() && request == m_session->requestId())) {
+        closeInput();
+    }
+}
+
 void MainWindow::onEngineInputOpened(unsigned long long requestId)
 {
     m_session->onOpened(requestId);
@@ -66,12 +74,12 @@ void MainWindow::onEngineInputOpened(unsigned long long requestId)
 
 void MainWindow::onEngineInputOpenFailed(unsigned long long requestId)
 {
-    m_session->onEnded(requestId);
+    m_session->onOpenFailed(requestId);
 }
 
 void MainWindow::onEngineInputClosed(unsigned long long requestId)
 {
-    m_session->onEnded(requestId);
+    m_session->onClosed(requestId);
 }
 
 void MainWindow::showSession()
@@ -274,7 +282,7 @@ void MainWindow::showCurrentRotation(double degrees)
 
 void MainWindow::showMapLoadInfo(const QFileInfo &file, const QString &progress)
 {
-    statusBar()->showMessage(tr("Loading map %1: %2").arg(file.fileName(), progress), LoadInfoMs);
+    m_statusLine->showProgress(tr("Loading map %1: %2").arg(file.fileName(), progress));
 }
 
 void MainWindow::loadLayout(QAction *action)

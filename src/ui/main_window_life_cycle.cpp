@@ -84,8 +84,7 @@ void MainWindow::arrangeDocks()
 
 void MainWindow::setShutdownWaits(int confirmMs, int threadMs)
 {
-    m_confirmWaitMs = confirmMs;
-    m_threadWaitMs = threadMs;
+    m_shutdownWaits = {confirmMs, threadMs};
 }
 
 void MainWindow::exitApplication()
@@ -104,10 +103,9 @@ void MainWindow::requestExit()
     }
 }
 
-bool MainWindow::confirmExit()
+bool MainWindow::confirm(const QString &title, const QString &text)
 {
-    const QString text = tr("%1 is running, do you want to exit?").arg(QGuiApplication::applicationDisplayName());
-    return QMessageBox::question(this, tr("Exit"), text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+    return QMessageBox::question(this, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
         == QMessageBox::Yes;
 }
 
@@ -143,7 +141,7 @@ void MainWindow::beginShutdown()
     if (!m_session->shutDown()) {
         QTimer::singleShot(0, this, &MainWindow::continueShutdown);
     }
-    QTimer::singleShot(m_confirmWaitMs, this, &MainWindow::forceShutdown);
+    QTimer::singleShot(m_shutdownWaits.confirmMs, this, &MainWindow::forceShutdown);
 }
 
 void MainWindow::forceShutdown()
@@ -161,7 +159,7 @@ void MainWindow::continueShutdown()
         return;
     }
     disconnect(m_host.engine(), nullptr, this, nullptr);
-    if (!m_host.stop(m_threadWaitMs)) {
+    if (!m_host.stop(m_shutdownWaits.threadMs)) {
         showLog(LogLevel::Warning, tr("Data processing thread did not stop within 5 s, abandoning it."));
     }
     m_shutdown = Shutdown::Complete;

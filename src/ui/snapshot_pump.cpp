@@ -93,5 +93,6 @@ void SnapshotPump::showRadial(const VideoProcessor::Radial &radial)
 void SnapshotPump::publishDropStats()
 {
     Q_EMIT dropStats({m_displayReader.dropped(), m_videoReader.dropped(), m_weatherReader.dropped(),
-        m_map->weatherMap()->emptyPictures(), m_weatherDelay.milliseconds(), m_videoDelay.milliseconds()});
+        m_map->weatherMap()->emptyPictures(), m_weatherDelay.milliseconds(), m_videoDelay.milliseconds(),
+        m_map->weatherMap()->placelessPictures()});
 }

@@ -13,6 +13,7 @@
 namespace {
 
 constexpr auto notReported = "-";
+constexpr auto LayerPrefix = "layer "; // of the names of their values
 constexpr auto widestValue = "100000.0/s, 100000.0 KB/s";
 
 QString fixed(double value)
@@ -28,6 +29,7 @@ StatsWindow::StatsWindow(QWidget *parent) : GeometryDialog("StatsWindow", parent
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(24);
     grid->setColumnStretch(1, 1);
+    m_grid = grid;
     addHeading(grid, tr("Data Pipeline (10 s window)"));
     addValue(grid, "tracks", tr("Tracks in snapshot:"));
     addValue(grid, "alerts", tr("Alerts in snapshot:"));
@@ -41,6 +43,7 @@ StatsWindow::StatsWindow(QWidget *parent) : GeometryDialog("StatsWindow", parent
     addValue(grid, "droppedVideo", tr("Video batches:"));
     addValue(grid, "droppedWeather", tr("Weather pictures:"));
     addValue(grid, "emptyWeather", tr("Weather pictures without content:"));
+    addValue(grid, "placelessWeather", tr("Weather pictures without the radar's place:"));
     addValue(grid, "videoDelay", tr("Largest video delay:"));
     addValue(grid, "weatherDelay", tr("Largest weather delay:"));
     addHeading(grid, tr("Painting (10 s window)"));
@@ -48,6 +51,7 @@ StatsWindow::StatsWindow(QWidget *parent) : GeometryDialog("StatsWindow", parent
     addValue(grid, "mapPaint", tr("Maps, average / maximum:"));
     addValue(grid, "trackPaint", tr("Tracks, average / maximum:"));
     addValue(grid, "paint", tr("Whole frame, average / maximum:"));
+    addHeading(grid, tr("Map layers (last frame)"));
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, Qt::Horizontal, this);
     auto *copy = buttons->addButton(tr("&Copy"), QDialogButtonBox::ActionRole);
@@ -112,6 +116,7 @@ void StatsWindow::setDropStats(const DropStats &stats)
     showValue("droppedVideo", QString::number(stats.videoBatches));
     showValue("droppedWeather", QString::number(stats.weatherPictures));
     showValue("emptyWeather", QString::number(stats.emptyWeatherPictures));
+    showValue("placelessWeather", QString::number(stats.placelessWeatherPictures));
     showValue("videoDelay", tr("%1 ms").arg(stats.videoDelayMs));
     showValue("weatherDelay", tr("%1 ms").arg(stats.weatherDelayMs));
 }
@@ -126,6 +131,18 @@ void StatsWindow::setPaintStats(const PaintStats &stats)
     showValue("mapPaint", cost(stats.mapAverage, stats.mapMaximum));
     showValue("trackPaint", cost(stats.trackAverage, stats.trackMaximum));
     showValue("paint", cost(stats.paintAverage, stats.paintMaximum));
+}
+
+void StatsWindow::setLayerTimes(const QList<GeoMapDisplay::LayerTime> &times)
+{
+    m_layers = times;
+    for (const GeoMapDisplay::LayerTime &time : times) {
+        const QString name = LayerPrefix + time.name;
+        if (!m_values.contains(name)) {
+            addValue(m_grid, name, tr("%1:").arg(time.name));
+        }
+        showValue(name, tr("%1 ms").arg(fixed(time.milliseconds)));
+    }
 }
 
 QString StatsWindow::clipboardText() const
@@ -150,6 +167,7 @@ QString StatsWindow::clipboardText() const
         add("DropVideoBatches", m_drops->videoBatches);
         add("DropWeatherPictures", m_drops->weatherPictures);
         add("DropEmptyWeatherPictures", m_drops->emptyWeatherPictures);
+        add("DropPlacelessWeatherPictures", m_drops->placelessWeatherPictures);
         add("DropVideoMaxDelayMs", m_drops->videoDelayMs);
         add("DropWeatherMaxDelayMs", m_drops->weatherDelayMs);
     }
@@ -161,6 +179,9 @@ QString StatsWindow::clipboardText() const
         add("PaintTrackMaxMs", m_paint->trackMaximum);
         add("PaintFrameAvgMs", m_paint->paintAverage);
         add("PaintFrameMaxMs", m_paint->paintMaximum);
+    }
+    for (const GeoMapDisplay::LayerTime &time : m_layers) {
+        lines += QString("Layer%1Ms:%2").arg(QString(time.name).remove(u' ')).arg(time.milliseconds);
     }
     return lines.join(QLatin1Char('\n'));
 }

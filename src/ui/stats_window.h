@@ -1,5 +1,6 @@
 #pragma once
 
+#include "display/geo_map_display.h"
 #include "engine/pipeline_stats.h"
 #include "ui/drop_stats.h"
 #include "view/paint_stats.h"
@@ -23,6 +24,7 @@ public:
     void setPipelineStats(const PipelineStats &stats);
     void setDropStats(const DropStats &stats);
     void setPaintStats(const PaintStats &stats);
+    void setLayerTimes(const QList<GeoMapDisplay::LayerTime> &times);
 
     // One "Name:value" a line; values that have not been reported yet are left out.
     QString clipboardText() const;
@@ -32,8 +34,10 @@ private:
     void addValue(QGridLayout *grid, const QString &name, const QString &label);
     void showValue(const QString &name, const QString &text);
 
+    QGridLayout *m_grid = nullptr;
     QHash<QString, QLabel *> m_values;
     std::optional<PipelineStats> m_pipeline;
     std::optional<DropStats> m_drops;
     std::optional<PaintStats> m_paint;
+    QList<GeoMapDisplay::LayerTime> m_layers;
 };

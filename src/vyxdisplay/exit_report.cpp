@@ -13,6 +13,14 @@ ExitReport::ExitReport(MainWindow *window, const QString &screenshot, const QStr
     connect(window, &MainWindow::shutdownBegun, this, &ExitReport::write);
 }
 
+void ExitReport::exitWithInput()
+{
+    connect(m_window, &MainWindow::inputFailed, this, &ExitReport::fail);
+    // Later, so that all others hear of the end before.
+    connect(m_window, &MainWindow::inputFailed, m_window, &MainWindow::requestExit, Qt::QueuedConnection);
+    connect(m_window, &MainWindow::inputClosed, m_window, &MainWindow::requestExit, Qt::QueuedConnection);
+}
+
 void ExitReport::write()
 {
     if (!m_screenshot.isEmpty()) {
@@ -27,7 +35,7 @@ void ExitReport::writeScreenshot()
 {
     QImageWriter writer(m_screenshot);
     if (!writer.write(m_window->grab().toImage())) {
-        fail(m_screenshot, writer.errorString());
+        failToWrite(m_screenshot, writer.errorString());
     }
 }
 
@@ -36,12 +44,17 @@ void ExitReport::writeSnapshot()
     const QSharedPointer<const DisplaySnapshot> newest = m_window->newestSnapshot();
     QString reason;
     if (!SnapshotJson::save(newest ? *newest : DisplaySnapshot(), m_snapshot, &reason)) {
-        fail(m_snapshot, reason);
+        failToWrite(m_snapshot, reason);
     }
 }
 
-void ExitReport::fail(const QString &fileName, const QString &reason)
+void ExitReport::failToWrite(const QString &fileName, const QString &reason)
+{
+    fail(tr("Cannot write %1: %2").arg(fileName, reason));
+}
+
+void ExitReport::fail(const QString &line)
 {
     m_succeeded = false;
-    std::fprintf(stderr, "%s\n", qUtf8Printable(tr("Cannot write %1: %2").arg(fileName, reason)));
+    std::fprintf(stderr, "%s\n", qUtf8Printable(line));
 }

@@ -5,8 +5,8 @@
 
 class MainWindow;
 
-// Writes what the window shows when the program ends: a picture of the window, the newest display snapshot. An empty
-// path writes nothing; a failure is a line on standard error.
+// What the run leaves behind when the program ends: a picture of the window, the newest display snapshot, and whether
+// all went well. An empty path writes nothing; a failure is a line on standard error.
 class ExitReport final : public QObject {
     Q_OBJECT
 
@@ -14,14 +14,18 @@ public:
     // Both paths are file names; the window must outlive this object.
     ExitReport(MainWindow *window, const QString &screenshot, const QString &snapshot, QObject *parent = nullptr);
 
-    // True when nothing that was asked for could not be written.
+    // Ends the program with the next input to end. One that cannot be opened is a failure.
+    void exitWithInput();
+
+    // True when nothing that was asked for has failed.
     bool succeeded() const { return m_succeeded; }
 
 private:
     void write();
     void writeScreenshot();
     void writeSnapshot();
-    void fail(const QString &fileName, const QString &reason);
+    void failToWrite(const QString &fileName, const QString &reason);
+    void fail(const QString &line);
 
     MainWindow *m_window;
     QString m_screenshot;

@@ -84,7 +84,7 @@ int runWindow(const CommandLine &commandLine, DemoTraffic *demo, QSplashScreen &
     QObject::connect(&firstFrame, &FirstFrame::painted, &window, [&window](qint64 milliseconds) {
         window.showLog(LogLevel::Debug, MainWindow::tr("First frame after %1 ms").arg(milliseconds));
     });
-    const ExitReport report(&window, commandLine.screenshot, commandLine.snapshot);
+    ExitReport report(&window, commandLine.screenshot, commandLine.snapshot);
     const TerminationSignals signalsToEnd;
     QObject::connect(&signalsToEnd, &TerminationSignals::requested, &window, &MainWindow::requestExit);
     // Told to end from outside, the program does not wait until somebody answers a dialog.
@@ -99,7 +99,7 @@ int runWindow(const CommandLine &commandLine, DemoTraffic *demo, QSplashScreen &
         QObject::connect(&window, &MainWindow::inputOpened, demo, &DemoTraffic::start);
     }
     if (commandLine.exitAtEnd) {
-        QObject::connect(&window, &MainWindow::inputClosed, &window, &MainWindow::requestExit, Qt::QueuedConnection);
+        report.exitWithInput();
     }
     for (const ReplaySpeed::Speed speed : ReplaySpeed::values()) {
         if (ReplaySpeed::name(speed) == commandLine.replaySpeed) {

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void detailsEndAtTheirZoom();
     void vectorReaches();
     void vectorTicks();
+    void linesOfACoastingTrackAreBroken();
     void trailDots();
     void labelLineColors();
     void labelGround();
@@ -161,6 +162,38 @@ void tst_GeoTrackDisplay::vectorTicks()
     QCOMPARE(ticks.size(), 3);
     for (int i = 0; i < 3; ++i) {
         QVERIFY(std::abs(ticks[i] - 30 * (i + 1)) <= 1);
+    }
+}
+
+// Vector and leader, each for itself: the one to the right, the other down and to the left.
+void tst_GeoTrackDisplay::linesOfACoastingTrackAreBroken()
+{
+    TrackSnapshot track = aircraft(1);
+    track.headingValid = true;
+    track.heading = 90.0;
+    Scope scope({track});
+    scope.display.showVectorTicks(false);
+    scope.display.setVectorTimeMode(false);
+    scope.display.setVectorRange(8);
+    scope.display.showLabel(true);
+    scope.display.showBackground(false);
+    PaintedView view(185.2);
+    for (const bool leader : {false, true}) {
+        scope.display.showVector(!leader);
+        scope.display.setLabelOffset(leader ? -200 : 20, leader ? 4 : 190);
+        const auto gaps = [&](bool coasting) {
+            track.coasting = coasting;
+            scope.display.setSnapshot(picture({track}));
+            scope.paint(view);
+            int empty = 0;
+            for (int distance = 15; distance < 60; ++distance) {
+                const QPoint place = PaintedView::Middle + QPoint(leader ? -distance : distance, 0);
+                empty += view.inkIn(QRect(place - QPoint(0, 2), QSize(1, 5))) == 0;
+            }
+            return empty;
+        };
+        QCOMPARE(gaps(false), 0);
+        QVERIFY(gaps(true) > 5);
     }
 }
 

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void reportsWhatIsVisible();
     void wheelZoomsAboutThePointer();
     void rightDragPans();
+    void aDragEndsWhenTheButtonIsUp();
     void rightDragMovesALabel();
     void labelDragEndsWithItsTrack();
     void leftClickSelects();
@@ -226,6 +227,23 @@ void tst_GeoWidget::rightDragPans()
     QCOMPARE(rects.size() + cursors.size(), 0); // tiles are not asked for while the view is still moving
     sendMouse(QEvent::MouseButtonRelease, QPointF(130, 90), Qt::RightButton, Qt::NoButton);
     QCOMPARE(rects.size(), 1);
+}
+
+// The release went to a dialog that came up during the drag.
+void tst_GeoWidget::aDragEndsWhenTheButtonIsUp()
+{
+    showTracks({QPointF(50000, 20000)});
+    const QPointF label(200 + m_tracks->labelOffsetX() + 5, 150 - m_tracks->labelOffsetY() + 5);
+    for (const QPointF &grip : {QPointF(20, 20), label}) {
+        sendMouse(QEvent::MouseButtonPress, grip, Qt::RightButton, Qt::RightButton);
+        const QTransform before = m_widget->screenTransform();
+        QSignalSpy cursors(m_widget.get(), &GeoWidget::cursorMoved);
+        sendMouse(QEvent::MouseMove, grip + QPointF(40, 40), Qt::NoButton, Qt::NoButton);
+        QCOMPARE(m_widget->screenTransform(), before);
+        QVERIFY(m_tracks->trackLabelOffsetDefault(1));
+        QCOMPARE(m_widget->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(cursors.size(), 1);
+    }
 }
 
 void tst_GeoWidget::rightDragMovesALabel()

@@ -74,6 +74,7 @@ private Q_SLOTS:
     void readOuts();
     void staleAnswersAreIgnored();
     void failedOpeningIsReported();
+    void stopAsksBeforeItEndsALiveInput();
     void refusesWhatMakesNoSense();
     void selectionGoesBothWays();
     void alertsReachIndicatorsAndList();
@@ -156,6 +157,29 @@ void TestMainWindow::failedOpeningIsReported()
     QTRY_VERIFY(action(*window, ActionId::Start)->isEnabled());
 }
 
+void TestMainWindow::stopAsksBeforeItEndsALiveInput()
+{
+    WindowFixture fixture;
+    const auto window = fixture.makeWindow();
+    int asked = 0;
+    bool answer = false;
+    window->setStopQuestion([&] {
+        ++asked;
+        return answer;
+    });
+    QSignalSpy closed(window.get(), &MainWindow::inputClosed);
+    QVERIFY(fixture.openInput(*window));
+    action(*window, ActionId::Stop)->trigger();
+    QCoreApplication::processEvents();
+    QVERIFY(asked == 1 && window->inputOpen() && closed.isEmpty());
+    answer = true;
+    action(*window, ActionId::Stop)->trigger();
+    QTRY_COMPARE(closed.size(), 1);
+    QCOMPARE(asked, 2);
+    action(*window, ActionId::Stop)->trigger(); // there is nothing to ask about
+    QCOMPARE(asked, 2);
+}
+
 void TestMainWindow::refusesWhatMakesNoSense()
 {
     WindowFixture fixture;
@@ -205,9 +229,13 @@ void TestMainWindow::selectionGoesBothWays()
     Q_EMIT window->geoWidget()->trackSelected(0);
     QCOMPARE(list->selectedRow(), -1);
 
+    // Lists and scope stop at the same picture.
+    radar.writeDatagram(plot(20.0, 135.0, 0x3C0002), QHostAddress::LocalHost, fixture.port);
+    QTRY_COMPARE(window->newestSnapshot()->tracks.size(), 3);
     window->closeInput();
     QTRY_VERIFY(notice->isVisible());
     QVERIFY(notice->text().contains("last picture"));
+    QCOMPARE(model->rowCount(), 3);
 }
 
 void TestMainWindow::alertsReachIndicatorsAndList()

@@ -71,6 +71,22 @@ private Q_SLOTS:
         QCOMPARE(child<QPushButton>("start")->text(), QString("&Start"));
     }
 
+    // The stop of the jump's own closing is on its way then.
+    void stopDuringAJumpStops()
+    {
+        QSignalSpy closed(m_window.get(), &MainWindow::inputClosed);
+        m_window->setStopQuestion([] { return false; }); // a recording stops without a question
+        for (const bool byWindow : {true, false}) {
+            play(recording("stopped.pcap", {0, 3600000, 7200000}));
+            child<QDateTimeEdit>("jumpTime")->setDateTime(m_begin.addSecs(5400));
+            QTRY_COMPARE(text("lastTime"), QString("2024-05-01 14:00:00"));
+            child<QPushButton>("jump")->click();
+            byWindow ? child<QPushButton>("stop")->click() : action("Stop")->trigger();
+            QTRY_COMPARE(closed.size(), byWindow ? 1 : 2);
+            QVERIFY(!m_window->inputOpen());
+        }
+    }
+
     void speedsOfMenuAndWindowAgree()
     {
         play(recording("speed.pcap", {0, 3600000}));

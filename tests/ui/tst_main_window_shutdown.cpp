@@ -5,6 +5,7 @@
 #include "test_program.h"
 #include "ui/log_pane.h"
 
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QThread>
 
@@ -69,13 +70,15 @@ void TestMainWindowShutdown::anEngineThatHangsDoesNotHoldTheProgram()
     window->setShutdownWaits(30, 30);
     DataEngine *engine = window->engineHost().engine();
     QSignalSpy engineGone(engine, &QObject::destroyed);
+    QSemaphore release;
     QMetaObject::invokeMethod(
-        engine, [] { QThread::msleep(300); }, Qt::QueuedConnection);
+        engine, [&release] { release.acquire(); }, Qt::QueuedConnection);
     window->requestExit();
-    QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), 250);
+    QTRY_VERIFY(!window->isVisible());
     const QString log = window->findChild<LogPane *>()->toPlainText();
     QVERIFY(log.contains("Data engine did not confirm the input close within 10 s, forcing shutdown."));
     QVERIFY(log.contains("Data processing thread did not stop within 5 s, abandoning it."));
+    release.release();
     QTRY_COMPARE(engineGone.size(), 1); // it ends once it comes back
 }
 

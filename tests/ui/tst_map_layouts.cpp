@@ -181,9 +181,9 @@ void TestMapLayouts::mapsAreLoadedAndToggled()
     auto *list = window->findChild<StaticMapsWindow *>();
     list->addFiles({maps.filePath("new.xml")});
     list->setUnsavedQuestion([] { return QMessageBox::Cancel; });
+    const QSignalSpy begun(window.get(), &MainWindow::shutdownBegun);
     window->close();
-    QTest::qWait(50);
-    QVERIFY2(window->isVisible() && list->isVisible(), "unsaved changes are not lost");
+    QVERIFY2(begun.isEmpty() && list->isVisible(), "unsaved changes are not lost");
 }
 
 // A style sheet that was saved in the editor, and an index that was chosen in the settings.

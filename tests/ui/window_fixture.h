@@ -9,9 +9,11 @@
 #include <QTest>
 #include <QUdpSocket>
 
+#include <sys/socket.h>
+
 #include <memory>
 
-// Settings and window state in a directory that goes with the test, and a radar on a free loopback port.
+// Settings and window state in a directory that goes with the test, and a radar on a loopback port of its own.
 class WindowFixture {
 public:
     WindowFixture()
@@ -19,9 +21,7 @@ public:
         qputenv("XDG_CONFIG_HOME", m_directory.path().toUtf8());
         qputenv("XDG_DATA_HOME", m_directory.path().toUtf8());
         setApplicationIdentity();
-        QUdpSocket socket;
-        socket.bind(QHostAddress::AnyIPv4, 0);
-        port = socket.localPort();
+        reservePort();
         Config config;
         config.inputUdpMulticast1 = false;
         config.inputUdpPort1 = port;
@@ -63,5 +63,16 @@ public:
     quint16 port = 0;
 
 private:
+    // Nobody else is given the port as long as this socket has it. The input shares it: at an address to which nothing
+    // is sent the socket takes nothing away from it.
+    void reservePort()
+    {
+        m_reservation.bind(QHostAddress("127.0.0.2"), 0, QUdpSocket::DontShareAddress);
+        const int share = 1;
+        setsockopt(int(m_reservation.socketDescriptor()), SOL_SOCKET, SO_REUSEADDR, &share, sizeof share);
+        port = m_reservation.localPort();
+    }
+
     QTemporaryDir m_directory;
+    QUdpSocket m_reservation;
 };

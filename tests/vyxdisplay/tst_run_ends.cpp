@@ -11,6 +11,9 @@
 #include <QJsonObject>
 #include <QSignalSpy>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <csignal>
 
 namespace {
@@ -20,6 +23,32 @@ constexpr auto sensorAnswer = R"(if [ "$2" = --sensor-json ]; then
   exit 0
 fi
 )";
+
+// Standard error goes to a file in its lifetime.
+class StandardErrorFile final {
+public:
+    explicit StandardErrorFile(const QString &fileName) : m_fileName(fileName), m_before(dup(STDERR_FILENO))
+    {
+        const int file = open(qPrintable(fileName), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+        dup2(file, STDERR_FILENO);
+        ::close(file);
+    }
+    ~StandardErrorFile()
+    {
+        dup2(m_before, STDERR_FILENO);
+        ::close(m_before);
+    }
+
+    QString text() const
+    {
+        QFile file(m_fileName);
+        return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+
+private:
+    QString m_fileName;
+    int m_before;
+};
 
 } // namespace
 
@@ -31,6 +60,7 @@ private Q_SLOTS:
     void demoEndIsReported();
     void demoTrafficEndsWithTheTerminal();
     void reportIsWrittenAtTheEnd();
+    void anInputThatCannotBeOpenedIsAFailure();
     void signalsAskForTheEnd();
 
 private:
@@ -122,6 +152,35 @@ void TestRunEnds::reportIsWrittenAtTheEnd()
     QFile file(snapshot);
     QVERIFY(file.open(QFile::ReadOnly));
     QVERIFY(QJsonDocument::fromJson(file.readAll()).object()["tracks"].isArray());
+}
+
+void TestRunEnds::anInputThatCannotBeOpenedIsAFailure()
+{
+    WindowFixture fixture;
+    const QList<std::pair<std::function<void(Config &)>, QString>> runs{{[](Config &config) {
+                                                                             config.inputComm = Config::InputComm::File;
+                                                                             config.inputFileName =
+                                                                                 QFileInfo("no/such/recording.pcap");
+                                                                         },
+                                                                            "recording.pcap"},
+        {[](Config &config) { config.sensorType = UnknownSensor; }, "Unknown sensor"}};
+    for (const auto &[overrides, reason] : runs) {
+        const auto window = fixture.makeWindow(overrides);
+        ExitReport report(window.get(), {}, {});
+        report.exitWithInput();
+        const StandardErrorFile errors(m_directory.filePath("errors"));
+        window->openInput();
+        QTRY_VERIFY(!window->isVisible());
+        QVERIFY(!report.succeeded());
+        QVERIFY2(errors.text().contains(reason), qPrintable(errors.text()));
+    }
+    const auto window = fixture.makeWindow();
+    ExitReport report(window.get(), {}, {});
+    report.exitWithInput();
+    QVERIFY(fixture.openInput(*window));
+    window->closeInput();
+    QTRY_VERIFY(!window->isVisible());
+    QVERIFY(report.succeeded());
 }
 
 void TestRunEnds::signalsAskForTheEnd()
