@@ -70,11 +70,15 @@ QList<GeoMapDisplay::LayerTime> GeoMapDisplay::layerTimes() const
     return times;
 }
 
-void GeoMapDisplay::applyConfig(const Config &config)
+void GeoMapDisplay::applyConfig(const Config &config, SettingGroups changed)
 {
-    setBackgroundColor(config.mapBackgroundColor);
+    if (changed & SettingGroup::PlanView) {
+        setBackgroundColor(config.mapBackgroundColor);
+    }
     for (const Entry &entry : m_layers) {
-        entry.layer->applyConfig(config);
+        if (changed & entry.layer->settings()) {
+            entry.layer->applyConfig(config);
+        }
     }
 }
 

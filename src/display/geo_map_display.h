@@ -64,8 +64,8 @@ public:
     QColor backgroundColor() const { return m_backgroundColor; }
     QList<LayerTime> layerTimes() const;
 
-    // Hands the configuration to every layer.
-    void applyConfig(const Config &config);
+    // Hands the configuration to the layers that show settings of these groups.
+    void applyConfig(const Config &config, SettingGroups changed = AllSettings);
 
 public Q_SLOTS:
     void setBackgroundColor(const QColor &color);

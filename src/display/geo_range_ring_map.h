@@ -22,6 +22,10 @@ public:
     // Takes colour, visibility, number and distance; the default centre becomes the configured sensor's place, or the
     // display centre when there is none.
     void applyConfig(const Config &config) override;
+    SettingGroups settings() const override
+    {
+        return SettingGroup::RangeRings | SettingGroup::PlanView | SettingGroup::Sensor;
+    }
 
     QPointF center() const { return m_centerSet ? m_center : m_defaultCenter; } // plane metres
     int number() const { return m_number; }

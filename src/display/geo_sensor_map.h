@@ -25,6 +25,7 @@ public:
 
     void paint(QPainter &painter, const GeoView &view) override;
     void applyConfig(const Config &config) override;
+    SettingGroups settings() const override { return SettingGroup::SensorLayer; }
 
     // False, and nothing written, without a located sensor.
     bool sitePosition(QPointF &planePoint) const;

@@ -30,6 +30,7 @@ public:
 
     void paint(QPainter &painter, const GeoView &view) override;
     void applyConfig(const Config &config) override;
+    SettingGroups settings() const override { return SettingGroup::Video; }
 
     // Replaces the steady clock, milliseconds from any start.
     void setClock(std::function<qint64()> clock);

@@ -30,6 +30,7 @@ public:
 
     void paint(QPainter &painter, const GeoView &view) override;
     void applyConfig(const Config &config) override;
+    SettingGroups settings() const override { return SettingGroup::Weather; }
 
     // Levels are 0 to LevelCount - 1. A level without a valid colour is never shown.
     bool levelVisible(int level) const { return m_levelVisible[std::size_t(level)]; }

@@ -35,6 +35,7 @@ public:
 
     void paint(QPainter &painter, const GeoView &view) override;
     void applyConfig(const Config &config) override;
+    SettingGroups settings() const override { return SettingGroup::StaticMaps; }
 
     // True while maps are being prepared in the background; polluted() follows each.
     bool preparing() const;

@@ -133,10 +133,17 @@ void SensorManagerWindow::updateState()
     m_editButton->setEnabled(!selected.isNull());
     m_duplicateButton->setEnabled(!selected.isNull());
     m_removeButton->setEnabled(!selected.isNull());
-    m_useButton->setEnabled(!selected.isNull());
+    m_useButton->setEnabled(!selected.isNull() && !m_inputRunning);
+    m_useButton->setToolTip(m_inputRunning ? tr("The input is running: stop it to choose another sensor.") : QString());
     m_saveButton->setEnabled(m_changed || m_databaseFile.isEmpty());
     const QString file = m_databaseFile.isEmpty() ? tr("not saved yet") : QDir::toNativeSeparators(m_databaseFile);
     m_fileLabel->setText(m_changed ? tr("File: %1 (changed)").arg(file) : tr("File: %1").arg(file));
+}
+
+void SensorManagerWindow::setInputRunning(bool running)
+{
+    m_inputRunning = running;
+    updateState();
 }
 
 QString SensorManagerWindow::selectedName() const

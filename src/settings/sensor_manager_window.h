@@ -20,6 +20,9 @@ public:
     // The manager must outlive the window. The file may be empty: none yet.
     SensorManagerWindow(SensorManager *sensors, const QString &databaseFile, QWidget *parent = nullptr);
 
+    // While one runs its sensor stays as it is; the list may be changed all the same.
+    void setInputRunning(bool running);
+
     const QString &databaseFile() const { return m_databaseFile; }
     bool hasUnsavedChanges() const { return m_changed; }
 
@@ -67,6 +70,7 @@ private:
     QList<QSharedPointer<SensorInfo>>
         m_saved; // records are replaced, never changed, so the pointers keep the old state
     bool m_changed = false;
+    bool m_inputRunning = false;
     QLabel *m_fileLabel = nullptr;
     QTreeWidget *m_list = nullptr;
     QPushButton *m_editButton = nullptr;

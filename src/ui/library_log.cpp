@@ -1,20 +1,24 @@
 #include "ui/library_log.h"
 
+#include "app/log_gate.h"
 #include "asterix/asterix.h"
 #include "modes/log.h"
 
 #include <QMutex>
 #include <QObject>
+#include <QTimer>
 
 #include <utility>
 
 namespace {
 
+constexpr int SumIntervalMs = 1000;
+
 QMutex sinkMutex;
 QObject *sinkReceiver = nullptr; // these two under the mutex
 LibraryLog::Sink sink;
 
-void show(LogLevel level, const QString &text)
+void post(LogLevel level, const QString &text)
 {
     const QMutexLocker lock(&sinkMutex);
     if (sinkReceiver) {
@@ -23,12 +27,27 @@ void show(LogLevel level, const QString &text)
     }
 }
 
+LogGate &gate()
+{
+    static LogGate instance(&post);
+    return instance;
+}
+
+// The text becomes a string only when somebody will see it.
+template <typename MakeText>
+void show(LogLevel level, MakeText makeText)
+{
+    if (LogGate::isShown(level)) {
+        gate().log(level, makeText());
+    }
+}
+
 // Mode S chatter is for debugging, whatever level it has in the library.
 class ModesLogHandler final : public korvane::modes::LogHandler {
 public:
     void log(korvane::modes::Log::Level, const std::string &text) override
     {
-        show(LogLevel::Debug, QString::fromStdString(text));
+        show(LogLevel::Debug, [&text] { return QString::fromStdString(text); });
     }
 };
 
@@ -36,14 +55,27 @@ public:
 
 void LibraryLog::setSink(QObject *receiver, Sink newSink)
 {
-    const QMutexLocker lock(&sinkMutex);
-    sinkReceiver = receiver;
-    sink = std::move(newSink);
+    {
+        const QMutexLocker lock(&sinkMutex);
+        sinkReceiver = receiver;
+        sink = std::move(newSink);
+    }
+    if (receiver) {
+        auto *timer = new QTimer(receiver);
+        QObject::connect(timer, &QTimer::timeout, &LibraryLog::sumUp);
+        timer->start(SumIntervalMs);
+    }
+}
+
+void LibraryLog::sumUp()
+{
+    gate().sumUp();
 }
 
 void LibraryLog::logAsterix(int level, const char *text)
 {
-    show(level >= 0 && level <= 4 ? static_cast<LogLevel>(level + 1) : LogLevel::Debug, QString::fromUtf8(text));
+    show(level >= 0 && level <= 4 ? static_cast<LogLevel>(level + 1) : LogLevel::Debug,
+        [text] { return QString::fromUtf8(text); });
 }
 
 void LibraryLog::install(bool showEverything)

@@ -87,7 +87,7 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
         [this](const QString &text) { showLog(LogLevel::Warning, text); });
     loadSensorDatabase();
     loadAircraftDatabase();
-    applyConfig();
+    applyConfig(AllSettings);
     applySensor();
     showSession();
     m_host.start();
@@ -190,6 +190,7 @@ void MainWindow::connectEngine()
 {
     const DataEngine *engine = m_host.engine();
     connect(engine, &DataEngine::logMessage, this, &MainWindow::showLog);
+    connect(engine, &DataEngine::inputFault, m_session.get(), &InputSession::onFault);
     connect(engine, &DataEngine::inputOpened, this, &MainWindow::onEngineInputOpened);
     connect(engine, &DataEngine::inputOpenFailed, this, &MainWindow::onEngineInputOpenFailed);
     connect(engine, &DataEngine::inputClosed, this, &MainWindow::onEngineInputClosed);
@@ -326,22 +327,30 @@ void MainWindow::showLog(LogLevel level, const QString &text)
     }
 }
 
-void MainWindow::applyConfig()
+void MainWindow::applyConfig(SettingGroups changed)
 {
     const Config &config = m_config.live();
-    m_mapDisplay->applyConfig(config);
-    m_trackDisplay->applyConfig(config);
-    m_readOuts->setTimeZone(config.displayLocalTimeZoneName);
-    m_actions->setToolBarText(config.displayToolbarText);
+    m_mapDisplay->applyConfig(config, changed);
+    if (changed & SettingGroup::Tracks) {
+        m_trackDisplay->applyConfig(config);
+    }
+    if (changed & SettingGroup::General) {
+        m_readOuts->setTimeZone(config.displayLocalTimeZoneName);
+        m_actions->setToolBarText(config.displayToolbarText);
+        updateClock();
+    }
     for (const auto &[id, visible] : LayerToggles) {
         (*m_actions)[id]->setChecked(config.*visible);
     }
-    if (m_weatherIntensityWindow) {
+    if (changed & SettingGroup::Weather && m_weatherIntensityWindow) {
         m_weatherIntensityWindow->refresh();
     }
-    m_mapWindows->reload(config);
-    updateClock();
-    updateNotices();
+    if (changed & SettingGroup::StaticMaps) {
+        m_mapWindows->reload(config);
+    }
+    if (changed & RunGroups) {
+        updateNotices();
+    }
 }
 
 void MainWindow::applySensor()
@@ -372,8 +381,9 @@ void MainWindow::beginRadarPicture()
 
 void MainWindow::editConfig(const std::function<void(Config &)> &change)
 {
+    const Config before = m_config.live();
     m_config.edit(change);
-    applyConfig();
+    applyConfig(Config::changedGroups(before, m_config.live()));
 }
 
 void MainWindow::loadSensorDatabase()

@@ -187,12 +187,15 @@ private:
     void connectDialogActions();
 
     // Settings.
-    void applyConfig();
+    // What concerns settings of these groups.
+    void applyConfig(SettingGroups changed);
     // Starts the sensor's picture anew; not while an input is open.
     void applySensor();
     void placeDefaultLayout();
     // Forgets weather and video, and learns anew where radars stand.
     void beginRadarPicture();
+    // Where a sensor stands that has been chosen: layouts were made for another place.
+    void showSensorPlace();
     // From the settings window.
     void takeSettings(const Config &edited);
     void editConfig(const std::function<void(Config &)> &change);

@@ -92,9 +92,7 @@ void MainWindow::showSession()
 void MainWindow::updateInputActions()
 {
     const bool closed = m_session->state() == InputSession::State::Closed;
-    for (const ActionId id : {ActionId::Start, ActionId::SensorManager}) {
-        (*m_actions)[id]->setEnabled(closed);
-    }
+    (*m_actions)[ActionId::Start]->setEnabled(closed);
     QAction *pause = (*m_actions)[ActionId::Pause];
     pause->setEnabled(inputOpen());
     pause->setChecked(m_session->paused());
@@ -240,7 +238,12 @@ void MainWindow::updateAlertStatus(Alert::Type type, bool on)
 
 void MainWindow::updateClock()
 {
-    m_readOuts->showTime(QDateTime::currentDateTimeUtc());
+    const auto picture = m_pump->newest();
+    if (inputOpen() && m_session->replaying() && picture && picture->recordedTime && picture->time.isValid()) {
+        m_readOuts->showRecordedTime(picture->time);
+    } else {
+        m_readOuts->showTime(QDateTime::currentDateTimeUtc());
+    }
 }
 
 // The view.

@@ -66,7 +66,8 @@ void MainWindow::showConfigWindow()
     auto *window = new ConfigWindow(m_config.live(), m_sensors.get(), this);
     window->setConsent([this](const Config &edited) { return m_mapWindows->settle(edited); });
     window->setInputRunning(m_session->state() != InputSession::State::Closed);
-    connect(this, &MainWindow::inputClosed, window, [window] { window->setInputRunning(false); });
+    connect(m_session.get(), &InputSession::changed, window,
+        [this, window] { window->setInputRunning(m_session->state() != InputSession::State::Closed); });
     connect(window, &ConfigWindow::configApplied, this, &MainWindow::takeSettings);
     connect(&m_config, &RunConfig::writeFailed, window, &ConfigWindow::showSaveProblem);
     openOver(window);
@@ -76,14 +77,19 @@ void MainWindow::takeSettings(const Config &edited)
 {
     const SettingGroups changed = Config::changedGroups(m_config.live(), edited);
     const bool restyled = edited.displayStyle != m_config.live().displayStyle;
+    const QString sensor = m_config.live().sensorName;
+    const GeoCoordinate place = m_home->place();
     m_config.apply(edited);
     m_config.flush(); // the operator is told while his window is still open
     if (restyled) {
         applyWidgetStyle(edited.displayStyle);
     }
-    applyConfig();
+    applyConfig(changed);
     if (changed & SettingGroup::Sensor) {
         applySensor();
+    }
+    if (m_config.live().sensorName != sensor || m_home->place() != place) {
+        showSensorPlace();
     }
     if (changed & SettingGroup::PlanView) {
         placeDefaultLayout();
@@ -185,6 +191,9 @@ void MainWindow::launchSensorManager()
 {
     auto *window =
         new SensorManagerWindow(m_sensors.get(), AppPaths::resolvePath(m_config.live().sensorDatabase), this);
+    window->setInputRunning(m_session->state() != InputSession::State::Closed);
+    connect(m_session.get(), &InputSession::changed, window,
+        [this, window] { window->setInputRunning(m_session->state() != InputSession::State::Closed); });
     connect(window, &SensorManagerWindow::sensorChosen, this, &MainWindow::chooseSensor);
     connect(window, &SensorManagerWindow::databaseFileChanged, this, [this](const QString &file) {
         editConfig([&file](Config &config) { config.sensorDatabase = AppPaths::storePath(file); });
@@ -196,6 +205,11 @@ void MainWindow::chooseSensor(const QSharedPointer<SensorInfo> &sensor)
 {
     editConfig([&sensor](Config &config) { config.setSensor(sensor); });
     applySensor();
-    m_layoutMenu->leave(); // it was made for another place
+    showSensorPlace();
+}
+
+void MainWindow::showSensorPlace()
+{
+    m_layoutMenu->leave();
     m_home->showSensor();
 }

@@ -9,6 +9,10 @@
 
 #include <cmath>
 
+namespace {
+constexpr auto RecordedLook = "color: black; background-color: #e0a030";
+}
+
 StatusReadOuts::StatusReadOuts(QStatusBar *bar, Projector *projector)
     : QObject(bar), m_projector(projector),
       m_cursor(addReadOut(bar, "8959599N 17959599W", tr("Position under the pointer"))),
@@ -24,7 +28,7 @@ StatusReadOuts::StatusReadOuts(QStatusBar *bar, Projector *projector)
         showAlertStatus(static_cast<int>(i) + 1, false);
     }
     m_localClock = addReadOut(bar, "CEST 00:00:00", {});
-    m_utcClock = addReadOut(bar, "UTC 00:00:00", tr("Coordinated universal time"));
+    m_utcClock = addReadOut(bar, "REC UTC 00:00:00", {});
     setTimeZone("UTC");
 }
 
@@ -77,10 +81,27 @@ void StatusReadOuts::setTimeZone(const QString &name)
 
 void StatusReadOuts::showTime(const QDateTime &now)
 {
+    showClocks(now, "'UTC' HH:mm:ss", tr("Coordinated universal time"), {});
+}
+
+void StatusReadOuts::showRecordedTime(const QDateTime &time)
+{
+    const QString toolTip = tr("Time of the recording, %1, coordinated universal time");
+    showClocks(time, "'REC UTC' HH:mm:ss", toolTip.arg(time.toUTC().date().toString(Qt::ISODate)), RecordedLook);
+}
+
+void StatusReadOuts::showClocks(
+    const QDateTime &time, const QString &utcPattern, const QString &utcToolTip, const QString &look)
+{
     if (!m_localClock->isHidden()) {
-        m_localClock->setText(tr("%1 %2").arg(zoneLabel(now), now.toTimeZone(m_zone).toString("HH:mm:ss")));
+        m_localClock->setText(tr("%1 %2").arg(zoneLabel(time), time.toTimeZone(m_zone).toString("HH:mm:ss")));
     }
-    m_utcClock->setText(now.toUTC().toString("'UTC' HH:mm:ss"));
+    m_utcClock->setText(time.toUTC().toString(utcPattern));
+    m_utcClock->setToolTip(utcToolTip);
+    if (m_utcClock->styleSheet() != look) { // setting one costs a new layout
+        m_localClock->setStyleSheet(look);
+        m_utcClock->setStyleSheet(look);
+    }
 }
 
 QString StatusReadOuts::zoneLabel(const QDateTime &now) const

@@ -28,6 +28,8 @@ public:
     // An IANA id, or "LCL" for the system's own zone under just that label; an unknown id gives UTC alone.
     void setTimeZone(const QString &name);
     void showTime(const QDateTime &now);
+    // Of a recording that is being played; looks so that nobody takes it for the present.
+    void showRecordedTime(const QDateTime &time);
 
     QLabel *cursor() const { return m_cursor; }
     QLabel *scale() const { return m_scale; }
@@ -39,6 +41,7 @@ public:
 
 private:
     QLabel *addReadOut(QStatusBar *bar, const QString &widestText, const QString &toolTip);
+    void showClocks(const QDateTime &time, const QString &utcPattern, const QString &utcToolTip, const QString &look);
     QString zoneLabel(const QDateTime &now) const;
 
     Projector *m_projector;

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "app/setting_group.h"
+
 #include <QObject>
 #include <QString>
 
 class Config;
 class GeoView;
 class QPainter;
+
+inline constexpr SettingGroups AllSettings = SettingGroups::fromInt(~0u);
 
 // One layer of the map under the tracks. GUI thread only.
 class GeoLayer : public QObject {
@@ -24,6 +28,8 @@ public:
 
     // Takes over the keys that concern the layer.
     virtual void applyConfig(const Config &config);
+    // The groups that those keys are in: it is left alone while others change.
+    virtual SettingGroups settings() const { return AllSettings; }
 
 public Q_SLOTS:
     void setVisible(bool visible);

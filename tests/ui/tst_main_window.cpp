@@ -124,6 +124,16 @@ void TestMainWindow::readOuts()
         }
         window.updateAlertStatus(static_cast<Alert::Type>(type), false);
     }
+    auto *clocks = window.findChild<StatusReadOuts *>();
+    const QDateTime time({2024, 5, 1}, {12, 0, 5}, Qt::UTC);
+    for (const auto &[show, utc] : {std::pair(&StatusReadOuts::showRecordedTime, QString("REC UTC 12:00:05")),
+             std::pair(&StatusReadOuts::showTime, QString("UTC 12:00:05"))}) {
+        (clocks->*show)(time);
+        QCOMPARE(shown(clocks->utcClock()), utc);
+        QCOMPARE(shown(clocks->localClock()), "CEST 14:00:05");
+        QCOMPARE(clocks->localClock()->styleSheet().isEmpty(), show == &StatusReadOuts::showTime);
+        QCOMPARE(clocks->utcClock()->toolTip().contains("2024-05-01"), show == &StatusReadOuts::showRecordedTime);
+    }
 }
 
 void TestMainWindow::staleAnswersAreIgnored()
@@ -141,11 +151,12 @@ void TestMainWindow::staleAnswersAreIgnored()
     window->onEngineInputOpenFailed(1);
     QVERIFY(window->inputOpen());
     QVERIFY(action(*window, ActionId::Pause)->isEnabled());
-    QVERIFY(!action(*window, ActionId::SensorManager)->isEnabled());
+    QVERIFY(!action(*window, ActionId::Start)->isEnabled());
+    QVERIFY(action(*window, ActionId::SensorManager)->isEnabled() && action(*window, ActionId::Settings)->isEnabled());
     window->onEngineInputClosed(2);
     QVERIFY(!window->inputOpen());
     QVERIFY(!action(*window, ActionId::Pause)->isEnabled());
-    QVERIFY(action(*window, ActionId::SensorManager)->isEnabled());
+    QVERIFY(action(*window, ActionId::Start)->isEnabled());
 }
 
 void TestMainWindow::failedOpeningIsReported()
@@ -153,8 +164,12 @@ void TestMainWindow::failedOpeningIsReported()
     const WindowFixture fixture;
     const auto window = fixture.makeWindow(WindowFixture::missingSerialLine);
     window->openInput();
-    QTRY_VERIFY(logText(*window).contains("Serial device not found: no-such-line"));
+    QTRY_VERIFY(logText(*window).contains("no-such-line"));
     QTRY_VERIFY(action(*window, ActionId::Start)->isEnabled());
+    const auto *notice = window->findChild<ScopeNotice *>();
+    QVERIFY2(notice->text().contains("no-such-line"), qPrintable(notice->text()));
+    window->openInput(); // the reason of the last time is none for this time
+    QVERIFY2(!notice->text().contains("There is no"), qPrintable(notice->text()));
 }
 
 void TestMainWindow::stopAsksBeforeItEndsALiveInput()
@@ -346,7 +361,8 @@ void TestMainWindow::libraryLinesReachTheLog()
     window->setLogLevel(LogLevel::Debug);
     const std::unique_ptr<QThread> decoder(QThread::create([] {
         for (const int level : {-1, 0, 1, 2, 3, 4, 5}) {
-            LibraryLog::logAsterix(level, "za\xC3\xA9");
+            const QByteArray text = QByteArray("za\xC3\xA9 ") + static_cast<char>('b' + level);
+            LibraryLog::logAsterix(level, text.constData());
         }
         korvane::modes::Log::write(korvane::modes::Log::Critical, "za\xC3\xA9"); // for debugging, whatever its level
     }));

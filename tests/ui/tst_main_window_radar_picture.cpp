@@ -1,6 +1,8 @@
 #include "display/geo_map_display.h"
+#include "display/geo_track_display.h"
 #include "display/geo_video_map.h"
 #include "display/geo_weather_map.h"
+#include "map_painting/geo_static_map.h"
 #include "plan_view/geo_widget.h"
 #include "test_program.h"
 #include "ui/weather_intensity_window.h"
@@ -10,6 +12,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QSignalSpy>
 #include <QTest>
 
 // Weather and radar video: their road from the slots to their layers, and the actions that show them.
@@ -51,12 +54,17 @@ void TestMainWindowRadarPicture::actionsShowTheLayers()
 {
     const auto window = WindowFixture::makeWindow();
     const GeoMapDisplay *map = window->geoWidget()->mapDisplay();
+    // What does not change need not be made anew.
+    const QSignalSpy others(map->staticMap(), &GeoLayer::polluted);
+    const QSignalSpy tracks(window->geoWidget()->trackDisplay(), &GeoTrackDisplay::polluted);
+    const QSignalSpy maps(window->geoWidget()->mapDisplay(), &GeoMapDisplay::polluted);
     for (const auto &[text, layer] : {std::pair<QString, const GeoLayer *>("Toggle Weather Map", map->weatherMap()),
              std::pair<QString, const GeoLayer *>("Toggle Video Map", map->videoMap())}) {
         QVERIFY(!layer->visible() && !action(*window, text)->isChecked());
         action(*window, text)->trigger();
         QVERIFY(layer->visible() && action(*window, text)->isChecked());
     }
+    QVERIFY(others.isEmpty() && tracks.isEmpty() && !maps.isEmpty());
     QVERIFY(window->config().mapWeatherVisible && window->config().mapVideoVisible);
     QVERIFY(WindowFixture::close(*window));
 }

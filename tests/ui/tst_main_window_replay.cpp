@@ -2,6 +2,7 @@
 #include "engine/data_engine.h"
 #include "test_program.h"
 #include "ui/replay_window.h"
+#include "ui/status_read_outs.h"
 #include "window_fixture.h"
 
 #include <QAction>
@@ -53,6 +54,7 @@ private Q_SLOTS:
         QCOMPARE(text("firstTime"), QString("2024-05-01 12:00:00"));
         QTRY_COMPARE(text("positionTime"), QString("2024-05-01 12:00:00"));
         QCOMPARE(child<QPushButton>("start")->text(), QString("&Pause"));
+        QTRY_VERIFY2(clock().startsWith("REC UTC 12:00:"), qPrintable(clock()));
 
         auto *time = child<QDateTimeEdit>("jumpTime");
         time->setDateTime(m_begin.addSecs(5400)); // between two packets
@@ -60,6 +62,7 @@ private Q_SLOTS:
         QTRY_COMPARE(text("positionTime"), QString("2024-05-01 14:00:00"));
         QVERIFY(text("elapsed").startsWith("2:00:00") || text("elapsed").startsWith("02:00:00"));
         QVERIFY(m_window->inputOpen());
+        QTRY_VERIFY2(clock().startsWith("REC UTC 14:00:"), qPrintable(clock()));
 
         auto *slider = child<QSlider>("position");
         slider->setSliderDown(true);
@@ -69,6 +72,7 @@ private Q_SLOTS:
         child<QPushButton>("stop")->click();
         QTRY_VERIFY(!m_window->inputOpen());
         QCOMPARE(child<QPushButton>("start")->text(), QString("&Start"));
+        QVERIFY(clock().startsWith("UTC"));
     }
 
     // The stop of the jump's own closing is on its way then.
@@ -142,6 +146,11 @@ private:
     }
 
     QString text(const QString &name) const { return child<QLabel>(name)->text(); }
+    QString clock()
+    {
+        m_window->updateClock();
+        return m_window->findChild<StatusReadOuts *>()->utcClock()->text();
+    }
     QString log() const { return m_window->findChild<QPlainTextEdit *>()->toPlainText(); }
 
     QAction *action(const QString &beginning) const

@@ -1,7 +1,10 @@
 #include "window_fixture.h"
 
+#include "plan_view/geo_widget.h"
+#include "sensors/radar_sensor_info.h"
 #include "settings/config_page.h"
 #include "settings/config_window.h"
+#include "settings/sensor_manager_window.h"
 #include "test_program.h"
 #include "ui/actions.h"
 #include "ui/log_pane.h"
@@ -12,6 +15,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
+#include <QLineF>
+#include <QPushButton>
 #include <QStyle>
 #include <QStyleFactory>
 
@@ -21,6 +26,8 @@ class TestMainWindowSettings : public QObject {
 
 private Q_SLOTS:
     void inputRunsOnWhileSettingsChange();
+    void aSensorIsShownWhereItStands();
+    void sensorsAreLookedAfterWhileTheInputRuns();
     void styleAppliesAtOnce();
     void saysThatNothingIsSaved();
 };
@@ -53,6 +60,46 @@ void TestMainWindowSettings::inputRunsOnWhileSettingsChange()
     QVERIFY(window->inputOpen());
     window->closeInput();
     QTRY_VERIFY(!locked(*settings));
+    QVERIFY(WindowFixture::close(*window));
+}
+
+void TestMainWindowSettings::aSensorIsShownWhereItStands()
+{
+    WindowFixture fixture;
+    const auto window = fixture.makeWindow();
+    const GeoWidget *plan = window->geoWidget();
+    const auto apply = [&window](const std::function<void(Config &)> &change) {
+        Config edited = window->config();
+        change(edited);
+        Q_EMIT opened(*window)->configApplied(edited);
+    };
+    const QTransform before = plan->screenTransform();
+    apply([](Config &config) { config.sensorSac = 77; }); // it is still the same
+    QCOMPARE(plan->screenTransform(), before);
+    apply([](Config &config) {
+        config.sensorName = "FAR";
+        config.sensorLocation = GeoCoordinate(10.0, 20.0);
+    });
+    const QPointF place = window->engineHost().shared().projector.toCartesian(GeoCoordinate(10.0, 20.0));
+    const QPointF pixel = plan->screenTransform().map(place);
+    QVERIFY2(QLineF(pixel, QRectF(plan->rect()).center()).length() < 2.0, "the view is there");
+    QVERIFY(WindowFixture::close(*window));
+}
+
+void TestMainWindowSettings::sensorsAreLookedAfterWhileTheInputRuns()
+{
+    WindowFixture fixture;
+    const auto window = fixture.makeWindow();
+    QVERIFY(fixture.openInput(*window));
+    (*window->findChild<Actions *>())[ActionId::SensorManager]->trigger();
+    auto *manager = window->findChild<SensorManagerWindow *>();
+    const auto sensor = QSharedPointer<RadarSensorInfo>::create();
+    sensor->setName("NEW");
+    manager->putSensor(sensor);
+    const auto *use = manager->findChild<QPushButton *>("useButton");
+    QVERIFY(!use->isEnabled() && window->inputOpen());
+    window->closeInput();
+    QTRY_VERIFY(use->isEnabled());
     QVERIFY(WindowFixture::close(*window));
 }
 

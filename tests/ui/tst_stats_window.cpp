@@ -29,19 +29,26 @@ private Q_SLOTS:
         window.setPipelineStats(pipeline);
         QCOMPARE(shown("weatherInterval"), QString("3.0 s"));
 
-        window.setDropStats({1, 2, 3, 4, 500, 600});
+        window.setDropStats({1, 2, 3, 4, 500, 600, 7});
         const QList<std::pair<const char *, QString>> drops{{"droppedSnapshots", "1"}, {"droppedVideo", "2"},
-            {"droppedWeather", "3"}, {"emptyWeather", "4"}, {"weatherDelay", "500 ms"}, {"videoDelay", "600 ms"}};
+            {"droppedWeather", "3"}, {"emptyWeather", "4"}, {"weatherDelay", "500 ms"}, {"videoDelay", "600 ms"},
+            {"placelessWeather", "7"}};
         for (const auto &[name, text] : drops) {
             QCOMPARE(shown(name), text);
         }
         QCOMPARE(shown("frames"), QString("-"));
+
+        for (const double milliseconds : {9.0, 1.25}) {
+            window.setLayerTimes({{"Static maps", milliseconds}, {"Video", 0.5}});
+        }
+        QCOMPARE(shown("layer Static maps"), QString("1.3 ms"));
 
         window.findChild<QPushButton *>("copy")->click();
         const QStringList lines = QGuiApplication::clipboard()->text().split('\n');
         QCOMPARE(lines.first(), QString("PipelineSnapshotTracks:211"));
         QVERIFY(lines.contains("PipelineInputPacketsPerSec:4166.04"));
         QVERIFY(lines.contains("DropVideoMaxDelayMs:600"));
+        QCOMPARE(lines.filter("Layer"), QStringList({"LayerStaticmapsMs:1.25", "LayerVideoMs:0.5"}));
         QVERIFY(lines.filter("Paint").isEmpty()); // not reported yet
     }
 };
