@@ -12,6 +12,7 @@ function(vyx_generate_build_info target)
         DEPENDS ${PROJECT_SOURCE_DIR}/cmake/VyxBuildInfo.cmake ${PROJECT_SOURCE_DIR}/CMakeLists.txt
             ${head_files}
         VERBATIM)
+    add_custom_target(build_info DEPENDS ${directory}/build_info.h)
     target_sources(${target} PRIVATE ${directory}/build_info.h)
     set_source_files_properties(${directory}/build_info.h PROPERTIES SKIP_AUTOGEN ON)
     target_include_directories(${target} PRIVATE ${directory})

@@ -1,10 +1,11 @@
-# vyx_folder_library(<folder> LINKS <targets> [PCH core|widgets])
+# vyx_folder_library(<folder> LINKS <targets> [PCH core|widgets] [MOC])
 #
 # One library per folder of src/, made of every source file in it but a main.cpp. Its headers are included as
 # "folder/header.h" and are visible to those targets alone that link it: the include path holds a link to this folder
 # and to no other, so an include of a higher floor, or of a folder that is not linked, does not compile.
+# MOC: the folder has classes with Q_OBJECT, Q_GADGET or Q_NAMESPACE, or resources.
 function(vyx_folder_library folder)
-    cmake_parse_arguments(ARG "" "PCH" "LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "MOC" "PCH" "LINKS" ${ARGN})
     set(target vyx_${folder})
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
     list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
@@ -14,16 +15,13 @@ function(vyx_folder_library folder)
     file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/${folder} SYMBOLIC)
     target_include_directories(${target} PUBLIC ${root})
     target_link_libraries(${target} PUBLIC ${ARG_LINKS})
+    set_target_properties(${target} PROPERTIES AUTOMOC ${ARG_MOC} AUTORCC ${ARG_MOC})
     vyx_use_pch(${target} "${ARG_PCH}")
 endfunction()
 
-# Shares one precompiled set of Qt headers among the targets of a kind: core (Core, Gui, Network) or widgets.
-# Not with libFuzzer, whose coverage flags differ between targets.
+# Shares one precompiled set of headers among the targets of a kind: core (Qt Core and Gui) or widgets.
 function(vyx_use_pch target kind)
-    if(VYX_FUZZ)
-        return()
-    endif()
-    if(kind STREQUAL "core" OR kind STREQUAL "widgets")
+    if(VYX_QUICK_BUILD AND kind)
         target_precompile_headers(${target} REUSE_FROM vyx_pch_${kind})
     endif()
 endfunction()
@@ -42,6 +40,10 @@ function(vyx_test_folder folder)
     list(TRANSFORM ARG_EXCEPT APPEND .cpp)
     list(REMOVE_ITEM files ${ARG_EXCEPT})
     add_executable(${target} ${files} ${ARG_SOURCES} ${PROJECT_SOURCE_DIR}/tests/test_program.cpp)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    if(VYX_SANITIZE STREQUAL "thread")
+        target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests/thread_sanitizer.cpp)
+    endif()
     list(TRANSFORM ARG_FIXTURES PREPEND ${PROJECT_SOURCE_DIR}/tests/)
     target_include_directories(${target} PRIVATE
         ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR} ${ARG_FIXTURES})

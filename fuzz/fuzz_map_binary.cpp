@@ -5,11 +5,11 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
 {
-    constexpr std::size_t prefixSize = 3;
-    if (size < prefixSize) {
+    constexpr std::size_t PrefixSize = 3;
+    if (size < PrefixSize) {
         return 0;
     }
     static MapFuzzFiles files;
-    files.readTwice(MapFile::Map, data + prefixSize, size - prefixSize);
+    files.readTwice(MapFile::Map, data + PrefixSize, size - PrefixSize);
     return 0;
 }

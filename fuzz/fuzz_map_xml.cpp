@@ -35,12 +35,12 @@ void readIndex(const QString &path, const QString &copy)
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
 {
-    constexpr std::size_t prefixSize = 3;
-    if (size < prefixSize) {
+    constexpr std::size_t PrefixSize = 3;
+    if (size < PrefixSize) {
         return 0;
     }
     static MapFuzzFiles files;
-    files.readTwice(MapFile::Xml, data + prefixSize, size - prefixSize);
+    files.readTwice(MapFile::Xml, data + PrefixSize, size - PrefixSize);
     files.read(MapFile::Legacy);
     readStyleSheet(files.path(), files.copyPath());
     readIndex(files.path(), files.copyPath());

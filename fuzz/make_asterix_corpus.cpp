@@ -127,10 +127,10 @@ void track062(BlockEncoder &encoder)
 // A plot with its position in random field sequencing, which the encoder does not do.
 bool writeRandomFields(const std::filesystem::path &folder)
 {
-    constexpr unsigned char octets[] = {
+    constexpr unsigned char Octets[] = {
         0x01, 0x00, 0x12, 0xC1, 0x01, 0x02, 0x19, 0xC9, 0x10, 0x02, 0x03, 0x1E, 0xC0, 0xC0, 0xE3, 0x04, 0x0E, 0x00};
     std::ofstream file(folder / "cat001_random_fields.ast", std::ios::binary);
-    file.write(reinterpret_cast<const char *>(octets), sizeof octets);
+    file.write(reinterpret_cast<const char *>(Octets), sizeof Octets);
     return file.good();
 }
 
@@ -155,7 +155,7 @@ struct Line {
     const char *items;
 };
 
-constexpr Line lines[] = {
+constexpr Line Lines[] = {
     {"cat004_alive.ast", nullptr, 4,
         R"("010":{"SAC":25,"SIC":1},"000":1,"020":43200,"060":{"MSAW":1,"STCA":1,"RIMCA":1,"DG":1,"PAIW":1,"NTZ":1})"},
     {"cat004_conflict.ast", nullptr, 4,
@@ -249,6 +249,6 @@ int main(int argc, char *argv[])
         && write(folder, "cat001_track.ast", 1, 2, track001) && write(folder, "cat002.ast", 2, 3, service002)
         && write(folder, "cat034.ast", 34, 2, service034) && write(folder, "cat048.ast", 48, 2, report048)
         && write(folder, "cat062.ast", 62, 2, track062) && writeRandomFields(folder)
-        && std::all_of(std::begin(lines), std::end(lines), [&](const Line &line) { return write(folder, line); });
+        && std::all_of(std::begin(Lines), std::end(Lines), [&](const Line &line) { return write(folder, line); });
     return isWritten ? 0 : 1;
 }

@@ -28,8 +28,8 @@ std::size_t Mutator::below(std::size_t limit)
 
 unsigned char Mutator::octet()
 {
-    constexpr unsigned char favourites[] = {0x00, 0x01, 0x02, 0x7F, 0x80, 0xFE, 0xFF};
-    return below(2) ? favourites[below(std::size(favourites))] : static_cast<unsigned char>(below(256));
+    constexpr unsigned char Favourites[] = {0x00, 0x01, 0x02, 0x7F, 0x80, 0xFE, 0xFF};
+    return below(2) ? Favourites[below(std::size(Favourites))] : static_cast<unsigned char>(below(256));
 }
 
 Octets Mutator::next()

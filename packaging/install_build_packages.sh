@@ -1,9 +1,14 @@
 #!/usr/bin/env bash
-# Installs what is missing of debian-packages.txt. Says what it does; does nothing when all is there.
+# Installs what is missing of debian-packages.txt and of debian-packages-KIND.txt for each KIND named (test, long). Says
+# what it does; does nothing when all is there.
 set -euo pipefail
 cd "$(dirname "$0")"
 
-mapfile -t wanted < <(grep -vE '^\s*(#|$)' debian-packages.txt)
+lists=(debian-packages.txt)
+for kind in "$@"; do
+    lists+=("debian-packages-$kind.txt")
+done
+mapfile -t wanted < <(grep -hvE '^\s*(#|$)' "${lists[@]}")
 # Under some releases a name is one that the package of another name provides.
 installed=$(dpkg-query -W -f '${db:Status-Status} ${Package} ${Provides}\n' 2>/dev/null |
     sed -n 's/^installed //p' | tr -s ', ' '\n' || true)

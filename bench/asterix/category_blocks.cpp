@@ -146,7 +146,7 @@ struct Sample {
     std::size_t recordsPerBlock = RecordsPerBlock;
 };
 
-constexpr Sample samples[] = {
+constexpr Sample Samples[] = {
     {1, addTrack001},
     {4, addConflict004},
     {8, addVectors008},
@@ -163,7 +163,7 @@ SampleBlocks makeCategoryBlocks(int category, const char *edition, std::size_t r
     SampleBlocks out;
     Random random;
     BlockEncoder encoder(category, edition);
-    for (const Sample &sample : samples) {
+    for (const Sample &sample : Samples) {
         while (sample.category == category && out.records < records) {
             encoder.beginBlock();
             for (std::size_t i = 0; i < sample.recordsPerBlock; ++i) {

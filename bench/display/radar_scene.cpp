@@ -62,19 +62,19 @@ WeatherProcessor::Picture stormCells(int vectors)
         double range;
         double size; // nautical miles
     };
-    constexpr Storm storms[] = {{30, 45, 14}, {80, 60, 18}, {140, 25, 10}, {200, 70, 22}, {260, 40, 16}, {320, 85, 20}};
-    constexpr double step = 360.0 / 1024.0;
+    constexpr Storm Storms[] = {{30, 45, 14}, {80, 60, 18}, {140, 25, 10}, {200, 70, 22}, {260, 40, 16}, {320, 85, 20}};
+    constexpr double Step = 360.0 / 1024.0;
     WeatherProcessor::Picture picture;
     // Rings of one level around each storm's middle, cut into vectors by azimuth.
     for (int level = 1; level <= 7; ++level) {
-        for (const Storm &storm : storms) {
+        for (const Storm &storm : Storms) {
             const double radius = storm.size * (8.0 - level) / 7.0;
             const double half = std::asin(std::min(0.9, radius / storm.range)) * 57.29578;
-            for (double off = -half; off <= half && picture.vectors.size() < vectors; off += step) {
+            for (double off = -half; off <= half && picture.vectors.size() < vectors; off += Step) {
                 const double across = storm.range * std::sin(off / 57.29578);
                 const double depth = std::sqrt(std::max(0.0, radius * radius - across * across));
                 const double rough = 1.0 + 0.2 * std::sin(off * 3.0 + level);
-                const double azimuth = std::round((storm.azimuth + off) / step) * step;
+                const double azimuth = std::round((storm.azimuth + off) / Step) * Step;
                 picture.vectors.append(
                     {level, std::max(0.0, storm.range - depth * rough), storm.range + depth * rough, azimuth});
             }
@@ -82,7 +82,7 @@ WeatherProcessor::Picture stormCells(int vectors)
     }
     // The rest as light rain in a belt.
     for (int i = 0; picture.vectors.size() < vectors; ++i) {
-        picture.vectors.append({1, 95.0 + 4.0 * (i / 1024), 99.0 + 4.0 * (i / 1024), (i % 1024) * step});
+        picture.vectors.append({1, 95.0 + 4.0 * (i / 1024), 99.0 + 4.0 * (i / 1024), (i % 1024) * Step});
     }
     return picture;
 }

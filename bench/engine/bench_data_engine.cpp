@@ -84,10 +84,10 @@ bool writeCapture(const QString &fileName, int packets, int plots, int aircraft)
 // From opening to the end, with everything that the event loop does in between. Arguments: plots per packet, aircraft.
 void playRecording(benchmark::State &state)
 {
-    constexpr int packets = 100000;
+    constexpr int Packets = 100000;
     const QTemporaryDir directory;
     const QFileInfo file(directory.filePath("plots.pcap"));
-    if (!writeCapture(file.filePath(), packets, static_cast<int>(state.range(0)), static_cast<int>(state.range(1)))) {
+    if (!writeCapture(file.filePath(), Packets, static_cast<int>(state.range(0)), static_cast<int>(state.range(1)))) {
         state.SkipWithError("The recording cannot be written.");
         return;
     }

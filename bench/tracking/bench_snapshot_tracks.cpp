@@ -16,8 +16,8 @@ using Block = std::vector<unsigned char>;
 // A Mode S report as radars send it, with position, codes, call sign, velocity and two registers.
 Block report(korvane::asterix::BlockEncoder &encoder, int number, int scan)
 {
-    static constexpr std::array<unsigned char, 7> vertical{0xc6, 0x58, 0, 0, 0, 0, 0}; // 20,000 ft selected
-    static constexpr std::array<unsigned char, 7> speed{0, 0, 0, 0, 0x20, 0xa0, 0}; // climbing
+    static constexpr std::array<unsigned char, 7> Vertical{0xc6, 0x58, 0, 0, 0, 0, 0}; // 20,000 ft selected
+    static constexpr std::array<unsigned char, 7> Speed{0, 0, 0, 0, 0x20, 0xa0, 0}; // climbing
     encoder.beginBlock();
     encoder.beginRecord();
     encoder.set("010/SAC", 25);
@@ -29,7 +29,7 @@ Block report(korvane::asterix::BlockEncoder &encoder, int number, int scan)
     encoder.set("090/FL", number % 400);
     encoder.set("220", 0x3c0000 + number);
     encoder.setText("240", "VYX" + std::to_string(number));
-    for (const auto &[code, octets] : {std::pair{4, vertical}, std::pair{6, speed}}) {
+    for (const auto &[code, octets] : {std::pair{4, Vertical}, std::pair{6, Speed}}) {
         encoder.addRepetition("250");
         encoder.setExplicit("250/MBDATA", octets);
         encoder.set("250/BDS1", code);
@@ -83,10 +83,10 @@ private:
 // Arguments: trail dots. The store numbers 4,096 tracks by itself; the rest is put beside them.
 void snapshotOf5000Tracks(benchmark::State &state)
 {
-    constexpr unsigned int wanted = 5000;
+    constexpr unsigned int Wanted = 5000;
     Scene scene(4000, 25);
     const auto tracks = scene.manager().allTracks();
-    for (unsigned int number = 4001; number <= wanted; ++number) {
+    for (unsigned int number = 4001; number <= Wanted; ++number) {
         const auto copy = QSharedPointer<Track>::create(number);
         copy->setModeSCallsign(QStringLiteral("VYX%1").arg(number));
         copy->setIcaoAddr(0x3c0000 + number);
@@ -99,7 +99,7 @@ void snapshotOf5000Tracks(benchmark::State &state)
     }
     for (auto _ : state) {
         const auto snapshot = scene.manager().snapshotTracks(static_cast<int>(state.range(0)));
-        if (snapshot.size() != wanted) {
+        if (snapshot.size() != Wanted) {
             state.SkipWithError("tracks are missing");
         }
         benchmark::DoNotOptimize(snapshot.constData());

@@ -23,9 +23,9 @@
 
 namespace {
 
-constexpr int settlingMinutes = 5;
-constexpr int stallTickMs = 20;
-constexpr qint64 allowedStallMs = 200;
+constexpr int SettlingMinutes = 5;
+constexpr int StallTickMs = 20;
+constexpr qint64 AllowedStallMs = 200;
 
 double residentMegabytes()
 {
@@ -57,9 +57,9 @@ public:
     {
         m_timer.setTimerType(Qt::PreciseTimer);
         connect(&m_timer, &QTimer::timeout, this,
-            [this] { m_longest = std::max(m_longest, m_clock.restart() - stallTickMs); });
+            [this] { m_longest = std::max(m_longest, m_clock.restart() - StallTickMs); });
         m_clock.start();
-        m_timer.start(stallTickMs);
+        m_timer.start(StallTickMs);
     }
     qint64 takeLongest() { return std::exchange(m_longest, 0); }
 
@@ -114,7 +114,7 @@ int run(const Soak &soak)
         const double memory = residentMegabytes();
         const qint64 stall = stalls.takeLongest();
         longestStall = minute > 1 ? std::max(longestStall, stall) : 0; // the first minute holds the start
-        settled = minute <= settlingMinutes ? memory : settled;
+        settled = minute <= SettlingMinutes ? memory : settled;
         grown = std::max(grown, memory);
         std::printf("%3d min  %6.1f MB  %4d tracks  %3d alerts  %7.0f in/s  %6.0f radials/s  dropped by slots: %llu "
                     "snapshots %llu video %llu weather  by the system: %lld  longest stall %lld ms\n",
@@ -141,7 +141,7 @@ int run(const Soak &soak)
     const bool level = settled <= 0.0 || grown <= settled * 1.05;
     std::printf("memory after settling %.1f MB, most %.1f MB; longest stall after the first minute %lld ms\n", settled,
         grown, longestStall);
-    return level && longestStall <= allowedStallMs ? 0 : 1;
+    return level && longestStall <= AllowedStallMs ? 0 : 1;
 }
 
 } // namespace

@@ -36,7 +36,7 @@ double angleBits(const unsigned char *mb, unsigned signBit)
 }
 
 // The registers that bits 1 to 24 and 27 to 29 of register 1,7 stand for; 0 where a bit is reserved.
-constexpr std::uint8_t capabilityBits[] = {0x05, 0x06, 0x07, 0x08, 0x09, 0x0A, 0x20, 0x21, 0x40, 0x41, 0x42, 0x43, 0x44,
+constexpr std::uint8_t CapabilityBits[] = {0x05, 0x06, 0x07, 0x08, 0x09, 0x0A, 0x20, 0x21, 0x40, 0x41, 0x42, 0x43, 0x44,
     0x45, 0x48, 0x50, 0x51, 0x52, 0x53, 0x54, 0x55, 0x56, 0x5F, 0x60, 0, 0, 0xE1, 0xE2, 0xF1};
 
 // Feet of a Mode C code: C1 A1 C2 A2 C4 A4 0 B1 D1 B2 D2 B4 D4, D1 not in use; false where it is none.
@@ -110,11 +110,11 @@ _ast_bds_17_t ast_bds_17_decode(const unsigned char *mb)
 {
     _ast_bds_17_t out{};
     bool isReserved = registerBits(mb, 30, 27) != 0;
-    for (unsigned number = 1; number <= std::size(capabilityBits); ++number) {
+    for (unsigned number = 1; number <= std::size(CapabilityBits); ++number) {
         if (!registerBit(mb, number)) {
             continue;
         }
-        if (const std::uint8_t bds = capabilityBits[number - 1]) {
+        if (const std::uint8_t bds = CapabilityBits[number - 1]) {
             out.registers[out.count++] = bds;
         } else {
             isReserved = true;

@@ -13,7 +13,7 @@ enum SystemStatus : std::uint8_t { Nothing = 0, VectoringAltitudes = 200, Degrad
 
 // In the order of the item, seven bits an extent. Several bits of one type are parts of one function. 99 is airspace
 // infringement, happened and predicted; 20 and 24 are the pressure setting and vertical rate monitors, 27 holding.
-constexpr std::uint8_t statusBits[] = {
+constexpr std::uint8_t StatusBits[] = {
     VectoringAltitudes, 2, 3, 4, 5, 6, 7, //
     8, 9, 18, 19, Degraded, Overflow, Overload, //
     99, 99, 22, 21, 23, 25, 26, //
@@ -61,8 +61,8 @@ void readFunctions(Functions &out, const unsigned char *at)
         return;
     }
     out.present = true;
-    for (std::size_t i = 0; i < std::size(statusBits); ++i) {
-        addFunction(out, statusBits[i], bit(*at, 7 - static_cast<int>(i % 7)));
+    for (std::size_t i = 0; i < std::size(StatusBits); ++i) {
+        addFunction(out, StatusBits[i], bit(*at, 7 - static_cast<int>(i % 7)));
         if (i % 7 == 6 && !(*at++ & 1)) {
             break;
         }
@@ -71,10 +71,10 @@ void readFunctions(Functions &out, const unsigned char *at)
 
 void readPredictedPosition(_ast_item_alert_aircraft_t &out, const unsigned char *at)
 {
-    constexpr double lsb = 180.0 / 33554432;
+    constexpr double Lsb = 180.0 / 33554432;
     out.positionPresent = true;
-    out.latitude = static_cast<std::int32_t>(be32(at)) * lsb;
-    out.longitude = static_cast<std::int32_t>(be32(at + 4)) * lsb;
+    out.latitude = static_cast<std::int32_t>(be32(at)) * Lsb;
+    out.longitude = static_cast<std::int32_t>(be32(at + 4)) * Lsb;
     out.altitude = signed16(at + 8) * 25;
 }
 

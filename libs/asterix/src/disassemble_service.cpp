@@ -46,7 +46,7 @@ void ast_datarecord_034_disassemble(_ast_datarecord_034_t *out, const _ast_datar
         out->i041 = {true, be16(at) / 128.0};
     }
     if (const unsigned char *at = items[Item034::I120]) {
-        constexpr double lsb = 180.0 / 8388608;
-        out->i120 = {true, static_cast<std::int16_t>(be16(at)), signed24(at + 2) * lsb, signed24(at + 5) * lsb};
+        constexpr double Lsb = 180.0 / 8388608;
+        out->i120 = {true, static_cast<std::int16_t>(be16(at)), signed24(at + 2) * Lsb, signed24(at + 5) * Lsb};
     }
 }

@@ -76,17 +76,17 @@ void readAircraftDerived(_ast_datarecord_062_t &out, const _ast_datarecord_t &re
 
 void readFlightPlan(_ast_datarecord_062_t &out, const _ast_datarecord_t &record, const unsigned char *at)
 {
-    constexpr unsigned callsign = 1; // position in the presence field
-    constexpr int callsignLength = 7;
+    constexpr unsigned Callsign = 1; // position in the presence field
+    constexpr int CallsignLength = 7;
     if (!at) {
         return;
     }
     visitSubItems(record, Item062::I390, at, [&out](unsigned position, const unsigned char *next) {
-        if (position != callsign) {
+        if (position != Callsign) {
             return;
         }
         out.i390.callsignPresent = true;
-        readAscii(out.i390.callsign, next, callsignLength);
+        readAscii(out.i390.callsign, next, CallsignLength);
     });
 }
 
@@ -104,10 +104,10 @@ void readStatus(_ast_datarecord_062_t &out, const unsigned char *at)
 void readKinematics(_ast_datarecord_062_t &out, Items items)
 {
     if (const unsigned char *at = items[Item062::I105]) {
-        constexpr double lsb = 180.0 / 33554432;
+        constexpr double Lsb = 180.0 / 33554432;
         const auto latitude = static_cast<std::int32_t>(be32(at));
         const auto longitude = static_cast<std::int32_t>(be32(at + 4));
-        out.i105 = {true, latitude * lsb, longitude * lsb, latitude, longitude, lsb};
+        out.i105 = {true, latitude * Lsb, longitude * Lsb, latitude, longitude, Lsb};
     }
     if (const unsigned char *at = items[Item062::I100]) {
         out.i100 = {true, signed24(at) * 0.5, signed24(at + 3) * 0.5};

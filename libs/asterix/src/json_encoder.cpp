@@ -9,7 +9,7 @@ namespace korvane::asterix {
 namespace {
 
 // Deeper than any item is nested.
-constexpr int MaxDepth = 8;
+constexpr int MaxValueDepth = 8;
 
 bool octetsOfHex(std::string_view text, std::vector<unsigned char> &octets)
 {
@@ -88,7 +88,7 @@ private:
     {
         std::string key;
         bool isFirst = true;
-        if (depth > MaxDepth || !m_json.expect('{')) {
+        if (depth > MaxValueDepth || !m_json.expect('{')) {
             return refuse(path);
         }
         while (m_json.nextMember('}', isFirst)) {
@@ -124,7 +124,7 @@ private:
             m_encoder.setPresent(path);
             return (m_encoder.find(path).valid() || refuse(path)) && readObject(path, depth + 1);
         case '[':
-            return depth <= MaxDepth && (m_encoder.setPresent(path) || refuse(path)) && readArray(path, depth);
+            return depth <= MaxValueDepth && (m_encoder.setPresent(path) || refuse(path)) && readArray(path, depth);
         case '"':
             return (m_json.readString(m_text) && setText(path)) || refuse(path);
         default: {

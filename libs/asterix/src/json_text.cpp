@@ -79,14 +79,14 @@ bool JsonText::readString(std::string &out)
 
 bool JsonText::readEscape(std::string &out)
 {
-    constexpr std::string_view names = "\"\\/bfnrt";
-    constexpr std::string_view values = "\"\\/\b\f\n\r\t";
+    constexpr std::string_view Names = "\"\\/bfnrt";
+    constexpr std::string_view Values = "\"\\/\b\f\n\r\t";
     if (m_at == m_text.size()) {
         return false;
     }
     const char name = m_text[m_at++];
-    if (const std::size_t found = names.find(name); found != std::string_view::npos) {
-        out.push_back(values[found]);
+    if (const std::size_t found = Names.find(name); found != std::string_view::npos) {
+        out.push_back(Values[found]);
         return true;
     }
     if (name != 'u' || m_text.size() - m_at < 4) {

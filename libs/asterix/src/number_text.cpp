@@ -55,8 +55,8 @@ char *writeBinaryFraction(char *out, std::uint64_t value, int power)
 // value / 10^digits, digits of 1 to 4.
 char *writeDecimalFraction(char *out, std::uint64_t value, int digits)
 {
-    constexpr std::uint64_t powers[] = {1, 10, 100, 1000, 10000};
-    const std::uint64_t power = powers[digits];
+    constexpr std::uint64_t Powers[] = {1, 10, 100, 1000, 10000};
+    const std::uint64_t power = Powers[digits];
     out = writeUnsigned(out, value / power);
     std::uint64_t fraction = value % power;
     if (fraction == 0) {

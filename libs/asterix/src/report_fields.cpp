@@ -18,7 +18,7 @@ struct Source {
 };
 
 // Of several sources of a field the first ones that a UAP has count. Latitude and longitude keep the same order.
-constexpr Source sources[] = {
+constexpr Source Sources[] = {
     {1, ReportField::GroundSpeed, "200/GSP", Knots},
     {1, ReportField::TrackAngle, "200/HDG"},
     {1, ReportField::Level, "090/HGT", Feet},
@@ -107,7 +107,7 @@ ReportPlace makePlace(const Uap &uap, const Node &node, double factor)
 ReportFields findReportFields(const Uap &uap)
 {
     ReportFields fields;
-    for (const Source &source : sources) {
+    for (const Source &source : Sources) {
         if (source.category != uap.layout->edition().category) {
             continue;
         }

@@ -8,7 +8,7 @@ struct MessageType {
 };
 
 // As the category document abbreviates them.
-constexpr MessageType messageTypes[] = {
+constexpr MessageType MessageTypes[] = {
     {1, "ALIVE"},
     {2, "RAMLD"},
     {3, "RAMHD"},
@@ -63,7 +63,7 @@ constexpr MessageType messageTypes[] = {
 
 const char *ast_snet_message_type_get_id(std::uint8_t type)
 {
-    for (const MessageType &messageType : messageTypes) {
+    for (const MessageType &messageType : MessageTypes) {
         if (messageType.code == type) {
             return messageType.id;
         }

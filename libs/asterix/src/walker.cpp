@@ -297,8 +297,8 @@ void decodeRecords(_ast_datablock_t &block, const unsigned char *data, const Cat
     if (forced && forced->layout != &table.layout) {
         forced = nullptr;
     }
-    constexpr std::size_t headerOctets = 3;
-    const unsigned char *at = data + headerOctets;
+    constexpr std::size_t HeaderOctets = 3;
+    const unsigned char *at = data + HeaderOctets;
     const unsigned char *const end = data + block.size;
     block.records.clear();
     block.valid = false;

@@ -30,11 +30,11 @@ constexpr std::array<std::uint8_t, 256> makeCharacters()
     return table;
 }
 
-constexpr std::array<std::uint8_t, 256> characters = makeCharacters();
+constexpr std::array<std::uint8_t, 256> Characters = makeCharacters();
 
 std::uint8_t kindOf(char character)
 {
-    return characters[static_cast<unsigned char>(character)];
+    return Characters[static_cast<unsigned char>(character)];
 }
 
 unsigned char octetOf(const char *digits)

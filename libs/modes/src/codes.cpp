@@ -28,12 +28,12 @@ constexpr unsigned MetricBit = 0x0040;
 constexpr unsigned QuarterBit = 0x0010; // steps of 25 feet
 
 // Most significant first.
-constexpr std::array squawkPulses{A4, A2, A1, B4, B2, B1, C4, C2, C1, D4, D2, D1};
-constexpr std::array fiveHundredPulses{D1, D2, D4, A1, A2, A4, B1, B2, B4};
-constexpr std::array hundredPulses{C1, C2, C4};
+constexpr std::array SquawkPulses{A4, A2, A1, B4, B2, B1, C4, C2, C1, D4, D2, D1};
+constexpr std::array FiveHundredPulses{D1, D2, D4, A1, A2, A4, B1, B2, B4};
+constexpr std::array HundredPulses{C1, C2, C4};
 
 constexpr double FeetPerMetre = 1 / 0.3048;
-constexpr std::array<char, 65> callsignCharacters{"?ABCDEFGHIJKLMNOPQRSTUVWXYZ????? ???????????????0123456789??????"};
+constexpr std::array<char, 65> CallsignCharacters{"?ABCDEFGHIJKLMNOPQRSTUVWXYZ????? ???????????????0123456789??????"};
 
 template <std::size_t Size>
 unsigned gather(unsigned code, const std::array<Pulse, Size> &pulses)
@@ -56,8 +56,8 @@ unsigned fromGray(unsigned gray)
 
 std::optional<int> altitudeFromGillham(unsigned code)
 {
-    const auto fiveHundreds = static_cast<int>(fromGray(gather(code, fiveHundredPulses)));
-    auto hundreds = static_cast<int>(fromGray(gather(code, hundredPulses)));
+    const auto fiveHundreds = static_cast<int>(fromGray(gather(code, FiveHundredPulses)));
+    auto hundreds = static_cast<int>(fromGray(gather(code, HundredPulses)));
     if (hundreds == 7) {
         hundreds = 5;
     } else if (hundreds == 0 || hundreds > 4) {
@@ -73,14 +73,14 @@ std::optional<int> altitudeFromGillham(unsigned code)
 
 std::uint16_t squawkFromCode(unsigned code)
 {
-    return static_cast<std::uint16_t>(gather(code, squawkPulses));
+    return static_cast<std::uint16_t>(gather(code, SquawkPulses));
 }
 
 unsigned codeFromSquawk(std::uint16_t squawk)
 {
     unsigned code = 0;
-    for (std::size_t i = 0; i < squawkPulses.size(); ++i) {
-        code |= squawk >> (11 - i) & 1 ? squawkPulses[i] : 0U;
+    for (std::size_t i = 0; i < SquawkPulses.size(); ++i) {
+        code |= squawk >> (11 - i) & 1 ? SquawkPulses[i] : 0U;
     }
     return code;
 }
@@ -108,7 +108,7 @@ unsigned codeFromAltitude(int feet)
 bool callsignFromCode(std::uint64_t code, char (&text)[9])
 {
     for (std::size_t i = 0; i < 8; ++i) {
-        text[i] = callsignCharacters[code >> (42 - 6 * i) & 63];
+        text[i] = CallsignCharacters[code >> (42 - 6 * i) & 63];
     }
     text[8] = '\0';
     if (std::memchr(text, '?', 8)) {
@@ -128,8 +128,8 @@ std::uint64_t codeFromCallsign(const char *text)
     bool isOver = false;
     for (std::size_t i = 0; i < 8; ++i) {
         isOver = isOver || text[i] == '\0';
-        const char *const found = isOver || text[i] == '?' ? nullptr : std::strchr(callsignCharacters.data(), text[i]);
-        code = code << 6 | (found ? static_cast<std::uint64_t>(found - callsignCharacters.data()) : Blank);
+        const char *const found = isOver || text[i] == '?' ? nullptr : std::strchr(CallsignCharacters.data(), text[i]);
+        code = code << 6 | (found ? static_cast<std::uint64_t>(found - CallsignCharacters.data()) : Blank);
     }
     return code;
 }

@@ -30,14 +30,14 @@ bool obeysStatusBits(std::uint64_t mb, const std::array<StatusField, Size> &fiel
     return true;
 }
 
-constexpr std::array bds40Fields{StatusField{1, 2, 12}, StatusField{14, 15, 12}, StatusField{27, 28, 12},
+constexpr std::array Bds40Fields{StatusField{1, 2, 12}, StatusField{14, 15, 12}, StatusField{27, 28, 12},
     StatusField{48, 49, 3}, StatusField{54, 55, 2}};
-constexpr std::array bds45Fields{StatusField{1, 2, 2}, StatusField{4, 5, 2}, StatusField{7, 8, 2},
+constexpr std::array Bds45Fields{StatusField{1, 2, 2}, StatusField{4, 5, 2}, StatusField{7, 8, 2},
     StatusField{10, 11, 2}, StatusField{13, 14, 2}, StatusField{16, 17, 10}, StatusField{27, 28, 11},
     StatusField{39, 40, 12}};
-constexpr std::array bds50Fields{StatusField{1, 2, 10}, StatusField{12, 13, 11}, StatusField{24, 25, 10},
+constexpr std::array Bds50Fields{StatusField{1, 2, 10}, StatusField{12, 13, 11}, StatusField{24, 25, 10},
     StatusField{35, 36, 10}, StatusField{46, 47, 10}};
-constexpr std::array bds60Fields{StatusField{1, 2, 11}, StatusField{13, 14, 10}, StatusField{24, 25, 10},
+constexpr std::array Bds60Fields{StatusField{1, 2, 11}, StatusField{13, 14, 10}, StatusField{24, 25, 10},
     StatusField{35, 36, 10}, StatusField{46, 47, 10}};
 
 template <typename Value>
@@ -154,32 +154,32 @@ std::optional<ResolutionAdvisory> decodeBds30(std::uint64_t mb)
 
 std::optional<VerticalIntention> decodeBds40(std::uint64_t mb)
 {
-    if (mb == 0 || !obeysStatusBits(mb, bds40Fields) || bits(mb, 40, 8) != 0 || bits(mb, 52, 2) != 0) {
+    if (mb == 0 || !obeysStatusBits(mb, Bds40Fields) || bits(mb, 40, 8) != 0 || bits(mb, 52, 2) != 0) {
         return std::nullopt;
     }
     VerticalIntention intention;
-    intention.mcpAltitude = number(mb, bds40Fields[0], 16);
-    intention.fmsAltitude = number(mb, bds40Fields[1], 16);
+    intention.mcpAltitude = number(mb, Bds40Fields[0], 16);
+    intention.fmsAltitude = number(mb, Bds40Fields[1], 16);
     intention.barometricSetting = when(bit(mb, 27), bits(mb, 28, 12) * 0.1 + 800);
-    intention.mcpModes = smallNumber(mb, bds40Fields[3]);
-    intention.altitudeSource = smallNumber(mb, bds40Fields[4]);
+    intention.mcpModes = smallNumber(mb, Bds40Fields[3]);
+    intention.altitudeSource = smallNumber(mb, Bds40Fields[4]);
     return intention;
 }
 
 std::optional<MeteorologicalHazard> decodeBds45(std::uint64_t mb)
 {
-    if (mb == 0 || !obeysStatusBits(mb, bds45Fields) || bits(mb, 52, 5) != 0) {
+    if (mb == 0 || !obeysStatusBits(mb, Bds45Fields) || bits(mb, 52, 5) != 0) {
         return std::nullopt;
     }
     MeteorologicalHazard hazard;
-    hazard.turbulence = smallNumber(mb, bds45Fields[0]);
-    hazard.windShear = smallNumber(mb, bds45Fields[1]);
-    hazard.microburst = smallNumber(mb, bds45Fields[2]);
-    hazard.icing = smallNumber(mb, bds45Fields[3]);
-    hazard.wakeVortex = smallNumber(mb, bds45Fields[4]);
-    hazard.temperature = signedAngle(mb, bds45Fields[5], 0.25);
-    hazard.pressure = number(mb, bds45Fields[6], 1);
-    hazard.radioHeight = number(mb, bds45Fields[7], 16);
+    hazard.turbulence = smallNumber(mb, Bds45Fields[0]);
+    hazard.windShear = smallNumber(mb, Bds45Fields[1]);
+    hazard.microburst = smallNumber(mb, Bds45Fields[2]);
+    hazard.icing = smallNumber(mb, Bds45Fields[3]);
+    hazard.wakeVortex = smallNumber(mb, Bds45Fields[4]);
+    hazard.temperature = signedAngle(mb, Bds45Fields[5], 0.25);
+    hazard.pressure = number(mb, Bds45Fields[6], 1);
+    hazard.radioHeight = number(mb, Bds45Fields[7], 16);
     if (hazard.temperature && (*hazard.temperature < -80 || *hazard.temperature > 60)) {
         return std::nullopt;
     }
@@ -188,15 +188,15 @@ std::optional<MeteorologicalHazard> decodeBds45(std::uint64_t mb)
 
 std::optional<TrackAndTurn> decodeBds50(std::uint64_t mb)
 {
-    if (mb == 0 || !obeysStatusBits(mb, bds50Fields)) {
+    if (mb == 0 || !obeysStatusBits(mb, Bds50Fields)) {
         return std::nullopt;
     }
     TrackAndTurn turn;
-    turn.roll = signedAngle(mb, bds50Fields[0], 45.0 / 256);
-    turn.trueTrack = direction(mb, bds50Fields[1], 90.0 / 512);
-    turn.groundSpeed = number(mb, bds50Fields[2], 2);
-    turn.trackRate = signedAngle(mb, bds50Fields[3], 8.0 / 256);
-    turn.trueAirspeed = number(mb, bds50Fields[4], 2);
+    turn.roll = signedAngle(mb, Bds50Fields[0], 45.0 / 256);
+    turn.trueTrack = direction(mb, Bds50Fields[1], 90.0 / 512);
+    turn.groundSpeed = number(mb, Bds50Fields[2], 2);
+    turn.trackRate = signedAngle(mb, Bds50Fields[3], 8.0 / 256);
+    turn.trueAirspeed = number(mb, Bds50Fields[4], 2);
     if (isBeyond(turn.roll, 50.0) || isBeyond(turn.groundSpeed, 600) || isBeyond(turn.trueAirspeed, 600)) {
         return std::nullopt;
     }
@@ -208,15 +208,15 @@ std::optional<TrackAndTurn> decodeBds50(std::uint64_t mb)
 
 std::optional<HeadingAndSpeed> decodeBds60(std::uint64_t mb, std::optional<int> altitude)
 {
-    if (mb == 0 || !obeysStatusBits(mb, bds60Fields)) {
+    if (mb == 0 || !obeysStatusBits(mb, Bds60Fields)) {
         return std::nullopt;
     }
     HeadingAndSpeed speed;
-    speed.magneticHeading = direction(mb, bds60Fields[0], 90.0 / 512);
-    speed.indicatedAirspeed = number(mb, bds60Fields[1], 1);
+    speed.magneticHeading = direction(mb, Bds60Fields[0], 90.0 / 512);
+    speed.indicatedAirspeed = number(mb, Bds60Fields[1], 1);
     speed.mach = when(bit(mb, 24), bits(mb, 25, 10) * (2.048 / 512));
-    speed.barometricRate = signedNumber(mb, bds60Fields[3], 32);
-    speed.inertialRate = signedNumber(mb, bds60Fields[4], 32);
+    speed.barometricRate = signedNumber(mb, Bds60Fields[3], 32);
+    speed.inertialRate = signedNumber(mb, Bds60Fields[4], 32);
     if (isBeyond(speed.indicatedAirspeed, 500) || isBeyond(speed.mach, 1.0) || isBeyond(speed.barometricRate, 6000)
         || isBeyond(speed.inertialRate, 6000)) {
         return std::nullopt;

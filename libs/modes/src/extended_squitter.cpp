@@ -38,16 +38,16 @@ struct MovementRange {
     double speed;
     double step;
 };
-constexpr std::array movementRanges{MovementRange{124, 175, 0}, MovementRange{109, 100, 5}, MovementRange{94, 70, 2},
+constexpr std::array MovementRanges{MovementRange{124, 175, 0}, MovementRange{109, 100, 5}, MovementRange{94, 70, 2},
     MovementRange{39, 15, 1}, MovementRange{13, 2, 0.5}, MovementRange{9, 1, 0.25}, MovementRange{2, 0.125, 0.125},
     MovementRange{1, 0, 0}};
 
 std::optional<double> speedOfMovement(std::uint32_t code)
 {
-    if (code > movementRanges.front().first) {
+    if (code > MovementRanges.front().first) {
         return std::nullopt;
     }
-    for (const MovementRange &range : movementRanges) {
+    for (const MovementRange &range : MovementRanges) {
         if (code >= range.first) {
             return range.speed + range.step * (code - range.first);
         }

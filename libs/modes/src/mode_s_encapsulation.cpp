@@ -17,7 +17,7 @@ struct FormatEntry {
     std::size_t (*extract)(std::string_view data, std::vector<ModeSFrame> &frames);
 };
 
-constexpr std::array formatTable{
+constexpr std::array FormatTable{
     FormatEntry{ModeSEncapsulation::Raw, "raw", "Raw Frames (7 or 14 Octets)", extractRaw},
     FormatEntry{ModeSEncapsulation::Avr, "avr", "AVR Text", extractAvr},
     FormatEntry{ModeSEncapsulation::Beast, "beast", "Beast Binary", extractBeast},
@@ -27,8 +27,8 @@ constexpr std::array formatTable{
 const FormatEntry &entryOf(ModeSEncapsulation::Format format)
 {
     const auto matches = [format](const FormatEntry &entry) { return entry.format == format; };
-    const auto *const found = std::find_if(formatTable.begin(), formatTable.end(), matches);
-    return found != formatTable.end() ? *found : entryOf(ModeSEncapsulation::DefaultFormat);
+    const auto *const found = std::find_if(FormatTable.begin(), FormatTable.end(), matches);
+    return found != FormatTable.end() ? *found : entryOf(ModeSEncapsulation::DefaultFormat);
 }
 
 } // namespace
@@ -61,8 +61,8 @@ std::string ModeSEncapsulation::identifier(const Format &format)
 ModeSEncapsulation::Format ModeSEncapsulation::fromIdentifier(const std::string &identifier)
 {
     const auto matches = [&identifier](const FormatEntry &entry) { return identifier == entry.identifier; };
-    const auto *const found = std::find_if(formatTable.begin(), formatTable.end(), matches);
-    return found != formatTable.end() ? found->format : DefaultFormat;
+    const auto *const found = std::find_if(FormatTable.begin(), FormatTable.end(), matches);
+    return found != FormatTable.end() ? found->format : DefaultFormat;
 }
 
 std::string ModeSEncapsulation::name(const Format &format)

@@ -34,14 +34,14 @@ constexpr std::array<Row, MaximumData> makeTable()
     return table;
 }
 
-constexpr std::array<Row, MaximumData> table = makeTable();
+constexpr std::array<Row, MaximumData> Table = makeTable();
 
 template <std::size_t Data>
 std::uint32_t remainderOf(const unsigned char *frame)
 {
     std::uint32_t remainder = load24(frame + Data);
     for (std::size_t i = 0; i < Data; ++i) {
-        remainder ^= table[Data - 1 - i][frame[i]];
+        remainder ^= Table[Data - 1 - i][frame[i]];
     }
     return remainder;
 }

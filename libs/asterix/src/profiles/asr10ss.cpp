@@ -5,7 +5,7 @@ namespace korvane::asterix {
 // AST_UAP_ASR10SS
 std::span<const ProfileRow> asr10ssProfile()
 {
-    static constexpr ProfileRow rows[] = {
+    static constexpr ProfileRow Rows[] = {
         {1, "1.4"},
         {2, "1.2"},
         {4, "1.13"},
@@ -22,7 +22,7 @@ std::span<const ProfileRow> asr10ssProfile()
         {65, "1.6"},
         {240, "1.3"},
     };
-    return rows;
+    return Rows;
 }
 
 } // namespace korvane::asterix

@@ -5,7 +5,7 @@ namespace korvane::asterix {
 // AST_UAP_THALES
 std::span<const ProfileRow> thalesProfile()
 {
-    static constexpr ProfileRow rows[] = {
+    static constexpr ProfileRow Rows[] = {
         {1, "1.4"},
         {2, "1.2"},
         {4, "1.13"},
@@ -22,7 +22,7 @@ std::span<const ProfileRow> thalesProfile()
         {65, "1.6"},
         {240, "1.3"},
     };
-    return rows;
+    return Rows;
 }
 
 } // namespace korvane::asterix
