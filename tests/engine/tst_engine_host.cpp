@@ -39,9 +39,9 @@ private Q_SLOTS:
         int log = 0;
         int answered = 0;
         QList<quint64> closed;
-        connect(host.engine(), &DataEngine::logMessage, this, [&log] { ++log; });
-        connect(host.engine(), &DataEngine::inputOpened, this, [&answered] { ++answered; });
-        connect(host.engine(), &DataEngine::inputClosed, this, [&closed](quint64 request) { closed.append(request); });
+        connect(host.engine(), &DataEngine::logMessage, &host, [&log] { ++log; });
+        connect(host.engine(), &DataEngine::inputOpened, &host, [&answered] { ++answered; });
+        connect(host.engine(), &DataEngine::inputClosed, &host, [&closed](quint64 request) { closed.append(request); });
         connect(host.engine(), &DataEngine::inputOpenFailed, this, [] { QFAIL("The opening was answered."); });
         host.start();
         for (int turn = 1; turn <= 2; ++turn) {
