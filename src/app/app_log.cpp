@@ -29,8 +29,8 @@ QLatin1String nameOf(LogLevel level)
 
 QString logLevelLabel(LogLevel level)
 {
-    constexpr int width = 8;
-    return QString(nameOf(level)).leftJustified(width);
+    constexpr int Width = 8;
+    return QString(nameOf(level)).leftJustified(Width);
 }
 
 QString formatLogLine(LogLevel level, const QDateTime &localTime, const QString &text)

@@ -28,7 +28,7 @@
 
 namespace {
 
-constexpr std::array fatalSignals{SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
+constexpr std::array FatalSignals{SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
 
 struct Image {
     std::uintptr_t base = 0; // load address
@@ -85,11 +85,11 @@ void writeRegisters(CrashLogWriter &log, const FaultContext &context)
 // that begins a little higher counts too.
 bool findStackRegion(std::uintptr_t stackPointer, MemoryRegion *region)
 {
-    constexpr std::uintptr_t largestGuard = 1U << 20;
+    constexpr std::uintptr_t LargestGuard = 1U << 20;
     MemoryMapReader map;
     while (map.next(region)) {
         if (region->readable && stackPointer < region->end) {
-            return region->begin <= stackPointer || region->begin - stackPointer <= largestGuard;
+            return region->begin <= stackPointer || region->begin - stackPointer <= LargestGuard;
         }
     }
     return false;
@@ -105,22 +105,22 @@ void writeStackScan(CrashLogWriter &log, std::uintptr_t stackPointer)
         return;
     }
     const int memory = open("/proc/self/mem", O_RDONLY | O_CLOEXEC);
-    constexpr std::uintptr_t alignment = sizeof words[0];
-    auto address = (std::max(stackPointer, region.begin) + alignment - 1) / alignment * alignment;
+    constexpr std::uintptr_t Alignment = sizeof words[0];
+    auto address = (std::max(stackPointer, region.begin) + Alignment - 1) / Alignment * Alignment;
     while (address < region.end) {
         const auto wanted = std::min<std::size_t>(sizeof words, region.end - address);
         const auto count = pread(memory, words.data(), wanted, static_cast<off_t>(address));
-        if (count < static_cast<ssize_t>(alignment)) {
+        if (count < static_cast<ssize_t>(Alignment)) {
             break;
         }
-        const auto wordCount = static_cast<std::size_t>(count) / alignment;
+        const auto wordCount = static_cast<std::size_t>(count) / Alignment;
         for (std::size_t i = 0; i < wordCount; ++i) {
             const auto word = words[i];
             if (word > prepared.image.base && word < prepared.image.base + prepared.image.size) {
                 log.text("  stack 0x").hex(word).text("\n");
             }
         }
-        address += wordCount * alignment;
+        address += wordCount * Alignment;
     }
     close(memory);
 }
@@ -178,9 +178,9 @@ void unhandledExceptionHandler(int signal, siginfo_t *info, void *context)
     while (reporting.test_and_set()) {
         pause(); // another thread crashed first; its signal ends the process
     }
-    constexpr unsigned int secondsForTheReport = 10;
+    constexpr unsigned int SecondsForTheReport = 10;
     std::signal(SIGALRM, SIG_DFL);
-    alarm(secondsForTheReport); // the stack capture may wait for a lock that the crash left held
+    alarm(SecondsForTheReport); // the stack capture may wait for a lock that the crash left held
     writeReport(signal, *info, context);
     alarm(0);
     std::signal(signal, SIG_DFL);
@@ -229,10 +229,10 @@ void installHandlers()
     action.sa_sigaction = unhandledExceptionHandler;
     action.sa_flags = SA_SIGINFO | SA_ONSTACK;
     sigemptyset(&action.sa_mask);
-    for (const int signal : fatalSignals) {
+    for (const int signal : FatalSignals) {
         sigaddset(&action.sa_mask, signal);
     }
-    for (const int signal : fatalSignals) {
+    for (const int signal : FatalSignals) {
         sigaction(signal, &action, nullptr);
     }
 }

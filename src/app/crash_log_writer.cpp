@@ -16,11 +16,11 @@ struct Date {
 // the leap day is a year's last.
 Date dateOf(std::int64_t days)
 {
-    constexpr std::int64_t daysToEpoch = 719468; // from 0000-03-01
-    constexpr std::int64_t daysPerEra = 146097; // 400 years
-    const auto shifted = days + daysToEpoch;
-    const auto era = shifted / daysPerEra;
-    const auto dayOfEra = shifted % daysPerEra;
+    constexpr std::int64_t DaysToEpoch = 719468; // from 0000-03-01
+    constexpr std::int64_t DaysPerEra = 146097; // 400 years
+    const auto shifted = days + DaysToEpoch;
+    const auto era = shifted / DaysPerEra;
+    const auto dayOfEra = shifted % DaysPerEra;
     const auto yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
     const auto dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
     const auto marchMonth = (5 * dayOfYear + 2) / 153;
@@ -83,9 +83,9 @@ CrashLogWriter &CrashLogWriter::decimal(unsigned int value, int width)
 
 CrashLogWriter &CrashLogWriter::dateTime(std::int64_t seconds)
 {
-    constexpr std::int64_t secondsPerDay = 86400;
-    const auto date = dateOf(seconds / secondsPerDay);
-    const auto time = static_cast<unsigned int>(seconds % secondsPerDay);
+    constexpr std::int64_t SecondsPerDay = 86400;
+    const auto date = dateOf(seconds / SecondsPerDay);
+    const auto time = static_cast<unsigned int>(seconds % SecondsPerDay);
     decimal(static_cast<unsigned int>(date.year), 4).text("-").decimal(date.month, 2).text("-").decimal(date.day, 2);
     return text(" ").decimal(time / 3600, 2).text(":").decimal(time / 60 % 60, 2).text(":").decimal(time % 60, 2);
 }

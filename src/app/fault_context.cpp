@@ -14,11 +14,11 @@ FaultContext contextOf(const mcontext_t &machine)
 {
     const auto reg = [&machine](int index) { return static_cast<std::uintptr_t>(machine.gregs[index]); };
     // Bits of the page fault error code.
-    constexpr std::uintptr_t written = 1U << 1;
-    constexpr std::uintptr_t fetched = 1U << 4;
+    constexpr std::uintptr_t Written = 1U << 1;
+    constexpr std::uintptr_t Fetched = 1U << 4;
     const auto error = reg(REG_ERR);
-    const auto access = error & fetched ? FaultContext::Execute
-        : error & written               ? FaultContext::Write
+    const auto access = error & Fetched ? FaultContext::Execute
+        : error & Written               ? FaultContext::Write
                                         : FaultContext::Read;
     return {reg(REG_RIP), reg(REG_RSP), reg(REG_RBP), reg(REG_RAX), reg(REG_RBX), reg(REG_RCX), reg(REG_RDX),
         reg(REG_RSI), reg(REG_RDI), access};

@@ -5,7 +5,7 @@
 #include <QSettings>
 
 namespace {
-const auto geometryKey = QStringLiteral("windowGeometry");
+const auto GeometryKey = QStringLiteral("windowGeometry");
 }
 
 QString UiState::filePath()
@@ -32,10 +32,10 @@ QByteArray UiState::value(const QString &group, const QString &key)
 
 void UiState::saveGeometry(const QString &group, const QByteArray &bytes)
 {
-    saveValue(group, geometryKey, bytes);
+    saveValue(group, GeometryKey, bytes);
 }
 
 QByteArray UiState::geometry(const QString &group)
 {
-    return value(group, geometryKey);
+    return value(group, GeometryKey);
 }

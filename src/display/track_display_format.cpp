@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int formatVersion = 1;
+constexpr int FormatVersion = 1;
 constexpr QLatin1String versionKey("version");
 constexpr QLatin1String fontFamiliesKey("labelFontFamilies");
 constexpr QLatin1String fontSizeKey("labelFontSize");
@@ -36,7 +36,7 @@ struct Number {
 
 using Display = GeoTrackDisplay;
 
-constexpr std::array switches{
+constexpr std::array Switches{
     Switch{"labelVisible", &Format::labelVisible, &Display::labelVisible, &Display::showLabel},
     Switch{"alertIndicator", &Format::alertIndicatorVisible, &Display::alertIndicatorVisible,
         &Display::showAlertIndicator},
@@ -58,7 +58,7 @@ constexpr std::array switches{
     Switch{"vectorTicks", &Format::vectorTicksVisible, &Display::vectorTicksVisible, &Display::showVectorTicks},
 };
 
-constexpr std::array numbers{
+constexpr std::array Numbers{
     Number{"backgroundPadding", &Format::backgroundPadding, 0, Format::MaxBackgroundPadding,
         &Display::backgroundPadding, &Display::setBackgroundPadding},
     Number{"symbolSize", &Format::symbolSize, Format::MinSymbolSize, Format::MaxSymbolSize, &Display::symbolSize,
@@ -85,10 +85,10 @@ void readFont(const QJsonObject &object, QFont *font)
 
 void TrackDisplayFormat::readFrom(const GeoTrackDisplay &display)
 {
-    for (const Switch &entry : switches) {
+    for (const Switch &entry : Switches) {
         this->*entry.field = (display.*entry.get)();
     }
-    for (const Number &entry : numbers) {
+    for (const Number &entry : Numbers) {
         this->*entry.field = (display.*entry.get)();
     }
     labelFont = display.labelFont();
@@ -96,10 +96,10 @@ void TrackDisplayFormat::readFrom(const GeoTrackDisplay &display)
 
 void TrackDisplayFormat::applyTo(GeoTrackDisplay &display) const
 {
-    for (const Switch &entry : switches) {
+    for (const Switch &entry : Switches) {
         (display.*entry.set)(this->*entry.field);
     }
-    for (const Number &entry : numbers) {
+    for (const Number &entry : Numbers) {
         (display.*entry.set)(this->*entry.field);
     }
     display.setLabelFont(labelFont);
@@ -107,12 +107,12 @@ void TrackDisplayFormat::applyTo(GeoTrackDisplay &display) const
 
 QByteArray TrackDisplayFormat::toBytes() const
 {
-    QJsonObject object{{versionKey, formatVersion}, {fontSizeKey, labelFont.pointSize()},
+    QJsonObject object{{versionKey, FormatVersion}, {fontSizeKey, labelFont.pointSize()},
         {fontFamiliesKey, QJsonArray::fromStringList(labelFont.families())}};
-    for (const Switch &entry : switches) {
+    for (const Switch &entry : Switches) {
         object.insert(QLatin1String(entry.key), this->*entry.field);
     }
-    for (const Number &entry : numbers) {
+    for (const Number &entry : Numbers) {
         object.insert(QLatin1String(entry.key), this->*entry.field);
     }
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
@@ -124,10 +124,10 @@ bool TrackDisplayFormat::fromBytes(const QByteArray &bytes)
     if (!object.value(versionKey).isDouble()) {
         return false;
     }
-    for (const Switch &entry : switches) {
+    for (const Switch &entry : Switches) {
         this->*entry.field = object.value(QLatin1String(entry.key)).toBool(this->*entry.field);
     }
-    for (const Number &entry : numbers) {
+    for (const Number &entry : Numbers) {
         const int number = object.value(QLatin1String(entry.key)).toInt(this->*entry.field);
         if (number >= entry.minimum && number <= entry.maximum) {
             this->*entry.field = number;

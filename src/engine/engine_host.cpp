@@ -9,7 +9,7 @@
 #include <vector>
 
 namespace {
-constexpr int stopWaitMs = 5000;
+constexpr int StopWaitMs = 5000;
 }
 
 EngineHost::EngineHost(QObject *parent)
@@ -30,7 +30,7 @@ EngineHost::EngineHost(QObject *parent)
 
 EngineHost::~EngineHost()
 {
-    stop(stopWaitMs);
+    stop(StopWaitMs);
 }
 
 void EngineHost::start()

@@ -9,7 +9,7 @@
 using korvane::astfile::PcapWriter;
 
 namespace {
-constexpr int checkIntervalMs = 1000;
+constexpr int CheckIntervalMs = 1000;
 }
 
 InputRecorder::InputRecorder(QObject *parent) : QObject(parent)
@@ -26,7 +26,7 @@ void InputRecorder::start(const QString &fileName)
         return;
     }
     m_fileName = fileName;
-    m_checkTimer.start(checkIntervalMs);
+    m_checkTimer.start(CheckIntervalMs);
     Q_EMIT started(fileName);
 }
 

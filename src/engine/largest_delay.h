@@ -10,9 +10,9 @@ public:
     // From one time of day to another, both in seconds since midnight UTC; across midnight where the first is later.
     static int between(double timeOfDay, double now)
     {
-        constexpr double secondsPerDay = 86400.0;
+        constexpr double SecondsPerDay = 86400.0;
         const double delay = now - timeOfDay;
-        return qRound((delay < 0.0 ? delay + secondsPerDay : delay) * 1000.0);
+        return qRound((delay < 0.0 ? delay + SecondsPerDay : delay) * 1000.0);
     }
 
     // A picture's own time of day, and the clock's when it was taken; a picture without one (negative) does not count.

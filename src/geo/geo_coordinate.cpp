@@ -64,13 +64,13 @@ public:
     // Invalid unless the whole text is a coordinate.
     GeoCoordinate coordinate(bool withHundredths)
     {
-        constexpr qsizetype lengthWithThreeDegreeDigits = 15;
+        constexpr qsizetype LengthWithThreeDegreeDigits = 15;
         const qsizetype extra = withHundredths ? 6 : 0;
-        if (m_text.size() != lengthWithThreeDegreeDigits + extra
-            && m_text.size() + 1 != lengthWithThreeDegreeDigits + extra) {
+        if (m_text.size() != LengthWithThreeDegreeDigits + extra
+            && m_text.size() + 1 != LengthWithThreeDegreeDigits + extra) {
             return {};
         }
-        const bool threeDigits = m_text.size() == lengthWithThreeDegreeDigits + extra;
+        const bool threeDigits = m_text.size() == LengthWithThreeDegreeDigits + extra;
         const double latitude = axis(2, withHundredths, u'N', u'S');
         const double longitude = axis(threeDigits ? 3 : 2, withHundredths, u'E', u'W');
         GeoCoordinate coordinate;
@@ -130,8 +130,8 @@ GeoCoordinate parse(Text text, GeoCoordinate::ATCStringFormat format)
 template <class Text>
 GeoCoordinate parse(Text text)
 {
-    constexpr qsizetype longestNormal = 15;
-    return parse(text, text.size() <= longestNormal ? GeoCoordinate::NormalPrecision : GeoCoordinate::HighPrecision);
+    constexpr qsizetype LongestNormal = 15;
+    return parse(text, text.size() <= LongestNormal ? GeoCoordinate::NormalPrecision : GeoCoordinate::HighPrecision);
 }
 
 } // namespace
@@ -145,9 +145,9 @@ QString GeoCoordinate::toATCString(ATCStringFormat format) const
         return QStringLiteral("%1,%2").arg(QString::number(latitude(), 'f', 6), QString::number(longitude(), 'f', 6));
     }
     const bool withHundredths = format == HighPrecision;
-    constexpr qsizetype longest = 21;
+    constexpr qsizetype Longest = 21;
     QString text;
-    text.reserve(longest);
+    text.reserve(Longest);
     appendAxis(text, latitude(), 2, QLatin1Char('N'), QLatin1Char('S'), withHundredths);
     text += separator(format);
     appendAxis(text, longitude(), 3, QLatin1Char('E'), QLatin1Char('W'), withHundredths);

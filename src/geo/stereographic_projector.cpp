@@ -19,10 +19,10 @@ double conformalLatitude(double phi)
 // Seven refinements without a test for convergence: the cost is the same everywhere on the plane.
 double geodeticLatitude(double chi)
 {
-    constexpr int refinements = 7;
+    constexpr int Refinements = 7;
     const double tangent = std::tan(Pi / 4.0 + chi / 2.0);
     double phi = chi;
-    for (int i = 0; i < refinements; ++i) {
+    for (int i = 0; i < Refinements; ++i) {
         const double eSinPhi = Eccentricity * std::sin(phi);
         phi = 2.0 * std::atan(tangent * std::pow((1.0 + eSinPhi) / (1.0 - eSinPhi), HalfEccentricity)) - Pi / 2.0;
     }

@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr std::array lineFields = {&MapData::name, &MapData::title, &MapData::author, &MapData::version};
-constexpr std::array textFields = {&MapData::description, &MapData::comment};
+constexpr std::array LineFields = {&MapData::name, &MapData::title, &MapData::author, &MapData::version};
+constexpr std::array TextFields = {&MapData::description, &MapData::comment};
 
 } // namespace
 
@@ -22,14 +22,14 @@ MapEditorMetaPane::MapEditorMetaPane(MapEditorDocument *document, QWidget *paren
 {
     auto *form = new FieldForm(this);
     const std::array lineLabels = {tr("&Name:"), tr("&Title:"), tr("A&uthor:"), tr("&Version:")};
-    for (std::size_t i = 0; i < lineFields.size(); ++i) {
+    for (std::size_t i = 0; i < LineFields.size(); ++i) {
         m_lines[i] = new QLineEdit;
         form->addField(lineLabels[i], m_lines[i]);
         connect(m_lines[i], &QLineEdit::editingFinished, this, &MapEditorMetaPane::commit);
     }
     m_lines[0]->setObjectName(QStringLiteral("mapName"));
     const std::array textLabels = {tr("&Description:"), tr("Co&mment:")};
-    for (std::size_t i = 0; i < textFields.size(); ++i) {
+    for (std::size_t i = 0; i < TextFields.size(); ++i) {
         m_texts[i] = new QPlainTextEdit;
         m_texts[i]->setTabChangesFocus(true);
         m_texts[i]->setMaximumHeight(m_texts[i]->fontMetrics().height() * 6);
@@ -58,12 +58,12 @@ void MapEditorMetaPane::fill()
 {
     const QScopedValueRollback filling(m_filling, true);
     const MapData &map = m_document->store().map();
-    for (std::size_t i = 0; i < lineFields.size(); ++i) {
-        m_lines[i]->setText(map.*lineFields[i]);
+    for (std::size_t i = 0; i < LineFields.size(); ++i) {
+        m_lines[i]->setText(map.*LineFields[i]);
     }
-    for (std::size_t i = 0; i < textFields.size(); ++i) {
-        if (m_texts[i]->toPlainText() != map.*textFields[i]) {
-            m_texts[i]->setPlainText(map.*textFields[i]);
+    for (std::size_t i = 0; i < TextFields.size(); ++i) {
+        if (m_texts[i]->toPlainText() != map.*TextFields[i]) {
+            m_texts[i]->setPlainText(map.*TextFields[i]);
         }
     }
 }
@@ -74,11 +74,11 @@ void MapEditorMetaPane::commit()
         return;
     }
     MapData meta;
-    for (std::size_t i = 0; i < lineFields.size(); ++i) {
-        meta.*lineFields[i] = m_lines[i]->text();
+    for (std::size_t i = 0; i < LineFields.size(); ++i) {
+        meta.*LineFields[i] = m_lines[i]->text();
     }
-    for (std::size_t i = 0; i < textFields.size(); ++i) {
-        meta.*textFields[i] = m_texts[i]->toPlainText();
+    for (std::size_t i = 0; i < TextFields.size(); ++i) {
+        meta.*TextFields[i] = m_texts[i]->toPlainText();
     }
     m_document->setMeta(meta);
 }

@@ -4,13 +4,13 @@
 #include <QSet>
 
 namespace {
-constexpr int settlingMs = 200;
+constexpr int SettlingMs = 200;
 } // namespace
 
 FileWatch::FileWatch(QObject *parent) : QObject(parent)
 {
     m_settling.setSingleShot(true);
-    m_settling.setInterval(settlingMs);
+    m_settling.setInterval(SettlingMs);
     connect(&m_settling, &QTimer::timeout, this, &FileWatch::compare);
     // Restarting the timer with every sign of life is what waits for the end of the writing.
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_settling, qOverload<>(&QTimer::start));

@@ -7,7 +7,7 @@
 namespace {
 
 // The class of what states none.
-const auto noClass = QLatin1String("nil");
+const auto NoClass = QLatin1String("nil");
 
 double degrees(const MapXmlReader &xml, QLatin1String name)
 {
@@ -24,7 +24,7 @@ GeoCoordinate position(const MapXmlReader &xml)
 QString className(const MapXmlReader &xml)
 {
     const QString name = xml.attribute(QLatin1String("class"));
-    return name.isEmpty() ? QString(noClass) : name;
+    return name.isEmpty() ? QString(NoClass) : name;
 }
 
 void readMeta(MapXmlReader &xml, MapData &map)

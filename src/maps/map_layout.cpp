@@ -11,11 +11,11 @@ namespace {
 
 constexpr double DefaultScale = 0.00302231; // pixels per metre
 
-const auto defaultName = QStringLiteral("default");
-const auto layoutsKey = QStringLiteral("layouts");
-const auto currentKey = QStringLiteral("defaultLayout");
-const auto nameKey = QStringLiteral("name");
-const auto transformKey = QStringLiteral("transform");
+const auto DefaultName = QStringLiteral("default");
+const auto LayoutsKey = QStringLiteral("layouts");
+const auto CurrentKey = QStringLiteral("defaultLayout");
+const auto NameKey = QStringLiteral("name");
+const auto TransformKey = QStringLiteral("transform");
 
 QString toText(const QTransform &transform)
 {
@@ -43,13 +43,13 @@ std::optional<QTransform> toTransform(const QVariant &value)
 
 } // namespace
 
-MapLayout::MapLayout(QObject *parent) : QObject(parent), m_currentName(defaultName) { }
+MapLayout::MapLayout(QObject *parent) : QObject(parent), m_currentName(DefaultName) { }
 
 void MapLayout::load(const QString &fileName)
 {
     m_layouts.clear();
     QSettings settings(fileName, QSettings::IniFormat);
-    const QString saved = settings.value(currentKey, defaultName).toString();
+    const QString saved = settings.value(CurrentKey, DefaultName).toString();
     const QMap<QString, QString> positions = loadArray(settings);
     if (positions.isEmpty() && m_layouts.isEmpty()) {
         loadGroup(settings);
@@ -61,15 +61,15 @@ void MapLayout::load(const QString &fileName)
 QMap<QString, QString> MapLayout::loadArray(QSettings &settings)
 {
     QMap<QString, QString> positions;
-    settings.beginGroup(layoutsKey);
+    settings.beginGroup(LayoutsKey);
     const int present = int(settings.childGroups().size());
     settings.endGroup();
-    const int size = std::min(settings.beginReadArray(layoutsKey), present);
+    const int size = std::min(settings.beginReadArray(LayoutsKey), present);
     for (int i = 0; i < size; ++i) {
         settings.setArrayIndex(i);
-        const QString name = settings.value(nameKey).toString();
-        const auto transform = toTransform(settings.value(transformKey));
-        if (name == defaultName || name.isEmpty() || !transform) {
+        const QString name = settings.value(NameKey).toString();
+        const auto transform = toTransform(settings.value(TransformKey));
+        if (name == DefaultName || name.isEmpty() || !transform) {
             continue;
         }
         m_layouts.insert(name, *transform);
@@ -82,7 +82,7 @@ QMap<QString, QString> MapLayout::loadArray(QSettings &settings)
 // Older files: one key per layout.
 void MapLayout::loadGroup(QSettings &settings)
 {
-    settings.beginGroup(layoutsKey);
+    settings.beginGroup(LayoutsKey);
     const QStringList names = settings.childKeys();
     for (const QString &name : names) {
         if (const auto transform = toTransform(settings.value(name))) {
@@ -95,27 +95,27 @@ void MapLayout::loadGroup(QSettings &settings)
 bool MapLayout::save(const QString &fileName) const
 {
     QSettings settings(fileName, QSettings::IniFormat);
-    settings.remove(layoutsKey);
-    QString current = defaultName;
-    settings.beginWriteArray(layoutsKey, int(m_layouts.size()));
+    settings.remove(LayoutsKey);
+    QString current = DefaultName;
+    settings.beginWriteArray(LayoutsKey, int(m_layouts.size()));
     int index = 0;
     for (auto it = m_layouts.cbegin(); it != m_layouts.cend(); ++it, ++index) {
         settings.setArrayIndex(index);
-        settings.setValue(nameKey, it.key());
-        settings.setValue(transformKey, toText(it.value()));
+        settings.setValue(NameKey, it.key());
+        settings.setValue(TransformKey, toText(it.value()));
         if (it.key() == m_currentName) {
             current = QString::number(index + 1);
         }
     }
     settings.endArray();
-    settings.setValue(currentKey, current);
+    settings.setValue(CurrentKey, current);
     settings.sync();
     return settings.status() == QSettings::NoError;
 }
 
 void MapLayout::addLayout(const QString &name, const QTransform &transform, bool makeCurrent)
 {
-    if (name.isEmpty() || name == defaultName) {
+    if (name.isEmpty() || name == DefaultName) {
         return;
     }
     m_layouts.insert(name, transform);
@@ -138,7 +138,7 @@ void MapLayout::saveCurrentView(const QString &name)
 
 void MapLayout::setCurrentLayout(const QString &name)
 {
-    m_currentName = m_layouts.contains(name) ? name : defaultName;
+    m_currentName = m_layouts.contains(name) ? name : DefaultName;
     Q_EMIT currentLayoutChanged(currentLayout());
 }
 
@@ -150,7 +150,7 @@ void MapLayout::setDefaultLayout(double x, double y)
 void MapLayout::dump(const QString &heading) const
 {
     qDebug() << heading << "current:" << m_currentName;
-    qDebug() << defaultName << toText(m_default);
+    qDebug() << DefaultName << toText(m_default);
     for (auto it = m_layouts.cbegin(); it != m_layouts.cend(); ++it) {
         qDebug() << it.key() << toText(it.value());
     }

@@ -63,8 +63,8 @@ bool MapStreamReader::checkStep()
 template <class Number>
 Number MapStreamReader::number()
 {
-    constexpr auto size = qsizetype(sizeof(Number));
-    return take(size) ? qFromBigEndian<Number>(m_octets.constData() + m_at - size) : Number();
+    constexpr auto Octets = qsizetype(sizeof(Number));
+    return take(Octets) ? qFromBigEndian<Number>(m_octets.constData() + m_at - Octets) : Number();
 }
 
 QString MapStreamReader::text()

@@ -45,10 +45,10 @@ qsizetype readableSize(const QByteArray &document)
 // In pieces: a device gets the memory for all that it is asked for before it knows how much there is.
 QByteArray contents(QIODevice &device)
 {
-    constexpr qint64 pieceSize = 65536;
+    constexpr qint64 PieceSize = 65536;
     QByteArray octets;
-    for (QByteArray piece = device.read(pieceSize); !piece.isEmpty() && octets.size() < MapFile::MaxFileSize;
-         piece = device.read(pieceSize)) {
+    for (QByteArray piece = device.read(PieceSize); !piece.isEmpty() && octets.size() < MapFile::MaxFileSize;
+         piece = device.read(PieceSize)) {
         octets += piece;
     }
     return octets;

@@ -23,15 +23,15 @@ constexpr SensorType sensorType(unsigned int value)
 // The identifier under which files know the type: "radar", "adsb", ...; "nil" for what is none of them.
 inline QString sensorTypeToString(SensorType type)
 {
-    static constexpr std::array texts{"nil", "radar", "adsb", "mlat", "sdps", "smr"};
-    return QString::fromLatin1(texts.at(sensorType(type)));
+    static constexpr std::array Texts{"nil", "radar", "adsb", "mlat", "sdps", "smr"};
+    return QString::fromLatin1(Texts.at(sensorType(type)));
 }
 
 // The name shown to the operator: "Radar", "ADS-B", ...; "Unknown" for what is none of them.
 inline QString sensorTypeFullName(SensorType type)
 {
-    static constexpr std::array texts{"Unknown", "Radar", "ADS-B", "MLAT", "SDPS", "SMR"};
-    return QString::fromLatin1(texts.at(sensorType(type)));
+    static constexpr std::array Texts{"Unknown", "Radar", "ADS-B", "MLAT", "SDPS", "SMR"};
+    return QString::fromLatin1(Texts.at(sensorType(type)));
 }
 
 // Exact, case-sensitive; "wam" is multilateration, "atcas" and "atm" are SDPS; any other text gives UnknownSensor.
@@ -41,10 +41,10 @@ inline SensorType sensorTypeFromString(const QString &text)
         const char *text;
         SensorType type;
     };
-    static constexpr std::array entries{Entry{"radar", RadarSensor}, Entry{"adsb", AdsbSensor},
+    static constexpr std::array Entries{Entry{"radar", RadarSensor}, Entry{"adsb", AdsbSensor},
         Entry{"mlat", MlatSensor}, Entry{"wam", MlatSensor}, Entry{"sdps", SdpsSensor}, Entry{"atcas", SdpsSensor},
         Entry{"atm", SdpsSensor}, Entry{"smr", SmrSensor}};
-    for (const Entry &entry : entries) {
+    for (const Entry &entry : Entries) {
         if (text == QLatin1String(entry.text)) {
             return entry.type;
         }

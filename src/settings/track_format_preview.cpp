@@ -9,16 +9,16 @@
 
 namespace {
 
-constexpr double metresPerPixel = 150.0;
-constexpr double rotationPeriod = 4.0; // seconds from one trail dot to the next
+constexpr double MetresPerPixel = 150.0;
+constexpr double RotationPeriod = 4.0; // seconds from one trail dot to the next
 
 // Position and trail of a straight flight; x and y in pixels from the middle of the preview, y upwards.
 void place(TrackSnapshot *track, double x, double y)
 {
-    track->carCoordinate = QPointF(x, y) * metresPerPixel;
+    track->carCoordinate = QPointF(x, y) * MetresPerPixel;
     track->carCoordinateValid = true;
     const double heading = track->heading * std::numbers::pi / 180.0;
-    const double step = track->groundSpeed * 1852.0 / 3600.0 * rotationPeriod;
+    const double step = track->groundSpeed * 1852.0 / 3600.0 * RotationPeriod;
     for (int i = 1; i <= TrackDisplayFormat::MaxTrailDots; ++i) {
         const QPointF back(-std::sin(heading) * step * i, -std::cos(heading) * step * i);
         track->trail.append(track->carCoordinate + back);
@@ -110,7 +110,7 @@ void TrackFormatPreview::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), m_ground);
     const QTransform planeToScreen(
-        1.0 / metresPerPixel, 0.0, 0.0, -1.0 / metresPerPixel, width() / 2.0, height() / 2.0);
+        1.0 / MetresPerPixel, 0.0, 0.0, -1.0 / MetresPerPixel, width() / 2.0, height() / 2.0);
     painter.setWorldTransform(planeToScreen);
     m_display.paint(&painter);
 }

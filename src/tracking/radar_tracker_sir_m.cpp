@@ -26,14 +26,14 @@ double azimuthOf(double east, double north)
 
 Track::Type typeOf(const AleniaSirMRadarTrackRecord &record)
 {
-    constexpr Track::Type types[] = {Track::Unknown, Track::Psr, Track::Ssr, Track::PsrSsr};
-    return record.trackType() < std::size(types) ? types[record.trackType()] : Track::Unknown;
+    constexpr Track::Type Types[] = {Track::Unknown, Track::Psr, Track::Ssr, Track::PsrSsr};
+    return record.trackType() < std::size(Types) ? Types[record.trackType()] : Track::Unknown;
 }
 
 Track::VerticalTrend trendOf(const AleniaSirMRadarTrackRecord &record)
 {
-    constexpr Track::VerticalTrend trends[] = {Track::TrendLevel, Track::TrendClimbing, Track::TrendDescending};
-    return record.verticalTrend() < UnknownTrend ? trends[record.verticalTrend()] : Track::TrendUnknown;
+    constexpr Track::VerticalTrend Trends[] = {Track::TrendLevel, Track::TrendClimbing, Track::TrendDescending};
+    return record.verticalTrend() < UnknownTrend ? Trends[record.verticalTrend()] : Track::TrendUnknown;
 }
 
 void setModeA(Track &track, const AleniaSirMRadarTrackRecord &record)

@@ -15,10 +15,10 @@ constexpr unsigned char Bds60 = 0x60;
 // The register's seven octets; null when the item has none of that code. Only the first of a code counts.
 const unsigned char *findRegister(const _ast_item_registers_t &item, unsigned char code)
 {
-    constexpr int registerSize = 8;
+    constexpr int RegisterSize = 8;
     for (int i = 0; item.present && i < item.count; ++i) {
-        const unsigned char *octets = item.octets + i * registerSize;
-        if (octets[registerSize - 1] == code) {
+        const unsigned char *octets = item.octets + i * RegisterSize;
+        if (octets[RegisterSize - 1] == code) {
             return octets;
         }
     }
@@ -78,9 +78,9 @@ void reports::setVelocity(Track &track, bool valid, double groundSpeed, double h
 
 void reports::setVelocityFromComponents(Track &track, bool valid, double vx, double vy)
 {
-    constexpr double knotsPerMetrePerSecond = 3600.0 / wgs84::MetresPerNauticalMile;
+    constexpr double KnotsPerMetrePerSecond = 3600.0 / wgs84::MetresPerNauticalMile;
     const double bearing = bearingOf(vx, vy);
-    setVelocity(track, valid, std::hypot(vx, vy) * knotsPerMetrePerSecond, bearing < 0.0 ? bearing + 360.0 : bearing);
+    setVelocity(track, valid, std::hypot(vx, vy) * KnotsPerMetrePerSecond, bearing < 0.0 ? bearing + 360.0 : bearing);
 }
 
 void reports::setLevel(Track &track, std::optional<int> level)

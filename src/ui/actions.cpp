@@ -15,7 +15,7 @@ namespace {
 
 // clang-format off
 // The translation context is "Actions".
-constexpr ActionSpec specs[] = {
+constexpr ActionSpec Specs[] = {
     {ActionId::Start, QT_TRANSLATE_NOOP("Actions", "Start"), QT_TRANSLATE_NOOP("Actions", "Start"),
         QT_TRANSLATE_NOOP("Actions", "Start Input"), "", "start", false, MenuId::File, ToolBarId::General, false},
     {ActionId::Stop, QT_TRANSLATE_NOOP("Actions", "Stop"), QT_TRANSLATE_NOOP("Actions", "Stop"),
@@ -130,7 +130,7 @@ constexpr ActionSpec specs[] = {
 };
 // clang-format on
 
-static_assert(std::size(specs) == static_cast<std::size_t>(ActionId::Count), "each action stands in the table once");
+static_assert(std::size(Specs) == static_cast<std::size_t>(ActionId::Count), "each action stands in the table once");
 
 bool given(const char *text)
 {
@@ -141,7 +141,7 @@ bool given(const char *text)
 
 std::span<const ActionSpec> actionTable()
 {
-    return specs;
+    return Specs;
 }
 
 Actions::Actions(QMainWindow *window) : QObject(window), m_window(window)
@@ -149,7 +149,7 @@ Actions::Actions(QMainWindow *window) : QObject(window), m_window(window)
     setObjectName("actions");
     makeMenus(window);
     makeToolBars(window);
-    for (const ActionSpec &spec : specs) {
+    for (const ActionSpec &spec : Specs) {
         makeAction(spec, window);
     }
     updateIcons();
@@ -257,7 +257,7 @@ bool Actions::eventFilter(QObject *watched, QEvent *event)
 
 void Actions::updateIcons()
 {
-    for (const ActionSpec &spec : specs) {
+    for (const ActionSpec &spec : Specs) {
         (*this)[spec.id]->setIcon(actionIcon(spec.icon, m_window->palette()));
     }
 }

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int cellPadding = 6;
+constexpr int CellPadding = 6;
 
 // Keys that move within the list; the window has shortcuts on some of them.
 bool isListKey(const QKeyEvent &event)
@@ -45,11 +45,11 @@ public:
         const QPalette::ColorGroup group = cell.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
         painter->setFont(cell.font);
         painter->setPen(cell.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text));
-        QRect inner = cell.rect.adjusted(cellPadding, 0, -cellPadding, 0);
+        QRect inner = cell.rect.adjusted(CellPadding, 0, -CellPadding, 0);
         if (!cell.icon.isNull()) {
             const QRect iconPlace(inner.left(), inner.top(), inner.height() * 4 / 3, inner.height());
             cell.icon.paint(painter, iconPlace.adjusted(0, 2, 0, -2), Qt::AlignLeft | Qt::AlignVCenter);
-            inner.setLeft(iconPlace.right() + cellPadding / 2);
+            inner.setLeft(iconPlace.right() + CellPadding / 2);
         }
         painter->drawText(inner, static_cast<int>(cell.displayAlignment | Qt::TextSingleLine),
             cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, inner.width()));
@@ -88,7 +88,7 @@ void ListView::fitColumns(const QList<ListColumn> &columns)
     const QFontMetrics figures(figureFont());
     for (int column = 0; column < columns.size(); ++column) {
         const int title = horizontalHeader()->sectionSizeHint(column);
-        const int content = figures.horizontalAdvance(columns[column].widestText) + 2 * cellPadding + 2;
+        const int content = figures.horizontalAdvance(columns[column].widestText) + 2 * CellPadding + 2;
         horizontalHeader()->resizeSection(column, std::max(title, content));
     }
 }

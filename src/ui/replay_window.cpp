@@ -21,13 +21,13 @@ using korvane::astfile::RecordingIndex;
 
 namespace {
 
-constexpr auto timeFormat = "yyyy-MM-dd hh:mm:ss";
-constexpr auto noTime = "-";
-constexpr int sliderSteps = 10000; // from the first to the last time of the recording
+constexpr auto TimeFormat = "yyyy-MM-dd hh:mm:ss";
+constexpr auto NoTime = "-";
+constexpr int SliderSteps = 10000; // from the first to the last time of the recording
 
 QString timeText(const QDateTime &time)
 {
-    return time.isValid() ? time.toUTC().toString(timeFormat) : QString(noTime);
+    return time.isValid() ? time.toUTC().toString(TimeFormat) : QString(NoTime);
 }
 
 // Hours may have more than two digits.
@@ -101,7 +101,7 @@ QWidget *ReplayWindow::makeScanRow()
 
 QLabel *ReplayWindow::makeReadOut(const QString &name)
 {
-    auto *label = new QLabel(noTime);
+    auto *label = new QLabel(NoTime);
     label->setObjectName(name);
     label->setFont(figureFont());
     return label;
@@ -112,8 +112,8 @@ QWidget *ReplayWindow::makeTimeRows()
     auto *rows = new QWidget(this);
     m_slider = new QSlider(Qt::Horizontal);
     m_slider->setObjectName("position");
-    m_slider->setRange(0, sliderSteps);
-    m_slider->setPageStep(sliderSteps / 20);
+    m_slider->setRange(0, SliderSteps);
+    m_slider->setPageStep(SliderSteps / 20);
     connect(m_slider, &QSlider::sliderReleased, this, &ReplayWindow::sliderReleased);
     connect(m_slider, &QSlider::sliderMoved, this, [this] { m_positionTime->setText(timeText(sliderTime())); });
     connect(m_slider, &QSlider::actionTriggered, this, [this](int action) {
@@ -144,7 +144,7 @@ QWidget *ReplayWindow::makeJumpRow()
     m_jumpTime = new QDateTimeEdit;
     m_jumpTime->setObjectName("jumpTime");
     m_jumpTime->setTimeSpec(Qt::UTC);
-    m_jumpTime->setDisplayFormat(timeFormat);
+    m_jumpTime->setDisplayFormat(TimeFormat);
     auto *label = new QLabel(tr("&Jump to:"));
     label->setBuddy(m_jumpTime);
     m_jump = new QPushButton(tr("&Go"));
@@ -289,7 +289,7 @@ void ReplayWindow::setLiveInputAvailable(bool available)
 
 QDateTime ReplayWindow::sliderTime() const
 {
-    return timed() ? m_first.addMSecs(m_first.msecsTo(m_last) * m_slider->value() / sliderSteps) : QDateTime();
+    return timed() ? m_first.addMSecs(m_first.msecsTo(m_last) * m_slider->value() / SliderSteps) : QDateTime();
 }
 
 void ReplayWindow::showPosition()
@@ -301,7 +301,7 @@ void ReplayWindow::showPosition()
     const bool known = timed() && position.isValid();
     const qint64 length = known ? m_first.msecsTo(m_last) : 0;
     const qint64 elapsed = known ? std::clamp<qint64>(m_first.msecsTo(position), 0, length) : 0;
-    m_slider->setValue(length > 0 ? static_cast<int>(elapsed * sliderSteps / length) : 0);
+    m_slider->setValue(length > 0 ? static_cast<int>(elapsed * SliderSteps / length) : 0);
     m_elapsed->setText(known ? tr("%1 elapsed").arg(durationText(elapsed)) : QString());
     m_remaining->setText(known ? tr("%1 remaining").arg(durationText(length - elapsed)) : QString());
 }

@@ -3,7 +3,7 @@
 #include <QEvent>
 
 namespace {
-constexpr int distanceFromTop = 16;
+constexpr int DistanceFromTop = 16;
 }
 
 ScopeNotice::ScopeNotice(QWidget *scope) : QLabel(scope)
@@ -35,11 +35,11 @@ void ScopeNotice::place()
 {
     // On a scope narrower than the text, the text breaks into lines.
     setWordWrap(false);
-    const int room = parentWidget()->width() - 2 * distanceFromTop;
+    const int room = parentWidget()->width() - 2 * DistanceFromTop;
     QSize size = sizeHint();
     if (size.width() > room) {
         setWordWrap(true);
         size = QSize(room, heightForWidth(room));
     }
-    setGeometry((parentWidget()->width() - size.width()) / 2, distanceFromTop, size.width(), size.height());
+    setGeometry((parentWidget()->width() - size.width()) / 2, DistanceFromTop, size.width(), size.height());
 }

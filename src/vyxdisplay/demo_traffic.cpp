@@ -10,9 +10,9 @@
 
 namespace {
 
-constexpr auto programName = "vyx-traffic";
-constexpr int answerWaitMs = 10000;
-constexpr int endWaitMs = 1000;
+constexpr auto ProgramName = "vyx-traffic";
+constexpr int AnswerWaitMs = 10000;
+constexpr int EndWaitMs = 1000;
 
 using Encapsulation = korvane::modes::ModeSEncapsulation;
 
@@ -37,8 +37,8 @@ DemoTraffic::DemoTraffic(const QString &scenario, const QString &program, QObjec
 
 QString DemoTraffic::findProgram()
 {
-    const QString beside = QStandardPaths::findExecutable(programName, {AppPaths::exeDir()});
-    return beside.isEmpty() ? QStandardPaths::findExecutable(programName) : beside;
+    const QString beside = QStandardPaths::findExecutable(ProgramName, {AppPaths::exeDir()});
+    return beside.isEmpty() ? QStandardPaths::findExecutable(ProgramName) : beside;
 }
 
 DemoTraffic::~DemoTraffic()
@@ -48,9 +48,9 @@ DemoTraffic::~DemoTraffic()
         return;
     }
     m_process.terminate();
-    if (!m_process.waitForFinished(endWaitMs)) {
+    if (!m_process.waitForFinished(EndWaitMs)) {
         m_process.kill();
-        m_process.waitForFinished(endWaitMs);
+        m_process.waitForFinished(EndWaitMs);
     }
 }
 
@@ -58,12 +58,12 @@ DemoTraffic::~DemoTraffic()
 QByteArray DemoTraffic::answer(const QString &program, const QStringList &arguments, QString *error)
 {
     if (program.isEmpty()) {
-        *error = tr("%1 was found neither beside the executable nor in the path").arg(programName);
+        *error = tr("%1 was found neither beside the executable nor in the path").arg(ProgramName);
         return {};
     }
     QProcess query;
     query.start(program, arguments);
-    if (!query.waitForFinished(answerWaitMs) || query.exitStatus() != QProcess::NormalExit || query.exitCode() != 0) {
+    if (!query.waitForFinished(AnswerWaitMs) || query.exitStatus() != QProcess::NormalExit || query.exitCode() != 0) {
         const QString reason = QString::fromUtf8(query.readAllStandardError()).trimmed().section('\n', 0, 0);
         *error = reason.isEmpty() ? tr("%1 does not answer").arg(program) : reason;
         return {};

@@ -29,7 +29,7 @@ Answers ask(const QString &directory, const QStringList &arguments)
 
 } // namespace
 
-class tst_AppPaths : public QObject {
+class TestAppPaths : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -106,5 +106,5 @@ private:
     QTemporaryDir m_root;
 };
 
-VYX_TEST(tst_AppPaths)
+VYX_TEST(TestAppPaths)
 #include "tst_app_paths.moc"

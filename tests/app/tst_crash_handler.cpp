@@ -39,7 +39,7 @@ quint64 number(const QString &text, const QString &pattern)
 
 } // namespace
 
-class tst_CrashHandler : public QObject {
+class TestCrashHandler : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -145,5 +145,5 @@ private:
     QTemporaryDir m_directory;
 };
 
-VYX_TEST(tst_CrashHandler)
+VYX_TEST(TestCrashHandler)
 #include "tst_crash_handler.moc"

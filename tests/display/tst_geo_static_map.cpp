@@ -26,7 +26,7 @@ int tinted(const PaintedView &view, const QColor &color)
 
 Q_DECLARE_METATYPE(Check)
 
-class tst_GeoStaticMap : public QObject, private StaticMapScene {
+class TestGeoStaticMap : public QObject, private StaticMapScene {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -44,7 +44,7 @@ private Q_SLOTS:
 
 // A line, an area, a symbol and a label of one class each, and the others of the default class, which is black on the
 // black ground.
-void tst_GeoStaticMap::showsEveryStyleAttribute_data()
+void TestGeoStaticMap::showsEveryStyleAttribute_data()
 {
     QTest::addColumn<MapElementGroup>("elements");
     QTest::addColumn<MapStyleClass>("style");
@@ -107,7 +107,7 @@ void tst_GeoStaticMap::showsEveryStyleAttribute_data()
         [](const PaintedView &view) { return view.ink() == 0; });
 }
 
-void tst_GeoStaticMap::showsEveryStyleAttribute()
+void TestGeoStaticMap::showsEveryStyleAttribute()
 {
     QFETCH(MapElementGroup, elements);
     QFETCH(MapStyleClass, style);
@@ -116,7 +116,7 @@ void tst_GeoStaticMap::showsEveryStyleAttribute()
 }
 
 // A red map, and after it a green one over the same ground.
-void tst_GeoStaticMap::showsMapsAsTheirEntriesSay_data()
+void TestGeoStaticMap::showsMapsAsTheirEntriesSay_data()
 {
     QTest::addColumn<MapIndexEntry>("red");
     QTest::addColumn<MapIndexEntry>("green");
@@ -140,7 +140,7 @@ void tst_GeoStaticMap::showsMapsAsTheirEntriesSay_data()
     QTest::newRow("too far out") << plain << entry({}, {}, {}, 499) << Red;
 }
 
-void tst_GeoStaticMap::showsMapsAsTheirEntriesSay()
+void TestGeoStaticMap::showsMapsAsTheirEntriesSay()
 {
     QFETCH(MapIndexEntry, red);
     QFETCH(MapIndexEntry, green);
@@ -158,7 +158,7 @@ void tst_GeoStaticMap::showsMapsAsTheirEntriesSay()
     QCOMPARE(view.at(PaintedView::Middle), seen);
 }
 
-void tst_GeoStaticMap::goesOnBeyondTheRimOfTheWorld_data()
+void TestGeoStaticMap::goesOnBeyondTheRimOfTheWorld_data()
 {
     QTest::addColumn<QList<GeoCoordinate>>("points");
     QTest::addColumn<bool>("area");
@@ -185,7 +185,7 @@ void tst_GeoStaticMap::goesOnBeyondTheRimOfTheWorld_data()
     QTest::newRow("nothing") << QList<GeoCoordinate>{{0, 10}, {}} << true << QList<QPointF>{} << farAway;
 }
 
-void tst_GeoStaticMap::goesOnBeyondTheRimOfTheWorld()
+void TestGeoStaticMap::goesOnBeyondTheRimOfTheWorld()
 {
     QFETCH(QList<GeoCoordinate>, points);
     QFETCH(bool, area);
@@ -209,7 +209,7 @@ void tst_GeoStaticMap::goesOnBeyondTheRimOfTheWorld()
 }
 
 // Labels of several colours round one place: those that must be seen, and those that must not.
-void tst_GeoStaticMap::labelsGiveWay_data()
+void TestGeoStaticMap::labelsGiveWay_data()
 {
     QTest::addColumn<int>("redPriority");
     QTest::addColumn<double>("greenAway"); // degrees to the north; a pixel is about 0.0045
@@ -223,7 +223,7 @@ void tst_GeoStaticMap::labelsGiveWay_data()
     QTest::newRow("symbols before any label") << 5 << 0.0 << true << false << true;
 }
 
-void tst_GeoStaticMap::labelsGiveWay()
+void TestGeoStaticMap::labelsGiveWay()
 {
     QFETCH(int, redPriority);
     QFETCH(double, greenAway);
@@ -248,7 +248,7 @@ void tst_GeoStaticMap::labelsGiveWay()
     QCOMPARE(tinted(view, Green) - view.inkIn(dot) > 10, greenSeen);
 }
 
-void tst_GeoStaticMap::textsStayUpright()
+void TestGeoStaticMap::textsStayUpright()
 {
     const QList<MapLibrary::Map> maps = {mapOf({labelGroup({{{}, QStringLiteral("WWWW\nWWWW"), {0.0, 0.0}}})})};
     const MapStyleSheet styles = sheet({styleOf(Green)});
@@ -257,7 +257,7 @@ void tst_GeoStaticMap::textsStayUpright()
     QCOMPARE(painted(maps, styles, 500.0, GeoCoordinate(0.0, 0.0), 90.0).extent(Green), north);
 }
 
-void tst_GeoStaticMap::takesTheConfiguration()
+void TestGeoStaticMap::takesTheConfiguration()
 {
     MapElementGroup symbols = group();
     symbols.symbols = {{{}, QStringLiteral("square"), {0.0, 0.0}}};
@@ -280,5 +280,5 @@ void tst_GeoStaticMap::takesTheConfiguration()
     }
 }
 
-VYX_TEST(tst_GeoStaticMap)
+VYX_TEST(TestGeoStaticMap)
 #include "tst_geo_static_map.moc"

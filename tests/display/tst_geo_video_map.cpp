@@ -75,7 +75,7 @@ double metres(int cell)
 
 } // namespace
 
-class tst_GeoVideoMap : public QObject {
+class TestGeoVideoMap : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -135,7 +135,7 @@ private:
     qint64 m_now = 0;
 };
 
-void tst_GeoVideoMap::init()
+void TestGeoVideoMap::init()
 {
     m_now = 1000;
     m_config = Config();
@@ -148,7 +148,7 @@ void tst_GeoVideoMap::init()
     m_layer->applyConfig(m_config);
 }
 
-void tst_GeoVideoMap::echoesLieWhereTheyAre()
+void TestGeoVideoMap::echoesLieWhereTheyAre()
 {
     struct Case {
         double azimuth;
@@ -171,7 +171,7 @@ void tst_GeoVideoMap::echoesLieWhereTheyAre()
     }
 }
 
-void tst_GeoVideoMap::coversTheGroundWithoutHoles()
+void TestGeoVideoMap::coversTheGroundWithoutHoles()
 {
     struct Case {
         int radials;
@@ -204,7 +204,7 @@ void tst_GeoVideoMap::coversTheGroundWithoutHoles()
 }
 
 // Cells of a pixel, of a sixth and of a fiftieth of one, at all places between pixels.
-void tst_GeoVideoMap::losesNoEchoAtAnyScale()
+void TestGeoVideoMap::losesNoEchoAtAnyScale()
 {
     for (int i = 0; i < 150; ++i) {
         const double scale = i % 3 == 0 ? 50.0 : i % 3 == 1 ? 300.0 : 2500.0;
@@ -219,7 +219,7 @@ void tst_GeoVideoMap::losesNoEchoAtAnyScale()
     }
 }
 
-void tst_GeoVideoMap::amplitudeDecidesTheColor()
+void TestGeoVideoMap::amplitudeDecidesTheColor()
 {
     m_config.mapVideoThreshold = 55;
     m_config.mapVideoLowOpacity = 51;
@@ -240,7 +240,7 @@ void tst_GeoVideoMap::amplitudeDecidesTheColor()
     }
 }
 
-void tst_GeoVideoMap::fadesUntilItsValidityEnds()
+void TestGeoVideoMap::fadesUntilItsValidityEnds()
 {
     m_config.mapVideoValidity = 4;
     m_layer->applyConfig(m_config);
@@ -266,7 +266,7 @@ void tst_GeoVideoMap::fadesUntilItsValidityEnds()
     QCOMPARE(brightness(90.0), 255);
 }
 
-void tst_GeoVideoMap::newRadialsReplaceOldOnes()
+void TestGeoVideoMap::newRadialsReplaceOldOnes()
 {
     struct Case {
         Radial second; // after one from 80 to 100 degrees
@@ -293,7 +293,7 @@ void tst_GeoVideoMap::newRadialsReplaceOldOnes()
 }
 
 // What is moved on the screen must look as if it had been drawn there.
-void tst_GeoVideoMap::movesWithTheView()
+void TestGeoVideoMap::movesWithTheView()
 {
     for (int i = 0; i < 360; ++i) {
         m_layer->addRadial(filled(i, (i + 1) % 360, static_cast<unsigned char>(90 + i % 100)));
@@ -315,7 +315,7 @@ void tst_GeoVideoMap::movesWithTheView()
     }
 }
 
-void tst_GeoVideoMap::joinsPartsOfARadial()
+void TestGeoVideoMap::joinsPartsOfARadial()
 {
     const QList<unsigned char> part(300, 255);
     m_layer->addRadial(radialOf(85.0, 95.0, part, 100));
@@ -330,7 +330,7 @@ void tst_GeoVideoMap::joinsPartsOfARadial()
     QVERIFY(!next.inkedNear(pixel(next, metres(750), 90.0)));
 }
 
-void tst_GeoVideoMap::drawsOnlyKnownSources()
+void TestGeoVideoMap::drawsOnlyKnownSources()
 {
     struct Case {
         int ownSac;
@@ -357,7 +357,7 @@ void tst_GeoVideoMap::drawsOnlyKnownSources()
     }
 }
 
-void tst_GeoVideoMap::survivesNonsense()
+void TestGeoVideoMap::survivesNonsense()
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     QList<Radial> nonsense{filled(nan, 10.0), filled(0.0, std::numeric_limits<double>::infinity()),
@@ -377,5 +377,5 @@ void tst_GeoVideoMap::survivesNonsense()
     }
 }
 
-VYX_TEST(tst_GeoVideoMap)
+VYX_TEST(TestGeoVideoMap)
 #include "tst_geo_video_map.moc"

@@ -40,7 +40,7 @@ QColor levelColor(int level)
 
 } // namespace
 
-class tst_GeoWeatherMap : public QObject {
+class TestGeoWeatherMap : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -79,7 +79,7 @@ private:
     qint64 m_now = 0;
 };
 
-void tst_GeoWeatherMap::init()
+void TestGeoWeatherMap::init()
 {
     m_now = 0;
     m_config = Config();
@@ -97,7 +97,7 @@ void tst_GeoWeatherMap::init()
     m_layer->applyConfig(m_config);
 }
 
-void tst_GeoWeatherMap::vectorsCoverTheirSectors()
+void TestGeoWeatherMap::vectorsCoverTheirSectors()
 {
     struct Case {
         double azimuth;
@@ -119,7 +119,7 @@ void tst_GeoWeatherMap::vectorsCoverTheirSectors()
     }
 }
 
-void tst_GeoWeatherMap::widthTouchesTheNeighbour()
+void TestGeoWeatherMap::widthTouchesTheNeighbour()
 {
     const QList<std::pair<QList<double>, double>> cases{// 9 is the fallback
         {{}, 9.0}, {{10.0}, 9.0}, {{10.0, 70.0, 130.0}, 9.0}, {{10.0, 12.0, 11.0, 9.0, 13.0}, 1.0},
@@ -135,7 +135,7 @@ void tst_GeoWeatherMap::widthTouchesTheNeighbour()
 }
 
 // The whole ring has one colour, at every scale and also where vectors are much narrower than a pixel.
-void tst_GeoWeatherMap::neighboursShowNoSeams()
+void TestGeoWeatherMap::neighboursShowNoSeams()
 {
     m_config.mapWeatherOpacity = 100;
     m_config.mapWeatherAutoVectorWidth = true;
@@ -158,7 +158,7 @@ void tst_GeoWeatherMap::neighboursShowNoSeams()
     }
 }
 
-void tst_GeoWeatherMap::strongerLevelsLieOnTop()
+void TestGeoWeatherMap::strongerLevelsLieOnTop()
 {
     m_config.mapWeatherColor[6] = QColor();
     m_layer->applyConfig(m_config);
@@ -179,7 +179,7 @@ void tst_GeoWeatherMap::strongerLevelsLieOnTop()
 }
 
 // What was drawn is kept; nothing of it may survive its cause.
-void tst_GeoWeatherMap::keepsUpWithItsCauses()
+void TestGeoWeatherMap::keepsUpWithItsCauses()
 {
     m_layer->setPicture(picture({{1, 40.0, 80.0, 90.0}}));
     const auto ink = [this](double scale = 2500.0) { return painted(scale).count(levelColor(1)); };
@@ -202,7 +202,7 @@ void tst_GeoWeatherMap::keepsUpWithItsCauses()
     QVERIFY(painted().count(Qt::magenta) == 0 && painted().count(levelColor(2)) > 0);
 }
 
-void tst_GeoWeatherMap::picturesComeAndGo()
+void TestGeoWeatherMap::picturesComeAndGo()
 {
     const QSignalSpy changed(m_layer.get(), &GeoWeatherMap::pictureChanged);
     const Picture some = picture({{1, 40.0, 80.0, 90.0}, {1, 40.0, 80.0, 91.0}});
@@ -238,7 +238,7 @@ void tst_GeoWeatherMap::picturesComeAndGo()
     QVERIFY(painted().ink() > 0);
 }
 
-void tst_GeoWeatherMap::ignoresNonsense()
+void TestGeoWeatherMap::ignoresNonsense()
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinite = std::numeric_limits<double>::infinity();
@@ -250,5 +250,5 @@ void tst_GeoWeatherMap::ignoresNonsense()
     m_layer->setLevelVisible(-1, false);
 }
 
-VYX_TEST(tst_GeoWeatherMap)
+VYX_TEST(TestGeoWeatherMap)
 #include "tst_geo_weather_map.moc"

@@ -31,7 +31,7 @@ QSharedPointer<RadarSensorInfo> radar(unsigned int primary, unsigned int seconda
 
 } // namespace
 
-class tst_MapLayers : public QObject {
+class TestMapLayers : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -65,7 +65,7 @@ private:
     MercatorProjector m_projector;
 };
 
-void tst_MapLayers::coverageLiesAtItsTrueDistance()
+void TestMapLayers::coverageLiesAtItsTrueDistance()
 {
     GeoSensorMap layer(&m_projector);
     layer.setSensor(radar(50, 100));
@@ -78,7 +78,7 @@ void tst_MapLayers::coverageLiesAtItsTrueDistance()
     }
 }
 
-void tst_MapLayers::antennaLineTurns()
+void TestMapLayers::antennaLineTurns()
 {
     qint64 now = 1000;
     GeoSensorMap layer(&m_projector);
@@ -104,7 +104,7 @@ void tst_MapLayers::antennaLineTurns()
     QVERIFY(!lineAt(112.5));
 }
 
-void tst_MapLayers::northMarkerFlashes()
+void TestMapLayers::northMarkerFlashes()
 {
     qint64 now = 0;
     const QColor markerColor(255, 0, 0);
@@ -119,7 +119,7 @@ void tst_MapLayers::northMarkerFlashes()
     QVERIFY(painted(layer).extent(markerColor).isEmpty());
 }
 
-void tst_MapLayers::sweepMeasuresItsPeriod_data()
+void TestMapLayers::sweepMeasuresItsPeriod_data()
 {
     QTest::addColumn<double>("nominal");
     // x: azimuth, a negative one is a north marker; y: milliseconds.
@@ -135,7 +135,7 @@ void tst_MapLayers::sweepMeasuresItsPeriod_data()
     row("marker and sector together", 4.0, {{-1, 0}, {0, 0}, {180, 2000}, {-1, 4400}, {0, 4401}}, 4.4);
 }
 
-void tst_MapLayers::sweepMeasuresItsPeriod()
+void TestMapLayers::sweepMeasuresItsPeriod()
 {
     QFETCH(double, nominal);
     QFETCH(QList<QPointF>, messages);
@@ -153,7 +153,7 @@ void tst_MapLayers::sweepMeasuresItsPeriod()
 }
 
 // Far north, south of the equator and across the 180th meridian.
-void tst_MapLayers::ringsLieAtTheirTrueDistances()
+void TestMapLayers::ringsLieAtTheirTrueDistances()
 {
     for (const GeoCoordinate &place : {Site, GeoCoordinate(-33.0, -70.0), GeoCoordinate(10.0, 179.5)}) {
         GeoRangeRingMap rings(&m_projector);
@@ -170,7 +170,7 @@ void tst_MapLayers::ringsLieAtTheirTrueDistances()
     }
 }
 
-void tst_MapLayers::takesTheConfiguration()
+void TestMapLayers::takesTheConfiguration()
 {
     Config config;
     config.mapBackgroundColor = Qt::black;
@@ -197,7 +197,7 @@ void tst_MapLayers::takesTheConfiguration()
     QCOMPARE(display.rangeRingMap()->center(), QPointF(1.0, 2.0));
 }
 
-void tst_MapLayers::aLayerPaintsAtItsPlace()
+void TestMapLayers::aLayerPaintsAtItsPlace()
 {
     class Sheet final : public GeoLayer {
     public:
@@ -218,5 +218,5 @@ void tst_MapLayers::aLayerPaintsAtItsPlace()
     QCOMPARE(shown(MapLayer::Video, MapLayer::Video), QColor(Qt::blue));
 }
 
-VYX_TEST(tst_MapLayers)
+VYX_TEST(TestMapLayers)
 #include "tst_map_layers.moc"

@@ -10,7 +10,7 @@ using Change = std::function<void(TrackSnapshot &)>;
 Q_DECLARE_METATYPE(Change)
 Q_DECLARE_METATYPE(TrackLabelFields)
 
-class tst_TrackLabelLines : public QObject {
+class TestTrackLabelLines : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -33,7 +33,7 @@ TrackLabelFields only(std::initializer_list<bool TrackLabelFields::*> shown)
 
 } // namespace
 
-void tst_TrackLabelLines::line_data()
+void TestTrackLabelLines::line_data()
 {
     using F = TrackLabelFields;
     using L = TrackLabelLines;
@@ -82,7 +82,7 @@ void tst_TrackLabelLines::line_data()
     row("no rate", L::Rate, rate, " --", [](T &t) { t.verticalRateValid = false; });
 }
 
-void tst_TrackLabelLines::line()
+void TestTrackLabelLines::line()
 {
     QFETCH(Change, change);
     QFETCH(TrackLabelFields, fields);
@@ -105,5 +105,5 @@ void tst_TrackLabelLines::line()
     QCOMPARE(trackLabelLines(track, fields).text[std::size_t(line)], text);
 }
 
-VYX_TEST(tst_TrackLabelLines)
+VYX_TEST(TestTrackLabelLines)
 #include "tst_track_label_lines.moc"

@@ -3,7 +3,7 @@
 
 #include <QTest>
 
-class tst_TrackSymbols : public QObject {
+class TestTrackSymbols : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -39,7 +39,7 @@ int differingPixels(const QImage &one, const QImage &other)
 } // namespace
 
 // At 16 pixels, where a shape is just a few dozen pixels of ink: an eighth of the picture must differ.
-void tst_TrackSymbols::everySymbolHasAShapeOfItsOwn()
+void TestTrackSymbols::everySymbolHasAShapeOfItsOwn()
 {
     constexpr int Size = 16;
     for (int one = 0; one < TrackSymbols::Count; ++one) {
@@ -52,7 +52,7 @@ void tst_TrackSymbols::everySymbolHasAShapeOfItsOwn()
     }
 }
 
-void tst_TrackSymbols::showsColorAndSize()
+void TestTrackSymbols::showsColorAndSize()
 {
     TrackSymbols symbols(24, Qt::red);
     QCOMPARE(symbols.pixmap(TrackSymbols::Smr, 1.0).toImage().pixelColor(12, 12), QColor(Qt::red));
@@ -65,7 +65,7 @@ void tst_TrackSymbols::showsColorAndSize()
 }
 
 // The nose is the thin end of the drawing: turned by a quarter it points to the right.
-void tst_TrackSymbols::turnsTheAircraft()
+void TestTrackSymbols::turnsTheAircraft()
 {
     TrackSymbols symbols(24, Qt::red);
     const QImage upright = symbols.aircraft(0.0, 1.0).toImage();
@@ -75,5 +75,5 @@ void tst_TrackSymbols::turnsTheAircraft()
     QCOMPARE(symbols.aircraft(-270.3, 1.0).toImage(), turned);
 }
 
-VYX_TEST(tst_TrackSymbols)
+VYX_TEST(TestTrackSymbols)
 #include "tst_track_symbols.moc"

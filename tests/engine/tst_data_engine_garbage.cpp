@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int goodTracks = 50;
+constexpr int GoodTracks = 50;
 
 // What a network brings beside good data. Deterministic.
 class Garbage {
@@ -75,17 +75,17 @@ private Q_SLOTS:
             sender.writeDatagram(datagram, QHostAddress::LocalHost, rig.port());
         };
         Garbage garbage;
-        for (int number = 1; number <= goodTracks; ++number) {
+        for (int number = 1; number <= GoodTracks; ++number) {
             for (int i = 0; i < 20; ++i) {
                 send(garbage.next());
             }
             send(plotBlock(static_cast<quint8>(number), static_cast<quint16>(number * 1000)));
             QCoreApplication::processEvents();
         }
-        QTRY_COMPARE(rig.engine.messagesReceived(), quint64(goodTracks * 21));
+        QTRY_COMPARE(rig.engine.messagesReceived(), quint64(GoodTracks * 21));
 
         const QList<TrackSnapshot> tracks = rig.tracks();
-        for (int number = 1; number <= goodTracks; ++number) {
+        for (int number = 1; number <= GoodTracks; ++number) {
             const double bearing = number * 1000 * 360.0 / 65536.0;
             const GeoCoordinate expected(rig.radar()->location().atDistanceAndAzimuth(10 * 1852.0, bearing));
             const bool shown = std::any_of(tracks.begin(), tracks.end(),

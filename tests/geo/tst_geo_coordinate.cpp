@@ -17,7 +17,7 @@ constexpr double seconds(double degrees, double minutes, double value)
 
 } // namespace
 
-class tst_GeoCoordinate : public QObject {
+class TestGeoCoordinate : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -95,17 +95,17 @@ private Q_SLOTS:
 
     void returnsWhatItWrote()
     {
-        constexpr double tolerance = 0.005 / 3600.0 + 1e-12; // half of the last digit
+        constexpr double Tolerance = 0.005 / 3600.0 + 1e-12; // half of the last digit
         for (int step = -899; step <= 899; step += 7) {
             const GeoCoordinate before(step / 10.0 + 0.0123456, step / 5.0 - 0.0765432);
             const auto text = before.toATCString(Format::HighPrecision);
             const auto after = GeoCoordinate::fromATCString(text);
-            QVERIFY2(std::abs(after.latitude() - before.latitude()) <= tolerance, qPrintable(text));
-            QVERIFY2(std::abs(after.longitude() - before.longitude()) <= tolerance, qPrintable(text));
+            QVERIFY2(std::abs(after.latitude() - before.latitude()) <= Tolerance, qPrintable(text));
+            QVERIFY2(std::abs(after.longitude() - before.longitude()) <= Tolerance, qPrintable(text));
             QCOMPARE(after.toATCString(Format::HighPrecision), text);
         }
     }
 };
 
-VYX_TEST(tst_GeoCoordinate)
+VYX_TEST(TestGeoCoordinate)
 #include "tst_geo_coordinate.moc"

@@ -8,7 +8,7 @@ using Accessor = QRegularExpressionValidator *(*)();
 Q_DECLARE_METATYPE(Accessor)
 Q_DECLARE_METATYPE(QValidator::State)
 
-class tst_InputValidator : public QObject {
+class TestInputValidator : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -56,5 +56,5 @@ private Q_SLOTS:
     }
 };
 
-VYX_TEST(tst_InputValidator)
+VYX_TEST(TestInputValidator)
 #include "tst_input_validator.moc"

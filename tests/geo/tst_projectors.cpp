@@ -22,7 +22,7 @@ constexpr double Micrometre = 1e-6;
 
 } // namespace
 
-class tst_Projectors : public QObject {
+class TestProjectors : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -115,5 +115,5 @@ private Q_SLOTS:
     }
 };
 
-VYX_TEST(tst_Projectors)
+VYX_TEST(TestProjectors)
 #include "tst_projectors.moc"

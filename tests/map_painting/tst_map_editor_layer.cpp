@@ -20,7 +20,7 @@ private Q_SLOTS:
 namespace {
 
 using Join = MapEditorLayer::Join;
-constexpr double metresPerPixel = 100.0;
+constexpr double MetresPerPixel = 100.0;
 const double nowhere = std::numeric_limits<double>::quiet_NaN();
 
 // Plane points of pixels from the middle of the picture, y down.
@@ -28,14 +28,14 @@ QPolygonF plane(const QPolygonF &pixels)
 {
     QPolygonF points;
     for (const QPointF &pixel : pixels) {
-        points.append(QPointF(pixel.x(), -pixel.y()) * metresPerPixel);
+        points.append(QPointF(pixel.x(), -pixel.y()) * MetresPerPixel);
     }
     return points;
 }
 
 PaintedView painted(MapEditorLayer &layer)
 {
-    PaintedView picture(metresPerPixel);
+    PaintedView picture(MetresPerPixel);
     picture.paint([&layer](QPainter &painter, const GeoView &view) { layer.paint(painter, view); });
     return picture;
 }
@@ -117,7 +117,7 @@ void TestMapEditorLayer::hidesItsBackdropBehindTheShape()
 
 void TestMapEditorLayer::findsHandlesAndSegments()
 {
-    const QTransform toScreen = PaintedView(metresPerPixel).view().screenTransform();
+    const QTransform toScreen = PaintedView(MetresPerPixel).view().screenTransform();
     MapEditorLayer layer;
     layer.setShape({plane({{0, 0}, {100, 0}, {nowhere, nowhere}, {0, 100}, {0, 0}}), Join::Line});
     const auto handle = [&](double x, double y) {

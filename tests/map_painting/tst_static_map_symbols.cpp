@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QTest>
 
-class tst_StaticMapSymbols : public QObject {
+class TestStaticMapSymbols : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -13,7 +13,7 @@ private Q_SLOTS:
 };
 
 // The least that an eye can tell apart at this size.
-void tst_StaticMapSymbols::differFromEachOther()
+void TestStaticMapSymbols::differFromEachOther()
 {
     constexpr int Size = 16;
     QMap<QString, QImage> drawings;
@@ -40,5 +40,5 @@ void tst_StaticMapSymbols::differFromEachOther()
     }
 }
 
-VYX_TEST(tst_StaticMapSymbols)
+VYX_TEST(TestStaticMapSymbols)
 #include "tst_static_map_symbols.moc"

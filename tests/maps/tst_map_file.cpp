@@ -29,7 +29,7 @@ QByteArray versionOne(const QPixmap &pixmap)
 
 } // namespace
 
-class tst_MapFile : public QObject {
+class TestMapFile : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -180,5 +180,5 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-VYX_TEST(tst_MapFile)
+VYX_TEST(TestMapFile)
 #include "tst_map_file.moc"

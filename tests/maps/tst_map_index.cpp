@@ -5,7 +5,7 @@
 
 #include <QTemporaryDir>
 
-class tst_MapIndex : public QObject {
+class TestMapIndex : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -46,5 +46,5 @@ private Q_SLOTS:
     }
 };
 
-VYX_TEST(tst_MapIndex)
+VYX_TEST(TestMapIndex)
 #include "tst_map_index.moc"

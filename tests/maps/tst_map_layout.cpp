@@ -6,7 +6,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-class tst_MapLayout : public QObject {
+class TestMapLayout : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -89,5 +89,5 @@ private Q_SLOTS:
     }
 };
 
-VYX_TEST(tst_MapLayout)
+VYX_TEST(TestMapLayout)
 #include "tst_map_layout.moc"

@@ -5,7 +5,7 @@
 
 #include <QTemporaryDir>
 
-class tst_MapStyleSheet : public QObject {
+class TestMapStyleSheet : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -103,5 +103,5 @@ private Q_SLOTS:
     }
 };
 
-VYX_TEST(tst_MapStyleSheet)
+VYX_TEST(TestMapStyleSheet)
 #include "tst_map_style_sheet.moc"

@@ -93,7 +93,7 @@ private Q_SLOTS:
     void association_data()
     {
         // One aircraft a letter.
-        constexpr int a = 0x4b1a2c, b = 0x3c0001;
+        const int a = 0x4b1a2c, b = 0x3c0001;
         QTest::addColumn<QList<Sighting>>("sightings");
         QTest::addColumn<QList<int>>("incarnations"); // updated by each report; 0: none
         const auto row = [](const char *name, const QList<Sighting> &sightings, const QList<int> &incarnations) {
@@ -140,11 +140,11 @@ private Q_SLOTS:
             rig.send(category, reports);
             QVERIFY2(shown(rig, expected) == expected, qPrintable(name + (": " + shown(rig, expected))));
         }
-        constexpr int types[]{0, 1, 2, 3, 4, 4, 5, 5};
+        constexpr int Types[]{0, 1, 2, 3, 4, 4, 5, 5};
         for (int detection = 0; detection < 8; ++detection) {
             TrackerRig rig(RadarSensor);
             rig.send(48, QStringLiteral("161/TRN=7 020/TYP=%1").arg(detection));
-            QCOMPARE(shown(rig, "type"), QStringLiteral("type %1").arg(types[detection]));
+            QCOMPARE(shown(rig, "type"), QStringLiteral("type %1").arg(Types[detection]));
             rig.send(1, QStringLiteral("161=7 020/SSRPSR=%1").arg(detection % 4));
             QCOMPARE(shown(rig, "tracks, type"), QStringLiteral("tracks 1, type %1").arg(detection % 4));
         }

@@ -45,14 +45,14 @@ private Q_SLOTS:
     void historyIsCappedNewestFirst()
     {
         Track track(1);
-        constexpr int maximum = Track::MaximumHistory;
-        for (int i = 0; i <= maximum; ++i) {
+        constexpr int Maximum = Track::MaximumHistory;
+        for (int i = 0; i <= Maximum; ++i) {
             track.setGeoCoordinate({10.0, i * 0.01});
             track.setLevel(i);
             track.recordHistory();
         }
         QCOMPARE(track.history().size(), Track::MaximumHistory);
-        QCOMPARE(track.history().front().level(), maximum);
+        QCOMPARE(track.history().front().level(), Maximum);
         QCOMPARE(track.history().back().level(), 1);
         QCOMPARE(track.history().back().geoCoordinate().longitude(), 0.01);
         QVERIFY(!track.history().back().carCoordinateValid());
