@@ -13,6 +13,8 @@
 #include <QThread>
 #include <QTimeZone>
 
+#include <algorithm>
+
 namespace {
 
 using Texts = QMap<QString, QString>;
@@ -234,7 +236,7 @@ private Q_SLOTS:
     // The child saves two versions in turn; each is one file or the other, octet by octet, whenever the kill comes.
     void survivesBeingKilled()
     {
-        const int kills = qEnvironmentVariableIntValue("VYX_TEST_LONG") != 0 ? 1000 : 25;
+        const int kills = std::max(25, qEnvironmentVariableIntValue("VYX_TEST_KILLS"));
         constexpr int longestLife = 12000; // microseconds
         Config version;
         version.save(path("first.conf"));
