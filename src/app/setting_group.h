@@ -22,7 +22,5 @@ enum class SettingGroup : unsigned int {
 Q_DECLARE_FLAGS(SettingGroups, SettingGroup)
 Q_DECLARE_OPERATORS_FOR_FLAGS(SettingGroups)
 
-inline constexpr SettingGroups AllSettings = SettingGroups::fromInt(~0u);
-
 // What an input is opened with: the command line may override these, and they stay as they are while an input runs.
 inline constexpr SettingGroups RunGroups = SettingGroup::Input | SettingGroup::Processor | SettingGroup::Sensor;
