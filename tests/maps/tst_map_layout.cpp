@@ -3,6 +3,7 @@
 #include "maps/map_layout.h"
 #include "test_program.h"
 
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 

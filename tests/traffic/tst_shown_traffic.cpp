@@ -87,7 +87,6 @@ private Q_SLOTS:
         const Scenario scenario = PlayedScenario::read(json.toUtf8().constData());
         const QJsonObject sensor = sensorJson(scenario);
         EngineRig rig;
-        rig.config.inputUdpPort1 = EngineRig::freePort();
         rig.config.processorType = sensor["processor"] == "modes" ? Config::ProcessorType::ModeS
             : sensor["processor"] == "sirm"                       ? Config::ProcessorType::AleniaSirM
                                                                   : Config::ProcessorType::Asterix;
@@ -104,7 +103,7 @@ private Q_SLOTS:
         QStringList shown;
         while (source.nextTime() < 30) {
             for (const QByteArray &datagram : *source.next().datagrams) {
-                socket.writeDatagram(datagram, QHostAddress::LocalHost, rig.config.inputUdpPort1);
+                socket.writeDatagram(datagram, QHostAddress::LocalHost, rig.port());
                 ++sent;
             }
             QTRY_COMPARE(rig.engine.messagesReceived(), sent);
