@@ -45,8 +45,7 @@ QString InputSession::notice() const
         return tr("No sensor is configured. Choose one in Settings (F10), then press Start.");
     }
     if (!m_fault.isEmpty()) {
-        return m_wasOpen ? tr("Input stopped. %1\nThis is the last picture.").arg(m_fault)
-                         : tr("The input cannot be opened. %1").arg(m_fault);
+        return m_wasOpen ? tr("Input stopped. %1\nThis is the last picture.").arg(m_fault) : m_fault;
     }
     return m_wasOpen ? tr("Input stopped. This is the last picture.")
                      : tr("No input is running. Press Start to open %1.").arg(description());
@@ -122,6 +121,7 @@ void InputSession::onOpenFailed(quint64 requestId)
         return;
     }
     m_wasOpen = false; // the engine has cleared the picture
+    m_fault = tr("Cannot open %1: %2").arg(description(), m_fault);
     const bool final = !m_reopen;
     end();
     if (final) {

@@ -20,31 +20,41 @@ LogPane::LogPane(QWidget *parent) : QPlainTextEdit(parent)
     setFrameShape(NoFrame);
     setFont(figureFont());
     document()->setDocumentMargin(6);
-    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &LogPane::followIfAtEnd);
-    // A lower pane, or a bar for a long line, takes the end out of sight: nobody has scrolled.
-    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &LogPane::showEnd);
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &LogPane::keepAtEnd);
 }
 
 void LogPane::appendLine(LogLevel level, const QString &line)
 {
+    const bool following = atEnd();
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
     if (!document()->isEmpty()) {
         cursor.insertBlock();
     }
     cursor.insertText(line, format(level));
-    showEnd();
+    if (following) {
+        showEnd();
+    }
 }
 
-void LogPane::followIfAtEnd()
+bool LogPane::atEnd() const
 {
-    m_following = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+    return verticalScrollBar()->value() >= m_end;
 }
 
 void LogPane::showEnd()
 {
-    if (m_following) {
-        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+// A lower pane, or a bar for a long line, takes the end out of sight: nobody has scrolled. The bar has its old value
+// yet.
+void LogPane::keepAtEnd(int, int maximum)
+{
+    const bool following = atEnd();
+    m_end = maximum;
+    if (following) {
+        showEnd();
     }
 }
 

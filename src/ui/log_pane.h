@@ -21,9 +21,10 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
-    void followIfAtEnd();
+    bool atEnd() const;
     void showEnd();
+    void keepAtEnd(int minimum, int maximum);
     QTextCharFormat format(LogLevel level) const;
 
-    bool m_following = true;
+    int m_end = 0; // of the scroll bar, before its range changes
 };

@@ -99,6 +99,7 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
 MainWindow::~MainWindow()
 {
     LibraryLog::setSink(nullptr, {});
+    disconnect(&m_config, nullptr, this, nullptr); // writes what waits when the line for messages has gone
     if (m_host.engine()) {
         disconnect(m_host.engine(), nullptr, this, nullptr);
     }
@@ -310,6 +311,7 @@ void MainWindow::connectMapWindows()
                 config.*member = AppPaths::storePath(file);
             }
         });
+        m_mapWindows->reload(m_config.live()); // the place of the setting may have got its file just now
     };
     connect(maps, &MapWindows::indexChosen, this, [store](const QString &file) { store(&Config::mapIndex, file); });
     connect(maps, &MapWindows::styleSheetChosen, this,
