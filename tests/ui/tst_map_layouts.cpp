@@ -228,7 +228,8 @@ void TestMapLayouts::exitGoesOnWhenTheMapIsSaved()
     window->launchStaticMapEditor({}, MapFile::Unknown);
     auto *editor = window->findChild<MapEditorWindow *>();
     editor->document().addGroup("g", "land");
-    const QString path = AppPaths::appDataDir() + "/edited.map";
+    const QTemporaryDir maps;
+    const QString path = maps.filePath("edited.map");
     {
         BusyWorkers busy;
         editor->saveFile(path);
