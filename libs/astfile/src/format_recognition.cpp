@@ -16,10 +16,11 @@ namespace {
 // Enough for several of the longest data blocks.
 constexpr std::size_t OctetsToTry = 512 * 1024;
 
-// What framings are tried for; the first of those that account for equally much is preferred. Up to a fault in a short
-// file another format may by chance account for more than the right one.
-constexpr qint64 NameCounts = 2;
+// What framings are tried for; the first of those that account for equally much is preferred.
 constexpr std::array FramedFormats = {RecFile::FinalFormat, RecFile::RawAsterix, RecFile::Gps, RecFile::ModeS};
+// How often what the named format accounts for is counted: up to a fault in a short file another one may by chance
+// account for a little more.
+constexpr qint64 NameCounts = 2;
 
 using Octets = std::span<const unsigned char>;
 
