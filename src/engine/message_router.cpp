@@ -31,8 +31,8 @@ const _ast_uap_t *configuredUap(int selector)
 
 bool isTrackerCategory(std::uint32_t category)
 {
-    constexpr std::array categories = {1U, 2U, 10U, 20U, 21U, 34U, 48U, 62U};
-    return std::find(categories.begin(), categories.end(), category) != categories.end();
+    constexpr std::array Categories = {1U, 2U, 10U, 20U, 21U, 34U, 48U, 62U};
+    return std::find(Categories.begin(), Categories.end(), category) != Categories.end();
 }
 
 } // namespace

@@ -13,7 +13,7 @@
 
 namespace {
 // One map that takes long does not hold up all the others; more at once would slow the picture down.
-constexpr std::size_t loadsAtOnce = 2;
+constexpr std::size_t LoadsAtOnce = 2;
 } // namespace
 
 struct MapLibrary::Private {
@@ -302,7 +302,7 @@ void MapLibrary::load(quint64 id)
 
 void MapLibrary::startLoads()
 {
-    while (!d->queue.isEmpty() && d->loads.size() < loadsAtOnce) {
+    while (!d->queue.isEmpty() && d->loads.size() < LoadsAtOnce) {
         startLoad(d->queue.takeFirst());
     }
 }

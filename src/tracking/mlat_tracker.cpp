@@ -37,9 +37,9 @@ std::optional<int> levelOf(const _ast_datarecord_020_t &record)
 // As these systems send it: 0 is a climb, unlike in other categories.
 Track::VerticalTrend trendOf(unsigned int value)
 {
-    constexpr Track::VerticalTrend trends[] = {
+    constexpr Track::VerticalTrend Trends[] = {
         Track::TrendClimbing, Track::TrendDescending, Track::TrendLevel, Track::TrendUnknown};
-    return trends[value & 3];
+    return Trends[value & 3];
 }
 
 } // namespace

@@ -44,9 +44,9 @@ std::optional<int> levelOf(const _ast_datarecord_062_t &record)
 
 Track::VerticalTrend trendOf(unsigned int value)
 {
-    constexpr Track::VerticalTrend trends[] = {
+    constexpr Track::VerticalTrend Trends[] = {
         Track::TrendLevel, Track::TrendClimbing, Track::TrendDescending, Track::TrendUnknown};
-    return trends[value & 3];
+    return Trends[value & 3];
 }
 
 void setCallsign(Track &track, const _ast_datarecord_062_t &record)

@@ -35,8 +35,8 @@ public:
 
     // False when another index is to be shown and the operator keeps his unsaved changes of this one.
     bool settle(const Config &edited);
-    // False when one stays open. Where that is the editor, and only until it has written its map, the function is called
-    // after that.
+    // False when one stays open. Where that is the editor, and only until it has written its map, the function is
+    // called after that.
     bool close(const std::function<void()> &editorClosed);
 
 public Q_SLOTS:

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr qsizetype maximumRecent = 10;
+constexpr qsizetype MaximumRecent = 10;
 const QString recentKey = QStringLiteral("recentCenters");
 
 } // namespace
@@ -58,7 +58,7 @@ void SetCenterWindow::remember(const QString &text)
         m_recent->removeItem(known);
     }
     m_recent->insertItem(0, text);
-    while (m_recent->count() > maximumRecent) {
+    while (m_recent->count() > MaximumRecent) {
         m_recent->removeItem(m_recent->count() - 1);
     }
     m_recent->setCurrentIndex(-1);

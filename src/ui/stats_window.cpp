@@ -12,9 +12,9 @@
 
 namespace {
 
-constexpr auto notReported = "-";
+constexpr auto NotReported = "-";
 constexpr auto LayerPrefix = "layer "; // of the names of their values
-constexpr auto widestValue = "100000.0/s, 100000.0 KB/s";
+constexpr auto WidestValue = "100000.0/s, 100000.0 KB/s";
 
 QString fixed(double value)
 {
@@ -78,11 +78,11 @@ void StatsWindow::addHeading(QGridLayout *grid, const QString &text)
 
 void StatsWindow::addValue(QGridLayout *grid, const QString &name, const QString &label)
 {
-    auto *value = new QLabel(notReported);
+    auto *value = new QLabel(NotReported);
     value->setObjectName(name);
     value->setFont(figureFont());
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(widestValue));
+    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(WidestValue));
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     const int row = grid->rowCount();
     grid->addWidget(new QLabel(label), row, 0);
@@ -105,7 +105,7 @@ void StatsWindow::setPipelineStats(const PipelineStats &stats)
         "input", tr("%1/s, %2 KB/s").arg(fixed(stats.inputPacketsPerSecond), fixed(stats.inputKilobytesPerSecond)));
     showValue("radials", tr("%1/s").arg(fixed(stats.videoRadialsPerSecond)));
     showValue("weatherInterval",
-        stats.weatherIntervalValid ? tr("%1 s").arg(fixed(stats.weatherSecondsPerPicture)) : QString(notReported));
+        stats.weatherIntervalValid ? tr("%1 s").arg(fixed(stats.weatherSecondsPerPicture)) : QString(NotReported));
     showValue("weatherVectors", QString::number(stats.weatherVectors));
 }
 

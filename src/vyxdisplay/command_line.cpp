@@ -50,15 +50,15 @@ void applyProcessor(const Processor &processor, Config &config)
 // Options that the toolkit reads and removes by itself, written with one dash or two.
 bool isToolkitSwitch(const QString &name)
 {
-    static constexpr std::array names{"reverse", "widgetcount"};
-    return std::find(names.begin(), names.end(), name) != names.end();
+    static constexpr std::array Names{"reverse", "widgetcount"};
+    return std::find(Names.begin(), Names.end(), name) != Names.end();
 }
 
 bool isToolkitOption(const QString &name)
 {
-    static constexpr std::array names{"platform", "platformpluginpath", "platformtheme", "plugin", "style",
+    static constexpr std::array Names{"platform", "platformpluginpath", "platformtheme", "plugin", "style",
         "stylesheet", "qwindowgeometry", "qwindowicon", "qwindowtitle", "display", "session"};
-    return std::find(names.begin(), names.end(), name) != names.end();
+    return std::find(Names.begin(), Names.end(), name) != Names.end();
 }
 
 // Walks over the arguments. An option's value is the next argument or follows an equals sign.

@@ -179,10 +179,10 @@ std::optional<Sensor> CommandLineValues::parsedSensor(const QString &text, QStri
 
 std::optional<std::chrono::milliseconds> CommandLineValues::parsedSeconds(const QString &text, QString *error)
 {
-    constexpr double longest = 1e6; // some eleven days, and well inside a timer's range
+    constexpr double Longest = 1e6; // some eleven days, and well inside a timer's range
     bool isNumber = false;
     const double seconds = text.toDouble(&isNumber);
-    if (isNumber && seconds > 0.0 && seconds <= longest) {
+    if (isNumber && seconds > 0.0 && seconds <= Longest) {
         return std::chrono::milliseconds(qRound64(seconds * 1000.0));
     }
     *error = CommandLine::tr("'%1' is not a number of seconds").arg(text);

@@ -25,12 +25,12 @@
 
 namespace {
 
-constexpr int wrongUse = 2;
+constexpr int WrongUse = 2;
 
 int complain(const QString &line)
 {
     std::fprintf(stderr, "vyxdisplay: %s\n", qUtf8Printable(line));
-    return wrongUse;
+    return WrongUse;
 }
 
 int print(const QString &text)

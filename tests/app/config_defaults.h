@@ -2,7 +2,7 @@
 
 // Every key of the settings file with its text in a file of defaults. %ZONE% stands for the system's time zone, %DATA%
 // for the data directory, * for any opaque colour; colours are alpha and RGB.
-inline constexpr char configDefaults[] = R"(
+inline constexpr char ConfigDefaults[] = R"(
 displayCenterCoordinate=400300N1164400E displayLocalTimeZoneName=%ZONE% displayStyle=windowsvista
 displayLanguage=en displayToolbarText=true
 inputComm=0 inputUdpMulticast1=true inputUdpMcastLanInterface1= inputUdpMcastAddress1=239.0.0.1

@@ -47,7 +47,7 @@ void writeTexts(const QString &fileName, const Texts &texts)
 Texts defaultTexts()
 {
     const auto zone = QTimeZone::systemTimeZoneId();
-    auto text = QString(configDefaults).simplified();
+    auto text = QString(ConfigDefaults).simplified();
     text.replace("%ZONE%", zone.isEmpty() ? "LCL" : QString::fromUtf8(zone));
     text.replace("%DATA%", AppPaths::appDataDir());
     Texts texts;
@@ -97,7 +97,7 @@ QByteArray bytesOf(const QString &fileName)
 
 } // namespace
 
-class tst_Config : public QObject {
+class TestConfig : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -237,7 +237,7 @@ private Q_SLOTS:
     void survivesBeingKilled()
     {
         const int kills = std::max(25, qEnvironmentVariableIntValue("VYX_TEST_KILLS"));
-        constexpr int longestLife = 12000; // microseconds
+        constexpr int LongestLife = 12000; // microseconds
         Config version;
         version.save(path("first.conf"));
         version.sensorName = QString(50000, QLatin1Char('x'));
@@ -252,7 +252,7 @@ private Q_SLOTS:
             QProcess child;
             child.start(QCoreApplication::applicationDirPath() + "/app_child", {"save", fileName});
             QVERIFY(child.waitForReadyRead());
-            QThread::usleep(static_cast<unsigned long>(random.bounded(longestLife)));
+            QThread::usleep(static_cast<unsigned long>(random.bounded(LongestLife)));
             child.kill();
             QVERIFY(child.waitForFinished());
             QVERIFY2(versions.contains(bytesOf(fileName)), qPrintable(QString::number(kill)));
@@ -265,5 +265,5 @@ private:
     QTemporaryDir m_directory;
 };
 
-VYX_TEST(tst_Config)
+VYX_TEST(TestConfig)
 #include "tst_config.moc"

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <memory>
 
-class tst_GeoTrackDisplay : public QObject {
+class TestGeoTrackDisplay : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -80,7 +80,7 @@ struct Scope {
 
 } // namespace
 
-void tst_GeoTrackDisplay::detailsEndAtTheirZoom()
+void TestGeoTrackDisplay::detailsEndAtTheirZoom()
 {
     TrackSnapshot track = aircraft(1);
     track.headingValid = true;
@@ -104,7 +104,7 @@ void tst_GeoTrackDisplay::detailsEndAtTheirZoom()
     }
 }
 
-void tst_GeoTrackDisplay::vectorReaches()
+void TestGeoTrackDisplay::vectorReaches()
 {
     struct Reach {
         bool timeMode;
@@ -142,7 +142,7 @@ void tst_GeoTrackDisplay::vectorReaches()
     }
 }
 
-void tst_GeoTrackDisplay::vectorTicks()
+void TestGeoTrackDisplay::vectorTicks()
 {
     TrackSnapshot track = aircraft(1);
     track.headingValid = true;
@@ -166,7 +166,7 @@ void tst_GeoTrackDisplay::vectorTicks()
 }
 
 // Vector and leader, each for itself: the one to the right, the other down and to the left.
-void tst_GeoTrackDisplay::linesOfACoastingTrackAreBroken()
+void TestGeoTrackDisplay::linesOfACoastingTrackAreBroken()
 {
     TrackSnapshot track = aircraft(1);
     track.headingValid = true;
@@ -197,7 +197,7 @@ void tst_GeoTrackDisplay::linesOfACoastingTrackAreBroken()
     }
 }
 
-void tst_GeoTrackDisplay::trailDots()
+void TestGeoTrackDisplay::trailDots()
 {
     for (const auto &[history, wanted] : QList<std::pair<int, int>>{{12, 5}, {3, 20}}) {
         TrackSnapshot track = aircraft(1);
@@ -217,7 +217,7 @@ void tst_GeoTrackDisplay::trailDots()
     }
 }
 
-void tst_GeoTrackDisplay::labelLineColors()
+void TestGeoTrackDisplay::labelLineColors()
 {
     TrackSnapshot track = aircraft(7);
     Scope scope({track});
@@ -240,7 +240,7 @@ void tst_GeoTrackDisplay::labelLineColors()
 }
 
 // The background is the label and the padding round it, except below; upright however the view is turned.
-void tst_GeoTrackDisplay::labelGround()
+void TestGeoTrackDisplay::labelGround()
 {
     Scope scope({aircraft(1)});
     scope.display.showLabel(true);
@@ -262,7 +262,7 @@ void tst_GeoTrackDisplay::labelGround()
 }
 
 // The later track's label lies on the earlier track's place.
-void tst_GeoTrackDisplay::nothingHidesATarget()
+void TestGeoTrackDisplay::nothingHidesATarget()
 {
     Scope scope({aircraft(1), aircraft(2, QPointF(-8000.0, -3000.0))});
     scope.display.showLabel(true);
@@ -275,7 +275,7 @@ void tst_GeoTrackDisplay::nothingHidesATarget()
 }
 
 // What is left out because other labels hide it must not be missed.
-void tst_GeoTrackDisplay::crowdLooksAsIfPaintedOneByOne()
+void TestGeoTrackDisplay::crowdLooksAsIfPaintedOneByOne()
 {
     QList<TrackSnapshot> tracks;
     for (int i = 0; i < 60; ++i) {
@@ -309,7 +309,7 @@ void tst_GeoTrackDisplay::crowdLooksAsIfPaintedOneByOne()
     }
 }
 
-void tst_GeoTrackDisplay::paintsLabelsOfTracksJustOutside()
+void TestGeoTrackDisplay::paintsLabelsOfTracksJustOutside()
 {
     for (int pixelsLeftOfTheView : {100, 495, 505}) { // the margin is 500 wide
         Scope scope({aircraft(1, QPointF(-100.0 * (200 + pixelsLeftOfTheView), 0.0))});
@@ -321,7 +321,7 @@ void tst_GeoTrackDisplay::paintsLabelsOfTracksJustOutside()
     }
 }
 
-void tst_GeoTrackDisplay::labelFollowsItsContent()
+void TestGeoTrackDisplay::labelFollowsItsContent()
 {
     TrackSnapshot track = aircraft(1);
     Scope scope({track});
@@ -337,7 +337,7 @@ void tst_GeoTrackDisplay::labelFollowsItsContent()
     QVERIFY(after.extent(GroundColor).height() > before.extent(GroundColor).height());
 }
 
-void tst_GeoTrackDisplay::hitsSymbol()
+void TestGeoTrackDisplay::hitsSymbol()
 {
     TrackSnapshot unplaced = aircraft(4, QPointF(-19000.0, 19000.0));
     unplaced.carCoordinateValid = false;
@@ -352,7 +352,7 @@ void tst_GeoTrackDisplay::hitsSymbol()
     }
 }
 
-void tst_GeoTrackDisplay::hitsLabelsWhereTheyWerePainted()
+void TestGeoTrackDisplay::hitsLabelsWhereTheyWerePainted()
 {
     Scope scope({aircraft(1), aircraft(2)});
     scope.display.showLabel(true);
@@ -373,7 +373,7 @@ void tst_GeoTrackDisplay::hitsLabelsWhereTheyWerePainted()
     QCOMPARE(hit(QPoint(-120, 20)), 0ull);
 }
 
-void tst_GeoTrackDisplay::forgetsTracksThatAreGone()
+void TestGeoTrackDisplay::forgetsTracksThatAreGone()
 {
     Scope scope({aircraft(1), aircraft(2)});
     scope.display.setTrackLabelOffset(1, 5, 6);
@@ -387,5 +387,5 @@ void tst_GeoTrackDisplay::forgetsTracksThatAreGone()
     QVERIFY(!scope.display.selectedTrackCarCoordinate(place));
 }
 
-VYX_TEST(tst_GeoTrackDisplay)
+VYX_TEST(TestGeoTrackDisplay)
 #include "tst_geo_track_display.moc"

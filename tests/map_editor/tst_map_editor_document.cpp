@@ -34,7 +34,7 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr MapElementRef firstLine{0, MapElementKind::Polyline, 0};
+constexpr MapElementRef FirstLine{0, MapElementKind::Polyline, 0};
 
 MapData sampleMap()
 {
@@ -204,7 +204,7 @@ void TestMapEditorDocument::undoesAndRedoesAnything()
     document.store().reset(sampleMap());
     MapEditorTreeModel tree(&document);
     MapEditorPointModel points(&document);
-    points.setElement(firstLine);
+    points.setElement(FirstLine);
     const QAbstractItemModelTester treeTester(&tree, QAbstractItemModelTester::FailureReportingMode::QtTest);
     const QAbstractItemModelTester pointTester(&points, QAbstractItemModelTester::FailureReportingMode::QtTest);
     MercatorProjector projector;
@@ -240,19 +240,19 @@ void TestMapEditorDocument::dragIsOneStep()
 {
     MapEditorDocument document;
     document.store().reset(sampleMap());
-    const GeoCoordinate start = document.store().point(firstLine, 1);
+    const GeoCoordinate start = document.store().point(FirstLine, 1);
     const auto drag = [&document](quint64 number, const QList<GeoCoordinate> &places) {
         for (const GeoCoordinate &place : places) {
-            document.movePoint(firstLine, 1, place, number);
+            document.movePoint(FirstLine, 1, place, number);
         }
     };
     drag(1, {{49.1, 17.1}, {49.2, 17.2}, {49.3, 17.3}});
     drag(2, {{49.4, 17.4}, {49.5, 17.5}});
     QCOMPARE(document.undoStack().count(), 2);
     document.undoStack().undo();
-    QCOMPARE(document.store().point(firstLine, 1), GeoCoordinate(49.3, 17.3));
+    QCOMPARE(document.store().point(FirstLine, 1), GeoCoordinate(49.3, 17.3));
     document.undoStack().undo();
-    QCOMPARE(document.store().point(firstLine, 1), start);
+    QCOMPARE(document.store().point(FirstLine, 1), start);
     drag(3, {{49.1, 17.1}, start});
     QCOMPARE(document.undoStack().count(), 0);
     QVERIFY(!document.isModified());
@@ -262,9 +262,9 @@ void TestMapEditorDocument::movedPointKeepsItsAltitude()
 {
     MapEditorDocument document;
     document.store().reset(sampleMap());
-    document.movePoint(firstLine, 0, GeoCoordinate(48.1, 16.1, 250.0));
-    document.movePoint(firstLine, 0, GeoCoordinate(48.2, 16.2));
-    QCOMPARE(document.store().point(firstLine, 0), GeoCoordinate(48.2, 16.2, 250.0));
+    document.movePoint(FirstLine, 0, GeoCoordinate(48.1, 16.1, 250.0));
+    document.movePoint(FirstLine, 0, GeoCoordinate(48.2, 16.2));
+    QCOMPARE(document.store().point(FirstLine, 0), GeoCoordinate(48.2, 16.2, 250.0));
 }
 
 void TestMapEditorDocument::linesGoOnBeyondTheDateLine()
@@ -273,12 +273,12 @@ void TestMapEditorDocument::linesGoOnBeyondTheDateLine()
     document.store().reset(sampleMap());
     MercatorProjector projector;
     const MapEditorGeometry geometry(&document.store(), &projector);
-    document.removePoints(firstLine, {0, 1, 2});
-    document.insertPoints(firstLine, 0, {{0.0, 179.0}, {0.0, -179.0}, {0.0, -178.0}});
-    const QPolygonF points = geometry.shape(firstLine).points;
+    document.removePoints(FirstLine, {0, 1, 2});
+    document.insertPoints(FirstLine, 0, {{0.0, 179.0}, {0.0, -179.0}, {0.0, -178.0}});
+    const QPolygonF points = geometry.shape(FirstLine).points;
     for (int i = 1; i < 3; ++i) {
         QVERIFY(points[i].x() > points[i - 1].x() && points[i].x() - points[i - 1].x() < 250e3);
-        QVERIFY(geometry.unproject(points[i]).distanceTo(document.store().point(firstLine, i)) < 1.0);
+        QVERIFY(geometry.unproject(points[i]).distanceTo(document.store().point(FirstLine, i)) < 1.0);
     }
 }
 

@@ -82,8 +82,8 @@ private:
 
 namespace {
 
-constexpr MapElementRef line{0, MapElementKind::Polyline, 0};
-constexpr MapElementRef symbol{0, MapElementKind::Symbol, 0};
+constexpr MapElementRef ChosenLine{0, MapElementKind::Polyline, 0};
+constexpr MapElementRef FixSymbol{0, MapElementKind::Symbol, 0};
 
 bool near(const GeoCoordinate &one, const GeoCoordinate &other)
 {
@@ -121,7 +121,7 @@ void TestMapEditorWindow::init()
     QVERIFY(saved(m_dir->filePath("m.xml")));
     m_window->setGeoWidget(m_plan.get(), &m_projector);
     m_window->show();
-    m_window->select(line);
+    m_window->select(ChosenLine);
 }
 
 void TestMapEditorWindow::cleanup()
@@ -174,7 +174,7 @@ void TestMapEditorWindow::click(const QPointF &place)
 
 QPointF TestMapEditorWindow::pixelOf(qsizetype point) const
 {
-    const GeoCoordinate place = m_window->document().store().point(line, point);
+    const GeoCoordinate place = m_window->document().store().point(ChosenLine, point);
     double x = 0.0;
     double y = 0.0;
     MercatorProjector().toCartesian(&x, &y, place.latitude(), place.longitude());
@@ -298,7 +298,7 @@ void TestMapEditorWindow::leavesThePlanViewWhenClosed()
 // Ctrl+S leaves the field in which the operator has just typed.
 void TestMapEditorWindow::fieldsTakeEffectWhenSaving()
 {
-    m_window->select(symbol);
+    m_window->select(FixSymbol);
     find<QLineEdit>("elementName")->setText(QStringLiteral("BIXIT"));
     find<QLineEdit>("coordinate")->setText(QStringLiteral("48.25, 16.75"));
     const QSignalSpy saved(m_window.get(), &MapEditorWindow::saved);
@@ -312,10 +312,10 @@ void TestMapEditorWindow::fieldsTakeEffectWhenSaving()
 
 void TestMapEditorWindow::typedCoordinatesAreChecked()
 {
-    m_window->select(symbol);
+    m_window->select(FixSymbol);
     find<QLineEdit>("coordinate")->setText(QStringLiteral("486100N0160000E"));
-    m_window->select(line);
-    QCOMPARE(store().point(symbol, 0), GeoCoordinate(48.0, 16.0));
+    m_window->select(ChosenLine);
+    QCOMPARE(store().point(FixSymbol, 0), GeoCoordinate(48.0, 16.0));
     QAbstractItemModel *points = find<QTableView>("pointTable")->model();
     QVERIFY(!points->setData(points->index(0, 0), QStringLiteral("nonsense")));
     QVERIFY(points->setData(points->index(0, 0), points->index(0, 0).data()));
@@ -344,7 +344,7 @@ void TestMapEditorWindow::filterNarrowsTheTree()
     QCOMPARE(rows(), 2);
     find<QLineEdit>("treeFilter")->setText(QStringLiteral("fix"));
     QCOMPARE(rows(), 1);
-    m_window->select(line); // hidden until now
+    m_window->select(ChosenLine); // hidden until now
     QCOMPARE(rows(), 2);
 }
 
@@ -355,11 +355,11 @@ void TestMapEditorWindow::changesWhatIsSelected()
         return QList<qsizetype>{group.polylines.size(), group.symbols.size()};
     };
     find<QTreeView>("mapTree")->selectAll();
-    m_window->select(symbol);
+    m_window->select(FixSymbol);
     m_window->duplicateSelected();
     QCOMPARE(counts(), QList<qsizetype>({1, 2}));
     m_window->removeSelected(); // the copy, which is now chosen
-    m_window->select(line);
+    m_window->select(ChosenLine);
     m_window->removeSelected();
     QCOMPARE(counts(), QList<qsizetype>({0, 1}));
     QUndoStack &undo = m_window->document().undoStack();
@@ -428,7 +428,7 @@ void TestMapEditorWindow::closingWithChangesAsks_data()
 void TestMapEditorWindow::closingWithChangesAsks()
 {
     QFETCH(QMessageBox::StandardButton, button);
-    m_window->document().removePoints(line, {0});
+    m_window->document().removePoints(ChosenLine, {0});
     answer(button);
     m_window->close();
     QVERIFY(m_asked.contains(QStringLiteral("map")));
@@ -441,12 +441,12 @@ void TestMapEditorWindow::closingWithChangesAsks()
 void TestMapEditorWindow::closingWaitsForWhatIsBeingSaved()
 {
     bool closed = false;
-    m_window->document().removePoints(line, {0});
+    m_window->document().removePoints(ChosenLine, {0});
     {
         BusyWorkers busy;
         m_window->save();
         QVERIFY(!m_window->closeThen([&closed] { closed = true; }));
-        m_window->document().removePoints(line, {0});
+        m_window->document().removePoints(ChosenLine, {0});
         answer(QMessageBox::Save);
         QVERIFY(m_window->isVisible() && !busy.waitedFor());
     }
@@ -490,7 +490,7 @@ void TestMapEditorWindow::changesMadeWhileAMapIsReadAreAskedAbout()
 void TestMapEditorWindow::cancelledFileWorkChangesNothing()
 {
     const MapData before = written();
-    m_window->document().removePoints(line, {0});
+    m_window->document().removePoints(ChosenLine, {0});
     {
         const BusyWorkers busy;
         m_window->save();
@@ -539,7 +539,7 @@ void TestMapEditorWindow::toolButtonsKeepTheirPlaces()
         return rects;
     };
     const QList<QRect> before = places();
-    m_window->document().movePoint(line, 0, {48.1, 16.1});
+    m_window->document().movePoint(ChosenLine, 0, {48.1, 16.1});
     m_window->document().undoStack().undo();
     QTest::qWait(20);
     QCOMPARE(places(), before);

@@ -41,7 +41,7 @@ int differing(const QImage &one, const QImage &other)
 
 } // namespace
 
-class tst_StaticMapPicture : public QObject, private StaticMapScene {
+class TestStaticMapPicture : public QObject, private StaticMapScene {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -55,7 +55,7 @@ private Q_SLOTS:
     void largeMapsArePreparedInTheBackground();
 };
 
-void tst_StaticMapPicture::movedPictureLooksAsIfDrawnAnew_data()
+void TestStaticMapPicture::movedPictureLooksAsIfDrawnAnew_data()
 {
     QTest::addColumn<double>("metresPerPixel");
     QTest::addColumn<double>("rotation");
@@ -65,7 +65,7 @@ void tst_StaticMapPicture::movedPictureLooksAsIfDrawnAnew_data()
     QTest::newRow("far away") << 2000.0 << -70.0;
 }
 
-void tst_StaticMapPicture::movedPictureLooksAsIfDrawnAnew()
+void TestStaticMapPicture::movedPictureLooksAsIfDrawnAnew()
 {
     QFETCH(double, metresPerPixel);
     QFETCH(double, rotation);
@@ -115,7 +115,7 @@ void tst_StaticMapPicture::movedPictureLooksAsIfDrawnAnew()
 }
 
 // A picture of ten stripes, each as high as ten degrees of latitude.
-void tst_StaticMapPicture::imagesLieWhereTheirLatitudesAre()
+void TestStaticMapPicture::imagesLieWhereTheirLatitudesAre()
 {
     QImage stripes(4, 160, QImage::Format_RGB32);
     for (int y = 0; y < 160; ++y) {
@@ -135,7 +135,7 @@ void tst_StaticMapPicture::imagesLieWhereTheirLatitudesAre()
     QCOMPARE(painted({mapOf({images})}, {}, 100.0, {1.0, -175.0}).at(PaintedView::Middle).blue(), 255);
 }
 
-void tst_StaticMapPicture::smoothsImagesWhenConfigured()
+void TestStaticMapPicture::smoothsImagesWhenConfigured()
 {
     QImage twoColors(2, 1, QImage::Format_RGB32);
     twoColors.setPixelColor(0, 0, Red);
@@ -155,7 +155,7 @@ void tst_StaticMapPicture::smoothsImagesWhenConfigured()
 }
 
 // Painted by the layer and with a plain painter: no pixel of the one without one of the other nearby.
-void tst_StaticMapPicture::detailIsNotMissedAtAnyScale()
+void TestStaticMapPicture::detailIsNotMissedAtAnyScale()
 {
     QList<GeoCoordinate> shore = coast(4900, 0.01);
     shore << GeoCoordinate(10.0, 49.0) << GeoCoordinate(10.0, 0.0);
@@ -190,7 +190,7 @@ void tst_StaticMapPicture::detailIsNotMissedAtAnyScale()
 }
 
 // A continent and a line across the whole world, at a metre per pixel.
-void tst_StaticMapPicture::areasAndLinesAreSoundCloseUp()
+void TestStaticMapPicture::areasAndLinesAreSoundCloseUp()
 {
     const QList<GeoCoordinate> shore = {{60, -60}, {-50, -60}, {-50, 70}, {60, 70}};
     const auto seen = [&](const MapElementGroup &elements, const GeoCoordinate &center, double rotation) {
@@ -213,7 +213,7 @@ void tst_StaticMapPicture::areasAndLinesAreSoundCloseUp()
 }
 
 // The ground of the picture is black, as is what has no style.
-void tst_StaticMapPicture::whatHasNoStyleIsSeenOnAnyGround()
+void TestStaticMapPicture::whatHasNoStyleIsSeenOnAnyGround()
 {
     const GeoCoordinate place(48.0, 16.0);
     MapElementGroup symbols = group();
@@ -228,7 +228,7 @@ void tst_StaticMapPicture::whatHasNoStyleIsSeenOnAnyGround()
     QVERIFY2(!painted({mapOf({area})}, MapStyleSheet(), 200.0, place).inked(PaintedView::Middle), "it is black itself");
 }
 
-void tst_StaticMapPicture::largeMapsArePreparedInTheBackground()
+void TestStaticMapPicture::largeMapsArePreparedInTheBackground()
 {
     GeoStaticMap layer(&projector);
     layer.setStyleSheet(sheet({styleOf(Green)}));
@@ -249,5 +249,5 @@ void tst_StaticMapPicture::largeMapsArePreparedInTheBackground()
     layer.setMaps({large}); // and away while it is being prepared
 }
 
-VYX_TEST(tst_StaticMapPicture)
+VYX_TEST(TestStaticMapPicture)
 #include "tst_static_map_picture.moc"

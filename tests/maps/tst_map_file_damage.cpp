@@ -37,7 +37,7 @@ private:
 
 } // namespace
 
-class tst_MapFileDamage : public QObject {
+class TestMapFileDamage : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -208,5 +208,5 @@ private Q_SLOTS:
     }
 };
 
-VYX_TEST(tst_MapFileDamage)
+VYX_TEST(TestMapFileDamage)
 #include "tst_map_file_damage.moc"

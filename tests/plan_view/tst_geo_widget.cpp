@@ -12,7 +12,7 @@
 
 #include <cmath>
 
-class tst_GeoWidget : public QObject {
+class TestGeoWidget : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -71,7 +71,7 @@ using Pairs = QList<std::pair<double, double>>;
 } // namespace
 
 // A view of 400 by 300 pixels at 100 m a pixel round (50000, 20000).
-void tst_GeoWidget::init()
+void TestGeoWidget::init()
 {
     m_map = std::make_unique<GeoMapDisplay>(&m_projector);
     m_tracks = std::make_unique<GeoTrackDisplay>();
@@ -82,7 +82,7 @@ void tst_GeoWidget::init()
     m_widget->setView(50000.0, 20000.0, 100.0);
 }
 
-void tst_GeoWidget::cleanup()
+void TestGeoWidget::cleanup()
 {
     m_widget.reset();
     m_tracks.reset();
@@ -90,7 +90,7 @@ void tst_GeoWidget::cleanup()
 }
 
 // Tracks 1, 2, ... at these plane points, painted once so that the labels have their places.
-void tst_GeoWidget::showTracks(const QList<QPointF> &places)
+void TestGeoWidget::showTracks(const QList<QPointF> &places)
 {
     auto snapshot = QSharedPointer<DisplaySnapshot>::create();
     for (const QPointF &place : places) {
@@ -106,13 +106,13 @@ void tst_GeoWidget::showTracks(const QList<QPointF> &places)
     m_widget->grab();
 }
 
-void tst_GeoWidget::sendMouse(QEvent::Type type, const QPointF &place, Qt::MouseButton button, Qt::MouseButtons buttons)
+void TestGeoWidget::sendMouse(QEvent::Type type, const QPointF &place, Qt::MouseButton button, Qt::MouseButtons buttons)
 {
     QMouseEvent event(type, place, place, button, buttons, Qt::NoModifier);
     QCoreApplication::sendEvent(m_widget.get(), &event);
 }
 
-void tst_GeoWidget::setViewKeepsTheLimits()
+void TestGeoWidget::setViewKeepsTheLimits()
 {
     for (const auto &[wanted, zoom] : Pairs{{250.0, 250.0}, {0.1, 0.3}, {20000.0, 14000.0}}) {
         m_widget->rotate(33.0);
@@ -125,7 +125,7 @@ void tst_GeoWidget::setViewKeepsTheLimits()
     }
 }
 
-void tst_GeoWidget::zoomStepsMayPassALimitOnce()
+void TestGeoWidget::zoomStepsMayPassALimitOnce()
 {
     const auto zoomAfter = [this](void (GeoWidget::*step)(), double start) {
         // A whisker inside, so that rounding does not decide.
@@ -142,7 +142,7 @@ void tst_GeoWidget::zoomStepsMayPassALimitOnce()
     QCOMPARE(zoomAfter(&GeoWidget::zoomOut, 14000.0), "17500 17500 0");
 }
 
-void tst_GeoWidget::rotationIsNormalized()
+void TestGeoWidget::rotationIsNormalized()
 {
     for (const auto &[turn, rotation] : Pairs{{-10.0, -10.0}, {190.0, -170.0}, {-180.0, 180.0}, {725.0, 5.0}}) {
         m_widget->rotateNorthUp();
@@ -154,7 +154,7 @@ void tst_GeoWidget::rotationIsNormalized()
     }
 }
 
-void tst_GeoWidget::movesTheView()
+void TestGeoWidget::movesTheView()
 {
     using Move = void (GeoWidget::*)();
     const QList<std::pair<Move, QPointF>> moves{{&GeoWidget::moveLeft, QPointF(45000, 20000)},
@@ -180,7 +180,7 @@ void tst_GeoWidget::movesTheView()
     QVERIFY(near(atCentre(), QPointF(10123, 9544)));
 }
 
-void tst_GeoWidget::reportsWhatIsVisible()
+void TestGeoWidget::reportsWhatIsVisible()
 {
     QSignalSpy rects(m_widget.get(), &GeoWidget::viewRectChanged);
     m_widget->move(0, 0);
@@ -190,7 +190,7 @@ void tst_GeoWidget::reportsWhatIsVisible()
     QVERIFY(near(m_widget->screenTransform().map(QPointF(50000, 25000)), QPointF(250, 150)));
 }
 
-void tst_GeoWidget::wheelZoomsAboutThePointer()
+void TestGeoWidget::wheelZoomsAboutThePointer()
 {
     struct Turn {
         QPoint delta;
@@ -216,7 +216,7 @@ void tst_GeoWidget::wheelZoomsAboutThePointer()
     }
 }
 
-void tst_GeoWidget::rightDragPans()
+void TestGeoWidget::rightDragPans()
 {
     QSignalSpy rects(m_widget.get(), &GeoWidget::viewRectChanged);
     QSignalSpy cursors(m_widget.get(), &GeoWidget::cursorMoved);
@@ -230,7 +230,7 @@ void tst_GeoWidget::rightDragPans()
 }
 
 // The release went to a dialog that came up during the drag.
-void tst_GeoWidget::aDragEndsWhenTheButtonIsUp()
+void TestGeoWidget::aDragEndsWhenTheButtonIsUp()
 {
     showTracks({QPointF(50000, 20000)});
     const QPointF label(200 + m_tracks->labelOffsetX() + 5, 150 - m_tracks->labelOffsetY() + 5);
@@ -246,7 +246,7 @@ void tst_GeoWidget::aDragEndsWhenTheButtonIsUp()
     }
 }
 
-void tst_GeoWidget::rightDragMovesALabel()
+void TestGeoWidget::rightDragMovesALabel()
 {
     showTracks({QPointF(50000, 20000), QPointF(40000, 10000)});
     m_tracks->setLabelOffset(30, 40);
@@ -264,7 +264,7 @@ void tst_GeoWidget::rightDragMovesALabel()
     QCOMPARE(m_widget->screenTransform(), before);
 }
 
-void tst_GeoWidget::labelDragEndsWithItsTrack()
+void TestGeoWidget::labelDragEndsWithItsTrack()
 {
     showTracks({QPointF(50000, 20000)});
     const QTransform before = m_widget->screenTransform();
@@ -278,7 +278,7 @@ void tst_GeoWidget::labelDragEndsWithItsTrack()
     QCOMPARE(m_widget->screenTransform(), before);
 }
 
-void tst_GeoWidget::leftClickSelects()
+void TestGeoWidget::leftClickSelects()
 {
     showTracks({QPointF(40000, 20000), QPointF(50000, 20000)});
     QSignalSpy selected(m_widget.get(), &GeoWidget::trackSelected);
@@ -297,7 +297,7 @@ void tst_GeoWidget::leftClickSelects()
     QCOMPARE(selected.last().first().toULongLong(), 0ull);
 }
 
-void tst_GeoWidget::placesRangeRings()
+void TestGeoWidget::placesRangeRings()
 {
     showTracks({QPointF(50000, 20000)});
     GeoRangeRingMap *rings = m_map->rangeRingMap();
@@ -315,7 +315,7 @@ void tst_GeoWidget::placesRangeRings()
     QCOMPARE(placed.size(), 1);
 }
 
-void tst_GeoWidget::aToolRestsWhileTheRingsArePlaced()
+void TestGeoWidget::aToolRestsWhileTheRingsArePlaced()
 {
     CountingTool tool;
     m_widget->setPointerTool(&tool);
@@ -331,7 +331,7 @@ void tst_GeoWidget::aToolRestsWhileTheRingsArePlaced()
     QCOMPARE(tool.events, 2);
 }
 
-void tst_GeoWidget::followsTheSelectedTrack()
+void TestGeoWidget::followsTheSelectedTrack()
 {
     showTracks({QPointF(50000, 20000)});
     m_tracks->setSelected(1);
@@ -349,7 +349,7 @@ void tst_GeoWidget::followsTheSelectedTrack()
     QCOMPARE(m_widget->screenTransform(), left);
 }
 
-void tst_GeoWidget::paintsMapBelowTracks()
+void TestGeoWidget::paintsMapBelowTracks()
 {
     m_map->setBackgroundColor(QColor(1, 2, 3));
     m_tracks->setSymbolColor(Qt::red);
@@ -361,5 +361,5 @@ void tst_GeoWidget::paintsMapBelowTracks()
     QCOMPARE(image.pixelColor(200, 150), QColor(Qt::red));
 }
 
-VYX_TEST(tst_GeoWidget)
+VYX_TEST(TestGeoWidget)
 #include "tst_geo_widget.moc"

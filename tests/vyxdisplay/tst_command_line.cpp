@@ -27,7 +27,7 @@ CommandLine parsed(const QStringList &arguments)
 
 } // namespace
 
-class tst_CommandLine : public QObject {
+class TestCommandLine : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -225,5 +225,5 @@ private Q_SLOTS:
     }
 };
 
-VYX_TEST(tst_CommandLine)
+VYX_TEST(TestCommandLine)
 #include "tst_command_line.moc"

@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr auto sensorAnswer = R"(if [ "$2" = --sensor-json ]; then
+constexpr auto SensorAnswer = R"(if [ "$2" = --sensor-json ]; then
   echo '{"type":"radar","name":"SHOW","sac":1,"sic":2,"location":"480000.00N0160000.00E"}'
   exit 0
 fi
@@ -100,7 +100,7 @@ void TestRunEnds::demoEndIsReported()
     for (const auto &[ending, level] : endings) {
         QFile arguments(m_directory.filePath("arguments"));
         DemoTraffic demo("a scenario.json",
-            script(QString(sensorAnswer) + "echo \"$@\" > '" + arguments.fileName() + "'\n" + ending));
+            script(QString(SensorAnswer) + "echo \"$@\" > '" + arguments.fileName() + "'\n" + ending));
         QString reason;
         QVERIFY2(demo.prepare(&reason), qPrintable(reason));
         Config config;
@@ -122,7 +122,7 @@ void TestRunEnds::demoTrafficEndsWithTheTerminal()
 {
     const QString pidFile = m_directory.filePath("pid");
     auto demo = std::make_unique<DemoTraffic>(
-        QString(), script(QString(sensorAnswer) + "echo $$ > '" + pidFile + "'\nexec sleep 60"));
+        QString(), script(QString(SensorAnswer) + "echo $$ > '" + pidFile + "'\nexec sleep 60"));
     QString reason;
     QVERIFY2(demo->prepare(&reason), qPrintable(reason));
     demo->start();
