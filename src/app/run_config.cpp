@@ -4,6 +4,21 @@
 
 #include <QDir>
 
+#include <utility>
+
+namespace {
+
+void copyGroups(const Config &from, Config &to, SettingGroups groups)
+{
+    for (const Setting &setting : Setting::all()) {
+        if (setting.groups() & groups) {
+            setting.copy(from, to);
+        }
+    }
+}
+
+} // namespace
+
 RunConfig::RunConfig(const QString &fileName, std::chrono::milliseconds writeDelay, QObject *parent)
     : QObject(parent), m_fileName(fileName)
 {
@@ -24,14 +39,33 @@ void RunConfig::overrideWith(const std::function<void(Config &)> &change)
     change(m_live);
 }
 
+SettingGroups RunConfig::setAside(const Config &proposed, SettingGroups groups)
+{
+    const Config before = m_live;
+    if (!m_aside) {
+        m_aside = m_live;
+    }
+    copyGroups(proposed, m_live, groups);
+    return Config::changedGroups(before, m_live);
+}
+
+SettingGroups RunConfig::bringBack()
+{
+    if (!m_aside) {
+        return {};
+    }
+    const Config before = std::exchange(m_live, *m_aside);
+    m_aside.reset();
+    return Config::changedGroups(before, m_live);
+}
+
 void RunConfig::apply(const Config &edited)
 {
     const SettingGroups kept = RunGroups & ~Config::changedGroups(m_live, edited);
     Config stored = edited;
-    for (const Setting &setting : Setting::all()) {
-        if (setting.groups() & kept) {
-            setting.copy(m_stored, stored);
-        }
+    copyGroups(m_stored, stored, kept);
+    if (m_aside) {
+        copyGroups(edited, *m_aside, Config::changedGroups(m_live, edited));
     }
     m_live = edited;
     if (!Config::changedGroups(m_stored, stored)) {

@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 // The settings of this run, and the settings file behind them. What the command line sets holds for this run alone: the
 // file keeps the user's own values of input, processor and sensor, each as a group, until he changes one of the group.
@@ -26,6 +27,14 @@ public:
     // For this run only, to settings of inputs, processor and sensor.
     void overrideWith(const std::function<void(Config &)> &change);
 
+    // Takes over the values of these groups for as long as a recording is played. The groups that changed.
+    SettingGroups setAside(const Config &proposed, SettingGroups groups);
+    // Back to what was in force before the first recording, but for groups that the user has edited since. The groups
+    // that changed.
+    SettingGroups bringBack();
+    // What is in force while no recording is played.
+    const Config &own() const { return m_aside ? *m_aside : m_live; }
+
     // Takes over settings that the user edited, beginning from live(). A group that he edited is stored as he saw it:
     // the run's own values go with his, so that the file never mixes two inputs or two sensors.
     void apply(const Config &edited);
@@ -42,6 +51,7 @@ private:
     QString m_fileName;
     Config m_stored; // as in the file, or to be
     Config m_live;
+    std::optional<Config> m_aside; // m_live before the first recording
     bool m_waiting = false;
     QTimer m_writeTimer;
 };

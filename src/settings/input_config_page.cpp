@@ -15,9 +15,6 @@ using korvane::astfile::RecFile;
 
 namespace {
 
-const QList<RecFile::Format> PlayableFormats{
-    RecFile::Pcap, RecFile::PcapNg, RecFile::RawAsterix, RecFile::FinalFormat, RecFile::Gps, RecFile::ModeS};
-
 // Why a file cannot be played; empty when it can.
 QString playingProblem(const QFileInfo &file)
 {
@@ -30,10 +27,9 @@ QString playingProblem(const QFileInfo &file)
     if (!file.isFile() || !file.isReadable()) {
         return InputConfigPage::tr("This file cannot be read.");
     }
-    if (!PlayableFormats.contains(RecFile::formatFromFileName(file.fileName()))) {
-        return InputConfigPage::tr("This is no recording: its name has none of the endings of recording files.");
-    }
-    return {};
+    QString reason;
+    RecFile::formatOfFile(file.filePath(), &reason);
+    return reason;
 }
 
 } // namespace
@@ -114,7 +110,7 @@ void InputConfigPage::addSerialRows()
 
 void InputConfigPage::addFileRows()
 {
-    m_file = new FileEdit(tr("Recording File"), RecFile::formatNameFilter(PlayableFormats));
+    m_file = new FileEdit(tr("Recording File"), RecFile::formatNameFilter(RecFile::formats()));
     form()->addField(tr("&File:"), m_file);
     bind<QFileInfo>(
         m_file, &Config::inputFileName, [this](const QFileInfo &file) { m_file->setPath(file.filePath()); },

@@ -1,12 +1,9 @@
 #include "ui/input_session.h"
 
 #include "app/run_config.h"
-#include "astfile/rec_file.h"
 #include "engine/engine_host.h"
 
 #include <utility>
-
-using korvane::astfile::RecFile;
 
 InputSession::InputSession(RunConfig *config, EngineHost *host) : m_config(config), m_host(host) { }
 
@@ -161,16 +158,7 @@ bool InputSession::shutDown()
 
 void InputSession::play(const QString &fileName)
 {
-    const QFileInfo file(fileName);
-    if (RecFile::formatFromFileName(file.fileName()) == RecFile::Unknown) {
-        Q_EMIT logMessage(LogLevel::Critical, tr("Recording file format is not supported."));
-        return;
-    }
-    if (!file.isReadable()) {
-        Q_EMIT logMessage(LogLevel::Warning, tr("Failed to open recording file: %1").arg(fileName));
-        return;
-    }
-    chooseRecording(file);
+    chooseRecording(QFileInfo(fileName));
     restart({});
 }
 
@@ -203,8 +191,10 @@ void InputSession::returnToLiveInput()
     if (!m_liveInput) {
         return;
     }
+    const SettingGroups changed = m_config->bringBack();
     m_config->overrideWith([this](Config &config) { config.inputComm = *m_liveInput; });
     m_liveInput.reset();
+    Q_EMIT settingsBroughtBack(changed);
     restart({});
 }
 

@@ -54,7 +54,7 @@ public Q_SLOTS:
     void close();
     void pause(bool paused);
 
-    // Plays a recording from its beginning, in place of the input that is open. A file of no known format is refused.
+    // Plays a recording from its beginning, in place of the input that is open.
     void play(const QString &fileName);
     // Makes the recording the input of this run.
     void chooseRecording(const QFileInfo &file);
@@ -77,6 +77,8 @@ Q_SIGNALS:
     // State, pause, replay speed, or which input it is.
     void changed();
     void recordingChosen(const QFileInfo &file);
+    // Settings of these groups are those of the live input again, which is opened next.
+    void settingsBroughtBack(SettingGroups changed);
     // A request goes out: what the last input left behind is of no use now.
     void openingBegun();
     void opened();

@@ -76,6 +76,7 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     routeLibraryLogs();
     connectEngine();
     connectSession();
+    connectRecordings();
     connectDisplay();
     connectInputActions();
     connectViewActions();
@@ -173,7 +174,7 @@ void MainWindow::makeParts()
     m_home = std::make_unique<HomeView>(m_geoWidget, &m_host.shared().projector, &m_config.live());
     m_layoutMenu = std::make_unique<LayoutMenu>(this, m_actions, m_geoWidget);
     m_mapWindows = std::make_unique<MapWindows>(this, m_actions, m_geoWidget, &m_host.shared().projector);
-    m_replay = std::make_unique<ReplayControls>(this, m_actions, &m_config, &m_host, m_session.get());
+    m_replay = std::make_unique<ReplayControls>(this, m_actions, &m_config, m_sensors.get(), &m_host, m_session.get());
 }
 
 void MainWindow::routeLibraryLogs()
@@ -217,6 +218,15 @@ void MainWindow::connectSession()
     connect(session, &InputSession::closed, m_lists.get(), &ListPanes::refresh);
     connect(session, &InputSession::closed, this, &MainWindow::inputClosed);
     connect(session, &InputSession::shutDownDone, this, &MainWindow::continueShutdown);
+}
+
+void MainWindow::connectRecordings()
+{
+    const RecordingOpener *opener = m_replay->opener();
+    connect(opener, &RecordingOpener::logMessage, this, &MainWindow::showLog);
+    connect(opener, &RecordingOpener::settingsProposed, this, &MainWindow::takeRunSettings);
+    connect(opener, &RecordingOpener::refused, this, &MainWindow::refuseRecording);
+    connect(m_session.get(), &InputSession::settingsBroughtBack, this, &MainWindow::takeRunSettings);
 }
 
 void MainWindow::connectDisplay()
@@ -362,6 +372,15 @@ void MainWindow::applySensor()
     m_mapDisplay->setSensor(m_session->sensor());
     beginRadarPicture();
     updateNotices();
+}
+
+void MainWindow::takeRunSettings(SettingGroups changed)
+{
+    applyConfig(changed);
+    if (changed & SettingGroup::Sensor) {
+        applySensor();
+        showSensorPlace();
+    }
 }
 
 void MainWindow::placeDefaultLayout()

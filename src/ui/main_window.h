@@ -26,6 +26,7 @@ class ListPanes;
 class LogPane;
 class MapWindows;
 class RangeRingWindow;
+class RecordingOpener;
 class ReplayControls;
 class ScopeNotice;
 class SensorManager;
@@ -63,6 +64,7 @@ public:
     QSharedPointer<const DisplaySnapshot> newestSnapshot() const;
     GeoWidget *geoWidget() const { return m_geoWidget; }
     const EngineHost &engineHost() const { return m_host; }
+    RecordingOpener *recordingOpener() const;
 
     // Replaces the question whether to exit while an input is open; true exits.
     void setExitQuestion(std::function<bool()> question) { m_exitQuestion = std::move(question); }
@@ -86,7 +88,7 @@ public Q_SLOTS:
     void onEngineInputOpenFailed(unsigned long long requestId);
     void onEngineInputClosed(unsigned long long requestId);
 
-    // Recordings: see InputSession and ReplayControls.
+    // Recordings: see RecordingOpener, InputSession and ReplayControls.
     void openRecordingFile();
     void playRecording(const QString &fileName);
     void setReplaySpeed(ReplaySpeed::Speed speed);
@@ -178,6 +180,7 @@ private:
     void routeLibraryLogs();
     void connectEngine();
     void connectSession();
+    void connectRecordings();
     void connectDisplay();
     void connectInputActions();
     void connectViewActions();
@@ -196,6 +199,10 @@ private:
     void beginRadarPicture();
     // Where a sensor stands that has been chosen: layouts were made for another place.
     void showSensorPlace();
+    // After a recording has set some, or given them back.
+    void takeRunSettings(SettingGroups changed);
+    // Says why, and shows the picture as before.
+    void refuseRecording(const QString &reason);
     // From the settings window.
     void takeSettings(const Config &edited);
     void editConfig(const std::function<void(Config &)> &change);

@@ -1,6 +1,5 @@
 // What can be asked of the window, handed on to the part that does it, and what the window shows of the session.
 
-#include "astfile/rec_file.h"
 #include "plan_view/geo_widget.h"
 #include "ui/actions.h"
 #include "ui/home_view.h"
@@ -24,13 +23,14 @@
 
 namespace {
 
-// The one local file that is being dragged, if it is a recording; else empty.
-QString draggedRecording(const QMimeData *data)
+constexpr int RefusalShownMs = 10000; // over a picture that goes on
+
+// The one local file that is being dragged; else empty. Whether it is a recording, its contents tell.
+QString draggedFile(const QMimeData *data)
 {
-    using korvane::astfile::RecFile;
     const QList<QUrl> urls = data->urls();
     const QString file = urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
-    return RecFile::formatFromFileName(file) != RecFile::Unknown ? file : QString();
+    return QFileInfo(file).isFile() ? file : QString();
 }
 
 } // namespace
@@ -44,7 +44,13 @@ bool MainWindow::inputOpen() const
 
 void MainWindow::openInput()
 {
-    m_session->open();
+    // A recording brings the sensor that nobody has configured.
+    const bool tellsItsSensor = m_session->replaying() && !m_session->sensor();
+    if (tellsItsSensor && m_session->state() == InputSession::State::Closed) {
+        playRecording(config().inputFileName.filePath());
+    } else {
+        m_session->open();
+    }
 }
 
 void MainWindow::pauseInput(bool paused)
@@ -120,7 +126,21 @@ void MainWindow::openRecordingFile()
 
 void MainWindow::playRecording(const QString &fileName)
 {
-    m_session->play(fileName);
+    m_replay->opener()->open(fileName);
+}
+
+RecordingOpener *MainWindow::recordingOpener() const
+{
+    return m_replay->opener();
+}
+
+void MainWindow::refuseRecording(const QString &reason)
+{
+    m_scopeNotice->showText(reason);
+    if (m_session->state() != InputSession::State::Closed) {
+        QTimer::singleShot(RefusalShownMs, this, &MainWindow::updateNotices);
+    }
+    Q_EMIT inputFailed(reason);
 }
 
 void MainWindow::setReplaySpeed(ReplaySpeed::Speed speed)
@@ -160,14 +180,14 @@ void MainWindow::onEngineReplayProgress(const QDateTime &time)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!draggedRecording(event->mimeData()).isEmpty()) {
+    if (!draggedFile(event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }
 
 void MainWindow::dropEvent(QDropEvent *event)
 {
-    const QString file = draggedRecording(event->mimeData());
+    const QString file = draggedFile(event->mimeData());
     if (!file.isEmpty()) {
         event->acceptProposedAction();
         playRecording(file);

@@ -12,6 +12,7 @@
 #include "ui/list_panes.h"
 #include "ui/main_window.h"
 #include "ui/map_windows.h"
+#include "ui/replay_controls.h"
 #include "ui/snapshot_pump.h"
 
 #include <QAction>
@@ -137,6 +138,7 @@ void MainWindow::beginShutdown()
     saveUiState();
     m_config.flush();
     m_shutdown = Shutdown::Begun;
+    m_replay->opener()->cancel();
     m_pump->stop();
     if (!m_session->shutDown()) {
         QTimer::singleShot(0, this, &MainWindow::continueShutdown);

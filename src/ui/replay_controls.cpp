@@ -17,17 +17,10 @@
 using korvane::astfile::RecFile;
 using korvane::astfile::RecordingIndex;
 
-namespace {
-
-const QList<RecFile::Format> PlayableFormats = {
-    RecFile::Pcap, RecFile::PcapNg, RecFile::RawAsterix, RecFile::FinalFormat, RecFile::Gps, RecFile::ModeS};
-
-} // namespace
-
-ReplayControls::ReplayControls(
-    QWidget *window, Actions *actions, const RunConfig *config, EngineHost *host, InputSession *session)
+ReplayControls::ReplayControls(QWidget *window, Actions *actions, RunConfig *config, const SensorManager *sensors,
+    EngineHost *host, InputSession *session)
     : m_window(window), m_actions(actions), m_config(config), m_host(host), m_session(session),
-      m_replayWindow(new ReplayWindow(window))
+      m_replayWindow(new ReplayWindow(window)), m_opener(window, config, sensors, session, this)
 {
     initSpeedMenu();
     connectActions();
@@ -99,10 +92,11 @@ void ReplayControls::changeSpeed(QAction *action)
 
 void ReplayControls::openRecordingFile()
 {
-    const QString chosen = QFileDialog::getOpenFileName(m_window, tr("Open Recording"),
-        m_config->live().inputFileName.path(), RecFile::formatNameFilter(PlayableFormats));
+    const QString chosen =
+        QFileDialog::getOpenFileName(m_window, tr("Open Recording"), m_config->live().inputFileName.path(),
+            RecFile::formatNameFilter(RecFile::formats()) + ";;" + tr("All files (*)"));
     if (!chosen.isEmpty()) {
-        m_session->play(chosen);
+        m_opener.open(chosen);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/recording_scan.h"
+#include "ui/recording_opener.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -13,6 +14,7 @@ class QAction;
 class QWidget;
 class ReplayWindow;
 class RunConfig;
+class SensorManager;
 
 // What the operator handles recordings with: the playback window, the speed menu, the choice of a file, and the action
 // that records the live input. GUI thread.
@@ -21,7 +23,10 @@ class ReplayControls final : public QObject {
 
 public:
     // All must outlive this object. The window is the parent of the playback window and of dialogs.
-    ReplayControls(QWidget *window, Actions *actions, const RunConfig *config, EngineHost *host, InputSession *session);
+    ReplayControls(QWidget *window, Actions *actions, RunConfig *config, const SensorManager *sensors, EngineHost *host,
+        InputSession *session);
+
+    RecordingOpener *opener() { return &m_opener; }
 
 public Q_SLOTS:
     // Asks for a recording and plays it.
@@ -50,6 +55,7 @@ private:
     EngineHost *m_host;
     InputSession *m_session;
     ReplayWindow *m_replayWindow; // the window's
+    RecordingOpener m_opener;
     RecordingScan m_scan;
     QFileInfo m_scannedFile;
 };

@@ -72,6 +72,8 @@ public:
         while (m_error.isEmpty() && !m_arguments.isEmpty()) {
             takeOption(m_arguments.takeFirst());
         }
+        // A recording that is named by itself tells what it is.
+        m_result.sensorAuto = m_result.sensorAuto || (m_recordingAlone && !m_result.sensor);
         const bool own = m_result.input || m_result.sensor || m_result.sensorAuto || m_result.processor;
         if (m_error.isEmpty() && m_result.demo && own) {
             m_error = CommandLine::tr("--demo brings an input, a processor and a sensor of its own");
@@ -104,6 +106,7 @@ private:
     {
         m_result.input = fileInput(path, &m_error);
         m_result.start = true;
+        m_recordingAlone = true;
     }
 
     bool takeSwitch()
@@ -204,6 +207,7 @@ private:
     QString m_option; // the one being read
     std::optional<QString> m_inlineValue;
     CommandLine m_result;
+    bool m_recordingAlone = false; // without an option before it
     QString m_error;
 };
 
@@ -245,7 +249,8 @@ QString CommandLine::helpText()
               "                          cat021-0.26, cat021-2.1, cat021-2.7 or thales\n"
               "  --ignore-cartesian    place MLAT and SDPS tracks by their WGS-84 positions\n"
               "  --ignore-wgs84        place MLAT and SDPS tracks by their Cartesian positions\n"
-              "  RECORDING             play that file, as --input file:RECORDING --start\n"
+              "  RECORDING             play that file as what it holds, as\n"
+              "                        --input file:RECORDING --sensor auto --start\n"
               "  --replay-speed SPEED  of recordings: 0.5x, 1x, 2x, 4x, 8x or Max\n"
               "  --start               open the input at once\n"
               "  --exit-at-end         exit when the input has ended, as recordings do; status 1\n"

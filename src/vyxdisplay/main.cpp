@@ -5,6 +5,7 @@
 #include "app/crash_handler.h"
 #include "engine/replay_speed.h"
 #include "ui/main_window.h"
+#include "ui/recording_opener.h"
 #include "vyxdisplay/command_line.h"
 #include "vyxdisplay/demo_traffic.h"
 #include "vyxdisplay/exit_report.h"
@@ -71,6 +72,28 @@ void showSplash(QSplashScreen &splash)
     QApplication::processEvents();
 }
 
+// What the command line names holds for every recording of this run.
+void setUpRecordings(const CommandLine &commandLine, MainWindow &window)
+{
+    window.recordingOpener()->setNamed([commandLine](Config &config) { commandLine.applyTo(config); });
+    if (commandLine.exitAtEnd || commandLine.exitAfter) {
+        window.recordingOpener()->setSiteQuestion({}); // such runs have no operator
+    }
+    if (commandLine.sensorAuto && window.config().inputComm != Config::InputComm::File) {
+        window.showLog(LogLevel::Warning,
+            MainWindow::tr("--sensor auto is for recordings; the live input is shown with the configured sensor."));
+    }
+}
+
+void openInput(const CommandLine &commandLine, MainWindow &window)
+{
+    if (commandLine.sensorAuto && window.config().inputComm == Config::InputComm::File) {
+        window.playRecording(window.config().inputFileName.filePath());
+    } else {
+        window.openInput();
+    }
+}
+
 // From the main window's construction to the end of the event loop.
 int runWindow(const CommandLine &commandLine, DemoTraffic *demo, QSplashScreen &splash, const QElapsedTimer &clock)
 {
@@ -106,8 +129,9 @@ int runWindow(const CommandLine &commandLine, DemoTraffic *demo, QSplashScreen &
             window.setReplaySpeed(speed);
         }
     }
+    setUpRecordings(commandLine, window);
     if (demo || commandLine.start) {
-        window.openInput();
+        openInput(commandLine, window);
     }
     if (commandLine.exitAfter) {
         QTimer::singleShot(*commandLine.exitAfter, &window, &MainWindow::requestExit);

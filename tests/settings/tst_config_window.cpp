@@ -1,3 +1,4 @@
+#include "astfile/rec_file.h"
 #include "sensors/radar_sensor_info.h"
 #include "sensors/sensor_manager.h"
 #include "settings/config_page.h"
@@ -337,8 +338,9 @@ void TestConfigWindow::refusesInWords_data()
         "Enter a rate in bits per second.");
     row("no recording", {{"inputComm", "Recording File"}}, "Choose a recording file.");
     row("no file", {{"inputComm", "Recording File"}, {"inputFileName", "/no/such.pcap"}}, "This file does not exist.");
-    row("no recording by its name", {{"inputComm", "Recording File"}, {"inputFileName", "/etc/passwd"}},
-        "This is no recording: its name has none of the endings of recording files.");
+    QString reason;
+    QCOMPARE(korvane::astfile::RecFile::formatOfFile("/etc/passwd", &reason), korvane::astfile::RecFile::Unknown);
+    row("no recording by its contents", {{"inputComm", "Recording File"}, {"inputFileName", "/etc/passwd"}}, reason);
     row("sensor without a name", {{"sensorType", "Radar"}, {"sensorLocation", "401020N0203040E"}},
         "A sensor needs a name.");
 }

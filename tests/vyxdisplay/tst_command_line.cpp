@@ -135,6 +135,9 @@ private Q_SLOTS:
         QVERIFY(replay.start && replay.exitAtEnd);
         QCOMPARE(replay.replaySpeed, QStringLiteral("Max"));
         QCOMPARE(replay.input.value_or(CommandLine::Input()).path, QStringLiteral("a.pcap"));
+        QVERIFY(replay.sensorAuto);
+        QVERIFY(!parsed({"a.pcap", "--sensor", "radar:48,16"}).sensorAuto);
+        QVERIFY(!parsed({"--input", "file:a.pcap"}).sensorAuto);
     }
 
     void demoTakesNoOptionForItsScenario()

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void everyKeyOfTheCommandLineIsProtected();
     void editedGroupIsStoredWhole_data();
     void editedGroupIsStoredWhole();
+    void recordingsSettingsAreGivenBack();
     void writesOnceAndLater();
     void saysThatTheFileCannotBeWritten();
 
@@ -126,6 +127,31 @@ void TestRunConfig::editedGroupIsStoredWhole()
     run.edit(edit);
     QVERIFY(run.flush());
     QCOMPARE(Config::changedGroups(stored(), run.live()), overridden & ~groups);
+}
+
+// The operator's own changes of other groups, and of a group that a recording has set, are kept.
+void TestRunConfig::recordingsSettingsAreGivenBack()
+{
+    RunConfig run(file());
+    Config proposed = run.live();
+    proposed.sensorName = "RECORDED";
+    proposed.processorAsterixUap = 3;
+    proposed.inputUdpPort1 = 1;
+    for (int recording = 0; recording < 2; ++recording) {
+        run.setAside(proposed, SettingGroup::Processor | SettingGroup::Sensor);
+        QCOMPARE(run.live().sensorName, "RECORDED");
+        QCOMPARE(run.live().inputUdpPort1, 4000);
+        QCOMPARE(run.own().sensorName, "HOME");
+    }
+    run.edit([](Config &config) { config.processorAsterixUap = 2; });
+    run.edit([](Config &config) { config.mapRangeRingNumber = 9; });
+    QCOMPARE(run.bringBack(), SettingGroups(SettingGroup::Sensor));
+    QCOMPARE(run.live().sensorName, "HOME");
+    QCOMPARE(run.live().processorAsterixUap, 2);
+    QCOMPARE(run.live().mapRangeRingNumber, 9);
+    QVERIFY(run.flush());
+    QCOMPARE(stored().sensorName, "HOME");
+    QVERIFY(!run.bringBack());
 }
 
 void TestRunConfig::writesOnceAndLater()

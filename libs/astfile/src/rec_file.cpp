@@ -63,6 +63,15 @@ QString filterEntry(const QString &name, const QStringList &patterns)
 
 } // namespace
 
+QList<RecFile::Format> RecFile::formats()
+{
+    QList<Format> all;
+    for (const FormatRow &row : Formats) {
+        all += row.format;
+    }
+    return all;
+}
+
 RecFile::Format RecFile::formatFromFileName(const QString &fileName)
 {
     const bool packed = fileName.endsWith(CompressedSuffix, Qt::CaseInsensitive);

@@ -21,6 +21,9 @@ public:
         ModeS = 6, // Mode S frames as receivers hand them out, binary or text
     };
 
+    // All but Unknown.
+    static QList<Format> formats();
+
     // By the suffix of the name, in upper or lower case, with or without ".gz" behind it; the file itself is not looked
     // at. Unknown for any other suffix.
     static Format formatFromFileName(const QString &fileName);
