@@ -25,8 +25,7 @@ TrackSymbols::TrackSymbols(int size, const QColor &color)
 
 TrackSymbols::Symbol TrackSymbols::forTrackType(Track::Type type)
 {
-    static constexpr Symbol Symbols[] = {
-        Unknown, Psr, Ssr, PsrSsr, ModeS, PsrModeS, Adsb, Mlat, Smr, Unknown, Unknown};
+    static constexpr Symbol Symbols[] = {Unknown, Psr, Ssr, PsrSsr, ModeS, PsrModeS, Adsb, Mlat, Smr, Unknown, Unknown};
     return Symbols[type];
 }
 
