@@ -64,7 +64,7 @@ private Q_SLOTS:
         QCOMPARE(questions, 1);
         QCOMPARE(m_window->config().sensorLocation, GeoCoordinate(47.0, 11.0));
         QCOMPARE(m_window->newestSnapshot()->tracks.size(), 1);
-        QCOMPARE(int(m_window->newestSnapshot()->tracks.constFirst().geoCoordinate.latitude()), 47);
+        QCOMPARE(qRound(m_window->newestSnapshot()->tracks.constFirst().geoCoordinate.latitude()), 47);
     }
 
     void noAnswerOpensNothing()
