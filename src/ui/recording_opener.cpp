@@ -3,8 +3,8 @@
 #include "app/run_config.h"
 #include "engine/input_proposal.h"
 #include "sensors/radar_sensor_info.h"
+#include "settings/sensor_site_window.h"
 #include "ui/input_session.h"
-#include "ui/sensor_site_window.h"
 
 #include <QFileInfo>
 #include <QProgressDialog>

@@ -1,10 +1,10 @@
 #include "astfile/pcap_writer.h"
 #include "engine/input_proposal.h"
+#include "settings/sensor_site_window.h"
 #include "test_program.h"
 #include "ui/recording_opener.h"
 #include "ui/replay_window.h"
 #include "ui/scope_notice.h"
-#include "ui/sensor_site_window.h"
 #include "widgets/coordinate_edit.h"
 #include "window_fixture.h"
 

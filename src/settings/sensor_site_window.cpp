@@ -1,4 +1,4 @@
-#include "ui/sensor_site_window.h"
+#include "settings/sensor_site_window.h"
 
 #include "widgets/coordinate_edit.h"
 #include "widgets/dialog_layout.h"
