@@ -478,8 +478,8 @@ void TestMapEditorWindow::changesMadeWhileAMapIsReadAreAskedAbout()
         }
         answer(button);
         QTRY_VERIFY(!m_asked.isEmpty());
-        QCOMPARE(m_window->document().path(), m_dir->filePath("m.xml"));
-        if (button == QMessageBox::Cancel) {
+        if (button == QMessageBox::Cancel) { // else the other map may be there at once
+            QCOMPARE(m_window->document().path(), m_dir->filePath("m.xml"));
             m_window->document().undoStack().undo();
         }
     }
