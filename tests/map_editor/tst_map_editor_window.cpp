@@ -1,38 +1,26 @@
-#include "busy_workers.h"
-#include "display/geo_map_display.h"
-#include "geo/mercator_projector.h"
+#include "map_editor_fixture.h"
+
 #include "map_editor/map_editor_element_pane.h"
 #include "map_editor/map_editor_point_pane.h"
 #include "map_editor/map_editor_style_pane.h"
 #include "map_editor/map_editor_tree_pane.h"
-#include "map_editor/map_editor_window.h"
-#include "plan_view/geo_widget.h"
 #include "test_program.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QFile>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QMouseEvent>
-#include <QSignalSpy>
 #include <QSpinBox>
 #include <QStandardPaths>
 #include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeView>
 
-class TestMapEditorWindow : public QObject {
+class TestMapEditorWindow : public QObject, private MapEditorFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
 
     void dragsAPoint();
     void escapeBringsADraggedPointBack();
@@ -48,42 +36,10 @@ private Q_SLOTS:
     void changesWhatIsSelected();
     void previewsStyles();
     void stepsOfABoxAreUndoneTogether();
-    void closingWithChangesAsks_data();
-    void closingWithChangesAsks();
-    void closingWaitsForWhatIsBeingSaved();
-    void changesMadeWhileAMapIsReadAreAskedAbout();
-    void cancelledFileWorkChangesNothing();
-    void failuresNameFileAndReason();
     void toolButtonsKeepTheirPlaces();
-
-private:
-    void answer(QMessageBox::StandardButton button);
-    bool saved(const QString &path);
-    MapData written() const;
-    void mouse(QEvent::Type type, const QPointF &place, Qt::MouseButtons held = Qt::NoButton);
-    void click(const QPointF &place);
-    QPointF pixelOf(qsizetype point) const;
-    GeoCoordinate placeOf(const QPointF &pixel) const;
-    MapEditorStore &store() { return m_window->document().store(); }
-    const QList<GeoCoordinate> &linePoints() { return store().map().groups[0].polylines[0].points; }
-    template <typename Widget>
-    Widget *find(const char *name) const
-    {
-        return m_window->findChild<Widget *>(QString::fromLatin1(name));
-    }
-
-    std::unique_ptr<QTemporaryDir> m_dir;
-    MercatorProjector m_projector;
-    std::unique_ptr<GeoMapDisplay> m_map;
-    std::unique_ptr<GeoWidget> m_plan;
-    std::unique_ptr<MapEditorWindow> m_window;
-    QString m_asked; // texts of the last message box
 };
 
 namespace {
-
-constexpr MapElementRef ChosenLine{0, MapElementKind::Polyline, 0};
-constexpr MapElementRef FixSymbol{0, MapElementKind::Symbol, 0};
 
 bool near(const GeoCoordinate &one, const GeoCoordinate &other)
 {
@@ -91,104 +47,6 @@ bool near(const GeoCoordinate &one, const GeoCoordinate &other)
 }
 
 } // namespace
-
-void TestMapEditorWindow::initTestCase()
-{
-    QStandardPaths::setTestModeEnabled(true);
-}
-
-// A line and a fix in a plan view of 400 by 300 pixels, and the line chosen.
-void TestMapEditorWindow::init()
-{
-    m_asked.clear();
-    m_dir = std::make_unique<QTemporaryDir>();
-    m_map = std::make_unique<GeoMapDisplay>(&m_projector);
-    m_plan = std::make_unique<GeoWidget>();
-    m_plan->resize(400, 300);
-    m_plan->setMapDisplay(m_map.get());
-    double x = 0.0;
-    double y = 0.0;
-    m_projector.toCartesian(&x, &y, 48.5, 16.5);
-    m_plan->setView(x, y, 1000.0);
-    m_window = std::make_unique<MapEditorWindow>();
-    MapElementGroup group;
-    group.name = group.className = QStringLiteral("route");
-    group.polylines = {{QStringLiteral("A1"), {{48.5, 16.0}, {48.5, 16.5}, {48.5, 17.0}}}};
-    group.symbols = {{QStringLiteral("FIX"), QStringLiteral("waypoint"), {48.0, 16.0}}};
-    MapData map;
-    map.groups = {group};
-    m_window->document().store().reset(map);
-    QVERIFY(saved(m_dir->filePath("m.xml")));
-    m_window->setGeoWidget(m_plan.get(), &m_projector);
-    m_window->show();
-    m_window->select(ChosenLine);
-}
-
-void TestMapEditorWindow::cleanup()
-{
-    m_window.reset();
-    m_plan.reset();
-    m_map.reset();
-}
-
-// Presses the button of the message box that comes up next.
-void TestMapEditorWindow::answer(QMessageBox::StandardButton button)
-{
-    QTimer::singleShot(5, this, [this, button] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box) {
-            answer(button);
-            return;
-        }
-        m_asked = box->text() + u'\n' + box->informativeText();
-        box->button(button)->click();
-    });
-}
-
-bool TestMapEditorWindow::saved(const QString &path)
-{
-    QSignalSpy spy(m_window.get(), &MapEditorWindow::saved);
-    m_window->saveFile(path);
-    return spy.wait();
-}
-
-// What is in the file.
-MapData TestMapEditorWindow::written() const
-{
-    const MapLoad loaded = loadMap(m_dir->filePath("m.xml"), MapFile::Xml, {});
-    return loaded.data ? *loaded.data : MapData();
-}
-
-void TestMapEditorWindow::mouse(QEvent::Type type, const QPointF &place, Qt::MouseButtons held)
-{
-    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, place, place, button, held, Qt::NoModifier);
-    QCoreApplication::sendEvent(m_plan.get(), &event);
-}
-
-void TestMapEditorWindow::click(const QPointF &place)
-{
-    mouse(QEvent::MouseButtonPress, place, Qt::LeftButton);
-    mouse(QEvent::MouseButtonRelease, place);
-}
-
-QPointF TestMapEditorWindow::pixelOf(qsizetype point) const
-{
-    const GeoCoordinate place = m_window->document().store().point(ChosenLine, point);
-    double x = 0.0;
-    double y = 0.0;
-    MercatorProjector().toCartesian(&x, &y, place.latitude(), place.longitude());
-    return m_plan->screenTransform().map(QPointF(x, y));
-}
-
-GeoCoordinate TestMapEditorWindow::placeOf(const QPointF &pixel) const
-{
-    const QPointF point = m_plan->screenTransform().inverted().map(pixel);
-    double latitude = 0.0;
-    double longitude = 0.0;
-    MercatorProjector().toWgs84(&latitude, &longitude, point.x(), point.y());
-    return GeoCoordinate(latitude, longitude);
-}
 
 void TestMapEditorWindow::dragsAPoint()
 {
@@ -413,120 +271,6 @@ void TestMapEditorWindow::stepsOfABoxAreUndoneTogether()
     QCOMPARE(m_window->document().styles().sheet().style(QStringLiteral("b")).pen.width(), 4);
     undo.undo();
     QCOMPARE(m_window->document().styles().sheet().style(QStringLiteral("b")).pen.width(), 1);
-}
-
-void TestMapEditorWindow::closingWithChangesAsks_data()
-{
-    QTest::addColumn<QMessageBox::StandardButton>("button");
-    QTest::addColumn<bool>("closes");
-    QTest::addColumn<int>("saved"); // points in the file
-    QTest::newRow("save") << QMessageBox::Save << true << 2;
-    QTest::newRow("discard") << QMessageBox::Discard << true << 3;
-    QTest::newRow("cancel") << QMessageBox::Cancel << false << 3;
-}
-
-void TestMapEditorWindow::closingWithChangesAsks()
-{
-    QFETCH(QMessageBox::StandardButton, button);
-    m_window->document().removePoints(ChosenLine, {0});
-    answer(button);
-    m_window->close();
-    QVERIFY(m_asked.contains(QStringLiteral("map")));
-    QTRY_VERIFY(m_window->document().fileWork() == MapEditorDocument::FileWork::None);
-    QTEST(!m_window->isVisible(), "closes");
-    QTEST(static_cast<int>(written().groups.value(0).polylines.value(0).points.size()), "saved");
-}
-
-// Nobody stands still for it, and what was changed meanwhile is not lost either.
-void TestMapEditorWindow::closingWaitsForWhatIsBeingSaved()
-{
-    bool closed = false;
-    m_window->document().removePoints(ChosenLine, {0});
-    {
-        BusyWorkers busy;
-        m_window->save();
-        QVERIFY(!m_window->closeThen([&closed] { closed = true; }));
-        m_window->document().removePoints(ChosenLine, {0});
-        answer(QMessageBox::Save);
-        QVERIFY(m_window->isVisible() && !busy.waitedFor());
-    }
-    QTRY_VERIFY(closed);
-    QVERIFY(!m_window->isVisible());
-    QCOMPARE(written().groups.value(0).polylines.value(0).points.size(), 1);
-
-    // A failure keeps the window, and what is in it.
-    m_window->show();
-    m_window->document().addGroup(QStringLiteral("kept"), QStringLiteral("nil"));
-    closed = false;
-    m_window->saveFile(m_dir->filePath("none/m.map"));
-    QVERIFY(!m_window->closeThen([&closed] { closed = true; }));
-    answer(QMessageBox::Ok);
-    QTRY_VERIFY(m_asked.contains(QStringLiteral("none/m.map")));
-    QVERIFY(m_window->isVisible() && m_window->isWindowModified() && !closed);
-}
-
-void TestMapEditorWindow::changesMadeWhileAMapIsReadAreAskedAbout()
-{
-    QVERIFY(QFile::copy(m_dir->filePath("m.xml"), m_dir->filePath("other.xml")));
-    const QString other = m_dir->filePath("other.xml");
-    for (const QMessageBox::StandardButton button : {QMessageBox::Cancel, QMessageBox::Save}) {
-        m_asked.clear();
-        {
-            const BusyWorkers busy;
-            m_window->openFile(other);
-            m_window->document().setGroupName(0, QStringLiteral("changed %1").arg(button));
-        }
-        answer(button);
-        QTRY_VERIFY(!m_asked.isEmpty());
-        if (button == QMessageBox::Cancel) { // else the other map may be there at once
-            QCOMPARE(m_window->document().path(), m_dir->filePath("m.xml"));
-            m_window->document().undoStack().undo();
-        }
-    }
-    QTRY_COMPARE(m_window->document().path(), other);
-    QCOMPARE(written().groups.value(0).name, QStringLiteral("changed %1").arg(QMessageBox::Save));
-}
-
-void TestMapEditorWindow::cancelledFileWorkChangesNothing()
-{
-    const MapData before = written();
-    m_window->document().removePoints(ChosenLine, {0});
-    {
-        const BusyWorkers busy;
-        m_window->save();
-        find<QToolButton>("cancelFileWork")->click();
-    }
-    QTRY_VERIFY(m_window->document().fileWork() == MapEditorDocument::FileWork::None);
-    QCOMPARE(written(), before);
-    QVERIFY(m_window->isWindowModified() && m_window->isVisible());
-    m_window->document().undoStack().undo();
-    {
-        const BusyWorkers busy;
-        m_window->openFile(m_dir->filePath("none.xml"));
-        find<QToolButton>("cancelFileWork")->click();
-    }
-    QTest::qWait(20);
-    QVERIFY(!QApplication::activeModalWidget());
-    QCOMPARE(m_window->document().path(), m_dir->filePath("m.xml"));
-}
-
-void TestMapEditorWindow::failuresNameFileAndReason()
-{
-    const auto explained = [this](const char *file, auto access) {
-        m_asked.clear();
-        const QString path = m_dir->filePath(QString::fromLatin1(file));
-        access(*m_window, path);
-        answer(QMessageBox::Ok);
-        return QTest::qWaitFor([&] { return m_asked.contains(path); });
-    };
-    QVERIFY(explained("none.xml", [](MapEditorWindow &window, const QString &path) { window.openFile(path); }));
-    QVERIFY(explained("m.txt", [](MapEditorWindow &window, const QString &path) { window.openFile(path); }));
-    QVERIFY(explained("none/m.map", [](MapEditorWindow &window, const QString &path) { window.saveFile(path); }));
-    QVERIFY(explained("none.mss", [](MapEditorWindow &window, const QString &path) { window.openStyleSheet(path); }));
-    QVERIFY(
-        explained("m.xml/s.mss", [](MapEditorWindow &window, const QString &path) { window.saveStyleSheet(path); }));
-    QCOMPARE(linePoints().size(), 3);
-    QCOMPARE(m_window->document().path(), m_dir->filePath("m.xml"));
 }
 
 void TestMapEditorWindow::toolButtonsKeepTheirPlaces()
