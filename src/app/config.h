@@ -29,6 +29,7 @@ public:
     enum class ProcessorType { Asterix = 0, ModeS = 1, AleniaSirM = 2 };
     enum class AsterixFormat { Raw = 0, Hdlc = 1, ManagAir = 2 };
     enum class AleniaSirMFormat { Raw = 0, Hdlc = 1, ManagAir = 2 };
+    enum class TrackLabelLayout { Standard = 0, Compact = 1 };
 
     static QString inputMethodName(InputComm comm);
     static QString processorName(ProcessorType type);
@@ -58,6 +59,7 @@ public:
     // Display
     GeoCoordinate displayCenterCoordinate = GeoCoordinate::fromATCString(QStringLiteral("400300N1164400E"));
     QString displayLocalTimeZoneName = defaultTimeZoneName(); // IANA identifier, or "LCL" for the system's own
+    QString displayTheme = QStringLiteral("Classic"); // the theme chosen last
     QString displayStyle = QStringLiteral("windowsvista"); // key of a widget style
     QString displayLanguage = QStringLiteral("en"); // empty: the system's
     bool displayToolbarText = true;
@@ -121,6 +123,13 @@ public:
     QString sensorDatabase; // path of the sensor file
 
     // Online tiles. Directories are in the form of AppPaths::storePath.
+    bool mapTileConsent = false; // the operator has agreed that online services are asked
+    int mapTileDimming = 0; // of the bottom layer, percent towards the background colour
+    int mapTileDesaturation = 0; // of the bottom layer, percent towards grey
+    QString mapCustomTileUrl; // a template with {z} {x} {y} {-y} {quadkey} {s}
+    QString mapCustomTileHeader; // "Name: value", sent with each request; empty: none
+    int mapCustomTileMaxLevel = 18;
+    QString mapCustomTileFile; // an MBTiles file, which goes before the template
     bool mapSmoothPixmapTransform = false;
     QColor mapBackgroundColor{173, 173, 173};
     bool mapTileService = true;
@@ -191,6 +200,8 @@ public:
     bool mapSensorCoverageVisible = true;
     bool mapSensorRadarNorthMarkerVisible = true;
     bool mapSensorRadarAntennaLineVisible = true;
+    bool mapSensorNameVisible = false;
+    bool mapSensorRadarNorthMarkerShort = false; // a tick at the rim of the coverage instead of a line from the site
     QColor mapSensorColor{0x00, 0x66, 0x33};
     QColor mapSensorRadarNorthMarkerColor{Qt::red};
     QColor mapSensorRadarAntennaLineColor{0x00, 0x66, 0x33};
@@ -198,9 +209,27 @@ public:
     QColor mapRangeRingColor{0x39, 0x3F, 0x42};
     int mapRangeRingNumber = 5;
     double mapRangeRingDistance = 50.0;
+    bool mapRangeRingLabelVisible = false; // the distance, on four bearings
+    QColor mapRangeRingLabelColor{0x39, 0x3F, 0x42}; // also of compass rose, scale bar and key
+    bool mapCompassRoseVisible = false;
+    bool mapScaleBarVisible = false;
+    bool mapKeyVisible = false; // what the symbols and weather colours mean
+
+    // Plots
+    bool mapPlotVisible = false;
+    double mapPlotSeconds = 0.0; // how long a plot is seen; 0: three revolutions or reporting periods of the sensor
+    QColor mapPlotColor{0x00, 0x5A, 0x82};
 
     // Tracks
+    TrackLabelLayout trackLabelLayout = TrackLabelLayout::Standard;
+    bool trackLabelAutoPlace = false;
     QColor trackSymbolColor{0x00, 0x8F, 0xCC};
+    QColor trackSymbolCasingColor{Qt::black}; // round symbols, so that they stand out from whatever lies under them
+    QColor trackLeaderColor{0x00, 0x8F, 0xCC};
+    QColor trackCoastingColor{0x00, 0x8F, 0xCC}; // of tracks without a report for too long
+    QColor trackCautionColor{0xFF, 0xB4, 0x54}; // of emergencies and of what needs a look but is no alert
+    QColor trackLabelDetailColor{Qt::white}; // of what stands in a label beside the identity
+    QColor trackLabelAlertTextColor{Qt::white}; // on a ground of the alert colour
     QColor trackLabelColor{Qt::white};
     QColor trackLabelSelectedColor{Qt::green};
     QColor trackLabelAlertColor{Qt::red};

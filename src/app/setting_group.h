@@ -18,6 +18,8 @@ enum class SettingGroup : unsigned int {
     SensorLayer = 1 << 11,
     RangeRings = 1 << 12,
     Tracks = 1 << 13,
+    Plots = 1 << 14,
+    Orientation = 1 << 15, // compass rose, scale bar, key
 };
 Q_DECLARE_FLAGS(SettingGroups, SettingGroup)
 Q_DECLARE_OPERATORS_FOR_FLAGS(SettingGroups)

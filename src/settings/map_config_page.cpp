@@ -21,6 +21,8 @@ MapConfigPage::MapConfigPage(QWidget *parent) : ConfigPage(tr("Map Layers"), par
     addStaticMapRows();
     addSensorRows();
     addRangeRingRows();
+    addOrientationRows();
+    addPlotRows();
     form()->addStretch();
 }
 
@@ -56,9 +58,12 @@ void MapConfigPage::addSensorRows()
 {
     form()->addHeading(tr("Sensor"));
     addSwitch(tr("Show the &sensor"), &Config::mapSensorVisible);
+    addSwitch(tr("Show its na&me"), &Config::mapSensorNameVisible);
     addSwitch(tr("Show its co&verage"), &Config::mapSensorCoverageVisible);
     addSwitch(tr("Show the &antenna line of a radar"), &Config::mapSensorRadarAntennaLineVisible);
     addSwitch(tr("Flash the &north marker of a radar"), &Config::mapSensorRadarNorthMarkerVisible);
+    addSwitch(tr("Short north marker"), &Config::mapSensorRadarNorthMarkerShort,
+        tr("A tick at the rim of the coverage instead of a line from the site."));
     addColor(tr("Sit&e and coverage:"), tr("Sensor Colour"), &Config::mapSensorColor);
     addColor(tr("Antenna &line:"), tr("Antenna Line Colour"), &Config::mapSensorRadarAntennaLineColor);
     addColor(tr("North &marker:"), tr("North Marker Colour"), &Config::mapSensorRadarNorthMarkerColor);
@@ -71,6 +76,26 @@ void MapConfigPage::addRangeRingRows()
     addNumber(tr("N&umber of rings:"), &Config::mapRangeRingNumber);
     addNumber(tr("&Distance between rings:"), &Config::mapRangeRingDistance, 2, 1.0);
     addColor(tr("&Colour:"), tr("Range Ring Colour"), &Config::mapRangeRingColor);
+    addSwitch(tr("Show their distances"), &Config::mapRangeRingLabelVisible);
+}
+
+void MapConfigPage::addOrientationRows()
+{
+    form()->addHeading(tr("Orientation"));
+    addSwitch(tr("Show a compass rose"), &Config::mapCompassRoseVisible);
+    addSwitch(tr("Show a scale &bar"), &Config::mapScaleBarVisible);
+    addSwitch(tr("Show a &key of symbols and weather colours"), &Config::mapKeyVisible);
+    addColor(tr("&Text and rose:"), tr("Orientation Colour"), &Config::mapRangeRingLabelColor);
+}
+
+void MapConfigPage::addPlotRows()
+{
+    form()->addHeading(tr("Plots"));
+    addSwitch(tr("Show pl&ots"), &Config::mapPlotVisible,
+        tr("Every target report with a place, also those that no track is made of."));
+    QDoubleSpinBox *seconds = addNumber(tr("Time that a plot is seen:"), &Config::mapPlotSeconds, 1, 1.0);
+    seconds->setSpecialValueText(tr("three revolutions"));
+    addColor(tr("Plot colour:"), tr("Plot Colour"), &Config::mapPlotColor);
 }
 
 bool MapConfigPage::validate()

@@ -17,6 +17,8 @@ private:
     void addStaticMapRows();
     void addSensorRows();
     void addRangeRingRows();
+    void addOrientationRows();
+    void addPlotRows();
     FileEdit *addFile(const QString &label, const QString &title, const QString &filter, QString Config::*member);
 
     FileEdit *m_index = nullptr;

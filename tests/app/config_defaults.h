@@ -3,7 +3,7 @@
 // Every key of the settings file with its text in a file of defaults. %ZONE% stands for the system's time zone, %DATA%
 // for the data directory, * for any opaque colour; colours are alpha and RGB.
 inline constexpr char ConfigDefaults[] = R"(
-displayCenterCoordinate=400300N1164400E displayLocalTimeZoneName=%ZONE% displayStyle=windowsvista
+displayCenterCoordinate=400300N1164400E displayLocalTimeZoneName=%ZONE% displayTheme=Classic displayStyle=windowsvista
 displayLanguage=en displayToolbarText=true
 inputComm=0 inputUdpMulticast1=true inputUdpMcastLanInterface1= inputUdpMcastAddress1=239.0.0.1
 inputUdpPort1=50000 inputEnable2=false inputUdpMulticast2=true inputUdpMcastLanInterface2=
@@ -20,6 +20,8 @@ sensorRadarCoveragePrimary=70 sensorRadarCoverageSecondary=250 sensorAdsbCoverag
 sensorMlatCoverage=250 sensorSdpsCoverage=512 sensorSdpsUpdateInterval=0 sensorSmrAntennaAltitude=0
 sensorSmrRotationPeriod=1 sensorSmrCoverage=5 sensorDatabase=
 mapSmoothPixmapTransform=false mapBackgroundColor=#ffadadad
+mapTileConsent=false mapTileDimming=0 mapTileDesaturation=0 mapCustomTileUrl= mapCustomTileHeader=
+mapCustomTileMaxLevel=18 mapCustomTileFile=
 mapTileService=true mapTileVisible=true mapTileTopLayerEnable=false mapTileTopLayerProvider=openaip
 mapTileBottomLayerProvider=bingmaps mapTileCacheDir=%DATA%/TileCache/ mapTileUseProxy=false
 mapTileProxyHostname=localhost mapTileProxyPort=1080 mapTileProxyUser= mapTileProxyPassword=
@@ -47,6 +49,12 @@ mapSensorVisible=true mapSensorCoverageVisible=true mapSensorRadarNorthMarkerVis
 mapSensorRadarAntennaLineVisible=true mapSensorColor=#ff006633 mapSensorRadarNorthMarkerColor=#ffff0000
 mapSensorRadarAntennaLineColor=#ff006633
 mapRangeRingVisible=false mapRangeRingColor=#ff393f42 mapRangeRingNumber=5 mapRangeRingDistance=50
+mapSensorNameVisible=false mapSensorRadarNorthMarkerShort=false
+mapRangeRingLabelVisible=false mapRangeRingLabelColor=#ff393f42 mapCompassRoseVisible=false mapScaleBarVisible=false
+mapKeyVisible=false mapPlotVisible=false mapPlotSeconds=0 mapPlotColor=#ff005a82
+trackLabelLayout=0 trackLabelAutoPlace=false trackSymbolCasingColor=#ff000000 trackLeaderColor=#ff008fcc
+trackCoastingColor=#ff008fcc trackCautionColor=#ffffb454 trackLabelDetailColor=#ffffffff
+trackLabelAlertTextColor=#ffffffff
 trackSymbolColor=#ff008fcc trackLabelColor=#ffffffff trackLabelSelectedColor=#ff00ff00
 trackLabelAlertColor=#ffff0000 trackLabelBackgroundColor=#ff505050 trackLabelBackgroundOpacity=100
 )";
