@@ -3,10 +3,10 @@
 #include "app/config.h"
 #include "display/geo_range_ring_map.h"
 #include "display/geo_sensor_map.h"
-#include "display/geo_video_map.h"
-#include "display/geo_weather_map.h"
 #include "map_painting/geo_static_map.h"
 #include "map_painting/map_editor_layer.h"
+#include "radar_painting/geo_video_map.h"
+#include "radar_painting/geo_weather_map.h"
 #include "view/geo_view.h"
 
 #include <QElapsedTimer>

@@ -1,11 +1,11 @@
 // What can be asked of the window, handed on to the part that does it, and what the window shows of the session.
 
+#include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
 #include "ui/actions.h"
 #include "ui/home_view.h"
 #include "ui/input_session.h"
 #include "ui/layout_menu.h"
-#include "ui/list_panes.h"
 #include "ui/main_window.h"
 #include "ui/map_windows.h"
 #include "ui/replay_controls.h"

@@ -1,7 +1,7 @@
 #include "ui/recording_opener.h"
 
 #include "app/run_config.h"
-#include "engine/input_proposal.h"
+#include "recognition/input_proposal.h"
 #include "sensors/radar_sensor_info.h"
 #include "settings/sensor_site_window.h"
 #include "ui/input_session.h"

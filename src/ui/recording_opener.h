@@ -2,7 +2,7 @@
 
 #include "app/log_level.h"
 #include "app/setting_group.h"
-#include "engine/recording_analysis.h"
+#include "recognition/recording_analysis.h"
 
 #include <QObject>
 #include <QPointer>

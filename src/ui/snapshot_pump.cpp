@@ -2,8 +2,8 @@
 
 #include "display/geo_map_display.h"
 #include "display/geo_track_display.h"
-#include "display/geo_video_map.h"
-#include "display/geo_weather_map.h"
+#include "radar_painting/geo_video_map.h"
+#include "radar_painting/geo_weather_map.h"
 
 #include <QDateTime>
 

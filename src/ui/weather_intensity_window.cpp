@@ -1,6 +1,6 @@
 #include "ui/weather_intensity_window.h"
 
-#include "display/geo_weather_map.h"
+#include "radar_painting/geo_weather_map.h"
 #include "widgets/dialog_layout.h"
 #include "widgets/figure_font.h"
 

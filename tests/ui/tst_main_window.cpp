@@ -2,17 +2,17 @@
 
 #include "app/ui_state.h"
 #include "display/geo_track_display.h"
+#include "lists/alert_list_model.h"
+#include "lists/list_view.h"
+#include "lists/track_list_model.h"
 #include "modes/log.h"
 #include "plan_view/geo_widget.h"
 #include "test_program.h"
 #include "ui/actions.h"
-#include "ui/alert_list_model.h"
 #include "ui/library_log.h"
-#include "ui/list_view.h"
 #include "ui/log_pane.h"
 #include "ui/scope_notice.h"
 #include "ui/status_read_outs.h"
-#include "ui/track_list_model.h"
 
 #include <QAction>
 #include <QDateTime>

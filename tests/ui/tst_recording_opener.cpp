@@ -1,5 +1,5 @@
 #include "astfile/pcap_writer.h"
-#include "engine/input_proposal.h"
+#include "recognition/input_proposal.h"
 #include "settings/sensor_site_window.h"
 #include "test_program.h"
 #include "ui/recording_opener.h"

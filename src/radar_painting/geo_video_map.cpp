@@ -1,0 +1,239 @@
+#include "radar_painting/geo_video_map.h"
+
+#include "app/config.h"
+#include "geo/projector.h"
+#include "radar_painting/radial_store.h"
+#include "radar_painting/site_offsets.h"
+#include "radar_painting/video_raster.h"
+#include "sensors/smr_sensor_info.h"
+#include "view/geo_view.h"
+
+#include <QElapsedTimer>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace {
+
+constexpr int UsualAzimuthBins = 8192; // where nothing tells: 0.044 degrees each
+constexpr int FewestAzimuthBins = 2048;
+constexpr int MostAzimuthBins = 16384;
+constexpr std::size_t MostReportedSources = 8; // more than that is noise on the line
+
+// As many bins as radials fit into a turn, so that bins and radials fall together. Azimuth pulses, where the sensor
+// states them, are what radials are made of.
+int azimuthBins(int statedSteps, const VideoProcessor::Radial &radial)
+{
+    if (statedSteps >= FewestAzimuthBins) {
+        return statedSteps;
+    }
+    const double width = std::abs(std::remainder(radial.endAzimuth - radial.startAzimuth, 360.0));
+    return width > 0.0 ? int(std::clamp(360.0 / width, double(FewestAzimuthBins), double(MostAzimuthBins)) + 0.5)
+                       : UsualAzimuthBins;
+}
+
+// By how many device pixels one view lies beside another; nothing where they differ by anything else.
+std::optional<QPoint> wholePixelShift(const QTransform &from, const QTransform &to)
+{
+    const QPointF shift(to.dx() - from.dx(), to.dy() - from.dy());
+    const QPointF rest = shift - QPointF(shift.toPoint());
+    const bool sameScale =
+        from.m11() == to.m11() && from.m12() == to.m12() && from.m21() == to.m21() && from.m22() == to.m22();
+    if (!sameScale || rest.manhattanLength() > 1e-3) {
+        return std::nullopt;
+    }
+    return shift.toPoint();
+}
+
+std::function<qint64()> steadyClock()
+{
+    QElapsedTimer timer;
+    timer.start();
+    return [timer] { return timer.elapsed(); };
+}
+
+} // namespace
+
+// One radar's video, and its picture of the view that was painted last.
+struct GeoVideoMap::Radar {
+    explicit Radar(const Place &where) : place(where) { }
+
+    bool sameFormat(const VideoProcessor::Radial &radial) const
+    {
+        return radial.cellSize == cellSize && radial.videoMode == videoMode;
+    }
+
+    void restart(const VideoProcessor::Radial &radial)
+    {
+        store = RadialStore(azimuthBins(place.azimuthSteps, radial));
+        raster.reset();
+        cellSize = radial.cellSize;
+        videoMode = radial.videoMode;
+    }
+
+    // Brings the raster, not its contents, up to date with view and store.
+    void fitTo(const GeoView &view, Projector &projector);
+
+    Place place;
+    RadialStore store{UsualAzimuthBins};
+    double cellSize = 0.0; // metres
+    quint16 videoMode = 0;
+    std::unique_ptr<VideoRaster> raster; // null while there is nothing to show
+    QTransform rasterTransform; // from the plane to device pixels, as it was made for
+};
+
+GeoVideoMap::GeoVideoMap(Projector *projector, QObject *parent)
+    : GeoLayer(QStringLiteral("Video"), parent), m_projector(projector), m_clock(steadyClock()), m_palette(m_colors)
+{
+    GeoVideoMap::applyConfig(Config());
+}
+
+GeoVideoMap::~GeoVideoMap() = default;
+
+void GeoVideoMap::setClock(std::function<qint64()> clock)
+{
+    m_clock = std::move(clock);
+}
+
+void GeoVideoMap::applyConfig(const Config &config)
+{
+    const VideoPalette::Settings colors{config.mapVideoLowColor, config.mapVideoHighColor, config.mapVideoLowOpacity,
+        config.mapVideoHighOpacity, config.mapVideoThreshold};
+    if (!(colors == m_colors)) {
+        m_colors = colors;
+        m_palette = VideoPalette(colors);
+        for (const auto &[source, radar] : m_radars) {
+            if (radar->raster) {
+                radar->raster->recolor();
+            }
+        }
+    }
+    m_validity = qint64(std::max(config.mapVideoValidity, 0)) * 1000;
+    setVisible(config.mapVideoVisible);
+    if (!visible()) {
+        clear();
+    }
+    Q_EMIT polluted();
+}
+
+GeoVideoMap::Place GeoVideoMap::placeOf(const SensorInfo &sensor)
+{
+    const auto *surfaceRadar = dynamic_cast<const SmrSensorInfo *>(&sensor);
+    return {sensor.location(), surfaceRadar ? int(std::min<unsigned int>(surfaceRadar->acp(), MostAzimuthBins)) : 0};
+}
+
+void GeoVideoMap::setSensor(const QSharedPointer<SensorInfo> &sensor)
+{
+    m_sensorSource = sensor ? Source(sensor->sac(), sensor->sic()) : Source(0, 0);
+    m_sensorPlace = sensor ? placeOf(*sensor) : Place();
+    clear();
+}
+
+void GeoVideoMap::setKnownSensors(const QList<QSharedPointer<SensorInfo>> &sensors)
+{
+    m_knownPlaces.clear();
+    for (const auto &sensor : sensors) {
+        m_knownPlaces.emplace(Source(sensor->sac(), sensor->sic()), placeOf(*sensor));
+    }
+    clear();
+}
+
+void GeoVideoMap::clear()
+{
+    m_radars.clear();
+    m_unknown.clear();
+    Q_EMIT polluted();
+}
+
+const GeoVideoMap::Place *GeoVideoMap::findPlace(const Source &source) const
+{
+    const Source unstated(0, 0);
+    const Place *place = nullptr;
+    if (source == m_sensorSource || source == unstated || m_sensorSource == unstated) {
+        place = &m_sensorPlace;
+    } else if (const auto known = m_knownPlaces.find(source); known != m_knownPlaces.end()) {
+        place = &known->second;
+    }
+    return place && place->location.isValid() ? place : nullptr;
+}
+
+GeoVideoMap::Radar *GeoVideoMap::radarFor(const VideoProcessor::Radial &radial)
+{
+    const Source source(radial.sac, radial.sic);
+    if (const auto found = m_radars.find(source); found != m_radars.end()) {
+        return found->second.get();
+    }
+    const Place *place = findPlace(source);
+    if (!place) {
+        if (m_unknown.size() < MostReportedSources && m_unknown.insert(source).second) {
+            Q_EMIT siteUnknown(radial.sac, radial.sic);
+        }
+        return nullptr;
+    }
+    return m_radars.emplace(source, std::make_unique<Radar>(*place)).first->second.get();
+}
+
+void GeoVideoMap::addRadial(const VideoProcessor::Radial &radial)
+{
+    if (!visible() || !(radial.cellSize > 0.0) || !std::isfinite(radial.cellSize)) {
+        return;
+    }
+    Radar *radar = radarFor(radial);
+    if (!radar) {
+        return;
+    }
+    if (!radar->sameFormat(radial)) {
+        radar->restart(radial);
+    }
+    radar->store.add(radial, m_clock());
+}
+
+void GeoVideoMap::paint(QPainter &painter, const GeoView &view)
+{
+    const qint64 now = m_clock();
+    painter.resetTransform();
+    for (auto entry = m_radars.begin(); entry != m_radars.end();) {
+        Radar &radar = *entry->second;
+        radar.store.dropOlder(now - m_validity);
+        if (radar.store.empty()) {
+            entry = m_radars.erase(entry);
+            continue;
+        }
+        paintRadar(painter, view, radar);
+        ++entry;
+    }
+}
+
+void GeoVideoMap::Radar::fitTo(const GeoView &view, Projector &projector)
+{
+    const QTransform transform =
+        view.screenTransform() * QTransform::fromScale(view.devicePixelRatio(), view.devicePixelRatio());
+    const bool sameSize = raster && raster->image().size() == view.screenRect().size() * view.devicePixelRatio()
+        && store.endCell() <= raster->reach();
+    if (sameSize && transform == rasterTransform) {
+        return;
+    }
+    const SiteOffsets offsets(projector, place.location, view);
+    const auto shift = sameSize ? wholePixelShift(rasterTransform, transform) : std::nullopt;
+    rasterTransform = transform;
+    if (shift) {
+        raster->moveView(offsets, *shift);
+        return;
+    }
+    if (!raster) {
+        raster = std::make_unique<VideoRaster>();
+    }
+    raster->setView(offsets, store, cellSize);
+}
+
+void GeoVideoMap::paintRadar(QPainter &painter, const GeoView &view, Radar &radar)
+{
+    radar.fitTo(view, *m_projector);
+    radar.raster->update(radar.store, m_palette, m_clock(), m_validity);
+    radar.store.forgetChanges();
+    const QRectF source = radar.raster->bounds();
+    const QRectF target(source.topLeft() / view.devicePixelRatio(), source.size() / view.devicePixelRatio());
+    painter.drawImage(target, radar.raster->image(), source);
+}

@@ -1,0 +1,174 @@
+#include "radar_painting/geo_weather_map.h"
+
+#include "app/config.h"
+#include "geo/projector.h"
+#include "sensors/sensor_info.h"
+#include "view/geo_view.h"
+
+#include <QElapsedTimer>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+std::function<qint64()> steadyClock()
+{
+    QElapsedTimer timer;
+    timer.start();
+    return [timer] { return timer.elapsed(); };
+}
+
+bool isLevel(int level)
+{
+    return level >= 0 && level < GeoWeatherMap::LevelCount;
+}
+
+} // namespace
+
+GeoWeatherMap::GeoWeatherMap(Projector *projector, QObject *parent)
+    : GeoLayer(QStringLiteral("Weather"), parent), m_projector(projector), m_clock(steadyClock())
+{
+    m_levelVisible.fill(true);
+    GeoWeatherMap::applyConfig(Config());
+}
+
+void GeoWeatherMap::setClock(std::function<qint64()> clock)
+{
+    m_clock = std::move(clock);
+}
+
+void GeoWeatherMap::applyConfig(const Config &config)
+{
+    m_colors = config.mapWeatherColor;
+    m_opacity = std::clamp(config.mapWeatherOpacity, 0, 255);
+    m_validity = qint64(std::max(config.mapWeatherValidity, 0)) * 1000;
+    m_ignoreEmpty = config.mapWeatherIgnoreEmptyPicture;
+    setVectorWidth(config.mapWeatherVectorWidth, config.mapWeatherAutoVectorWidth);
+    m_rendered = false;
+    setVisible(config.mapWeatherVisible);
+    Q_EMIT polluted();
+}
+
+void GeoWeatherMap::setVectorWidth(double width, bool automatic)
+{
+    if (width == m_vectorWidth && automatic == m_autoVectorWidth) {
+        return;
+    }
+    m_vectorWidth = width;
+    m_autoVectorWidth = automatic;
+    makeShapes();
+}
+
+void GeoWeatherMap::setSensor(const QSharedPointer<SensorInfo> &sensor)
+{
+    m_site = sensor && sensor->type() == RadarSensor ? sensor->location() : GeoCoordinate();
+    clear();
+}
+
+void GeoWeatherMap::setPicture(const WeatherProcessor::Picture &picture)
+{
+    if (!m_site.isValid()) {
+        ++m_placelessPictures;
+        return;
+    }
+    if (picture.vectors.isEmpty()) {
+        ++m_emptyPictures;
+        if (!m_ignoreEmpty) {
+            clear();
+        }
+        return;
+    }
+    m_picture = picture;
+    m_pictureTime = m_clock();
+    makeShapes();
+    Q_EMIT pictureChanged();
+    Q_EMIT polluted();
+}
+
+void GeoWeatherMap::setLevelVisible(int level, bool visible)
+{
+    if (!isLevel(level) || levelVisible(level) == visible) {
+        return;
+    }
+    m_levelVisible[std::size_t(level)] = visible;
+    m_rendered = false;
+    Q_EMIT polluted();
+}
+
+void GeoWeatherMap::clear()
+{
+    const bool hadPicture = m_picture.has_value();
+    m_picture.reset();
+    makeShapes();
+    if (hadPicture) {
+        Q_EMIT pictureChanged();
+    }
+    Q_EMIT polluted();
+}
+
+int GeoWeatherMap::vectorCount(int level) const
+{
+    if (!m_picture || m_clock() - m_pictureTime > m_validity) {
+        return 0;
+    }
+    return int(std::count_if(m_picture->vectors.begin(), m_picture->vectors.end(),
+        [level](const WeatherProcessor::PolarVector &vector) { return vector.intensity == level; }));
+}
+
+void GeoWeatherMap::makeShapes()
+{
+    m_rendered = false;
+    m_shapes.clear();
+    if (!m_picture) {
+        return;
+    }
+    const double width = m_autoVectorWidth ? touchingWidth(m_picture->vectors, m_vectorWidth) : m_vectorWidth;
+    m_shapes = weatherShapes(*m_projector, m_site, m_picture->vectors, width);
+}
+
+void GeoWeatherMap::dropExpired()
+{
+    if (m_picture && m_clock() - m_pictureTime > m_validity) {
+        clear();
+    }
+}
+
+void GeoWeatherMap::paint(QPainter &painter, const GeoView &view)
+{
+    dropExpired();
+    if (m_shapes.empty()) {
+        return;
+    }
+    const double ratio = view.devicePixelRatio();
+    if (!m_rendered || m_canvas.image().size() != view.screenRect().size() * ratio
+        || m_renderedTransform != view.screenTransform()) {
+        render(view);
+    }
+    painter.resetTransform();
+    for (const QRect &part : m_parts) {
+        const QRectF target(QPointF(part.topLeft()) / ratio, QSizeF(part.size()) / ratio);
+        painter.drawImage(target, m_canvas.image(), part);
+    }
+}
+
+void GeoWeatherMap::render(const GeoView &view)
+{
+    const double ratio = view.devicePixelRatio();
+    const QTransform toDevice = view.screenTransform() * QTransform::fromScale(ratio, ratio);
+    m_canvas.reset(view.screenRect().size() * ratio);
+    for (const WeatherShape &shape : m_shapes) {
+        QColor color = levelColor(shape.level);
+        if (!isLevel(shape.level) || !levelVisible(shape.level) || !color.isValid()) {
+            continue;
+        }
+        color.setAlpha(m_opacity);
+        QuadCanvas::Quad quad;
+        std::transform(shape.corners.begin(), shape.corners.end(), quad.begin(),
+            [&toDevice](const QPointF &corner) { return toDevice.map(corner); });
+        m_canvas.fill(quad, qPremultiply(color.rgba()));
+    }
+    m_parts = m_canvas.filledParts();
+    m_rendered = true;
+    m_renderedTransform = view.screenTransform();
+}

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "geo/geo_coordinate.h"
+#include "radar_painting/quad_canvas.h"
+#include "radar_painting/weather_shapes.h"
+#include "view/geo_layer.h"
+
+#include <QColor>
+#include <QList>
+#include <QSharedPointer>
+
+#include <array>
+#include <functional>
+#include <optional>
+
+class Projector;
+class SensorInfo;
+
+// The newest weather picture of the radar: each vector a sector in the colour of its intensity level, the stronger over
+// the weaker, all equally transparent. It goes when its validity ends. The drawn picture is kept until view, picture,
+// colours or levels change.
+class GeoWeatherMap final : public GeoLayer {
+    Q_OBJECT
+
+public:
+    static constexpr int LevelCount = 8;
+
+    // The projector must outlive the layer.
+    explicit GeoWeatherMap(Projector *projector, QObject *parent = nullptr);
+
+    void paint(QPainter &painter, const GeoView &view) override;
+    void applyConfig(const Config &config) override;
+    SettingGroups settings() const override { return SettingGroup::Weather; }
+
+    // Levels are 0 to LevelCount - 1. A level without a valid colour is never shown.
+    bool levelVisible(int level) const { return m_levelVisible[std::size_t(level)]; }
+    QColor levelColor(int level) const { return m_colors.value(level); }
+    // Vectors of the level in the picture that is shown; 0 when it has expired.
+    int vectorCount(int level) const;
+
+    // Pictures that were not taken, since the start: without vectors; and while the sensor was no radar with a place.
+    quint64 emptyPictures() const { return m_emptyPictures; }
+    quint64 placelessPictures() const { return m_placelessPictures; }
+
+    // Replaces the steady clock, milliseconds from any start.
+    void setClock(std::function<qint64()> clock);
+
+public Q_SLOTS:
+    // Pictures do not say whose they are: they are this sensor's, if it is a radar. Forgets the picture.
+    void setSensor(const QSharedPointer<SensorInfo> &sensor);
+    // Shown until its validity ends. An empty one removes the one before, or is ignored when so configured.
+    void setPicture(const WeatherProcessor::Picture &picture);
+    void setLevelVisible(int level, bool visible);
+    void clear();
+
+Q_SIGNALS:
+    // Another picture is shown, or none any more.
+    void pictureChanged();
+
+private:
+    void setVectorWidth(double width, bool automatic);
+    void makeShapes();
+    void dropExpired();
+    void render(const GeoView &view);
+
+    Projector *m_projector;
+    std::function<qint64()> m_clock;
+    GeoCoordinate m_site; // invalid without a radar
+
+    QList<QColor> m_colors;
+    std::array<bool, LevelCount> m_levelVisible;
+    int m_opacity = 0; // 0 to 255
+    qint64 m_validity = 0; // milliseconds
+    double m_vectorWidth = 0.0; // degrees
+    bool m_autoVectorWidth = false;
+    bool m_ignoreEmpty = false;
+
+    std::optional<WeatherProcessor::Picture> m_picture;
+    qint64 m_pictureTime = 0;
+    std::vector<WeatherShape> m_shapes;
+    bool m_rendered = false;
+    QTransform m_renderedTransform;
+    QuadCanvas m_canvas; // device pixels
+    std::vector<QRect> m_parts; // of the canvas that there is something in
+    quint64 m_emptyPictures = 0;
+    quint64 m_placelessPictures = 0;
+};

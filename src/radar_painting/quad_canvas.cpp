@@ -1,0 +1,113 @@
+#include "radar_painting/quad_canvas.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr double Farthest = 1e7; // pixels
+
+} // namespace
+
+void QuadCanvas::reset(const QSize &size)
+{
+    if (m_image.size() != size) {
+        m_image = QImage(size, QImage::Format_ARGB32_Premultiplied);
+    }
+    m_image.fill(Qt::transparent);
+    m_pixels = reinterpret_cast<QRgb *>(m_image.bits());
+    m_tileColumns = size.width() / TileWidth + 1;
+    m_filledTiles.assign(std::size_t(m_tileColumns * (size.height() / TileHeight + 1)), false);
+}
+
+void QuadCanvas::fill(const Quad &quad, QRgb premultiplied)
+{
+    double left = Farthest;
+    double right = -Farthest;
+    double top = Farthest;
+    double bottom = -Farthest;
+    for (const QPointF &corner : quad) {
+        if (!(std::abs(corner.x()) < Farthest && std::abs(corner.y()) < Farthest)) {
+            return;
+        }
+        left = std::min(left, corner.x());
+        right = std::max(right, corner.x());
+        top = std::min(top, corner.y());
+        bottom = std::max(bottom, corner.y());
+    }
+    if (right < 0.0 || left >= m_image.width() || bottom < 0.0 || top >= m_image.height()) {
+        return;
+    }
+    m_top = std::max(int(std::floor(top)), 0);
+    const int last = std::min(int(std::floor(bottom)), m_image.height() - 1);
+    m_rows.assign(
+        std::size_t(last - m_top + 1), {std::numeric_limits<double>::max(), std::numeric_limits<double>::lowest()});
+    for (std::size_t i = 0; i < quad.size(); ++i) {
+        addEdge(quad[i], quad[(i + 1) % quad.size()]);
+    }
+    for (int row = m_top; row <= last; ++row) {
+        fillRow(row, premultiplied);
+    }
+}
+
+void QuadCanvas::addEdge(const QPointF &from, const QPointF &to)
+{
+    const QPointF &upper = from.y() < to.y() ? from : to;
+    const QPointF &lower = from.y() < to.y() ? to : from;
+    if (lower.y() < m_top || upper.y() >= m_top + double(m_rows.size())) {
+        return;
+    }
+    // Numbers that are not negative any more: the integer is the floor.
+    const int first = int(std::max(upper.y(), double(m_top)));
+    const int last = std::min(int(lower.y()), m_top + int(m_rows.size()) - 1);
+    const double height = lower.y() - upper.y();
+    const double slope = height > 0.0 ? (lower.x() - upper.x()) / height : 0.0;
+    const auto xAt = [&](int row) { return upper.x() + (row - upper.y()) * slope; };
+    double enters = first > upper.y() ? xAt(first) : upper.x();
+    for (int row = first; row <= last; ++row) {
+        const double leaves = row + 1 < lower.y() ? xAt(row + 1) : lower.x();
+        Extent &extent = m_rows[std::size_t(row - m_top)];
+        extent.left = std::min(extent.left, std::min(enters, leaves));
+        extent.right = std::max(extent.right, std::max(enters, leaves));
+        enters = leaves;
+    }
+}
+
+void QuadCanvas::fillRow(int row, QRgb premultiplied)
+{
+    const Extent &extent = m_rows[std::size_t(row - m_top)];
+    if (extent.right < 0.0 || extent.left >= m_image.width()) {
+        return;
+    }
+    const int first = int(std::max(extent.left, 0.0));
+    const int last = int(std::min(extent.right, m_image.width() - 1.0));
+    QRgb *line = m_pixels + std::size_t(row) * std::size_t(m_image.width());
+    std::fill(line + first, line + last + 1, premultiplied);
+    for (int column = first / TileWidth; column <= last / TileWidth; ++column) {
+        m_filledTiles[std::size_t(row / TileHeight * m_tileColumns + column)] = true;
+    }
+}
+
+std::vector<QRect> QuadCanvas::filledParts() const
+{
+    std::vector<QRect> parts;
+    for (std::size_t i = 0; i < m_filledTiles.size(); ++i) {
+        if (!m_filledTiles[i]) {
+            continue;
+        }
+        const int column = int(i) % m_tileColumns;
+        const int row = int(i) / m_tileColumns;
+        const QRect tile(column * TileWidth, row * TileHeight, TileWidth, TileHeight);
+        // Neighbours in a row of tiles make one part.
+        if (column > 0 && m_filledTiles[i - 1]) {
+            parts.back() |= tile;
+        } else {
+            parts.push_back(tile);
+        }
+    }
+    for (QRect &part : parts) {
+        part &= m_image.rect();
+    }
+    return parts;
+}

@@ -1,0 +1,94 @@
+#include "radar_painting/site_offsets.h"
+
+#include "geo/projector.h"
+#include "geo/wgs84.h"
+#include "view/geo_view.h"
+
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+// Pixels between nodes. The more ground lies between nodes, the more the plane bends there.
+int spacingFor(double metresPerPixel)
+{
+    return metresPerPixel > 2000.0 ? 16 : 32;
+}
+
+} // namespace
+
+SiteOffsets::SiteOffsets(Projector &projector, const GeoCoordinate &site, const GeoView &view)
+    : m_size(view.screenRect().size() * view.devicePixelRatio()), m_spacing(spacingFor(view.metresPerPixel())),
+      m_columns(m_size.width() / m_spacing + 2), m_rows(m_size.height() / m_spacing + 2)
+{
+    const QTransform toPlane =
+        QTransform::fromScale(1.0 / view.devicePixelRatio(), 1.0 / view.devicePixelRatio()) * view.planeTransform();
+    m_nodes.reserve(std::size_t(m_columns * m_rows));
+    for (int i = 0; i < m_columns * m_rows; ++i) {
+        const QPointF point = toPlane.map(QPointF(i % m_columns, i / m_columns) * m_spacing);
+        double latitude = 0.0;
+        double longitude = 0.0;
+        projector.toWgs84(&latitude, &longitude, point.x(), point.y());
+        // Beyond the 180th meridian the ground goes on at the other end of the plane.
+        const QGeoCoordinate place(std::clamp(latitude, -90.0, 90.0), std::remainder(longitude, 360.0));
+        const double distance = site.distanceTo(place);
+        const double azimuth = wgs84::radians(site.azimuthTo(place));
+        m_nodes.push_back({float(distance * std::sin(azimuth)), float(distance * std::cos(azimuth))});
+    }
+}
+
+void SiteOffsets::row(int y, float *east, float *north) const
+{
+    const int nodeRow = y / m_spacing;
+    const float down = (float(y - nodeRow * m_spacing) + 0.5f) / m_spacing;
+    const auto between = [down](const Offset &above, const Offset &below) {
+        return Offset{above.east + (below.east - above.east) * down, above.north + (below.north - above.north) * down};
+    };
+    Offset left = between(node(0, nodeRow), node(0, nodeRow + 1));
+    for (int column = 0; column * m_spacing < m_size.width(); ++column) {
+        const Offset right = between(node(column + 1, nodeRow), node(column + 1, nodeRow + 1));
+        const int first = column * m_spacing;
+        const int count = std::min(m_spacing, m_size.width() - first);
+        const Offset step{(right.east - left.east) / float(m_spacing), (right.north - left.north) / float(m_spacing)};
+        for (int i = 0; i < count; ++i) {
+            east[first + i] = left.east + step.east * (float(i) + 0.5f);
+            north[first + i] = left.north + step.north * (float(i) + 0.5f);
+        }
+        left = right;
+    }
+}
+
+double SiteOffsets::stepMetres(int column, int row) const
+{
+    const Offset &here = node(column, row);
+    const Offset &right = node(column + 1, row);
+    const Offset &below = node(column, row + 1);
+    return std::max(std::hypot(right.east - here.east, right.north - here.north),
+               std::hypot(below.east - here.east, below.north - here.north))
+        / m_spacing;
+}
+
+double SiteOffsets::pixelMetres(double withinMetres) const
+{
+    double longest = 0.0;
+    double nearest = std::numeric_limits<double>::max();
+    double nearestStep = 0.0;
+    for (int row = 0; row + 1 < m_rows; ++row) {
+        for (int column = 0; column + 1 < m_columns; ++column) {
+            const Offset &here = node(column, row);
+            const double distance = std::hypot(here.east, here.north);
+            const double step = stepMetres(column, row);
+            if (distance <= withinMetres) {
+                longest = std::max(longest, step);
+            }
+            if (distance < nearest) {
+                nearest = distance;
+                nearestStep = step;
+            }
+        }
+    }
+    return std::max(longest, nearestStep);
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "recognition/source_tally.h"
+#include "recognition/stream_hypothesis.h"
+
+// The messages are ASTERIX data blocks in an envelope.
+class AsterixHypothesis final : public StreamHypothesis {
+public:
+    explicit AsterixHypothesis(Config::AsterixFormat format) : m_format(format) { }
+
+    void add(std::span<const unsigned char> message, std::optional<qint64> timeMs) override;
+    qint64 explained() const override { return m_explained; }
+    void report(StreamFindings *findings) const override;
+
+private:
+    static constexpr int NoSource = -1;
+
+    void addBlock(std::optional<qint64> timeMs);
+    int sourceOfBlock() const;
+
+    Config::AsterixFormat m_format;
+    _ast_datablock_t m_block;
+    std::map<int, SourceTally> m_sources; // by SAC * 256 + SIC
+    qint64 m_explained = 0;
+    qint64 m_undecodable = 0;
+};
