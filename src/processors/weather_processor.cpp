@@ -48,7 +48,7 @@ void WeatherProcessor::procCat008Record(const _ast_datarecord_008_t &record)
     case EndOfPicture:
         return procEndOfPicture(record);
     default:
-        debug(tr("Weather Processor: Unsupported CAT008 message type: %1").arg(record.i000.type));
+        debug([&] { return tr("Weather Processor: Unsupported CAT008 message type: %1").arg(record.i000.type); });
     }
 }
 
@@ -73,20 +73,22 @@ void WeatherProcessor::procStartOfPicture(const _ast_datarecord_008_t &record)
         m_scale = record.i100.scalingFactor;
         m_scaleKnown = true;
     }
-    debug(tr("Weather Processor: SOP received (time of day: %1, scale factor: %2).")
-              .arg(timeText(m_timeOfDay), m_scaleKnown ? QString::number(m_scale) : QStringLiteral("N/A")));
+    debug([&] {
+        return tr("Weather Processor: SOP received (time of day: %1, scale factor: %2).")
+            .arg(timeText(m_timeOfDay), m_scaleKnown ? QString::number(m_scale) : QStringLiteral("N/A"));
+    });
 }
 
 bool WeatherProcessor::acceptsPolarVectors(const _ast_datarecord_008_t &record)
 {
     if (!m_inPicture) {
-        debug(tr("Weather Processor: Polar vectors received without SOP, record dropped."));
+        debug([] { return tr("Weather Processor: Polar vectors received without SOP, record dropped."); });
     } else if (!record.i020.present || !record.i034.present || record.i034.count == 0) {
-        debug(tr("Weather Processor: Polar vector record incomplete, record dropped."));
+        debug([] { return tr("Weather Processor: Polar vector record incomplete, record dropped."); });
     } else if (record.i020.systemCoordinates) {
         warn(tr("Weather Processor: Weather vectors in system coordinates are not supported, record dropped."));
     } else if (record.i020.test || record.i020.error) {
-        debug(tr("Weather Processor: Test or error polar vector, record dropped."));
+        debug([] { return tr("Weather Processor: Test or error polar vector, record dropped."); });
     } else if (!m_scaleKnown) {
         warn(tr("Weather Processor: No scaling factor received, weather vectors dropped."));
     } else {
@@ -105,10 +107,12 @@ void WeatherProcessor::procPolarVectors(const _ast_datarecord_008_t &record)
         const _ast_weather_polar_vector_t &vector = record.i034.vectors[i];
         m_vectors.append({record.i020.intensity, vector.startRange * unit, vector.endRange * unit, vector.azimuth});
     }
-    debug(tr("Weather Processor: %1 polar vector(s) received (intensity %2, total %3).")
-              .arg(record.i034.count)
-              .arg(record.i020.intensity)
-              .arg(m_vectors.size()));
+    debug([&] {
+        return tr("Weather Processor: %1 polar vector(s) received (intensity %2, total %3).")
+            .arg(record.i034.count)
+            .arg(record.i020.intensity)
+            .arg(m_vectors.size());
+    });
 }
 
 void WeatherProcessor::procEndOfPicture(const _ast_datarecord_008_t &record)
@@ -118,7 +122,9 @@ void WeatherProcessor::procEndOfPicture(const _ast_datarecord_008_t &record)
     }
     const int announced = record.i120.count;
     if (!record.i120.present) {
-        debug(tr("Weather Processor: EOP received, weather picture: %1 vector(s).").arg(m_vectors.size()));
+        debug([&] {
+            return tr("Weather Processor: EOP received, weather picture: %1 vector(s).").arg(m_vectors.size());
+        });
     } else {
         const bool complete = m_vectors.size() == announced;
         if (!complete) {
@@ -126,10 +132,12 @@ void WeatherProcessor::procEndOfPicture(const _ast_datarecord_008_t &record)
                      .arg(m_vectors.size())
                      .arg(announced));
         }
-        debug(tr("Weather Processor: EOP received, weather picture %1: %2 of %3 vector(s).")
-                  .arg(complete ? tr("complete") : tr("incomplete"))
-                  .arg(m_vectors.size())
-                  .arg(announced));
+        debug([&] {
+            return tr("Weather Processor: EOP received, weather picture %1: %2 of %3 vector(s).")
+                .arg(complete ? tr("complete") : tr("incomplete"))
+                .arg(m_vectors.size())
+                .arg(announced);
+        });
     }
     m_inPicture = false;
     const Picture picture{m_timeOfDay, std::exchange(m_vectors, {})};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/log_level.h"
+#include "app/log_gate.h"
 
 #include <QList>
 #include <QMetaType>
@@ -47,7 +47,14 @@ private:
     void procPolarVectors(const _ast_datarecord_008_t &record);
     void procEndOfPicture(const _ast_datarecord_008_t &record);
     bool acceptsPolarVectors(const _ast_datarecord_008_t &record);
-    void debug(const QString &text) { Q_EMIT message(LogLevel::Debug, text); }
+    // The text is made only where debug lines are shown.
+    template <typename MakeText>
+    void debug(MakeText makeText)
+    {
+        if (LogGate::isShown(LogLevel::Debug)) {
+            Q_EMIT message(LogLevel::Debug, makeText());
+        }
+    }
     void warn(const QString &text) { Q_EMIT message(LogLevel::Warning, text); }
 
     bool m_inPicture = false;
