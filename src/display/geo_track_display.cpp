@@ -1,12 +1,7 @@
 #include "display/geo_track_display.h"
 
 #include "app/config.h"
-#include "view/contrast.h"
-#include "view/geo_view.h"
 
-#include <QFontDatabase>
-#include <QLineF>
-#include <QSet>
 #include <QtMath>
 
 #include <algorithm>
@@ -14,29 +9,20 @@
 
 namespace {
 
-constexpr int DefaultSymbolSize = 24;
-constexpr int DefaultLabelPoints = 12;
-// Far enough up and to the right that a label of two or three lines leaves symbol and vector free.
-constexpr QPoint DefaultLabelOffset(26, 44);
 constexpr int MaximumTrailDots = 1000; // no track remembers more
-
-QFont defaultLabelFont()
-{
-    // The second family stands in where the first is not installed.
-    QFont font;
-    font.setFamilies({QStringLiteral("Cascadia Code"), QFontDatabase::systemFont(QFontDatabase::FixedFont).family()});
-    font.setStyleHint(QFont::Monospace);
-    font.setPointSize(DefaultLabelPoints);
-    return font;
-}
 
 } // namespace
 
-GeoTrackDisplay::GeoTrackDisplay(QObject *parent)
-    : QObject(parent), m_labelOffset(DefaultLabelOffset), m_symbols(DefaultSymbolSize, QColor())
+template <typename Value, typename Given>
+void GeoTrackDisplay::change(Value *value, const Given &given)
 {
-    setLabelFont(defaultLabelFont());
-    applyConfig(Config());
+    *value = given;
+    Q_EMIT polluted();
+}
+
+GeoTrackDisplay::GeoTrackDisplay(QObject *parent) : QObject(parent)
+{
+    setLabelFont(m_look.labelFont);
 }
 
 GeoTrackDisplay::~GeoTrackDisplay() = default;
@@ -44,7 +30,7 @@ GeoTrackDisplay::~GeoTrackDisplay() = default;
 void GeoTrackDisplay::setSnapshot(const QSharedPointer<const DisplaySnapshot> &snapshot)
 {
     m_snapshot = snapshot;
-    ++m_contentRevision;
+    m_labels.noteContentChange();
     m_tracksById.clear();
     if (m_snapshot) {
         m_tracksById.reserve(m_snapshot->tracks.size());
@@ -52,20 +38,18 @@ void GeoTrackDisplay::setSnapshot(const QSharedPointer<const DisplaySnapshot> &s
             m_tracksById.insert(track.incarnationId, &track);
         }
     }
-    const auto gone = [this](const auto &entry) { return !hasTrack(entry.key()); };
-    m_labelOffsets.removeIf(gone);
-    m_labelCache.removeIf(gone);
+    m_labelOffsets.removeIf([this](const auto &entry) { return !hasTrack(entry.key()); });
+    m_frame.tracks.clear(); // their labels go
+    m_labels.removeIf([this](unsigned long long id) { return !hasTrack(id); });
 }
 
 void GeoTrackDisplay::applyConfig(const Config &config)
 {
-    QColor background = config.trackLabelBackgroundColor;
-    background.setAlphaF(float(std::clamp(config.trackLabelBackgroundOpacity, 0, 100)) / 100.0f);
-    setSymbolColor(config.trackSymbolColor);
-    setLabelColor(config.trackLabelColor);
-    setLabelSelectedColor(config.trackLabelSelectedColor);
-    setLabelAlertColor(config.trackLabelAlertColor);
-    setLabelBackgroundColor(background);
+    m_look.layout = config.trackLabelLayout;
+    m_look.autoPlace = config.trackLabelAutoPlace;
+    m_frame.tracks.clear();
+    m_labels.clear();
+    change(&m_look.colors, TrackColors(config));
 }
 
 unsigned long long GeoTrackDisplay::findTrackBySymbolPosition(const QTransform &screenTransform, int x, int y) const
@@ -73,7 +57,7 @@ unsigned long long GeoTrackDisplay::findTrackBySymbolPosition(const QTransform &
     if (!m_snapshot) {
         return 0;
     }
-    const int reach = m_symbolSize / 2;
+    const int reach = m_look.symbolSize / 2;
     for (const TrackSnapshot &track : m_snapshot->tracks) {
         if (!track.carCoordinateValid) {
             continue;
@@ -126,105 +110,79 @@ bool GeoTrackDisplay::trackLabelOffsetDefault(unsigned long long id) const
 
 QPoint GeoTrackDisplay::trackLabelOffset(unsigned long long id) const
 {
-    return m_labelOffsets.value(id, m_labelOffset);
+    return m_labelOffsets.value(id, m_look.labelOffset);
 }
 
 void GeoTrackDisplay::setTrackLabelOffset(unsigned long long id, int x, int y)
 {
     m_labelOffsets.insert(id, QPoint(x, y));
-    noteChange();
-}
-
-void GeoTrackDisplay::noteChange()
-{
     Q_EMIT polluted();
-}
-
-void GeoTrackDisplay::clearLabelLayouts()
-{
-    m_labelCache.clear();
-    noteChange();
 }
 
 void GeoTrackDisplay::setTargetTypeSymbol(bool on)
 {
-    m_targetTypeSymbol = on;
-    noteChange();
+    change(&m_look.targetTypeSymbol, on);
 }
 
 void GeoTrackDisplay::setSensorTypeSymbol(bool on)
 {
-    m_sensorTypeSymbol = on;
-    noteChange();
+    change(&m_look.sensorTypeSymbol, on);
 }
 
 void GeoTrackDisplay::setSymbolColor(const QColor &color)
 {
-    m_symbols.setColor(color);
-    // Cosmetic lines of one pixel take the painter's quickest way.
-    m_symbolPen = QPen(color, 1);
-    m_symbolPen.setCosmetic(true);
-    m_coastingPen = m_symbolPen;
-    m_coastingPen.setStyle(Qt::DashLine);
-    m_trailColor = color;
-    noteChange();
+    change(&m_look.colors.symbol, color);
 }
 
 void GeoTrackDisplay::setSymbolSize(int pixels)
 {
-    m_symbolSize = std::max(1, pixels);
-    m_symbols.setSize(m_symbolSize);
-    noteChange();
+    change(&m_look.symbolSize, std::max(1, pixels));
 }
 
 void GeoTrackDisplay::setLabelFont(const QFont &font)
 {
-    m_labelFont = font;
+    m_look.labelFont = font;
     // Glyphs on whole pixels are sharper at this size, and cheaper to paint than at fractions of one.
-    m_labelFont.setHintingPreference(QFont::PreferFullHinting);
-    clearLabelLayouts();
+    m_look.labelFont.setHintingPreference(QFont::PreferFullHinting);
+    m_frame.tracks.clear();
+    m_labels.clear();
+    Q_EMIT polluted();
 }
 
 void GeoTrackDisplay::setLabelColor(const QColor &color)
 {
-    m_labelPen = QPen(color);
-    noteChange();
+    change(&m_look.colors.label, color);
 }
 
 void GeoTrackDisplay::setLabelSelectedColor(const QColor &color)
 {
-    m_labelSelectedPen = QPen(color);
-    noteChange();
+    change(&m_look.colors.labelSelected, color);
 }
 
 void GeoTrackDisplay::setLabelAlertColor(const QColor &color)
 {
-    m_labelAlertPen = QPen(color);
-    m_labelAlertGround = groundFor(color);
-    noteChange();
+    change(&m_look.colors.labelAlert, color);
 }
 
 void GeoTrackDisplay::setLabelBackgroundColor(const QColor &color)
 {
-    m_labelBackgroundColor = color;
-    noteChange();
+    change(&m_look.colors.labelBackground, color);
 }
 
 double GeoTrackDisplay::labelOffset() const
 {
-    return std::hypot(m_labelOffset.x(), m_labelOffset.y());
+    return std::hypot(labelOffsetX(), labelOffsetY());
 }
 
 double GeoTrackDisplay::labelAngle() const
 {
-    const double angle = qRadiansToDegrees(std::atan2(m_labelOffset.x(), m_labelOffset.y()));
+    const double angle = qRadiansToDegrees(std::atan2(labelOffsetX(), labelOffsetY()));
     return angle < 0.0 ? angle + 360.0 : angle;
 }
 
 void GeoTrackDisplay::setLabelOffset(int x, int y)
 {
-    m_labelOffset = QPoint(x, y);
-    noteChange();
+    change(&m_look.labelOffset, QPoint(x, y));
 }
 
 void GeoTrackDisplay::setLabelOffset(double length, double angle)
@@ -233,17 +191,15 @@ void GeoTrackDisplay::setLabelOffset(double length, double angle)
     setLabelOffset(qRound(length * std::sin(radians)), qRound(length * std::cos(radians)));
 }
 
-void GeoTrackDisplay::showLabel(bool visible)
-{
-    m_labelVisible = visible;
-    noteChange();
-}
-
 void GeoTrackDisplay::setField(bool TrackLabelFields::*field, bool visible)
 {
-    m_fields.*field = visible;
-    ++m_contentRevision;
-    noteChange();
+    m_labels.noteContentChange();
+    change(&(m_look.fields.*field), visible);
+}
+
+void GeoTrackDisplay::showLabel(bool visible)
+{
+    change(&m_look.labelVisible, visible);
 }
 
 void GeoTrackDisplay::showAlertIndicator(bool visible)
@@ -298,56 +254,47 @@ void GeoTrackDisplay::showHeading(bool visible)
 
 void GeoTrackDisplay::showBackground(bool visible)
 {
-    m_backgroundVisible = visible;
-    noteChange();
+    change(&m_look.backgroundVisible, visible);
 }
 
 void GeoTrackDisplay::setBackgroundPadding(int pixels)
 {
-    m_backgroundPadding = pixels;
-    noteChange();
+    change(&m_look.backgroundPadding, pixels);
 }
 
 void GeoTrackDisplay::showTrail(bool visible)
 {
-    m_trailVisible = visible;
-    noteChange();
-    Q_EMIT shownTrailDotsChanged(visible ? m_trailDots : 0);
+    change(&m_look.trailVisible, visible);
+    Q_EMIT shownTrailDotsChanged(visible ? m_look.trailDots : 0);
 }
 
 void GeoTrackDisplay::setTrailDots(int dots)
 {
-    m_trailDots = std::clamp(dots, 0, MaximumTrailDots);
-    noteChange();
-    Q_EMIT shownTrailDotsChanged(m_trailVisible ? m_trailDots : 0);
+    change(&m_look.trailDots, std::clamp(dots, 0, MaximumTrailDots));
+    Q_EMIT shownTrailDotsChanged(m_look.trailVisible ? m_look.trailDots : 0);
 }
 
 void GeoTrackDisplay::showVector(bool visible)
 {
-    m_vectorVisible = visible;
-    noteChange();
+    change(&m_look.vectorVisible, visible);
 }
 
 void GeoTrackDisplay::setVectorTimeMode(bool timeMode)
 {
-    m_vectorTimeMode = timeMode;
-    noteChange();
+    change(&m_look.vectorTimeMode, timeMode);
 }
 
 void GeoTrackDisplay::setVectorRange(int range)
 {
-    m_vectorRange = std::max(0, range);
-    noteChange();
+    change(&m_look.vectorRange, std::max(0, range));
 }
 
 void GeoTrackDisplay::showVectorTicks(bool visible)
 {
-    m_vectorTicksVisible = visible;
-    noteChange();
+    change(&m_look.vectorTicksVisible, visible);
 }
 
 void GeoTrackDisplay::setSelected(unsigned long long id)
 {
-    m_selectedTrack = id;
-    noteChange();
+    change(&m_selectedTrack, id);
 }

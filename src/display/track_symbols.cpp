@@ -11,7 +11,7 @@ static void loadSymbolResources()
     Q_INIT_RESOURCE(symbols);
 }
 
-TrackSymbols::TrackSymbols(int size, const QColor &color)
+TrackSymbols::TrackSymbols(int size, const QColor &color) : m_size(size), m_color(color)
 {
     static constexpr const char *Names[Count] = {
         "unknown", "psr", "ssr", "psr-ssr", "modes", "psr-modes", "adsb", "mlat", "smr", "aircraft", "vehicle"};
@@ -31,6 +31,10 @@ TrackSymbols::Symbol TrackSymbols::forTrackType(Track::Type type)
 
 void TrackSymbols::setSize(int size)
 {
+    if (size == m_size) {
+        return;
+    }
+    m_size = size;
     for (SvgSymbol &symbol : m_symbols) {
         symbol.setLogicalSize(QSize(size, size));
     }
@@ -39,6 +43,10 @@ void TrackSymbols::setSize(int size)
 
 void TrackSymbols::setColor(const QColor &color)
 {
+    if (color == m_color) {
+        return;
+    }
+    m_color = color;
     for (SvgSymbol &symbol : m_symbols) {
         symbol.setColor(color);
     }

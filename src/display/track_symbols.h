@@ -15,7 +15,7 @@ public:
     enum Symbol : int { Unknown, Psr, Ssr, PsrSsr, ModeS, PsrModeS, Adsb, Mlat, Smr, Aircraft, Vehicle, Count };
 
     // The size is in logical pixels, width and height.
-    TrackSymbols(int size, const QColor &color);
+    explicit TrackSymbols(int size = 24, const QColor &color = QColor());
 
     // A type that has no drawing of its own is unknown.
     static Symbol forTrackType(Track::Type type);
@@ -29,6 +29,8 @@ public:
     const QPixmap &aircraft(double degrees, double devicePixelRatio);
 
 private:
+    int m_size;
+    QColor m_color;
     std::vector<SvgSymbol> m_symbols;
     QHash<int, QPixmap> m_turnedAircraft; // by whole degrees
     double m_turnedRatio = 0.0;

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "display/track_label_lines.h"
+
+#include <QHash>
+#include <QSize>
+#include <QStaticText>
+
+#include <vector>
+
+class QFontMetricsF;
+struct TrackLook;
+
+// A track's label as it was last laid out; pixels.
+struct TrackLabelLayout {
+    struct Line {
+        QString text;
+        QStaticText staticText;
+        double width = 0.0;
+        double y = 0.0; // below the label's top
+        bool alert = false;
+    };
+
+    quint64 contentRevision = 0; // of what the text was made from; 0 before the first
+    TrackLabelLines content;
+    std::vector<Line> lines;
+    QSize size;
+    int alertHeight = 0; // of the alert line, 0 without one
+};
+
+// The laid-out labels of all tracks, by TrackSnapshot::incarnationId: laying out is what a label costs most, and mostly
+// its text is what it was at the last frame.
+class TrackLabelCache {
+public:
+    // The tracks or the choice of fields changed: texts are made again, and laid out again where they differ.
+    void noteContentChange() { ++m_contentRevision; }
+    // The font changed.
+    void clear() { m_labels.clear(); }
+    // Forgets tracks for which gone(id) holds.
+    template <typename Gone>
+    void removeIf(Gone &&gone)
+    {
+        m_labels.removeIf([&gone](const auto &entry) { return gone(entry.key()); });
+    }
+
+    void refresh(const TrackSnapshot &track, const TrackLook &look);
+    // Null for a track that was not refreshed, and for a label without text. Stays valid until the next refresh.
+    const TrackLabelLayout *find(unsigned long long id) const;
+
+private:
+    quint64 m_contentRevision = 1;
+    QHash<unsigned long long, TrackLabelLayout> m_labels;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QPen>
+
+class QPainter;
+struct ShownTrack;
+struct TrackFrame;
+
+// The line from a track to its label.
+class TrackLeaderPainter {
+public:
+    // Before the tracks of a frame.
+    void prepare(const TrackFrame &frame);
+    void paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown) const;
+
+private:
+    QPen m_pen;
+    QPen m_coastingPen;
+};

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "app/config.h"
+#include "display/track_label_lines.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPoint>
+#include <QRect>
+
+// The colours of tracks. The defaults are the settings' own.
+struct TrackColors {
+    QColor symbol; // and speed vector and trail
+    QColor casing; // round symbols
+    QColor leader;
+    QColor coasting;
+    QColor caution;
+    QColor label;
+    QColor labelDetail;
+    QColor labelSelected;
+    QColor labelAlert;
+    QColor labelAlertText; // on a ground of the alert colour
+    QColor labelBackground; // with its opacity
+
+    TrackColors() : TrackColors(Config()) { }
+    explicit TrackColors(const Config &config);
+};
+
+// Everything that decides how tracks are drawn, apart from the tracks. A plain value; sizes in pixels.
+struct TrackLook {
+    TrackLook();
+
+    // Pixels of ground round a label's text.
+    int shownPadding() const { return backgroundVisible ? backgroundPadding : 0; }
+    // The padding goes round the label, except below it.
+    QRect padded(const QRect &label) const
+    {
+        return label.adjusted(-shownPadding(), -shownPadding(), shownPadding(), 0);
+    }
+    bool showsLabels() const { return labelVisible && fields.any(); }
+    // Nothing that lies under a label can be seen.
+    bool hasOpaqueGround() const { return backgroundVisible && colors.labelBackground.alpha() == 255; }
+    QColor leaderColor() const { return isCompact() ? colors.leader : colors.symbol; }
+    bool isCompact() const { return layout == Config::TrackLabelLayout::Compact; }
+
+    TrackColors colors;
+    Config::TrackLabelLayout layout = Config::TrackLabelLayout::Standard;
+    bool autoPlace = false;
+
+    bool targetTypeSymbol = false; // an aircraft turned to its heading instead of the kind of surveillance
+    bool sensorTypeSymbol = true;
+    int symbolSize = 24;
+
+    QFont labelFont;
+    QPoint labelOffset; // from the track to the label's upper left corner, y upwards
+    bool labelVisible = true;
+    TrackLabelFields fields;
+    bool backgroundVisible = true;
+    int backgroundPadding = 3;
+
+    bool trailVisible = true;
+    int trailDots = 20;
+
+    bool vectorVisible = true;
+    bool vectorTimeMode = true;
+    int vectorRange = 1; // minutes in time mode, else nautical miles
+    bool vectorTicksVisible = true;
+};

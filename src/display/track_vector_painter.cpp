@@ -1,0 +1,60 @@
+#include "display/track_vector_painter.h"
+
+#include "display/track_frame.h"
+#include "display/track_pens.h"
+#include "geo/wgs84.h"
+
+#include <QPainter>
+#include <QtMath>
+
+#include <cmath>
+
+namespace {
+
+constexpr int TickReach = 2; // pixels to either side of a vector
+
+// The direction of an angle in degrees clockwise from the top of the screen.
+QPointF direction(double degrees)
+{
+    const double radians = qDegreesToRadians(degrees);
+    return QPointF(std::sin(radians), -std::cos(radians));
+}
+
+// Pixels for a minute's travel or a nautical mile; 0 when the speed is not known.
+double unitPixels(const TrackFrame &frame, const TrackSnapshot &track)
+{
+    const double pixelsPerMile = wgs84::MetresPerNauticalMile / frame.view.metresPerPixel();
+    if (!frame.look.vectorTimeMode) {
+        return pixelsPerMile;
+    }
+    return track.groundSpeedValid && track.groundSpeed > 0.0 ? track.groundSpeed / 60.0 * pixelsPerMile : 0.0;
+}
+
+} // namespace
+
+void TrackVectorPainter::prepare(const TrackFrame &frame)
+{
+    const double ratio = frame.view.devicePixelRatio();
+    m_pen = trackLinePen(frame.look.colors.symbol, ratio);
+    m_coastingPen = trackLinePen(frame.look.colors.symbol, ratio, Qt::DashLine);
+}
+
+void TrackVectorPainter::paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown)
+{
+    const TrackLook &look = frame.look;
+    const double unit = look.vectorVisible && shown.track->headingValid ? unitPixels(frame, *shown.track) : 0.0;
+    const double length = unit * look.vectorRange;
+    if (length < 1.0) {
+        return;
+    }
+    const QPointF ahead = direction(shown.track->heading + frame.view.rotation());
+    const QPointF across = QPointF(-ahead.y(), ahead.x()) * TickReach;
+    m_lines.clear();
+    m_lines.emplace_back(shown.place, shown.place + ahead * length);
+    for (int i = 1; i < look.vectorRange && look.vectorTicksVisible; ++i) {
+        const QPointF tick = shown.place + ahead * (i * unit);
+        m_lines.emplace_back(tick - across, tick + across);
+    }
+    painter->setPen(shown.track->coasting ? m_coastingPen : m_pen);
+    painter->drawLines(m_lines.data(), int(m_lines.size()));
+}
