@@ -5,7 +5,7 @@
 # and to no other, so an include of a higher floor, or of a folder that is not linked, does not compile.
 # MOC: the folder has classes with Q_OBJECT, Q_GADGET or Q_NAMESPACE, or resources.
 function(vyx_folder_library folder)
-    cmake_parse_arguments(ARG "MOC" "PCH" "LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "MOC;UNITY" "PCH" "LINKS" ${ARGN})
     set(target vyx_${folder})
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
     list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
@@ -17,9 +17,18 @@ function(vyx_folder_library folder)
     target_link_libraries(${target} PUBLIC ${ARG_LINKS})
     set_target_properties(${target} PROPERTIES AUTOMOC ${ARG_MOC} AUTORCC ${ARG_MOC})
     vyx_use_pch(${target} "${ARG_PCH}")
+    if(ARG_UNITY)
+        vyx_use_unity(${target})
+    endif()
 endfunction()
 
 # Shares one precompiled set of headers among the targets of a kind: core (Qt Core and Gui) or widgets.
+# A folder that asks for it is compiled several sources at a time where nobody works on single ones. Its sources then
+# share one anonymous namespace.
+function(vyx_use_unity target)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD "${VYX_UNITY}" UNITY_BUILD_BATCH_SIZE 6)
+endfunction()
+
 function(vyx_use_pch target kind)
     if(VYX_QUICK_BUILD AND kind)
         target_precompile_headers(${target} REUSE_FROM vyx_pch_${kind})
@@ -33,7 +42,7 @@ endfunction()
 # a screen in a process of its own. APPLICATION: the kind of application object that the tests run in. FIXTURES: other
 # test folders whose headers are used. EXCEPT: files that are not built here, without their ending.
 function(vyx_test_folder folder)
-    cmake_parse_arguments(ARG "" "PCH;APPLICATION" "LINKS;FIXTURES;SOURCES;EXCEPT" ${ARGN})
+    cmake_parse_arguments(ARG "UNITY" "PCH;APPLICATION" "LINKS;FIXTURES;SOURCES;EXCEPT" ${ARGN})
     set(target tests_${folder})
     file(GLOB files CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/tst_*.cpp)
     list(TRANSFORM ARG_EXCEPT PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
@@ -58,6 +67,9 @@ function(vyx_test_folder folder)
         target_compile_definitions(${target} PRIVATE VYX_TEST_APPLICATION=QCoreApplication)
     endif()
     vyx_use_pch(${target} "${ARG_PCH}")
+    if(ARG_UNITY)
+        vyx_use_unity(${target})
+    endif()
     foreach(file IN LISTS files)
         cmake_path(GET file STEM name)
         add_test(NAME ${folder}/${name} COMMAND ${target} ${name})

@@ -7,8 +7,8 @@
 #include "sensors/sensor_info.h"
 #include "view/geo_view.h"
 #include "view/map_text.h"
+#include "view/steady_clock.h"
 
-#include <QElapsedTimer>
 #include <QPainter>
 
 #include <algorithm>
@@ -20,13 +20,6 @@ constexpr double SiteDotRadius = 2.5; // pixels
 constexpr double SiteRingRadius = 6.5;
 constexpr double NameDistance = 17.0; // pixels below the site
 constexpr double RimWithoutCoverage = 60.0; // nautical miles
-
-std::function<qint64()> steadyClock()
-{
-    QElapsedTimer timer;
-    timer.start();
-    return [timer] { return timer.elapsed(); };
-}
 
 // Nautical miles, largest first, without zeros and repetitions.
 std::vector<double> ringsOf(const SensorInfo &sensor)

@@ -7,8 +7,8 @@
 #include "radar_painting/video_raster.h"
 #include "sensors/smr_sensor_info.h"
 #include "view/geo_view.h"
+#include "view/steady_clock.h"
 
-#include <QElapsedTimer>
 #include <QPainter>
 
 #include <algorithm>
@@ -45,13 +45,6 @@ std::optional<QPoint> wholePixelShift(const QTransform &from, const QTransform &
         return std::nullopt;
     }
     return shift.toPoint();
-}
-
-std::function<qint64()> steadyClock()
-{
-    QElapsedTimer timer;
-    timer.start();
-    return [timer] { return timer.elapsed(); };
 }
 
 } // namespace

@@ -4,20 +4,13 @@
 #include "geo/projector.h"
 #include "sensors/sensor_info.h"
 #include "view/geo_view.h"
+#include "view/steady_clock.h"
 
-#include <QElapsedTimer>
 #include <QPainter>
 
 #include <algorithm>
 
 namespace {
-
-std::function<qint64()> steadyClock()
-{
-    QElapsedTimer timer;
-    timer.start();
-    return [timer] { return timer.elapsed(); };
-}
 
 bool isLevel(int level)
 {
