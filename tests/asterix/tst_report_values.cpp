@@ -161,6 +161,15 @@ private Q_SLOTS:
         QCOMPARE(ground("40 0100", "2.7"), 0);
         QCOMPARE(ground("40 FE", "2.7"), 0); // the octet with the bit is not sent
         QCOMPARE(ground("80 1903", "2.7"), -1);
+        const auto status = [](const char *record, const char *edition) {
+            const Octets octets = Octets::block(21, record);
+            const auto found = ast_datarecord_021_get_targetstatus(Decoded(octets, 21, edition).record());
+            return QList<int>{found.present, found.priority, found.militaryEmergency, found.spi};
+        };
+        QCOMPARE(status("410102 0200 05", "0.26"), QList<int>({1, 5, 0, 1}));
+        QCOMPARE(status("01010140 37", "2.7"), QList<int>({1, 5, 1, 1}));
+        QCOMPARE(status("01010140 15", "2.1"), QList<int>({1, 5, 0, 0}));
+        QCOMPARE(status("40 FE", "2.7"), QList<int>({0, 0, 0, 0}));
         // The bit that says "range exceeded" belongs to no value.
         const Octets exceeded = Octets::block(21, "0101012980 FFFF 84004000 599631CB3820");
         const Decoded beyond(exceeded, 21, "2.1");

@@ -58,6 +58,11 @@ const Twin<_ast_datarecord_048_t> twins048[] = {
     {"230/STAT", [](const auto &r) { return r.i230.present ? r.i230.stat : absent; }},
 };
 
+double age(const _ast_update_age_t &age)
+{
+    return age.present ? age.seconds : absent;
+}
+
 const Twin<_ast_datarecord_062_t> twins062[] = {
     {"070", [](const auto &r) { return r.i070.present ? r.i070.seconds : absent; }},
     {"105/LAT", [](const auto &r) { return r.i105.present ? r.i105.latitude : absent; }},
@@ -69,6 +74,13 @@ const Twin<_ast_datarecord_062_t> twins062[] = {
     {"380/BVR", [](const auto &r) { return r.i380.verticalRatePresent ? r.i380.verticalRate : absent; }},
     {"380/GS", [](const auto &r) { return r.i380.groundSpeedPresent ? r.i380.groundSpeed : absent; },
         KnotsPerNauticalMileASecond},
+    {"380/COM/STAT", [](const auto &r) { return r.i380.flightStatusPresent ? r.i380.flightStatus : absent; }},
+    {"380/SAB/STAT", [](const auto &r) { return r.i380.priorityStatusPresent ? r.i380.priorityStatus : absent; }},
+    {"290/PSR", [](const auto &r) { return age(r.i290.psr); }},
+    {"290/MDS", [](const auto &r) { return age(r.i290.modeS); }},
+    {"290/ES", [](const auto &r) { return age(r.i290.es); }},
+    {"290/MLT", [](const auto &r) { return age(r.i290.mlat); }},
+    {"340/TYP/TYP", [](const auto &r) { return r.i340.typePresent ? r.i340.type : absent; }},
     {"040", [](const auto &r) { return r.i040.present ? r.i040.trackNumber : absent; }},
     {"136", [](const auto &r) { return r.i136.present ? r.i136.level : absent; }, 4},
     {"130", [](const auto &r) { return r.i130.present ? r.i130.altitude : absent; }},
@@ -211,7 +223,7 @@ private Q_SLOTS:
         // What comes after a repeated sub-item is found beyond all of its repetitions.
         QVERIFY(track.i380.verticalRate == -625 && track.i380.trackAngle == 270 && track.i380.groundSpeed == 450);
         QVERIFY(track.i080.mon && track.i080.spi && !track.i080.mrh && track.i080.src == 4 && track.i080.cnf);
-        QVERIFY(track.i080.sim && track.i080.tse && !track.i080.tsb && track.i080.cst);
+        QVERIFY(track.i080.sim && track.i080.tse && !track.i080.tsb && track.i080.cst && !track.i080.psrOld);
         QVERIFY(track.i200.trans == 1 && track.i200.longitudinal == 2 && track.i200.vertical == 1 && track.i200.adf);
         QVERIFY(track.i040.trackNumber == 1234 && track.i136.level == -5 && track.i130.altitude == 6250);
         QVERIFY(track.i135.qnhApplied && track.i135.level == -5 && track.i220.rate == -1250);

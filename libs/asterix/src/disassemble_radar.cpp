@@ -20,8 +20,9 @@ void readPosition001(_ast_datarecord_001_t &out, Items items)
 void readDescriptor048(_ast_datarecord_048_t &out, const unsigned char *at)
 {
     if (at) {
-        out.i020 = {
-            true, static_cast<std::uint8_t>(at[0] >> 5), bit(at[0], 4), bit(at[0], 3), bit(at[0], 2), bit(at[0], 1)};
+        const auto [first, second] = readExtents<2>(at);
+        out.i020 = {true, static_cast<std::uint8_t>(first >> 5), bit(first, 4), bit(first, 3), bit(first, 2),
+            bit(first, 1), bit(second, 4)};
     }
 }
 
@@ -76,8 +77,9 @@ void ast_datarecord_001_disassemble(_ast_datarecord_001_t *out, const _ast_datar
     const Items items(record);
     out->i010 = readSacSic(items[Item001::I010]);
     if (const unsigned char *at = items[Item001::I020]) {
-        out->i020 = {true, static_cast<std::uint8_t>(at[0] >> 7), static_cast<std::uint8_t>(at[0] >> 4 & 3),
-            bit(at[0], 6), bit(at[0], 2), bit(at[0], 1)};
+        const auto [first, second] = readExtents<2>(at);
+        out->i020 = {true, static_cast<std::uint8_t>(first >> 7), static_cast<std::uint8_t>(first >> 4 & 3),
+            bit(first, 6), bit(first, 2), bit(first, 1), static_cast<std::uint8_t>(second >> 5 & 3), bit(second, 4)};
     }
     if (const unsigned char *at = items[Item001::I161]) {
         out->i161 = {true, static_cast<std::uint16_t>(be16(at))};

@@ -13,6 +13,8 @@ enum AircraftDerived : unsigned {
     MagneticHeading = 2,
     SelectedAltitude = 5,
     FinalSelectedAltitude = 6,
+    Communications = 9,
+    AdsbStatus = 10,
     BarometricRate = 12,
     TrackAngle = 16,
     GroundSpeed = 17
@@ -46,6 +48,14 @@ void readAircraftDerivedField(_ast_datarecord_062_t &out, unsigned position, con
     case FinalSelectedAltitude:
         derived.finalSelectedAltitudePresent = true;
         derived.finalSelectedAltitude = altitude13(at);
+        break;
+    case Communications:
+        derived.flightStatusPresent = true;
+        derived.flightStatus = at[0] >> 2 & 7;
+        break;
+    case AdsbStatus:
+        derived.priorityStatusPresent = true;
+        derived.priorityStatus = at[1] & 7;
         break;
     case BarometricRate:
         derived.verticalRatePresent = true;
@@ -95,10 +105,41 @@ void readStatus(_ast_datarecord_062_t &out, const unsigned char *at)
     if (!at) {
         return;
     }
-    const auto extents = readExtents<4>(at);
-    out.i080 = {true, bit(extents[0], 7), bit(extents[0], 6), bit(extents[0], 5),
-        static_cast<std::uint8_t>(extents[0] >> 2 & 7), bit(extents[0], 1), bit(extents[1], 7), bit(extents[1], 6),
-        bit(extents[1], 5), bit(extents[3], 7)};
+    const auto [first, second, third, fourth, fifth] = readExtents<5>(at);
+    out.i080 = {true, bit(first, 7), bit(first, 6), bit(first, 5), static_cast<std::uint8_t>(first >> 2 & 7),
+        bit(first, 1), bit(second, 7), bit(second, 6), bit(second, 5), bit(third, 4), bit(third, 0), bit(fourth, 7),
+        bit(fourth, 6), bit(fourth, 5), bit(fourth, 4), bit(fourth, 3), static_cast<std::uint8_t>(fifth >> 3 & 7)};
+}
+
+void readUpdateAges(_ast_datarecord_062_t &out, const _ast_datarecord_t &record, const unsigned char *at)
+{
+    constexpr double Lsb = 0.25; // seconds
+    if (!at) {
+        return;
+    }
+    auto &ages = out.i290;
+    ages.present = true;
+    // By position in the presence field. All but the one that is not read are of one octet.
+    _ast_update_age_t *const places[] = {
+        nullptr, &ages.psr, &ages.ssr, &ages.modeS, nullptr, &ages.es, &ages.vdl, &ages.uat, nullptr, &ages.mlat};
+    visitSubItems(record, Item062::I290, at, [&places](unsigned position, const unsigned char *next) {
+        if (position < std::size(places) && places[position]) {
+            *places[position] = {true, next[0] * Lsb};
+        }
+    });
+}
+
+void readMeasured(_ast_datarecord_062_t &out, const _ast_datarecord_t &record, const unsigned char *at)
+{
+    constexpr unsigned ReportType = 5; // position in the presence field
+    if (!at) {
+        return;
+    }
+    visitSubItems(record, Item062::I340, at, [&out](unsigned position, const unsigned char *next) {
+        if (position == ReportType) {
+            out.i340 = {true, static_cast<std::uint8_t>(next[0] >> 5)};
+        }
+    });
 }
 
 void readKinematics(_ast_datarecord_062_t &out, Items items)
@@ -165,5 +206,7 @@ void ast_datarecord_062_disassemble(_ast_datarecord_062_t *out, const _ast_datar
         out->i040 = {true, static_cast<std::uint16_t>(be16(at))};
     }
     readStatus(*out, items[Item062::I080]);
+    readUpdateAges(*out, record, items[Item062::I290]);
+    readMeasured(*out, record, items[Item062::I340]);
     readLevels(*out, items);
 }

@@ -45,6 +45,11 @@ constexpr Source Sources[] = {
     {21, ReportField::Latitude, "130/LAT"},
     {21, ReportField::Longitude, "130/LON"},
     {21, ReportField::GroundBit, "040/GBS"},
+    {21, ReportField::PriorityStatus, "200"}, // editions 0.23 and 0.26
+    {21, ReportField::PriorityStatus, "200/PS"}, // from 2.1 on
+    {21, ReportField::SurveillanceStatus, "200/SS"},
+    {21, ReportField::MilitaryEmergency, "200/ME"},
+    {21, ReportField::Spi, "040/SPI"}, // editions 0.23 and 0.26
     {21, ReportField::Mode3A, "070/MODE3A"},
     {21, ReportField::Mode3ANotValidated, "070/V"},
     {21, ReportField::Mode3AGarbled, "070/G"},

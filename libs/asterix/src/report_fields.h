@@ -31,6 +31,10 @@ enum class ReportField : std::uint8_t {
     SelectedAltitude,
     VerticalRate,
     GroundBit,
+    PriorityStatus,
+    SurveillanceStatus,
+    MilitaryEmergency,
+    Spi,
     Count
 };
 

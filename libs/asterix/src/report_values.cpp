@@ -131,6 +131,16 @@ _ast_item_mode3a_t ast_datarecord_021_get_squawk(const _ast_datarecord_t &record
         findFlag(record, ReportField::Mode3ASmoothed), static_cast<std::uint16_t>(found->bits)};
 }
 
+_ast_target_status_t ast_datarecord_021_get_targetstatus(const _ast_datarecord_t &record)
+{
+    constexpr std::uint64_t SpiSet = 3;
+    const auto priority = findBits(record, ReportField::PriorityStatus);
+    const auto surveillance = findBits(record, ReportField::SurveillanceStatus);
+    const bool spi = (surveillance && surveillance->bits == SpiSet) || findFlag(record, ReportField::Spi);
+    return {priority.has_value(), static_cast<std::uint8_t>(priority ? priority->bits : 0),
+        findFlag(record, ReportField::MilitaryEmergency), spi};
+}
+
 _ast_speed_t ast_datarecord_get_speed(const _ast_datarecord_t &record)
 {
     const auto velocity = findVelocity(record);

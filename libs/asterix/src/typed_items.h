@@ -23,7 +23,7 @@ enum class Item034 : std::uint8_t { I010, I000, I030, I020, I041, I120 };
 enum class Item048 : std::uint8_t {
     I010, I140, I020, I040, I070, I090, I220, I240, I250, I161, I042, I200, I170, I230 };
 enum class Item062 : std::uint8_t {
-    I010, I070, I105, I100, I185, I060, I245, I380, I040, I080, I200, I136, I130, I135, I220, I390 };
+    I010, I070, I105, I100, I185, I060, I245, I380, I040, I080, I200, I136, I130, I135, I220, I390, I290, I340 };
 enum class Item240 : std::uint8_t { I010, I000, I020, I030, I040, I041, I048, I049, I050, I051, I052, I140 };
 // clang-format on
 

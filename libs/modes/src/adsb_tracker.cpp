@@ -157,6 +157,8 @@ void ADSBTracker::takeContent(ADSBTarget &target, const ModeSMessage &message)
     } else if (const auto *const identification = std::get_if<Identification>(&content)) {
         takeCallsign(target, identification->callsign, time);
     } else if (const auto *const emergency = std::get_if<EmergencyStatus>(&content)) {
+        target.m_emergency = emergency->emergency;
+        target.m_emergencyTime = time;
         if (emergency->squawk) {
             target.m_squawk = emergency->squawk;
             target.m_squawkTime = time;

@@ -14,6 +14,8 @@ struct _ast_datarecord_001_t {
         bool sim;
         bool spi;
         bool rab;
+        std::uint8_t emergency; // DS1/DS2: 0 none, 1 unlawful interference, 2 radio failure, 3 emergency
+        bool me; // military emergency; this and the one before: second extent, zero where it is not sent
     } i020;
     struct {
         bool present;
@@ -94,6 +96,7 @@ struct _ast_datarecord_048_t {
         bool rdp;
         bool spi;
         bool rab;
+        bool me; // military emergency; second extent, false where it is not sent
     } i020;
     _ast_item_polar_t i040;
     _ast_item_mode3a_t i070;

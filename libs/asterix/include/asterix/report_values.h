@@ -33,6 +33,13 @@ struct _ast_ground_bit_t {
     bool onGround; // false as well where its extent is not sent
 };
 
+struct _ast_target_status_t {
+    bool present;
+    std::uint8_t priority; // 0 no emergency, 1 general, 4 no communications, 5 unlawful interference, 6 downed, ...
+    bool militaryEmergency;
+    bool spi; // also where only I021/040 says so, with present false
+};
+
 // I021/080, I010/220, I020/220, I048/220, I062/380 ADR.
 _ast_item_address_t ast_datarecord_get_icaoaddr(const _ast_datarecord_t &record);
 // I021/170, I010/245, I020/245, I048/240, I062/245 else I062/380 ID.
@@ -44,6 +51,8 @@ _ast_item_wgs84_t ast_datarecord_get_wgs84coord(const _ast_datarecord_t &record)
 _ast_item_mode3a_t ast_datarecord_021_get_squawk(const _ast_datarecord_t &record);
 // I021/040 GBS. Of CAT021 only.
 _ast_ground_bit_t ast_datarecord_021_get_groundbit(const _ast_datarecord_t &record);
+// I021/200, in the editions 0.23 and 0.26 with I021/040 SPI. Of CAT021 only.
+_ast_target_status_t ast_datarecord_021_get_targetstatus(const _ast_datarecord_t &record);
 // I021/160, I001/200, I010/200, I048/200; of the Cartesian velocity I010/202, I020/202, I062/185 otherwise.
 _ast_speed_t ast_datarecord_get_speed(const _ast_datarecord_t &record);
 // The same items; magnetic I021/152 and I062/380 MHG.

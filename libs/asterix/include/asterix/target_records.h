@@ -153,6 +153,12 @@ struct _ast_datarecord_020_t {
     } i260;
 };
 
+// How long ago a system track was last updated by one kind of sensor.
+struct _ast_update_age_t {
+    bool present;
+    double seconds;
+};
+
 struct _ast_datarecord_062_t {
     bool valid;
     _ast_sacsic_t i010;
@@ -195,6 +201,11 @@ struct _ast_datarecord_062_t {
         double groundSpeed; // knots
         bool trackAnglePresent; // TAN
         double trackAngle; // degrees
+        bool flightStatusPresent; // COM
+        std::uint8_t flightStatus; // STAT, as in I048/230
+        bool priorityStatusPresent; // SAB
+        std::uint8_t
+            priorityStatus; // STAT: 0 no emergency, 1 general, 4 no communications, 5 unlawful interference, ...
     } i380;
     struct {
         bool callsignPresent; // CS, the flight plan's
@@ -214,8 +225,29 @@ struct _ast_datarecord_062_t {
         bool sim; // second extent; false where it is not sent
         bool tse; // track service end
         bool tsb; // track service begin
-        bool cst; // coasting, fourth extent; false where it is not sent
+        bool me; // military emergency, third extent; false where it is not sent
+        bool agesPresent; // the fourth extent is sent; where it is not, the five that follow are false
+        bool cst; // coasting
+        bool psrOld; // PSR, SSR, MDS, ADS: the last report of the kind is older than the system's threshold
+        bool ssrOld;
+        bool modeSOld;
+        bool adsbOld;
+        std::uint8_t ems; // emergency, as i380.priorityStatus; fifth extent, zero where it is not sent
     } i080;
+    struct {
+        bool present;
+        _ast_update_age_t psr;
+        _ast_update_age_t ssr;
+        _ast_update_age_t modeS; // MDS
+        _ast_update_age_t es; // ADS-B by 1090 MHz, VDL mode 4 and UAT
+        _ast_update_age_t vdl;
+        _ast_update_age_t uat;
+        _ast_update_age_t mlat; // MLT
+    } i290;
+    struct {
+        bool typePresent; // TYP
+        std::uint8_t type; // of the last measured report, as I048/020 TYP
+    } i340;
     struct {
         bool present;
         std::uint8_t trans;

@@ -13,6 +13,7 @@ namespace korvane::modes {
 class ADSBTarget {
 public:
     static constexpr unsigned long long PositionLife = 60000; // milliseconds
+    static constexpr unsigned long long EmergencyLife = 60000;
     static constexpr unsigned long long ValueLife = 300000; // of all the others
 
     std::uint32_t icaoAddr() const { return m_address; }
@@ -26,6 +27,9 @@ public:
     std::uint16_t squawk() const { return m_squawk.value_or(0); } // binary value of the octal digits
     bool squawkValid() const { return isFresh(m_squawkTime, ValueLife); }
     bool squawkExpired() const { return hasExpired(m_squawkTime, ValueLife); }
+
+    // 0 none, 1 general, 2 medical, 3 fuel, 4 radio, 5 unlawful interference, 6 downed, as heard in the last minute.
+    std::uint8_t emergency() const { return isFresh(m_emergencyTime, EmergencyLife) ? m_emergency : 0; }
 
     double latitude() const { return m_position ? m_position->latitude : 0; } // degrees, WGS-84
     double longitude() const { return m_position ? m_position->longitude : 0; }
@@ -73,6 +77,8 @@ private:
     Time m_callsignTime;
     std::optional<std::uint16_t> m_squawk;
     Time m_squawkTime;
+    std::uint8_t m_emergency = 0;
+    Time m_emergencyTime;
     std::optional<LatLon> m_position; // kept beyond its life: it vouches for the next
     Time m_positionTime; // kept when the position is given up
     std::optional<Report> m_reports[2]; // even, odd
