@@ -131,6 +131,26 @@ QString rateLine(const TrackSnapshot &track, const TrackLabelFields &fields)
 
 } // namespace
 
+QString trackMarks(const TrackSnapshot &track)
+{
+    QString marks = Track::emergencyString(track.emergency);
+    if (track.spi) {
+        appendBlank(marks);
+        marks += QLatin1String("SPI");
+    }
+    return marks;
+}
+
+QString trackName(const TrackSnapshot &track)
+{
+    const QLatin1Char zero('0');
+    if (track.callsignValid) {
+        return track.callsign;
+    }
+    return track.modeACodeValid ? QStringLiteral("A%1").arg(track.modeACode, 4, 8, zero)
+                                : QStringLiteral("#%1").arg(track.trackNumber, 4, 10, zero);
+}
+
 bool TrackLabelFields::any() const
 {
     return *this != TrackLabelFields{false, false, false, false, false, false, false, false, false, false};
@@ -141,6 +161,7 @@ TrackLabelLines trackLabelLines(const TrackSnapshot &track, const TrackLabelFiel
     TrackLabelLines lines;
     if (fields.alertIndicator) {
         lines.text[TrackLabelLines::Alert] = track.alertsString;
+        lines.text[TrackLabelLines::Mark] = trackMarks(track);
     }
     lines.text[TrackLabelLines::Identity] = identityLine(track, fields);
     lines.text[TrackLabelLines::Callsign] = callsignLine(track, fields);

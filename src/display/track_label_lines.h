@@ -25,11 +25,17 @@ struct TrackLabelFields {
 
 // The lines of a track label from top to bottom. A place for each kind of line; an empty one is not shown.
 struct TrackLabelLines {
-    enum Line { Alert, Identity, Callsign, Level, Rate, Count };
+    enum Line { Alert, Mark, Identity, Callsign, Level, Rate, Count };
 
     std::array<QString, Count> text;
 
     bool operator==(const TrackLabelLines &other) const = default;
 };
+
+// What the aircraft says of itself beside its alerts: "HIJ", "RDO" or "EMG", and "SPI"; empty for most.
+QString trackMarks(const TrackSnapshot &track);
+
+// What to call a track by: its callsign, else "A7000" by its Mode A code, else "#0042" by its number.
+QString trackName(const TrackSnapshot &track);
 
 TrackLabelLines trackLabelLines(const TrackSnapshot &track, const TrackLabelFields &fields);

@@ -34,9 +34,20 @@ QJsonArray trailArray(const QList<QPointF> &trail)
     return points;
 }
 
+// What few tracks have: the keys are there only for those.
+void addRarities(QJsonObject &object, const TrackSnapshot &track)
+{
+    if (track.emergency != Track::NoEmergency) {
+        object["emergency"] = Track::emergencyString(track.emergency);
+    }
+    if (track.spi) {
+        object["spi"] = true;
+    }
+}
+
 QJsonObject trackObject(const TrackSnapshot &track)
 {
-    return {
+    QJsonObject object{
         {"trackNumber", static_cast<qint64>(track.trackNumber)},
         {"icaoAddr", valueOrNull(track.icaoAddrValid, track.icaoAddrString)},
         {"callsign", valueOrNull(track.callsignValid, track.callsign)},
@@ -59,6 +70,8 @@ QJsonObject trackObject(const TrackSnapshot &track)
         {"alerts", track.alertsString},
         {"trail", trailArray(track.trail)},
     };
+    addRarities(object, track);
+    return object;
 }
 
 QJsonObject sideObject(const AlertSnapshot::TrackSide &side)

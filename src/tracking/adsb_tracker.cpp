@@ -24,6 +24,17 @@ void setIdentity(Track &track, const korvane::modes::ADSBTarget &target)
     }
 }
 
+void setStatus(Track &track, const _ast_datarecord_t &record, const QDateTime &now)
+{
+    const auto status = ast_datarecord_021_get_targetstatus(record);
+    auto emergency = reports::emergencyOf(status.priority);
+    if (emergency == Track::NoEmergency && status.militaryEmergency) {
+        emergency = Track::GeneralEmergency;
+    }
+    reports::setEmergency(track, status.present ? std::optional(emergency) : std::nullopt, now);
+    track.setSpi(status.spi);
+}
+
 void setMovement(Track &track, const _ast_datarecord_t &record)
 {
     const auto speed = ast_datarecord_get_speed(record);
@@ -96,6 +107,7 @@ void AdsbTracker::procCat021Record(const _ast_datarecord_t &record)
         project(*track);
     }
     reports::setModeA(*track, ast_datarecord_021_get_squawk(record));
+    setStatus(*track, record, now);
     setMovement(*track, record);
     setVerticalMovement(*track, record, now);
     track->recordHistory(now);
@@ -140,6 +152,7 @@ void AdsbTracker::procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMe
 void AdsbTracker::takeTarget(Track &track, const korvane::modes::ADSBTarget &target) const
 {
     setIdentity(track, target);
+    reports::setEmergency(track, reports::emergencyOf(target.emergency()), trackManager().now());
     if (target.positionValid()) {
         track.setGeoCoordinate({target.latitude(), target.longitude()});
         project(track);

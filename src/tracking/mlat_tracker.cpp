@@ -75,6 +75,7 @@ void MlatTracker::procCat020Message(const _ast_datarecord_020_t &record)
     }
     placeReported(*track, record.i010, record.i041, record.i042);
     reports::setModeA(*track, record.i070);
+    track->setSpi(record.i020.spi || (record.i230.present && reports::isSpi(record.i230.stat)));
     const bool levelKnown = track->levelValid();
     const int previousLevel = track->level();
     reports::setLevel(*track, levelOf(record));

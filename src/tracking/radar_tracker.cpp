@@ -30,6 +30,14 @@ std::optional<int> levelOf(const _ast_item_flight_level_t &item)
     return item.present && !item.g ? std::optional(item.level * FeetPerQuarterLevel) : std::nullopt;
 }
 
+Track::Emergency emergencyOf(const _ast_datarecord_001_t &record)
+{
+    constexpr Track::Emergency Emergencies[] = {
+        Track::NoEmergency, Track::UnlawfulInterference, Track::RadioFailure, Track::GeneralEmergency};
+    const auto emergency = Emergencies[record.i020.emergency & 3];
+    return emergency == Track::NoEmergency && record.i020.me ? Track::GeneralEmergency : emergency;
+}
+
 } // namespace
 
 RadarTracker::RadarTracker(const QSharedPointer<RadarSensorInfo> &sensor,
@@ -97,6 +105,10 @@ void RadarTracker::procCat001Message(const _ast_datarecord_001_t &record)
         placePolar(*track, std::hypot(x, y), reports::bearingOf(x, y));
     }
     reports::setModeA(*track, record.i070);
+    if (record.i020.present) {
+        track->setSpi(record.i020.spi);
+        reports::setEmergency(*track, emergencyOf(record), now);
+    }
     reports::setLevel(*track, levelOf(record.i090));
     reports::setVelocity(*track, record.i200);
     track->recordHistory(now);
@@ -132,6 +144,8 @@ void RadarTracker::procCat048Message(const _ast_datarecord_048_t &record)
         placePolar(*track, resolution * std::hypot(x, y), reports::bearingOf(x, y));
     }
     reports::setModeA(*track, record.i070);
+    track->setSpi(record.i020.spi || (record.i230.present && reports::isSpi(record.i230.stat)));
+    reports::setEmergency(*track, record.i020.me ? Track::GeneralEmergency : Track::NoEmergency, now);
     reports::setLevel(*track, levelOf(record.i090));
     reports::setSelectedAltitude(*track, reports::selectedAltitude(record.i250), now, DownlinkLifeSpan);
     reports::setVerticalRate(*track, reports::verticalRate(record.i250), now, DownlinkLifeSpan);

@@ -9,6 +9,8 @@ namespace {
 constexpr double MaximumVerticalRate = 6000.0; // feet per minute; beyond it a register is not believed
 constexpr double LevelFlightRate = 200.0; // feet per minute; up to it, itself included, a track is level
 
+constexpr qint64 EmergencyLifeSpan = 20000; // milliseconds
+
 constexpr unsigned char Bds40 = 0x40;
 constexpr unsigned char Bds60 = 0x60;
 
@@ -44,6 +46,7 @@ void reports::setModeA(Track &track, const _ast_item_mode3a_t &item)
 {
     if (item.present) {
         setModeA(track, item.code, item.g, item.l);
+        track.setModeACodeValidated(!item.v);
     }
 }
 
@@ -53,6 +56,38 @@ void reports::setModeA(Track &track, unsigned int code, bool garbled, bool smoot
     track.setModeACodeGarbled(garbled);
     track.setModeACodeSmoothed(smoothed);
     track.setModeACodeValid(true);
+}
+
+void reports::setEmergency(Track &track, std::optional<Track::Emergency> emergency, const QDateTime &now)
+{
+    if (emergency.value_or(Track::NoEmergency) != Track::NoEmergency) {
+        track.setReportedEmergency(*emergency, now);
+        return;
+    }
+    const bool ended = emergency || track.reportedEmergencyLastUpdate().msecsTo(now) > EmergencyLifeSpan;
+    if (track.reportedEmergency() != Track::NoEmergency && ended) {
+        track.setReportedEmergency(Track::NoEmergency, now);
+    }
+}
+
+Track::Emergency reports::emergencyOf(unsigned int priorityStatus)
+{
+    switch (priorityStatus) {
+    case 1:
+    case 6:
+        return Track::GeneralEmergency;
+    case 4:
+        return Track::RadioFailure;
+    case 5:
+        return Track::UnlawfulInterference;
+    default:
+        return Track::NoEmergency;
+    }
+}
+
+bool reports::isSpi(unsigned int flightStatus)
+{
+    return flightStatus == 4 || flightStatus == 5;
 }
 
 void reports::setCallsign(Track &track, const char *text)

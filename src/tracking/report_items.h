@@ -19,6 +19,14 @@ void setModeA(Track &track, const _ast_item_mode3a_t &item);
 void setModeA(Track &track, unsigned int code, bool garbled, bool smoothed);
 void setCallsign(Track &track, const char *text);
 
+// What the source itself says of an emergency. Absent: one that was reported lasts 20 s more.
+void setEmergency(Track &track, std::optional<Track::Emergency> emergency, const QDateTime &now);
+// Of the priority status of ADS-B: 1 and 6 an emergency, 4 no communications, 5 unlawful interference. What calls for
+// priority alone, medical flights and low fuel, is none.
+Track::Emergency emergencyOf(unsigned int priorityStatus);
+// Whether the flight status of a Mode S transponder tells of the special pulse.
+bool isSpi(unsigned int flightStatus);
+
 // Absent: invalid. Knots and degrees clockwise from north.
 void setVelocity(Track &track, const _ast_item_velocity_t &item);
 void setVelocity(Track &track, bool valid, double groundSpeed, double heading);

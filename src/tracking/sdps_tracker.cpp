@@ -1,6 +1,7 @@
 #include "tracking/sdps_tracker.h"
 
 #include "tracking/report_items.h"
+#include "tracking/system_track_detection.h"
 
 #include <cmath>
 
@@ -58,6 +59,28 @@ void setCallsign(Track &track, const _ast_datarecord_062_t &record)
     }
 }
 
+// Absent where the record has none of the fields that could tell of one.
+std::optional<Track::Emergency> emergencyOf(const _ast_datarecord_062_t &record)
+{
+    if (record.i380.priorityStatus != 0) {
+        return reports::emergencyOf(record.i380.priorityStatus);
+    }
+    if (record.i080.present) {
+        return record.i080.me ? Track::GeneralEmergency : reports::emergencyOf(record.i080.ems);
+    }
+    return record.i380.priorityStatusPresent ? std::optional(Track::NoEmergency) : std::nullopt;
+}
+
+void setStatus(Track &track, const _ast_datarecord_062_t &record, const QDateTime &now)
+{
+    track.setState(stateOf(record));
+    track.setSpi(record.i080.spi || reports::isSpi(record.i380.flightStatus));
+    reports::setEmergency(track, emergencyOf(record), now);
+    if (const auto detectedBy = systemTrackDetection(record)) {
+        track.setDetectedBy(*detectedBy);
+    }
+}
+
 void setVerticalMovement(Track &track, const _ast_datarecord_062_t &record, const QDateTime &now)
 {
     const auto altitude =
@@ -112,7 +135,7 @@ void SdpsTracker::procCat062Message(const _ast_datarecord_062_t &record)
         return;
     }
     track->setType(record.i380.present ? Track::SdpsModeS : Track::Sdps);
-    track->setState(stateOf(record));
+    setStatus(*track, record, now);
     setCallsign(*track, record);
     placeReported(*track, record.i010, record.i105, record.i100);
     reports::setModeA(*track, record.i060);

@@ -32,6 +32,7 @@ void SmrTracker::procCat010Message(const _ast_datarecord_010_t &record)
     }
     track->setType(Track::Smr);
     track->setGround(true);
+    track->setSpi(record.i020.spi);
     track->setState(record.i170.present && record.i170.cnf ? Track::Tentative : Track::Confirmed);
     place(*track, m_sensor->location(), record.i040.rho, record.i040.theta);
     reports::setVelocity(*track, record.i200);

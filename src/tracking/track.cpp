@@ -112,6 +112,43 @@ void Track::updateModeAString()
     }
 }
 
+Track::Emergency Track::emergency() const
+{
+    if (m_modeACodeValid && m_modeACodeValidated && !m_modeACodeGarbled) {
+        switch (m_modeACode) {
+        case 07500:
+            return UnlawfulInterference;
+        case 07600:
+            return RadioFailure;
+        case 07700:
+            return GeneralEmergency;
+        default:
+            break;
+        }
+    }
+    return m_reportedEmergency;
+}
+
+QString Track::emergencyString(Emergency emergency)
+{
+    switch (emergency) {
+    case UnlawfulInterference:
+        return QStringLiteral("HIJ");
+    case RadioFailure:
+        return QStringLiteral("RDO");
+    case GeneralEmergency:
+        return QStringLiteral("EMG");
+    default:
+        return {};
+    }
+}
+
+void Track::setReportedEmergency(Emergency emergency, const QDateTime &now)
+{
+    m_reportedEmergency = emergency;
+    m_reportedEmergencyLastUpdate = now;
+}
+
 void Track::setGeoCoordinate(const GeoCoordinate &coordinate)
 {
     m_geoCoordinate = coordinate;

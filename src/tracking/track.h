@@ -39,6 +39,9 @@ public:
 
     enum VerticalTrend : int { TrendUnknown = 0, TrendLevel = 1, TrendClimbing = 2, TrendDescending = 3 };
 
+    // What an aircraft says is wrong.
+    enum Emergency : int { NoEmergency = 0, UnlawfulInterference = 1, RadioFailure = 2, GeneralEmergency = 3 };
+
     static constexpr std::size_t MaximumHistory = 1000; // elements
 
     // The number is the system's own and never changes; now is UTC.
@@ -46,6 +49,11 @@ public:
 
     Type type() const { return m_type; }
     void setType(Type type) { m_type = type; }
+
+    // Which kind of sensor sees the aircraft: the type, unless the source of a system track says more. Only types of
+    // single sensors are meant to be set; Unknown takes it back.
+    Type detectedBy() const { return m_detectedBy == Unknown ? m_type : m_detectedBy; }
+    void setDetectedBy(Type type) { m_detectedBy = type; }
 
     // Unique per track object over the program's run; 0 until a manager assigns one. Tells apart two successive tracks
     // under one track number.
@@ -81,8 +89,24 @@ public:
     void setModeACodeValid(bool valid);
     void setModeACodeSmoothed(bool smoothed);
     void setModeACodeGarbled(bool garbled);
+    // A code that the sensor has not validated stands for no emergency. True at first.
+    bool modeACodeValidated() const { return m_modeACodeValidated; }
+    void setModeACodeValidated(bool validated) { m_modeACodeValidated = validated; }
     // Four octal digits, then "G" when garbled, then "S" when smoothed; "----" when not valid.
     QString modeAString() const { return m_modeAString; }
+
+    // By the Mode A code 7500, 7600 or 7700, when it is valid, validated and not garbled; else as reported.
+    Emergency emergency() const;
+    // "HIJ", "RDO", "EMG"; empty for none.
+    static QString emergencyString(Emergency emergency);
+    // Beside the Mode A code, with the time of the report, UTC.
+    Emergency reportedEmergency() const { return m_reportedEmergency; }
+    const QDateTime &reportedEmergencyLastUpdate() const { return m_reportedEmergencyLastUpdate; }
+    void setReportedEmergency(Emergency emergency, const QDateTime &now);
+
+    // The pilot identifies himself by the special pulse.
+    bool spi() const { return m_spi; }
+    void setSpi(bool spi) { m_spi = spi; }
 
     // Valid when the coordinate itself is.
     const GeoCoordinate &geoCoordinate() const { return m_geoCoordinate; }
@@ -165,6 +189,7 @@ private:
 
     quint64 m_incarnationId = 0;
     Type m_type = Unknown;
+    Type m_detectedBy = Unknown;
     unsigned int m_trackNumber = 0;
     unsigned int m_otherTrackNumber = 0;
     unsigned int m_icaoAddr = 0;
@@ -174,11 +199,14 @@ private:
     int m_verticalRate = 0;
     VerticalTrend m_verticalTrend = TrendUnknown;
     State m_state = Tentative;
+    Emergency m_reportedEmergency = NoEmergency;
     bool m_indexed = false; // by its manager, under its present identity
     bool m_icaoAddrValid = false;
     bool m_modeACodeValid = false;
     bool m_modeACodeSmoothed = false;
     bool m_modeACodeGarbled = false;
+    bool m_modeACodeValidated = true;
+    bool m_spi = false;
     bool m_geoCoordinateValid = false;
     bool m_carCoordinateValid = false;
     bool m_groundSpeedValid = false;
@@ -197,6 +225,7 @@ private:
     QString m_modeAString;
     QDateTime m_selectedAltitudeLastUpdate;
     QDateTime m_verticalRateLastUpdate;
+    QDateTime m_reportedEmergencyLastUpdate;
     QDateTime m_lastUpdate;
     QSet<QSharedPointer<Alert>> m_alerts;
     std::shared_ptr<int> m_unindexedCount; // how many tracks of its manager are not indexed; null without a manager

@@ -37,6 +37,9 @@ void fill(TrackSnapshot &snapshot, const Track &track)
     snapshot.verticalRate = track.verticalRate();
     snapshot.verticalRateValid = track.verticalRateValid();
     snapshot.verticalTrend = track.verticalTrend();
+    snapshot.detectedBy = track.detectedBy();
+    snapshot.emergency = track.emergency();
+    snapshot.spi = track.spi();
     snapshot.lastUpdate = track.lastUpdate();
     snapshot.alertsString = track.alertsString();
 }

@@ -42,6 +42,9 @@ struct TrackSnapshot {
     int verticalRate = 0;
     bool verticalRateValid = false;
     Track::VerticalTrend verticalTrend = Track::TrendUnknown;
+    Track::Type detectedBy = Track::Unknown; // of a system track the kind of sensor behind it
+    Track::Emergency emergency = Track::NoEmergency;
+    bool spi = false;
     QDateTime lastUpdate; // UTC
     QString alertsString; // "MSAW APW STCA", those that are active
     QList<QPointF> trail; // newest first, plane metres

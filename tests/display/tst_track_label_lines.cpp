@@ -49,6 +49,12 @@ void TestTrackLabelLines::line_data()
     row("alert", L::Alert, only({&F::alertIndicator}), "MSAW STCA",
         [](T &t) { t.alertsString = QStringLiteral("MSAW STCA"); });
 
+    row("emergency and pulse", L::Mark, F{}, "RDO SPI", [](T &t) {
+        t.emergency = Track::RadioFailure;
+        t.spi = true;
+    });
+    row("marks go with the alerts", L::Mark, Nothing, "", [](T &t) { t.spi = true; });
+
     row("number and address", L::Identity, only({&F::trackNum, &F::icaoAddr}), "#0042 78009A");
     row("long track number", L::Identity, only({&F::trackNum}), "#12345", [](T &t) { t.trackNumber = 12345; });
     row("no identity", L::Identity, F{}, "");

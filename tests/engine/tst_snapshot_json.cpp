@@ -54,6 +54,14 @@ private Q_SLOTS:
             "lastUpdate": "2024-02-29T12:05:07.008Z", "alerts": "MSAW STCA", "trail": [[1, 2], [-3.5, 4]]})");
         QCOMPARE(SnapshotJson::toJson({{fullTrack()}, {}, {}})["tracks"][0].toObject(), expected);
 
+        TrackSnapshot inDistress = fullTrack();
+        inDistress.emergency = Track::RadioFailure;
+        inDistress.spi = true;
+        QJsonObject marked = expected;
+        marked["emergency"] = "RDO";
+        marked["spi"] = true;
+        QCOMPARE(SnapshotJson::toJson({{inDistress}, {}, {}})["tracks"][0].toObject(), marked);
+
         const QJsonObject empty = SnapshotJson::toJson({{TrackSnapshot()}, {}, {}})["tracks"][0].toObject();
         QCOMPARE(empty.keys(), expected.keys());
         for (const char *key : {"callsign", "groundSpeed", "heading", "icaoAddr", "lastUpdate", "latitude", "level",

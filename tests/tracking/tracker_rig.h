@@ -91,7 +91,8 @@ inline QString shown(const TrackerRig &rig, const QString &expected)
         {"selected", number(track->selectedAltitudeValid(), track->selectedAltitude(), 0)},
         {"rate", number(track->verticalRateValid(), track->verticalRate(), 0)},
         {"trend", QString::number(track->verticalTrend())}, {"ground", QString::number(track->isGround())},
-        {"dots", QString::number(track->history().size())}};
+        {"marks", Track::emergencyString(track->emergency()) + (track->spi() ? "SPI" : "")},
+        {"detected", QString::number(track->detectedBy())}, {"dots", QString::number(track->history().size())}};
     QStringList texts;
     for (const auto &part : expected.split(", ")) {
         const auto name = part.section(' ', 0, 0);

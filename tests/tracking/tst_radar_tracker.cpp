@@ -64,6 +64,16 @@ const Row rows[]{
     {"both too large", 48, "161/TRN=7 bds60=188/-188", "rate -, trend 0"},
     {"kept for 12 s", 48, "161/TRN=7 bds60=7/-; @12 161/TRN=7 bds60=188/-", "rate 224, trend 2"},
     {"then forgotten", 48, "161/TRN=7 bds60=7/-; @12.001 161/TRN=7 bds60=188/-", "rate -, trend 0"},
+    {"hijacked", 48, "161/TRN=7 070/MODE3A=07500", "marks HIJ"},
+    {"a garbled code", 48, "161/TRN=7 070/MODE3A=07500 070/G=1", "marks "},
+    {"a code not validated", 48, "161/TRN=7 070/MODE3A=07500 070/V=1", "marks "},
+    {"code changed", 48, "161/TRN=7 070/MODE3A=07700; 161/TRN=7 070/MODE3A=01000", "marks "},
+    {"military emergency and pulse", 48, "161/TRN=7 020/SPI=1 020/ME=1", "marks EMGSPI"},
+    {"both over", 48, "161/TRN=7 020/SPI=1 020/ME=1; 161/TRN=7", "marks "},
+    {"pulse by flight status", 48, "161/TRN=7 020/TYP=5 230/STAT=5", "marks SPI"},
+    {"alert of the transponder without pulse", 48, "161/TRN=7 230/STAT=2", "marks "},
+    {"CAT001, radio failure reported", 1, "161=7 020/SPI=1 020/DS1DS2=2", "marks RDOSPI"},
+    {"CAT001, code before what is reported", 1, "161=7 070/MODE3A=07500 020/DS1DS2=3", "marks HIJ"},
     {"counting anew", 48, "161/TRN=7 bds60=7/-; @8 161/TRN=7 bds60=-10/-; @20 161/TRN=7", "rate -320, trend 3"},
 };
 

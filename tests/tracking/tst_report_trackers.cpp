@@ -87,6 +87,27 @@ const Row rows[]{
     {"turned", 62, "040=7 105/LAT=50.625 105/LON=-168.75", "lon 11.25000, x 1252344", CorrectLongitudeWrap},
     {"eastern one left", 62, "040=7 105/LAT=50.625 105/LON=11.25", "lon 11.25000", CorrectLongitudeWrap},
 
+    {"emergency status", 62, "040=7 080/EMS=5", "marks HIJ"},
+    {"priority status", 62, "040=7 080/SPI=1 380/SAB/STAT=4", "marks RDOSPI"},
+    {"medical flight, pulse by flight status", 62, "040=7 080/EMS=2 380/COM/STAT=4", "marks SPI"},
+    {"reported lately", 62, "040=7 380/SAB/STAT=6; @20 040=7", "marks EMG"},
+    {"reported long ago", 62, "040=7 380/SAB/STAT=6; @20.001 040=7", "marks "},
+    {"no longer reported", 62, "040=7 380/SAB/STAT=6; @1 040=7 380/SAB/STAT=0", "marks "},
+    {"nobody tells what sees it", 62, "040=7 380/ADR=99", "detected 9"},
+    {"seen by radar and Mode S", 62, "040=7 290/PSR=4 290/MDS=15 290/ES=1", "type 10, detected 5"},
+    {"radar long ago", 62, "040=7 290/PSR=15.25 290/SSR=4", "detected 2"},
+    {"ages before all else", 62, "040=7 290/MLT=1 340/TYP/TYP=1 080/CST=0", "detected 7"},
+    {"by its own squitters", 62, "040=7 290/MDS=60 290/ADS=1 290/ES=1 340/TYP/TYP=5", "detected 6"},
+    {"by flags", 62, "040=7 080/PSR=0 080/SSR=1 080/MDS=1 080/ADS=1 340/TYP/TYP=5", "detected 1"},
+    {"by the last measurement", 62, "040=7 080/CNF=0 340/TYP/TYP=3", "detected 3"},
+    {"seen by nothing lately", 62, "040=7 290/SSR=1; 040=7 290/SSR=30", "detected 2"},
+
+    {"unlawful interference", 21, "080=99 200/PS=5 200/SS=3", "marks HIJSPI"},
+    {"code before what is reported", 21, "080=99 200/PS=1 070/MODE3A=07600", "marks RDO"},
+    {"no longer reported", 21, "080=99 200/PS=5 200/SS=3; @1 080=99 200/PS=0", "marks "},
+    {"low fuel, transponder's alert", 21, "080=99 200/PS=3 200/SS=2", "marks "},
+    {"pulse", 20, "161/TRN=7 020/SPI=1", "marks SPI"},
+
     {"all fields", 21,
         "080=0x4b1a2c 170=VYX12 130/LAT=50.625 130/LON=8.4375 070/MODE3A=07421 145=101.25 146/ALT=12000 "
         "155/BVR=-206.25 "
