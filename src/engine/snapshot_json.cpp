@@ -121,11 +121,11 @@ QJsonObject SnapshotJson::toJson(const DisplaySnapshot &snapshot)
         {"alerts", alerts}, {"alertStatus", status}};
 }
 
-bool SnapshotJson::save(const DisplaySnapshot &snapshot, const QString &fileName, QString *error)
+bool SnapshotJson::save(const QJsonObject &picture, const QString &fileName, QString *error)
 {
     QSaveFile file(fileName);
     const bool saved =
-        file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(toJson(snapshot)).toJson()) >= 0 && file.commit();
+        file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(picture).toJson()) >= 0 && file.commit();
     if (!saved && error) {
         *error = file.errorString();
     }

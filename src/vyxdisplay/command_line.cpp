@@ -257,7 +257,8 @@ QString CommandLine::helpText()
               "                        when it could not be opened\n"
               "  --exit-after SECONDS  exit after that time\n"
               "  --screenshot FILE     at exit, write the window as a PNG picture\n"
-              "  --snapshot FILE       at exit, write the newest tracks and alerts as JSON\n"
+              "  --snapshot FILE       at exit, write the newest tracks and alerts, and where\n"
+              "                        they stand in the picture, as JSON\n"
               "  --help                show this text\n"
               "  --version             show the version\n");
 }

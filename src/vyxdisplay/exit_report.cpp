@@ -2,6 +2,7 @@
 
 #include "engine/snapshot_json.h"
 #include "ui/main_window.h"
+#include "vyxdisplay/picture_json.h"
 
 #include <QImageWriter>
 
@@ -23,18 +24,23 @@ void ExitReport::exitWithInput()
 
 void ExitReport::write()
 {
+    if (m_screenshot.isEmpty() && m_snapshot.isEmpty()) {
+        return;
+    }
+    // Also for the snapshot alone, which tells where things stand in it.
+    const QImage picture = m_window->grab().toImage();
     if (!m_screenshot.isEmpty()) {
-        writeScreenshot();
+        writeScreenshot(picture);
     }
     if (!m_snapshot.isEmpty()) {
         writeSnapshot();
     }
 }
 
-void ExitReport::writeScreenshot()
+void ExitReport::writeScreenshot(const QImage &picture)
 {
     QImageWriter writer(m_screenshot);
-    if (!writer.write(m_window->grab().toImage())) {
+    if (!writer.write(picture)) {
         failToWrite(m_screenshot, writer.errorString());
     }
 }
@@ -42,8 +48,13 @@ void ExitReport::writeScreenshot()
 void ExitReport::writeSnapshot()
 {
     const QSharedPointer<const DisplaySnapshot> newest = m_window->newestSnapshot();
+    QJsonObject picture = SnapshotJson::toJson(newest ? *newest : DisplaySnapshot());
+    const QJsonObject painted = pictureJson(*m_window->geoWidget());
+    for (auto part = painted.begin(); part != painted.end(); ++part) {
+        picture.insert(part.key(), part.value());
+    }
     QString reason;
-    if (!SnapshotJson::save(newest ? *newest : DisplaySnapshot(), m_snapshot, &reason)) {
+    if (!SnapshotJson::save(picture, m_snapshot, &reason)) {
         failToWrite(m_snapshot, reason);
     }
 }

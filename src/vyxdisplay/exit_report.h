@@ -4,6 +4,7 @@
 #include <QString>
 
 class MainWindow;
+class QImage;
 
 // What the run leaves behind when the program ends: a picture of the window, the newest display snapshot, and whether
 // all went well. An empty path writes nothing; a failure is a line on standard error.
@@ -22,7 +23,7 @@ public:
 
 private:
     void write();
-    void writeScreenshot();
+    void writeScreenshot(const QImage &picture);
     void writeSnapshot();
     void failToWrite(const QString &fileName, const QString &reason);
     void fail(const QString &line);

@@ -82,7 +82,7 @@ private Q_SLOTS:
         alert.type = Alert::STCA;
         alert.stateString = "Active";
         alert.track1.otherTrackNumber = 5;
-        QVERIFY(SnapshotJson::save({{later, fullTrack()}, {alert}, {false, true, false}}, path));
+        QVERIFY(SnapshotJson::save(SnapshotJson::toJson({{later, fullTrack()}, {alert}, {false, true, false}}), path));
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QJsonObject root = QJsonDocument::fromJson(file.readAll()).object();

@@ -1,5 +1,7 @@
 #include "window_fixture.h"
 
+#include "display/geo_track_display.h"
+#include "plan_view/geo_widget.h"
 #include "test_program.h"
 #include "vyxdisplay/demo_traffic.h"
 #include "vyxdisplay/exit_report.h"
@@ -7,6 +9,7 @@
 
 #include <QFile>
 #include <QImage>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSignalSpy>
@@ -60,6 +63,7 @@ private Q_SLOTS:
     void demoEndIsReported();
     void demoTrafficEndsWithTheTerminal();
     void reportIsWrittenAtTheEnd();
+    void reportSaysWhereTracksStandInThePicture();
     void anInputThatCannotBeOpenedIsAFailure();
     void signalsAskForTheEnd();
 
@@ -152,6 +156,54 @@ void TestRunEnds::reportIsWrittenAtTheEnd()
     QFile file(snapshot);
     QVERIFY(file.open(QFile::ReadOnly));
     QVERIFY(QJsonDocument::fromJson(file.readAll()).object()["tracks"].isArray());
+}
+
+void TestRunEnds::reportSaysWhereTracksStandInThePicture()
+{
+    WindowFixture fixture;
+    const auto window = fixture.makeWindow([](Config &config) {
+        config.trackLabelBackgroundColor = Qt::magenta;
+        config.trackLabelColor = Qt::magenta;
+        config.trackLabelDetailColor = Qt::magenta;
+    });
+    GeoWidget *scope = window->geoWidget();
+    scope->setView(5000.0, 3000.0, 100.0);
+    TrackSnapshot track;
+    track.trackNumber = 42;
+    track.incarnationId = 7;
+    track.carCoordinate = QPointF(5000.0, 3000.0);
+    track.carCoordinateValid = true;
+    TrackSnapshot outside = track;
+    outside.incarnationId = 8;
+    outside.carCoordinate.rx() += 1e6;
+    scope->trackDisplay()->setSnapshot(
+        QSharedPointer<DisplaySnapshot>::create(DisplaySnapshot{{track, outside}, {}, {}}));
+    scope->trackDisplay()->setTrackLabelOffset(7, 60, 60); // clear of the symbol
+
+    const QString screenshot = m_directory.filePath("tracks.png");
+    const QString snapshot = m_directory.filePath("tracks.json");
+    const ExitReport report(window.get(), screenshot, snapshot);
+    QVERIFY(fixture.close(*window));
+    const QImage picture(screenshot);
+    QRect painted;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            painted |= picture.pixelColor(x, y) == QColor(Qt::magenta) ? QRect(x, y, 1, 1) : QRect();
+        }
+    }
+    QFile file(snapshot);
+    QVERIFY(file.open(QFile::ReadOnly));
+    const QJsonObject root = QJsonDocument::fromJson(file.readAll()).object();
+    QCOMPARE(root["labels"].toArray().size(), 1);
+    QCOMPARE(root["symbols"].toArray().size(), 1);
+    const QJsonValue label = root["labels"][0];
+    const QJsonArray rect = label["rect"].toArray();
+    QCOMPARE(QRect(rect[0].toInt(), rect[1].toInt(), rect[2].toInt(), rect[3].toInt()), painted);
+    QVERIFY(label["pinned"].toBool() && label["trackNumber"].toInt() == 42);
+    const int padding = scope->trackDisplay()->backgroundPadding();
+    const QPoint symbol = painted.topLeft() + QPoint(padding - 60, padding + 60);
+    QCOMPARE(root["symbols"][0]["place"].toArray(), QJsonArray({symbol.x(), symbol.y()}));
+    QCOMPARE(root["view"]["metresPerPixel"].toDouble(), 100.0);
 }
 
 void TestRunEnds::anInputThatCannotBeOpenedIsAFailure()
