@@ -170,6 +170,12 @@ private Q_SLOTS:
         QCOMPARE(status("01010140 37", "2.7"), QList<int>({1, 5, 1, 1}));
         QCOMPARE(status("01010140 15", "2.1"), QList<int>({1, 5, 0, 0}));
         QCOMPARE(status("40 FE", "2.7"), QList<int>({0, 0, 0, 0}));
+        const auto test = [](const char *record, const char *edition) {
+            const Octets octets = Octets::block(21, record);
+            return ast_datarecord_021_get_testbit(Decoded(octets, 21, edition).record());
+        };
+        QVERIFY(test("40 1000", "0.23") && test("40 1000", "0.26") && test("40 0110", "2.1") && test("40 0110", "2.7"));
+        QVERIFY(!test("40 EF00", "0.26") && !test("40 01EE", "2.7") && !test("40 10", "2.7"));
         // The bit that says "range exceeded" belongs to no value.
         const Octets exceeded = Octets::block(21, "0101012980 FFFF 84004000 599631CB3820");
         const Decoded beyond(exceeded, 21, "2.1");

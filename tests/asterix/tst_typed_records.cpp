@@ -203,6 +203,18 @@ private Q_SLOTS:
         QCOMPARE(ast_bds_40_decode(plot.i250.octets).mcpAltitude, 24000);
     }
 
+    // The octet with the bit may not be sent.
+    void tellsTestTargets()
+    {
+        const auto isTest = [](auto disassemble, int category, const char *record) {
+            return typedRecord(Octets::block(category, record), disassemble).i020.tst;
+        };
+        QVERIFY(isTest(ast_datarecord_048_disassemble, 48, "20 A180"));
+        QVERIFY(!isTest(ast_datarecord_048_disassemble, 48, "30 A0 8000 0000"));
+        QVERIFY(isTest(ast_datarecord_001_disassemble, 1, "40 1180"));
+        QVERIFY(!isTest(ast_datarecord_001_disassemble, 1, "40 117E"));
+    }
+
     void readsSystemTrack()
     {
         const Octets octets = Octets::block(62,

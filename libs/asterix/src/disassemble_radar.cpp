@@ -22,7 +22,7 @@ void readDescriptor048(_ast_datarecord_048_t &out, const unsigned char *at)
     if (at) {
         const auto [first, second] = readExtents<2>(at);
         out.i020 = {true, static_cast<std::uint8_t>(first >> 5), bit(first, 4), bit(first, 3), bit(first, 2),
-            bit(first, 1), bit(second, 4)};
+            bit(first, 1), bit(second, 4), bit(second, 7)};
     }
 }
 
@@ -79,7 +79,8 @@ void ast_datarecord_001_disassemble(_ast_datarecord_001_t *out, const _ast_datar
     if (const unsigned char *at = items[Item001::I020]) {
         const auto [first, second] = readExtents<2>(at);
         out->i020 = {true, static_cast<std::uint8_t>(first >> 7), static_cast<std::uint8_t>(first >> 4 & 3),
-            bit(first, 6), bit(first, 2), bit(first, 1), static_cast<std::uint8_t>(second >> 5 & 3), bit(second, 4)};
+            bit(first, 6), bit(first, 2), bit(first, 1), static_cast<std::uint8_t>(second >> 5 & 3), bit(second, 4),
+            bit(second, 7)};
     }
     if (const unsigned char *at = items[Item001::I161]) {
         out->i161 = {true, static_cast<std::uint16_t>(be16(at))};

@@ -50,6 +50,7 @@ constexpr Source Sources[] = {
     {21, ReportField::SurveillanceStatus, "200/SS"},
     {21, ReportField::MilitaryEmergency, "200/ME"},
     {21, ReportField::Spi, "040/SPI"}, // editions 0.23 and 0.26
+    {21, ReportField::TestBit, "040/TST"},
     {21, ReportField::Mode3A, "070/MODE3A"},
     {21, ReportField::Mode3ANotValidated, "070/V"},
     {21, ReportField::Mode3AGarbled, "070/G"},

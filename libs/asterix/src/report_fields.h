@@ -35,6 +35,7 @@ enum class ReportField : std::uint8_t {
     SurveillanceStatus,
     MilitaryEmergency,
     Spi,
+    TestBit,
     Count
 };
 

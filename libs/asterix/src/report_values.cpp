@@ -121,6 +121,11 @@ _ast_ground_bit_t ast_datarecord_021_get_groundbit(const _ast_datarecord_t &reco
     return {present, present && findFlag(record, ReportField::GroundBit)};
 }
 
+bool ast_datarecord_021_get_testbit(const _ast_datarecord_t &record)
+{
+    return findFlag(record, ReportField::TestBit);
+}
+
 _ast_item_mode3a_t ast_datarecord_021_get_squawk(const _ast_datarecord_t &record)
 {
     const auto found = findBits(record, ReportField::Mode3A);

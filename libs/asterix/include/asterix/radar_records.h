@@ -15,7 +15,8 @@ struct _ast_datarecord_001_t {
         bool spi;
         bool rab;
         std::uint8_t emergency; // DS1/DS2: 0 none, 1 unlawful interference, 2 radio failure, 3 emergency
-        bool me; // military emergency; this and the one before: second extent, zero where it is not sent
+        bool me; // military emergency; this, the one before and the one after: second extent, zero where it is not sent
+        bool tst; // test target
     } i020;
     struct {
         bool present;
@@ -96,7 +97,8 @@ struct _ast_datarecord_048_t {
         bool rdp;
         bool spi;
         bool rab;
-        bool me; // military emergency; second extent, false where it is not sent
+        bool me; // military emergency; this and the one after: second extent, false where it is not sent
+        bool tst; // test target
     } i020;
     _ast_item_polar_t i040;
     _ast_item_mode3a_t i070;

@@ -53,6 +53,8 @@ _ast_item_mode3a_t ast_datarecord_021_get_squawk(const _ast_datarecord_t &record
 _ast_ground_bit_t ast_datarecord_021_get_groundbit(const _ast_datarecord_t &record);
 // I021/200, in the editions 0.23 and 0.26 with I021/040 SPI. Of CAT021 only.
 _ast_target_status_t ast_datarecord_021_get_targetstatus(const _ast_datarecord_t &record);
+// I021/040 TST: a target that the station makes to test itself. Of CAT021 only.
+bool ast_datarecord_021_get_testbit(const _ast_datarecord_t &record);
 // I021/160, I001/200, I010/200, I048/200; of the Cartesian velocity I010/202, I020/202, I062/185 otherwise.
 _ast_speed_t ast_datarecord_get_speed(const _ast_datarecord_t &record);
 // The same items; magnetic I021/152 and I062/380 MHG.
