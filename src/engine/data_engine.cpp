@@ -122,6 +122,7 @@ void DataEngine::clearPicture()
 {
     m_weatherProcessor->reset();
     m_publisher.reset();
+    m_plots.restart();
     m_trackManager->reset();
     m_alertManager->reset();
     m_alertProcessor->resetAlertStatus();
@@ -131,6 +132,7 @@ void DataEngine::clearPicture()
 void DataEngine::restartPicture()
 {
     m_weatherProcessor->reset();
+    m_plots.restart();
     m_trackManager->reset();
     m_alertManager->reset();
     m_input->setRouter(makeRouter());
@@ -218,6 +220,7 @@ QSharedPointer<Tracker> DataEngine::makeTracker()
         return tracker;
     }
     connect(tracker.data(), &Tracker::message, this, &DataEngine::log);
+    tracker->setPlotStore(&m_plots);
     configureTracker(tracker.data());
     return tracker;
 }
@@ -332,6 +335,7 @@ void DataEngine::publishSnapshot()
             m_alertProcessor->alertStatus(Alert::STCA)};
         snapshot.time = m_clock->now();
         snapshot.recordedTime = m_clock->isRecorded();
+        snapshot.plots = m_plots.publish();
     });
     if (stats) {
         Q_EMIT pipelineStats(*stats);

@@ -9,6 +9,7 @@
 #include "processors/video_processor.h"
 #include "tracking/alert.h"
 #include "tracking/clock.h"
+#include "tracking/plot_store.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -146,6 +147,7 @@ private:
     korvane::astfile::RecordingIndex m_nextIndex; // the next opening's
 
     std::shared_ptr<Clock> m_clock = std::make_shared<Clock>();
+    PlotStore m_plots;
     QSharedPointer<TrackManager> m_trackManager;
     QSharedPointer<AlertManager> m_alertManager;
     QSharedPointer<AlertProcessor> m_alertProcessor;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tracking/alert_snapshot.h"
+#include "tracking/plot.h"
 #include "tracking/track_snapshot.h"
 
 #include <QDateTime>
@@ -15,4 +16,5 @@ struct DisplaySnapshot {
     std::array<bool, 3> alertStatus = {}; // MSAW, APW, STCA: index is Alert::Type minus 1
     QDateTime time = {}; // of the picture, UTC: all ages in it count to here; stands still while the input does
     bool recordedTime = false; // a recording's own, also after its end, until another input is opened
+    PlotHistory plots = {}; // also those of the snapshots before, so that who misses some misses no plot
 };

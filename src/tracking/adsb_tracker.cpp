@@ -88,9 +88,13 @@ void AdsbTracker::procAsterixMessage(const _ast_datablock_t &block)
 
 void AdsbTracker::procCat021Record(const _ast_datarecord_t &record)
 {
+    if (!record.valid) {
+        return;
+    }
     const auto now = trackManager().now();
+    const auto place = takePlace(record, now);
     const auto address = ast_datarecord_get_icaoaddr(record);
-    const auto track = record.valid && address.present ? trackOf(address.address) : QSharedPointer<Track>();
+    const auto track = address.present ? trackOf(address.address) : QSharedPointer<Track>();
     if (!track) {
         return;
     }
@@ -102,15 +106,27 @@ void AdsbTracker::procCat021Record(const _ast_datarecord_t &record)
     if (const auto ground = ast_datarecord_021_get_groundbit(record); ground.present) {
         track->setGround(ground.onGround);
     }
-    if (const auto position = ast_datarecord_get_wgs84coord(record); position.present) {
-        track->setGeoCoordinate({position.latitude, position.longitude});
-        project(*track);
+    if (place) {
+        put(*track, *place);
     }
     reports::setModeA(*track, ast_datarecord_021_get_squawk(record));
     setStatus(*track, record, now);
     setMovement(*track, record);
     setVerticalMovement(*track, record, now);
     track->recordHistory(now);
+}
+
+std::optional<Tracker::Place> AdsbTracker::takePlace(const _ast_datarecord_t &record, const QDateTime &now) const
+{
+    const auto position = ast_datarecord_get_wgs84coord(record);
+    if (!position.present) {
+        return {};
+    }
+    const auto place = placeOf(position.latitude, position.longitude);
+    if (place.valid && !ast_datarecord_021_get_testbit(record)) {
+        addPlot(place.plane, Track::Adsb, now);
+    }
+    return place;
 }
 
 QSharedPointer<Track> AdsbTracker::trackOf(unsigned int address)
@@ -154,8 +170,7 @@ void AdsbTracker::takeTarget(Track &track, const korvane::modes::ADSBTarget &tar
     setIdentity(track, target);
     reports::setEmergency(track, reports::emergencyOf(target.emergency()), trackManager().now());
     if (target.positionValid()) {
-        track.setGeoCoordinate({target.latitude(), target.longitude()});
-        project(track);
+        put(track, placeOf(target.latitude(), target.longitude()));
     } else if (target.positionExpired()) {
         track.clearPosition();
     }

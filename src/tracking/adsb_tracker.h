@@ -26,6 +26,8 @@ public:
 
 private:
     void procCat021Record(const _ast_datarecord_t &record);
+    // Nothing where the report has no position. Reports are plots as well.
+    std::optional<Place> takePlace(const _ast_datarecord_t &record, const QDateTime &now) const;
     // Null when no track number is free.
     QSharedPointer<Track> trackOf(unsigned int address);
     void takeTarget(Track &track, const korvane::modes::ADSBTarget &target) const;

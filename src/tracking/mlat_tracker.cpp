@@ -64,6 +64,10 @@ void MlatTracker::procAsterixMessage(const _ast_datablock_t &block)
 void MlatTracker::procCat020Message(const _ast_datarecord_020_t &record)
 {
     const auto now = trackManager().now();
+    const auto plane = planePosition(record.i041, record.i042);
+    if (plane && !record.i020.tst) {
+        addPlot(*plane, Track::Mlat, now);
+    }
     const auto track = trackOf(record, now);
     if (!track) {
         return;
@@ -73,7 +77,7 @@ void MlatTracker::procCat020Message(const _ast_datarecord_020_t &record)
     if (record.i245.present) {
         reports::setCallsign(*track, record.i245.text);
     }
-    placeReported(*track, record.i010, record.i041, record.i042);
+    placeReported(*track, record.i010, record.i041, record.i042, plane);
     reports::setModeA(*track, record.i070);
     track->setSpi(record.i020.spi || (record.i230.present && reports::isSpi(record.i230.stat)));
     const bool levelKnown = track->levelValid();

@@ -24,6 +24,17 @@ constexpr Track::Type Cat048Types[] = {Track::Unknown, Track::Psr, Track::Ssr, T
 // Detection types of CAT001, index is the SSRPSR field.
 constexpr Track::Type Cat001Types[] = {Track::Unknown, Track::Psr, Track::Ssr, Track::PsrSsr};
 
+// Unknown where the report does not say.
+Track::Type typeOf(const _ast_datarecord_001_t &record)
+{
+    return Cat001Types[record.i020.ssrpsr & 3];
+}
+
+Track::Type typeOf(const _ast_datarecord_048_t &record)
+{
+    return Cat048Types[record.i020.typ & 7];
+}
+
 // A garbled level is none.
 std::optional<int> levelOf(const _ast_item_flight_level_t &item)
 {
@@ -42,7 +53,7 @@ Track::Emergency emergencyOf(const _ast_datarecord_001_t &record)
 
 RadarTracker::RadarTracker(const QSharedPointer<RadarSensorInfo> &sensor,
     const QSharedPointer<TrackManager> &trackManager, Projector *projector, QObject *parent)
-    : Tracker(trackManager, projector, parent), m_sensor(sensor)
+    : Tracker(trackManager, projector, parent), m_sensor(sensor), m_site(sensor->location())
 {
 }
 
@@ -90,19 +101,17 @@ void RadarTracker::procAntennaMessage(const Record &record)
 void RadarTracker::procCat001Message(const _ast_datarecord_001_t &record)
 {
     const auto now = trackManager().now();
+    const auto place = takePlace(record, 1.0, now);
     const auto track = trackOf(record);
     if (!track) {
         return;
     }
     if (record.i020.present) {
-        track->setType(Cat001Types[record.i020.ssrpsr & 3]);
+        track->setType(typeOf(record));
     }
     track->setState(record.i170.present && record.i170.con ? Track::Tentative : Track::Confirmed);
-    if (record.i040.present) {
-        placePolar(*track, record.i040.rho, record.i040.theta);
-    } else if (record.i042.present) {
-        const auto &[present, x, y] = record.i042;
-        placePolar(*track, std::hypot(x, y), reports::bearingOf(x, y));
+    if (place) {
+        put(*track, *place);
     }
     reports::setModeA(*track, record.i070);
     if (record.i020.present) {
@@ -126,22 +135,20 @@ QSharedPointer<Track> RadarTracker::trackOf(const _ast_datarecord_001_t &record)
 void RadarTracker::procCat048Message(const _ast_datarecord_048_t &record)
 {
     const auto now = trackManager().now();
+    const auto place = takePlace(record, record.i042.resolution, now);
     const auto track = trackOf(record, now);
     if (!track) {
         return;
     }
     if (record.i020.present) {
-        track->setType(Cat048Types[record.i020.typ & 7]);
+        track->setType(typeOf(record));
     }
     track->setState(record.i170.present && record.i170.cnf ? Track::Tentative : Track::Confirmed);
     if (record.i240.present) {
         reports::setCallsign(*track, record.i240.text);
     }
-    if (record.i040.present) {
-        placePolar(*track, record.i040.rho, record.i040.theta);
-    } else if (record.i042.present) {
-        const auto &[present, x, y, resolution] = record.i042;
-        placePolar(*track, resolution * std::hypot(x, y), reports::bearingOf(x, y));
+    if (place) {
+        put(*track, *place);
     }
     reports::setModeA(*track, record.i070);
     track->setSpi(record.i020.spi || (record.i230.present && reports::isSpi(record.i230.stat)));
@@ -175,8 +182,26 @@ QSharedPointer<Track> RadarTracker::trackOf(const _ast_datarecord_048_t &record,
     return {};
 }
 
-// The slant range is taken as the distance over ground.
-void RadarTracker::placePolar(Track &track, double range, double bearing) const
+template <typename Record>
+std::optional<Tracker::Place> RadarTracker::takePlace(
+    const Record &record, double cartesianUnit, const QDateTime &now) const
 {
-    place(track, m_sensor->location(), range * wgs84::MetresPerNauticalMile, bearing);
+    std::optional<Place> place;
+    if (record.i040.present) {
+        place = polarPlace(record.i040.rho, record.i040.theta);
+    } else if (record.i042.present) {
+        const double x = record.i042.x;
+        const double y = record.i042.y;
+        place = polarPlace(cartesianUnit * std::hypot(x, y), reports::bearingOf(x, y));
+    }
+    if (place && place->valid && !record.i020.tst) {
+        addPlot(place->plane, typeOf(record), now);
+    }
+    return place;
+}
+
+// The slant range is taken as the distance over ground.
+Tracker::Place RadarTracker::polarPlace(double range, double bearing) const
+{
+    return placeOf(m_site, range * wgs84::MetresPerNauticalMile, bearing);
 }

@@ -5,6 +5,7 @@
 
 class AleniaSirMRadarDataMessage;
 class AleniaSirMRadarNorthMarkerMessage;
+class AleniaSirMRadarPlotRecord;
 class AleniaSirMRadarTrackRecord;
 
 // Tracks of an air surveillance radar, from ASTERIX categories 1 and 48; antenna position from 2 and 34. Both also from
@@ -38,14 +39,20 @@ private:
     QSharedPointer<Track> trackOf(const _ast_datarecord_001_t &record);
     QSharedPointer<Track> trackOf(const _ast_datarecord_048_t &record, const QDateTime &now);
 
+    // Nothing where the report has no position; Cartesian ones count in the unit, nautical miles. Reports are plots as
+    // well.
+    template <typename Record>
+    std::optional<Place> takePlace(const Record &record, double cartesianUnit, const QDateTime &now) const;
     // Nautical miles and degrees clockwise from north, from the sensor.
-    void placePolar(Track &track, double range, double bearing) const;
+    Place polarPlace(double range, double bearing) const;
 
     void procAleniaSirMNorthMarker(const AleniaSirMRadarNorthMarkerMessage &marker);
     void procAleniaSirMDataMessage(const AleniaSirMRadarDataMessage &data);
+    void procAleniaSirMPlotRecord(const AleniaSirMRadarPlotRecord &record);
     void procAleniaSirMTrackRecord(const AleniaSirMRadarTrackRecord &record);
 
     QSharedPointer<RadarSensorInfo> m_sensor;
+    PolarOrigin m_site;
     bool m_northNotSynchronized = false; // as the last north marker said
     bool m_clockNotSynchronized = false;
 };

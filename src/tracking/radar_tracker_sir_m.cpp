@@ -24,10 +24,11 @@ double azimuthOf(double east, double north)
     return azimuth < 0.0 ? azimuth + 360.0 : azimuth;
 }
 
-Track::Type typeOf(const AleniaSirMRadarTrackRecord &record)
+// As plot and track records number them.
+Track::Type typeOf(unsigned int number)
 {
     constexpr Track::Type Types[] = {Track::Unknown, Track::Psr, Track::Ssr, Track::PsrSsr};
-    return record.trackType() < std::size(Types) ? Types[record.trackType()] : Track::Unknown;
+    return number < std::size(Types) ? Types[number] : Track::Unknown;
 }
 
 Track::VerticalTrend trendOf(const AleniaSirMRadarTrackRecord &record)
@@ -108,8 +109,20 @@ void RadarTracker::procAleniaSirMDataMessage(const AleniaSirMRadarDataMessage &d
     if (data.sectorValid()) {
         Q_EMIT antennaRotated(data.sector() * DegreesPerSector);
     }
+    for (const auto &record : data.plotRecords()) {
+        procAleniaSirMPlotRecord(record);
+    }
     for (const auto &record : data.trackRecords()) {
         procAleniaSirMTrackRecord(record);
+    }
+}
+
+// The slant range is taken as the distance over ground.
+void RadarTracker::procAleniaSirMPlotRecord(const AleniaSirMRadarPlotRecord &record)
+{
+    const auto place = placeOf(m_site, record.range() * MetresPerKilometre, record.azimuth());
+    if (place.valid) {
+        addPlot(place.plane, typeOf(record.plotType()), trackManager().now());
     }
 }
 
@@ -124,10 +137,10 @@ void RadarTracker::procAleniaSirMTrackRecord(const AleniaSirMRadarTrackRecord &r
     if (!track) {
         return;
     }
-    track->setType(typeOf(record));
+    track->setType(typeOf(record.trackType()));
     track->setState(record.coasting() ? Track::Coasting : Track::Confirmed);
-    place(*track, m_sensor->location(), std::hypot(record.x(), record.y()) * MetresPerKilometre,
-        azimuthOf(record.x(), record.y()));
+    put(*track,
+        placeOf(m_site, std::hypot(record.x(), record.y()) * MetresPerKilometre, azimuthOf(record.x(), record.y())));
     setModeA(*track, record);
     setHeight(*track, record);
     setVerticalMovement(*track, record, now);

@@ -137,7 +137,8 @@ void SdpsTracker::procCat062Message(const _ast_datarecord_062_t &record)
     track->setType(record.i380.present ? Track::SdpsModeS : Track::Sdps);
     setStatus(*track, record, now);
     setCallsign(*track, record);
-    placeReported(*track, record.i010, record.i105, record.i100);
+    const auto plane = planePosition(record.i105, record.i100);
+    placeReported(*track, record.i010, record.i105, record.i100, plane);
     reports::setModeA(*track, record.i060);
     reports::setLevel(*track, levelOf(record));
     setVerticalMovement(*track, record, now);

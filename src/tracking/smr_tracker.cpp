@@ -2,9 +2,23 @@
 
 #include "tracking/report_items.h"
 
+#include <cmath>
+
+namespace {
+
+// Others than the radar report targets in the same category.
+Track::Type typeOf(const _ast_datarecord_010_t &record)
+{
+    constexpr Track::Type Types[] = {Track::Mlat, Track::Mlat, Track::Adsb};
+    const bool other = record.i020.present && record.i020.typ < std::size(Types);
+    return other ? Types[record.i020.typ] : Track::Smr;
+}
+
+} // namespace
+
 SmrTracker::SmrTracker(const QSharedPointer<SmrSensorInfo> &sensor, const QSharedPointer<TrackManager> &trackManager,
     Projector *projector, QObject *parent)
-    : Tracker(trackManager, projector, parent), m_sensor(sensor)
+    : Tracker(trackManager, projector, parent), m_site(sensor->location())
 {
 }
 
@@ -19,6 +33,11 @@ void SmrTracker::procAsterixMessage(const _ast_datablock_t &block)
 
 void SmrTracker::procCat010Message(const _ast_datarecord_010_t &record)
 {
+    const auto now = trackManager().now();
+    const auto place = placeOfReport(record);
+    if (place.valid && !record.i020.tst) {
+        addPlot(place.plane, typeOf(record), now);
+    }
     if (!record.i161.present) {
         debug([] { return tr("SMR Tracker: CAT010 message has no valid track number (I010/161), ignore."); });
         return;
@@ -34,7 +53,23 @@ void SmrTracker::procCat010Message(const _ast_datarecord_010_t &record)
     track->setGround(true);
     track->setSpi(record.i020.spi);
     track->setState(record.i170.present && record.i170.cnf ? Track::Tentative : Track::Confirmed);
-    place(*track, m_sensor->location(), record.i040.rho, record.i040.theta);
+    put(*track, place);
     reports::setVelocity(*track, record.i200);
-    track->recordHistory(trackManager().now());
+    track->recordHistory(now);
+}
+
+// The radar's own measurement first, the only one that tracks are made of.
+Tracker::Place SmrTracker::placeOfReport(const _ast_datarecord_010_t &record) const
+{
+    if (record.i040.present) {
+        return placeOf(m_site, record.i040.rho, record.i040.theta);
+    }
+    if (record.i041.present) {
+        return placeOf(record.i041.latitude, record.i041.longitude);
+    }
+    if (record.i042.present) {
+        const auto &[present, x, y] = record.i042;
+        return placeOf(m_site, std::hypot(x, y), reports::bearingOf(x, y));
+    }
+    return {};
 }

@@ -18,6 +18,8 @@ public:
 
 private:
     void procCat010Message(const _ast_datarecord_010_t &record);
+    // Not valid where the report has no position.
+    Place placeOfReport(const _ast_datarecord_010_t &record) const;
 
-    QSharedPointer<SmrSensorInfo> m_sensor;
+    PolarOrigin m_site;
 };

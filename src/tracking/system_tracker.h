@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QPointF>
 
+#include <optional>
+
 // What the sources have in common that report positions on the globe, in metres around their own location, or both.
 class SystemTracker : public Tracker {
     Q_OBJECT
@@ -39,22 +41,33 @@ protected:
     };
     Source &source(const _ast_sacsic_t &code) { return m_sources[static_cast<quint16>(code.sac << 8 | code.sic)]; }
 
+    // As it is reported, or of the WGS-84 position where only that one is. Nothing where there is none. Items as
+    // _ast_item_wgs84_t and _ast_item_cartesian_t.
+    template <typename Wgs84Item, typename CartesianItem>
+    std::optional<QPointF> planePosition(const Wgs84Item &wgs84, const CartesianItem &cartesian) const
+    {
+        if (cartesian.present) {
+            return m_sensorPlanePosition + QPointF(cartesian.x, cartesian.y);
+        }
+        const Place place = wgs84.present ? placeOf(wgs84.latitude, wgs84.longitude) : Place();
+        return place.valid ? std::optional(place.plane) : std::nullopt;
+    }
+
     // Each position as it is reported, or derived from the other where only that one is; both are left as they were
     // where there is none. Positions that contradict each other are taken all the same, and warned of once a source.
-    // Items as _ast_item_wgs84_t and _ast_item_cartesian_t.
+    // The plane position as planePosition() makes it of the same items.
     template <typename Wgs84Item, typename CartesianItem>
-    void placeReported(Track &track, const _ast_sacsic_t &code, const Wgs84Item &wgs84, const CartesianItem &cartesian)
+    void placeReported(Track &track, const _ast_sacsic_t &code, const Wgs84Item &wgs84, const CartesianItem &cartesian,
+        const std::optional<QPointF> &plane)
     {
         if (wgs84.present) {
             track.setGeoCoordinate({wgs84.latitude, wgs84.longitude});
         }
-        if (cartesian.present) {
-            placeOnPlane(track, m_sensorPlanePosition + QPointF(cartesian.x, cartesian.y), !wgs84.present);
-            if (wgs84.present) {
-                comparePositions(track, code);
-            }
-        } else if (wgs84.present) {
-            project(track);
+        if (plane) {
+            placeOnPlane(track, *plane, !wgs84.present);
+        }
+        if (wgs84.present && cartesian.present) {
+            comparePositions(track, code);
         }
     }
 

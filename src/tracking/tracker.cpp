@@ -7,6 +7,8 @@
 #include "tracking/sdps_tracker.h"
 #include "tracking/smr_tracker.h"
 
+#include <cmath>
+
 namespace {
 
 constexpr qint64 ExhaustionWarningPeriodMs = 10000;
@@ -140,16 +142,25 @@ QSharedPointer<Track> Tracker::findByAddress(const Identity &identity, const QDa
     return otherAircraft ? QSharedPointer<Track>() : track;
 }
 
-void Tracker::place(Track &track, const GeoCoordinate &origin, double distance, double bearing) const
+Tracker::Place Tracker::placeOf(double latitude, double longitude) const
 {
-    track.setGeoCoordinate(origin.atDistanceAndAzimuth(distance, bearing));
-    project(track);
+    Place place{latitude, longitude, std::abs(latitude) <= 90.0 && std::abs(longitude) <= 180.0};
+    if (place.valid) {
+        place.plane = m_projector->toCartesian(latitude, longitude);
+    }
+    return place;
 }
 
-void Tracker::project(Track &track) const
+Tracker::Place Tracker::placeOf(const PolarOrigin &origin, double distance, double bearing) const
 {
-    if (!track.geoCoordinateValid()) {
-        return;
+    const auto [latitude, longitude] = origin.at(distance, bearing);
+    return placeOf(latitude, longitude);
+}
+
+void Tracker::put(Track &track, const Place &place)
+{
+    track.setGeoCoordinate({place.latitude, place.longitude});
+    if (place.valid) {
+        track.setCarCoordinate(place.plane);
     }
-    track.setCarCoordinate(m_projector->toCartesian(track.geoCoordinate()));
 }

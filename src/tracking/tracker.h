@@ -2,7 +2,9 @@
 
 #include "app/log_gate.h"
 #include "asterix/asterix.h"
+#include "geo/polar_origin.h"
 #include "sensors/sensor_info.h"
+#include "tracking/plot_store.h"
 #include "tracking/track_manager.h"
 
 #include <QObject>
@@ -33,6 +35,10 @@ public:
     // Takes a valid message; the message may be reused by the decoder after the call.
     virtual void procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &message) = 0;
     virtual void procAleniaSirMMessage(const QSharedPointer<AleniaSirMRadarMessage> &message);
+
+    // Where every report that has a place becomes a plot, also one that belongs to no track; not test targets. Null, as
+    // at first: nowhere. The store must outlive the tracker.
+    void setPlotStore(PlotStore *plots) { m_plots = plots; }
 
     // The tracker for the sensor's type; null for a null sensor and for a type without a tracker.
     static QSharedPointer<Tracker> create(const QSharedPointer<SensorInfo> &sensor,
@@ -75,11 +81,27 @@ protected:
     // The source has ended the track: it goes at once.
     void endTrack(const Identity &identity, const QDateTime &now);
 
-    // Sets the track's position and plane position to the point at so many metres over ground and degrees clockwise
-    // from north.
-    void place(Track &track, const GeoCoordinate &origin, double distance, double bearing) const;
-    // Sets the track's plane position from its WGS-84 position, if that is valid.
-    void project(Track &track) const;
+    // Where a report's target is.
+    struct Place {
+        double latitude = 0.0;
+        double longitude = 0.0;
+        bool valid = false; // on the globe
+        QPointF plane = {}; // while it is valid
+    };
+    Place placeOf(double latitude, double longitude) const;
+    // Metres over ground and degrees clockwise from north.
+    Place placeOf(const PolarOrigin &origin, double distance, double bearing) const;
+
+    // The report of now is a plot.
+    void addPlot(const QPointF &planePosition, Track::Type type, const QDateTime &now) const
+    {
+        if (m_plots) {
+            m_plots->add(planePosition, type, now.toMSecsSinceEpoch());
+        }
+    }
+
+    // Sets the track's position, and its plane position where the place is valid.
+    static void put(Track &track, const Place &place);
 
 private:
     QSharedPointer<Track> findByNumber(unsigned int number);
@@ -87,5 +109,6 @@ private:
 
     QSharedPointer<TrackManager> m_trackManager;
     Projector *m_projector;
+    PlotStore *m_plots = nullptr;
     QDateTime m_lastExhaustion; // when it was last reported that no track number is free
 };
