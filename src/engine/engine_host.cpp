@@ -63,8 +63,8 @@ void EngineHost::closeInput()
         m_engine->cancelReading();
     }
     post([](DataEngine *engine) {
-        engine->closeInput();
         engine->allowReading();
+        engine->closeInput(); // last: without a thread its answer may be the end of the engine
     });
 }
 
