@@ -20,10 +20,7 @@ void GeoTrackDisplay::change(Value *value, const Given &given)
     Q_EMIT polluted();
 }
 
-GeoTrackDisplay::GeoTrackDisplay(QObject *parent) : QObject(parent)
-{
-    setLabelFont(m_look.labelFont);
-}
+GeoTrackDisplay::GeoTrackDisplay(QObject *parent) : QObject(parent) { }
 
 GeoTrackDisplay::~GeoTrackDisplay() = default;
 
@@ -141,9 +138,7 @@ void GeoTrackDisplay::setSymbolSize(int pixels)
 
 void GeoTrackDisplay::setLabelFont(const QFont &font)
 {
-    m_look.labelFont = font;
-    // Glyphs on whole pixels are sharper at this size, and cheaper to paint than at fractions of one.
-    m_look.labelFont.setHintingPreference(QFont::PreferFullHinting);
+    m_look.setLabelFont(font);
     m_frame.tracks.clear();
     m_labels.clear();
     Q_EMIT polluted();

@@ -145,7 +145,8 @@ private:
     void setField(bool TrackLabelFields::*field, bool visible);
 
     void placeLabels();
-    void paintDetails(QPainter *painter, const ShownTrack &shown);
+    void paintDetails(QPainter *painter);
+    void paintCompactDetails(QPainter *painter);
 
     QSharedPointer<const DisplaySnapshot> m_snapshot;
     QHash<unsigned long long, const TrackSnapshot *> m_tracksById; // into m_snapshot

@@ -24,9 +24,7 @@ void GeoTrackDisplay::paint(QPainter *painter, const GeoView &view)
         m_vectorPainter.prepare(m_frame);
         m_leaderPainter.prepare(m_frame);
         m_labelPainter.prepare(painter, m_frame);
-        for (const ShownTrack &shown : m_frame.tracks) {
-            paintDetails(painter, shown);
-        }
+        m_look.isCompact() ? paintCompactDetails(painter) : paintDetails(painter);
     }
     // After all labels: a label may cover another label, but never a target.
     for (const ShownTrack &shown : m_frame.tracks) {
@@ -35,12 +33,32 @@ void GeoTrackDisplay::paint(QPainter *painter, const GeoView &view)
     painter->restore();
 }
 
-void GeoTrackDisplay::paintDetails(QPainter *painter, const ShownTrack &shown)
+// Track by track, the most urgent on top.
+void GeoTrackDisplay::paintDetails(QPainter *painter)
 {
-    m_trailPainter.paint(painter, m_frame, shown);
-    m_vectorPainter.paint(painter, m_frame, shown);
-    m_labelPainter.paint(painter, m_frame, shown);
-    m_leaderPainter.paint(painter, m_frame, shown);
+    for (const ShownTrack &shown : m_frame.tracks) {
+        m_trailPainter.paint(painter, m_frame, shown);
+        m_vectorPainter.paint(painter, m_frame, shown);
+        m_labelPainter.paint(painter, m_frame, shown);
+        m_leaderPainter.paint(painter, m_frame, shown);
+    }
+}
+
+// Layer by layer: no line of a track runs through another's text.
+void GeoTrackDisplay::paintCompactDetails(QPainter *painter)
+{
+    m_trailPainter.paintFading(painter, m_frame);
+    painter->setRenderHint(QPainter::Antialiasing);
+    for (const ShownTrack &shown : m_frame.tracks) {
+        m_vectorPainter.paint(painter, m_frame, shown);
+    }
+    for (const ShownTrack &shown : m_frame.tracks) {
+        m_leaderPainter.paint(painter, m_frame, shown);
+    }
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    for (const ShownTrack &shown : m_frame.tracks) {
+        m_labelPainter.paint(painter, m_frame, shown);
+    }
 }
 
 void GeoTrackDisplay::placeLabels()

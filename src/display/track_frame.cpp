@@ -29,3 +29,25 @@ void TrackFrame::collect(unsigned long long selectedTrack)
     }
     std::stable_partition(tracks.begin(), tracks.end(), [](const ShownTrack &shown) { return !shown.alerting; });
 }
+
+const QColor &TrackFrame::color(const ShownTrack &shown) const
+{
+    if (!look.isCompact()) {
+        return look.colors.symbol;
+    }
+    if (shown.alerting) {
+        return look.colors.labelAlert;
+    }
+    if (shown.selected) {
+        return look.colors.labelSelected;
+    }
+    return shown.track->coasting ? look.colors.coasting : look.colors.symbol;
+}
+
+const QColor &TrackFrame::leaderColor(const ShownTrack &shown) const
+{
+    if (!look.isCompact()) {
+        return look.colors.symbol;
+    }
+    return shown.alerting ? look.colors.labelAlert : look.colors.leader;
+}

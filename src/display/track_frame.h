@@ -35,6 +35,11 @@ struct TrackFrame {
     QSharedPointer<const DisplaySnapshot> snapshot; // holds the tracks; may be null
     std::vector<ShownTrack> tracks; // in painting order: the most urgent last
 
+    // Of a track's symbol and vector. In the standard layout all tracks have one colour.
+    const QColor &color(const ShownTrack &shown) const;
+    // Of the line from a track to its label.
+    const QColor &leaderColor(const ShownTrack &shown) const;
+
     // Takes the tracks of the snapshot that can reach into the view.
     void collect(unsigned long long selectedTrack);
 };

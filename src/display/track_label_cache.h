@@ -3,22 +3,29 @@
 #include "display/track_label_lines.h"
 
 #include <QHash>
+#include <QRectF>
 #include <QSize>
 #include <QStaticText>
 
 #include <vector>
 
-class QFontMetricsF;
 struct TrackLook;
 
 // A track's label as it was last laid out; pixels.
 struct TrackLabelLayout {
+    enum class Kind { Alert, Caution, Plain, Identity, Detail };
+
+    struct Mark {
+        QChar character; // that the font lacks
+        QRectF cell; // where it would stand, from the line's upper left corner
+    };
     struct Line {
+        Kind kind = Kind::Plain;
         QString text;
         QStaticText staticText;
+        std::vector<Mark> marks;
         double width = 0.0;
         double y = 0.0; // below the label's top
-        bool alert = false;
     };
 
     quint64 contentRevision = 0; // of what the text was made from; 0 before the first

@@ -1,25 +1,15 @@
 #include "display/track_label_lines.h"
 
+#include "display/track_label_text.h"
 #include "tracking/track_snapshot.h"
 
-#include <array>
 #include <cmath>
-#include <cstdio>
 
 namespace {
 
-constexpr QChar CoastingMark(0x2798); // ➘
-constexpr QChar ClimbingMark(0x2191); // ↑
-constexpr QChar DescendingMark(0x2193); // ↓
-
-// Appends the number with zeros in front up to the width; a sign counts. Labels are written at each new snapshot: this
-// takes a fifth of what QString::arg does.
-void appendNumber(QString &line, int number, int width)
-{
-    std::array<char, 16> digits;
-    const int length = std::snprintf(digits.data(), digits.size(), "%0*d", width, number);
-    line += QLatin1String(digits.data(), length);
-}
+using tracklabel::appendNumber;
+using tracklabel::ClimbingMark;
+using tracklabel::DescendingMark;
 
 // Three digits, or dashes for a value that is not valid.
 void appendValue(QString &line, bool valid, int number)
@@ -29,12 +19,6 @@ void appendValue(QString &line, bool valid, int number)
     } else {
         line += QLatin1String("---");
     }
-}
-
-// Whole hundreds, halves away from zero.
-int hundreds(int value)
-{
-    return int(std::lround(value / 100.0));
 }
 
 void appendBlank(QString &line)
@@ -65,7 +49,7 @@ QString callsignLine(const TrackSnapshot &track, const TrackLabelFields &fields)
         line = track.callsign;
     }
     if (track.coasting) {
-        line += CoastingMark;
+        line += tracklabel::CoastingMark;
     }
     if (fields.squawk) {
         if (!track.coasting) {
@@ -91,7 +75,7 @@ QString levelLine(const TrackSnapshot &track, const TrackLabelFields &fields)
     if (fields.selectedAltitude) {
         appendBlank(line);
         line += QLatin1Char('F');
-        appendValue(line, track.selectedAltitudeValid, hundreds(track.selectedAltitude));
+        appendValue(line, track.selectedAltitudeValid, tracklabel::hundreds(track.selectedAltitude));
     }
     if (fields.groundSpeed) {
         appendBlank(line);
@@ -100,31 +84,20 @@ QString levelLine(const TrackSnapshot &track, const TrackLabelFields &fields)
     return line;
 }
 
-void appendRate(QString &line, const TrackSnapshot &track)
-{
-    const int rate = hundreds(track.verticalRate);
-    if (!track.verticalRateValid) {
-        line += QLatin1String(" --");
-    } else if (rate == 0) {
-        line += QLatin1String(" 00");
-    } else if (rate > 0) {
-        line += QLatin1Char('+');
-        appendNumber(line, rate, 2);
-    } else {
-        appendNumber(line, rate, 3);
-    }
-}
-
 QString rateLine(const TrackSnapshot &track, const TrackLabelFields &fields)
 {
     QString line;
     if (fields.verticalRate) {
-        appendRate(line, track);
+        if (track.verticalRateValid) {
+            tracklabel::appendRate(line, track.verticalRate);
+        } else {
+            line += QLatin1String(" --");
+        }
     }
     if (fields.heading) {
         appendBlank(line);
         appendValue(line, track.headingValid, int(std::lround(track.heading)));
-        line += QChar(0x00B0); // °
+        line += tracklabel::DegreeSign;
     }
     return line;
 }

@@ -39,3 +39,8 @@ QString trackMarks(const TrackSnapshot &track);
 QString trackName(const TrackSnapshot &track);
 
 TrackLabelLines trackLabelLines(const TrackSnapshot &track, const TrackLabelFields &fields);
+
+// The same fields on fewer lines, and nothing for what is not known: who it is ("KVN72 3102", "A7000" without a call
+// sign, "#0208" without either), level, trend and speed ("F350↑ S370 452"; "GND" on the ground), and below them what an
+// operator switches on beside. The identity line stays empty.
+TrackLabelLines compactLabelLines(const TrackSnapshot &track, const TrackLabelFields &fields);

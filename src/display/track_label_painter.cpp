@@ -1,6 +1,7 @@
 #include "display/track_label_painter.h"
 
 #include "display/track_frame.h"
+#include "display/track_label_marks.h"
 #include "view/contrast.h"
 
 #include <QPainter>
@@ -10,11 +11,16 @@ void TrackLabelPainter::prepare(QPainter *painter, const TrackFrame &frame)
     const TrackColors &colors = frame.look.colors;
     painter->setFont(frame.look.labelFont);
     painter->setRenderHint(QPainter::TextAntialiasing);
+    m_compact = frame.look.isCompact();
     m_pen = QPen(colors.label);
+    m_detailPen = QPen(colors.labelDetail);
     m_selectedPen = QPen(colors.labelSelected);
-    m_alertPen = QPen(colors.labelAlert);
+    m_coastingPen = QPen(colors.coasting);
+    m_alertTextPen = QPen(m_compact ? colors.labelAlertText : colors.labelAlert);
+    m_cautionPen = QPen(colors.caution);
+    m_alertFramePen = QPen(colors.labelAlert);
     m_coastingFramePen = QPen(colors.label, 1, Qt::DashLine);
-    m_alertGround = groundFor(colors.labelAlert);
+    m_alertGround = m_compact ? colors.labelAlert : groundFor(colors.labelAlert);
 }
 
 void TrackLabelPainter::paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown) const
@@ -28,7 +34,7 @@ void TrackLabelPainter::paint(QPainter *painter, const TrackFrame &frame, const 
         painter->setClipRect(shown.labelVisible);
     }
     paintGround(painter, frame, shown);
-    paintText(painter, shown);
+    paintText(painter, frame, shown);
     paintFrame(painter, frame, shown);
     if (clipped) {
         painter->setClipping(false);
@@ -47,16 +53,43 @@ void TrackLabelPainter::paintGround(QPainter *painter, const TrackFrame &frame, 
     }
 }
 
-void TrackLabelPainter::paintText(QPainter *painter, const ShownTrack &shown) const
+const QPen &TrackLabelPainter::penFor(TrackLabelLayout::Kind kind, const ShownTrack &shown) const
 {
-    const QPen &pen = shown.selected ? m_selectedPen : m_pen;
+    using Kind = TrackLabelLayout::Kind;
+    if (kind == Kind::Alert) {
+        return m_alertTextPen;
+    }
+    if (kind == Kind::Caution) {
+        return m_cautionPen;
+    }
+    if (shown.selected) {
+        return m_selectedPen;
+    }
+    if (m_compact && shown.track->coasting && !shown.alerting) {
+        return m_coastingPen;
+    }
+    return kind == Kind::Detail ? m_detailPen : m_pen;
+}
+
+void TrackLabelPainter::paintText(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown) const
+{
+    using Kind = TrackLabelLayout::Kind;
     const std::vector<TrackLabelLayout::Line> &lines = shown.label->lines;
     for (std::size_t i = 0; i < lines.size(); ++i) {
+        const TrackLabelLayout::Line &line = lines[i];
         if (shown.hiddenLines & (1u << i)) {
             continue;
         }
-        painter->setPen(lines[i].alert ? m_alertPen : pen);
-        painter->drawStaticText(QPointF(shown.labelRect.x(), shown.labelRect.y() + lines[i].y), lines[i].staticText);
+        if (m_compact) {
+            // A static text is laid out again for another font than that which it was first drawn in.
+            painter->setFont(line.kind == Kind::Detail ? frame.look.labelFont : frame.look.identityFont);
+        }
+        const QPointF place(shown.labelRect.x(), shown.labelRect.y() + line.y);
+        painter->setPen(penFor(line.kind, shown));
+        painter->drawStaticText(place, line.staticText);
+        for (const TrackLabelLayout::Mark &mark : line.marks) {
+            tracklabel::paintMark(painter, mark.character, mark.cell.translated(place));
+        }
     }
 }
 
@@ -64,12 +97,12 @@ void TrackLabelPainter::paintText(QPainter *painter, const ShownTrack &shown) co
 void TrackLabelPainter::paintFrame(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown) const
 {
     const QRect outline = frame.look.padded(shown.labelRect).adjusted(0, 0, -1, -1);
-    if (shown.track->coasting) {
+    if (shown.track->coasting && !m_compact) {
         painter->setPen(m_coastingFramePen);
         painter->drawRect(outline);
     }
     if (shown.label->alertHeight > 0) {
-        painter->setPen(m_alertPen);
+        painter->setPen(m_alertFramePen);
         painter->drawRect(outline);
         painter->drawRect(outline.adjusted(-1, -1, 1, 1));
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "display/track_label_cache.h"
+
 #include <QColor>
 #include <QPen>
 
@@ -16,12 +18,18 @@ public:
 
 private:
     void paintGround(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown) const;
-    void paintText(QPainter *painter, const ShownTrack &shown) const;
+    void paintText(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown) const;
     void paintFrame(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown) const;
+    const QPen &penFor(TrackLabelLayout::Kind kind, const ShownTrack &shown) const;
 
+    bool m_compact = false;
     QPen m_pen;
+    QPen m_detailPen;
     QPen m_selectedPen;
-    QPen m_alertPen;
+    QPen m_coastingPen;
+    QPen m_alertTextPen;
+    QPen m_cautionPen;
+    QPen m_alertFramePen;
     QPen m_coastingFramePen;
     QColor m_alertGround; // what the alert line stands on
 };

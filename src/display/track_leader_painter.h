@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QPen>
+#include "display/track_pens.h"
 
 class QPainter;
 struct ShownTrack;
@@ -11,9 +11,8 @@ class TrackLeaderPainter {
 public:
     // Before the tracks of a frame.
     void prepare(const TrackFrame &frame);
-    void paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown) const;
+    void paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown);
 
 private:
-    QPen m_pen;
-    QPen m_coastingPen;
+    TrackPens m_pens;
 };

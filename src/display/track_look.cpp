@@ -1,5 +1,8 @@
 #include "display/track_look.h"
 
+#include "display/track_label_marks.h"
+#include "view/label_face.h"
+
 #include <QFontDatabase>
 
 #include <algorithm>
@@ -12,7 +15,8 @@ constexpr QPoint DefaultLabelOffset(26, 44);
 
 QFont defaultLabelFont()
 {
-    // The second family stands in where the first is not installed.
+    loadLabelFace();
+    // The second family has the characters that the first lacks.
     QFont font;
     font.setFamilies({QStringLiteral("Cascadia Code"), QFontDatabase::systemFont(QFontDatabase::FixedFont).family()});
     font.setStyleHint(QFont::Monospace);
@@ -37,4 +41,23 @@ TrackColors::TrackColors(const Config &config)
 {
 }
 
-TrackLook::TrackLook() : labelFont(defaultLabelFont()), labelOffset(DefaultLabelOffset) { }
+TrackLook::TrackLook() : labelOffset(DefaultLabelOffset)
+{
+    setLabelFont(defaultLabelFont());
+}
+
+void TrackLook::setLabelFont(const QFont &font)
+{
+    labelFont = font;
+    // Glyphs on whole pixels are sharper at this size, and cheaper to paint than at fractions of one.
+    labelFont.setHintingPreference(QFont::PreferFullHinting);
+    identityFont = labelFont;
+    identityFont.setBold(true);
+    drawnMarks = tracklabel::marksToDraw(labelFont);
+}
+
+QRect TrackLook::padded(const QRect &label) const
+{
+    const int padding = shownPadding();
+    return isCompact() ? label.adjusted(-padding, 0, padding, 0) : label.adjusted(-padding, -padding, padding, 0);
+}

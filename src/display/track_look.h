@@ -30,17 +30,15 @@ struct TrackColors {
 struct TrackLook {
     TrackLook();
 
+    void setLabelFont(const QFont &font);
+
     // Pixels of ground round a label's text.
     int shownPadding() const { return backgroundVisible ? backgroundPadding : 0; }
-    // The padding goes round the label, except below it.
-    QRect padded(const QRect &label) const
-    {
-        return label.adjusted(-shownPadding(), -shownPadding(), shownPadding(), 0);
-    }
+    // The label with its ground: the padding goes round it, except below it. The veil of a compact label is tight.
+    QRect padded(const QRect &label) const;
     bool showsLabels() const { return labelVisible && fields.any(); }
     // Nothing that lies under a label can be seen.
     bool hasOpaqueGround() const { return backgroundVisible && colors.labelBackground.alpha() == 255; }
-    QColor leaderColor() const { return isCompact() ? colors.leader : colors.symbol; }
     bool isCompact() const { return layout == Config::TrackLabelLayout::Compact; }
 
     TrackColors colors;
@@ -52,6 +50,8 @@ struct TrackLook {
     int symbolSize = 24;
 
     QFont labelFont;
+    QFont identityFont; // the same in bold
+    QString drawnMarks; // characters that the font lacks
     QPoint labelOffset; // from the track to the label's upper left corner, y upwards
     bool labelVisible = true;
     TrackLabelFields fields;

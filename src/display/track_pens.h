@@ -3,11 +3,18 @@
 #include <QColor>
 #include <QPen>
 
-// A line one pixel wide. Cosmetic lines of up to one pixel take the painter's quickest way; their widths count device
-// pixels.
-inline QPen trackLinePen(const QColor &color, double devicePixelRatio, Qt::PenStyle style = Qt::SolidLine)
-{
-    QPen pen(color, devicePixelRatio, style);
-    pen.setCosmetic(true);
-    return pen;
-}
+#include <vector>
+
+// Pens for lines one pixel wide, by colour: of a frame's hundreds of lines few differ. Cosmetic lines take the
+// painter's quickest way; their widths count device pixels.
+class TrackPens {
+public:
+    // Before the lines of a frame.
+    void prepare(double devicePixelRatio);
+    // Valid until the next call.
+    const QPen &line(const QColor &color, bool broken = false);
+
+private:
+    std::vector<QPen> m_pens;
+    double m_devicePixelRatio = 1.0;
+};

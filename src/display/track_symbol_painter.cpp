@@ -4,20 +4,32 @@
 
 #include <QPainter>
 
+namespace {
+
+// System tracks have no drawing of their own: what counts is which kind of sensor stands behind them.
+Track::Type seenBy(const TrackSnapshot &track)
+{
+    const bool system = track.type == Track::Sdps || track.type == Track::SdpsModeS;
+    return system ? track.detectedBy : track.type;
+}
+
+} // namespace
+
 void TrackSymbolPainter::prepare(QPainter *painter, const TrackFrame &frame)
 {
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
     m_symbols.setSize(frame.look.symbolSize);
-    m_symbols.setColor(frame.look.colors.symbol);
+    m_symbols.setCasing(frame.look.colors.casing);
 }
 
 void TrackSymbolPainter::paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown)
 {
     const TrackSnapshot &track = *shown.track;
     const double ratio = frame.view.devicePixelRatio();
+    const QColor &color = frame.color(shown);
     const bool byTarget = frame.look.targetTypeSymbol && track.headingValid;
-    const QPixmap &symbol = byTarget ? m_symbols.aircraft(track.heading + frame.view.rotation(), ratio)
-                                     : m_symbols.pixmap(TrackSymbols::forTrackType(track.type), ratio);
-    const int half = frame.look.symbolSize / 2;
+    const QPixmap &symbol = byTarget ? m_symbols.aircraft(track.heading + frame.view.rotation(), color, ratio)
+                                     : m_symbols.pixmap(TrackSymbols::forTrackType(seenBy(track)), color, ratio);
+    const int half = frame.look.symbolSize / 2 + TrackSymbols::Margin;
     painter->drawPixmap(shown.place - QPoint(half, half), symbol);
 }

@@ -14,5 +14,5 @@ public:
     void paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown);
 
 private:
-    TrackSymbols m_symbols;
+    TrackSymbols m_symbols{24, Qt::black};
 };

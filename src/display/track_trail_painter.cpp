@@ -9,24 +9,56 @@
 namespace {
 
 constexpr int DotSize = 2; // pixels
+constexpr float Freshest = 0.85f; // opacities
+constexpr float Faintest = 0.15f;
+
+qsizetype shownDots(const TrackFrame &frame, const ShownTrack &shown)
+{
+    return frame.look.trailVisible ? std::min<qsizetype>(frame.look.trailDots, shown.track->trail.size()) : 0;
+}
+
+QRect dotAt(const TrackFrame &frame, const QPointF &planePoint)
+{
+    const QPoint dot = frame.view.toScreen(planePoint).toPoint();
+    return QRect(dot.x() - DotSize / 2, dot.y() - DotSize / 2, DotSize, DotSize);
+}
 
 } // namespace
 
-// Dots as small rectangles: what a pen of that width draws as points, at a quarter of the cost.
 void TrackTrailPainter::paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown)
 {
-    const QList<QPointF> &trail = shown.track->trail;
-    const auto dots = std::min<qsizetype>(frame.look.trailDots, trail.size());
-    if (dots == 0 || !frame.look.trailVisible) {
+    const qsizetype dots = shownDots(frame, shown);
+    for (qsizetype i = 0; i < dots; ++i) {
+        m_dots[0].push_back(dotAt(frame, shown.track->trail[i]));
+    }
+    drawDots(painter, 0, frame.look.colors.symbol);
+}
+
+void TrackTrailPainter::paintFading(QPainter *painter, const TrackFrame &frame)
+{
+    for (const ShownTrack &shown : frame.tracks) {
+        const qsizetype dots = shownDots(frame, shown);
+        for (qsizetype i = 0; i < dots; ++i) {
+            m_dots[std::size_t(i) * Steps / std::size_t(dots)].push_back(dotAt(frame, shown.track->trail[i]));
+        }
+    }
+    QColor color = frame.look.colors.symbol;
+    for (std::size_t step = 0; step < Steps; ++step) {
+        color.setAlphaF(Freshest + (Faintest - Freshest) * float(step) / float(Steps - 1));
+        drawDots(painter, step, color);
+    }
+}
+
+// Dots as small rectangles: what a pen of that width draws as points, at a quarter of the cost.
+void TrackTrailPainter::drawDots(QPainter *painter, std::size_t step, const QColor &color)
+{
+    std::vector<QRect> &dots = m_dots[step];
+    if (dots.empty()) {
         return;
     }
-    m_dots.clear();
-    for (qsizetype i = 0; i < dots; ++i) {
-        const QPoint dot = frame.view.toScreen(trail[i]).toPoint();
-        m_dots.emplace_back(dot.x() - DotSize / 2, dot.y() - DotSize / 2, DotSize, DotSize);
-    }
     painter->setPen(Qt::NoPen);
-    painter->setBrush(frame.look.colors.symbol);
-    painter->drawRects(m_dots.data(), int(m_dots.size()));
+    painter->setBrush(color);
+    painter->drawRects(dots.data(), int(dots.size()));
     painter->setBrush(Qt::NoBrush);
+    dots.clear();
 }

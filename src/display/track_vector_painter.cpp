@@ -1,7 +1,6 @@
 #include "display/track_vector_painter.h"
 
 #include "display/track_frame.h"
-#include "display/track_pens.h"
 #include "geo/wgs84.h"
 
 #include <QPainter>
@@ -12,6 +11,7 @@
 namespace {
 
 constexpr int TickReach = 2; // pixels to either side of a vector
+constexpr int EndReach = 3;
 
 // The direction of an angle in degrees clockwise from the top of the screen.
 QPointF direction(double degrees)
@@ -34,9 +34,7 @@ double unitPixels(const TrackFrame &frame, const TrackSnapshot &track)
 
 void TrackVectorPainter::prepare(const TrackFrame &frame)
 {
-    const double ratio = frame.view.devicePixelRatio();
-    m_pen = trackLinePen(frame.look.colors.symbol, ratio);
-    m_coastingPen = trackLinePen(frame.look.colors.symbol, ratio, Qt::DashLine);
+    m_pens.prepare(frame.view.devicePixelRatio());
 }
 
 void TrackVectorPainter::paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown)
@@ -48,13 +46,16 @@ void TrackVectorPainter::paint(QPainter *painter, const TrackFrame &frame, const
         return;
     }
     const QPointF ahead = direction(shown.track->heading + frame.view.rotation());
-    const QPointF across = QPointF(-ahead.y(), ahead.x()) * TickReach;
+    const QPointF across(-ahead.y(), ahead.x());
     m_lines.clear();
     m_lines.emplace_back(shown.place, shown.place + ahead * length);
     for (int i = 1; i < look.vectorRange && look.vectorTicksVisible; ++i) {
         const QPointF tick = shown.place + ahead * (i * unit);
-        m_lines.emplace_back(tick - across, tick + across);
+        m_lines.emplace_back(tick - across * TickReach, tick + across * TickReach);
     }
-    painter->setPen(shown.track->coasting ? m_coastingPen : m_pen);
+    if (look.isCompact()) {
+        m_lines.emplace_back(m_lines.front().p2() - across * EndReach, m_lines.front().p2() + across * EndReach);
+    }
+    painter->setPen(m_pens.line(frame.color(shown), shown.track->coasting));
     painter->drawLines(m_lines.data(), int(m_lines.size()));
 }

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "display/track_pens.h"
+
 #include <QLineF>
-#include <QPen>
 
 #include <vector>
 
@@ -9,7 +10,8 @@ class QPainter;
 struct ShownTrack;
 struct TrackFrame;
 
-// Where a track goes: a line along its heading with a tick for each unit of its range.
+// Where a track goes: a line along its heading with a tick for each unit of its range. In the compact layout a longer
+// one marks its end.
 class TrackVectorPainter {
 public:
     // Before the tracks of a frame.
@@ -17,7 +19,6 @@ public:
     void paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown);
 
 private:
-    QPen m_pen;
-    QPen m_coastingPen;
+    TrackPens m_pens;
     std::vector<QLineF> m_lines; // kept for their memory
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QColor>
 #include <QPixmap>
 #include <QSize>
@@ -16,6 +17,12 @@ public:
     QColor color() const { return m_color; }
     void setColor(const QColor &color);
 
+    // The width of its lines in logical pixels, however large it is drawn; 0, as at first: the drawing's own.
+    void setLineWidth(double pixels);
+    // Logical pixels of empty room that the pixmap has on each side besides the logical size, for lines that reach over
+    // the drawing's edge; 0 at first.
+    void setMargin(int pixels);
+
     // The rendered drawing, kept until size, colour or ratio change; it carries the ratio. Null when the resource
     // cannot be read.
     const QPixmap &pixmap(double devicePixelRatio);
@@ -23,9 +30,13 @@ public:
     QPixmap render(double devicePixelRatio) const;
 
 private:
+    QByteArray drawing() const;
+
     QString m_resourcePath;
     QSize m_logicalSize;
     QColor m_color;
+    double m_lineWidth = 0.0;
+    int m_margin = 0;
     QPixmap m_pixmap;
     double m_pixmapRatio = 0.0; // 0 while nothing is kept
 };

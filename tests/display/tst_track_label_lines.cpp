@@ -16,6 +16,8 @@ class TestTrackLabelLines : public QObject {
 private Q_SLOTS:
     void line_data();
     void line();
+    void compact_data();
+    void compact();
 };
 
 namespace {
@@ -29,6 +31,23 @@ TrackLabelFields only(std::initializer_list<bool TrackLabelFields::*> shown)
         fields.*field = true;
     }
     return fields;
+}
+
+TrackSnapshot knownTrack()
+{
+    TrackSnapshot track;
+    track.trackNumber = 42;
+    track.icaoAddrString = QStringLiteral("78009A");
+    track.callsign = QStringLiteral("ABC123");
+    track.modeACode = 07000;
+    track.modeAString = QStringLiteral("7000");
+    track.level = 35000;
+    track.selectedAltitude = 18000;
+    track.groundSpeed = 452.4;
+    track.heading = 7.6;
+    track.modeACodeValid = track.levelValid = track.selectedAltitudeValid = track.groundSpeedValid = true;
+    track.headingValid = track.verticalRateValid = track.icaoAddrValid = track.callsignValid = true;
+    return track;
 }
 
 } // namespace
@@ -94,21 +113,73 @@ void TestTrackLabelLines::line()
     QFETCH(TrackLabelFields, fields);
     QFETCH(int, line);
     QFETCH(QString, text);
-    TrackSnapshot track;
-    track.trackNumber = 42;
-    track.icaoAddrString = QStringLiteral("78009A");
-    track.callsign = QStringLiteral("ABC123");
-    track.modeAString = QStringLiteral("7000");
-    track.level = 35000;
-    track.selectedAltitude = 18000;
-    track.groundSpeed = 452.4;
-    track.heading = 7.6;
-    track.modeACodeValid = track.levelValid = track.selectedAltitudeValid = track.groundSpeedValid = true;
-    track.headingValid = track.verticalRateValid = true;
+    TrackSnapshot track = knownTrack();
     if (change) {
         change(track);
     }
     QCOMPARE(trackLabelLines(track, fields).text[std::size_t(line)], text);
+}
+
+void TestTrackLabelLines::compact_data()
+{
+    using F = TrackLabelFields;
+    using T = TrackSnapshot;
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<TrackLabelFields>("fields");
+    QTest::addColumn<QStringList>("lines");
+    const auto row = [](const char *name, const F &fields, const QStringList &lines, Change change = {}) {
+        QTest::newRow(name) << change << fields << lines;
+    };
+    F all = only({&F::icaoAddr, &F::verticalRate, &F::heading, &F::selectedAltitude, &F::trackNum});
+    all.alertIndicator = all.callsign = all.squawk = all.level = all.groundSpeed = true;
+    const auto nothingKnown = [](T &t) {
+        t = T();
+        t.trackNumber = 208;
+        t.callsign = QStringLiteral("-------");
+        t.icaoAddrString = QStringLiteral("------");
+        t.modeAString = QStringLiteral("----");
+    };
+    row("usual", F{}, {"ABC123 7000", "F350 452"});
+    row("climbing", F{}, {"ABC123 7000", "F350↑ 452"}, [](T &t) { t.verticalTrend = Track::TrendClimbing; });
+    row("trend without level", F{}, {"ABC123 7000", "452"}, [](T &t) {
+        t.verticalTrend = Track::TrendDescending;
+        t.levelValid = false;
+    });
+    row("everything on", all, {"ABC123 7000", "F350↓ S180 452", "-13 008° 78009A #0042"}, [](T &t) {
+        t.verticalTrend = Track::TrendDescending;
+        t.verticalRate = -1250;
+    });
+    row("everything on, nothing known", all, {"#0208"}, nothingKnown);
+    row("without call sign", F{}, {"A7000", "F350 452"}, [](T &t) { t.callsignValid = false; });
+    row("only a squawk, squawks not wanted", only({&F::callsign}), {"A7000"}, [](T &t) { t.callsignValid = false; });
+    row("without squawk", F{}, {"ABC123", "F350 452"}, [](T &t) { t.modeACodeValid = false; });
+    row("squawk alone is wanted", only({&F::squawk}), {"A7000"});
+    row("nobody wants to know who", only({&F::level}), {"F350"}, [](T &t) { t.coasting = true; });
+    row("on the ground", F{}, {"ABC123 7000", "GND 015"}, [](T &t) {
+        t.onGround = true;
+        t.groundSpeed = 15.0;
+    });
+    row("coasting, in alert", F{}, {"STCA", "ABC123 7000➘", "F350 452"}, [](T &t) {
+        t.coasting = true;
+        t.alertsString = QStringLiteral("STCA");
+    });
+}
+
+void TestTrackLabelLines::compact()
+{
+    QFETCH(Change, change);
+    QFETCH(TrackLabelFields, fields);
+    TrackSnapshot track = knownTrack();
+    if (change) {
+        change(track);
+    }
+    QStringList lines;
+    for (const QString &text : compactLabelLines(track, fields).text) {
+        if (!text.isEmpty()) {
+            lines.append(text);
+        }
+    }
+    QTEST(lines, "lines");
 }
 
 VYX_TEST(TestTrackLabelLines)
