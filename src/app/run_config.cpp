@@ -3,6 +3,7 @@
 #include "app/setting.h"
 
 #include <QDir>
+#include <QSettings>
 
 #include <utility>
 
@@ -17,6 +18,25 @@ void copyGroups(const Config &from, Config &to, SettingGroups groups)
     }
 }
 
+void copyLook(const Config &from, Config &to)
+{
+    for (const Setting &setting : Setting::all()) {
+        if (setting.themed()) {
+            setting.copy(from, to);
+        }
+    }
+}
+
+// What the file says of the look goes into the look to be stored, but where the operator has just changed it.
+void keepLook(const Config &before, const Config &edited, const Config &file, Config &stored)
+{
+    for (const Setting &setting : Setting::all()) {
+        if (setting.themed() && setting.same(before, edited)) {
+            setting.copy(file, stored);
+        }
+    }
+}
+
 } // namespace
 
 RunConfig::RunConfig(const QString &fileName, std::chrono::milliseconds writeDelay, QObject *parent)
@@ -24,6 +44,7 @@ RunConfig::RunConfig(const QString &fileName, std::chrono::milliseconds writeDel
 {
     m_stored.load(fileName);
     m_live = m_stored;
+    m_themeNamed = QSettings(fileName, QSettings::IniFormat).contains(Setting::of(&Config::displayTheme).key());
     m_writeTimer.setSingleShot(true);
     m_writeTimer.setInterval(writeDelay);
     connect(&m_writeTimer, &QTimer::timeout, this, &RunConfig::flush);
@@ -37,6 +58,12 @@ RunConfig::~RunConfig()
 void RunConfig::overrideWith(const std::function<void(Config &)> &change)
 {
     change(m_live);
+}
+
+void RunConfig::beginWithLook(const Config &look)
+{
+    copyLook(look, m_stored);
+    copyLook(look, m_live);
 }
 
 SettingGroups RunConfig::setAside(const Config &proposed, SettingGroups groups)
@@ -61,9 +88,22 @@ SettingGroups RunConfig::bringBack()
 
 void RunConfig::apply(const Config &edited)
 {
+    take(edited, edited.displayTheme != m_live.displayTheme);
+}
+
+void RunConfig::applyLook(const Config &edited)
+{
+    take(edited, true);
+}
+
+void RunConfig::take(const Config &edited, bool wholeLook)
+{
     const SettingGroups kept = RunGroups & ~Config::changedGroups(m_live, edited);
     Config stored = edited;
     copyGroups(m_stored, stored, kept);
+    if (!wholeLook) {
+        keepLook(m_live, edited, m_stored, stored);
+    }
     if (m_aside) {
         copyGroups(edited, *m_aside, Config::changedGroups(m_live, edited));
     }

@@ -10,7 +10,8 @@
 #include <optional>
 
 // The settings of this run, and the settings file behind them. What the command line sets holds for this run alone: the
-// file keeps the user's own values of input, processor and sensor, each as a group, until he changes one of the group.
+// file keeps the user's own values of input, processor and sensor, each as a group, until he changes one of the group,
+// and his own look, each setting of it until he changes that one, or all of them until he chooses a theme.
 class RunConfig final : public QObject {
     Q_OBJECT
 
@@ -24,8 +25,13 @@ public:
     // What is in force.
     const Config &live() const { return m_live; }
 
-    // For this run only, to settings of inputs, processor and sensor.
+    // For this run only, to settings of inputs, processor, sensor and look.
     void overrideWith(const std::function<void(Config &)> &change);
+
+    // Whether the file says which theme was chosen last.
+    bool themeNamed() const { return m_themeNamed; }
+    // As if the file had this look. It is written with the first change.
+    void beginWithLook(const Config &look);
 
     // Takes over the values of these groups for as long as a recording is played. The groups that changed.
     SettingGroups setAside(const Config &proposed, SettingGroups groups);
@@ -40,6 +46,8 @@ public:
     void apply(const Config &edited);
     // The same for a change of the user's to single keys, wherever he made it.
     void edit(const std::function<void(Config &)> &change);
+    // The same for a theme that he chose: all of its look is stored.
+    void applyLook(const Config &edited);
 
     // Writes what waits, at once. False when the file cannot be written: it is tried again with the next change.
     bool flush();
@@ -48,10 +56,13 @@ Q_SIGNALS:
     void writeFailed(const QString &text);
 
 private:
+    void take(const Config &edited, bool wholeLook);
+
     QString m_fileName;
     Config m_stored; // as in the file, or to be
     Config m_live;
     std::optional<Config> m_aside; // m_live before the first recording
+    bool m_themeNamed = false;
     bool m_waiting = false;
     QTimer m_writeTimer;
 };

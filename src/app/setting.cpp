@@ -39,14 +39,14 @@ bool sameValue(const QFileInfo &a, const QFileInfo &b)
 
 template <auto Member, typename Codec = SettingCodec<MemberType<Member>>>
 struct Column {
-    static void save(QSettings &file, const QString &key, const Config &config)
+    static void save(QVariantMap &values, const QString &key, const Config &config)
     {
-        file.setValue(key, Codec::encoded(config.*Member));
+        values.insert(key, Codec::encoded(config.*Member));
     }
-    static void load(const QSettings &file, const QString &key, Config &config)
+    static void load(const QVariantMap &values, const QString &key, Config &config)
     {
-        if (file.contains(key)) {
-            config.*Member = Codec::decoded(file.value(key));
+        if (values.contains(key)) {
+            config.*Member = Codec::decoded(values.value(key));
         }
     }
     static bool same(const Config &a, const Config &b) { return sameValue(a.*Member, b.*Member); }
@@ -56,17 +56,17 @@ struct Column {
 
 // A key each level of intensity. How many there are is for the record to say, not for the file.
 struct WeatherColors : Column<&Config::mapWeatherColor> {
-    static void save(QSettings &file, const QString &key, const Config &config)
+    static void save(QVariantMap &values, const QString &key, const Config &config)
     {
         for (int level = 0; level < config.mapWeatherColor.size(); ++level) {
-            file.setValue(key.arg(level), OpaqueColorCodec::encoded(config.mapWeatherColor.at(level)));
+            values.insert(key.arg(level), OpaqueColorCodec::encoded(config.mapWeatherColor.at(level)));
         }
     }
-    static void load(const QSettings &file, const QString &key, Config &config)
+    static void load(const QVariantMap &values, const QString &key, Config &config)
     {
         for (int level = 0; level < config.mapWeatherColor.size(); ++level) {
-            if (file.contains(key.arg(level))) {
-                config.mapWeatherColor[level] = OpaqueColorCodec::decoded(file.value(key.arg(level)));
+            if (values.contains(key.arg(level))) {
+                config.mapWeatherColor[level] = OpaqueColorCodec::decoded(values.value(key.arg(level)));
             }
         }
     }
@@ -84,8 +84,8 @@ constexpr Setting row(const char *key, SettingGroups groups)
 constexpr std::array Table{
     SETTING(displayCenterCoordinate, Group::PlanView, WholeSeconds),
     SETTING(displayLocalTimeZoneName, Group::General),
-    SETTING(displayTheme, Group::General),
-    SETTING(displayStyle, Group::General),
+    SETTING(displayTheme, Group::General).ofThemes(),
+    SETTING(displayStyle, Group::General).ofThemes(),
     SETTING(displayLanguage, Group::General),
     SETTING(displayToolbarText, Group::General),
     SETTING(inputComm, Group::Input),
@@ -141,10 +141,10 @@ constexpr std::array Table{
     SETTING(sensorSmrCoverage, Group::Sensor).within(0, 1000, Unit::NauticalMiles),
     SETTING(sensorDatabase, Group::SensorFile),
     SETTING(mapSmoothPixmapTransform, Group::StaticMaps | Group::Tiles),
-    SETTING(mapBackgroundColor, Group::PlanView),
+    SETTING(mapBackgroundColor, Group::PlanView).ofThemes(),
     SETTING(mapTileConsent, Group::Tiles),
-    SETTING(mapTileDimming, Group::Tiles).within(0, 100, Unit::Percent),
-    SETTING(mapTileDesaturation, Group::Tiles).within(0, 100, Unit::Percent),
+    SETTING(mapTileDimming, Group::Tiles).within(0, 100, Unit::Percent).ofThemes(),
+    SETTING(mapTileDesaturation, Group::Tiles).within(0, 100, Unit::Percent).ofThemes(),
     SETTING(mapCustomTileUrl, Group::Tiles),
     SETTING(mapCustomTileHeader, Group::Tiles),
     SETTING(mapCustomTileMaxLevel, Group::Tiles).within(0, 24),
@@ -192,58 +192,58 @@ constexpr std::array Table{
     SETTING(mapFaaOfflinePriority, Group::Tiles),
     SETTING(mapFaaOfflineOnly, Group::Tiles),
     SETTING(mapWeatherVisible, Group::Weather),
-    row<WeatherColors>("mapWeatherColor%1", Group::Weather),
-    SETTING(mapWeatherOpacity, Group::Weather).within(0, 255),
+    row<WeatherColors>("mapWeatherColor%1", Group::Weather).ofThemes(),
+    SETTING(mapWeatherOpacity, Group::Weather).within(0, 255).ofThemes(),
     SETTING(mapWeatherValidity, Group::Weather).within(1, 86400, Unit::Seconds),
     SETTING(mapWeatherVectorWidth, Group::Weather).within(0.01, 45, Unit::Degrees),
     SETTING(mapWeatherAutoVectorWidth, Group::Weather),
     SETTING(mapWeatherIgnoreEmptyPicture, Group::Weather),
     SETTING(mapVideoVisible, Group::Video),
-    SETTING(mapVideoHighColor, Group::Video, OpaqueColorCodec),
-    SETTING(mapVideoLowColor, Group::Video, OpaqueColorCodec),
-    SETTING(mapVideoHighOpacity, Group::Video).within(0, 255),
-    SETTING(mapVideoLowOpacity, Group::Video).within(0, 255),
+    SETTING(mapVideoHighColor, Group::Video, OpaqueColorCodec).ofThemes(),
+    SETTING(mapVideoLowColor, Group::Video, OpaqueColorCodec).ofThemes(),
+    SETTING(mapVideoHighOpacity, Group::Video).within(0, 255).ofThemes(),
+    SETTING(mapVideoLowOpacity, Group::Video).within(0, 255).ofThemes(),
     SETTING(mapVideoThreshold, Group::Video).within(0, 255),
     SETTING(mapVideoValidity, Group::Video).within(1, 3600, Unit::Seconds),
     SETTING(mapIndex, Group::StaticMaps),
-    SETTING(mapStyleSheet, Group::StaticMaps),
+    SETTING(mapStyleSheet, Group::StaticMaps).ofThemes(),
     SETTING(mapStaticVisible, Group::StaticMaps),
-    SETTING(mapStaticSymbolSize, Group::StaticMaps).within(4, 256, Unit::Pixels),
+    SETTING(mapStaticSymbolSize, Group::StaticMaps).within(4, 256, Unit::Pixels).ofThemes(),
     SETTING(mapSensorVisible, Group::SensorLayer),
     SETTING(mapSensorCoverageVisible, Group::SensorLayer),
     SETTING(mapSensorRadarNorthMarkerVisible, Group::SensorLayer),
     SETTING(mapSensorRadarAntennaLineVisible, Group::SensorLayer),
-    SETTING(mapSensorNameVisible, Group::SensorLayer),
-    SETTING(mapSensorRadarNorthMarkerShort, Group::SensorLayer),
-    SETTING(mapSensorColor, Group::SensorLayer),
-    SETTING(mapSensorRadarNorthMarkerColor, Group::SensorLayer),
-    SETTING(mapSensorRadarAntennaLineColor, Group::SensorLayer),
+    SETTING(mapSensorNameVisible, Group::SensorLayer).ofThemes(),
+    SETTING(mapSensorRadarNorthMarkerShort, Group::SensorLayer).ofThemes(),
+    SETTING(mapSensorColor, Group::SensorLayer).ofThemes(),
+    SETTING(mapSensorRadarNorthMarkerColor, Group::SensorLayer).ofThemes(),
+    SETTING(mapSensorRadarAntennaLineColor, Group::SensorLayer).ofThemes(),
     SETTING(mapRangeRingVisible, Group::RangeRings),
-    SETTING(mapRangeRingColor, Group::RangeRings),
+    SETTING(mapRangeRingColor, Group::RangeRings).ofThemes(),
     SETTING(mapRangeRingNumber, Group::RangeRings).within(1, 50),
     SETTING(mapRangeRingDistance, Group::RangeRings).within(0.1, 1000, Unit::NauticalMiles),
-    SETTING(mapRangeRingLabelVisible, Group::RangeRings),
-    SETTING(mapRangeRingLabelColor, Group::RangeRings | Group::Orientation),
-    SETTING(mapCompassRoseVisible, Group::Orientation),
-    SETTING(mapScaleBarVisible, Group::Orientation),
-    SETTING(mapKeyVisible, Group::Orientation),
+    SETTING(mapRangeRingLabelVisible, Group::RangeRings).ofThemes(),
+    SETTING(mapRangeRingLabelColor, Group::RangeRings | Group::Orientation).ofThemes(),
+    SETTING(mapCompassRoseVisible, Group::Orientation).ofThemes(),
+    SETTING(mapScaleBarVisible, Group::Orientation).ofThemes(),
+    SETTING(mapKeyVisible, Group::Orientation).ofThemes(),
     SETTING(mapPlotVisible, Group::Plots),
     SETTING(mapPlotSeconds, Group::Plots).within(0, 3600, Unit::Seconds),
-    SETTING(mapPlotColor, Group::Plots),
-    SETTING(trackLabelLayout, Group::Tracks),
-    SETTING(trackLabelAutoPlace, Group::Tracks),
-    SETTING(trackSymbolColor, Group::Tracks),
-    SETTING(trackSymbolCasingColor, Group::Tracks),
-    SETTING(trackLeaderColor, Group::Tracks),
-    SETTING(trackCoastingColor, Group::Tracks),
-    SETTING(trackCautionColor, Group::Tracks),
-    SETTING(trackLabelDetailColor, Group::Tracks),
-    SETTING(trackLabelAlertTextColor, Group::Tracks),
-    SETTING(trackLabelColor, Group::Tracks),
-    SETTING(trackLabelSelectedColor, Group::Tracks),
-    SETTING(trackLabelAlertColor, Group::Tracks),
-    SETTING(trackLabelBackgroundColor, Group::Tracks),
-    SETTING(trackLabelBackgroundOpacity, Group::Tracks).within(0, 100, Unit::Percent),
+    SETTING(mapPlotColor, Group::Plots).ofThemes(),
+    SETTING(trackLabelLayout, Group::Tracks).within(0, 1).ofThemes(),
+    SETTING(trackLabelAutoPlace, Group::Tracks).ofThemes(),
+    SETTING(trackSymbolColor, Group::Tracks).ofThemes(),
+    SETTING(trackSymbolCasingColor, Group::Tracks).ofThemes(),
+    SETTING(trackLeaderColor, Group::Tracks).ofThemes(),
+    SETTING(trackCoastingColor, Group::Tracks).ofThemes(),
+    SETTING(trackCautionColor, Group::Tracks).ofThemes(),
+    SETTING(trackLabelDetailColor, Group::Tracks).ofThemes(),
+    SETTING(trackLabelAlertTextColor, Group::Tracks).ofThemes(),
+    SETTING(trackLabelColor, Group::Tracks).ofThemes(),
+    SETTING(trackLabelSelectedColor, Group::Tracks).ofThemes(),
+    SETTING(trackLabelAlertColor, Group::Tracks).ofThemes(),
+    SETTING(trackLabelBackgroundColor, Group::Tracks).ofThemes(),
+    SETTING(trackLabelBackgroundOpacity, Group::Tracks).within(0, 100, Unit::Percent).ofThemes(),
 };
 
 #undef SETTING
@@ -267,6 +267,35 @@ const Setting &Setting::at(const void *addressInProbe)
         [addressInProbe](const Setting &setting) { return setting.m_access.address(probe()) == addressInProbe; });
     Q_ASSERT_X(found != Table.end(), "Setting::of", "a member that no setting fills");
     return *found;
+}
+
+QVariantMap Setting::values(const Config &config) const
+{
+    QVariantMap values;
+    m_access.save(values, key(), config);
+    return values;
+}
+
+void Setting::save(QSettings &file, const Config &config) const
+{
+    const QVariantMap written = values(config);
+    for (auto value = written.begin(); value != written.end(); ++value) {
+        file.setValue(value.key(), value.value());
+    }
+}
+
+void Setting::load(const QSettings &file, Config &config) const
+{
+    QVariantMap read = values(config);
+    for (auto value = read.begin(); value != read.end();) {
+        if (file.contains(value.key())) {
+            *value = file.value(value.key());
+            ++value;
+        } else {
+            value = read.erase(value);
+        }
+    }
+    setValues(read, config);
 }
 
 QString Setting::unitSuffix() const

@@ -4,6 +4,7 @@
 #include "app/setting_group.h"
 
 #include <QString>
+#include <QVariantMap>
 
 #include <span>
 
@@ -17,8 +18,8 @@ public:
 
     // What reads and writes one member of a record.
     struct Access {
-        void (*save)(QSettings &file, const QString &key, const Config &config);
-        void (*load)(const QSettings &file, const QString &key, Config &config);
+        void (*save)(QVariantMap &values, const QString &key, const Config &config);
+        void (*load)(const QVariantMap &values, const QString &key, Config &config);
         bool (*same)(const Config &a, const Config &b);
         void (*copy)(const Config &from, Config &to);
         const void *(*address)(const Config &config);
@@ -37,6 +38,13 @@ public:
         setting.m_unit = unit;
         return setting;
     }
+    // One of those that a theme holds: how things look, and nothing that an operator switches on and off as he works.
+    constexpr Setting ofThemes() const
+    {
+        Setting setting = *this;
+        setting.m_themed = true;
+        return setting;
+    }
 
     // All settings, in the order of the file.
     static std::span<const Setting> all();
@@ -52,12 +60,16 @@ public:
     // Both zero for a setting that is no number.
     double minimum() const { return m_minimum; }
     double maximum() const { return m_maximum; }
+    bool themed() const { return m_themed; }
     // What stands behind a number, with a blank in front where the unit takes one: " NM".
     QString unitSuffix() const;
 
-    void save(QSettings &file, const Config &config) const { m_access.save(file, key(), config); }
-    // A key that the file lacks changes nothing.
-    void load(const QSettings &file, Config &config) const { m_access.load(file, key(), config); }
+    // As in a settings file, by key: one, or one each for the entries of a list.
+    QVariantMap values(const Config &config) const;
+    // A key that is absent changes nothing.
+    void setValues(const QVariantMap &values, Config &config) const { m_access.load(values, key(), config); }
+    void save(QSettings &file, const Config &config) const;
+    void load(const QSettings &file, Config &config) const;
     bool same(const Config &a, const Config &b) const { return m_access.same(a, b); }
     void copy(const Config &from, Config &to) const { m_access.copy(from, to); }
 
@@ -71,4 +83,5 @@ private:
     double m_minimum = 0.0;
     double m_maximum = 0.0;
     Unit m_unit = Unit::None;
+    bool m_themed = false;
 };

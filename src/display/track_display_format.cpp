@@ -4,7 +4,6 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QLatin1String>
 
 #include <array>
@@ -68,6 +67,21 @@ constexpr std::array Numbers{
         &Display::setVectorRange},
 };
 
+// Which fields a label has, and how long trails and vectors are, is no matter of looks.
+constexpr std::array LookKeys{fontFamiliesKey, fontSizeKey, QLatin1String("background"),
+    QLatin1String("backgroundPadding"), QLatin1String("symbolSize")};
+
+QJsonObject lookOf(const QJsonObject &object)
+{
+    QJsonObject look;
+    for (const QLatin1String key : LookKeys) {
+        if (object.contains(key)) {
+            look.insert(key, object.value(key));
+        }
+    }
+    return look;
+}
+
 // Only what the operator chooses of a font: that it is to be a fixed-width one stays as the display says.
 void readFont(const QJsonObject &object, QFont *font)
 {
@@ -105,7 +119,32 @@ void TrackDisplayFormat::applyTo(GeoTrackDisplay &display) const
     display.setLabelFont(labelFont);
 }
 
+QJsonObject TrackDisplayFormat::look() const
+{
+    return lookOf(toJson());
+}
+
+void TrackDisplayFormat::takeLook(const QJsonObject &look)
+{
+    takeJson(lookOf(look));
+}
+
 QByteArray TrackDisplayFormat::toBytes() const
+{
+    return QJsonDocument(toJson()).toJson(QJsonDocument::Compact);
+}
+
+bool TrackDisplayFormat::fromBytes(const QByteArray &bytes)
+{
+    const QJsonObject object = QJsonDocument::fromJson(bytes).object();
+    if (!object.value(versionKey).isDouble()) {
+        return false;
+    }
+    takeJson(object);
+    return true;
+}
+
+QJsonObject TrackDisplayFormat::toJson() const
 {
     QJsonObject object{{versionKey, FormatVersion}, {fontSizeKey, labelFont.pointSize()},
         {fontFamiliesKey, QJsonArray::fromStringList(labelFont.families())}};
@@ -115,15 +154,11 @@ QByteArray TrackDisplayFormat::toBytes() const
     for (const Number &entry : Numbers) {
         object.insert(QLatin1String(entry.key), this->*entry.field);
     }
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+    return object;
 }
 
-bool TrackDisplayFormat::fromBytes(const QByteArray &bytes)
+void TrackDisplayFormat::takeJson(const QJsonObject &object)
 {
-    const QJsonObject object = QJsonDocument::fromJson(bytes).object();
-    if (!object.value(versionKey).isDouble()) {
-        return false;
-    }
     for (const Switch &entry : Switches) {
         this->*entry.field = object.value(QLatin1String(entry.key)).toBool(this->*entry.field);
     }
@@ -134,5 +169,4 @@ bool TrackDisplayFormat::fromBytes(const QByteArray &bytes)
         }
     }
     readFont(object, &labelFont);
-    return true;
 }

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QFont>
+#include <QJsonObject>
 
 class GeoTrackDisplay;
 
@@ -44,8 +45,17 @@ struct TrackDisplayFormat {
     void readFrom(const GeoTrackDisplay &display);
     void applyTo(GeoTrackDisplay &display) const;
 
+    // What a theme says of it: font, sizes, background. Keys and values are those of the bytes.
+    QJsonObject look() const;
+    // What the look lacks, or has a value for that cannot be, stays as it is; what is no matter of a look too.
+    void takeLook(const QJsonObject &look);
+
     QByteArray toBytes() const;
     // Values that are absent, unknown or out of range leave the field as it is, so that bytes of an older or newer
     // build, or damaged ones, do no harm. False when nothing could be read.
     bool fromBytes(const QByteArray &bytes);
+
+private:
+    QJsonObject toJson() const;
+    void takeJson(const QJsonObject &object);
 };

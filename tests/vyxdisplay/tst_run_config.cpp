@@ -1,4 +1,5 @@
 #include "app/run_config.h"
+#include "app/theme.h"
 #include "sensors/radar_sensor_info.h"
 #include "test_program.h"
 #include "vyxdisplay/command_line.h"
@@ -16,6 +17,7 @@ private Q_SLOTS:
     void everyKeyOfTheCommandLineIsProtected();
     void editedGroupIsStoredWhole_data();
     void editedGroupIsStoredWhole();
+    void lookOfTheRunIsNotSaved();
     void recordingsSettingsAreGivenBack();
     void writesOnceAndLater();
     void saysThatTheFileCannotBeWritten();
@@ -127,6 +129,38 @@ void TestRunConfig::editedGroupIsStoredWhole()
     run.edit(edit);
     QVERIFY(run.flush());
     QCOMPARE(Config::changedGroups(stored(), run.live()), overridden & ~groups);
+}
+
+// A colour that the operator changes while he sees another theme is all that is stored of it; a theme that he chooses
+// is stored whole, also where the run has its values already.
+void TestRunConfig::lookOfTheRunIsNotSaved()
+{
+    const auto theme = [](const QString &name, const QColor &symbols) {
+        return [name, symbols](Config &config) {
+            config.displayTheme = name;
+            config.trackSymbolColor = symbols;
+            config.trackLabelLayout = Config::TrackLabelLayout::Compact;
+        };
+    };
+    RunConfig run(file());
+    run.overrideWith(theme("Dark", Qt::cyan));
+    run.edit([](Config &config) { config.trackLabelColor = Qt::yellow; });
+    QVERIFY(run.flush());
+    QCOMPARE(stored().trackLabelColor, QColor(Qt::yellow));
+    QCOMPARE(stored().displayTheme, Theme::Classic);
+    QCOMPARE(stored().trackSymbolColor, Config().trackSymbolColor);
+
+    for (const bool other : {true, false}) {
+        RunConfig again(file());
+        again.overrideWith(theme("Dark", Qt::cyan));
+        Config chosen = again.live();
+        theme(other ? "Darker" : "Dark", Qt::cyan)(chosen);
+        other ? again.apply(chosen) : again.applyLook(chosen);
+        QVERIFY(again.flush());
+        QCOMPARE(stored().displayTheme, chosen.displayTheme);
+        QCOMPARE(stored().trackLabelLayout, Config::TrackLabelLayout::Compact);
+        Config().save(file());
+    }
 }
 
 // The operator's own changes of other groups, and of a group that a recording has set, are kept.
