@@ -32,6 +32,7 @@ void LogPane::appendLine(LogLevel level, const QString &line)
         cursor.insertBlock();
     }
     cursor.insertText(line, format(level));
+    cursor.block().setUserState(static_cast<int>(level));
     if (following) {
         showEnd();
     }
@@ -69,6 +70,27 @@ bool LogPane::event(QEvent *event)
         }
     }
     return QPlainTextEdit::event(event);
+}
+
+// Colours that stand out from one ground may be lost on another.
+void LogPane::changeEvent(QEvent *event)
+{
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        recolor();
+    }
+}
+
+void LogPane::recolor()
+{
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        cursor.setPosition(block.position());
+        cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(format(static_cast<LogLevel>(block.userState())));
+    }
+    cursor.endEditBlock();
 }
 
 void LogPane::contextMenuEvent(QContextMenuEvent *event)

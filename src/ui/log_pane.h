@@ -18,6 +18,7 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
@@ -25,6 +26,7 @@ private:
     void showEnd();
     void keepAtEnd(int minimum, int maximum);
     QTextCharFormat format(LogLevel level) const;
+    void recolor();
 
     int m_end = 0; // of the scroll bar, before its range changes
 };

@@ -56,9 +56,6 @@ void FieldForm::place(QWidget *field, QLabel *label)
     auto *note = new QLabel(this);
     note->setWordWrap(true);
     note->setFocusPolicy(Qt::NoFocus);
-    QPalette notePalette = note->palette();
-    notePalette.setColor(QPalette::WindowText, noteColor(palette()));
-    note->setPalette(notePalette);
     note->hide();
     m_grid->addWidget(note, m_nextRow++, 1);
     m_rows.insert(field, Row{label, note});
@@ -98,6 +95,9 @@ bool FieldForm::check(QWidget *field, const QString &problem)
 {
     const Row row = m_rows.value(field);
     if (row.note) {
+        QPalette colors = row.note->palette();
+        colors.setColor(QPalette::WindowText, noteColor(palette()));
+        row.note->setPalette(colors);
         row.note->setText(problem);
         row.note->setVisible(!problem.isEmpty());
     }

@@ -11,7 +11,7 @@ bool isDark(const QPalette &palette)
 
 QColor quietTextColor(const QPalette &palette)
 {
-    return isDark(palette) ? QColor(0x9A, 0x9A, 0x9A) : QColor(0x68, 0x68, 0x68);
+    return isDark(palette) ? QColor(0xAC, 0xB2, 0xB8) : QColor(0x68, 0x68, 0x68);
 }
 
 QColor warningTextColor(const QPalette &palette)

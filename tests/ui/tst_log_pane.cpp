@@ -1,8 +1,10 @@
 #include "test_program.h"
 #include "ui/log_pane.h"
+#include "view/contrast.h"
 
 #include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
 
 // Whether the newest line is in sight.
 class TestLogPane : public QObject {
@@ -13,6 +15,7 @@ private Q_SLOTS:
     void followsFromTheStart();
     void followsWhateverTakesTheEndOutOfSight();
     void staysWhereTheOperatorReads();
+    void linesAreReadOnAnotherGroundToo();
 
 private:
     void append(int lines);
@@ -84,6 +87,26 @@ void TestLogPane::staysWhereTheOperatorReads()
     bar->triggerAction(QAbstractSlider::SliderToMaximum);
     append(10);
     QVERIFY(atEnd());
+}
+
+void TestLogPane::linesAreReadOnAnotherGroundToo()
+{
+    const QList<LogLevel> levels{LogLevel::Debug, LogLevel::Info, LogLevel::Warning, LogLevel::Critical};
+    for (const LogLevel level : levels) {
+        m_pane->appendLine(level, "line");
+    }
+    for (const auto &[ground, text] : {std::pair(QColor(Qt::black), QColor(Qt::white)), {Qt::white, Qt::black}}) {
+        QPalette palette;
+        palette.setColor(QPalette::Base, ground);
+        palette.setColor(QPalette::Text, text);
+        m_pane->setPalette(palette);
+        QTextBlock block = m_pane->document()->begin();
+        for (const LogLevel level : levels) {
+            const QColor color = block.begin().fragment().charFormat().foreground().color();
+            QVERIFY2(contrastRatio(color, ground) >= 4.5, qPrintable(QString::number(static_cast<int>(level))));
+            block = block.next();
+        }
+    }
 }
 
 VYX_TEST(TestLogPane)
