@@ -30,6 +30,15 @@ void ConfigPage::load(const Config &config)
     }
 }
 
+void ConfigPage::loadLook(const Config &config)
+{
+    for (const Binding &binding : std::as_const(m_bindings)) {
+        if (binding.setting->themed()) {
+            binding.show(config);
+        }
+    }
+}
+
 void ConfigPage::store(Config *config) const
 {
     for (const Binding &binding : m_bindings) {
@@ -50,7 +59,7 @@ void ConfigPage::addBinding(QWidget *field, const Setting &setting, std::functio
 {
     field->setObjectName(setting.key());
     m_settings.append(&setting);
-    m_bindings.append({std::move(show), std::move(store)});
+    m_bindings.append({&setting, std::move(show), std::move(store)});
 }
 
 void ConfigPage::bind(QCheckBox *field, bool Config::*member)

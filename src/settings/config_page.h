@@ -33,6 +33,8 @@ public:
     const QList<const Setting *> &settings() const { return m_settings; }
 
     virtual void load(const Config &config);
+    // Only the settings that themes hold; what has been typed into other fields stays.
+    void loadLook(const Config &config);
     // Notes beside the fields what is wrong; true when nothing is.
     virtual bool validate() { return true; }
     // Only after a successful validate().
@@ -107,6 +109,7 @@ protected:
 
 private:
     struct Binding {
+        const Setting *setting;
         std::function<void(const Config &)> show;
         std::function<void(Config *)> store;
     };

@@ -20,13 +20,15 @@
 #include <QVBoxLayout>
 
 ConfigWindow::ConfigWindow(const Config &config, SensorManager *sensors, QWidget *parent)
-    : GeometryDialog(QStringLiteral("ConfigWindow"), parent), m_config(config), m_pageList(new QListWidget(this)),
-      m_stack(new QStackedWidget(this)), m_saveProblem(new QLabel(this))
+    : GeometryDialog(QStringLiteral("ConfigWindow"), parent), m_config(config), m_base(config),
+      m_pageList(new QListWidget(this)), m_stack(new QStackedWidget(this)), m_saveProblem(new QLabel(this))
 {
     setWindowTitle(tr("Settings"));
     setModal(true);
     m_pageList->setSpacing(2);
-    addPage(new DisplayConfigPage(this));
+    auto *display = new DisplayConfigPage(this);
+    connect(display, &DisplayConfigPage::themeChosen, this, &ConfigWindow::takeTheme);
+    addPage(display);
     addPage(new InputConfigPage(this));
     addPage(new ProcessorConfigPage(this));
     addPage(new SensorConfigPage(sensors, this));
@@ -96,7 +98,7 @@ bool ConfigWindow::apply()
         return false;
     }
     const Config now = entered();
-    Config edited = m_config;
+    Config edited = m_base;
     for (const Setting &setting : Setting::all()) {
         if (!setting.same(now, m_untouched)) {
             setting.copy(now, edited);
@@ -105,16 +107,31 @@ bool ConfigWindow::apply()
     if (m_consent && !m_consent(edited)) {
         return false;
     }
-    m_config = edited;
+    m_config = m_base = edited;
     m_untouched = now;
     m_saveProblem->hide();
     Q_EMIT configApplied(m_config);
     return true;
 }
 
+void ConfigWindow::takeTheme(const Theme &theme)
+{
+    theme.applyTo(m_base);
+    for (ConfigPage *page : std::as_const(m_pages)) {
+        page->loadLook(m_base);
+    }
+    // What the fields show of it counts as untouched: the theme's own values go beyond what some can show.
+    const Config shown = entered();
+    for (const Setting &setting : Setting::all()) {
+        if (setting.themed()) {
+            setting.copy(shown, m_untouched);
+        }
+    }
+}
+
 Config ConfigWindow::entered() const
 {
-    Config config = m_config;
+    Config config = m_base;
     for (const ConfigPage *page : m_pages) {
         page->store(&config);
     }

@@ -10,6 +10,7 @@ class QLabel;
 class QListWidget;
 class QStackedWidget;
 class SensorManager;
+class Theme;
 
 // The settings window: pages chosen in a list at the left. What the operator did not touch passes through unchanged,
 // though its field shows it rounded, cut off at the end of a range or spelled in another way.
@@ -42,9 +43,11 @@ private:
     void addPage(ConfigPage *page);
     QWidget *makeScrollable(ConfigPage *page);
     void showRefused(qsizetype page);
+    void takeTheme(const Theme &theme);
     Config entered() const;
 
     Config m_config;
+    Config m_base; // the same, with the values of a theme that the operator has chosen since
     Config m_untouched; // what the fields hold of it
     std::function<bool(const Config &edited)> m_consent;
     QList<ConfigPage *> m_pages;

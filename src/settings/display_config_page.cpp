@@ -1,5 +1,6 @@
 #include "settings/display_config_page.h"
 
+#include "app/theme_library.h"
 #include "widgets/coordinate_edit.h"
 #include "widgets/field_form.h"
 
@@ -35,9 +36,34 @@ DisplayConfigPage::DisplayConfigPage(QWidget *parent)
     : ConfigPage(tr("Display"), parent), m_center(new CoordinateEdit(GeoCoordinate::NormalPrecision)),
       m_timeZone(makeTimeZoneBox())
 {
+    addThemeRow();
     addPlanViewRows();
     addWindowRows();
     form()->addStretch();
+}
+
+void DisplayConfigPage::addThemeRow()
+{
+    const ThemeLibrary library;
+    auto *theme = new QComboBox;
+    theme->addItems(library.names());
+    theme->setToolTip(
+        tr("Fills in the colours, fonts and map style of all pages. Each of them can be changed afterwards."));
+    form()->addField(tr("T&heme:"), theme);
+    bind<QString>(
+        theme, &Config::displayTheme,
+        [theme](const QString &name) {
+            if (theme->findText(name) < 0) { // its file has gone
+                theme->addItem(name);
+            }
+            theme->setCurrentText(name);
+        },
+        [theme] { return std::optional(theme->currentText()); });
+    connect(theme, &QComboBox::textActivated, this, [this, themes = library](const QString &name) {
+        if (const Theme *chosen = themes.find(name)) {
+            Q_EMIT themeChosen(*chosen);
+        }
+    });
 }
 
 void DisplayConfigPage::addPlanViewRows()

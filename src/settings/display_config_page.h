@@ -1,10 +1,11 @@
 #pragma once
 
+#include "app/theme.h"
 #include "settings/config_page.h"
 
 class CoordinateEdit;
 
-// Settings of the plan view and of the window around it.
+// The theme, and settings of the plan view and of the window around it.
 class DisplayConfigPage final : public ConfigPage {
     Q_OBJECT
 
@@ -13,7 +14,12 @@ public:
 
     bool validate() override;
 
+Q_SIGNALS:
+    // By the operator, who expects its values in all fields.
+    void themeChosen(const Theme &theme);
+
 private:
+    void addThemeRow();
     void addPlanViewRows();
     void addWindowRows();
     QString timeZoneProblem() const;

@@ -36,6 +36,7 @@ enum class ActionId : std::size_t {
     GoTo,
     SaveLayout,
     LoadLayout,
+    Theme,
     FullScreen,
     ResizeMainWindow,
     Statistics,

@@ -30,7 +30,9 @@
 #include "ui/stats_window.h"
 #include "ui/status_line.h"
 #include "ui/status_read_outs.h"
+#include "ui/theme_menu.h"
 #include "ui/weather_intensity_window.h"
+#include "widgets/widget_style.h"
 
 #include <QAction>
 #include <QDateTime>
@@ -55,15 +57,15 @@ constexpr std::pair<ActionId, bool Config::*> LayerToggles[] = {
 } // namespace
 
 MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *parent)
-    : QMainWindow(parent), m_config(AppPaths::configFile()), m_sensors(std::make_unique<SensorManager>()),
-      m_exitQuestion([this] {
-          return confirm(
-              tr("Exit"), tr("%1 is running, do you want to exit?").arg(QGuiApplication::applicationDisplayName()));
-      }),
-      m_stopQuestion([this] {
-          return confirm(tr("Stop"), tr("The input is running on %1. Stop it?").arg(m_session->description()));
-      })
+    : QMainWindow(parent), m_config(AppPaths::configFile()), m_sensors(std::make_unique<SensorManager>())
 {
+    m_questions.exit = [this] {
+        return confirm(
+            tr("Exit"), tr("%1 is running, do you want to exit?").arg(QGuiApplication::applicationDisplayName()));
+    };
+    m_questions.stop = [this] {
+        return confirm(tr("Stop"), tr("The input is running on %1. Stop it?").arg(m_session->description()));
+    };
     connect(
         &m_config, &RunConfig::writeFailed, this, [this](const QString &text) { showLog(LogLevel::Warning, text); });
     if (overrides) {
@@ -74,6 +76,7 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     makeMessagesDock();
     makeParts();
     routeLibraryLogs();
+    connectThemes();
     connectEngine();
     connectSession();
     connectRecordings();
@@ -135,6 +138,7 @@ void MainWindow::makeFurniture()
     setObjectName("mainWindow");
     setAcceptDrops(true);
     m_actions = new Actions(this);
+    m_themes = new ThemeMenu(this, m_actions, &m_config, m_trackDisplay.get());
     m_readOuts = new StatusReadOuts(statusBar(), &m_host.shared().projector);
     m_statusLine = std::make_unique<StatusLine>(statusBar());
     m_statsWindow = new StatsWindow(this);
@@ -186,6 +190,13 @@ void MainWindow::routeLibraryLogs()
     ast_library_init();
     LibraryLog::setSink(this, [this](LogLevel level, const QString &text) { showLog(level, text); });
     LibraryLog::install(isDebugMode());
+}
+
+void MainWindow::connectThemes()
+{
+    connect(m_themes, &ThemeMenu::logMessage, this, &MainWindow::showLog);
+    connect(m_themes, &ThemeMenu::changed, this, &MainWindow::applyConfig);
+    m_themes->reportProblems();
 }
 
 void MainWindow::connectEngine()
@@ -347,6 +358,7 @@ void MainWindow::applyConfig(SettingGroups changed)
         m_trackDisplay->applyConfig(config);
     }
     if (changed & SettingGroup::General) {
+        applyWidgetStyle(config.displayStyle);
         m_readOuts->setTimeZone(config.displayLocalTimeZoneName);
         m_actions->setToolBarText(config.displayToolbarText);
         updateClock();
@@ -356,6 +368,9 @@ void MainWindow::applyConfig(SettingGroups changed)
     }
     if (changed & SettingGroup::Weather && m_weatherIntensityWindow) {
         m_weatherIntensityWindow->refresh();
+    }
+    if (changed & SettingGroup::PlanView && m_trackLabelFormatWindow) {
+        m_trackLabelFormatWindow->setGround(config.mapBackgroundColor);
     }
     if (changed & SettingGroup::StaticMaps) {
         m_mapWindows->reload(config);

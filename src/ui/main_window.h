@@ -34,6 +34,7 @@ class SnapshotPump;
 class StatsWindow;
 class StatusLine;
 class StatusReadOuts;
+class ThemeMenu;
 class TrackLabelFormatWindow;
 class WeatherIntensityWindow;
 
@@ -51,8 +52,8 @@ public:
     explicit MainWindow(const std::function<void(Config &)> &overrides = {}, QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    // Restores layout and window state. To be called once, after show().
-    void loadUi();
+    // Restores layout and window state. To be called once, after show(). A size is for this run only.
+    void loadUi(const QSize &size = {});
 
     // Decided at the first call and kept.
     static bool isDebugMode();
@@ -65,11 +66,12 @@ public:
     GeoWidget *geoWidget() const { return m_geoWidget; }
     const EngineHost &engineHost() const { return m_host; }
     RecordingOpener *recordingOpener() const;
+    ThemeMenu *themes() const { return m_themes; }
 
     // Replaces the question whether to exit while an input is open; true exits.
-    void setExitQuestion(std::function<bool()> question) { m_exitQuestion = std::move(question); }
+    void setExitQuestion(std::function<bool()> question) { m_questions.exit = std::move(question); }
     // Replaces the question whether to stop the live input; true stops.
-    void setStopQuestion(std::function<bool()> question) { m_stopQuestion = std::move(question); }
+    void setStopQuestion(std::function<bool()> question) { m_questions.stop = std::move(question); }
     // How long shutdown waits for the engine's answer and for its thread.
     void setShutdownWaits(int confirmMs, int threadMs);
 
@@ -178,6 +180,7 @@ private:
     void makeMessagesDock();
     void makeParts();
     void routeLibraryLogs();
+    void connectThemes();
     void connectEngine();
     void connectSession();
     void connectRecordings();
@@ -218,7 +221,7 @@ private:
     void updateNotices();
 
     // Life cycle.
-    void loadUiState();
+    void loadUiState(const QSize &size);
     void saveUiState() const;
     void arrangeDocks();
     void closeMapsAndShutDown();
@@ -236,6 +239,7 @@ private:
     GeoWidget *m_geoWidget = nullptr;
     ScopeNotice *m_scopeNotice = nullptr;
     Actions *m_actions = nullptr;
+    ThemeMenu *m_themes = nullptr;
     StatusReadOuts *m_readOuts = nullptr;
     std::unique_ptr<StatusLine> m_statusLine;
     LogPane *m_logPane = nullptr;
@@ -255,10 +259,13 @@ private:
     std::unique_ptr<ReplayControls> m_replay;
     QTimer m_clockTimer;
 
+    QSize m_sizeOfRun; // empty: as stored
     LogLevel m_minimumLevel = LogLevel::Info;
     Shutdown m_shutdown = Shutdown::NotBegun;
-    std::function<bool()> m_exitQuestion;
-    std::function<bool()> m_stopQuestion;
+    struct {
+        std::function<bool()> exit;
+        std::function<bool()> stop;
+    } m_questions;
     struct {
         int confirmMs = 10000;
         int threadMs = 5000;

@@ -68,7 +68,7 @@ void MainWindow::stopInput()
     const bool live = inputOpen() && !m_session->replaying();
     const quint64 request = m_session->requestId();
     // While the question stood open the input may have ended, and another may have taken its place.
-    if (!live || (m_stopQuestion() && request == m_session->requestId())) {
+    if (!live || (m_questions.stop() && request == m_session->requestId())) {
         closeInput();
     }
 }

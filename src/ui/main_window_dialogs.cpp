@@ -22,8 +22,8 @@
 #include "ui/set_center_window.h"
 #include "ui/snapshot_pump.h"
 #include "ui/stats_window.h"
+#include "ui/theme_menu.h"
 #include "ui/weather_intensity_window.h"
-#include "widgets/widget_style.h"
 
 #include <QAction>
 
@@ -76,19 +76,18 @@ void MainWindow::showConfigWindow()
 void MainWindow::takeSettings(const Config &edited)
 {
     const SettingGroups changed = Config::changedGroups(m_config.live(), edited);
-    const bool restyled = edited.displayStyle != m_config.live().displayStyle;
-    const QString sensor = m_config.live().sensorName;
+    const Config before = m_config.live();
     const GeoCoordinate place = m_home->place();
     m_config.apply(edited);
     m_config.flush(); // the operator is told while his window is still open
-    if (restyled) {
-        applyWidgetStyle(edited.displayStyle);
+    if (edited.displayTheme != before.displayTheme) {
+        m_themes->noteChoice(before);
     }
     applyConfig(changed);
     if (changed & SettingGroup::Sensor) {
         applySensor();
     }
-    if (m_config.live().sensorName != sensor || m_home->place() != place) {
+    if (m_config.live().sensorName != before.sensorName || m_home->place() != place) {
         showSensorPlace();
     }
     if (changed & SettingGroup::PlanView) {

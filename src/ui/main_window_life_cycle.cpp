@@ -1,8 +1,6 @@
 // From the first frame to the last: window state, and the shutdown in step with the engine.
 
 #include "app/ui_state.h"
-#include "display/geo_track_display.h"
-#include "display/track_display_format.h"
 #include "engine/data_engine.h"
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
@@ -14,6 +12,7 @@
 #include "ui/map_windows.h"
 #include "ui/replay_controls.h"
 #include "ui/snapshot_pump.h"
+#include "ui/theme_menu.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -32,9 +31,9 @@ constexpr auto TrackFormatKey = "trackDisplayFormat";
 
 } // namespace
 
-void MainWindow::loadUi()
+void MainWindow::loadUi(const QSize &size)
 {
-    loadUiState();
+    loadUiState(size);
     layout()->activate(); // the view is fitted to the scope's final size
     if (!m_home->restore(objectName())) {
         m_home->showSensor();
@@ -44,33 +43,33 @@ void MainWindow::loadUi()
     m_geoWidget->setFocus();
 }
 
-void MainWindow::loadUiState()
+void MainWindow::loadUiState(const QSize &size)
 {
     const QString group = objectName();
     const bool known = restoreGeometry(UiState::geometry(group));
     if (!known) {
         resizeMainWindow({1600, 900});
     }
+    if (!size.isEmpty()) {
+        resizeMainWindow(size);
+        m_sizeOfRun = this->size();
+    }
     if (!restoreState(UiState::value(group, ArrangementKey), ArrangementVersion)) {
         arrangeDocks();
     }
     m_lists->restore(group);
-    TrackDisplayFormat format;
-    format.readFrom(*m_trackDisplay);
-    if (format.fromBytes(UiState::value(group, TrackFormatKey))) {
-        format.applyTo(*m_trackDisplay);
-    }
+    m_themes->restoreFormat(UiState::value(group, TrackFormatKey));
 }
 
 void MainWindow::saveUiState() const
 {
     const QString group = objectName();
-    UiState::saveGeometry(group, saveGeometry());
+    if (size() != m_sizeOfRun) {
+        UiState::saveGeometry(group, saveGeometry());
+    }
     UiState::saveValue(group, ArrangementKey, saveState(ArrangementVersion));
     m_lists->save(group);
-    TrackDisplayFormat format;
-    format.readFrom(*m_trackDisplay);
-    UiState::saveValue(group, TrackFormatKey, format.toBytes());
+    UiState::saveValue(group, TrackFormatKey, m_themes->formatToStore());
     m_home->save(group);
 }
 
@@ -117,7 +116,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         return;
     }
     event->ignore();
-    if (m_shutdown == Shutdown::Begun || (m_session->state() != InputSession::State::Closed && !m_exitQuestion())) {
+    if (m_shutdown == Shutdown::Begun || (m_session->state() != InputSession::State::Closed && !m_questions.exit())) {
         return;
     }
     closeMapsAndShutDown();

@@ -144,6 +144,10 @@ private:
             m_result.processor = parsedValue(parsedProcessor);
         } else if (m_option == QLatin1String("--uap")) {
             m_result.uap = parsedValue(parsedUap);
+        } else if (m_option == QLatin1String("--theme")) {
+            m_result.theme = value();
+        } else if (m_option == QLatin1String("--size")) {
+            m_result.size = parsedValue(parsedSize).value_or(QSize());
         } else if (m_option == QLatin1String("--exit-after")) {
             m_result.exitAfter = parsedValue(parsedSeconds);
         } else if (m_option == QLatin1String("--replay-speed")) {
@@ -253,6 +257,9 @@ QString CommandLine::helpText()
               "                        --input file:RECORDING --sensor auto --start\n"
               "  --replay-speed SPEED  of recordings: 0.5x, 1x, 2x, 4x, 8x or Max\n"
               "  --start               open the input at once\n"
+              "  --theme NAME          show that theme in this run: Classic, Night, Dusk, Day\n"
+              "                        or one of your own\n"
+              "  --size WIDTHxHEIGHT   of the window in this run, pixels\n"
               "  --exit-at-end         exit when the input has ended, as recordings do; status 1\n"
               "                        when it could not be opened\n"
               "  --exit-after SECONDS  exit after that time\n"

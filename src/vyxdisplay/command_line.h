@@ -3,6 +3,7 @@
 #include "app/config.h"
 
 #include <QCoreApplication>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -59,6 +60,8 @@ public:
     std::optional<int> uap; // as in Config::processorAsterixUap
     bool ignoreCartesian = false;
     bool ignoreWgs84 = false;
+    QString theme; // its name, which is not looked up here; empty: as configured
+    QSize size; // of the window, pixels; empty: as it was
     std::optional<std::chrono::milliseconds> exitAfter;
     QString screenshot; // path of the picture to be written at exit, or empty
     QString snapshot; // path of the snapshot to be written at exit, or empty

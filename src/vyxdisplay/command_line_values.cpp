@@ -189,6 +189,21 @@ std::optional<std::chrono::milliseconds> CommandLineValues::parsedSeconds(const 
     return {};
 }
 
+std::optional<QSize> CommandLineValues::parsedSize(const QString &text, QString *error)
+{
+    constexpr int Smallest = 320; // a window that is narrower or lower shows nothing of use
+    constexpr int Largest = 16384;
+    static const QRegularExpression pattern(QStringLiteral("^([0-9]{1,5})[xX]([0-9]{1,5})$"));
+    const auto match = pattern.match(text);
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    const auto fits = [](int length) { return length >= Smallest && length <= Largest; };
+    if (fits(size.width()) && fits(size.height())) {
+        return size;
+    }
+    *error = CommandLine::tr("'%1' is not a size (WIDTHxHEIGHT, %2 to %3 pixels)").arg(text).arg(Smallest).arg(Largest);
+    return {};
+}
+
 std::optional<QString> CommandLineValues::parsedSpeed(const QString &text, QString *error)
 {
     for (const char *name : {"0.5x", "1x", "2x", "4x", "8x", "Max"}) {

@@ -6,6 +6,7 @@
 #include "engine/replay_speed.h"
 #include "ui/main_window.h"
 #include "ui/recording_opener.h"
+#include "ui/theme_menu.h"
 #include "vyxdisplay/command_line.h"
 #include "vyxdisplay/demo_traffic.h"
 #include "vyxdisplay/exit_report.h"
@@ -94,8 +95,20 @@ void openInput(const CommandLine &commandLine, MainWindow &window)
     }
 }
 
+// The demonstration begins dark, as long as nobody has chosen another theme for it.
+void setUpLook(const CommandLine &commandLine, const ThemeLibrary &themes, MainWindow &window)
+{
+    if (commandLine.demo) {
+        window.themes()->beginWith(*themes.find("Night"));
+    }
+    if (!commandLine.theme.isEmpty()) {
+        window.themes()->useForThisRun(*themes.find(commandLine.theme));
+    }
+}
+
 // From the main window's construction to the end of the event loop.
-int runWindow(const CommandLine &commandLine, DemoTraffic *demo, QSplashScreen &splash, const QElapsedTimer &clock)
+int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTraffic *demo, QSplashScreen &splash,
+    const QElapsedTimer &clock)
 {
     MainWindow window([&commandLine, demo](Config &config) {
         if (demo) {
@@ -103,6 +116,7 @@ int runWindow(const CommandLine &commandLine, DemoTraffic *demo, QSplashScreen &
         }
         commandLine.applyTo(config);
     });
+    setUpLook(commandLine, themes, window);
     FirstFrame firstFrame(window.centralWidget(), clock);
     QObject::connect(&firstFrame, &FirstFrame::painted, &window, [&window](qint64 milliseconds) {
         window.showLog(LogLevel::Debug, MainWindow::tr("First frame after %1 ms").arg(milliseconds));
@@ -113,7 +127,7 @@ int runWindow(const CommandLine &commandLine, DemoTraffic *demo, QSplashScreen &
     // Told to end from outside, the program does not wait until somebody answers a dialog.
     QObject::connect(&window, &MainWindow::shutdownComplete, qApp, [] { QCoreApplication::exit(); });
     window.show();
-    window.loadUi();
+    window.loadUi(commandLine.size);
     splash.finish(&window);
     QApplication::processEvents();
 
@@ -157,6 +171,11 @@ int runApplication(int argc, char *argv[], const CommandLine &commandLine, const
     installTranslator(toolkitTexts, "qt_" + language);
     installTranslator(ownTexts, "vyxdisplay_" + language);
 
+    const ThemeLibrary themes;
+    if (!commandLine.theme.isEmpty() && !themes.find(commandLine.theme)) {
+        const QString problem = CommandLine::tr("--theme: '%1' is not a theme (%2)");
+        return complain(problem.arg(commandLine.theme, themes.names().join(", ")));
+    }
     std::unique_ptr<DemoTraffic> demo;
     if (commandLine.demo) {
         demo = std::make_unique<DemoTraffic>(*commandLine.demo);
@@ -167,7 +186,7 @@ int runApplication(int argc, char *argv[], const CommandLine &commandLine, const
     }
     QSplashScreen splash(QPixmap(":resource/local/splash.png"));
     showSplash(splash);
-    return runWindow(commandLine, demo.get(), splash, clock);
+    return runWindow(commandLine, themes, demo.get(), splash, clock);
 }
 
 int qMain(int argc, char *argv[])

@@ -186,7 +186,6 @@ void TestConfigWindow::applyWithoutEditsChangesNothing()
 void TestConfigWindow::everySettingHasAField()
 {
     const QHash<QString, QString> elsewhere{
-        {"displayTheme", "chosen in the View menu, which writes many settings at once"},
         {"displayLanguage", "there are no translations to choose from yet"},
         {"sensorDatabase", "Open and Save as of the sensor manager"},
     };

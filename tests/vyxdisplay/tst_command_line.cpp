@@ -125,6 +125,7 @@ private Q_SLOTS:
         const auto all = parsed({"--start", "--exit-after=2.5", "--screenshot", "a=b.png", "--snapshot=c.json"});
         QVERIFY(all.start);
         QCOMPARE(all.exitAfter->count(), 2500);
+        QCOMPARE(parsed({"--theme", "My Night", "--size=1280X720"}).size, QSize(1280, 720));
         QCOMPARE(all.screenshot + ' ' + all.snapshot, QStringLiteral("a=b.png c.json"));
         QVERIFY(parsed({"-platform", "offscreen", "--style=fusion", "-reverse", "--start"}).start); // the toolkit's own
     }
@@ -163,9 +164,12 @@ private Q_SLOTS:
         row("second recording", {"a.pcap", "b.pcap"}, "'b.pcap'");
         row("recording beside a demo", {"--demo", "a", "b.pcap"}, "--demo");
         row("no speed", {"--replay-speed", "3x"}, "'3x'");
+        row("no size", {"--size", "800"}, "'800'");
+        row("size of nothing", {"--size", "0x0"}, "'0x0'");
+        row("size beyond any screen", {"--size", "99999x800"}, "'99999x800'");
         row("value for a switch", {"--start=yes"}, "--start");
-        for (const auto *option :
-            {"--input", "--sensor", "--processor", "--uap", "--exit-after", "--screenshot", "--snapshot"}) {
+        for (const auto *option : {"--input", "--sensor", "--processor", "--uap", "--theme", "--size", "--exit-after",
+                 "--screenshot", "--snapshot"}) {
             row(qPrintable(QString("%1 at the end").arg(option)), {option}, option);
             row(qPrintable(QString("%1 before an option").arg(option)), {option, "--start"}, option);
             row(qPrintable(QString("%1 empty").arg(option)), {option, ""}, option);
