@@ -2,6 +2,8 @@
 
 GeoLayer::GeoLayer(const QString &name, QObject *parent) : QObject(parent), m_name(name) { }
 
+void GeoLayer::placeTexts(const GeoView &, TextRoom &) { }
+
 void GeoLayer::applyConfig(const Config &) { }
 
 void GeoLayer::setVisible(bool visible)

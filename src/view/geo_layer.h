@@ -8,6 +8,7 @@
 class Config;
 class GeoView;
 class QPainter;
+class TextRoom;
 
 inline constexpr SettingGroups AllSettings = SettingGroups::fromInt(~0u);
 
@@ -25,6 +26,10 @@ public:
     // Called only while visible. The painter comes with the view's screen transform as its world transform (so plane
     // coordinates can be drawn as they are) and no antialiasing; its state is restored afterwards.
     virtual void paint(QPainter &painter, const GeoView &view) = 0;
+
+    // Called while visible, before any layer paints the frame and upper layers first: takes the places of the texts
+    // that paint() is going to write.
+    virtual void placeTexts(const GeoView &view, TextRoom &room);
 
     // Takes over the keys that concern the layer.
     virtual void applyConfig(const Config &config);

@@ -11,6 +11,22 @@
 namespace {
 
 constexpr int PointSize = 9;
+constexpr double LegibleContrast = 3.0;
+constexpr double HaloWidth = 1.0; // pixels
+
+void drawOnHalo(QPainter &painter, const QPointF &center, const QString &text, const QColor &color, const QColor &halo)
+{
+    const QFontMetricsF metrics(painter.font());
+    const QPointF place(std::round(center.x() - metrics.horizontalAdvance(text) / 2.0),
+        std::round(center.y() + (metrics.ascent() - metrics.descent()) / 2.0));
+    painter.setPen(halo);
+    for (const QPointF &step :
+        {QPointF(-HaloWidth, 0), QPointF(HaloWidth, 0), QPointF(0, -HaloWidth), QPointF(0, HaloWidth)}) {
+        painter.drawText(place + step, text);
+    }
+    painter.setPen(color);
+    painter.drawText(place, text);
+}
 
 } // namespace
 
@@ -23,15 +39,26 @@ QFont mapFont()
 
 void drawMapText(QPainter &painter, const QPointF &center, const QString &text, const QColor &color)
 {
-    const QFontMetricsF metrics(painter.font());
-    const QPointF place(std::round(center.x() - metrics.horizontalAdvance(text) / 2.0),
-        std::round(center.y() + (metrics.ascent() - metrics.descent()) / 2.0));
     QColor halo = groundFor(color);
     halo.setAlpha(110);
-    painter.setPen(halo);
-    for (const QPoint &step : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)}) {
-        painter.drawText(place + step, text);
+    drawOnHalo(painter, center, text, color, halo);
+}
+
+void drawMapText(
+    QPainter &painter, const QPointF &center, const QString &text, const QColor &color, const QColor &ground)
+{
+    if (contrastRatio(color, ground) < LegibleContrast) {
+        drawMapText(painter, center, text, color);
+        return;
     }
-    painter.setPen(color);
-    painter.drawText(place, text);
+    QColor halo = ground;
+    halo.setAlpha(190);
+    drawOnHalo(painter, center, text, color, halo);
+}
+
+QRectF mapTextRect(const QPointF &center, const QString &text)
+{
+    const QFontMetricsF metrics(mapFont());
+    const QSizeF half(metrics.horizontalAdvance(text) / 2.0 + 2.0 * HaloWidth, metrics.height() / 2.0 + HaloWidth);
+    return QRectF(center - QPointF(half.width(), half.height()), center + QPointF(half.width(), half.height()));
 }
