@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr double HatchSpacing = 8.0; // pixels
+
 bool isLevel(int level)
 {
     return level >= 0 && level < GeoWeatherMap::LevelCount;
@@ -100,6 +102,15 @@ void GeoWeatherMap::clear()
     Q_EMIT polluted();
 }
 
+QColor GeoWeatherMap::drawnColor(int level) const
+{
+    QColor color = levelColor(level);
+    if (color.isValid()) {
+        color.setAlpha(levelVisible(level) ? m_opacity : std::min(2 * m_opacity, 255)); // thin lines hide less
+    }
+    return color;
+}
+
 int GeoWeatherMap::vectorCount(int level) const
 {
     if (!m_picture || m_clock() - m_pictureTime > m_validity) {
@@ -150,16 +161,18 @@ void GeoWeatherMap::render(const GeoView &view)
     const double ratio = view.devicePixelRatio();
     const QTransform toDevice = view.screenTransform() * QTransform::fromScale(ratio, ratio);
     m_canvas.reset(view.screenRect().size() * ratio);
+    // Tied to the ground, so that it moves along with it.
+    m_canvas.setHatching(toDevice.map(m_projector->toCartesian(m_site)), qRound(HatchSpacing * ratio), qRound(ratio));
     for (const WeatherShape &shape : m_shapes) {
-        QColor color = levelColor(shape.level);
-        if (!isLevel(shape.level) || !levelVisible(shape.level) || !color.isValid()) {
+        const QColor color = isLevel(shape.level) ? drawnColor(shape.level) : QColor();
+        if (!color.isValid()) {
             continue;
         }
-        color.setAlpha(m_opacity);
         QuadCanvas::Quad quad;
         std::transform(shape.corners.begin(), shape.corners.end(), quad.begin(),
             [&toDevice](const QPointF &corner) { return toDevice.map(corner); });
-        m_canvas.fill(quad, qPremultiply(color.rgba()));
+        m_canvas.fill(quad, qPremultiply(color.rgba()),
+            levelVisible(shape.level) ? QuadCanvas::Pattern::Solid : QuadCanvas::Pattern::Hatched);
     }
     m_parts = m_canvas.filledParts();
     m_rendered = true;

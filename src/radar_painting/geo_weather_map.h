@@ -17,8 +17,8 @@ class Projector;
 class SensorInfo;
 
 // The newest weather picture of the radar: each vector a sector in the colour of its intensity level, the stronger over
-// the weaker, all equally transparent. It goes when its validity ends. The drawn picture is kept until view, picture,
-// colours or levels change.
+// the weaker, all equally transparent; hatched where the level is switched off, so that nobody takes it for clear air.
+// It goes when its validity ends. The drawn picture is kept until view, picture, colours or levels change.
 class GeoWeatherMap final : public GeoLayer {
     Q_OBJECT
 
@@ -32,9 +32,12 @@ public:
     void applyConfig(const Config &config) override;
     SettingGroups settings() const override { return SettingGroup::Weather; }
 
-    // Levels are 0 to LevelCount - 1. A level without a valid colour is never shown.
+    // Levels are 0 to LevelCount - 1. A level without a valid colour is never shown; one that is not
+    // visible is hatched.
     bool levelVisible(int level) const { return m_levelVisible[std::size_t(level)]; }
     QColor levelColor(int level) const { return m_colors.value(level); }
+    // As it is drawn, filled or hatched; invalid without a colour.
+    QColor drawnColor(int level) const;
     // Vectors of the level in the picture that is shown; 0 when it has expired.
     int vectorCount(int level) const;
 

@@ -21,7 +21,15 @@ void QuadCanvas::reset(const QSize &size)
     m_filledTiles.assign(std::size_t(m_tileColumns * (size.height() / TileHeight + 1)), false);
 }
 
-void QuadCanvas::fill(const Quad &quad, QRgb premultiplied)
+void QuadCanvas::setHatching(const QPointF &origin, int spacing, int width)
+{
+    m_hatchSpacing = std::max(spacing, 1);
+    m_hatchWidth = width;
+    const double start = std::fmod(std::floor(origin.x()) + std::floor(origin.y()), double(m_hatchSpacing));
+    m_hatchStart = std::isfinite(start) ? int(start < 0.0 ? start + m_hatchSpacing : start) : 0;
+}
+
+void QuadCanvas::fill(const Quad &quad, QRgb premultiplied, Pattern pattern)
 {
     double left = Farthest;
     double right = -Farthest;
@@ -47,7 +55,7 @@ void QuadCanvas::fill(const Quad &quad, QRgb premultiplied)
         addEdge(quad[i], quad[(i + 1) % quad.size()]);
     }
     for (int row = m_top; row <= last; ++row) {
-        fillRow(row, premultiplied);
+        fillRow(row, premultiplied, pattern);
     }
 }
 
@@ -74,7 +82,7 @@ void QuadCanvas::addEdge(const QPointF &from, const QPointF &to)
     }
 }
 
-void QuadCanvas::fillRow(int row, QRgb premultiplied)
+void QuadCanvas::fillRow(int row, QRgb premultiplied, Pattern pattern)
 {
     const Extent &extent = m_rows[std::size_t(row - m_top)];
     if (extent.right < 0.0 || extent.left >= m_image.width()) {
@@ -83,9 +91,24 @@ void QuadCanvas::fillRow(int row, QRgb premultiplied)
     const int first = int(std::max(extent.left, 0.0));
     const int last = int(std::min(extent.right, m_image.width() - 1.0));
     QRgb *line = m_pixels + std::size_t(row) * std::size_t(m_image.width());
-    std::fill(line + first, line + last + 1, premultiplied);
+    if (pattern == Pattern::Solid) {
+        std::fill(line + first, line + last + 1, premultiplied);
+    } else {
+        hatch(line, row, first, last, premultiplied);
+    }
     for (int column = first / TileWidth; column <= last / TileWidth; ++column) {
         m_filledTiles[std::size_t(row / TileHeight * m_tileColumns + column)] = true;
+    }
+}
+
+void QuadCanvas::hatch(QRgb *line, int row, int first, int last, QRgb premultiplied) const
+{
+    int phase = (first + row - m_hatchStart + m_hatchSpacing) % m_hatchSpacing;
+    for (int column = first; column <= last; ++column) {
+        if (phase < m_hatchWidth) {
+            line[column] = premultiplied;
+        }
+        phase = phase + 1 == m_hatchSpacing ? 0 : phase + 1;
     }
 }
 

@@ -6,6 +6,7 @@
 #include "sensors/radar_sensor_info.h"
 #include "test_program.h"
 
+#include <QHash>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -49,6 +50,7 @@ private Q_SLOTS:
     void widthTouchesTheNeighbour();
     void neighboursShowNoSeams();
     void strongerLevelsLieOnTop();
+    void hiddenLevelsAreHatched();
     void keepsUpWithItsCauses();
     void picturesComeAndGo();
     void ignoresNonsense();
@@ -165,9 +167,16 @@ void TestGeoWeatherMap::strongerLevelsLieOnTop()
     // The strongest has no colour.
     m_layer->setPicture(
         picture({{5, 40.0, 80.0, 90.0}, {0, 40.0, 80.0, 90.0}, {6, 40.0, 80.0, 90.0}, {2, 40.0, 80.0, 90.0}}));
+    // Most of what is there: hatching hides less than half.
     const auto shown = [this] {
         const PaintedView view = painted();
-        return view.at(pixel(view, 60.0, 90.0));
+        const QPoint middle = pixel(view, 60.0, 90.0);
+        QHash<QRgb, int> colors;
+        for (int i = 0; i < 64; ++i) {
+            ++colors[view.at(middle + QPoint(i % 8 - 4, i / 8 - 4)).rgb()];
+        }
+        return QColor(*std::max_element(
+            colors.keyBegin(), colors.keyEnd(), [&](QRgb one, QRgb other) { return colors[one] < colors[other]; }));
     };
     for (int level : {5, 2, 0}) {
         QCOMPARE(shown(), levelColor(level));
@@ -176,6 +185,19 @@ void TestGeoWeatherMap::strongerLevelsLieOnTop()
     QCOMPARE(shown(), QColor(Qt::black));
     m_layer->setLevelVisible(2, true);
     QCOMPARE(shown(), levelColor(2));
+}
+
+void TestGeoWeatherMap::hiddenLevelsAreHatched()
+{
+    m_layer->setPicture(picture({{3, 40.0, 120.0, 90.0}}));
+    const int filled = painted().ink();
+    m_layer->setLevelVisible(3, false);
+    const PaintedView hatched = painted();
+    QVERIFY(hatched.count(levelColor(3)) > filled / 20 && hatched.ink() < filled / 4);
+    // It lies on the ground: a view that has moved shows the same lines elsewhere.
+    PaintedView moved(2500.0, plane(Site) + QPointF(3 * 2500.0, -2 * 2500.0));
+    moved.paint([&](QPainter &painter, const GeoView &view) { m_layer->paint(painter, view); });
+    QCOMPARE(moved.image().copy(50, 50, 300, 300), hatched.image().copy(53, 52, 300, 300));
 }
 
 // What was drawn is kept; nothing of it may survive its cause.
