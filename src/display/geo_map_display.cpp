@@ -1,7 +1,11 @@
 #include "display/geo_map_display.h"
 
 #include "app/config.h"
+#include "display/geo_compass_rose.h"
+#include "display/geo_map_key.h"
+#include "display/geo_north_arrow.h"
 #include "display/geo_range_ring_map.h"
+#include "display/geo_scale_bar.h"
 #include "display/geo_sensor_map.h"
 #include "map_painting/geo_static_map.h"
 #include "map_painting/map_editor_layer.h"
@@ -21,6 +25,10 @@ GeoMapDisplay::GeoMapDisplay(Projector *projector, QObject *parent) : QObject(pa
     m_videoMap = addLayer<GeoVideoMap>(MapLayer::Video, projector);
     m_sensorMap = addLayer<GeoSensorMap>(MapLayer::Sensor, projector);
     m_rangeRingMap = addLayer<GeoRangeRingMap>(MapLayer::RangeRings, projector);
+    addLayer<GeoCompassRose>(MapLayer::CompassRose, projector, m_rangeRingMap);
+    addLayer<GeoNorthArrow>(MapLayer::CompassRose);
+    addLayer<GeoScaleBar>(MapLayer::ScaleBar, projector);
+    m_mapKey = addLayer<GeoMapKey>(MapLayer::Key, m_weatherMap);
     m_mapEditorLayer = addLayer<MapEditorLayer>(MapLayer::MapEditor);
     setBackgroundColor(Config().mapBackgroundColor);
 }
@@ -47,6 +55,7 @@ void GeoMapDisplay::paint(QPainter &painter, const GeoView &view)
     painter.resetTransform();
     painter.fillRect(view.screenRect(), m_backgroundColor);
     painter.restore();
+    placeTexts(view);
     for (Entry &entry : m_layers) {
         entry.milliseconds = 0.0;
         if (!entry.layer->visible()) {
@@ -58,6 +67,20 @@ void GeoMapDisplay::paint(QPainter &painter, const GeoView &view)
         entry.layer->paint(painter, view);
         painter.restore();
         entry.milliseconds = double(timer.nsecsElapsed()) / 1e6;
+    }
+}
+
+// What is in the corners goes before what can stand elsewhere.
+void GeoMapDisplay::placeTexts(const GeoView &view)
+{
+    m_textRoom.begin(view.screenRect());
+    for (const QRect &rect : m_covered) {
+        m_textRoom.take(rect);
+    }
+    for (auto entry = m_layers.rbegin(); entry != m_layers.rend(); ++entry) {
+        if (entry->layer->visible()) {
+            entry->layer->placeTexts(view, m_textRoom);
+        }
     }
 }
 

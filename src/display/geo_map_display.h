@@ -1,16 +1,19 @@
 #pragma once
 
 #include "view/geo_layer.h"
+#include "view/text_room.h"
 
 #include <QColor>
 #include <QList>
 #include <QObject>
+#include <QRect>
 #include <QSharedPointer>
 
 #include <memory>
 #include <utility>
 #include <vector>
 
+class GeoMapKey;
 class GeoRangeRingMap;
 class GeoSensorMap;
 class GeoStaticMap;
@@ -21,7 +24,7 @@ class Projector;
 class SensorInfo;
 
 // The layers' places in the drawing order, bottom first. A new layer is a place here and an addLayer().
-enum class MapLayer { StaticMaps, Weather, Video, Sensor, RangeRings, MapEditor };
+enum class MapLayer { StaticMaps, Weather, Video, Sensor, RangeRings, CompassRose, ScaleBar, Key, MapEditor };
 
 // The ground colour and the map layers over it, in drawing order. GUI thread only.
 class GeoMapDisplay final : public QObject {
@@ -59,10 +62,14 @@ public:
     GeoVideoMap *videoMap() const { return m_videoMap; }
     GeoSensorMap *sensorMap() const { return m_sensorMap; }
     GeoRangeRingMap *rangeRingMap() const { return m_rangeRingMap; }
+    GeoMapKey *mapKey() const { return m_mapKey; }
     MapEditorLayer *mapEditorLayer() const { return m_mapEditorLayer; }
 
     QColor backgroundColor() const { return m_backgroundColor; }
     QList<LayerTime> layerTimes() const;
+
+    // What lies over the plan view, pixels: rings, rose and scale write nothing under it.
+    void setCovered(const QList<QRect> &rects) { m_covered = rects; }
 
     // Hands the configuration to the layers that show settings of these groups.
     void applyConfig(const Config &config, SettingGroups changed = AllSettings);
@@ -83,6 +90,7 @@ private:
     };
 
     void insertLayer(MapLayer place, std::unique_ptr<GeoLayer> layer);
+    void placeTexts(const GeoView &view);
 
     std::vector<Entry> m_layers; // bottom first
     GeoStaticMap *m_staticMap = nullptr;
@@ -90,6 +98,9 @@ private:
     GeoVideoMap *m_videoMap = nullptr;
     GeoSensorMap *m_sensorMap = nullptr;
     GeoRangeRingMap *m_rangeRingMap = nullptr;
+    GeoMapKey *m_mapKey = nullptr;
     MapEditorLayer *m_mapEditorLayer = nullptr;
+    QList<QRect> m_covered;
+    TextRoom m_textRoom; // of the frame; kept for its memory
     QColor m_backgroundColor;
 };

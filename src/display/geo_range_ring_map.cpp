@@ -5,16 +5,16 @@
 #include "geo/projector.h"
 #include "geo/wgs84.h"
 #include "view/geo_view.h"
-#include "view/map_text.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
 constexpr int MaximumRings = 100;
-constexpr double SmallestLabelledGap = 18.0; // pixels from ring to ring
+constexpr double SmallestLabelledGap = 44.0; // pixels from one ring with a distance to the next
 
 } // namespace
 
@@ -38,7 +38,10 @@ void GeoRangeRingMap::takeLook(const Config &config)
 {
     m_number = std::clamp(config.mapRangeRingNumber, 0, MaximumRings);
     m_distance = config.mapRangeRingDistance;
-    m_layoutValid = false;
+    m_ringsValid = false;
+    m_labelColor = config.mapRangeRingLabelColor;
+    m_labelsVisible = config.mapRangeRingLabelVisible;
+    m_ground = config.mapBackgroundColor;
     setColor(config.mapRangeRingColor);
     setVisible(config.mapRangeRingVisible);
 }
@@ -49,14 +52,14 @@ void GeoRangeRingMap::setRings(const QPointF &center, int number, double distanc
     m_centerSet = true;
     m_number = std::clamp(number, 0, MaximumRings);
     m_distance = distanceNauticalMiles;
-    m_layoutValid = false;
+    m_ringsValid = false;
     Q_EMIT polluted();
 }
 
 void GeoRangeRingMap::setDefaultCenter(const QPointF &center)
 {
     m_defaultCenter = center;
-    m_layoutValid = false;
+    m_ringsValid = false;
     Q_EMIT polluted();
 }
 
@@ -66,55 +69,75 @@ void GeoRangeRingMap::setColor(const QColor &color)
     Q_EMIT polluted();
 }
 
-void GeoRangeRingMap::layOut()
+const std::vector<QPolygonF> &GeoRangeRingMap::rings()
 {
-    m_layoutValid = true;
+    if (m_ringsValid) {
+        return m_rings;
+    }
+    m_ringsValid = true;
     m_rings.clear();
     const GeoCoordinate middle = m_projector->toWgs84(center());
-    if (!middle.isValid()) {
-        return;
+    if (!middle.isValid() || !(m_distance > 0.0)) {
+        return m_rings;
     }
     for (int i = 1; i <= m_number; ++i) {
         const double radius = i * m_distance * wgs84::MetresPerNauticalMile;
         m_rings.push_back(groundCircle(*m_projector, middle, radius));
     }
+    return m_rings;
+}
+
+QPolygonF GeoRangeRingMap::outermostRing(const GeoView &view)
+{
+    return rings().empty() ? QPolygonF() : view.screenTransform().map(rings().back());
+}
+
+// Every which ring has its distance; 0: none.
+int GeoRangeRingMap::labelledStep(const GeoView &view)
+{
+    if (!m_labelsVisible || rings().empty()) {
+        return 0;
+    }
+    const double gap = QLineF(view.toScreen(center()), view.toScreen(rings().front().first())).length();
+    const double step = std::ceil(SmallestLabelledGap / gap);
+    return step <= double(rings().size()) ? int(step) : 0;
+}
+
+void GeoRangeRingMap::placeTexts(const GeoView &view, TextRoom &room)
+{
+    m_labels.clear();
+    const int step = labelledStep(view);
+    if (step == 0) {
+        return;
+    }
+    const std::size_t every = std::size_t(step);
+    for (std::size_t i = every; i <= rings().size(); i += every) {
+        const QPolygonF &ring = rings()[i - 1];
+        if (!view.planeRect().intersects(ring.boundingRect())) {
+            continue;
+        }
+        const QString text = tr("%1 NM").arg(double(i) * m_distance, 0, 'g', 4);
+        const auto labels = placeOnRing(view.screenTransform().map(ring), text, room);
+        m_labels.insert(m_labels.end(), labels.begin(), labels.end());
+    }
 }
 
 void GeoRangeRingMap::paint(QPainter &painter, const GeoView &view)
 {
-    if (!m_layoutValid) {
-        layOut();
-    }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.resetTransform();
     painter.setPen(QPen(m_color, 1));
-    for (const QPolygonF &ring : m_rings) {
+    if (!m_labels.empty()) {
+        painter.setClipRegion(aroundLabels(view, m_labels));
+    }
+    for (const QPolygonF &ring : rings()) {
         if (view.planeRect().intersects(ring.boundingRect())) {
             painter.drawPolyline(view.screenTransform().map(ring));
         }
     }
+    painter.setClipping(false);
     const QPointF middle = view.toScreen(center());
     painter.drawLine(middle - QPointF(4, 0), middle + QPointF(4, 0));
     painter.drawLine(middle - QPointF(0, 4), middle + QPointF(0, 4));
-    paintDistances(painter, view);
-}
-
-void GeoRangeRingMap::paintDistances(QPainter &painter, const GeoView &view) const
-{
-    if (m_rings.empty() || m_rings.front().isEmpty()) {
-        return;
-    }
-    const QPointF middle = view.toScreen(center());
-    if (QLineF(middle, view.toScreen(m_rings.front().first())).length() < SmallestLabelledGap) {
-        return;
-    }
-    painter.setFont(mapFont());
-    for (std::size_t i = 0; i < m_rings.size(); ++i) {
-        // On the ring's topmost point, whichever way north lies.
-        const QPolygonF ring = view.screenTransform().map(m_rings[i]);
-        const auto top = std::min_element(
-            ring.begin(), ring.end(), [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
-        const QString text = QStringLiteral("%1").arg((double(i) + 1.0) * m_distance, 0, 'g', 4);
-        drawMapText(painter, *top, text, m_color);
-    }
+    drawRingLabels(painter, m_labels, m_labelColor, m_ground);
 }

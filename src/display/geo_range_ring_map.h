@@ -1,5 +1,6 @@
 #pragma once
 
+#include "display/ring_labels.h"
 #include "view/geo_layer.h"
 
 #include <QColor>
@@ -9,8 +10,8 @@
 
 class Projector;
 
-// Rings at equal true distances over the ground around a centre, each with its distance. Until setRings places it, the
-// centre is the default one.
+// Rings at equal true distances over the ground around a centre, each with its distance on four bearings if that is
+// wanted. Until setRings places it, the centre is the default one.
 class GeoRangeRingMap final : public GeoLayer {
     Q_OBJECT
 
@@ -18,6 +19,7 @@ public:
     // The projector must outlive the layer.
     explicit GeoRangeRingMap(Projector *projector, QObject *parent = nullptr);
 
+    void placeTexts(const GeoView &view, TextRoom &room) override;
     void paint(QPainter &painter, const GeoView &view) override;
     // Takes colour, visibility, number and distance; the default centre becomes the configured sensor's place, or the
     // display centre when there is none.
@@ -30,6 +32,8 @@ public:
     QPointF center() const { return m_centerSet ? m_center : m_defaultCenter; } // plane metres
     int number() const { return m_number; }
     double distance() const { return m_distance; } // nautical miles from ring to ring
+    // On the screen, in points evenly by true bearing from north clockwise; empty without rings.
+    QPolygonF outermostRing(const GeoView &view);
     QColor color() const { return m_color; }
 
 public Q_SLOTS:
@@ -40,8 +44,8 @@ public Q_SLOTS:
 
 private:
     void takeLook(const Config &config);
-    void layOut();
-    void paintDistances(QPainter &painter, const GeoView &view) const;
+    const std::vector<QPolygonF> &rings();
+    int labelledStep(const GeoView &view);
 
     Projector *m_projector;
     QPointF m_center;
@@ -50,6 +54,10 @@ private:
     int m_number = 0;
     double m_distance = 0.0;
     QColor m_color;
-    bool m_layoutValid = false;
+    QColor m_labelColor;
+    QColor m_ground;
+    bool m_labelsVisible = false;
+    bool m_ringsValid = false;
     std::vector<QPolygonF> m_rings; // plane, inner first
+    std::vector<RingLabel> m_labels; // of the frame
 };

@@ -8,6 +8,7 @@
 #include "view/geo_view.h"
 #include "view/map_text.h"
 #include "view/steady_clock.h"
+#include "view/text_room.h"
 
 #include <QPainter>
 
@@ -20,6 +21,8 @@ constexpr double SiteDotRadius = 2.5; // pixels
 constexpr double SiteRingRadius = 6.5;
 constexpr double NameDistance = 17.0; // pixels below the site
 constexpr double RimWithoutCoverage = 60.0; // nautical miles
+constexpr double ShortMarker = 16.0; // pixels
+constexpr double SmallestNamedRing = 40.0; // pixels, radius
 
 // Nautical miles, largest first, without zeros and repetitions.
 std::vector<double> ringsOf(const SensorInfo &sensor)
@@ -30,6 +33,25 @@ std::vector<double> ringsOf(const SensorInfo &sensor)
     std::sort(radii.begin(), radii.end(), std::greater<>());
     radii.erase(std::unique(radii.begin(), radii.end()), radii.end());
     return radii;
+}
+
+// How far along the line the rectangle is left for good, 0 to 1; 0 where the line does not touch it.
+double lastPartWithin(const QLineF &line, const QRectF &rect)
+{
+    double enters = 0.0;
+    double leaves = 1.0;
+    const auto clip = [&](double start, double delta, double least, double most) {
+        if (delta == 0.0) {
+            leaves = start < least || start > most ? 0.0 : leaves;
+            return;
+        }
+        const auto [first, last] = std::minmax({(least - start) / delta, (most - start) / delta});
+        enters = std::max(enters, first);
+        leaves = std::min(leaves, last);
+    };
+    clip(line.x1(), line.dx(), rect.left(), rect.right());
+    clip(line.y1(), line.dy(), rect.top(), rect.bottom());
+    return enters < leaves ? leaves : 0.0;
 }
 
 } // namespace
@@ -50,6 +72,9 @@ void GeoSensorMap::applyConfig(const Config &config)
     m_color = config.mapSensorColor;
     m_northMarkerColor = config.mapSensorRadarNorthMarkerColor;
     m_antennaLineColor = config.mapSensorRadarAntennaLineColor;
+    m_ground = config.mapBackgroundColor;
+    m_nameVisible = config.mapSensorNameVisible;
+    m_northMarkerShort = config.mapSensorRadarNorthMarkerShort;
     showCoverage(config.mapSensorCoverageVisible);
     showNorthMarker(config.mapSensorRadarNorthMarkerVisible);
     showAntennaLine(config.mapSensorRadarAntennaLineVisible);
@@ -120,6 +145,28 @@ void GeoSensorMap::antennaNorthCrossed()
     m_sweep.northCrossed(m_clock());
 }
 
+void GeoSensorMap::placeTexts(const GeoView &view, TextRoom &room)
+{
+    m_texts.clear();
+    if (!m_location.isValid() || !m_nameVisible) {
+        return;
+    }
+    const QPointF site = view.toScreen(m_site);
+    const QPointF below = site + QPointF(0, NameDistance);
+    if (!m_sensorName.isEmpty() && room.takeIfFree(mapTextRect(below, m_sensorName))) {
+        m_texts.push_back({below, m_sensorName});
+    }
+    for (std::size_t i = 0; m_coverageVisible && i < m_coverageRings.size(); ++i) {
+        const QPolygonF ring = view.screenTransform().map(m_coverageRings[i]);
+        if (QLineF(site, ring.first()).length() < SmallestNamedRing) {
+            continue;
+        }
+        const QString range = tr("%1 %2 NM").arg(m_sensorName).arg(m_coverages[i], 0, 'g', 4).trimmed();
+        const auto labels = placeOnRing(ring, range, room, 1);
+        m_texts.insert(m_texts.end(), labels.begin(), labels.end());
+    }
+}
+
 void GeoSensorMap::paint(QPainter &painter, const GeoView &view)
 {
     if (!m_location.isValid()) {
@@ -137,16 +184,22 @@ void GeoSensorMap::paint(QPainter &painter, const GeoView &view)
         paintNorthMarker(painter, view);
     }
     paintSite(painter, view);
+    drawRingLabels(painter, m_texts, m_color, m_ground);
 }
 
 void GeoSensorMap::paintCoverage(QPainter &painter, const GeoView &view) const
 {
+    painter.save();
+    if (!m_texts.empty()) {
+        painter.setClipRegion(aroundLabels(view, m_texts));
+    }
     painter.setPen(QPen(m_color, 1));
     for (const QPolygonF &ring : m_coverageRings) {
         if (view.planeRect().intersects(ring.boundingRect())) {
             painter.drawPolyline(view.screenTransform().map(ring));
         }
     }
+    painter.restore();
 }
 
 void GeoSensorMap::paintAntennaLine(QPainter &painter, const GeoView &view) const
@@ -168,7 +221,19 @@ void GeoSensorMap::paintNorthMarker(QPainter &painter, const GeoView &view) cons
         return;
     }
     painter.setPen(QPen(m_northMarkerColor, 2));
-    painter.drawLine(view.toScreen(m_site), view.toScreen(m_rim.first()));
+    painter.drawLine(northMark(view));
+}
+
+// From the site to the rim, or just its end there: at the rim of the view where that comes first.
+QLineF GeoSensorMap::northMark(const GeoView &view) const
+{
+    const QLineF line(view.toScreen(m_site), view.toScreen(m_rim.first()));
+    if (!m_northMarkerShort) {
+        return line;
+    }
+    const double end = lastPartWithin(line, view.screenRect());
+    const double length = std::min(ShortMarker / std::max(line.length(), ShortMarker), end);
+    return QLineF(line.pointAt(end - length), line.pointAt(end));
 }
 
 void GeoSensorMap::paintSite(QPainter &painter, const GeoView &view) const
@@ -182,8 +247,4 @@ void GeoSensorMap::paintSite(QPainter &painter, const GeoView &view) const
     painter.setBrush(m_color);
     painter.setPen(Qt::NoPen);
     painter.drawEllipse(site, SiteDotRadius, SiteDotRadius);
-    painter.setFont(mapFont());
-    if (!m_sensorName.isEmpty()) {
-        drawMapText(painter, site + QPointF(0, NameDistance), m_sensorName, m_color);
-    }
 }

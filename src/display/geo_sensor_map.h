@@ -1,10 +1,12 @@
 #pragma once
 
 #include "display/antenna_sweep.h"
+#include "display/ring_labels.h"
 #include "geo/geo_coordinate.h"
 #include "view/geo_layer.h"
 
 #include <QColor>
+#include <QLineF>
 #include <QPolygonF>
 #include <QSharedPointer>
 
@@ -14,8 +16,8 @@
 class Projector;
 class SensorInfo;
 
-// The sensor: its site and name, its coverage, and for a turning antenna the line where it looks and a flash of the
-// north marker when it passes north.
+// The sensor: its site, its name with the ranges of its coverage if they are wanted, its coverage, and for a turning
+// antenna the line where it looks and a flash of the north marker when it passes north.
 class GeoSensorMap final : public GeoLayer {
     Q_OBJECT
 
@@ -23,9 +25,10 @@ public:
     // The projector must outlive the layer.
     explicit GeoSensorMap(Projector *projector, QObject *parent = nullptr);
 
+    void placeTexts(const GeoView &view, TextRoom &room) override;
     void paint(QPainter &painter, const GeoView &view) override;
     void applyConfig(const Config &config) override;
-    SettingGroups settings() const override { return SettingGroup::SensorLayer; }
+    SettingGroups settings() const override { return SettingGroup::SensorLayer | SettingGroup::PlanView; }
 
     // False, and nothing written, without a located sensor.
     bool sitePosition(QPointF &planePoint) const;
@@ -49,6 +52,7 @@ private:
     void paintCoverage(QPainter &painter, const GeoView &view) const;
     void paintNorthMarker(QPainter &painter, const GeoView &view) const;
     void paintAntennaLine(QPainter &painter, const GeoView &view) const;
+    QLineF northMark(const GeoView &view) const;
     void paintSite(QPainter &painter, const GeoView &view) const;
 
     Projector *m_projector;
@@ -62,11 +66,15 @@ private:
 
     QPointF m_site; // plane
     std::vector<QPolygonF> m_coverageRings; // plane, one a coverage
+    std::vector<RingLabel> m_texts; // of the frame: name and ranges
     QPolygonF m_rim; // plane, where the antenna line ends: one point a degree from north, clockwise
 
     bool m_coverageVisible = false;
     bool m_northMarkerVisible = false;
     bool m_antennaLineVisible = false;
+    bool m_nameVisible = false;
+    bool m_northMarkerShort = false;
+    QColor m_ground;
     QColor m_color;
     QColor m_northMarkerColor;
     QColor m_antennaLineColor;

@@ -44,6 +44,13 @@ public:
     void paint(QPainter *painter);
     void paint(QPainter *painter, const GeoView &view);
 
+    struct SymbolMeaning {
+        QString meaning;
+        QPixmap picture; // carries the ratio
+    };
+    // The symbols that the last frame showed, each once.
+    std::vector<SymbolMeaning> shownSymbols(double devicePixelRatio);
+
     // The track whose symbol, or label as last painted, holds the widget pixel; the first in snapshot order, or 0.
     unsigned long long findTrackBySymbolPosition(const QTransform &screenTransform, int x, int y) const;
     unsigned long long findTrackByLabelPosition(const QTransform &screenTransform, int x, int y) const;

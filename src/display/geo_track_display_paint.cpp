@@ -82,3 +82,16 @@ void GeoTrackDisplay::placeLabels()
         shown.labelRect = rect.translated(shown.place);
     }
 }
+
+std::vector<GeoTrackDisplay::SymbolMeaning> GeoTrackDisplay::shownSymbols(double devicePixelRatio)
+{
+    std::vector<SymbolMeaning> shown;
+    for (int i = 0; i < TrackSymbols::Count; ++i) {
+        const auto symbol = static_cast<TrackSymbols::Symbol>(i);
+        if (m_symbolPainter.painted().test(std::size_t(i))) {
+            shown.push_back({TrackSymbols::meaning(symbol),
+                m_symbolPainter.pixmap(symbol, m_look.colors.symbol, devicePixelRatio)});
+        }
+    }
+    return shown;
+}

@@ -20,6 +20,7 @@ void TrackSymbolPainter::prepare(QPainter *painter, const TrackFrame &frame)
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
     m_symbols.setSize(frame.look.symbolSize);
     m_symbols.setCasing(frame.look.colors.casing);
+    m_painted.reset();
 }
 
 void TrackSymbolPainter::paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown)
@@ -28,8 +29,10 @@ void TrackSymbolPainter::paint(QPainter *painter, const TrackFrame &frame, const
     const double ratio = frame.view.devicePixelRatio();
     const QColor &color = frame.color(shown);
     const bool byTarget = frame.look.targetTypeSymbol && track.headingValid;
+    const TrackSymbols::Symbol kind = byTarget ? TrackSymbols::Aircraft : TrackSymbols::forTrackType(seenBy(track));
     const QPixmap &symbol = byTarget ? m_symbols.aircraft(track.heading + frame.view.rotation(), color, ratio)
-                                     : m_symbols.pixmap(TrackSymbols::forTrackType(seenBy(track)), color, ratio);
+                                     : m_symbols.pixmap(kind, color, ratio);
+    m_painted.set(kind);
     const int half = frame.look.symbolSize / 2 + TrackSymbols::Margin;
     painter->drawPixmap(shown.place - QPoint(half, half), symbol);
 }

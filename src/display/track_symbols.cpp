@@ -1,5 +1,6 @@
 #include "display/track_symbols.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -38,6 +39,17 @@ TrackSymbols::Symbol TrackSymbols::forTrackType(Track::Type type)
 {
     static constexpr Symbol Symbols[] = {Unknown, Psr, Ssr, PsrSsr, ModeS, PsrModeS, Adsb, Mlat, Smr, Unknown, Unknown};
     return Symbols[type];
+}
+
+QString TrackSymbols::meaning(Symbol symbol)
+{
+    static constexpr const char *Meanings[Count] = {QT_TRANSLATE_NOOP("TrackSymbols", "Other"),
+        QT_TRANSLATE_NOOP("TrackSymbols", "PSR"), QT_TRANSLATE_NOOP("TrackSymbols", "SSR"),
+        QT_TRANSLATE_NOOP("TrackSymbols", "PSR + SSR"), QT_TRANSLATE_NOOP("TrackSymbols", "Mode S"),
+        QT_TRANSLATE_NOOP("TrackSymbols", "PSR + Mode S"), QT_TRANSLATE_NOOP("TrackSymbols", "ADS-B"),
+        QT_TRANSLATE_NOOP("TrackSymbols", "MLAT"), QT_TRANSLATE_NOOP("TrackSymbols", "SMR"),
+        QT_TRANSLATE_NOOP("TrackSymbols", "Aircraft"), QT_TRANSLATE_NOOP("TrackSymbols", "Vehicle")};
+    return QCoreApplication::translate("TrackSymbols", Meanings[symbol]);
 }
 
 void TrackSymbols::setSize(int size)

@@ -24,6 +24,9 @@ public:
     // A type that has no drawing of its own is unknown.
     static Symbol forTrackType(Track::Type type);
 
+    // What it stands for, as short as controllers write it.
+    static QString meaning(Symbol symbol);
+
     void setSize(int size);
     void setCasing(const QColor &color);
 

@@ -329,6 +329,7 @@ void GeoWidget::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setWorldTransform(m_view.screenTransform());
     if (m_mapDisplay) {
+        m_mapDisplay->setCovered(coveredPlaces());
         m_mapDisplay->paint(painter, m_view);
     }
     const double mapMs = milliseconds(frameTimer);
@@ -341,6 +342,17 @@ void GeoWidget::paintEvent(QPaintEvent *)
     if (stats) {
         Q_EMIT paintStats(*stats);
     }
+}
+
+QList<QRect> GeoWidget::coveredPlaces() const
+{
+    QList<QRect> places;
+    for (const QWidget *over : findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
+        if (over->isVisible()) {
+            places.append(over->geometry());
+        }
+    }
+    return places;
 }
 
 void GeoWidget::resizeEvent(QResizeEvent *event)

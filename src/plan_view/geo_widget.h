@@ -100,6 +100,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    // Under notes and the like.
+    QList<QRect> coveredPlaces() const;
     QPoint centerPixel() const;
     // The anchor, in pixels from the widget centre, stays where it is.
     void zoomBy(double factor, const QPointF &anchor);

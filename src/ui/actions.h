@@ -59,6 +59,10 @@ enum class ActionId : std::size_t {
     ToggleRangeRings,
     RangeRings,
     SetRangeRingsCenter,
+    ToggleRangeRingLabels,
+    ToggleCompassRose,
+    ToggleScaleBar,
+    ToggleKey,
     Count
 };
 

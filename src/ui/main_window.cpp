@@ -7,6 +7,7 @@
 #include "app/map_places.h"
 #include "asterix/asterix.h"
 #include "display/geo_map_display.h"
+#include "display/geo_map_key.h"
 #include "display/geo_sensor_map.h"
 #include "display/geo_track_display.h"
 #include "engine/data_engine.h"
@@ -52,6 +53,10 @@ constexpr std::pair<ActionId, bool Config::*> LayerToggles[] = {
     {ActionId::ToggleWeatherMap, &Config::mapWeatherVisible},
     {ActionId::ToggleVideoMap, &Config::mapVideoVisible},
     {ActionId::ToggleRangeRings, &Config::mapRangeRingVisible},
+    {ActionId::ToggleRangeRingLabels, &Config::mapRangeRingLabelVisible},
+    {ActionId::ToggleCompassRose, &Config::mapCompassRoseVisible},
+    {ActionId::ToggleScaleBar, &Config::mapScaleBarVisible},
+    {ActionId::ToggleKey, &Config::mapKeyVisible},
 };
 
 } // namespace
@@ -124,6 +129,13 @@ void MainWindow::makeDisplay()
 {
     m_mapDisplay = std::make_unique<GeoMapDisplay>(&m_host.shared().projector);
     m_trackDisplay = std::make_unique<GeoTrackDisplay>();
+    m_mapDisplay->mapKey()->setSymbolSource([this](double devicePixelRatio) {
+        std::vector<GeoMapKey::Symbol> symbols;
+        for (auto &[meaning, picture] : m_trackDisplay->shownSymbols(devicePixelRatio)) {
+            symbols.push_back({meaning, picture});
+        }
+        return symbols;
+    });
     m_geoWidget = new GeoWidget(this);
     m_geoWidget->setObjectName("geoWidget");
     m_geoWidget->setMinimumSize(320, 240);

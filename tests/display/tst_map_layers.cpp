@@ -38,6 +38,8 @@ private Q_SLOTS:
     void coverageLiesAtItsTrueDistance();
     void antennaLineTurns();
     void northMarkerFlashes();
+    void shortNorthMarkerStaysInView();
+    void nameAndRangesOnDemand();
     void sweepMeasuresItsPeriod_data();
     void sweepMeasuresItsPeriod();
     void ringsLieAtTheirTrueDistances();
@@ -117,6 +119,50 @@ void TestMapLayers::northMarkerFlashes()
     QVERIFY(marker.right() - marker.left() < 5 && marker.bottom() < 200 && marker.height() > 50);
     now += 2000;
     QVERIFY(painted(layer).extent(markerColor).isEmpty());
+}
+
+void TestMapLayers::shortNorthMarkerStaysInView()
+{
+    Config config;
+    config.mapSensorRadarNorthMarkerShort = true;
+    config.mapSensorCoverageVisible = false;
+    config.mapSensorRadarNorthMarkerColor = Qt::red;
+    GeoSensorMap layer(&m_projector);
+    layer.applyConfig(config);
+    layer.setSensor(radar(0, 100));
+    layer.antennaNorthCrossed();
+    // The rim of the coverage is in the view, and beyond it.
+    for (double metresPerPixel : {2500.0, 500.0}) {
+        PaintedView view(metresPerPixel, plane(Site));
+        view.paint([&](QPainter &painter, const GeoView &geoView) { layer.paint(painter, geoView); });
+        const QRect marker = view.extent(Qt::red);
+        const double rim = std::max(0.0, pixel(view, Site, 100.0, 0.0).y());
+        QVERIFY(std::abs(marker.top() - rim) < 3.0 && marker.height() > 10 && marker.height() < 22);
+    }
+}
+
+void TestMapLayers::nameAndRangesOnDemand()
+{
+    Config config;
+    config.mapBackgroundColor = Qt::black;
+    auto sensor = radar(50, 100);
+    sensor->setName("North Tower");
+    GeoMapDisplay display(&m_projector);
+    const auto ink = [&](bool named) {
+        config.mapSensorNameVisible = named;
+        display.applyConfig(config);
+        display.setSensor(sensor);
+        const PaintedView view = painted(display);
+        QRect name(0, 0, 60, 10);
+        name.moveCenter(PaintedView::Middle + QPoint(0, 17));
+        QRect range(0, 0, 80, 10); // where the ring has its bearing of 45 degrees
+        range.moveCenter(pixel(view, Site, 100.0, 45.0).toPoint());
+        return std::pair(view.inkIn(name), view.inkIn(range));
+    };
+    const auto [nameOff, rangeOff] = ink(false);
+    const auto [nameOn, rangeOn] = ink(true);
+    QVERIFY(nameOff == 0 && nameOn > 60);
+    QVERIFY(rangeOn > rangeOff + 60);
 }
 
 void TestMapLayers::sweepMeasuresItsPeriod_data()

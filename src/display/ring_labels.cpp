@@ -1,0 +1,102 @@
+#include "display/ring_labels.h"
+
+#include "view/geo_view.h"
+#include "view/map_text.h"
+#include "view/text_room.h"
+
+#include <QLineF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double Bearings[] = {45.0, 135.0, 225.0, 315.0};
+constexpr double Quarter = 45.0; // degrees to either side
+constexpr double StepLength = 12.0; // pixels from one place to the next that is tried
+constexpr int MostSteps = 2048; // on one side of the ring
+constexpr double LeastDistance = 160.0; // pixels between two texts of one ring
+
+struct Place {
+    QPointF point;
+    double bearing = 0.0; // degrees
+};
+
+// Steps belong to the ring and not to the view, so that texts stay where they are while the view is moved.
+std::vector<Place> placesInSight(const QPolygonF &ring, const QRectF &sight)
+{
+    std::vector<Place> places;
+    const double degrees = 360.0 / double(ring.size() - 1);
+    for (qsizetype i = 0; i + 1 < ring.size(); ++i) {
+        const QLineF side(ring[i], ring[i + 1]);
+        if (!QRectF(side.p1(), side.p2()).normalized().adjusted(-1, -1, 1, 1).intersects(sight)) {
+            continue;
+        }
+        // An even number: one step is at the middle, where the bearings are.
+        const int steps = std::clamp(2 * int(std::ceil(side.length() / (2.0 * StepLength))), 2, MostSteps);
+        for (int k = 0; k < steps; ++k) {
+            const double part = double(k) / steps;
+            if (sight.contains(side.pointAt(part))) {
+                places.push_back({side.pointAt(part), (double(i) + part) * degrees});
+            }
+        }
+    }
+    return places;
+}
+
+double turn(double from, double to)
+{
+    return std::abs(std::remainder(to - from, 360.0));
+}
+
+bool crowds(const std::vector<RingLabel> &labels, const QPointF &point)
+{
+    return std::any_of(labels.begin(), labels.end(),
+        [&point](const RingLabel &label) { return QLineF(label.center, point).length() < LeastDistance; });
+}
+
+} // namespace
+
+std::vector<RingLabel> placeOnRing(const QPolygonF &ring, const QString &text, TextRoom &room, std::size_t most)
+{
+    std::vector<RingLabel> labels;
+    const QRectF box = mapTextRect({}, text);
+    std::vector<Place> places =
+        placesInSight(ring, room.view().adjusted(-box.left(), -box.top(), -box.right(), -box.bottom()));
+    for (const double bearing : Bearings) {
+        if (labels.size() == most) {
+            break;
+        }
+        std::stable_sort(places.begin(), places.end(), [bearing](const Place &one, const Place &other) {
+            return turn(bearing, one.bearing) < turn(bearing, other.bearing);
+        });
+        for (const Place &place : places) {
+            if (turn(bearing, place.bearing) > Quarter || crowds(labels, place.point)) {
+                break;
+            }
+            if (room.takeIfFree(box.translated(place.point))) {
+                labels.push_back({place.point, text});
+                break;
+            }
+        }
+    }
+    return labels;
+}
+
+QRegion aroundLabels(const GeoView &view, const std::vector<RingLabel> &labels)
+{
+    QRegion region(view.screenRect());
+    for (const RingLabel &label : labels) {
+        region -= mapTextRect(label.center, label.text).toAlignedRect();
+    }
+    return region;
+}
+
+void drawRingLabels(QPainter &painter, const std::vector<RingLabel> &labels, const QColor &color, const QColor &ground)
+{
+    painter.setFont(mapFont());
+    for (const RingLabel &label : labels) {
+        drawMapText(painter, label.center, label.text, color, ground);
+    }
+}
