@@ -15,6 +15,7 @@
 #include "plan_view/geo_widget.h"
 #include "radar_painting/geo_video_map.h"
 #include "radar_painting/geo_weather_map.h"
+#include "sensors/sensor_info.h"
 #include "sensors/sensor_manager.h"
 #include "settings/track_label_format_window.h"
 #include "ui/actions.h"
@@ -397,6 +398,7 @@ void MainWindow::applySensor()
     m_session->setSensor(m_config.live().sensor(nullptr));
     placeDefaultLayout();
     m_mapDisplay->setSensor(m_session->sensor());
+    m_readOuts->setSensorPlace(m_session->sensor() ? m_session->sensor()->location() : GeoCoordinate());
     beginRadarPicture();
     updateNotices();
 }

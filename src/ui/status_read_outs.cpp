@@ -2,6 +2,7 @@
 
 #include "geo/geo_coordinate.h"
 #include "geo/projector.h"
+#include "geo/wgs84.h"
 #include "widgets/figure_font.h"
 
 #include <QDateTime>
@@ -16,9 +17,11 @@ constexpr auto RecordedLook = "color: black; background-color: #e0a030";
 StatusReadOuts::StatusReadOuts(QStatusBar *bar, Projector *projector)
     : QObject(bar), m_projector(projector),
       m_cursor(addReadOut(bar, "8959599N 17959599W", tr("Position under the pointer"))),
+      m_fromSensor(addReadOut(bar, "360° 9999.9 NM", tr("Pointer from the sensor: true bearing and distance"))),
       m_scale(addReadOut(bar, "SCL 14000", tr("Scale, metres per pixel"))),
       m_rotation(addReadOut(bar, "ROT +000180", tr("Rotation of the view, degrees clockwise")))
 {
+    m_fromSensor->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const char *const names[] = {"MSAW", "APW", "STCA"};
     const QString explanations[] = {
         tr("Minimum safe altitude warning"), tr("Area proximity warning"), tr("Short-term conflict alert")};
@@ -44,9 +47,23 @@ QLabel *StatusReadOuts::addReadOut(QStatusBar *bar, const QString &widestText, c
     return label;
 }
 
+void StatusReadOuts::setSensorPlace(const GeoCoordinate &place)
+{
+    m_sensorPlace = place;
+    m_fromSensor->clear();
+}
+
 void StatusReadOuts::showCursorPosition(const QPointF &planePoint)
 {
-    m_cursor->setText(m_projector->toWgs84(planePoint).toATCString(GeoCoordinate::NormalPrecisionSpace));
+    const GeoCoordinate place = m_projector->toWgs84(planePoint);
+    m_cursor->setText(place.toATCString(GeoCoordinate::NormalPrecisionSpace));
+    if (!place.isValid() || !m_sensorPlace.isValid()) {
+        m_fromSensor->clear();
+        return;
+    }
+    const int bearing = (qRound(m_sensorPlace.azimuthTo(place)) + 359) % 360 + 1; // north is 360
+    const double miles = m_sensorPlace.distanceTo(place) / wgs84::MetresPerNauticalMile;
+    m_fromSensor->setText(tr("%1° %2 NM").arg(bearing, 3, 10, QChar('0')).arg(miles, 0, 'f', 1));
 }
 
 void StatusReadOuts::showZoom(double metresPerPixel)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "geo/geo_coordinate.h"
+
 #include <QLabel>
 #include <QPointF>
 #include <QTimeZone>
@@ -9,8 +11,8 @@ class QStatusBar;
 
 #include <array>
 
-// The read-outs at the right of the status bar: cursor position, scale, rotation, alert indicators and clock. Each is
-// as wide as its widest text, so that nothing moves when a figure changes.
+// The read-outs at the right of the status bar: cursor position and where it lies from the sensor, scale, rotation,
+// alert indicators and clock. Each is as wide as its widest text, so that nothing moves when a figure changes.
 class StatusReadOuts final : public QObject {
     Q_OBJECT
 
@@ -18,6 +20,8 @@ public:
     // The read-outs become the bar's; the projector must outlive this object.
     StatusReadOuts(QStatusBar *bar, Projector *projector);
 
+    // Where the sensor stands from which bearing and distance are shown; invalid: they are not.
+    void setSensorPlace(const GeoCoordinate &place);
     // Plane metres; empty where the plane point is off the globe.
     void showCursorPosition(const QPointF &planePoint);
     void showZoom(double metresPerPixel);
@@ -32,6 +36,8 @@ public:
     void showRecordedTime(const QDateTime &time);
 
     QLabel *cursor() const { return m_cursor; }
+    // True bearing and distance over the ground.
+    QLabel *fromSensor() const { return m_fromSensor; }
     QLabel *scale() const { return m_scale; }
     QLabel *rotation() const { return m_rotation; }
     QLabel *localClock() const { return m_localClock; }
@@ -45,9 +51,11 @@ private:
     QString zoneLabel(const QDateTime &now) const;
 
     Projector *m_projector;
+    GeoCoordinate m_sensorPlace;
     QTimeZone m_zone;
     bool m_systemZone = false;
     QLabel *m_cursor;
+    QLabel *m_fromSensor;
     QLabel *m_scale;
     QLabel *m_rotation;
     std::array<QLabel *, 3> m_alerts = {};

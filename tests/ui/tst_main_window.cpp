@@ -2,6 +2,7 @@
 
 #include "app/ui_state.h"
 #include "display/geo_track_display.h"
+#include "geo/mercator_projector.h"
 #include "lists/alert_list_model.h"
 #include "lists/list_view.h"
 #include "lists/track_list_model.h"
@@ -117,6 +118,14 @@ void TestMainWindow::readOuts()
         window.showCurrentRotation(rotation);
         QCOMPARE(shown(readOuts->rotation()), text);
     }
+    MercatorProjector projector;
+    for (const auto &[latitude, longitude, text] : QList<std::tuple<double, double, QString>>{
+             {49.0, 16.0, "360° 60.0 NM"}, {48.0, 17.0, "090° 40.2 NM"}, {47.9, 15.99, "184° 6.0 NM"}}) {
+        window.showCursorPosition(projector.toCartesian(latitude, longitude), {});
+        QCOMPARE(shown(readOuts->fromSensor()), text);
+    }
+    window.showCursorPosition({1e9, 0.0}, {}); // off the globe
+    QCOMPARE(readOuts->fromSensor()->text(), QString());
     for (int type = 0; type <= 4; ++type) { // MSAW, APW and STCA are 1 to 3
         window.updateAlertStatus(static_cast<Alert::Type>(type), true);
         for (int i = 0; i < 3; ++i) {
