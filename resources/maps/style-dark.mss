@@ -193,7 +193,7 @@
         <width>2</width>
       </pen>
       <brush>
-        <color>#FF7D8893</color>
+        <color>#FF3A4652</color>
         <pattern>solid</pattern>
       </brush>
       <font>
@@ -274,6 +274,134 @@
       </pen>
       <brush>
         <color>#005A6772</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="approach">
+      <color>#8794A0</color>
+      <pen>
+        <color>#4A5A68</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#004A5A68</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="apron">
+      <color>#8794A0</color>
+      <pen>
+        <color>#31404C</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#202C37</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="taxiway">
+      <color>#8794A0</color>
+      <pen>
+        <color>#3D4B58</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#2D3A46</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="road">
+      <color>#8794A0</color>
+      <pen>
+        <color>#34414D</color>
+        <line>dash</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#0034414D</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="marking">
+      <color>#A0A9B2</color>
+      <pen>
+        <color>#6B7883</color>
+        <line>dash</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#006B7883</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="building">
+      <color>#8794A0</color>
+      <pen>
+        <color>#51606D</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#384552</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="stand">
+      <color>#8794A0</color>
+      <pen>
+        <color>#51606D</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#0042505D</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="holding">
+      <color>#CFA070</color>
+      <pen>
+        <color>#7D5A30</color>
+        <line>solid</line>
+        <width>2</width>
+      </pen>
+      <brush>
+        <color>#007D5A30</color>
         <pattern>solid</pattern>
       </brush>
       <font>

@@ -281,5 +281,133 @@
         <point>8</point>
       </font>
     </class>
+    <class name="approach">
+      <color>#47525C</color>
+      <pen>
+        <color>#8C99A3</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#008C99A3</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="apron">
+      <color>#47525C</color>
+      <pen>
+        <color>#D3D6D2</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#E6E8E4</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="taxiway">
+      <color>#47525C</color>
+      <pen>
+        <color>#C3C7C3</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#D9DCD8</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="road">
+      <color>#47525C</color>
+      <pen>
+        <color>#C3C7C3</color>
+        <line>dash</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#00C3C7C3</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="marking">
+      <color>#3C454D</color>
+      <pen>
+        <color>#F4F5F3</color>
+        <line>dash</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#00F4F5F3</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="building">
+      <color>#47525C</color>
+      <pen>
+        <color>#A4AAA8</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#C4C9C6</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="stand">
+      <color>#47525C</color>
+      <pen>
+        <color>#A9AFAC</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#00A9AFAC</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="holding">
+      <color>#6E4412</color>
+      <pen>
+        <color>#B0803C</color>
+        <line>solid</line>
+        <width>2</width>
+      </pen>
+      <brush>
+        <color>#00B0803C</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
   </style>
 </map>

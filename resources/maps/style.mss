@@ -281,5 +281,133 @@
         <point>8</point>
       </font>
     </class>
+    <class name="approach">
+      <color>#394149</color>
+      <pen>
+        <color>#6A747C</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#006A747C</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="apron">
+      <color>#394149</color>
+      <pen>
+        <color>#A6A89F</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#B2B3AA</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="taxiway">
+      <color>#394149</color>
+      <pen>
+        <color>#9C9E96</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#A6A8A0</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="road">
+      <color>#394149</color>
+      <pen>
+        <color>#A0A29A</color>
+        <line>dash</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#00A0A29A</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="marking">
+      <color>#33383D</color>
+      <pen>
+        <color>#C9CAC5</color>
+        <line>dash</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#00C9CAC5</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="building">
+      <color>#394149</color>
+      <pen>
+        <color>#7D8078</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#9A9C94</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="stand">
+      <color>#394149</color>
+      <pen>
+        <color>#8A8C84</color>
+        <line>solid</line>
+        <width>1</width>
+      </pen>
+      <brush>
+        <color>#008A8C84</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
+    <class name="holding">
+      <color>#62320E</color>
+      <pen>
+        <color>#98642F</color>
+        <line>solid</line>
+        <width>2</width>
+      </pen>
+      <brush>
+        <color>#0098642F</color>
+        <pattern>solid</pattern>
+      </brush>
+      <font>
+        <family>DejaVu Sans</family>
+        <point>8</point>
+      </font>
+    </class>
   </style>
 </map>

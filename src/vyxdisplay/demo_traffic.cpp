@@ -8,9 +8,15 @@
 #include <QStandardPaths>
 #include <QUdpSocket>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 constexpr auto ProgramName = "vyx-traffic";
+constexpr auto MapIndex = "demo.idx"; // among the maps that are installed
+constexpr double AerodromeReach = 10.0; // nautical miles
+constexpr int MostRings = 20;
 constexpr int AnswerWaitMs = 10000;
 constexpr int EndWaitMs = 1000;
 
@@ -119,6 +125,26 @@ void DemoTraffic::applyTo(Config &config) const
     config.mapWeatherVisible = m_source["weather"].toBool();
     config.mapVideoVisible = m_source["video"].toBool();
     config.setSensor(m_sensor);
+    if (config.mapIndex == Config().mapIndex) {
+        config.mapIndex = MapIndex; // who has chosen one keeps it
+    }
+    fitRings(config);
+}
+
+// Some in the first view, unless others have been chosen.
+void DemoTraffic::fitRings(Config &config) const
+{
+    const Config defaults;
+    double reach = 0.0;
+    for (const double coverage : m_sensor->coverages()) {
+        reach = std::max(reach, coverage);
+    }
+    if (reach == 0.0 || config.mapRangeRingDistance != defaults.mapRangeRingDistance
+        || config.mapRangeRingNumber != defaults.mapRangeRingNumber) {
+        return;
+    }
+    config.mapRangeRingDistance = reach > AerodromeReach ? 10.0 : 0.5;
+    config.mapRangeRingNumber = std::clamp(qRound(std::ceil(reach / config.mapRangeRingDistance)), 1, MostRings);
 }
 
 void DemoTraffic::start()

@@ -26,7 +26,7 @@ public:
     // Asks the generator for the scenario's sensor and finds a free port. False, with one line in error, when that
     // fails. Waits for the generator, a moment.
     bool prepare(QString *error);
-    // Input and sensor of the demonstration. Only after prepare().
+    // Input, sensor, maps and range rings of the demonstration. Only after prepare().
     void applyTo(Config &config) const;
 
     // The scenarios that come with the generator, a line each; empty, with one line in error, when that cannot be
@@ -43,6 +43,7 @@ private:
     static QByteArray answer(const QString &program, const QStringList &arguments, QString *error);
     bool readSensor(const QByteArray &json, QString *error);
     bool findPort(QString *error);
+    void fitRings(Config &config) const;
     void reportEnd(int exitCode, QProcess::ExitStatus status);
 
     const QString m_scenario;

@@ -5,8 +5,15 @@
 #include "maps/map_style_sheet.h"
 #include "test_program.h"
 
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPolygonF>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
 
 class TestVyxMap : public QObject {
     Q_OBJECT
@@ -122,18 +129,75 @@ private Q_SLOTS:
     {
         const QDir folder(MAPS_FOLDER);
         QString error;
-        const QList<MapIndexEntry> index = readMapIndex(folder.filePath("map.idx"), &error);
-        QVERIFY2(index.size() >= 2, qPrintable(error));
-        for (const char *sheetName : {"style.mss", "style-dark.mss", "style-light.mss"}) {
+        QList<MapIndexEntry> entries;
+        for (const char *index : {"map.idx", "demo.idx"}) {
+            const QList<MapIndexEntry> read = readMapIndex(folder.filePath(index), &error);
+            QVERIFY2(read.size() >= 2, qPrintable(error));
+            entries += read;
+        }
+        for (const QString &sheetName : QStringList{"style.mss", "style-dark.mss", "style-light.mss"}) {
             MapStyleSheet sheet;
             QVERIFY2(sheet.load(folder.filePath(sheetName), &error), qPrintable(error));
-            for (const MapIndexEntry &entry : index) {
+            for (const MapIndexEntry &entry : entries) {
                 const MapData map = readMap(folder.filePath(entry.file), entry.format);
                 QVERIFY2(!map.groups.isEmpty(), qPrintable(entry.file));
                 for (const MapElementGroup &group : map.groups) {
-                    QVERIFY2(sheet.contains(group.className), qPrintable(group.className));
+                    QVERIFY2(sheet.contains(group.className), qPrintable(sheetName + ": " + group.className));
                 }
             }
+        }
+    }
+
+    // What the scenarios' aircraft fly over is where the maps have it.
+    void demoMapsFitTheScenarios()
+    {
+        const auto places = [](const char *scenario) {
+            QFile file(QStringLiteral(MAPS_FOLDER "/../demo/%1.json").arg(scenario));
+            QHash<QString, GeoCoordinate> result;
+            if (file.open(QIODevice::ReadOnly)) {
+                for (const QJsonValue fix : QJsonDocument::fromJson(file.readAll())["fixes"].toArray()) {
+                    result.insert(fix["name"].toString(), {fix["lat"].toDouble(), fix["lon"].toDouble()});
+                }
+            }
+            return result;
+        };
+        const auto demoMap = [](const char *name) {
+            return readMap(QStringLiteral(MAPS_FOLDER "/demo-%1.xml").arg(name), MapFile::Xml);
+        };
+        QHash<QString, GeoCoordinate> symbols;
+        for (const MapElementGroup &group : demoMap("airspace").groups + demoMap("approach").groups) {
+            for (const MapSymbolElement &symbol : group.symbols) {
+                symbols.insert(symbol.name, symbol.coordinate);
+            }
+        }
+        const auto fixes = places("demo");
+        QVERIFY(fixes.size() > 20);
+        for (auto fix = fixes.begin(); fix != fixes.end(); ++fix) {
+            QVERIFY2(symbols.value(fix.key()).distanceTo(*fix) < 1.0, qPrintable(fix.key()));
+        }
+        const auto ground = places("smr");
+        const QList<MapElementGroup> aerodrome = demoMap("aerodrome").groups;
+        const auto within = [&](const char *name, const QString &styleClass) {
+            const GeoCoordinate place = ground.value(name);
+            return std::any_of(aerodrome.begin(), aerodrome.end(), [&](const MapElementGroup &group) {
+                return group.className == styleClass
+                    && std::any_of(group.polygons.begin(), group.polygons.end(), [&](const MapPolygonElement &area) {
+                           QPolygonF outline;
+                           for (const GeoCoordinate &point : area.points) {
+                               outline.append({point.longitude(), point.latitude()});
+                           }
+                           return outline.containsPoint({place.longitude(), place.latitude()}, Qt::OddEvenFill);
+                       });
+            });
+        };
+        for (const char *name : {"STAND1", "STAND2", "STAND3", "STAND4", "STAND5", "STAND6", "N1", "M2", "S1"}) {
+            QVERIFY2(within(name, "apron") && !within(name, "building"), name);
+        }
+        for (const char *name : {"A1", "A2", "A3", "A4", "A5", "B1", "B3", "B5"}) {
+            QVERIFY2(within(name, "taxiway") && !within(name, "runway"), name);
+        }
+        for (const char *name : {"WESTX", "EASTX"}) {
+            QVERIFY2(within(name, "runway"), name);
         }
     }
 };

@@ -1,5 +1,6 @@
 #include "window_fixture.h"
 
+#include "app/map_places.h"
 #include "display/geo_track_display.h"
 #include "plan_view/geo_widget.h"
 #include "test_program.h"
@@ -111,6 +112,10 @@ void TestRunEnds::demoEndIsReported()
         demo.applyTo(config);
         QCOMPARE(config.sensorName, "SHOW");
         QVERIFY(!config.inputUdpMulticast1);
+        QVERIFY(QFileInfo(MapPlaces::resolve(config.mapIndex)).isFile() && config.mapIndex != Config().mapIndex);
+        config.mapIndex = "mine.idx";
+        demo.applyTo(config);
+        QCOMPARE(config.mapIndex, "mine.idx");
 
         QSignalSpy messages(&demo, &DemoTraffic::message);
         demo.start();
