@@ -109,7 +109,7 @@ function airspace() {
         group('Terminal control area', 'tma', area('PORTA TMA', tma),
             label('PORTA TMA', 'TMA F195 / 3000', between(tma[6], tma[7], 0.5))),
         group('Control zones', 'ctr', area('PORTA CTR', circle(between(fixes.PORTA, ground.M1), 8, 36)),
-            label('PORTA CTR', 'CTR 3000 / GND', moved(between(fixes.PORTA, ground.M1), 200, 7 * MetresPerMile)),
+            label('PORTA CTR', 'CTR 3000 / GND', moved(between(fixes.PORTA, ground.M1), 330, 6.5 * MetresPerMile)),
             area('RIVEN CTR', circle(fixes.RIVEN, 5, 36)),
             label('RIVEN CTR', 'CTR 2500 / GND', moved(fixes.RIVEN, 180, 4 * MetresPerMile))),
         group('Danger areas', 'danger', named(danger.name, `${danger.name} 12000 / GND`, polygon(danger.polygon))),
@@ -186,7 +186,7 @@ function aerodrome() {
         group('Runway markings', 'marking', markings),
         group('Buildings', 'building', buildings.flatMap(([name, points]) =>
             name === 'Terminal' || name.startsWith('Hangar')
-                ? [area(name, points), label(name, name.toUpperCase(), middleOf(points))] : [area(name, points)])),
+                ? [area(name, points), label(name, name.toUpperCase(), name === 'Terminal' ? [40.0776, centre] : middleOf(points))] : [area(name, points)])),
         group('Stands', 'stand', leads.flatMap(([name, from]) =>
             [line(name, [from, g[name]]), area(name, stand(g[name])), label(name, name.slice(5), moved(g[name], 0, 48))])),
         group('Hold short', 'holding', [[g.A1, g.RW36LT], [g.B1, g.RW36RT], [g.A4, g.WESTX], [g.B4, g.EASTX],
