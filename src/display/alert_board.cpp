@@ -74,6 +74,7 @@ void AlertBoard::addTrack(const TrackSnapshot &track, const QDateTime &since)
 {
     Entry entry;
     entry.key = keyOf(track);
+    entry.ofTrack = true;
     entry.emergency = track.emergency;
     entry.track1 = track.incarnationId;
     entry.track1Text = trackName(track);

@@ -22,9 +22,10 @@ public:
 
     struct Entry {
         Key key = 0;
-        Alert::Type type = Alert::None; // None: of a single track, not of the safety nets
+        bool ofTrack = false; // a track's own, not of the safety nets: an emergency, else the special pulse
+        Alert::Type type = Alert::None; // of an alert
         Alert::State state = Alert::Active;
-        Track::Emergency emergency = Track::NoEmergency; // with type None; NoEmergency then: the special pulse
+        Track::Emergency emergency = Track::NoEmergency;
         quint64 track1 = 0; // incarnation ids, 0: no track of ours
         quint64 track2 = 0;
         QString track1Text;
@@ -35,7 +36,7 @@ public:
         // An alert that has ended and a special pulse ask for nothing.
         bool isAsking() const
         {
-            return state == Alert::Active && (type != Alert::None || emergency != Track::NoEmergency) && !acknowledged;
+            return state == Alert::Active && (!ofTrack || emergency != Track::NoEmergency) && !acknowledged;
         }
         bool concerns(quint64 track) const { return track != 0 && (track == track1 || track == track2); }
     };

@@ -27,6 +27,7 @@ GeoTrackDisplay::~GeoTrackDisplay() = default;
 void GeoTrackDisplay::setSnapshot(const QSharedPointer<const DisplaySnapshot> &snapshot)
 {
     m_snapshot = snapshot;
+    m_alerts.take(snapshot.data());
     m_labels.noteContentChange();
     m_tracksById.clear();
     if (m_snapshot) {
@@ -83,6 +84,28 @@ unsigned long long GeoTrackDisplay::findTrackByLabelPosition(const QTransform &s
         }
     }
     return 0;
+}
+
+QList<unsigned long long> GeoTrackDisplay::findTracks(const QTransform &screenTransform, int x, int y) const
+{
+    QList<unsigned long long> bySymbol;
+    QList<unsigned long long> byLabel;
+    const QPointF pixel(x, y);
+    const double reach = m_look.symbolSize / 2;
+    const auto holds = [&](const QPointF &place) {
+        return std::abs(place.x() - pixel.x()) <= reach && std::abs(place.y() - pixel.y()) <= reach;
+    };
+    for (const TrackSnapshot &track : m_snapshot ? m_snapshot->tracks : QList<TrackSnapshot>()) {
+        const QPointF place = screenTransform.map(track.carCoordinate);
+        if (track.carCoordinateValid && holds(place)) {
+            bySymbol.append(track.incarnationId);
+        } else if (m_labelRects.value(track.incarnationId).translated(place.toPoint()).contains(x, y)) {
+            byLabel.append(track.incarnationId);
+        }
+    }
+    std::sort(bySymbol.begin(), bySymbol.end());
+    std::sort(byLabel.begin(), byLabel.end());
+    return bySymbol + byLabel;
 }
 
 bool GeoTrackDisplay::hasTrack(unsigned long long id) const
@@ -292,4 +315,34 @@ void GeoTrackDisplay::showVectorTicks(bool visible)
 void GeoTrackDisplay::setSelected(unsigned long long id)
 {
     change(&m_selectedTrack, id);
+}
+
+void GeoTrackDisplay::setHovered(unsigned long long id)
+{
+    if (id != m_hoveredTrack) {
+        change(&m_hoveredTrack, id);
+    }
+}
+
+void GeoTrackDisplay::acknowledge(quint64 key)
+{
+    noteAcknowledgement(m_alerts.acknowledge(key));
+}
+
+void GeoTrackDisplay::acknowledgeTrack(unsigned long long id)
+{
+    noteAcknowledgement(m_alerts.acknowledgeTrack(id));
+}
+
+void GeoTrackDisplay::acknowledgeAll()
+{
+    noteAcknowledgement(m_alerts.acknowledgeAll());
+}
+
+void GeoTrackDisplay::noteAcknowledgement(bool any)
+{
+    if (any) {
+        Q_EMIT polluted();
+        Q_EMIT acknowledged();
+    }
 }

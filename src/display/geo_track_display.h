@@ -1,5 +1,6 @@
 #pragma once
 
+#include "display/alert_board.h"
 #include "display/track_frame.h"
 #include "display/track_label_cache.h"
 #include "display/track_label_painter.h"
@@ -55,7 +56,13 @@ public:
     unsigned long long findTrackBySymbolPosition(const QTransform &screenTransform, int x, int y) const;
     unsigned long long findTrackByLabelPosition(const QTransform &screenTransform, int x, int y) const;
 
+    // All tracks under a widget pixel: those by their symbols, then those by their labels, each in the order of their
+    // keys, which stays the same from snapshot to snapshot.
+    QList<unsigned long long> findTracks(const QTransform &screenTransform, int x, int y) const;
+
     bool hasTrack(unsigned long long id) const;
+    // In the newest snapshot, until the next; null when it is not there.
+    const TrackSnapshot *findTrack(unsigned long long id) const { return m_tracksById.value(id); }
     // False, and nothing written, when no track with a position is selected.
     bool selectedTrackCarCoordinate(QPointF &planePoint) const;
 
@@ -63,6 +70,14 @@ public:
     bool trackLabelOffsetDefault(unsigned long long id) const;
     QPoint trackLabelOffset(unsigned long long id) const;
     void setTrackLabelOffset(unsigned long long id, int x, int y);
+
+    // What of the newest snapshot asks for the operator's attention.
+    const AlertBoard &alertBoard() const { return m_alerts; }
+
+    // Of what blinks: the widget's beat says when it is on. Asks for no repaint.
+    void setBlinkOn(bool on) { m_blinkOn = on; }
+    // The track that the pointer is on, here or in a list.
+    unsigned long long hoveredTrackId() const { return m_hoveredTrack; }
 
     // Takes what the settings say of tracks.
     void applyConfig(const Config &config);
@@ -139,16 +154,25 @@ public Q_SLOTS:
     void setVectorRange(int range);
     void showVectorTicks(bool visible);
     void setSelected(unsigned long long id);
+    void setHovered(unsigned long long id);
+
+    // Alerts and emergencies; see AlertBoard.
+    void acknowledge(quint64 key);
+    void acknowledgeTrack(unsigned long long id);
+    void acknowledgeAll();
 
 Q_SIGNALS:
     // A setting changed: paint again.
     void polluted();
+    // The operator did; what the lists show of it has changed.
+    void acknowledged();
     // What the snapshots should carry for the trails: the dots shown, 0 while trails are hidden.
     void shownTrailDotsChanged(int dots);
 
 private:
     template <typename Value, typename Given>
     void change(Value *value, const Given &given);
+    void noteAcknowledgement(bool any);
     void setField(bool TrackLabelFields::*field, bool visible);
 
     void placeLabels();
@@ -159,6 +183,9 @@ private:
     QHash<unsigned long long, const TrackSnapshot *> m_tracksById; // into m_snapshot
     TrackLook m_look;
     unsigned long long m_selectedTrack = 0;
+    unsigned long long m_hoveredTrack = 0;
+    AlertBoard m_alerts;
+    bool m_blinkOn = true;
 
     QHash<unsigned long long, QPoint> m_labelOffsets; // chosen by the operator
     QHash<unsigned long long, QRect> m_labelRects; // of the last paint, pixels from the track's place

@@ -50,8 +50,10 @@ QList<Row> shortcutRows(const QList<QAction *> &actions)
 
 QList<Row> mouseRows()
 {
-    return {{tr("Left click on a symbol"), tr("Select the track")}, {tr("Right drag on the map"), tr("Move the view")},
-        {tr("Right drag on a label"), tr("Move the label")},
+    return {{tr("Left click on a symbol or label"), tr("Select the track")},
+        {tr("Left click once more"), tr("Select the next track at this place")},
+        {tr("Right click on a symbol or label"), tr("What can be done with the track")},
+        {tr("Right drag on the map"), tr("Move the view")}, {tr("Right drag on a label"), tr("Move the label")},
         {tr("Right double-click"), tr("Bring this point to the centre")}, {tr("Wheel"), tr("Zoom around the pointer")},
         {tr("Alt + wheel"), tr("Zoom in small steps")},
         {tr("Left click with the cross"), tr("Place the centre of the range rings")}};

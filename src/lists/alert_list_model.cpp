@@ -5,16 +5,19 @@
 
 #include <QBrush>
 #include <QGuiApplication>
+#include <QPalette>
 
 namespace {
 
-AlertListEntry entryFor(const AlertSnapshot &alert)
+AlertListEntry entryFor(const AlertSnapshot &alert, const AlertBoard &board)
 {
     AlertListEntry entry;
-    entry.id = alert.id;
-    entry.type = alert.type;
+    entry.key = AlertBoard::keyOf(alert);
+    entry.kind = Alert::typeString(alert.type);
     entry.state = alert.state;
-    entry.stateText = alert.stateString;
+    const bool acknowledged = board.isAcknowledged(entry.key);
+    entry.stateText = acknowledged ? AlertListModel::tr("Acknowledged") : alert.stateString;
+    entry.asking = alert.state == Alert::Active && !acknowledged;
     entry.track1 = alert.track1.text;
     entry.track2 = alert.track2Applicable ? alert.track2.text : QString();
     entry.objectName = alert.objectName;
@@ -22,6 +25,21 @@ AlertListEntry entryFor(const AlertSnapshot &alert)
     entry.endTime = alert.endTime;
     entry.track1Id = alert.track1.incarnationId;
     entry.track2Id = alert.track2Applicable ? alert.track2.incarnationId : 0;
+    return entry;
+}
+
+AlertListEntry entryFor(const AlertBoard::Entry &noted)
+{
+    AlertListEntry entry;
+    entry.key = noted.key;
+    const QString emergency = Track::emergencyString(noted.emergency);
+    entry.kind = emergency.isEmpty() ? QStringLiteral("SPI") : emergency;
+    entry.state = noted.state;
+    entry.stateText = noted.acknowledged ? AlertListModel::tr("Acknowledged") : Alert::stateString(noted.state);
+    entry.track1 = noted.track1Text;
+    entry.startTime = noted.since;
+    entry.track1Id = noted.track1;
+    entry.asking = noted.isAsking();
     return entry;
 }
 
@@ -58,13 +76,32 @@ AlertListModel::AlertListModel(QObject *parent) : RecordTableModel(makeColumns()
 
 QVariant AlertListModel::look(const AlertListEntry &entry, int, int role) const
 {
-    const bool alarm = role == Qt::ForegroundRole && entry.state == Alert::Active;
-    return alarm ? QVariant(QBrush(alarmTextColor(QGuiApplication::palette()))) : QVariant();
+    const QColor alarm = alarmTextColor(QGuiApplication::palette());
+    switch (role) {
+    case Qt::ForegroundRole:
+        if (entry.asking) {
+            return QBrush(QGuiApplication::palette().color(QPalette::Base));
+        }
+        return entry.state == Alert::Active ? QVariant(QBrush(alarm)) : QVariant();
+    case Qt::BackgroundRole: // turned over until it is acknowledged
+        return entry.asking ? QVariant(QBrush(alarm)) : QVariant();
+    default:
+        return {};
+    }
 }
 
-void AlertListModel::setAlerts(const QList<AlertSnapshot> &alerts)
+void AlertListModel::setAlerts(const QList<AlertSnapshot> &alerts, const AlertBoard &board)
 {
-    showSnapshots(alerts, entryFor);
+    QList<AlertListEntry> entries;
+    for (const AlertSnapshot &alert : alerts) {
+        entries.append(entryFor(alert, board));
+    }
+    for (const AlertBoard::Entry &noted : board.entries()) {
+        if (noted.ofTrack) {
+            entries.append(entryFor(noted));
+        }
+    }
+    showSnapshots(entries, [](const AlertListEntry &entry) { return entry; });
 }
 
 quint64 AlertListModel::trackId(int row) const
@@ -77,7 +114,7 @@ QString AlertListModel::text(const AlertListEntry &entry, int column) const
 {
     switch (column) {
     case Type:
-        return Alert::typeString(entry.type);
+        return entry.kind;
     case Track1:
         return entry.track1;
     case Track2:

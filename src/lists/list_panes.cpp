@@ -11,6 +11,7 @@
 #include <QMainWindow>
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -25,8 +26,8 @@ ListPanes::ListPanes(QMainWindow *window, GeoTrackDisplay *tracks, NewestSnapsho
     makeLists();
     m_trackDock = addDock(tr("Track List"), "trackListDock", m_trackView);
     m_alertDock = addDock(tr("Alert List"), "alertListDock", m_alertView);
-    connect(m_trackView, &ListView::selectedRowChanged, this, &ListPanes::trackListSelectionChanged);
-    connect(m_alertView, &ListView::selectedRowChanged, this, &ListPanes::alertListSelectionChanged);
+    connectTrackList();
+    connectAlertList();
     connect(m_trackDock, &QDockWidget::visibilityChanged, this, &ListPanes::updateTrackList);
     connect(m_alertDock, &QDockWidget::visibilityChanged, this, &ListPanes::updateAlertList);
     m_trackTimer.setInterval(RefreshIntervalMs);
@@ -45,6 +46,34 @@ void ListPanes::makeLists()
     m_alertView = new ListView(m_alertModel, m_alertModel->columns(), m_window);
     m_alertView->setObjectName("alertList");
     m_alertView->sortByColumn(AlertListModel::Start, Qt::DescendingOrder);
+}
+
+void ListPanes::connectTrackList()
+{
+    const auto activate = [this](int row) { Q_EMIT trackActivated(m_trackModel->trackId(row)); };
+    connect(m_trackView, &ListView::selectedRowChanged, this, &ListPanes::trackListSelectionChanged);
+    connect(m_trackView, &ListView::hoveredRowChanged, m_tracks,
+        [this](int row) { m_tracks->setHovered(row < 0 ? 0 : m_trackModel->trackId(row)); });
+    connect(m_trackView, &ListView::rowDoubleClicked, this, activate);
+    connect(m_trackView, &ListView::rowConfirmed, this, activate);
+    connect(m_trackView, &ListView::rowMenuRequested, this, [this](int row, const QPoint &globalPosition) {
+        Q_EMIT trackMenuRequested(m_trackModel->trackId(row), 0, globalPosition);
+    });
+}
+
+void ListPanes::connectAlertList()
+{
+    connect(m_alertView, &ListView::selectedRowChanged, this, &ListPanes::alertListSelectionChanged);
+    connect(m_alertView, &ListView::hoveredRowChanged, m_tracks,
+        [this](int row) { m_tracks->setHovered(row < 0 ? 0 : m_alertModel->trackId(row)); });
+    connect(m_alertView, &ListView::rowDoubleClicked, this,
+        [this](int row) { Q_EMIT trackActivated(m_alertModel->trackId(row)); });
+    connect(m_alertView, &ListView::rowConfirmed, m_tracks,
+        [this](int row) { m_tracks->acknowledge(m_alertModel->key(row)); });
+    connect(m_alertView, &ListView::rowMenuRequested, this, [this](int row, const QPoint &globalPosition) {
+        Q_EMIT trackMenuRequested(m_alertModel->trackId(row), m_alertModel->key(row), globalPosition);
+    });
+    connect(m_tracks, &GeoTrackDisplay::acknowledged, this, &ListPanes::updateAlertList);
 }
 
 QDockWidget *ListPanes::addDock(const QString &title, const QString &name, QWidget *content)
@@ -116,12 +145,15 @@ void ListPanes::updateAlertList()
 {
     const auto snapshot = m_newest();
     const QList<AlertSnapshot> alerts = snapshot ? snapshot->alerts : QList<AlertSnapshot>();
-    m_alertDock->setWindowTitle(tr("Alert List - %1").arg(alerts.size()));
+    const AlertBoard &board = m_tracks->alertBoard();
+    const auto ofTracks = std::count_if(
+        board.entries().begin(), board.entries().end(), [](const AlertBoard::Entry &entry) { return entry.ofTrack; });
+    m_alertDock->setWindowTitle(tr("Alert List - %1").arg(alerts.size() + ofTracks));
     if (outOfSight(m_alertView)) {
         return;
     }
     const QScopedValueRollback updating(m_updating, true);
-    m_alertModel->setAlerts(alerts);
+    m_alertModel->setAlerts(alerts, board);
 }
 
 void ListPanes::clearTrackList()
@@ -165,4 +197,9 @@ void ListPanes::selectTrackInList(unsigned long long id)
     }
     const QScopedValueRollback updating(m_updating, true);
     m_trackView->selectRow(row);
+}
+
+void ListPanes::lightTrackInList(unsigned long long id)
+{
+    m_trackView->setLitRow(m_trackModel->rowOf(id).value_or(-1));
 }

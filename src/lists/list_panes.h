@@ -43,6 +43,12 @@ public:
     void restore(const QString &group);
     void save(const QString &group) const;
 
+Q_SIGNALS:
+    // The operator wants to see the track.
+    void trackActivated(unsigned long long id);
+    // The right button on a row; the key is that of the alert list's row, 0 on the track list.
+    void trackMenuRequested(unsigned long long id, quint64 alert, const QPoint &globalPosition);
+
 public Q_SLOTS:
     // Both lists at once.
     void refresh();
@@ -55,9 +61,13 @@ public Q_SLOTS:
     void alertListSelectionChanged();
     // By incarnation id; 0 clears the selection.
     void selectTrackInList(unsigned long long id);
+    // Lights up the row of the track that the pointer is on.
+    void lightTrackInList(unsigned long long id);
 
 private:
     void makeLists();
+    void connectTrackList();
+    void connectAlertList();
     QDockWidget *addDock(const QString &title, const QString &name, QWidget *content);
     bool outOfSight(const ListView *list) const;
 

@@ -5,6 +5,7 @@
 #include "widgets/figure_font.h"
 #include "widgets/text_colors.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -13,6 +14,7 @@
 namespace {
 
 constexpr int CellPadding = 6;
+constexpr int LitAlpha = 70; // of the selection's colour
 
 // Keys that move within the list; the window has shortcuts on some of them.
 bool isListKey(const QKeyEvent &event)
@@ -34,7 +36,7 @@ bool isListKey(const QKeyEvent &event)
 // Cells with room at both sides, so that a number does not run into the text of the next column.
 class CellDelegate final : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit CellDelegate(ListView *list) : QStyledItemDelegate(list), m_list(list) { }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
@@ -42,6 +44,11 @@ public:
         initStyleOption(&cell, index);
         cell.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
         const bool selected = cell.state & QStyle::State_Selected;
+        if (!selected && m_list->isLit(index)) {
+            QColor light = cell.palette.color(QPalette::Highlight);
+            light.setAlpha(LitAlpha);
+            painter->fillRect(cell.rect, light);
+        }
         const QPalette::ColorGroup group = cell.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
         painter->setFont(cell.font);
         painter->setPen(cell.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text));
@@ -54,6 +61,9 @@ public:
         painter->drawText(inner, static_cast<int>(cell.displayAlignment | Qt::TextSingleLine),
             cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, inner.width()));
     }
+
+private:
+    const ListView *m_list;
 };
 
 } // namespace
@@ -79,6 +89,12 @@ ListView::ListView(QAbstractItemModel *model, const QList<ListColumn> &columns, 
     horizontalHeader()->setStretchLastSection(true);
     fitColumns(columns);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListView::selectedRowChanged);
+    setMouseTracking(true);
+    connect(this, &QAbstractItemView::entered, this,
+        [this](const QModelIndex &index) { noteHover(m_sorted->mapToSource(index).row()); });
+    connect(this, &QAbstractItemView::viewportEntered, this, [this] { noteHover(-1); });
+    connect(this, &QAbstractItemView::doubleClicked, this,
+        [this](const QModelIndex &index) { Q_EMIT rowDoubleClicked(m_sorted->mapToSource(index).row()); });
     connect(m_sorted, &QAbstractItemModel::rowsInserted, viewport(), qOverload<>(&QWidget::update));
     connect(m_sorted, &QAbstractItemModel::rowsRemoved, viewport(), qOverload<>(&QWidget::update));
 }
@@ -116,6 +132,53 @@ void ListView::selectRow(int row)
     const QModelIndex index = m_sorted->mapFromSource(m_sorted->sourceModel()->index(row, 0));
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(index);
+}
+
+void ListView::setLitRow(int row)
+{
+    const QModelIndex index = row < 0 ? QModelIndex() : m_sorted->mapFromSource(m_sorted->sourceModel()->index(row, 0));
+    if (index != m_lit) {
+        m_lit = index;
+        viewport()->update();
+    }
+}
+
+bool ListView::isLit(const QModelIndex &sortedIndex) const
+{
+    return m_lit.isValid() && m_lit.row() == sortedIndex.row();
+}
+
+void ListView::noteHover(int row)
+{
+    if (row != m_hoveredRow) {
+        m_hoveredRow = row;
+        Q_EMIT hoveredRowChanged(row);
+    }
+}
+
+void ListView::leaveEvent(QEvent *event)
+{
+    noteHover(-1);
+    QTableView::leaveEvent(event);
+}
+
+void ListView::keyPressEvent(QKeyEvent *event)
+{
+    const bool confirms =
+        event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+    if (confirms && event->modifiers() == Qt::NoModifier && selectedRow() >= 0) {
+        Q_EMIT rowConfirmed(selectedRow());
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+void ListView::contextMenuEvent(QContextMenuEvent *event)
+{
+    const QModelIndex index = indexAt(viewport()->mapFromGlobal(event->globalPos()));
+    if (index.isValid()) {
+        Q_EMIT rowMenuRequested(m_sorted->mapToSource(index).row(), event->globalPos());
+    }
 }
 
 bool ListView::event(QEvent *event)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPersistentModelIndex>
 #include <QTableView>
 
 class ListSortModel;
@@ -21,17 +22,33 @@ public:
     // Selects the row and scrolls to it; -1 clears the selection.
     void selectRow(int row);
 
+    // The row that is lit up because it is pointed at somewhere else; -1: none.
+    void setLitRow(int row);
+    bool isLit(const QModelIndex &sortedIndex) const;
+
 Q_SIGNALS:
     void selectedRowChanged();
+    // The pointer has come onto another row; -1: onto none.
+    void hoveredRowChanged(int row);
+    void rowDoubleClicked(int row);
+    // Enter or the space bar, with a row selected.
+    void rowConfirmed(int row);
+    void rowMenuRequested(int row, const QPoint &globalPosition);
 
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void rowsAboutToBeRemoved(const QModelIndex &parent, int start, int end) override;
 
 private:
     void fitColumns(const QList<ListColumn> &columns);
+    void noteHover(int row);
 
     ListSortModel *m_sorted; // a child
     QString m_emptyText;
+    QPersistentModelIndex m_lit; // of the sorted model
+    int m_hoveredRow = -1;
 };

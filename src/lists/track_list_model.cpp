@@ -1,5 +1,6 @@
 #include "lists/track_list_model.h"
 
+#include "display/track_label_lines.h"
 #include "tracking/track.h"
 #include "widgets/text_colors.h"
 
@@ -65,7 +66,7 @@ QList<ListColumn> TrackListModel::makeColumns()
         {tr("State"), tr("Life state"), tr("Terminated")},
         {tr("Address"), tr("24-bit aircraft address"), "AAAAAA"},
         {tr("Number"), tr("Track number"), "99999", Qt::AlignRight},
-        {tr("Alert"), tr("Active safety-net alerts"), "MSAW STCA"},
+        {tr("Alert"), tr("Active safety-net alerts, emergencies (HIJ, RDO, EMG) and special pulse (SPI)"), "MSAW STCA"},
     };
 }
 
@@ -118,6 +119,8 @@ TrackListEntry TrackListModel::entryFor(const TrackSnapshot &track) const
     entry.state = track.state;
     entry.trackNumber = track.trackNumber;
     entry.alerts = track.alertsString;
+    entry.marks = trackMarks(track);
+    entry.inDistress = track.emergency != Track::NoEmergency;
     return entry;
 }
 
@@ -152,7 +155,7 @@ QString TrackListModel::text(const TrackListEntry &entry, int column) const
     case TrackNumber:
         return QString::number(entry.trackNumber);
     case Alerts:
-        return entry.alerts;
+        return QStringList({entry.alerts, entry.marks}).join(' ').trimmed();
     default:
         return {};
     }
@@ -180,7 +183,7 @@ QVariant TrackListModel::sortValue(const TrackListEntry &entry, int column) cons
 
 QVariant TrackListModel::foreground(const TrackListEntry &entry) const
 {
-    if (!entry.alerts.isEmpty()) {
+    if (!entry.alerts.isEmpty() || entry.inDistress) {
         return QBrush(alarmTextColor(QGuiApplication::palette()));
     }
     if (entry.state == Track::Coasting) {

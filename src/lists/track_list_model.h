@@ -25,6 +25,8 @@ struct TrackListEntry {
     Track::State state = Track::Tentative;
     unsigned int trackNumber = 0;
     QString alerts;
+    QString marks; // of an emergency and of the special pulse
+    bool inDistress = false;
 
     bool operator==(const TrackListEntry &other) const = default;
 };

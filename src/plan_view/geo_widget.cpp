@@ -16,6 +16,9 @@ constexpr double ZoomOutFactor = 0.8;
 constexpr double RotationStep = 10.0; // degrees
 constexpr int MoveStep = 50; // pixels
 constexpr double SmallestScale = 1e-10;
+// Whole beats: three on, two off.
+constexpr int BlinkPeriodMs = 5 * GeoWidget::RefreshIntervalMs;
+constexpr int BlinkOnMs = 3 * GeoWidget::RefreshIntervalMs;
 
 QTransform flipped()
 {
@@ -237,14 +240,29 @@ void GeoWidget::startSettingRangeRingsCenter()
 
 void GeoWidget::setFollowSelectedTrack(bool follow)
 {
+    const bool changed = follow != m_followSelectedTrack;
     m_followSelectedTrack = follow;
     if (follow) {
         refresh();
+    }
+    if (changed) {
+        Q_EMIT followSelectedTrackChanged(follow);
+    }
+}
+
+void GeoWidget::showTrack(unsigned long long id)
+{
+    const TrackSnapshot *track = m_trackDisplay ? m_trackDisplay->findTrack(id) : nullptr;
+    if (track && track->carCoordinateValid) {
+        jumpTo(track->carCoordinate.x(), track->carCoordinate.y());
     }
 }
 
 void GeoWidget::refresh()
 {
+    if (m_trackDisplay) {
+        m_trackDisplay->setBlinkOn(m_clock.elapsed() % BlinkPeriodMs < BlinkOnMs);
+    }
     dropLostTracks();
     if (m_followSelectedTrack) {
         keepSelectedTrackCentred();
@@ -266,6 +284,10 @@ void GeoWidget::dropLostTracks()
     if (selected != 0 && !m_trackDisplay->hasTrack(selected)) {
         m_trackDisplay->setSelected(0);
         Q_EMIT trackSelected(0);
+    }
+    const unsigned long long hovered = m_trackDisplay->hoveredTrackId();
+    if (hovered != 0 && !m_trackDisplay->hasTrack(hovered)) {
+        noteHover(0);
     }
 }
 

@@ -44,6 +44,8 @@ public:
     void setPointerTool(GeoPointerTool *tool);
     GeoPointerTool *pointerTool() const { return m_pointerTool; }
 
+    bool followsSelectedTrack() const { return m_followSelectedTrack; }
+
 public Q_SLOTS:
     void setMapDisplay(GeoMapDisplay *display); // null is ignored
     void setTrackDisplay(GeoTrackDisplay *display); // null is ignored
@@ -62,11 +64,14 @@ public Q_SLOTS:
     void moveDown();
     void moveTo(int x, int y); // brings this widget pixel to the centre
     void jumpTo(const double &x, const double &y); // brings this plane point to the centre
+    // Brings the track to the centre, if it has a position.
+    void showTrack(unsigned long long id);
     // North up; the zoom is brought into its limits.
     void setView(const double &x, const double &y, const double &zoom);
     void changeViewPort(const QTransform &viewTransform);
     // The next release of the left button says where.
     void startSettingRangeRingsCenter();
+    // Holds the selected track in the centre, until the view is dragged.
     void setFollowSelectedTrack(bool follow);
 
     // One beat of the repaint timer: ends what its track has left, follows the selected track, asks for a repaint.
@@ -85,6 +90,11 @@ Q_SIGNALS:
     void rangeRingsCenterSet(const QPointF &planePoint);
     // 0 when the selected track has gone.
     void trackSelected(unsigned long long id);
+    void followSelectedTrackChanged(bool follow);
+    // The pointer has come onto another track, by its symbol or its label; 0: onto none.
+    void trackHovered(unsigned long long id);
+    // The right button was clicked on a track, by its symbol or its label.
+    void trackMenuRequested(unsigned long long id, const QPoint &globalPosition);
     void paintStats(const PaintStats &stats);
     void geoPointerMoveEvent(QPointF planePoint);
     void geoPointerClickEvent(QPointF planePoint);
@@ -98,6 +108,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void leaveEvent(QEvent *event) override;
 
 private:
     // Under notes and the like.
@@ -112,6 +123,9 @@ private:
     void startRightDrag(const QPointF &position);
     void endRightDrag();
     void selectTrackAt(const QPoint &pixel);
+    void panTo(const QPointF &position);
+    void requestMenuAt(const QPointF &position, const QPoint &globalPosition);
+    void noteHover(unsigned long long id);
     void dragLabel(const QPoint &delta);
     void placeRangeRings(const QPointF &planePoint);
     GeoPointerTool *toolAtWork() const { return m_passingTool ? m_passingTool : m_pointerTool; }
@@ -129,6 +143,7 @@ private:
     bool m_panning = false;
     bool m_draggingLabel = false;
     QPointF m_lastMousePosition;
+    QPointF m_rightPress; // where the right button went down
     unsigned long long m_draggedTrack = 0; // 0: none
     bool m_followSelectedTrack = false;
     PaintStatsCollector m_paintStats;

@@ -3,6 +3,7 @@
 #include "display/geo_track_display.h"
 #include "plan_view/geo_widget.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -58,6 +59,8 @@ void GeoWidget::startRightDrag(const QPointF &position)
     m_draggingLabel = m_draggedTrack != 0;
     m_panning = !m_draggingLabel;
     m_lastMousePosition = position;
+    m_rightPress = position;
+    noteHover(0);
     setCursor(Qt::ClosedHandCursor);
 }
 
@@ -67,11 +70,15 @@ void GeoWidget::selectTrackAt(const QPoint &pixel)
     if (!m_trackDisplay) {
         return;
     }
-    const unsigned long long id = m_trackDisplay->findTrackBySymbolPosition(screenTransform(), pixel.x(), pixel.y());
-    if (id == 0) {
+    const auto tracks = m_trackDisplay->findTracks(screenTransform(), pixel.x(), pixel.y());
+    if (tracks.isEmpty()) {
         return;
     }
-    m_trackDisplay->setSelected(id);
+    // A click on the selected track goes on to the next one there.
+    const qsizetype selected = tracks.indexOf(m_trackDisplay->selectedTrackId());
+    const unsigned long long first = m_trackDisplay->findTrackBySymbolPosition(screenTransform(), pixel.x(), pixel.y());
+    const bool startsAnew = selected < 0 && first != 0;
+    m_trackDisplay->setSelected(startsAnew ? first : tracks[(selected + 1) % tracks.size()]);
     Q_EMIT trackSelected(m_trackDisplay->selectedTrackId());
 }
 
@@ -83,10 +90,7 @@ void GeoWidget::mouseMoveEvent(QMouseEvent *event)
         endRightDrag();
     }
     if (m_panning) {
-        const QPointF delta = position - m_lastMousePosition;
-        m_lastMousePosition = position;
-        translateView(delta.x(), delta.y());
-        refresh();
+        panTo(position);
     } else if (m_draggingLabel) {
         // Offsets are whole pixels: the fractions must not be lost from one move to the next.
         dragLabel(position.toPoint() - m_lastMousePosition.toPoint());
@@ -94,10 +98,39 @@ void GeoWidget::mouseMoveEvent(QMouseEvent *event)
     } else {
         toolTakes(*event, &GeoPointerTool::moved);
         const QPoint pixel = position.toPoint();
+        if (m_trackDisplay && event->buttons() == Qt::NoButton) {
+            const auto tracks = m_trackDisplay->findTracks(screenTransform(), pixel.x(), pixel.y());
+            noteHover(tracks.isEmpty() ? 0 : tracks.constFirst());
+        }
         const QPointF planePoint = screenTransform().inverted().map(QPointF(pixel));
         Q_EMIT cursorMoved(planePoint, pixel);
         Q_EMIT geoPointerMoveEvent(planePoint);
     }
+}
+
+void GeoWidget::panTo(const QPointF &position)
+{
+    const QPointF delta = position - m_lastMousePosition;
+    m_lastMousePosition = position;
+    if ((position - m_rightPress).manhattanLength() >= QApplication::startDragDistance()) {
+        setFollowSelectedTrack(false); // the operator wants to look elsewhere
+    }
+    translateView(delta.x(), delta.y());
+    refresh();
+}
+
+void GeoWidget::noteHover(unsigned long long id)
+{
+    if (m_trackDisplay && id != m_trackDisplay->hoveredTrackId()) {
+        m_trackDisplay->setHovered(id);
+        Q_EMIT trackHovered(id);
+    }
+}
+
+void GeoWidget::leaveEvent(QEvent *event)
+{
+    noteHover(0);
+    QWidget::leaveEvent(event);
 }
 
 void GeoWidget::dragLabel(const QPoint &delta)
@@ -116,8 +149,21 @@ void GeoWidget::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::RightButton) {
         endRightDrag();
+        requestMenuAt(event->position(), event->globalPosition().toPoint());
     } else if (event->button() == Qt::LeftButton) {
         toolTakes(*event, &GeoPointerTool::released);
+    }
+}
+
+void GeoWidget::requestMenuAt(const QPointF &position, const QPoint &globalPosition)
+{
+    const bool clicked = (position - m_rightPress).manhattanLength() < QApplication::startDragDistance();
+    if (!clicked || !m_trackDisplay) {
+        return;
+    }
+    const auto tracks = m_trackDisplay->findTracks(screenTransform(), qRound(position.x()), qRound(position.y()));
+    if (!tracks.isEmpty()) {
+        Q_EMIT trackMenuRequested(tracks.constFirst(), globalPosition);
     }
 }
 
@@ -157,6 +203,7 @@ void GeoWidget::mouseDoubleClickEvent(QMouseEvent *event)
         return;
     }
     const QPoint pixel = event->position().toPoint();
+    setFollowSelectedTrack(false);
     moveTo(pixel.x(), pixel.y());
     QCursor::setPos(mapToGlobal(centerPixel()));
 }

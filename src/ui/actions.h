@@ -47,6 +47,8 @@ enum class ActionId : std::size_t {
     ToggleTrackLabel,
     TrackLabelFormat,
     FollowSelectedTrack,
+    AcknowledgeAlert,
+    AcknowledgeAllAlerts,
     ToggleTrackList,
     ToggleAlertList,
     StaticMaps,

@@ -33,6 +33,7 @@
 #include "ui/status_line.h"
 #include "ui/status_read_outs.h"
 #include "ui/theme_menu.h"
+#include "ui/track_commands.h"
 #include "ui/weather_intensity_window.h"
 #include "widgets/widget_style.h"
 
@@ -188,6 +189,7 @@ void MainWindow::makeParts()
     m_session = std::make_unique<InputSession>(&m_config, &m_host);
     m_pump = std::make_unique<SnapshotPump>(&m_host.shared(), m_mapDisplay.get(), m_trackDisplay.get());
     m_lists = std::make_unique<ListPanes>(this, m_trackDisplay.get(), [this] { return m_pump->newest(); });
+    m_trackCommands = std::make_unique<TrackCommands>(m_actions, m_geoWidget, m_trackDisplay.get(), m_lists.get());
     m_home = std::make_unique<HomeView>(m_geoWidget, &m_host.shared().projector, &m_config.live());
     m_layoutMenu = std::make_unique<LayoutMenu>(this, m_actions, m_geoWidget);
     m_mapWindows = std::make_unique<MapWindows>(this, m_actions, m_geoWidget, &m_host.shared().projector);
@@ -262,7 +264,6 @@ void MainWindow::connectDisplay()
         m_statsWindow->setPaintStats(stats);
         m_statsWindow->setLayerTimes(m_mapDisplay->layerTimes());
     });
-    connect(m_geoWidget, &GeoWidget::trackSelected, m_lists.get(), &ListPanes::selectTrackInList);
     connect(m_geoWidget, &GeoWidget::rangeRingsCenterSet, this, [this] {
         m_home->noteRingsPlaced();
         showRangeRings();
@@ -309,8 +310,6 @@ void MainWindow::connectTrackActions()
     connect(m_trackDisplay.get(), &GeoTrackDisplay::polluted, label,
         [this, label] { label->setChecked(m_trackDisplay->labelVisible()); });
     label->setChecked(m_trackDisplay->labelVisible());
-    connect((*m_actions)[ActionId::FollowSelectedTrack], &QAction::toggled, m_geoWidget,
-        &GeoWidget::setFollowSelectedTrack);
 
     const auto toggleDock = [this](ActionId id, QDockWidget *dock) {
         QAction *action = (*m_actions)[id];

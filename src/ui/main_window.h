@@ -35,6 +35,7 @@ class StatsWindow;
 class StatusLine;
 class StatusReadOuts;
 class ThemeMenu;
+class TrackCommands;
 class TrackLabelFormatWindow;
 class WeatherIntensityWindow;
 
@@ -253,6 +254,7 @@ private:
     std::unique_ptr<InputSession> m_session;
     std::unique_ptr<SnapshotPump> m_pump;
     std::unique_ptr<ListPanes> m_lists;
+    std::unique_ptr<TrackCommands> m_trackCommands;
     std::unique_ptr<HomeView> m_home;
     std::unique_ptr<LayoutMenu> m_layoutMenu;
     std::unique_ptr<MapWindows> m_mapWindows;

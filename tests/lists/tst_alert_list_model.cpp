@@ -30,6 +30,7 @@ class TestAlertListModel : public QObject {
 
 private Q_SLOTS:
     void showsAlerts();
+    void tellsWhatWasAcknowledged();
 };
 
 void TestAlertListModel::showsAlerts()
@@ -60,6 +61,42 @@ void TestAlertListModel::showsAlerts()
     ListSortModel sorted(&model);
     sorted.sort(AlertListModel::Start, Qt::DescendingOrder);
     QCOMPARE(sorted.index(0, AlertListModel::Start).data().toString(), "00:00:10");
+}
+
+// Beside the alerts stand tracks with an emergency, and with the special pulse, which asks for nothing.
+void TestAlertListModel::tellsWhatWasAcknowledged()
+{
+    DisplaySnapshot picture;
+    picture.alerts = {conflict(1, 7, 8)};
+    picture.time = QDateTime(QDate(2024, 5, 1), QTime(12, 0, 1), Qt::UTC);
+    TrackSnapshot track;
+    track.incarnationId = 9;
+    track.trackNumber = 42;
+    track.emergency = Track::RadioFailure;
+    picture.tracks = {track};
+    picture.tracks.append(track);
+    picture.tracks[1].incarnationId = 10;
+    picture.tracks[1].emergency = Track::NoEmergency;
+    picture.tracks[1].spi = true;
+    AlertBoard board;
+    board.take(&picture);
+    AlertListModel model;
+    const auto shown = [&](int row) {
+        model.setAlerts(picture.alerts, board);
+        const bool filled = model.index(row, 0).data(Qt::BackgroundRole).isValid();
+        return model.index(row, AlertListModel::Type).data().toString() + ' '
+            + model.index(row, AlertListModel::State).data().toString() + (filled ? " filled" : "");
+    };
+    QCOMPARE(shown(0), "STCA Active filled");
+    QCOMPARE(shown(1), "RDO Active filled");
+    QCOMPARE(shown(2), "SPI Active");
+    QCOMPARE(model.rowCount(), 3);
+    QCOMPARE(model.trackId(1), 9u);
+    QCOMPARE(model.index(1, AlertListModel::Track1).data().toString(), "#0042");
+    QCOMPARE(model.index(1, AlertListModel::Start).data().toString(), "12:00:01");
+    board.acknowledge(model.key(1));
+    QCOMPARE(shown(0), "STCA Active filled");
+    QCOMPARE(shown(1), "RDO Acknowledged");
 }
 
 VYX_TEST(TestAlertListModel)

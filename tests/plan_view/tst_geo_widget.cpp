@@ -30,9 +30,13 @@ private Q_SLOTS:
     void rightDragMovesALabel();
     void labelDragEndsWithItsTrack();
     void leftClickSelects();
+    void clicksGoThroughWhatIsStacked();
+    void tellsWhichTrackThePointerIsOn();
+    void rightClickAsksForTheTracksMenu();
     void placesRangeRings();
     void aToolRestsWhileTheRingsArePlaced();
     void followsTheSelectedTrack();
+    void letsGoOfTheTrackWhenDragged();
     void paintsMapBelowTracks();
 
 private:
@@ -297,6 +301,63 @@ void TestGeoWidget::leftClickSelects()
     QCOMPARE(selected.last().first().toULongLong(), 0ull);
 }
 
+void TestGeoWidget::clicksGoThroughWhatIsStacked()
+{
+    showTracks({QPointF(50000, 20000), QPointF(20000, 40000), QPointF(50300, 20000)});
+    const auto selectedAfterClickAt = [this](const QPoint &place) {
+        QTest::mouseClick(m_widget.get(), Qt::LeftButton, {}, place);
+        return m_tracks->selectedTrackId();
+    };
+    const QPoint symbols(202, 150);
+    QCOMPARE(selectedAfterClickAt(symbols), 1ull);
+    QCOMPARE(selectedAfterClickAt(symbols), 3ull);
+    QCOMPARE(selectedAfterClickAt(symbols), 1ull);
+    m_tracks->setSelected(2); // elsewhere: the click begins with the first again
+    QCOMPARE(selectedAfterClickAt(symbols), 1ull);
+    m_tracks->setSelected(2);
+    const QPoint label = symbols + QPoint(m_tracks->labelOffsetX() + 4, 5 - m_tracks->labelOffsetY());
+    QCOMPARE(m_tracks->findTrackBySymbolPosition(m_widget->screenTransform(), label.x(), label.y()), 0ull);
+    QCOMPARE(selectedAfterClickAt(label), 1ull);
+    QCOMPARE(selectedAfterClickAt(label), 3ull);
+    QCOMPARE(selectedAfterClickAt(QPoint(10, 290)), 3ull); // nothing there
+}
+
+void TestGeoWidget::tellsWhichTrackThePointerIsOn()
+{
+    showTracks({QPointF(50000, 20000)});
+    QSignalSpy hovered(m_widget.get(), &GeoWidget::trackHovered);
+    const auto pointAt = [this](const QPointF &place) {
+        sendMouse(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);
+        return m_tracks->hoveredTrackId();
+    };
+    QCOMPARE(pointAt({200, 150}), 1ull);
+    QCOMPARE(pointAt({201, 151}), 1ull);
+    QCOMPARE(pointAt({20, 20}), 0ull);
+    QCOMPARE(hovered, QList<QVariantList>({{1ull}, {0ull}})); // changes alone
+    QCOMPARE(pointAt({200 + m_tracks->labelOffsetX() + 4.0, 155.0 - m_tracks->labelOffsetY()}), 1ull);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(m_widget.get(), &leave);
+    QCOMPARE(m_tracks->hoveredTrackId(), 0ull);
+    pointAt({200, 150});
+    showTracks({}); // it goes under the pointer
+    QCOMPARE(m_tracks->hoveredTrackId(), 0ull);
+}
+
+void TestGeoWidget::rightClickAsksForTheTracksMenu()
+{
+    showTracks({QPointF(50000, 20000)});
+    QSignalSpy asked(m_widget.get(), &GeoWidget::trackMenuRequested);
+    QTest::mouseClick(m_widget.get(), Qt::RightButton, {}, QPoint(20, 20));
+    sendMouse(QEvent::MouseButtonPress, {200, 150}, Qt::RightButton, Qt::RightButton);
+    sendMouse(QEvent::MouseMove, {260, 150}, Qt::NoButton, Qt::RightButton);
+    sendMouse(QEvent::MouseButtonRelease, {260, 150}, Qt::RightButton, Qt::NoButton);
+    QCOMPARE(asked.size(), 0); // the view was dragged, and the track with it
+    QTest::mouseClick(m_widget.get(), Qt::RightButton, {}, QPoint(260, 150));
+    QCOMPARE(asked.size(), 1);
+    QCOMPARE(asked.first().first().toULongLong(), 1ull);
+    QCOMPARE(asked.first().last().toPoint(), m_widget->mapToGlobal(QPoint(260, 150)));
+}
+
 void TestGeoWidget::placesRangeRings()
 {
     showTracks({QPointF(50000, 20000)});
@@ -344,6 +405,23 @@ void TestGeoWidget::followsTheSelectedTrack()
     QCOMPARE(rects.first().first().toPoint(), QPoint(31300, 34900));
     QVERIFY(near(atCentre(), QPointF(51300, 19900), 1.0));
     m_widget->setFollowSelectedTrack(false);
+    const QTransform left = m_widget->screenTransform();
+    showTracks({QPointF(90000, 90000)});
+    QCOMPARE(m_widget->screenTransform(), left);
+}
+
+void TestGeoWidget::letsGoOfTheTrackWhenDragged()
+{
+    showTracks({QPointF(50000, 20000)});
+    m_tracks->setSelected(1);
+    m_widget->setFollowSelectedTrack(true);
+    QSignalSpy changed(m_widget.get(), &GeoWidget::followSelectedTrackChanged);
+    sendMouse(QEvent::MouseButtonPress, {20, 20}, Qt::RightButton, Qt::RightButton);
+    sendMouse(QEvent::MouseMove, {22, 20}, Qt::NoButton, Qt::RightButton); // a hand that is not quite still
+    QVERIFY(m_widget->followsSelectedTrack());
+    QVERIFY(near(atCentre(), QPointF(50000, 20000)));
+    sendMouse(QEvent::MouseMove, {80, 20}, Qt::NoButton, Qt::RightButton);
+    QCOMPARE(changed, QList<QVariantList>({{false}}));
     const QTransform left = m_widget->screenTransform();
     showTracks({QPointF(90000, 90000)});
     QCOMPARE(m_widget->screenTransform(), left);
