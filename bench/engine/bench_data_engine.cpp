@@ -48,12 +48,12 @@ private:
     DataEngine m_engine{&m_projector, &m_displaySlot, &m_videoSlot, &m_weatherSlot};
 };
 
-// Arguments: plots per datagram, aircraft.
+// Arguments: plots per datagram, aircraft, whether the plots say whose they are.
 void routePlots(benchmark::State &state)
 {
     OpenEngine engine(true);
     const int plots = static_cast<int>(state.range(0));
-    const QList<QByteArray> datagrams = plotDatagrams(static_cast<int>(state.range(1)), plots);
+    const QList<QByteArray> datagrams = plotDatagrams(static_cast<int>(state.range(1)), plots, state.range(2) != 0);
     qsizetype next = 0;
     std::int64_t octets = 0;
     for (auto _ : state) {
@@ -66,7 +66,12 @@ void routePlots(benchmark::State &state)
     state.SetBytesProcessed(octets);
 }
 
-BENCHMARK(routePlots)->ArgNames({"plots", "aircraft"})->Args({1, 400})->Args({20, 400})->Args({20, 4000});
+BENCHMARK(routePlots)
+    ->ArgNames({"plots", "aircraft", "identity"})
+    ->Args({1, 400, 1})
+    ->Args({20, 400, 1})
+    ->Args({20, 4000, 1})
+    ->Args({20, 400, 0});
 
 // A capture of this many datagrams, a millisecond apart.
 bool writeCapture(const QString &fileName, int packets, int plots, int aircraft)

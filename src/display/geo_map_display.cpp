@@ -4,6 +4,7 @@
 #include "display/geo_compass_rose.h"
 #include "display/geo_map_key.h"
 #include "display/geo_north_arrow.h"
+#include "display/geo_plot_map.h"
 #include "display/geo_range_ring_map.h"
 #include "display/geo_scale_bar.h"
 #include "display/geo_sensor_map.h"
@@ -27,6 +28,7 @@ GeoMapDisplay::GeoMapDisplay(Projector *projector, QObject *parent) : QObject(pa
     m_rangeRingMap = addLayer<GeoRangeRingMap>(MapLayer::RangeRings, projector);
     addLayer<GeoCompassRose>(MapLayer::CompassRose, projector, m_rangeRingMap);
     addLayer<GeoNorthArrow>(MapLayer::CompassRose);
+    m_plotMap = addLayer<GeoPlotMap>(MapLayer::Plots);
     addLayer<GeoScaleBar>(MapLayer::ScaleBar, projector);
     m_mapKey = addLayer<GeoMapKey>(MapLayer::Key, m_weatherMap);
     m_mapEditorLayer = addLayer<MapEditorLayer>(MapLayer::MapEditor);
@@ -116,6 +118,7 @@ void GeoMapDisplay::setSensor(const QSharedPointer<SensorInfo> &sensor)
     m_weatherMap->setSensor(sensor);
     m_videoMap->setSensor(sensor);
     m_sensorMap->setSensor(sensor);
+    m_plotMap->setSensor(sensor);
     QPointF site;
     if (m_sensorMap->sitePosition(site)) {
         m_rangeRingMap->setDefaultCenter(site);

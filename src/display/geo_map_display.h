@@ -14,6 +14,7 @@
 #include <vector>
 
 class GeoMapKey;
+class GeoPlotMap;
 class GeoRangeRingMap;
 class GeoSensorMap;
 class GeoStaticMap;
@@ -24,7 +25,7 @@ class Projector;
 class SensorInfo;
 
 // The layers' places in the drawing order, bottom first. A new layer is a place here and an addLayer().
-enum class MapLayer { StaticMaps, Weather, Video, Sensor, RangeRings, CompassRose, ScaleBar, Key, MapEditor };
+enum class MapLayer { StaticMaps, Weather, Video, Sensor, RangeRings, CompassRose, Plots, ScaleBar, Key, MapEditor };
 
 // The ground colour and the map layers over it, in drawing order. GUI thread only.
 class GeoMapDisplay final : public QObject {
@@ -63,6 +64,7 @@ public:
     GeoSensorMap *sensorMap() const { return m_sensorMap; }
     GeoRangeRingMap *rangeRingMap() const { return m_rangeRingMap; }
     GeoMapKey *mapKey() const { return m_mapKey; }
+    GeoPlotMap *plotMap() const { return m_plotMap; }
     MapEditorLayer *mapEditorLayer() const { return m_mapEditorLayer; }
 
     QColor backgroundColor() const { return m_backgroundColor; }
@@ -99,6 +101,7 @@ private:
     GeoSensorMap *m_sensorMap = nullptr;
     GeoRangeRingMap *m_rangeRingMap = nullptr;
     GeoMapKey *m_mapKey = nullptr;
+    GeoPlotMap *m_plotMap = nullptr;
     MapEditorLayer *m_mapEditorLayer = nullptr;
     QList<QRect> m_covered;
     TextRoom m_textRoom; // of the frame; kept for its memory

@@ -57,6 +57,7 @@ enum class ActionId : std::size_t {
     ToggleSensorMap,
     ToggleWeatherMap,
     ToggleVideoMap,
+    TogglePlots,
     WeatherIntensity,
     ToggleRangeRings,
     RangeRings,

@@ -13,6 +13,7 @@ struct DropStats {
     int weatherDelayMs = 0;
     int videoDelayMs = 0;
     quint64 placelessWeatherPictures = 0; // taken, but the sensor is no radar with a place
+    quint64 plots = 0; // gone before they were taken, or before they had faded
 
     bool operator==(const DropStats &other) const = default;
 };

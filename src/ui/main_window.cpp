@@ -25,6 +25,7 @@
 #include "ui/library_log.h"
 #include "ui/log_pane.h"
 #include "ui/map_windows.h"
+#include "ui/plot_switch.h"
 #include "ui/range_ring_window.h"
 #include "ui/replay_controls.h"
 #include "ui/scope_notice.h"
@@ -54,6 +55,7 @@ constexpr std::pair<ActionId, bool Config::*> LayerToggles[] = {
     {ActionId::ToggleSensorMap, &Config::mapSensorVisible},
     {ActionId::ToggleWeatherMap, &Config::mapWeatherVisible},
     {ActionId::ToggleVideoMap, &Config::mapVideoVisible},
+    {ActionId::TogglePlots, &Config::mapPlotVisible},
     {ActionId::ToggleRangeRings, &Config::mapRangeRingVisible},
     {ActionId::ToggleRangeRingLabels, &Config::mapRangeRingLabelVisible},
     {ActionId::ToggleCompassRose, &Config::mapCompassRoseVisible},
@@ -88,6 +90,7 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     connectSession();
     connectRecordings();
     connectDisplay();
+    connectScopeNotices();
     connectInputActions();
     connectViewActions();
     connectTrackActions();
@@ -188,6 +191,7 @@ void MainWindow::makeParts()
 {
     m_session = std::make_unique<InputSession>(&m_config, &m_host);
     m_pump = std::make_unique<SnapshotPump>(&m_host.shared(), m_mapDisplay.get(), m_trackDisplay.get());
+    m_plotSwitch = std::make_unique<PlotSwitch>(m_mapDisplay->plotMap(), (*m_actions)[ActionId::TogglePlots]);
     m_lists = std::make_unique<ListPanes>(this, m_trackDisplay.get(), [this] { return m_pump->newest(); });
     m_trackCommands = std::make_unique<TrackCommands>(m_actions, m_geoWidget, m_trackDisplay.get(), m_lists.get());
     m_home = std::make_unique<HomeView>(m_geoWidget, &m_host.shared().projector, &m_config.live());
@@ -275,6 +279,17 @@ void MainWindow::connectDisplay()
     connect(m_pump.get(), &SnapshotPump::alertStatusChanged, this, &MainWindow::updateAlertStatus);
     connect(m_pump.get(), &SnapshotPump::dropStats, m_statsWindow, &StatsWindow::setDropStats);
     connect(m_pump.get(), &SnapshotPump::dropStats, this, &MainWindow::dropStats);
+}
+
+void MainWindow::connectScopeNotices()
+{
+    PlotSwitch *plots = m_plotSwitch.get();
+    // Before the setting follows, which need not change by it.
+    connect((*m_actions)[ActionId::TogglePlots], &QAction::triggered, plots, &PlotSwitch::switchTo);
+    connect(m_session.get(), &InputSession::openingBegun, plots,
+        [this, plots] { plots->beginInput(m_session->replaying() ? config().inputFileName.filePath() : QString()); });
+    connect(m_pump.get(), &SnapshotPump::snapshotTaken, plots, &PlotSwitch::look);
+    connect(plots, &PlotSwitch::changed, this, &MainWindow::updateNotices);
 }
 
 void MainWindow::connectInputActions()
@@ -378,6 +393,7 @@ void MainWindow::applyConfig(SettingGroups changed)
     for (const auto &[id, visible] : LayerToggles) {
         (*m_actions)[id]->setChecked(config.*visible);
     }
+    m_plotSwitch->setWanted(config.mapPlotVisible);
     if (changed & SettingGroup::Weather && m_weatherIntensityWindow) {
         m_weatherIntensityWindow->refresh();
     }

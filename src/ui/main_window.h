@@ -25,6 +25,7 @@ class LayoutMenu;
 class ListPanes;
 class LogPane;
 class MapWindows;
+class PlotSwitch;
 class RangeRingWindow;
 class RecordingOpener;
 class ReplayControls;
@@ -186,6 +187,7 @@ private:
     void connectSession();
     void connectRecordings();
     void connectDisplay();
+    void connectScopeNotices();
     void connectInputActions();
     void connectViewActions();
     void connectTrackActions();
@@ -219,6 +221,8 @@ private:
     // What the window shows of the session.
     void showSession();
     void updateInputActions();
+    // Why the scope is empty or old, or shows plots; empty when that needs no words.
+    QString scopeNotice() const;
     void updateNotices();
 
     // Life cycle.
@@ -253,6 +257,7 @@ private:
     // These work on all of the above, so they go before it.
     std::unique_ptr<InputSession> m_session;
     std::unique_ptr<SnapshotPump> m_pump;
+    std::unique_ptr<PlotSwitch> m_plotSwitch;
     std::unique_ptr<ListPanes> m_lists;
     std::unique_ptr<TrackCommands> m_trackCommands;
     std::unique_ptr<HomeView> m_home;

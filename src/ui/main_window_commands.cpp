@@ -8,6 +8,7 @@
 #include "ui/layout_menu.h"
 #include "ui/main_window.h"
 #include "ui/map_windows.h"
+#include "ui/plot_switch.h"
 #include "ui/replay_controls.h"
 #include "ui/scope_notice.h"
 #include "ui/snapshot_pump.h"
@@ -105,14 +106,23 @@ void MainWindow::updateInputActions()
     (*m_actions)[ActionId::Record]->setEnabled(inputOpen() && !m_session->replaying());
 }
 
+QString MainWindow::scopeNotice() const
+{
+    const QString input = m_session->description();
+    const QString notice = m_session->notice();
+    return notice.isEmpty() ? m_plotSwitch->notice(input) : notice;
+}
+
 void MainWindow::updateNotices()
 {
-    m_scopeNotice->showText(m_session->notice());
     const QString input = m_session->description();
+    m_scopeNotice->showText(scopeNotice());
     const QString idle = tr("No input is running.");
     const QString waiting =
         m_session->replaying() ? tr("No tracks yet in %1.").arg(input) : tr("No tracks. Listening on %1.").arg(input);
-    m_lists->setEmptyTexts(inputOpen() ? waiting : idle, inputOpen() ? tr("No alerts.") : idle);
+    const QString plots = tr("No tracks. The target reports of %1 are shown as plots.").arg(input);
+    const QString open = m_plotSwitch->standsIn() ? plots : waiting;
+    m_lists->setEmptyTexts(inputOpen() ? open : idle, inputOpen() ? tr("No alerts.") : idle);
     const QString program = QGuiApplication::applicationDisplayName();
     setWindowTitle(m_session->replaying() ? tr("%1 - %2").arg(config().inputFileName.fileName(), program) : program);
 }

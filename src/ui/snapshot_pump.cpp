@@ -1,6 +1,7 @@
 #include "ui/snapshot_pump.h"
 
 #include "display/geo_map_display.h"
+#include "display/geo_plot_map.h"
 #include "display/geo_track_display.h"
 #include "radar_painting/geo_video_map.h"
 #include "radar_painting/geo_weather_map.h"
@@ -72,6 +73,8 @@ void SnapshotPump::pullDisplay()
     }
     m_newest = snapshot;
     m_tracks->setSnapshot(snapshot);
+    m_map->plotMap()->setSnapshot(*snapshot);
+    Q_EMIT snapshotTaken(*snapshot);
     for (std::size_t i = 0; i < m_alertStatus.size(); ++i) {
         if (m_alertStatus[i] != snapshot->alertStatus[i]) {
             m_alertStatus[i] = snapshot->alertStatus[i];
@@ -94,5 +97,5 @@ void SnapshotPump::publishDropStats()
 {
     Q_EMIT dropStats({m_displayReader.dropped(), m_videoReader.dropped(), m_weatherReader.dropped(),
         m_map->weatherMap()->emptyPictures(), m_weatherDelay.milliseconds(), m_videoDelay.milliseconds(),
-        m_map->weatherMap()->placelessPictures()});
+        m_map->weatherMap()->placelessPictures(), m_map->plotMap()->lostPlots()});
 }

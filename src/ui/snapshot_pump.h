@@ -42,6 +42,8 @@ public Q_SLOTS:
     void publishDropStats();
 
 Q_SIGNALS:
+    // The layers show it.
+    void snapshotTaken(const DisplaySnapshot &snapshot);
     // The status of this type differs from that in the snapshot before.
     void alertStatusChanged(Alert::Type type, bool on);
     void dropStats(const DropStats &stats);

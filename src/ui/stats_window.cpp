@@ -40,6 +40,7 @@ StatsWindow::StatsWindow(QWidget *parent) : GeometryDialog("StatsWindow", parent
     addValue(grid, "weatherVectors", tr("Vectors of last weather picture:"));
     addHeading(grid, tr("Dropped before display (since start)"));
     addValue(grid, "droppedSnapshots", tr("Snapshots:"));
+    addValue(grid, "droppedPlots", tr("Plots:"));
     addValue(grid, "droppedVideo", tr("Video batches:"));
     addValue(grid, "droppedWeather", tr("Weather pictures:"));
     addValue(grid, "emptyWeather", tr("Weather pictures without content:"));
@@ -113,6 +114,7 @@ void StatsWindow::setDropStats(const DropStats &stats)
 {
     m_drops = stats;
     showValue("droppedSnapshots", QString::number(stats.snapshots));
+    showValue("droppedPlots", QString::number(stats.plots));
     showValue("droppedVideo", QString::number(stats.videoBatches));
     showValue("droppedWeather", QString::number(stats.weatherPictures));
     showValue("emptyWeather", QString::number(stats.emptyWeatherPictures));
@@ -164,6 +166,7 @@ QString StatsWindow::clipboardText() const
     }
     if (m_drops) {
         add("DropSnapshots", m_drops->snapshots);
+        add("DropPlots", m_drops->plots);
         add("DropVideoBatches", m_drops->videoBatches);
         add("DropWeatherPictures", m_drops->weatherPictures);
         add("DropEmptyWeatherPictures", m_drops->emptyWeatherPictures);

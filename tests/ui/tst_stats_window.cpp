@@ -29,10 +29,10 @@ private Q_SLOTS:
         window.setPipelineStats(pipeline);
         QCOMPARE(shown("weatherInterval"), QString("3.0 s"));
 
-        window.setDropStats({1, 2, 3, 4, 500, 600, 7});
+        window.setDropStats({1, 2, 3, 4, 500, 600, 7, 8});
         const QList<std::pair<const char *, QString>> drops{{"droppedSnapshots", "1"}, {"droppedVideo", "2"},
             {"droppedWeather", "3"}, {"emptyWeather", "4"}, {"weatherDelay", "500 ms"}, {"videoDelay", "600 ms"},
-            {"placelessWeather", "7"}};
+            {"placelessWeather", "7"}, {"droppedPlots", "8"}};
         for (const auto &[name, text] : drops) {
             QCOMPARE(shown(name), text);
         }
