@@ -335,6 +335,7 @@ void DataEngine::publishSnapshot()
             m_alertProcessor->alertStatus(Alert::STCA)};
         snapshot.time = m_clock->now();
         snapshot.recordedTime = m_clock->isRecorded();
+        snapshot.messages = messagesReceived();
         snapshot.plots = m_plots.publish();
     });
     if (stats) {

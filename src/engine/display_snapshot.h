@@ -16,5 +16,6 @@ struct DisplaySnapshot {
     std::array<bool, 3> alertStatus = {}; // MSAW, APW, STCA: index is Alert::Type minus 1
     QDateTime time = {}; // of the picture, UTC: all ages in it count to here; stands still while the input does
     bool recordedTime = false; // a recording's own, also after its end, until another input is opened
+    quint64 messages = 0; // received since the input was opened
     PlotHistory plots = {}; // also those of the snapshots before, so that who misses some misses no plot
 };

@@ -19,6 +19,7 @@
 #include "sensors/sensor_manager.h"
 #include "settings/track_label_format_window.h"
 #include "ui/actions.h"
+#include "ui/empty_scope.h"
 #include "ui/home_view.h"
 #include "ui/input_session.h"
 #include "ui/layout_menu.h"
@@ -191,6 +192,7 @@ void MainWindow::makeParts()
 {
     m_session = std::make_unique<InputSession>(&m_config, &m_host);
     m_pump = std::make_unique<SnapshotPump>(&m_host.shared(), m_mapDisplay.get(), m_trackDisplay.get());
+    m_emptyScope = std::make_unique<EmptyScope>();
     m_plotSwitch = std::make_unique<PlotSwitch>(m_mapDisplay->plotMap(), (*m_actions)[ActionId::TogglePlots]);
     m_lists = std::make_unique<ListPanes>(this, m_trackDisplay.get(), [this] { return m_pump->newest(); });
     m_trackCommands = std::make_unique<TrackCommands>(m_actions, m_geoWidget, m_trackDisplay.get(), m_lists.get());
@@ -290,6 +292,11 @@ void MainWindow::connectScopeNotices()
         [this, plots] { plots->beginInput(m_session->replaying() ? config().inputFileName.filePath() : QString()); });
     connect(m_pump.get(), &SnapshotPump::snapshotTaken, plots, &PlotSwitch::look);
     connect(plots, &PlotSwitch::changed, this, &MainWindow::updateNotices);
+    EmptyScope *scope = m_emptyScope.get();
+    connect(m_session.get(), &InputSession::openingBegun, scope, &EmptyScope::beginInput);
+    connect(m_pump.get(), &SnapshotPump::snapshotTaken, scope, &EmptyScope::look);
+    connect(m_pump.get(), &SnapshotPump::radarPictureTaken, scope, &EmptyScope::noteRadarPicture);
+    connect(scope, &EmptyScope::changed, this, &MainWindow::updateNotices);
 }
 
 void MainWindow::connectInputActions()

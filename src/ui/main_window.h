@@ -16,6 +16,7 @@
 #include <QTimer>
 
 class Actions;
+class EmptyScope;
 class GeoMapDisplay;
 class GeoTrackDisplay;
 class GeoWidget;
@@ -258,6 +259,7 @@ private:
     std::unique_ptr<InputSession> m_session;
     std::unique_ptr<SnapshotPump> m_pump;
     std::unique_ptr<PlotSwitch> m_plotSwitch;
+    std::unique_ptr<EmptyScope> m_emptyScope;
     std::unique_ptr<ListPanes> m_lists;
     std::unique_ptr<TrackCommands> m_trackCommands;
     std::unique_ptr<HomeView> m_home;

@@ -3,6 +3,7 @@
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
 #include "ui/actions.h"
+#include "ui/empty_scope.h"
 #include "ui/home_view.h"
 #include "ui/input_session.h"
 #include "ui/layout_menu.h"
@@ -109,8 +110,12 @@ void MainWindow::updateInputActions()
 QString MainWindow::scopeNotice() const
 {
     const QString input = m_session->description();
-    const QString notice = m_session->notice();
-    return notice.isEmpty() ? m_plotSwitch->notice(input) : notice;
+    for (const QString &notice : {m_session->notice(), m_plotSwitch->notice(input)}) {
+        if (!notice.isEmpty()) {
+            return notice;
+        }
+    }
+    return m_emptyScope->notice(input);
 }
 
 void MainWindow::updateNotices()

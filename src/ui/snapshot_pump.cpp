@@ -48,6 +48,7 @@ void SnapshotPump::pullVideo()
     for (const VideoProcessor::Radial &radial : batch->radials) {
         showRadial(radial);
     }
+    Q_EMIT radarPictureTaken();
     if (m_live && !batch->radials.isEmpty()) {
         m_videoDelay.add(batch->radials.constFirst().timeOfDay, QDateTime::currentDateTimeUtc());
     }
@@ -60,6 +61,7 @@ void SnapshotPump::pullWeather()
         return;
     }
     showWeather(*picture);
+    Q_EMIT radarPictureTaken();
     if (m_live) {
         m_weatherDelay.add(picture->timeOfDay, QDateTime::currentDateTimeUtc());
     }

@@ -44,6 +44,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     // The layers show it.
     void snapshotTaken(const DisplaySnapshot &snapshot);
+    // The same of weather or radar video.
+    void radarPictureTaken();
     // The status of this type differs from that in the snapshot before.
     void alertStatusChanged(Alert::Type type, bool on);
     void dropStats(const DropStats &stats);
