@@ -1,5 +1,7 @@
 #include "vyxdisplay/picture_json.h"
 
+#include "display/geo_map_display.h"
+#include "display/geo_plot_map.h"
 #include "display/geo_track_display.h"
 #include "plan_view/geo_widget.h"
 
@@ -60,5 +62,7 @@ QJsonObject pictureJson(const GeoWidget &scope)
                 {"trackNumber", static_cast<qint64>(shown.track->trackNumber)}, {"place", picture.point(shown.place)}};
         }
     }
-    return {{"labels", labels}, {"symbols", symbols}, {"view", viewObject(frame.view, picture.ratio)}};
+    const auto plots = static_cast<qint64>(scope.mapDisplay()->plotMap()->shownPlots());
+    return {
+        {"labels", labels}, {"symbols", symbols}, {"plots", plots}, {"view", viewObject(frame.view, picture.ratio)}};
 }

@@ -1,9 +1,12 @@
 #include "window_fixture.h"
 
 #include "app/map_places.h"
+#include "display/geo_map_display.h"
+#include "display/geo_plot_map.h"
 #include "display/geo_track_display.h"
 #include "plan_view/geo_widget.h"
 #include "test_program.h"
+#include "tracking/plot_store.h"
 #include "vyxdisplay/demo_traffic.h"
 #include "vyxdisplay/exit_report.h"
 #include "vyxdisplay/termination_signals.h"
@@ -170,6 +173,7 @@ void TestRunEnds::reportSaysWhereTracksStandInThePicture()
         config.trackLabelBackgroundColor = Qt::magenta;
         config.trackLabelColor = Qt::magenta;
         config.trackLabelDetailColor = Qt::magenta;
+        config.mapPlotVisible = true;
     });
     GeoWidget *scope = window->geoWidget();
     scope->setView(5000.0, 3000.0, 100.0);
@@ -184,6 +188,14 @@ void TestRunEnds::reportSaysWhereTracksStandInThePicture()
     scope->trackDisplay()->setSnapshot(
         QSharedPointer<DisplaySnapshot>::create(DisplaySnapshot{{track, outside}, {}, {}}));
     scope->trackDisplay()->setTrackLabelOffset(7, 60, 60); // clear of the symbol
+    PlotStore plots;
+    plots.restart();
+    plots.add({}, Track::Psr, 1);
+    plots.add({}, Track::Psr, 2);
+    DisplaySnapshot withPlots;
+    withPlots.time = QDateTime::fromMSecsSinceEpoch(2, Qt::UTC);
+    withPlots.plots = plots.publish();
+    scope->mapDisplay()->plotMap()->setSnapshot(withPlots);
 
     const QString screenshot = m_directory.filePath("tracks.png");
     const QString snapshot = m_directory.filePath("tracks.json");
@@ -201,6 +213,7 @@ void TestRunEnds::reportSaysWhereTracksStandInThePicture()
     const QJsonObject root = QJsonDocument::fromJson(file.readAll()).object();
     QCOMPARE(root["labels"].toArray().size(), 1);
     QCOMPARE(root["symbols"].toArray().size(), 1);
+    QCOMPARE(root["plots"].toInt(), 2);
     const QJsonValue label = root["labels"][0];
     const QJsonArray rect = label["rect"].toArray();
     QCOMPARE(QRect(rect[0].toInt(), rect[1].toInt(), rect[2].toInt(), rect[3].toInt()), painted);
