@@ -36,7 +36,7 @@ void GeoTrackDisplay::setSnapshot(const QSharedPointer<const DisplaySnapshot> &s
             m_tracksById.insert(track.incarnationId, &track);
         }
     }
-    m_labelOffsets.removeIf([this](const auto &entry) { return !hasTrack(entry.key()); });
+    m_places.removeIf([this](unsigned long long id) { return !hasTrack(id); });
     m_frame.tracks.clear(); // their labels go
     m_labels.removeIf([this](unsigned long long id) { return !hasTrack(id); });
 }
@@ -125,18 +125,40 @@ bool GeoTrackDisplay::selectedTrackCarCoordinate(QPointF &planePoint) const
 
 bool GeoTrackDisplay::trackLabelOffsetDefault(unsigned long long id) const
 {
-    return !m_labelOffsets.contains(id);
+    return !m_places.isPinned(id);
 }
 
+// Of a label that arranges itself, where it stands.
 QPoint GeoTrackDisplay::trackLabelOffset(unsigned long long id) const
 {
-    return m_labelOffsets.value(id, m_look.labelOffset);
+    const auto shown = m_labelRects.constFind(id);
+    if (m_look.autoPlace && !m_places.isPinned(id) && shown != m_labelRects.constEnd()) {
+        return QPoint(shown->x(), -shown->y());
+    }
+    return m_places.pinnedOffset(id).value_or(m_look.labelOffset);
 }
 
 void GeoTrackDisplay::setTrackLabelOffset(unsigned long long id, int x, int y)
 {
-    m_labelOffsets.insert(id, QPoint(x, y));
+    m_places.pin(id, QPoint(x, y));
     Q_EMIT polluted();
+}
+
+void GeoTrackDisplay::resetTrackLabelOffset(unsigned long long id)
+{
+    m_places.reset(id);
+    Q_EMIT polluted();
+}
+
+void GeoTrackDisplay::resetTrackLabelOffsets()
+{
+    m_places.resetAll();
+    Q_EMIT polluted();
+}
+
+void GeoTrackDisplay::setViewHeld(bool held)
+{
+    m_places.setViewHeld(held);
 }
 
 void GeoTrackDisplay::setTargetTypeSymbol(bool on)

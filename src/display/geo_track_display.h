@@ -4,6 +4,7 @@
 #include "display/track_frame.h"
 #include "display/track_label_cache.h"
 #include "display/track_label_painter.h"
+#include "display/track_label_places.h"
 #include "display/track_label_visibility.h"
 #include "display/track_leader_painter.h"
 #include "display/track_look.h"
@@ -70,6 +71,12 @@ public:
     bool trackLabelOffsetDefault(unsigned long long id) const;
     QPoint trackLabelOffset(unsigned long long id) const;
     void setTrackLabelOffset(unsigned long long id, int x, int y);
+    bool anyTrackLabelOffset() const { return m_places.anyPinned(); }
+    // Gives up the place that the operator gave a label, or all of them.
+    void resetTrackLabelOffset(unsigned long long id);
+    void resetTrackLabelOffsets();
+    // While the view is being dragged labels that arrange themselves keep to their tracks.
+    void setViewHeld(bool held);
 
     // What of the newest snapshot asks for the operator's attention.
     const AlertBoard &alertBoard() const { return m_alerts; }
@@ -168,6 +175,8 @@ Q_SIGNALS:
     void acknowledged();
     // What the snapshots should carry for the trails: the dots shown, 0 while trails are hidden.
     void shownTrailDotsChanged(int dots);
+    // How many labels in view show less than they have to say, for want of room. Comes while painting.
+    void shortenedLabelsChanged(int count);
 
 private:
     template <typename Value, typename Given>
@@ -176,6 +185,7 @@ private:
     void setField(bool TrackLabelFields::*field, bool visible);
 
     void placeLabels();
+    void noteShortenedLabels();
     void paintDetails(QPainter *painter);
     void paintCompactDetails(QPainter *painter);
 
@@ -187,7 +197,8 @@ private:
     AlertBoard m_alerts;
     bool m_blinkOn = true;
 
-    QHash<unsigned long long, QPoint> m_labelOffsets; // chosen by the operator
+    TrackLabelPlaces m_places;
+    int m_shortenedLabels = 0;
     QHash<unsigned long long, QRect> m_labelRects; // of the last paint, pixels from the track's place
     TrackLabelCache m_labels;
     TrackFrame m_frame;

@@ -16,6 +16,7 @@ void GeoTrackDisplay::paint(QPainter *painter, const GeoView &view)
     m_frame.snapshot = m_snapshot;
     m_frame.collect(m_selectedTrack);
     placeLabels();
+    noteShortenedLabels();
     painter->save();
     painter->resetTransform();
     m_symbolPainter.prepare(painter, m_frame);
@@ -69,17 +70,24 @@ void GeoTrackDisplay::placeLabels()
     for (const ShownTrack &shown : m_frame.tracks) {
         m_labels.refresh(*shown.track, m_look);
     }
-    m_labelRects.reserve(qsizetype(m_frame.tracks.size()));
     for (ShownTrack &shown : m_frame.tracks) {
-        const auto id = shown.track->incarnationId;
-        shown.label = m_labels.find(id);
-        if (!shown.label) {
-            continue;
+        shown.label = m_labels.find(shown.track->incarnationId);
+    }
+    m_places.place(m_frame);
+    m_labelRects.reserve(qsizetype(m_frame.tracks.size()));
+    for (const ShownTrack &shown : m_frame.tracks) {
+        if (shown.label) {
+            m_labelRects.insert(shown.track->incarnationId, shown.labelRect.translated(-shown.place));
         }
-        const QPoint offset = trackLabelOffset(id);
-        const QRect rect(QPoint(offset.x(), -offset.y()), shown.label->size);
-        m_labelRects.insert(id, rect);
-        shown.labelRect = rect.translated(shown.place);
+    }
+}
+
+void GeoTrackDisplay::noteShortenedLabels()
+{
+    const int count = m_frame.showsDetails() && m_look.showsLabels() ? m_places.shortenedCount() : 0;
+    if (count != m_shortenedLabels) {
+        m_shortenedLabels = count;
+        Q_EMIT shortenedLabelsChanged(count);
     }
 }
 

@@ -18,9 +18,10 @@ struct ShownTrack {
     bool selected = false;
     bool alerting = false;
     const TrackLabelLayout *label = nullptr; // null: shows none
-    QRect labelRect; // without padding
+    int lines = 0; // of the label that are shown, from the top
+    QRect labelRect; // of these, without padding
     QRect labelVisible; // bounds what other labels and the screen's edge leave to be seen; empty: nothing
-    unsigned int hiddenLines = 0; // under other labels, one bit a line from the top
+    unsigned int hiddenLines = 0; // not shown, or under other labels; one bit a line from the top
 };
 
 // What is painted now, or was painted last. One object is filled again for each frame, for its memory's sake.

@@ -32,7 +32,7 @@ unsigned int TrackLabelVisibility::hiddenLines(const ShownTrack &shown, const QR
         const int bottom = i + 1 < lines.size() ? shown.labelRect.top() + int(lines[i + 1].y) : padded.bottom();
         // Glyphs may lean out of their line a little.
         const QRect line(QPoint(padded.left(), top - 2), QPoint(padded.right(), bottom + 2));
-        hidden |= m_cover.visiblePart(line).isEmpty() ? 1u << i : 0u;
+        hidden |= int(i) >= shown.lines || m_cover.visiblePart(line).isEmpty() ? 1u << i : 0u;
     }
     return hidden;
 }

@@ -122,6 +122,7 @@ private:
     void keepSelectedTrackCentred();
     void startRightDrag(const QPointF &position);
     void endRightDrag();
+    void holdView(bool held);
     void selectTrackAt(const QPoint &pixel);
     void panTo(const QPointF &position);
     void requestMenuAt(const QPointF &position, const QPoint &globalPosition);

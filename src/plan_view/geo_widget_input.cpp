@@ -58,6 +58,7 @@ void GeoWidget::startRightDrag(const QPointF &position)
     }
     m_draggingLabel = m_draggedTrack != 0;
     m_panning = !m_draggingLabel;
+    holdView(m_panning);
     m_lastMousePosition = position;
     m_rightPress = position;
     noteHover(0);
@@ -138,10 +139,7 @@ void GeoWidget::dragLabel(const QPoint &delta)
     if (!m_trackDisplay || !m_trackDisplay->hasTrack(m_draggedTrack)) {
         return;
     }
-    QPoint offset = m_trackDisplay->trackLabelOffset(m_draggedTrack);
-    if (m_trackDisplay->trackLabelOffsetDefault(m_draggedTrack)) {
-        offset = QPoint(m_trackDisplay->labelOffsetX(), m_trackDisplay->labelOffsetY());
-    }
+    const QPoint offset = m_trackDisplay->trackLabelOffset(m_draggedTrack);
     m_trackDisplay->setTrackLabelOffset(m_draggedTrack, offset.x() + delta.x(), offset.y() - delta.y());
 }
 
@@ -172,8 +170,16 @@ void GeoWidget::endRightDrag()
     m_panning = false;
     m_draggingLabel = false;
     m_draggedTrack = 0;
+    holdView(false);
     showIdleCursor();
     notifyViewRectChange();
+}
+
+void GeoWidget::holdView(bool held)
+{
+    if (m_trackDisplay) {
+        m_trackDisplay->setViewHeld(held);
+    }
 }
 
 void GeoWidget::placeRangeRings(const QPointF &planePoint)

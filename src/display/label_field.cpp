@@ -1,0 +1,302 @@
+#include "display/label_field.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int CellPixels = 64;
+constexpr int DensityPixels = 8; // side of the cells for guesses
+constexpr double DensityUnits = 16.0; // whole numbers add up quicker
+// A square pixel of a label under another one, of a symbol under a label.
+constexpr double LabelAreaCost = 2.0;
+constexpr double SymbolAreaCost = 2.0;
+constexpr double CrossingCost = 150.0; // of two leaders
+constexpr double ThroughCost = 1.0; // of a leader through a label
+constexpr double FreeLineCost = 100.0; // of a line that is to stay free under a label
+
+int sharedArea(const QRect &a, const QRect &b)
+{
+    const int width = std::min(a.right(), b.right()) - std::max(a.left(), b.left()) + 1;
+    const int height = std::min(a.bottom(), b.bottom()) - std::max(a.top(), b.top()) + 1;
+    return width > 0 && height > 0 ? width * height : 0;
+}
+
+// Which side of a line a point is on: the sign.
+qint64 sideOf(const QLine &line, int x, int y)
+{
+    return qint64(line.dx()) * (y - line.y1()) - qint64(line.dy()) * (x - line.x1());
+}
+
+QRect boundsOf(const QLine &line)
+{
+    return QRect(QPoint(std::min(line.x1(), line.x2()), std::min(line.y1(), line.y2())),
+        QPoint(std::max(line.x1(), line.x2()), std::max(line.y1(), line.y2())));
+}
+
+bool cross(const QLine &a, const QLine &b)
+{
+    const auto apart = [](const QLine &line, const QLine &other) {
+        const qint64 first = sideOf(line, other.x1(), other.y1());
+        const qint64 second = sideOf(line, other.x2(), other.y2());
+        return first == 0 || second == 0 || (first < 0) == (second < 0);
+    };
+    return boundsOf(a).intersects(boundsOf(b)) && !apart(a, b) && !apart(b, a);
+}
+
+bool cross(const QRect &rect, const QLine &line)
+{
+    if (!rect.intersects(boundsOf(line))) {
+        return false;
+    }
+    const qint64 corners[] = {sideOf(line, rect.left(), rect.top()), sideOf(line, rect.right(), rect.top()),
+        sideOf(line, rect.left(), rect.bottom()), sideOf(line, rect.right(), rect.bottom())};
+    const auto [least, most] = std::minmax_element(std::begin(corners), std::end(corners));
+    return *least <= 0 && *most >= 0;
+}
+
+// Narrows the time in which two intervals, the second moving, share a point.
+void meet(int firstLow, int firstHigh, int secondLow, int secondHigh, double speed, double *begin, double *end)
+{
+    const double toLow = firstLow - secondHigh;
+    const double toHigh = firstHigh - secondLow;
+    if (speed == 0.0) {
+        if (toLow > 0.0 || toHigh < 0.0) {
+            *end = -1.0;
+        }
+        return;
+    }
+    *begin = std::max(*begin, std::min(toLow / speed, toHigh / speed));
+    *end = std::min(*end, std::max(toLow / speed, toHigh / speed));
+}
+
+// Seconds until the second rectangle, moving at that speed, touches the first, up to the limit.
+double timeToTouch(const QRect &first, const QRect &second, const QPointF &speed, double limit)
+{
+    double begin = 0.0;
+    double end = limit;
+    meet(first.left(), first.right(), second.left(), second.right(), speed.x(), &begin, &end);
+    meet(first.top(), first.bottom(), second.top(), second.bottom(), speed.y(), &begin, &end);
+    return begin <= end ? begin : limit;
+}
+
+} // namespace
+
+void LabelField::reset(const QRect &area, int owners, int symbolReach)
+{
+    m_area = area;
+    m_symbolReach = symbolReach;
+    m_speed = 0.0;
+    m_columns = area.width() / CellPixels + 1;
+    const std::size_t cells = std::size_t(m_columns) * std::size_t(area.height() / CellPixels + 1);
+    for (auto *table : {&m_symbolCells, &m_labelCells}) {
+        table->resize(cells);
+        std::for_each(table->begin(), table->end(), [](std::vector<int> &cell) { cell.clear(); });
+    }
+    m_densityColumns = area.width() / DensityPixels + 1;
+    m_density.assign(std::size_t(m_densityColumns) * std::size_t(area.height() / DensityPixels + 1), 0);
+    m_owners.assign(std::size_t(owners), {});
+    m_visited.assign(std::size_t(owners), 0);
+    m_question = 0;
+    m_freeLines.clear();
+}
+
+void LabelField::addSymbol(int owner, const QPoint &place, const QPointF &motion)
+{
+    Owner &added = m_owners[std::size_t(owner)];
+    added.place = place;
+    added.motion = motion;
+    m_speed = std::max({m_speed, std::abs(motion.x()), std::abs(motion.y())});
+    const QRect cell = cellsOf(QRect(place, QSize(1, 1)));
+    m_symbolCells[std::size_t(cell.top() * m_columns + cell.left())].push_back(owner);
+    addDensity(symbolRect(added), int(SymbolAreaCost * DensityUnits));
+}
+
+void LabelField::addFreeLine(int owner, const QPoint &tip)
+{
+    m_freeLines.emplace_back(m_owners[std::size_t(owner)].place, tip);
+}
+
+void LabelField::put(int owner, const QRect &rect)
+{
+    remove(owner);
+    Owner &put = m_owners[std::size_t(owner)];
+    put.rect = rect;
+    put.leader = QLine(put.place, leaderEnd(put.place, rect));
+    addDensity(rect, int(LabelAreaCost * DensityUnits));
+    const QRect range = cellsOf(rect | boundsOf(put.leader));
+    for (int y = range.top(); y <= range.bottom(); ++y) {
+        for (int x = range.left(); x <= range.right(); ++x) {
+            m_labelCells[std::size_t(y * m_columns + x)].push_back(owner);
+        }
+    }
+}
+
+void LabelField::remove(int owner)
+{
+    Owner &removed = m_owners[std::size_t(owner)];
+    if (removed.rect.isNull()) {
+        return;
+    }
+    const QRect range = cellsOf(removed.rect | boundsOf(removed.leader));
+    for (int y = range.top(); y <= range.bottom(); ++y) {
+        for (int x = range.left(); x <= range.right(); ++x) {
+            std::vector<int> &cell = m_labelCells[std::size_t(y * m_columns + x)];
+            *std::find(cell.begin(), cell.end(), owner) = cell.back();
+            cell.pop_back();
+        }
+    }
+    addDensity(removed.rect, -int(LabelAreaCost * DensityUnits));
+    removed.rect = {};
+}
+
+double LabelField::cost(int owner, const QRect &rect, double limit) const
+{
+    double cost = freeLineCost(rect);
+    const int reach = m_symbolReach;
+    const bool go =
+        visit(m_symbolCells, m_columns, cellsOf(rect.adjusted(-reach, -reach, reach, reach)), [&](int other) {
+            cost += SymbolAreaCost * sharedArea(rect, symbolRect(m_owners[std::size_t(other)]));
+            return cost < limit;
+        });
+    if (!go) {
+        return cost;
+    }
+    const QLine leader(m_owners[std::size_t(owner)].place, leaderEnd(m_owners[std::size_t(owner)].place, rect));
+    ++m_question;
+    visit(m_labelCells, m_columns, cellsOf(rect | boundsOf(leader)), [&](int other) {
+        unsigned int &visited = m_visited[std::size_t(other)];
+        if (other != owner && visited != m_question) {
+            visited = m_question;
+            const Owner &stands = m_owners[std::size_t(other)];
+            cost += LabelAreaCost * sharedArea(rect, stands.rect) + (cross(leader, stands.leader) ? CrossingCost : 0.0)
+                + (cross(rect, stands.leader) ? ThroughCost : 0.0) + (cross(stands.rect, leader) ? ThroughCost : 0.0);
+        }
+        return cost < limit;
+    });
+    return cost;
+}
+
+int LabelField::crossing(int owner) const
+{
+    const Owner &asked = m_owners[std::size_t(owner)];
+    int found = -1;
+    visit(m_labelCells, m_columns, cellsOf(boundsOf(asked.leader)), [&](int other) {
+        found = other != owner && cross(asked.leader, m_owners[std::size_t(other)].leader) ? other : -1;
+        return found < 0;
+    });
+    return found;
+}
+
+int LabelField::crowding(const QPoint &place) const
+{
+    const QRect range = cellsOf(QRect(place - QPoint(CellPixels, CellPixels), QSize(2 * CellPixels, 2 * CellPixels)));
+    std::size_t count = 0;
+    for (int y = range.top(); y <= range.bottom(); ++y) {
+        for (int x = range.left(); x <= range.right(); ++x) {
+            count += m_symbolCells[std::size_t(y * m_columns + x)].size();
+        }
+    }
+    return int(count);
+}
+
+double LabelField::freeFor(int owner, const QRect &rect, double limit) const
+{
+    const QPointF motion = m_owners[std::size_t(owner)].motion;
+    const int reach = int(std::ceil(2.0 * m_speed * limit)) + m_symbolReach;
+    const QRect range = cellsOf(rect.adjusted(-reach, -reach, reach, reach));
+    visit(m_symbolCells, m_columns, range, [&](int other) {
+        const Owner &stands = m_owners[std::size_t(other)];
+        if (other != owner) {
+            limit = timeToTouch(rect, symbolRect(stands), stands.motion - motion, limit);
+        }
+        return limit > 0.0;
+    });
+    visit(m_labelCells, m_columns, range, [&](int other) {
+        const Owner &stands = m_owners[std::size_t(other)];
+        if (other != owner) {
+            limit = timeToTouch(rect, stands.rect, stands.motion - motion, limit);
+        }
+        return limit > 0.0;
+    });
+    return limit;
+}
+
+QPoint LabelField::leaderEnd(const QPoint &place, const QRect &rect)
+{
+    return QPoint(std::clamp(place.x(), rect.left(), rect.right()), std::clamp(place.y(), rect.top(), rect.bottom()));
+}
+
+// Columns and rows; what lies outside the area counts to the cells at its rim.
+QRect LabelField::cellsOf(const QRect &rect) const
+{
+    const int lastColumn = m_columns - 1;
+    const int lastRow = m_area.height() / CellPixels;
+    const auto column = [&](int x) { return std::clamp((x - m_area.left()) / CellPixels, 0, lastColumn); };
+    const auto row = [&](int y) { return std::clamp((y - m_area.top()) / CellPixels, 0, lastRow); };
+    return QRect(QPoint(column(rect.left()), row(rect.top())), QPoint(column(rect.right()), row(rect.bottom())));
+}
+
+// Until the visitor returns false; then it returns false too.
+template <typename Visit>
+bool LabelField::visit(const std::vector<std::vector<int>> &cells, int columns, const QRect &range, Visit &&visit)
+{
+    for (int y = range.top(); y <= range.bottom(); ++y) {
+        for (int x = range.left(); x <= range.right(); ++x) {
+            for (const int owner : cells[std::size_t(y * columns + x)]) {
+                if (!visit(owner)) {
+                    return false;
+                }
+            }
+        }
+    }
+    return true;
+}
+
+QRect LabelField::symbolRect(const Owner &owner) const
+{
+    return QRect(owner.place - QPoint(m_symbolReach, m_symbolReach), QSize(2 * m_symbolReach, 2 * m_symbolReach));
+}
+
+// Spreads it over the cells that the rectangle reaches, by their share of it.
+void LabelField::addDensity(const QRect &rect, int costOfPixel)
+{
+    const QRect inside = (rect & m_area).translated(-m_area.topLeft());
+    if (inside.isEmpty()) {
+        return;
+    }
+    for (int y = inside.top() / DensityPixels; y <= inside.bottom() / DensityPixels; ++y) {
+        int *row = m_density.data() + y * m_densityColumns;
+        const int height =
+            std::min(inside.bottom() + 1, (y + 1) * DensityPixels) - std::max(inside.top(), y * DensityPixels);
+        for (int x = inside.left() / DensityPixels; x <= inside.right() / DensityPixels; ++x) {
+            const int width =
+                std::min(inside.right() + 1, (x + 1) * DensityPixels) - std::max(inside.left(), x * DensityPixels);
+            row[x] += costOfPixel * width * height;
+        }
+    }
+}
+
+// Over the cells whose middle lies within.
+double LabelField::roughCost(const QRect &rect) const
+{
+    const QRect inside = (rect & m_area).translated(-m_area.topLeft());
+    const int left = (inside.left() + DensityPixels / 2) / DensityPixels;
+    const int right = (inside.right() + 1 - DensityPixels / 2) / DensityPixels;
+    const int bottom = (inside.bottom() + 1 - DensityPixels / 2) / DensityPixels;
+    int sum = 0;
+    for (int y = (inside.top() + DensityPixels / 2) / DensityPixels; y <= bottom && !inside.isEmpty(); ++y) {
+        const int *row = m_density.data() + y * m_densityColumns;
+        for (int x = left; x <= right; ++x) {
+            sum += row[x];
+        }
+    }
+    return sum / DensityUnits;
+}
+
+double LabelField::freeLineCost(const QRect &rect) const
+{
+    return FreeLineCost * double(std::count_if(m_freeLines.begin(), m_freeLines.end(), [&rect](const QLine &line) {
+        return cross(rect, line);
+    }));
+}

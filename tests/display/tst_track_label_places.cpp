@@ -1,0 +1,176 @@
+#include "display/geo_track_display.h"
+#include "painted_view.h"
+#include "test_program.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <random>
+
+namespace {
+
+TrackSnapshot aircraft(unsigned int number, const QPointF &place)
+{
+    TrackSnapshot track;
+    track.trackNumber = number;
+    track.incarnationId = number;
+    track.carCoordinate = place;
+    track.carCoordinateValid = true;
+    track.callsign = QStringLiteral("TEST%1").arg(number);
+    track.callsignValid = true;
+    track.level = 35000;
+    track.levelValid = true;
+    return track;
+}
+
+} // namespace
+
+class TestTrackLabelPlaces final : public QObject {
+    Q_OBJECT
+
+private:
+    // Paints the tracks with labels that arrange themselves, north-up at a metre a pixel unless told otherwise.
+    struct Scope {
+        explicit Scope(Config::TrackLabelLayout layout = Config::TrackLabelLayout::Compact)
+        {
+            Config config;
+            config.trackLabelAutoPlace = true;
+            config.trackLabelLayout = layout;
+            display.applyConfig(config);
+        }
+
+        void show(const QList<TrackSnapshot> &tracks)
+        {
+            display.setSnapshot(QSharedPointer<DisplaySnapshot>::create(DisplaySnapshot{tracks, {}, {}}));
+        }
+        void paint(PaintedView &view, int frames = 1)
+        {
+            for (int i = 0; i < frames; ++i) {
+                view.paint([this](QPainter &painter, const GeoView &geoView) { display.paint(&painter, geoView); });
+            }
+        }
+        QRect rect(unsigned long long id) const
+        {
+            for (const ShownTrack &shown : display.frame().tracks) {
+                if (shown.track->incarnationId == id && shown.label) {
+                    return display.look().padded(shown.labelRect);
+                }
+            }
+            return {};
+        }
+
+        GeoTrackDisplay display;
+    };
+
+    static QList<TrackSnapshot> crowd(int count)
+    {
+        std::mt19937 random(1);
+        QList<TrackSnapshot> tracks;
+        for (int i = 0; i < count; ++i) {
+            tracks += aircraft(unsigned(i + 1), QPointF(int(random() % 400) - 200, int(random() % 400) - 200));
+        }
+        return tracks;
+    }
+
+private Q_SLOTS:
+    void labelsKeepApartInEveryLayoutAndView()
+    {
+        for (const auto layout : {Config::TrackLabelLayout::Standard, Config::TrackLabelLayout::Compact}) {
+            for (const double rotation : {0.0, 120.0}) {
+                Scope scope(layout);
+                scope.show({aircraft(1, {0, 0}), aircraft(2, {12, 8}), aircraft(3, {-9, 14}), aircraft(4, {150, 150})});
+                PaintedView view(1.0, {}, rotation);
+                scope.paint(view, 30);
+                for (unsigned int a = 1; a <= 4; ++a) {
+                    QVERIFY(view.image().rect().contains(scope.rect(a)));
+                    for (unsigned int b = 1; b < a; ++b) {
+                        QVERIFY(!scope.rect(a).intersects(scope.rect(b)));
+                    }
+                }
+            }
+        }
+    }
+
+    void theOperatorsPlaceStaysUntilItIsReset()
+    {
+        Scope scope;
+        scope.show({aircraft(1, {0, 0}), aircraft(2, {20, 5})});
+        PaintedView view(1.0);
+        scope.paint(view, 5);
+        const QRect arranged = scope.rect(1);
+        // A drag begins where the label stands.
+        const QPoint start = scope.display.trackLabelOffset(1);
+        scope.display.setTrackLabelOffset(1, start.x() - 60, start.y() + 10);
+        scope.paint(view, 5);
+        QCOMPARE(scope.rect(1), arranged.translated(-60, -10));
+        QVERIFY(scope.display.anyTrackLabelOffset());
+        scope.display.resetTrackLabelOffset(1);
+        scope.paint(view, 5);
+        QCOMPARE(scope.rect(1), arranged);
+        scope.display.setTrackLabelOffset(2, 100, 100);
+        scope.display.resetTrackLabelOffsets();
+        QVERIFY(!scope.display.anyTrackLabelOffset());
+    }
+
+    void aCrowdGivesUpLinesAndSaysSo()
+    {
+        Scope scope;
+        QSignalSpy counts(&scope.display, &GeoTrackDisplay::shortenedLabelsChanged);
+        scope.show(crowd(100));
+        PaintedView view(1.0);
+        scope.paint(view, 5);
+        QVERIFY(!counts.isEmpty());
+        int shortened = 0;
+        for (const ShownTrack &shown : scope.display.frame().tracks) {
+            const bool whole = shown.label && shown.lines == int(shown.label->lines.size());
+            shortened += view.image().rect().contains(shown.place) && !whole ? 1 : 0;
+            QVERIFY(!shown.label || shown.labelRect.height() < shown.label->size.height() || whole);
+        }
+        QVERIFY(shortened > 0);
+        QCOMPARE(counts.last()[0].toInt(), shortened);
+        scope.show({aircraft(1, {0, 0})});
+        scope.paint(view, 30);
+        QCOMPARE(counts.last()[0].toInt(), 0);
+        // Switched off, all stand in full where they always did.
+        scope.show(crowd(100));
+        scope.display.applyConfig(Config());
+        scope.paint(view);
+        for (const ShownTrack &shown : scope.display.frame().tracks) {
+            QCOMPARE(shown.labelRect.topLeft() - shown.place,
+                QPoint(scope.display.labelOffsetX(), -scope.display.labelOffsetY()));
+        }
+        QCOMPARE(counts.last()[0].toInt(), 0);
+    }
+
+    void aDraggedViewTakesItsLabelsAlong()
+    {
+        Scope scope;
+        scope.show(crowd(12));
+        PaintedView view(1.0);
+        scope.paint(view, 20);
+        std::vector<QPoint> before;
+        for (unsigned long long id = 1; id <= 12; ++id) {
+            before.push_back(scope.display.trackLabelOffset(id));
+        }
+        scope.display.setViewHeld(true);
+        PaintedView moved(1.0, QPointF(120, 60));
+        scope.paint(moved, 3);
+        for (unsigned long long id = 1; id <= 12; ++id) {
+            QCOMPARE(scope.display.trackLabelOffset(id), before[id - 1]);
+        }
+    }
+
+    void anyNumberOfTracksIsPlaced()
+    {
+        Scope scope;
+        PaintedView view(1.0);
+        for (const int count : {0, 1, 5000}) {
+            scope.show(crowd(count));
+            scope.paint(view, 2);
+            QCOMPARE(int(scope.display.frame().tracks.size()), count);
+        }
+    }
+};
+
+VYX_TEST(TestTrackLabelPlaces)
+#include "tst_track_label_places.moc"
