@@ -50,8 +50,9 @@ namespace {
 
 constexpr int ClockIntervalMs = 500;
 
-// The layers that an action shows and hides.
-constexpr std::pair<ActionId, bool Config::*> LayerToggles[] = {
+// The settings that an action switches.
+constexpr std::pair<ActionId, bool Config::*> SettingToggles[] = {
+    {ActionId::ArrangeLabels, &Config::trackLabelAutoPlace},
     {ActionId::ToggleStaticMaps, &Config::mapStaticVisible},
     {ActionId::ToggleSensorMap, &Config::mapSensorVisible},
     {ActionId::ToggleWeatherMap, &Config::mapWeatherVisible},
@@ -332,6 +333,7 @@ void MainWindow::connectTrackActions()
     connect(m_trackDisplay.get(), &GeoTrackDisplay::polluted, label,
         [this, label] { label->setChecked(m_trackDisplay->labelVisible()); });
     label->setChecked(m_trackDisplay->labelVisible());
+    connectLabelActions();
 
     const auto toggleDock = [this](ActionId id, QDockWidget *dock) {
         QAction *action = (*m_actions)[id];
@@ -344,9 +346,24 @@ void MainWindow::connectTrackActions()
     toggleDock(ActionId::ToggleAlertList, m_lists->alertDock());
 }
 
+void MainWindow::connectLabelActions()
+{
+    GeoTrackDisplay *tracks = m_trackDisplay.get();
+    QAction *reset = (*m_actions)[ActionId::ResetLabel];
+    QAction *resetAll = (*m_actions)[ActionId::ResetAllLabels];
+    connect(reset, &QAction::triggered, tracks, [tracks] { tracks->resetTrackLabelOffset(tracks->selectedTrackId()); });
+    connect(resetAll, &QAction::triggered, tracks, &GeoTrackDisplay::resetTrackLabelOffsets);
+    const auto update = [tracks, reset, resetAll] {
+        reset->setEnabled(!tracks->trackLabelOffsetDefault(tracks->selectedTrackId()));
+        resetAll->setEnabled(tracks->anyTrackLabelOffset());
+    };
+    connect(tracks, &GeoTrackDisplay::polluted, reset, update);
+    update();
+}
+
 void MainWindow::connectMapActions()
 {
-    for (const auto &[id, visible] : LayerToggles) {
+    for (const auto &[id, visible] : SettingToggles) {
         connect((*m_actions)[id], &QAction::triggered, this,
             [this, member = visible](bool on) { editConfig([member, on](Config &config) { config.*member = on; }); });
     }
@@ -397,7 +414,7 @@ void MainWindow::applyConfig(SettingGroups changed)
         m_actions->setToolBarText(config.displayToolbarText);
         updateClock();
     }
-    for (const auto &[id, visible] : LayerToggles) {
+    for (const auto &[id, visible] : SettingToggles) {
         (*m_actions)[id]->setChecked(config.*visible);
     }
     m_plotSwitch->setWanted(config.mapPlotVisible);

@@ -192,6 +192,7 @@ private:
     void connectInputActions();
     void connectViewActions();
     void connectTrackActions();
+    void connectLabelActions();
     void connectMapActions();
     void connectMapWindows();
     void connectDialogActions();
