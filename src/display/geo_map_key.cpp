@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr double Margin = 12.0; // pixels from the corner of the view
+constexpr double KeyMargin = 12.0; // pixels from the corner of the view
 constexpr double ScaleBarHeight = 24.0; // which has the corner itself
 constexpr double Padding = 4.0;
 constexpr double RowHeight = 18.0;
@@ -80,7 +80,7 @@ void GeoMapKey::placeTexts(const GeoView &view, TextRoom &room)
         return;
     }
     const QRectF screen(view.screenRect());
-    const QPointF corner = screen.bottomLeft() + QPointF(Margin + Padding, -Margin - ScaleBarHeight - Padding);
+    const QPointF corner = screen.bottomLeft() + QPointF(KeyMargin + Padding, -KeyMargin - ScaleBarHeight - Padding);
     const double levelsHeight = m_levels.empty() ? 0.0 : 2.0 * RowHeight;
     m_levelsPlace = corner - QPointF(0.0, levelsHeight);
     placeSymbols(std::move(symbols), m_levelsPlace, screen.height() * TallestPart - levelsHeight);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr double LeastRotation = 0.05; // degrees; less is noise of the view's matrix
 constexpr double Radius = 26.0; // pixels
-constexpr double Margin = 30.0; // from the corner of the view: figures of the compass rose stand at its rim
+constexpr double ArrowMargin = 30.0; // from the corner of the view: figures of the compass rose stand at its rim
 constexpr double ShaftLength = 12.0;
 
 // Upwards, its middle in the origin.
@@ -50,7 +50,7 @@ SettingGroups GeoNorthArrow::settings() const
 
 void GeoNorthArrow::placeTexts(const GeoView &view, TextRoom &room)
 {
-    m_middle = QRectF(view.screenRect()).topRight() + QPointF(-Margin - Radius, Margin + Radius);
+    m_middle = QRectF(view.screenRect()).topRight() + QPointF(-ArrowMargin - Radius, ArrowMargin + Radius);
     const QPointF half(Radius, Radius);
     m_shown = std::abs(view.rotation()) > LeastRotation && room.takeIfFree(QRectF(m_middle - half, m_middle + half));
 }

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double LongestBar = 160.0; // pixels
 constexpr double WidestPart = 0.35; // of the view
-constexpr double Margin = 12.0; // pixels from the corner of the view
+constexpr double BarMargin = 12.0; // pixels from the corner of the view
 constexpr double TickHeight = 6.0;
 constexpr double TextGap = 6.0;
 
@@ -76,7 +76,7 @@ void GeoScaleBar::placeTexts(const GeoView &view, TextRoom &room)
     const QString text = tr("%1 NM").arg(miles);
     const QSizeF textSize = mapTextRect({}, text).size();
     const QSizeF size(length + TextGap + textSize.width(), std::max(TickHeight, textSize.height()));
-    const QPointF corner(Margin, view.screenRect().height() - Margin - size.height());
+    const QPointF corner(BarMargin, view.screenRect().height() - BarMargin - size.height());
     if (!room.takeIfFree(QRectF(corner, size))) {
         return;
     }
