@@ -65,6 +65,9 @@ void chooseCompact(GeoTrackDisplay &display)
     config.trackLabelBackgroundOpacity = 60;
     display.applyConfig(config);
     display.setSymbolSize(12);
+    QFont font = display.labelFont();
+    font.setPointSize(10);
+    display.setLabelFont(font);
 }
 
 void showAllFields(GeoTrackDisplay &display)

@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <bit>
 
-void CoverMask::reset(const QSize &screen)
+void CoverMask::reset(const QSize &screen, int layers)
 {
     m_screen = QRect(QPoint(0, 0), screen);
     m_rowWords = screen.width() / CellPixels / WordBits + 1;
-    m_words.assign(std::size_t(m_rowWords) * std::size_t(screen.height() / CellPixels + 1), 0);
+    m_layerWords = std::size_t(m_rowWords) * std::size_t(screen.height() / CellPixels + 1);
+    m_words.assign(m_layerWords * std::size_t(std::clamp(layers, 1, MostLayers)), 0);
 }
 
 // Calls visit(word index in the row, mask of the cells in that word) for the words that hold the cells.
@@ -18,6 +19,16 @@ void CoverMask::visitRow(int firstCell, int lastCell, Visit &&visit)
         const int from = std::max(firstCell - word * WordBits, 0);
         const int to = std::min(lastCell - word * WordBits, WordBits - 1);
         visit(std::size_t(word), (~Word(0) >> (WordBits - 1 - to)) & (~Word(0) << from));
+    }
+}
+
+// Cells that were covered already are covered once more, in the next layer.
+void CoverMask::coverCells(std::size_t word, Word cells)
+{
+    for (; word < m_words.size() && cells != 0; word += m_layerWords) {
+        const Word before = m_words[word];
+        m_words[word] |= cells;
+        cells &= before;
     }
 }
 
@@ -36,8 +47,8 @@ void CoverMask::cover(const QRect &rect)
     const int top = (seen.top() + CellPixels - 1) / CellPixels;
     const int bottom = lastCell(seen.bottom(), m_screen.bottom());
     for (int row = top; row <= bottom && left <= right; ++row) {
-        Word *words = m_words.data() + std::size_t(row) * std::size_t(m_rowWords);
-        visitRow(left, right, [words](std::size_t index, Word cells) { words[index] |= cells; });
+        const std::size_t start = std::size_t(row) * std::size_t(m_rowWords);
+        visitRow(left, right, [this, start](std::size_t index, Word cells) { coverCells(start + index, cells); });
     }
 }
 
@@ -46,7 +57,8 @@ QRect CoverMask::visiblePart(const QRect &rect) const
     const QRect seen = rect & m_screen;
     QRect cells; // that can be seen
     for (int row = seen.top() / CellPixels; row <= seen.bottom() / CellPixels && !seen.isEmpty(); ++row) {
-        const Word *words = m_words.data() + std::size_t(row) * std::size_t(m_rowWords);
+        const Word *words =
+            m_words.data() + (m_words.size() - m_layerWords) + std::size_t(row) * std::size_t(m_rowWords);
         visitRow(seen.left() / CellPixels, seen.right() / CellPixels, [&](std::size_t index, Word wanted) {
             const Word open = ~words[index] & wanted;
             if (open == 0) {

@@ -5,12 +5,15 @@
 
 #include <vector>
 
-// Which parts of the screen lie under opaque labels, so that what they hide need not be painted. Errs on the side of
-// painting: what is not reported visible is covered, or off the screen, to the last pixel.
+// Which parts of the screen lie under labels, so that what they hide need not be painted. Errs on the side of painting:
+// what is not reported visible is covered as often as it takes, or off the screen, to the last pixel.
 class CoverMask {
 public:
-    // Nothing is covered; pixels.
-    void reset(const QSize &screen);
+    static constexpr int MostLayers = 12;
+
+    // Nothing is covered; pixels. What is covered so many times counts as hidden, 1 to MostLayers: translucent grounds
+    // hide when enough of them lie on each other.
+    void reset(const QSize &screen, int layers = 1);
 
     void cover(const QRect &rect);
     // Bounds what can be seen of a rectangle; empty when it is hidden.
@@ -22,10 +25,12 @@ private:
     static constexpr int CellPixels = 4;
     static constexpr int WordBits = 64;
 
+    void coverCells(std::size_t word, Word cells);
     template <typename Visit>
     static void visitRow(int firstCell, int lastCell, Visit &&visit);
 
     QRect m_screen;
     int m_rowWords = 0;
-    std::vector<Word> m_words;
+    std::size_t m_layerWords = 0;
+    std::vector<Word> m_words; // layer after layer: what is covered once, twice and so on
 };

@@ -43,11 +43,16 @@ void GeoTrackDisplay::setSnapshot(const QSharedPointer<const DisplaySnapshot> &s
 
 void GeoTrackDisplay::applyConfig(const Config &config)
 {
-    m_look.layout = config.trackLabelLayout;
     m_look.autoPlace = config.trackLabelAutoPlace;
+    setColors(TrackColors(config), config.trackLabelLayout);
+}
+
+void GeoTrackDisplay::setColors(const TrackColors &colors, Config::TrackLabelLayout layout)
+{
+    m_look.layout = layout;
     m_frame.tracks.clear();
     m_labels.clear();
-    change(&m_look.colors, TrackColors(config));
+    change(&m_look.colors, colors);
 }
 
 unsigned long long GeoTrackDisplay::findTrackBySymbolPosition(const QTransform &screenTransform, int x, int y) const

@@ -89,6 +89,8 @@ public:
     // Takes what the settings say of tracks.
     void applyConfig(const Config &config);
 
+    void setColors(const TrackColors &colors, Config::TrackLabelLayout layout);
+
     const TrackLook &look() const { return m_look; }
     // What was painted last; without tracks from a new snapshot, font or settings to the next paint.
     const TrackFrame &frame() const { return m_frame; }

@@ -3,6 +3,12 @@
 
 #include <QPainter>
 
+namespace {
+
+constexpr QPointF HalfPixel(0.5, 0.5);
+
+} // namespace
+
 void GeoTrackDisplay::paint(QPainter *painter)
 {
     paint(painter, GeoView::fromPainter(*painter));
@@ -50,12 +56,14 @@ void GeoTrackDisplay::paintCompactDetails(QPainter *painter)
 {
     m_trailPainter.paintFading(painter, m_frame);
     painter->setRenderHint(QPainter::Antialiasing);
+    painter->translate(HalfPixel); // a line of one pixel then fills one row of pixels, not two by half
     for (const ShownTrack &shown : m_frame.tracks) {
         m_vectorPainter.paint(painter, m_frame, shown);
     }
     for (const ShownTrack &shown : m_frame.tracks) {
         m_leaderPainter.paint(painter, m_frame, shown);
     }
+    painter->translate(-HalfPixel);
     painter->setRenderHint(QPainter::Antialiasing, false);
     for (const ShownTrack &shown : m_frame.tracks) {
         m_labelPainter.paint(painter, m_frame, shown);

@@ -5,8 +5,8 @@
 // From the topmost label down.
 void TrackLabelVisibility::find(TrackFrame &frame)
 {
-    const bool opaque = frame.look.hasOpaqueGround();
-    m_cover.reset(frame.view.screenRect().size());
+    const int layers = frame.look.coveringLabels();
+    m_cover.reset(frame.view.screenRect().size(), layers);
     for (auto shown = frame.tracks.rbegin(); shown != frame.tracks.rend(); ++shown) {
         if (!shown->label) {
             continue;
@@ -17,7 +17,7 @@ void TrackLabelVisibility::find(TrackFrame &frame)
             continue;
         }
         shown->hiddenLines = hiddenLines(*shown, padded);
-        if (opaque) {
+        if (layers > 0) {
             m_cover.cover(padded);
         }
     }

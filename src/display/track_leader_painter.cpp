@@ -49,6 +49,9 @@ void TrackLeaderPainter::paint(QPainter *painter, const TrackFrame &frame, const
     if (!shown.label) {
         return;
     }
+    if (frame.look.isCompact() && shown.labelVisible.isEmpty()) {
+        return; // a leader to a label that is hidden leads to another one
+    }
     const QLineF line =
         frame.look.isCompact() ? nearest(frame.look, shown) : QLineF(shown.place, corner(frame.look, shown));
     if (line.isNull()) {

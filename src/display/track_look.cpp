@@ -1,5 +1,6 @@
 #include "display/track_look.h"
 
+#include "display/cover_mask.h"
 #include "display/track_label_marks.h"
 #include "view/label_face.h"
 
@@ -54,6 +55,18 @@ void TrackLook::setLabelFont(const QFont &font)
     identityFont = labelFont;
     identityFont.setBold(true);
     drawnMarks = tracklabel::marksToDraw(labelFont);
+}
+
+int TrackLook::coveringLabels() const
+{
+    constexpr double Unseen = 0.03; // of what lies below
+    constexpr int Most = CoverMask::MostLayers;
+    const double through = backgroundVisible ? 1.0 - double(colors.labelBackground.alphaF()) : 1.0;
+    int labels = 1;
+    for (double left = through; left > Unseen && labels <= Most; left *= through) {
+        ++labels;
+    }
+    return labels <= Most ? labels : 0;
 }
 
 QRect TrackLook::padded(const QRect &label) const

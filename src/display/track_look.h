@@ -37,8 +37,8 @@ struct TrackLook {
     // The label with its ground: the padding goes round it, except below it. The veil of a compact label is tight.
     QRect padded(const QRect &label) const;
     bool showsLabels() const { return labelVisible && fields.any(); }
-    // Nothing that lies under a label can be seen.
-    bool hasOpaqueGround() const { return backgroundVisible && colors.labelBackground.alpha() == 255; }
+    // How many labels on top of each other let nothing through that an eye could see; 0: however many do not.
+    int coveringLabels() const;
     bool isCompact() const { return layout == Config::TrackLabelLayout::Compact; }
 
     TrackColors colors;

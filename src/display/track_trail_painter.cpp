@@ -5,10 +5,12 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 
 constexpr int DotSize = 2; // pixels
+constexpr int DotsApart = 4; // pixels from one to the next, lest a trail becomes a line
 constexpr float Freshest = 0.85f; // opacities
 constexpr float Faintest = 0.15f;
 
@@ -38,8 +40,16 @@ void TrackTrailPainter::paintFading(QPainter *painter, const TrackFrame &frame)
 {
     for (const ShownTrack &shown : frame.tracks) {
         const qsizetype dots = shownDots(frame, shown);
+        QPoint last = shown.place;
+        int apart = frame.look.symbolSize / 2; // a dot inside a small symbol would look like a part of it
         for (qsizetype i = 0; i < dots; ++i) {
-            m_dots[std::size_t(i) * Steps / std::size_t(dots)].push_back(dotAt(frame, shown.track->trail[i]));
+            const QRect dot = dotAt(frame, shown.track->trail[i]);
+            const QPoint step = dot.center() - last;
+            if (std::max(std::abs(step.x()), std::abs(step.y())) >= apart) {
+                m_dots[std::size_t(i) * Steps / std::size_t(dots)].push_back(dot);
+                last = dot.center();
+                apart = DotsApart;
+            }
         }
     }
     QColor color = frame.look.colors.symbol;

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QtMath>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -48,7 +49,9 @@ void TrackVectorPainter::paint(QPainter *painter, const TrackFrame &frame, const
     const QPointF ahead = direction(shown.track->heading + frame.view.rotation());
     const QPointF across(-ahead.y(), ahead.x());
     m_lines.clear();
-    m_lines.emplace_back(shown.place, shown.place + ahead * length);
+    // In a small symbol the beginning of the line would look like a part of it.
+    const double begin = look.isCompact() ? std::min(look.symbolSize / 2.0, length) : 0.0;
+    m_lines.emplace_back(shown.place + ahead * begin, shown.place + ahead * length);
     for (int i = 1; i < look.vectorRange && look.vectorTicksVisible; ++i) {
         const QPointF tick = shown.place + ahead * (i * unit);
         m_lines.emplace_back(tick - across * TickReach, tick + across * TickReach);

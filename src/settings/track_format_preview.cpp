@@ -95,11 +95,7 @@ void TrackFormatPreview::setFormat(const TrackDisplayFormat &format)
 
 void TrackFormatPreview::setColors(const GeoTrackDisplay &display, const QColor &ground)
 {
-    m_display.setSymbolColor(display.symbolColor());
-    m_display.setLabelColor(display.labelColor());
-    m_display.setLabelSelectedColor(display.labelSelectedColor());
-    m_display.setLabelAlertColor(display.labelAlertColor());
-    m_display.setLabelBackgroundColor(display.labelBackgroundColor());
+    m_display.setColors(display.look().colors, display.look().layout);
     m_display.setLabelOffset(display.labelOffsetX(), display.labelOffsetY());
     m_ground = ground;
     update();

@@ -23,6 +23,9 @@ private Q_SLOTS:
     void trailFades();
     void endOfTheVectorIsMarked();
     void systemTrackShowsWhatDetectedIt();
+    void manyVeilsHideWhatOneLetsThrough();
+    void looksTheSameOnEveryScreen_data();
+    void looksTheSameOnEveryScreen();
 };
 
 namespace {
@@ -216,6 +219,87 @@ void TestCompactTracks::systemTrackShowsWhatDetectedIt()
     QCOMPARE(image(), primary);
     track.detectedBy = Track::Ssr;
     QVERIFY(image() != primary);
+}
+
+// However many labels lie on a place, it looks as if each had been painted.
+void TestCompactTracks::manyVeilsHideWhatOneLetsThrough()
+{
+    Config config;
+    config.trackLabelLayout = Config::TrackLabelLayout::Compact;
+    config.trackLabelBackgroundColor = GroundColor;
+    config.trackLabelBackgroundOpacity = 60;
+    config.trackSymbolColor = config.trackSymbolCasingColor = config.trackLeaderColor = Qt::transparent;
+    QList<TrackSnapshot> tracks;
+    for (int i = 0; i < 40; ++i) {
+        tracks.append(flight());
+        tracks.last().incarnationId = quint64(i) + 1;
+        tracks.last().carCoordinate = QPointF(100.0 * (i * 7 % 23), 100.0 * (i * 5 % 11));
+    }
+    const auto paint = [&config](QPainter &painter, const QList<TrackSnapshot> &some) {
+        GeoTrackDisplay display;
+        display.applyConfig(config);
+        auto snapshot = QSharedPointer<DisplaySnapshot>::create();
+        snapshot->tracks = some;
+        display.setSnapshot(snapshot);
+        display.paint(&painter);
+    };
+    PaintedView together(100.0);
+    together.paint([&](QPainter &painter, const GeoView &) { paint(painter, tracks); });
+    PaintedView oneByOne(100.0);
+    oneByOne.paint([&](QPainter &painter, const GeoView &) {
+        for (const TrackSnapshot &track : tracks) {
+            paint(painter, {track});
+        }
+    });
+    int farthest = 0;
+    for (int i = 0; i < PaintedView::Size * PaintedView::Size; ++i) {
+        const QPoint pixel(i % PaintedView::Size, i / PaintedView::Size);
+        farthest = std::max(farthest, std::abs(together.at(pixel).green() - oneByOne.at(pixel).green()));
+    }
+    QVERIFY2(farthest <= 6, qPrintable(QString::number(farthest)));
+}
+
+void TestCompactTracks::looksTheSameOnEveryScreen_data()
+{
+    QTest::addColumn<double>("ratio");
+    QTest::newRow("one and a half") << 1.5;
+    QTest::newRow("two") << 2.0;
+}
+
+// Ground, text and symbol keep their places; a turned view turns neither.
+void TestCompactTracks::looksTheSameOnEveryScreen()
+{
+    QFETCH(double, ratio);
+    Scope scope(flight());
+    const auto extents = [&scope](double devicePixelRatio, double rotation) {
+        const GeoView plain = PaintedView(100.0, {}, rotation).view();
+        QImage image((QSizeF(PaintedView::Size, PaintedView::Size) * devicePixelRatio).toSize(),
+            QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(devicePixelRatio);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        painter.setWorldTransform(plain.screenTransform());
+        scope.display.paint(&painter, GeoView(plain.screenTransform(), plain.screenRect().size(), devicePixelRatio));
+        painter.end();
+        QList<QRectF> found;
+        for (const QColor &color : {GroundColor, SymbolColor}) {
+            QRect extent;
+            for (int i = 0; i < image.width() * image.height(); ++i) {
+                const QPoint pixel(i % image.width(), i / image.width());
+                extent |= image.pixelColor(pixel) == color ? QRect(pixel, QSize(1, 1)) : QRect();
+            }
+            found.append(
+                QRectF(QPointF(extent.topLeft()) / devicePixelRatio, QSizeF(extent.size()) / devicePixelRatio));
+        }
+        return found;
+    };
+    const QList<QRectF> plain = extents(1.0, 0.0);
+    const QList<QRectF> fine = extents(ratio, 130.0);
+    for (qsizetype i = 0; i < plain.size(); ++i) {
+        QVERIFY(!plain[i].isEmpty());
+        QVERIFY((fine[i].topLeft() - plain[i].topLeft()).manhattanLength() <= 2.0);
+        QVERIFY((fine[i].bottomRight() - plain[i].bottomRight()).manhattanLength() <= 2.0);
+    }
 }
 
 VYX_TEST(TestCompactTracks)
