@@ -81,7 +81,7 @@ void GeoTrackDisplay::placeLabels()
     for (ShownTrack &shown : m_frame.tracks) {
         shown.label = m_labels.find(shown.track->incarnationId);
     }
-    m_places.place(m_frame);
+    m_places.place(m_frame, m_hoveredTrack);
     m_labelRects.reserve(qsizetype(m_frame.tracks.size()));
     for (const ShownTrack &shown : m_frame.tracks) {
         if (shown.label) {

@@ -20,8 +20,8 @@ constexpr double ShortenedCost = 550.0; // of giving up lines
 constexpr double HiddenCost = 1400.0; // of not being shown
 constexpr double ChangeCost = 200.0; // what a move or another form has to be worth
 constexpr double ExchangeCost = 600.0; // what the moves of two labels have to be worth
-constexpr int WorkLimit = 15000; // candidates a call, from which on what can wait does
-constexpr std::size_t HastyStride = 8; // of the candidates looked at when there is no time for all
+constexpr int WorkLimit = 6000; // candidates a call, from which on what can wait does
+constexpr std::size_t HastyStride = 20; // of the candidates looked at when there is no time for all
 constexpr double NoLimit = 1e9;
 constexpr double RoughShare = 0.75; // of a guess that the cost surely comes to
 

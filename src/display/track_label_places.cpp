@@ -77,7 +77,7 @@ QPoint vectorTip(const TrackFrame &frame, const TrackSnapshot &track)
     return (unit * look.vectorRange).toPoint();
 }
 
-LabelPlacer::Priority priority(const ShownTrack &shown)
+LabelPlacer::Priority priorityOf(const ShownTrack &shown, bool hovered)
 {
     using Priority = LabelPlacer::Priority;
     if (shown.alerting) {
@@ -85,6 +85,9 @@ LabelPlacer::Priority priority(const ShownTrack &shown)
     }
     if (shown.selected) {
         return Priority::Selected;
+    }
+    if (hovered) {
+        return Priority::Hovered;
     }
     return shown.track->emergency != Track::NoEmergency ? Priority::Emergency : Priority::Normal;
 }
@@ -115,11 +118,11 @@ void TrackLabelPlaces::resetAll()
     m_placer.forget();
 }
 
-void TrackLabelPlaces::place(TrackFrame &frame)
+void TrackLabelPlaces::place(TrackFrame &frame, unsigned long long hoveredTrack)
 {
     m_arranged = frame.look.autoPlace;
     if (m_arranged) {
-        arrange(frame);
+        arrange(frame, hoveredTrack);
         return;
     }
     m_placer.forget();
@@ -131,12 +134,12 @@ void TrackLabelPlaces::place(TrackFrame &frame)
     }
 }
 
-void TrackLabelPlaces::arrange(TrackFrame &frame)
+void TrackLabelPlaces::arrange(TrackFrame &frame, unsigned long long hoveredTrack)
 {
     noteView(frame);
     m_labels.clear();
     for (const ShownTrack &shown : frame.tracks) {
-        m_labels.push_back(label(frame, shown));
+        m_labels.push_back(label(frame, shown, shown.track->incarnationId == hoveredTrack));
     }
     const std::vector<LabelPlacer::Placed> &placed = m_placer.place(scene(frame), m_labels);
     const QPoint padding = paddingCorner(frame.look);
@@ -164,7 +167,7 @@ void TrackLabelPlaces::noteView(const TrackFrame &frame)
 }
 
 // A track without a label has a symbol that those of the others leave free.
-LabelPlacer::Label TrackLabelPlaces::label(const TrackFrame &frame, const ShownTrack &shown) const
+LabelPlacer::Label TrackLabelPlaces::label(const TrackFrame &frame, const ShownTrack &shown, bool hovered) const
 {
     const TrackSnapshot &track = *shown.track;
     LabelPlacer::Label label;
@@ -172,7 +175,7 @@ LabelPlacer::Label TrackLabelPlaces::label(const TrackFrame &frame, const ShownT
     label.place = shown.place;
     label.motion = motionOf(frame.view, track);
     label.vectorTip = vectorTip(frame, track);
-    label.priority = priority(shown);
+    label.priority = priorityOf(shown, hovered);
     label.keepsVectorFree = shown.selected;
     if (shown.label) {
         label.whole = paddedSize(frame.look, shown.label->size);

@@ -33,15 +33,16 @@ public:
     // While the view is being dragged labels keep to their tracks.
     void setViewHeld(bool held) { m_viewHeld = held; }
 
-    // Gives each label of the frame its rectangle and the lines that there is room for.
-    void place(TrackFrame &frame);
+    // Gives each label of the frame its rectangle and the lines that there is room for; that of the track under the
+    // pointer, 0 for none, always all.
+    void place(TrackFrame &frame, unsigned long long hoveredTrack = 0);
 
     // Labels in view, at the last frame, that show less than they have to say.
     int shortenedCount() const { return m_arranged ? m_placer.shortenedCount() + m_placer.hiddenCount() : 0; }
 
 private:
-    void arrange(TrackFrame &frame);
-    LabelPlacer::Label label(const TrackFrame &frame, const ShownTrack &shown) const;
+    void arrange(TrackFrame &frame, unsigned long long hoveredTrack);
+    LabelPlacer::Label label(const TrackFrame &frame, const ShownTrack &shown, bool hovered) const;
     LabelPlacer::Scene scene(const TrackFrame &frame) const;
     void noteView(const TrackFrame &frame);
 

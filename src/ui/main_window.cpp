@@ -29,6 +29,7 @@
 #include "ui/plot_switch.h"
 #include "ui/range_ring_window.h"
 #include "ui/replay_controls.h"
+#include "ui/scope_chip.h"
 #include "ui/scope_notice.h"
 #include "ui/snapshot_pump.h"
 #include "ui/stats_window.h"
@@ -359,6 +360,14 @@ void MainWindow::connectLabelActions()
     };
     connect(tracks, &GeoTrackDisplay::polluted, reset, update);
     update();
+    auto *chip = new ScopeChip(m_geoWidget, 1);
+    // Later: it comes in the midst of painting.
+    const auto note = [chip](int count) {
+        const QString text = count == 1 ? tr("1 label shortened") : tr("%1 labels shortened").arg(count);
+        chip->showText(count > 0 ? text : QString());
+    };
+    // Later: it comes in the midst of painting.
+    connect(tracks, &GeoTrackDisplay::shortenedLabelsChanged, chip, note, Qt::QueuedConnection);
 }
 
 void MainWindow::connectMapActions()

@@ -6,9 +6,10 @@
 
 namespace {
 constexpr int DistanceFromFoot = 10; // pixels
-}
+constexpr int DistanceBetween = 4;
+} // namespace
 
-ScopeChip::ScopeChip(QWidget *scope) : QLabel(scope)
+ScopeChip::ScopeChip(QWidget *scope, int row) : QLabel(scope), m_row(row)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setTextFormat(Qt::PlainText);
@@ -40,6 +41,7 @@ void ScopeChip::place()
 {
     const QSize scope = parentWidget()->size();
     const int width = std::min(sizeHint().width(), scope.width());
-    setGeometry((scope.width() - width) / 2, scope.height() - DistanceFromFoot - sizeHint().height(), width,
-        sizeHint().height());
+    const int height = sizeHint().height();
+    const int y = scope.height() - DistanceFromFoot - height - m_row * (height + DistanceBetween);
+    setGeometry((scope.width() - width) / 2, y, width, height);
 }

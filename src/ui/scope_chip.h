@@ -8,7 +8,8 @@ class ScopeChip final : public QLabel {
     Q_OBJECT
 
 public:
-    explicit ScopeChip(QWidget *scope);
+    // Chips in different rows, counted upwards from 0, do not cover each other.
+    explicit ScopeChip(QWidget *scope, int row = 0);
 
     void showText(const QString &text);
 
@@ -17,4 +18,6 @@ protected:
 
 private:
     void place();
+
+    int m_row;
 };

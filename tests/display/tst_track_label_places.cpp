@@ -62,6 +62,16 @@ private:
         GeoTrackDisplay display;
     };
 
+    // Of a label that has all its lines.
+    static int fullHeight()
+    {
+        Scope scope;
+        scope.show({aircraft(1, {0, 0})});
+        PaintedView view(1.0);
+        scope.paint(view);
+        return scope.rect(1).height();
+    }
+
     static QList<TrackSnapshot> crowd(int count)
     {
         std::mt19937 random(1);
@@ -128,6 +138,17 @@ private Q_SLOTS:
         }
         QVERIFY(shortened > 0);
         QCOMPARE(counts.last()[0].toInt(), shortened);
+        // The pointer brings up all of one.
+        for (const ShownTrack &shown : std::vector(scope.display.frame().tracks)) {
+            const bool whole = shown.label && shown.lines == int(shown.label->lines.size());
+            if (view.image().rect().contains(shown.place) && !whole) {
+                scope.display.setHovered(shown.track->incarnationId);
+                break;
+            }
+        }
+        scope.paint(view);
+        QVERIFY(scope.rect(scope.display.hoveredTrackId()).height() >= fullHeight());
+        scope.display.setHovered(0);
         scope.show({aircraft(1, {0, 0})});
         scope.paint(view, 30);
         QCOMPARE(counts.last()[0].toInt(), 0);
