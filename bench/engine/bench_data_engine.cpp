@@ -1,3 +1,4 @@
+#include "app/log_gate.h"
 #include "astfile/pcap_writer.h"
 #include "engine/data_engine.h"
 #include "geo/mercator_projector.h"
@@ -120,6 +121,7 @@ BENCHMARK(playRecording)
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
+    LogGate::setShownLevel(LogLevel::Info); // as the terminal's is
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

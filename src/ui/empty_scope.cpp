@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr qint64 PatienceMs = 10000; // nearly every radar turns once in this time
+constexpr qint64 SilenceMs = 10000; // nearly every radar turns once in this time
 
 std::optional<qint64> newestPlot(const PlotHistory &plots)
 {
@@ -75,7 +75,7 @@ void EmptyScope::beginRun(const DisplaySnapshot &snapshot)
 
 EmptyScope::Reason EmptyScope::reason(qint64 nowMs, bool recorded) const
 {
-    const auto longSince = [nowMs](qint64 thenMs) { return nowMs - thenMs >= PatienceMs; };
+    const auto longSince = [nowMs](qint64 thenMs) { return nowMs - thenMs >= SilenceMs; };
     if (m_lastTargetMs && !longSince(*m_lastTargetMs)) {
         return Reason::None;
     }
