@@ -131,7 +131,7 @@ void DemoTraffic::applyTo(Config &config) const
     fitRings(config);
 }
 
-// Some in the first view, unless others have been chosen.
+// Some in the first view, unless others have been chosen before.
 void DemoTraffic::fitRings(Config &config) const
 {
     const Config defaults;
@@ -143,6 +143,7 @@ void DemoTraffic::fitRings(Config &config) const
         || config.mapRangeRingNumber != defaults.mapRangeRingNumber) {
         return;
     }
+    config.mapRangeRingVisible = true;
     config.mapRangeRingDistance = reach > AerodromeReach ? 10.0 : 0.5;
     config.mapRangeRingNumber = std::clamp(qRound(std::ceil(reach / config.mapRangeRingDistance)), 1, MostRings);
 }

@@ -135,7 +135,7 @@ private Q_SLOTS:
             QVERIFY2(read.size() >= 2, qPrintable(error));
             entries += read;
         }
-        for (const QString &sheetName : QStringList{"style.mss", "style-dark.mss", "style-light.mss"}) {
+        for (const QString &sheetName : folder.entryList({"*.mss"})) {
             MapStyleSheet sheet;
             QVERIFY2(sheet.load(folder.filePath(sheetName), &error), qPrintable(error));
             for (const MapIndexEntry &entry : entries) {

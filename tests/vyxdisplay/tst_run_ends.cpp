@@ -26,7 +26,8 @@
 namespace {
 
 constexpr auto SensorAnswer = R"(if [ "$2" = --sensor-json ]; then
-  echo '{"type":"radar","name":"SHOW","sac":1,"sic":2,"location":"480000.00N0160000.00E"}'
+  echo '{"type":"radar","name":"SHOW","sac":1,"sic":2,"location":"480000.00N0160000.00E",'
+  echo '"ssr":true,"ssr_coverage":35}'
   exit 0
 fi
 )";
@@ -116,8 +117,11 @@ void TestRunEnds::demoEndIsReported()
         QCOMPARE(config.sensorName, "SHOW");
         QVERIFY(!config.inputUdpMulticast1);
         QVERIFY(QFileInfo(MapPlaces::resolve(config.mapIndex)).isFile() && config.mapIndex != Config().mapIndex);
+        QVERIFY(config.mapRangeRingVisible && config.mapRangeRingDistance == 10.0 && config.mapRangeRingNumber == 4);
+        config.mapRangeRingVisible = false; // the rings of the last time, switched off
         config.mapIndex = "mine.idx";
         demo.applyTo(config);
+        QVERIFY(!config.mapRangeRingVisible);
         QCOMPARE(config.mapIndex, "mine.idx");
 
         QSignalSpy messages(&demo, &DemoTraffic::message);
