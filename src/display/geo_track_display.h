@@ -1,7 +1,10 @@
 #pragma once
 
 #include "display/alert_board.h"
+#include "display/conflict_line_painter.h"
+#include "display/edge_arrow_painter.h"
 #include "display/track_frame.h"
+#include "display/track_highlight_painter.h"
 #include "display/track_label_cache.h"
 #include "display/track_label_painter.h"
 #include "display/track_label_places.h"
@@ -190,6 +193,9 @@ private:
     void noteShortenedLabels();
     void paintDetails(QPainter *painter);
     void paintCompactDetails(QPainter *painter);
+    void paintSymbols(QPainter *painter);
+    void paintRaisedLabel(QPainter *painter, const ShownTrack &shown);
+    bool isUnderRaisedLabel(const QPoint &place) const;
 
     QSharedPointer<const DisplaySnapshot> m_snapshot;
     QHash<unsigned long long, const TrackSnapshot *> m_tracksById; // into m_snapshot
@@ -211,4 +217,7 @@ private:
     TrackLabelPainter m_labelPainter;
     TrackLeaderPainter m_leaderPainter;
     TrackSymbolPainter m_symbolPainter;
+    ConflictLinePainter m_conflictLinePainter;
+    TrackHighlightPainter m_highlightPainter;
+    EdgeArrowPainter m_edgeArrowPainter;
 };

@@ -3,9 +3,14 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 constexpr QPointF HalfPixel(0.5, 0.5);
+
+// When everything is urgent nothing stands out any more, and time is better spent otherwise.
+constexpr std::size_t MostRaised = 64;
 
 } // namespace
 
@@ -20,7 +25,10 @@ void GeoTrackDisplay::paint(QPainter *painter, const GeoView &view)
     m_frame.view = view;
     m_frame.look = m_look;
     m_frame.snapshot = m_snapshot;
-    m_frame.collect(m_selectedTrack);
+    m_frame.selectedTrack = m_selectedTrack;
+    m_frame.hoveredTrack = m_hoveredTrack;
+    m_frame.blinkOn = m_blinkOn;
+    m_frame.collect(m_alerts);
     placeLabels();
     noteShortenedLabels();
     painter->save();
@@ -32,22 +40,43 @@ void GeoTrackDisplay::paint(QPainter *painter, const GeoView &view)
         m_leaderPainter.prepare(m_frame);
         m_labelPainter.prepare(painter, m_frame);
         m_look.isCompact() ? paintCompactDetails(painter) : paintDetails(painter);
-    }
-    // After all labels: a label may cover another label, but never a target.
-    for (const ShownTrack &shown : m_frame.tracks) {
-        m_symbolPainter.paint(painter, m_frame, shown);
+        m_conflictLinePainter.paintTexts(painter, m_frame, m_alerts.entries(), m_tracksById);
+        m_highlightPainter.paint(painter, m_frame);
+        m_edgeArrowPainter.paint(painter, m_frame, m_alerts, m_tracksById);
+    } else {
+        paintSymbols(painter);
     }
     painter->restore();
 }
 
-// Track by track, the most urgent on top.
-void GeoTrackDisplay::paintDetails(QPainter *painter)
+void GeoTrackDisplay::paintSymbols(QPainter *painter)
 {
     for (const ShownTrack &shown : m_frame.tracks) {
+        m_symbolPainter.paint(painter, m_frame, shown);
+    }
+}
+
+// Track by track, the most urgent on top. A label may cover another label, but never a target.
+void GeoTrackDisplay::paintDetails(QPainter *painter)
+{
+    const auto paintLines = [&](const ShownTrack &shown) {
         m_trailPainter.paint(painter, m_frame, shown);
         m_vectorPainter.paint(painter, m_frame, shown);
+    };
+    for (const ShownTrack &shown : m_frame.ordinary()) {
+        paintLines(shown);
         m_labelPainter.paint(painter, m_frame, shown);
         m_leaderPainter.paint(painter, m_frame, shown);
+    }
+    paintSymbols(painter);
+    m_conflictLinePainter.paintLines(painter, m_frame, m_alerts.entries(), m_tracksById);
+    for (const ShownTrack &shown : m_frame.raised()) {
+        paintLines(shown);
+        paintRaisedLabel(painter, shown);
+        m_leaderPainter.paint(painter, m_frame, shown);
+        if (!isUnderRaisedLabel(shown.place)) {
+            m_symbolPainter.paint(painter, m_frame, shown);
+        }
     }
 }
 
@@ -65,9 +94,37 @@ void GeoTrackDisplay::paintCompactDetails(QPainter *painter)
     }
     painter->translate(-HalfPixel);
     painter->setRenderHint(QPainter::Antialiasing, false);
-    for (const ShownTrack &shown : m_frame.tracks) {
+    for (const ShownTrack &shown : m_frame.ordinary()) {
         m_labelPainter.paint(painter, m_frame, shown);
     }
+    paintSymbols(painter);
+    m_conflictLinePainter.paintLines(painter, m_frame, m_alerts.entries(), m_tracksById);
+    for (const ShownTrack &shown : m_frame.raised()) {
+        paintRaisedLabel(painter, shown);
+    }
+}
+
+// The text of what is urgent stands above the symbols of others, and these above its ground.
+void GeoTrackDisplay::paintRaisedLabel(QPainter *painter, const ShownTrack &shown)
+{
+    const bool few = m_frame.raised().size() <= MostRaised;
+    m_labelPainter.paint(painter, m_frame, shown, [&] {
+        const int reach = m_look.symbolSize / 2;
+        const QRect near = m_look.padded(shown.labelRect).adjusted(-reach, -reach, reach, reach);
+        for (const ShownTrack &other : m_frame.tracks) {
+            if (few && near.contains(other.place)) {
+                m_symbolPainter.paint(painter, m_frame, other);
+            }
+        }
+    });
+}
+
+bool GeoTrackDisplay::isUnderRaisedLabel(const QPoint &place) const
+{
+    const auto raised = m_frame.raised();
+    return raised.size() <= MostRaised && std::any_of(raised.begin(), raised.end(), [&](const ShownTrack &shown) {
+        return shown.label && m_look.padded(shown.labelRect).contains(place);
+    });
 }
 
 void GeoTrackDisplay::placeLabels()
@@ -76,7 +133,7 @@ void GeoTrackDisplay::placeLabels()
         return;
     }
     for (const ShownTrack &shown : m_frame.tracks) {
-        m_labels.refresh(*shown.track, m_look);
+        m_labels.refresh(*shown.track, m_look, m_snapshot->time);
     }
     for (ShownTrack &shown : m_frame.tracks) {
         shown.label = m_labels.find(shown.track->incarnationId);

@@ -1,6 +1,7 @@
 #include "display/track_frame.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -8,7 +9,7 @@ constexpr double OffScreenMargin = 500.0; // pixels round the view from which la
 
 } // namespace
 
-void TrackFrame::collect(unsigned long long selectedTrack)
+void TrackFrame::collect(const AlertBoard &alerts)
 {
     const double margin = OffScreenMargin * view.metresPerPixel();
     const QRectF area = view.planeRect().adjusted(-margin, -margin, margin, margin);
@@ -24,10 +25,30 @@ void TrackFrame::collect(unsigned long long selectedTrack)
         shown.track = &track;
         shown.place = view.toScreen(track.carCoordinate).toPoint();
         shown.selected = track.incarnationId == selectedTrack;
+        shown.hovered = track.incarnationId == hoveredTrack;
         shown.alerting = !track.alertsString.isEmpty();
+        shown.inDistress = track.emergency != Track::NoEmergency;
+        shown.asking = alerts.attention(track.incarnationId) == AlertBoard::Attention::Asked;
+        shown.blinkedOff = shown.asking && !blinkOn;
         tracks.push_back(shown);
     }
-    std::stable_partition(tracks.begin(), tracks.end(), [](const ShownTrack &shown) { return !shown.alerting; });
+    const auto isUrgent = [](const ShownTrack &shown) { return shown.alerting || shown.inDistress; };
+    std::stable_partition(tracks.begin(), tracks.end(), std::not_fn(isUrgent));
+    // The one that the operator works with, on top.
+    std::stable_partition(
+        tracks.begin(), tracks.end(), [](const ShownTrack &shown) { return !shown.selected && !shown.hovered; });
+}
+
+std::span<const ShownTrack> TrackFrame::raised() const
+{
+    return std::span(tracks).subspan(ordinary().size());
+}
+
+std::span<const ShownTrack> TrackFrame::ordinary() const
+{
+    const auto end =
+        std::partition_point(tracks.begin(), tracks.end(), [](const ShownTrack &shown) { return !shown.isRaised(); });
+    return {tracks.begin(), end};
 }
 
 const QColor &TrackFrame::color(const ShownTrack &shown) const
@@ -37,6 +58,9 @@ const QColor &TrackFrame::color(const ShownTrack &shown) const
     }
     if (shown.alerting) {
         return look.colors.labelAlert;
+    }
+    if (shown.inDistress) {
+        return look.colors.caution;
     }
     if (shown.selected) {
         return look.colors.labelSelected;

@@ -103,14 +103,14 @@ void Layouter::layOut(TrackLabelLayout &label)
 
 } // namespace
 
-void TrackLabelCache::refresh(const TrackSnapshot &track, const TrackLook &look)
+void TrackLabelCache::refresh(const TrackSnapshot &track, const TrackLook &look, const QDateTime &time)
 {
     TrackLabelLayout &label = m_labels[track.incarnationId];
     if (label.contentRevision == m_contentRevision) {
         return;
     }
     TrackLabelLines content =
-        look.isCompact() ? compactLabelLines(track, look.fields) : trackLabelLines(track, look.fields);
+        look.isCompact() ? compactLabelLines(track, look.fields, time) : trackLabelLines(track, look.fields);
     if (label.contentRevision == 0 || !(content == label.content)) {
         label.content = std::move(content);
         Layouter(look).layOut(label);

@@ -50,7 +50,8 @@ public:
         m_labels.removeIf([&gone](const auto &entry) { return gone(entry.key()); });
     }
 
-    void refresh(const TrackSnapshot &track, const TrackLook &look);
+    // The time is the picture's.
+    void refresh(const TrackSnapshot &track, const TrackLook &look, const QDateTime &time);
     // Null for a track that was not refreshed, and for a label without text. Stays valid until the next refresh.
     const TrackLabelLayout *find(unsigned long long id) const;
 

@@ -2,6 +2,7 @@
 #include "display/track_label_text.h"
 #include "tracking/track_snapshot.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -94,9 +95,18 @@ QString extras(const TrackSnapshot &track, const TrackLabelFields &fields)
     return line;
 }
 
+// For how many seconds nothing has been heard of the track.
+void appendSilence(QString &line, const TrackSnapshot &track, const QDateTime &time)
+{
+    if (time.isValid() && track.lastUpdate.isValid()) {
+        appendNumber(line, int(std::max<qint64>(0, track.lastUpdate.msecsTo(time) / 1000)), 1);
+        line += QLatin1Char('s');
+    }
+}
+
 } // namespace
 
-TrackLabelLines compactLabelLines(const TrackSnapshot &track, const TrackLabelFields &fields)
+TrackLabelLines compactLabelLines(const TrackSnapshot &track, const TrackLabelFields &fields, const QDateTime &time)
 {
     TrackLabelLines lines;
     if (fields.alertIndicator) {
@@ -107,6 +117,7 @@ TrackLabelLines compactLabelLines(const TrackSnapshot &track, const TrackLabelFi
     who = identity(track, fields);
     if (track.coasting && !who.isEmpty()) {
         who += tracklabel::CoastingMark;
+        appendSilence(who, track, time);
     }
     lines.text[TrackLabelLines::Level] = motion(track, fields);
     TrackLabelFields others = fields;

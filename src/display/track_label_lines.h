@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 
 #include <array>
@@ -41,6 +42,8 @@ QString trackName(const TrackSnapshot &track);
 TrackLabelLines trackLabelLines(const TrackSnapshot &track, const TrackLabelFields &fields);
 
 // The same fields on fewer lines, and nothing for what is not known: who it is ("KVN72 3102", "A7000" without a call
-// sign, "#0208" without either), level, trend and speed ("F350↑ S370 452"; "GND" on the ground), and below them what an
+// sign, "#0208" without either; of a coasting track how long it has been silent at the given time, "KVN72 3102➘12s"),
+// level, trend and speed ("F350↑ S370 452"; "GND" on the ground), and below them what an
 // operator switches on beside. The identity line stays empty.
-TrackLabelLines compactLabelLines(const TrackSnapshot &track, const TrackLabelFields &fields);
+TrackLabelLines compactLabelLines(
+    const TrackSnapshot &track, const TrackLabelFields &fields, const QDateTime &time = {});

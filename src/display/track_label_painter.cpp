@@ -6,6 +6,15 @@
 
 #include <QPainter>
 
+namespace {
+
+bool isHead(TrackLabelLayout::Kind kind)
+{
+    return kind == TrackLabelLayout::Kind::Alert || kind == TrackLabelLayout::Kind::Caution;
+}
+
+} // namespace
+
 void TrackLabelPainter::prepare(QPainter *painter, const TrackFrame &frame)
 {
     const TrackColors &colors = frame.look.colors;
@@ -16,14 +25,16 @@ void TrackLabelPainter::prepare(QPainter *painter, const TrackFrame &frame)
     m_detailPen = QPen(colors.labelDetail);
     m_selectedPen = QPen(colors.labelSelected);
     m_coastingPen = QPen(colors.coasting);
-    m_alertTextPen = QPen(m_compact ? colors.labelAlertText : colors.labelAlert);
+    m_alertPen = QPen(colors.labelAlert);
+    m_filledHeadPen = QPen(colors.labelAlertText);
     m_cautionPen = QPen(colors.caution);
-    m_alertFramePen = QPen(colors.labelAlert);
     m_coastingFramePen = QPen(colors.label, 1, Qt::DashLine);
     m_alertGround = m_compact ? colors.labelAlert : groundFor(colors.labelAlert);
+    m_cautionGround = m_compact ? colors.caution : groundFor(colors.caution);
 }
 
-void TrackLabelPainter::paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown) const
+void TrackLabelPainter::paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown,
+    const std::function<void()> &paintBetween) const
 {
     if (!shown.label || shown.labelVisible.isEmpty()) {
         return;
@@ -34,6 +45,9 @@ void TrackLabelPainter::paint(QPainter *painter, const TrackFrame &frame, const 
         painter->setClipRect(shown.labelVisible);
     }
     paintGround(painter, frame, shown);
+    if (paintBetween) {
+        paintBetween();
+    }
     paintText(painter, frame, shown);
     paintFrame(painter, frame, shown);
     if (clipped) {
@@ -47,9 +61,24 @@ void TrackLabelPainter::paintGround(QPainter *painter, const TrackFrame &frame, 
     if (frame.look.backgroundVisible) {
         painter->fillRect(padded, frame.look.colors.labelBackground);
     }
-    if (shown.label->alertHeight > 0) {
-        const int height = shown.label->alertHeight + frame.look.shownPadding();
-        painter->fillRect(QRect(padded.topLeft(), QSize(padded.width(), height)), m_alertGround);
+    paintHeads(painter, frame, shown);
+}
+
+// The grounds of alert and emergency. Until they are acknowledged they come and go.
+void TrackLabelPainter::paintHeads(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown) const
+{
+    const QRect padded = frame.look.padded(shown.labelRect);
+    const std::vector<TrackLabelLayout::Line> &lines = shown.label->lines;
+    int top = padded.top();
+    for (std::size_t i = 0; i < lines.size() && isHead(lines[i].kind); ++i) { // heads stand above all else
+        const bool last = i + 1 == lines.size();
+        const int bottom = last ? padded.bottom() + 1 : shown.labelRect.top() + qRound(lines[i + 1].y);
+        const bool alert = lines[i].kind == TrackLabelLayout::Kind::Alert;
+        if (!shown.blinkedOff && (alert || shown.asking)) {
+            const QRect head(padded.left(), top, padded.width(), bottom - top);
+            painter->fillRect(head, alert ? m_alertGround : m_cautionGround);
+        }
+        top = bottom;
     }
 }
 
@@ -57,10 +86,10 @@ const QPen &TrackLabelPainter::penFor(TrackLabelLayout::Kind kind, const ShownTr
 {
     using Kind = TrackLabelLayout::Kind;
     if (kind == Kind::Alert) {
-        return m_alertTextPen;
+        return m_compact && !shown.blinkedOff ? m_filledHeadPen : m_alertPen;
     }
     if (kind == Kind::Caution) {
-        return m_cautionPen;
+        return m_compact && shown.asking && !shown.blinkedOff ? m_filledHeadPen : m_cautionPen;
     }
     if (shown.selected) {
         return m_selectedPen;
@@ -102,7 +131,7 @@ void TrackLabelPainter::paintFrame(QPainter *painter, const TrackFrame &frame, c
         painter->drawRect(outline);
     }
     if (shown.label->alertHeight > 0) {
-        painter->setPen(m_alertFramePen);
+        painter->setPen(m_alertPen);
         painter->drawRect(outline);
         painter->drawRect(outline.adjusted(-1, -1, 1, 1));
     }

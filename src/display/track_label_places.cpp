@@ -74,7 +74,7 @@ QPoint vectorTip(const TrackFrame &frame, const TrackSnapshot &track)
     }
     const QPointF unit = look.vectorTimeMode ? motionOf(frame.view, track) * 60.0
                                              : ahead(frame.view, track, wgs84::MetresPerNauticalMile);
-    return (unit * look.vectorRange).toPoint();
+    return (unit * look.vectorRangeOf(track.incarnationId == frame.selectedTrack)).toPoint();
 }
 
 LabelPlacer::Priority priorityOf(const ShownTrack &shown, bool hovered)
@@ -89,7 +89,7 @@ LabelPlacer::Priority priorityOf(const ShownTrack &shown, bool hovered)
     if (hovered) {
         return Priority::Hovered;
     }
-    return shown.track->emergency != Track::NoEmergency ? Priority::Emergency : Priority::Normal;
+    return shown.inDistress ? Priority::Emergency : Priority::Normal;
 }
 
 void show(ShownTrack &shown, const QPoint &corner, int lines)

@@ -40,6 +40,8 @@ struct TrackLook {
     // How many labels on top of each other let nothing through that an eye could see; 0: however many do not.
     int coveringLabels() const;
     bool isCompact() const { return layout == Config::TrackLabelLayout::Compact; }
+    // Of a track's vector, as vectorRange: the selected track's is longer in the compact layout.
+    int vectorRangeOf(bool selected) const { return isCompact() && selected ? 3 * vectorRange : vectorRange; }
 
     TrackColors colors;
     Config::TrackLabelLayout layout = Config::TrackLabelLayout::Standard;

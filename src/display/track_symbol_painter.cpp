@@ -13,6 +13,13 @@ Track::Type seenBy(const TrackSnapshot &track)
     return system ? track.detectedBy : track.type;
 }
 
+// The corners that are left of a track that nothing sees any more, in the layout that tells so by the symbol.
+TrackSymbols::Symbol symbolOf(const TrackFrame &frame, const TrackSnapshot &track)
+{
+    const bool coasting = frame.look.isCompact() && track.coasting;
+    return coasting ? TrackSymbols::Coasting : TrackSymbols::forTrackType(seenBy(track));
+}
+
 } // namespace
 
 void TrackSymbolPainter::prepare(QPainter *painter, const TrackFrame &frame)
@@ -29,7 +36,7 @@ void TrackSymbolPainter::paint(QPainter *painter, const TrackFrame &frame, const
     const double ratio = frame.view.devicePixelRatio();
     const QColor &color = frame.color(shown);
     const bool byTarget = frame.look.targetTypeSymbol && track.headingValid;
-    const TrackSymbols::Symbol kind = byTarget ? TrackSymbols::Aircraft : TrackSymbols::forTrackType(seenBy(track));
+    const TrackSymbols::Symbol kind = byTarget ? TrackSymbols::Aircraft : symbolOf(frame, track);
     const QPixmap &symbol = byTarget ? m_symbols.aircraft(track.heading + frame.view.rotation(), color, ratio)
                                      : m_symbols.pixmap(kind, color, ratio);
     m_painted.set(kind);

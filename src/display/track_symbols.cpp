@@ -23,8 +23,8 @@ constexpr double CasingWidth = 1.5; // pixels on each side of a line
 
 TrackSymbols::TrackSymbols(int size, const QColor &casing) : m_size(size), m_casing(casing)
 {
-    static constexpr const char *Names[Count] = {
-        "unknown", "psr", "ssr", "psr-ssr", "modes", "psr-modes", "adsb", "mlat", "smr", "aircraft", "vehicle"};
+    static constexpr const char *Names[Count] = {"unknown", "psr", "ssr", "psr-ssr", "modes", "psr-modes", "adsb",
+        "mlat", "smr", "aircraft", "vehicle", "coasting"};
     loadSymbolResources();
     m_symbols.reserve(Count);
     for (const char *name : Names) {
@@ -48,7 +48,8 @@ QString TrackSymbols::meaning(Symbol symbol)
         QT_TRANSLATE_NOOP("TrackSymbols", "PSR + SSR"), QT_TRANSLATE_NOOP("TrackSymbols", "Mode S"),
         QT_TRANSLATE_NOOP("TrackSymbols", "PSR + Mode S"), QT_TRANSLATE_NOOP("TrackSymbols", "ADS-B"),
         QT_TRANSLATE_NOOP("TrackSymbols", "MLAT"), QT_TRANSLATE_NOOP("TrackSymbols", "SMR"),
-        QT_TRANSLATE_NOOP("TrackSymbols", "Aircraft"), QT_TRANSLATE_NOOP("TrackSymbols", "Vehicle")};
+        QT_TRANSLATE_NOOP("TrackSymbols", "Aircraft"), QT_TRANSLATE_NOOP("TrackSymbols", "Vehicle"),
+        QT_TRANSLATE_NOOP("TrackSymbols", "Coasting")};
     return QCoreApplication::translate("TrackSymbols", Meanings[symbol]);
 }
 

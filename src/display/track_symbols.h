@@ -13,7 +13,21 @@
 // whatever lies under them.
 class TrackSymbols {
 public:
-    enum Symbol : int { Unknown, Psr, Ssr, PsrSsr, ModeS, PsrModeS, Adsb, Mlat, Smr, Aircraft, Vehicle, Count };
+    enum Symbol : int {
+        Unknown,
+        Psr,
+        Ssr,
+        PsrSsr,
+        ModeS,
+        PsrModeS,
+        Adsb,
+        Mlat,
+        Smr,
+        Aircraft,
+        Vehicle,
+        Coasting,
+        Count
+    };
 
     // Logical pixels by which a pixmap is larger on each side than the symbol.
     static constexpr int Margin = 3;

@@ -42,7 +42,8 @@ void TrackVectorPainter::paint(QPainter *painter, const TrackFrame &frame, const
 {
     const TrackLook &look = frame.look;
     const double unit = look.vectorVisible && shown.track->headingValid ? unitPixels(frame, *shown.track) : 0.0;
-    const double length = unit * look.vectorRange;
+    const int range = look.vectorRangeOf(shown.selected);
+    const double length = unit * range;
     if (length < 1.0) {
         return;
     }
@@ -52,7 +53,7 @@ void TrackVectorPainter::paint(QPainter *painter, const TrackFrame &frame, const
     // In a small symbol the beginning of the line would look like a part of it.
     const double begin = look.isCompact() ? std::min(look.symbolSize / 2.0, length) : 0.0;
     m_lines.emplace_back(shown.place + ahead * begin, shown.place + ahead * length);
-    for (int i = 1; i < look.vectorRange && look.vectorTicksVisible; ++i) {
+    for (int i = 1; i < range && look.vectorTicksVisible; ++i) {
         const QPointF tick = shown.place + ahead * (i * unit);
         m_lines.emplace_back(tick - across * TickReach, tick + across * TickReach);
     }

@@ -16,6 +16,7 @@ class TestTrackLabelLines : public QObject {
 private Q_SLOTS:
     void line_data();
     void line();
+    void coastingTracksCountTheirSilence();
     void compact_data();
     void compact();
 };
@@ -180,6 +181,22 @@ void TestTrackLabelLines::compact()
         }
     }
     QTEST(lines, "lines");
+}
+
+void TestTrackLabelLines::coastingTracksCountTheirSilence()
+{
+    TrackSnapshot track;
+    track.callsign = QStringLiteral("KVN72");
+    track.callsignValid = true;
+    track.lastUpdate = QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC);
+    const auto who = [&track](int milliseconds) {
+        const QDateTime time = track.lastUpdate.addMSecs(milliseconds);
+        return compactLabelLines(track, {}, time).text[TrackLabelLines::Callsign];
+    };
+    QCOMPARE(who(12900), QStringLiteral("KVN72")); // not of those that are seen
+    track.coasting = true;
+    QCOMPARE(who(12900), QString::fromUtf8("KVN72➘12s"));
+    QCOMPARE(who(-200), QString::fromUtf8("KVN72➘0s")); // the clocks of report and picture are two
 }
 
 VYX_TEST(TestTrackLabelLines)

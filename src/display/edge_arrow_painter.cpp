@@ -1,0 +1,108 @@
+#include "display/edge_arrow_painter.h"
+
+#include "display/track_frame.h"
+#include "display/track_label_lines.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPolygonF>
+#include <QSet>
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double Inset = 6.0; // pixels from the edge to an arrow's point
+constexpr double ArrowLength = 13.0;
+constexpr double ArrowHalfWidth = 7.0;
+constexpr double ArrowTextGap = 4.0;
+
+// Where the way from the middle of the rectangle to a point outside leaves it.
+QPointF exitPoint(const QRectF &rect, const QPointF &outside)
+{
+    const QPointF away = outside - rect.center();
+    const double across = rect.width() / 2.0 / std::max(std::abs(away.x()), 1e-9);
+    const double along = rect.height() / 2.0 / std::max(std::abs(away.y()), 1e-9);
+    return rect.center() + away * std::min(across, along);
+}
+
+QPolygonF arrow(const QPointF &point, double angle)
+{
+    const QPointF ahead(std::cos(angle), std::sin(angle));
+    const QPointF across(-ahead.y(), ahead.x());
+    const QPointF foot = point - ahead * ArrowLength;
+    return QPolygonF({point, foot + across * ArrowHalfWidth, foot - across * ArrowHalfWidth});
+}
+
+// Inwards of the arrow, whole within the view.
+QRectF textPlace(const QRectF &view, const QRectF &arrow, const QSizeF &size)
+{
+    QRectF place(QPointF(), size);
+    place.moveCenter(arrow.center());
+    if (std::abs(arrow.center().x() - view.center().x()) / view.width()
+        > std::abs(arrow.center().y() - view.center().y()) / view.height()) {
+        const bool left = arrow.center().x() < view.center().x();
+        left ? place.moveLeft(arrow.right() + ArrowTextGap) : place.moveRight(arrow.left() - ArrowTextGap);
+    } else {
+        const bool above = arrow.center().y() < view.center().y();
+        above ? place.moveTop(arrow.bottom() + ArrowTextGap) : place.moveBottom(arrow.top() - ArrowTextGap);
+    }
+    place.moveLeft(std::clamp(place.left(), view.left(), std::max(view.left(), view.right() - size.width())));
+    place.moveTop(std::clamp(place.top(), view.top(), std::max(view.top(), view.bottom() - size.height())));
+    place.moveTopLeft(place.topLeft().toPoint());
+    return place;
+}
+
+} // namespace
+
+void EdgeArrowPainter::paint(QPainter *painter, const TrackFrame &frame, const AlertBoard &board, const Tracks &tracks)
+{
+    m_texts.clear();
+    if (!frame.look.fields.alertIndicator) {
+        return;
+    }
+    const QRectF view = frame.view.screenRect();
+    QSet<quint64> shown;
+    for (const AlertBoard::Entry &entry : board.entries()) {
+        for (const quint64 id : {entry.track1, entry.track2}) {
+            const TrackSnapshot *track = tracks.value(id);
+            const auto attention = board.attention(id);
+            if (!track || !track->carCoordinateValid || attention == AlertBoard::Attention::None || shown.contains(id)
+                || view.contains(frame.view.toScreen(track->carCoordinate))) {
+                continue;
+            }
+            shown.insert(id);
+            paintArrow(painter, frame, *track, attention != AlertBoard::Attention::Asked || frame.blinkOn);
+        }
+    }
+}
+
+void EdgeArrowPainter::paintArrow(QPainter *painter, const TrackFrame &frame, const TrackSnapshot &track, bool filled)
+{
+    const QRectF view = QRectF(frame.view.screenRect()).adjusted(Inset, Inset, -Inset, -Inset);
+    const QPointF place = frame.view.toScreen(track.carCoordinate);
+    const QPointF point = exitPoint(view, place);
+    const QPointF away = place - view.center();
+    const QPolygonF shape = arrow(point, std::atan2(away.y(), away.x()));
+    const QColor &color = track.alertsString.isEmpty() ? frame.look.colors.caution : frame.look.colors.labelAlert;
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(color, 1.5));
+    painter->setBrush(filled ? QBrush(color) : QBrush(frame.look.colors.labelBackground));
+    painter->drawPolygon(shape);
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    painter->setBrush(Qt::NoBrush);
+
+    const QString words = (track.alertsString + ' ' + trackMarks(track)).simplified() + ' ' + trackName(track);
+    const QFontMetricsF metrics(frame.look.labelFont);
+    const QSizeF size(metrics.horizontalAdvance(words) + 2.0 * ArrowTextGap, metrics.height());
+    const QRectF text = textPlace(view, shape.boundingRect(), size);
+    if (std::any_of(m_texts.begin(), m_texts.end(), [&text](const QRectF &other) { return other.intersects(text); })) {
+        return;
+    }
+    m_texts.push_back(text);
+    painter->setFont(frame.look.labelFont);
+    painter->fillRect(text, frame.look.colors.labelBackground);
+    painter->drawText(text, int(Qt::AlignCenter | Qt::TextDontClip), words);
+}
