@@ -11,15 +11,15 @@ bool isDark(const QPalette &palette)
 
 QColor quietTextColor(const QPalette &palette)
 {
-    return isDark(palette) ? QColor(0xAC, 0xB2, 0xB8) : QColor(0x68, 0x68, 0x68);
+    return isDark(palette) ? QColor(0xAF, 0xB6, 0xBC) : QColor(0x68, 0x68, 0x68);
 }
 
 QColor warningTextColor(const QPalette &palette)
 {
-    return isDark(palette) ? QColor(0xE0, 0xA8, 0x30) : QColor(0x8A, 0x5A, 0x00);
+    return isDark(palette) ? QColor(0xE6, 0xB0, 0x40) : QColor(0x8A, 0x5A, 0x00);
 }
 
 QColor alarmTextColor(const QPalette &palette)
 {
-    return isDark(palette) ? QColor(0xFF, 0x80, 0x80) : QColor(0xB0, 0x00, 0x20);
+    return isDark(palette) ? QColor(0xFF, 0x9A, 0x98) : QColor(0xB0, 0x00, 0x20);
 }
