@@ -10,7 +10,7 @@
   </meta>
   <style>
     <class name="land">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#A9B8C4</color>
         <line>solid</line>
@@ -42,7 +42,7 @@
       </font>
     </class>
     <class name="border">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#B3C0CA</color>
         <line>dashdot</line>
@@ -170,7 +170,7 @@
       </font>
     </class>
     <class name="route">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#BCC9D2</color>
         <line>solid</line>
@@ -186,7 +186,7 @@
       </font>
     </class>
     <class name="approach">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#8CA2B2</color>
         <line>solid</line>
@@ -202,7 +202,7 @@
       </font>
     </class>
     <class name="runway">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#8A99A5</color>
         <line>solid</line>
@@ -218,7 +218,7 @@
       </font>
     </class>
     <class name="taxiway">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#B9C4CC</color>
         <line>solid</line>
@@ -234,7 +234,7 @@
       </font>
     </class>
     <class name="apron">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#BFC9D0</color>
         <line>solid</line>
@@ -250,7 +250,7 @@
       </font>
     </class>
     <class name="road">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#B3C0CA</color>
         <line>dash</line>
@@ -266,7 +266,7 @@
       </font>
     </class>
     <class name="marking">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#8695A1</color>
         <line>dash</line>
@@ -298,7 +298,7 @@
       </font>
     </class>
     <class name="stand">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#A3B0BB</color>
         <line>solid</line>
@@ -314,7 +314,7 @@
       </font>
     </class>
     <class name="building">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#A2AFBA</color>
         <line>solid</line>
@@ -330,7 +330,7 @@
       </font>
     </class>
     <class name="airport">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#8696A2</color>
         <line>solid</line>
@@ -346,7 +346,7 @@
       </font>
     </class>
     <class name="navaid">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#8696A2</color>
         <line>solid</line>
@@ -362,7 +362,7 @@
       </font>
     </class>
     <class name="fix">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#8696A2</color>
         <line>solid</line>
@@ -394,7 +394,7 @@
       </font>
     </class>
     <class name="nil">
-      <color>#667A88</color>
+      <color>#607482</color>
       <pen>
         <color>#8696A2</color>
         <line>solid</line>
