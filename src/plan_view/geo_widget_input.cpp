@@ -1,6 +1,6 @@
 #include "display/geo_map_display.h"
-#include "display/geo_range_ring_map.h"
 #include "display/geo_track_display.h"
+#include "orientation/geo_range_ring_map.h"
 #include "plan_view/geo_widget.h"
 
 #include <QApplication>

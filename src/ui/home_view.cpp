@@ -3,9 +3,9 @@
 #include "app/config.h"
 #include "app/ui_state.h"
 #include "display/geo_map_display.h"
-#include "display/geo_range_ring_map.h"
 #include "geo/projector.h"
 #include "geo/wgs84.h"
+#include "orientation/geo_range_ring_map.h"
 #include "plan_view/geo_widget.h"
 #include "ui/view_state.h"
 

@@ -1,17 +1,16 @@
 #include "ui/main_window.h"
 
-#include "airdb/lib_air_db.h"
 #include "app/app_log.h"
 #include "app/app_paths.h"
 #include "app/log_gate.h"
 #include "app/map_places.h"
 #include "asterix/asterix.h"
 #include "display/geo_map_display.h"
-#include "display/geo_map_key.h"
-#include "display/geo_sensor_map.h"
 #include "display/geo_track_display.h"
 #include "engine/data_engine.h"
 #include "lists/list_panes.h"
+#include "orientation/geo_map_key.h"
+#include "orientation/geo_sensor_map.h"
 #include "plan_view/geo_widget.h"
 #include "radar_painting/geo_video_map.h"
 #include "radar_painting/geo_weather_map.h"
@@ -482,22 +481,4 @@ void MainWindow::editConfig(const std::function<void(Config &)> &change)
     const Config before = m_config.live();
     m_config.edit(change);
     applyConfig(Config::changedGroups(before, m_config.live()));
-}
-
-void MainWindow::loadSensorDatabase()
-{
-    const QString file = AppPaths::resolvePath(m_config.live().sensorDatabase);
-    if (!file.isEmpty() && !m_sensors->loadFromJsonFile(QFileInfo(file))) {
-        showLog(LogLevel::Warning, tr("Cannot read the sensor file %1").arg(file));
-    }
-}
-
-void MainWindow::loadAircraftDatabase()
-{
-    const QFileInfo file(AppPaths::exeDir() + "/../share/korvane_airdb/airdb.dat");
-    korvane::airdb::LibAirDB database;
-    if (!database.loadFromDataFile(file)) {
-        showLog(LogLevel::Warning, tr("Cannot load the aircraft database: %1").arg(database.lastError()));
-    }
-    m_lists->setAddresses(database.getICAOAddrDict());
 }

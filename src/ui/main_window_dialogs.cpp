@@ -2,10 +2,10 @@
 
 #include "app/app_paths.h"
 #include "display/geo_map_display.h"
-#include "display/geo_range_ring_map.h"
 #include "help/about_window.h"
 #include "help/changelog_window.h"
 #include "help/cheat_sheet_window.h"
+#include "orientation/geo_range_ring_map.h"
 #include "plan_view/geo_widget.h"
 #include "sensors/sensor_manager.h"
 #include "settings/config_window.h"

@@ -1,9 +1,12 @@
 // From the first frame to the last: window state, and the shutdown in step with the engine.
 
+#include "airdb/lib_air_db.h"
+#include "app/app_paths.h"
 #include "app/ui_state.h"
 #include "engine/data_engine.h"
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
+#include "sensors/sensor_manager.h"
 #include "ui/actions.h"
 #include "ui/home_view.h"
 #include "ui/input_session.h"
@@ -177,4 +180,22 @@ void MainWindow::changeEvent(QEvent *event)
         (*m_actions)[ActionId::FullScreen]->setChecked(isFullScreen());
     }
     QMainWindow::changeEvent(event);
+}
+
+void MainWindow::loadSensorDatabase()
+{
+    const QString file = AppPaths::resolvePath(m_config.live().sensorDatabase);
+    if (!file.isEmpty() && !m_sensors->loadFromJsonFile(QFileInfo(file))) {
+        showLog(LogLevel::Warning, tr("Cannot read the sensor file %1").arg(file));
+    }
+}
+
+void MainWindow::loadAircraftDatabase()
+{
+    const QFileInfo file(AppPaths::exeDir() + "/../share/korvane_airdb/airdb.dat");
+    korvane::airdb::LibAirDB database;
+    if (!database.loadFromDataFile(file)) {
+        showLog(LogLevel::Warning, tr("Cannot load the aircraft database: %1").arg(database.lastError()));
+    }
+    m_lists->setAddresses(database.getICAOAddrDict());
 }

@@ -1,7 +1,7 @@
 #include "display/geo_map_display.h"
-#include "display/geo_range_ring_map.h"
 #include "display/geo_track_display.h"
 #include "geo/mercator_projector.h"
+#include "orientation/geo_range_ring_map.h"
 #include "plan_view/geo_pointer_tool.h"
 #include "plan_view/geo_widget.h"
 #include "test_program.h"

@@ -1,4 +1,4 @@
-#include "display/geo_north_arrow.h"
+#include "orientation/geo_north_arrow.h"
 
 #include "app/config.h"
 #include "view/geo_view.h"

@@ -1,4 +1,4 @@
-#include "display/geo_scale_bar.h"
+#include "orientation/geo_scale_bar.h"
 
 #include "app/config.h"
 #include "geo/projector.h"

@@ -1,9 +1,9 @@
-#include "display/geo_sensor_map.h"
+#include "orientation/geo_sensor_map.h"
 
 #include "app/config.h"
-#include "display/ground_circle.h"
 #include "geo/projector.h"
 #include "geo/wgs84.h"
+#include "orientation/ground_circle.h"
 #include "sensors/sensor_info.h"
 #include "view/geo_view.h"
 #include "view/map_text.h"

@@ -1,4 +1,4 @@
-#include "display/ring_labels.h"
+#include "orientation/ring_labels.h"
 
 #include "view/geo_view.h"
 #include "view/map_text.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "display/ring_labels.h"
+#include "orientation/ring_labels.h"
 #include "view/geo_layer.h"
 
 #include <QColor>

@@ -1,4 +1,4 @@
-#include "display/antenna_sweep.h"
+#include "orientation/antenna_sweep.h"
 
 #include <cmath>
 

@@ -1,8 +1,8 @@
-#include "display/geo_compass_rose.h"
+#include "orientation/geo_compass_rose.h"
 
 #include "app/config.h"
-#include "display/geo_range_ring_map.h"
 #include "geo/projector.h"
+#include "orientation/geo_range_ring_map.h"
 #include "view/geo_view.h"
 #include "view/map_text.h"
 #include "view/text_room.h"

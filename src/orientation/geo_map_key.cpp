@@ -1,4 +1,4 @@
-#include "display/geo_map_key.h"
+#include "orientation/geo_map_key.h"
 
 #include "app/config.h"
 #include "radar_painting/geo_weather_map.h"

@@ -1,9 +1,9 @@
-#include "display/geo_range_ring_map.h"
+#include "orientation/geo_range_ring_map.h"
 
 #include "app/config.h"
-#include "display/ground_circle.h"
 #include "geo/projector.h"
 #include "geo/wgs84.h"
+#include "orientation/ground_circle.h"
 #include "view/geo_view.h"
 
 #include <QPainter>

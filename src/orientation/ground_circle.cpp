@@ -1,4 +1,4 @@
-#include "display/ground_circle.h"
+#include "orientation/ground_circle.h"
 
 #include "geo/projector.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "display/antenna_sweep.h"
-#include "display/ring_labels.h"
 #include "geo/geo_coordinate.h"
+#include "orientation/antenna_sweep.h"
+#include "orientation/ring_labels.h"
 #include "view/geo_layer.h"
 
 #include <QColor>
