@@ -67,6 +67,7 @@ GeoStaticMap::~GeoStaticMap()
 void GeoStaticMap::applyConfig(const Config &config)
 {
     m_smoothImages = config.mapSmoothPixmapTransform;
+    m_ground = config.mapBackgroundColor;
     setSymbolSize(config.mapStaticSymbolSize);
     forgetPainted();
     setVisible(config.mapStaticVisible);
@@ -222,6 +223,7 @@ void GeoStaticMap::paintPart(const GeoView &view, const QRect &part, const std::
     frame.metresPerPixel = view.metresPerPixel();
     frame.devicePixelRatio = view.devicePixelRatio();
     frame.symbolSize = m_symbolSize;
+    frame.ground = m_ground;
     frame.smoothImages = m_smoothImages;
     frame.crowded = m_crowded;
     frame.labels = &m_labels;

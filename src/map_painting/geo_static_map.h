@@ -35,7 +35,7 @@ public:
 
     void paint(QPainter &painter, const GeoView &view) override;
     void applyConfig(const Config &config) override;
-    SettingGroups settings() const override { return SettingGroup::StaticMaps; }
+    SettingGroups settings() const override { return SettingGroup::StaticMaps | SettingGroup::PlanView; }
 
     // True while maps are being prepared in the background; polluted() follows each.
     bool preparing() const;
@@ -86,6 +86,7 @@ private:
     MapStyleSheet m_styles;
     int m_symbolSize = 0;
     bool m_smoothImages = false;
+    QColor m_ground;
 
     std::array<std::unique_ptr<StaticMapPainter>, 5> m_painters; // in drawing order
     bool m_regionValid = false;

@@ -3,6 +3,7 @@
 #include "map_painting/static_map_geometry.h"
 #include "view/plane_box.h"
 
+#include <QColor>
 #include <QPointF>
 #include <QTransform>
 
@@ -26,6 +27,7 @@ struct StaticMapFrame {
     double devicePixelRatio = 1.0;
     int copy = 0; // worlds to the east of the plane's own
     int symbolSize = 32; // pixels
+    QColor ground; // under the maps
     bool smoothImages = false;
     bool crowded = false; // so many lines that they are drawn in the quickest way
     const StaticMapLabelLayout *labels = nullptr;

@@ -12,10 +12,10 @@ namespace {
 
 constexpr qsizetype MostOctets = 16 * 1024 * 1024;
 
-QImage draw(const StaticMapLabelLayout::Placed &placed, const MapStyleClass &style, double ratio)
+QImage draw(const StaticMapLabelLayout::Placed &placed, const MapStyleClass &style, const StaticMapFrame &frame)
 {
-    QImage image((placed.size * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(ratio);
+    QImage image((placed.size * frame.devicePixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(frame.devicePixelRatio);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setFont(style.font);
@@ -23,7 +23,7 @@ QImage draw(const StaticMapLabelLayout::Placed &placed, const MapStyleClass &sty
     const double lineHeight = placed.size.height() / double(lines.size());
     QPointF center(placed.size.width() / 2.0, lineHeight / 2.0);
     for (const QString &line : lines) {
-        drawMapText(painter, center, line, style.color);
+        drawMapText(painter, center, line, style.color, frame.ground);
         center += QPointF(0.0, lineHeight);
     }
     return image;
@@ -51,7 +51,7 @@ void StaticMapLabelPainter::paint(
             painter.drawImage(corner, *drawing);
             continue;
         }
-        const QImage fresh = draw(placed, style, m_ratio);
+        const QImage fresh = draw(placed, style, frame);
         painter.drawImage(corner, fresh);
         m_drawings.insert(placed.label, new QImage(fresh), fresh.sizeInBytes());
     }

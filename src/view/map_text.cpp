@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int PointSize = 9;
-constexpr double LegibleContrast = 3.0;
+constexpr double LegibleContrast = 2.5;
 constexpr double HaloWidth = 1.0; // pixels
 
 void drawOnHalo(QPainter &painter, const QPointF &center, const QString &text, const QColor &color, const QColor &halo)

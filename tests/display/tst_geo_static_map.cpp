@@ -39,6 +39,7 @@ private Q_SLOTS:
     void labelsGiveWay_data();
     void labelsGiveWay();
     void textsStayUpright();
+    void textsHaveARimOfTheGround();
     void takesTheConfiguration();
 };
 
@@ -255,6 +256,27 @@ void TestGeoStaticMap::textsStayUpright()
     const QRect north = painted(maps, styles, 500.0, GeoCoordinate(0.0, 0.0)).extent(Green);
     QVERIFY(north.height() > QFontMetrics(QFont()).height());
     QCOMPARE(painted(maps, styles, 500.0, GeoCoordinate(0.0, 0.0), 90.0).extent(Green), north);
+}
+
+// The same text over a bright ground and over a dark one: its rim must not set it off from the ground.
+void TestGeoStaticMap::textsHaveARimOfTheGround()
+{
+    const QColor text(0x68, 0x7C, 0x8B);
+    GeoStaticMap layer(&projector);
+    layer.setStyleSheet(sheet({styleOf(text)}));
+    layer.setMaps({mapOf({labelGroup({{{}, QStringLiteral("HHHH"), {0.0, 0.0}}})})});
+    for (const QColor ground : {QColor(0xD3, 0xE0, 0xEA), QColor(0x0B, 0x11, 0x18)}) {
+        Config config;
+        config.mapBackgroundColor = ground;
+        layer.applyConfig(config);
+        const PaintedView view = painted(layer, 500.0, {});
+        int brighter = 0;
+        for (int i = 0; i < 100 * 100; ++i) {
+            brighter +=
+                view.at(PaintedView::Middle + QPoint(i % 100 - 50, i / 100 - 50)).lightness() > text.lightness() + 20;
+        }
+        QCOMPARE(brighter > 20, ground.lightness() > 128);
+    }
 }
 
 void TestGeoStaticMap::takesTheConfiguration()
