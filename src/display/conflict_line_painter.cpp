@@ -114,7 +114,9 @@ void ConflictLinePainter::paintText(
     const QRectF place =
         textPlace(whole, QSizeF(metrics.horizontalAdvance(words), metrics.height()), frame.look.symbolSize);
     painter->setFont(frame.look.labelFont);
-    painter->fillRect(place, frame.look.colors.labelBackground);
+    QColor ground = frame.look.colors.labelBackground;
+    ground.setAlpha(255); // it may stand on the text of a label
+    painter->fillRect(place, ground);
     painter->setPen(frame.look.colors.labelAlert);
     painter->drawText(place, int(Qt::AlignCenter | Qt::TextDontClip), words);
 }
