@@ -70,6 +70,9 @@ void TrackCommands::addTrackActions(QMenu *menu, unsigned long long track)
     follow->setCheckable(true);
     follow->setChecked(selected && m_plan->followsSelectedTrack());
     menu->addAction(tr("Centre"), this, [this, track] { m_plan->showTrack(track); });
+    QAction *reset =
+        menu->addAction(tr("Reset Label"), m_tracks, [this, track] { m_tracks->resetTrackLabelOffset(track); });
+    reset->setEnabled(!m_tracks->trackLabelOffsetDefault(track));
     menu->addSeparator();
 }
 

@@ -116,6 +116,10 @@ void TestTrackCommands::followingSaysWhomAndLetsGo()
     QVERIFY(chip->isVisible());
     QCOMPARE(chip->text(), "Following " + trackName(*m_tracks->findTrack(id)));
     QVERIFY(plan->rect().contains(chip->geometry()));
+    m_tracks->setTrackLabelOffset(id, 70, 80);
+    Q_EMIT plan->trackMenuRequested(id, plan->mapToGlobal(QPoint(5, 5)));
+    QVERIFY(choose("Reset Label"));
+    QVERIFY(m_tracks->trackLabelOffsetDefault(id));
     action(ActionId::FollowSelectedTrack)->setChecked(false);
     QVERIFY(!plan->followsSelectedTrack() && !chip->isVisible());
 }
