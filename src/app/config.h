@@ -200,7 +200,7 @@ public:
     bool mapSensorCoverageVisible = true;
     bool mapSensorRadarNorthMarkerVisible = true;
     bool mapSensorRadarAntennaLineVisible = true;
-    bool mapSensorNameVisible = false;
+    bool mapSensorNameVisible = true;
     bool mapSensorRadarNorthMarkerShort = false; // a tick at the rim of the coverage instead of a line from the site
     QColor mapSensorColor{0x00, 0x66, 0x33};
     QColor mapSensorRadarNorthMarkerColor{Qt::red};
@@ -209,7 +209,7 @@ public:
     QColor mapRangeRingColor{0x39, 0x3F, 0x42};
     int mapRangeRingNumber = 5;
     double mapRangeRingDistance = 50.0;
-    bool mapRangeRingLabelVisible = false; // the distance, on four bearings
+    bool mapRangeRingLabelVisible = true; // the distance, on four bearings
     QColor mapRangeRingLabelColor{0x39, 0x3F, 0x42}; // also of compass rose, scale bar and key
     bool mapCompassRoseVisible = false;
     bool mapScaleBarVisible = false;

@@ -160,7 +160,7 @@ void MainWindow::makeFurniture()
     m_themes = new ThemeMenu(this, m_actions, &m_config, m_trackDisplay.get());
     m_readOuts = new StatusReadOuts(statusBar(), &m_host.shared().projector);
     m_statusLine = std::make_unique<StatusLine>(statusBar());
-    m_statsWindow = new StatsWindow(this);
+    m_windows.stats = new StatsWindow(this);
     makeResizeMenu();
     showCurrentZoom(m_geoWidget->currentZoom());
     showCurrentRotation(m_geoWidget->currentRotation());
@@ -233,7 +233,7 @@ void MainWindow::connectEngine()
     connect(engine, &DataEngine::alertStatusChanged, this, &MainWindow::updateAlertStatus);
     connect(engine, &DataEngine::antennaRotated, m_mapDisplay->sensorMap(), &GeoSensorMap::antennaRotated);
     connect(engine, &DataEngine::antennaNorthCrossed, m_mapDisplay->sensorMap(), &GeoSensorMap::antennaNorthCrossed);
-    connect(engine, &DataEngine::pipelineStats, m_statsWindow, &StatsWindow::setPipelineStats);
+    connect(engine, &DataEngine::pipelineStats, m_windows.stats, &StatsWindow::setPipelineStats);
     connect(m_trackDisplay.get(), &GeoTrackDisplay::shownTrailDotsChanged, &m_host, &EngineHost::setSnapshotTrailDots);
     m_host.setSnapshotTrailDots(m_trackDisplay->trailVisible() ? m_trackDisplay->trailDots() : 0);
 }
@@ -268,8 +268,8 @@ void MainWindow::connectDisplay()
     connect(m_geoWidget, &GeoWidget::zoomChanged, this, &MainWindow::showCurrentZoom);
     connect(m_geoWidget, &GeoWidget::rotationChanged, this, &MainWindow::showCurrentRotation);
     connect(m_geoWidget, &GeoWidget::paintStats, this, [this](const PaintStats &stats) {
-        m_statsWindow->setPaintStats(stats);
-        m_statsWindow->setLayerTimes(m_mapDisplay->layerTimes());
+        m_windows.stats->setPaintStats(stats);
+        m_windows.stats->setLayerTimes(m_mapDisplay->layerTimes());
     });
     connect(m_geoWidget, &GeoWidget::rangeRingsCenterSet, this, [this] {
         m_home->noteRingsPlaced();
@@ -280,7 +280,7 @@ void MainWindow::connectDisplay()
             tr("Radar video of SAC %1, SIC %2 is not shown: no sensor has this identification.").arg(sac).arg(sic));
     });
     connect(m_pump.get(), &SnapshotPump::alertStatusChanged, this, &MainWindow::updateAlertStatus);
-    connect(m_pump.get(), &SnapshotPump::dropStats, m_statsWindow, &StatsWindow::setDropStats);
+    connect(m_pump.get(), &SnapshotPump::dropStats, m_windows.stats, &StatsWindow::setDropStats);
     connect(m_pump.get(), &SnapshotPump::dropStats, this, &MainWindow::dropStats);
 }
 
@@ -426,11 +426,11 @@ void MainWindow::applyConfig(SettingGroups changed)
         (*m_actions)[id]->setChecked(config.*visible);
     }
     m_plotSwitch->setWanted(config.mapPlotVisible);
-    if (changed & SettingGroup::Weather && m_weatherIntensityWindow) {
-        m_weatherIntensityWindow->refresh();
+    if (changed & SettingGroup::Weather && m_windows.weatherIntensity) {
+        m_windows.weatherIntensity->refresh();
     }
-    if (changed & SettingGroup::PlanView && m_trackLabelFormatWindow) {
-        m_trackLabelFormatWindow->setGround(config.mapBackgroundColor);
+    if (changed & SettingGroup::PlanView && m_windows.trackLabelFormat) {
+        m_windows.trackLabelFormat->setGround(config.mapBackgroundColor);
     }
     if (changed & SettingGroup::StaticMaps) {
         m_mapWindows->reload(config);

@@ -251,10 +251,12 @@ private:
     std::unique_ptr<StatusLine> m_statusLine;
     LogPane *m_logPane = nullptr;
     QDockWidget *m_messagesDock = nullptr;
-    StatsWindow *m_statsWindow = nullptr;
-    QPointer<RangeRingWindow> m_rangeRingWindow;
-    QPointer<WeatherIntensityWindow> m_weatherIntensityWindow;
-    QPointer<TrackLabelFormatWindow> m_trackLabelFormatWindow;
+    struct {
+        StatsWindow *stats = nullptr;
+        QPointer<RangeRingWindow> rangeRing;
+        QPointer<WeatherIntensityWindow> weatherIntensity;
+        QPointer<TrackLabelFormatWindow> trackLabelFormat;
+    } m_windows;
 
     // These work on all of the above, so they go before it.
     std::unique_ptr<InputSession> m_session;

@@ -115,14 +115,14 @@ void MainWindow::showSetCenterWindow()
 
 void MainWindow::showRangeRingWindow()
 {
-    if (!m_rangeRingWindow) {
-        m_rangeRingWindow = new RangeRingWindow(this);
-        m_rangeRingWindow->setAttribute(Qt::WA_DeleteOnClose);
-        connect(m_rangeRingWindow, &RangeRingWindow::ringsEntered, this, &MainWindow::setRangeRings);
+    if (!m_windows.rangeRing) {
+        m_windows.rangeRing = new RangeRingWindow(this);
+        m_windows.rangeRing->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_windows.rangeRing, &RangeRingWindow::ringsEntered, this, &MainWindow::setRangeRings);
     }
     const GeoRangeRingMap *rings = m_mapDisplay->rangeRingMap();
-    m_rangeRingWindow->setRings(m_home->ringCenter(), rings->number(), rings->distance());
-    bringUp(m_rangeRingWindow);
+    m_windows.rangeRing->setRings(m_home->ringCenter(), rings->number(), rings->distance());
+    bringUp(m_windows.rangeRing);
 }
 
 void MainWindow::setRangeRings(const GeoCoordinate &center, int number, double distanceNauticalMiles)
@@ -144,27 +144,27 @@ void MainWindow::showRangeRings()
 
 void MainWindow::showWeatherIntensityWindow()
 {
-    if (!m_weatherIntensityWindow) {
-        m_weatherIntensityWindow = new WeatherIntensityWindow(m_mapDisplay->weatherMap(), this);
-        m_weatherIntensityWindow->setAttribute(Qt::WA_DeleteOnClose);
+    if (!m_windows.weatherIntensity) {
+        m_windows.weatherIntensity = new WeatherIntensityWindow(m_mapDisplay->weatherMap(), this);
+        m_windows.weatherIntensity->setAttribute(Qt::WA_DeleteOnClose);
     }
-    bringUp(m_weatherIntensityWindow);
+    bringUp(m_windows.weatherIntensity);
 }
 
 void MainWindow::showTrackLabelFormatWindow()
 {
-    if (!m_trackLabelFormatWindow) {
-        m_trackLabelFormatWindow = new TrackLabelFormatWindow(m_trackDisplay.get(), this);
-        m_trackLabelFormatWindow->setAttribute(Qt::WA_DeleteOnClose);
+    if (!m_windows.trackLabelFormat) {
+        m_windows.trackLabelFormat = new TrackLabelFormatWindow(m_trackDisplay.get(), this);
+        m_windows.trackLabelFormat->setAttribute(Qt::WA_DeleteOnClose);
     }
-    m_trackLabelFormatWindow->setGround(m_config.live().mapBackgroundColor);
-    bringUp(m_trackLabelFormatWindow);
+    m_windows.trackLabelFormat->setGround(m_config.live().mapBackgroundColor);
+    bringUp(m_windows.trackLabelFormat);
 }
 
 void MainWindow::showStatsWindow()
 {
     m_pump->publishDropStats(); // otherwise only once a minute
-    bringUp(m_statsWindow);
+    bringUp(m_windows.stats);
 }
 
 void MainWindow::showCheatSheet()

@@ -49,8 +49,8 @@ mapSensorVisible=true mapSensorCoverageVisible=true mapSensorRadarNorthMarkerVis
 mapSensorRadarAntennaLineVisible=true mapSensorColor=#ff006633 mapSensorRadarNorthMarkerColor=#ffff0000
 mapSensorRadarAntennaLineColor=#ff006633
 mapRangeRingVisible=false mapRangeRingColor=#ff393f42 mapRangeRingNumber=5 mapRangeRingDistance=50
-mapSensorNameVisible=false mapSensorRadarNorthMarkerShort=false
-mapRangeRingLabelVisible=false mapRangeRingLabelColor=#ff393f42 mapCompassRoseVisible=false mapScaleBarVisible=false
+mapSensorNameVisible=true mapSensorRadarNorthMarkerShort=false
+mapRangeRingLabelVisible=true mapRangeRingLabelColor=#ff393f42 mapCompassRoseVisible=false mapScaleBarVisible=false
 mapKeyVisible=false mapPlotVisible=false mapPlotSeconds=0 mapPlotColor=#ff005a82
 trackLabelLayout=0 trackLabelAutoPlace=false trackSymbolCasingColor=#ff000000 trackLeaderColor=#ff008fcc
 trackCoastingColor=#ff008fcc trackCautionColor=#ffffb454 trackLabelDetailColor=#ffffffff
