@@ -31,8 +31,7 @@ struct PicturePlace {
 QJsonObject labelObject(const GeoTrackDisplay &tracks, const ShownTrack &shown, const PicturePlace &picture)
 {
     return {{"trackNumber", static_cast<qint64>(shown.track->trackNumber)},
-        {"rect", picture.rect(tracks.frame().look.padded(shown.labelRect))},
-        {"lines", static_cast<int>(shown.label->lines.size())},
+        {"rect", picture.rect(tracks.frame().look.padded(shown.labelRect))}, {"lines", shown.lines},
         {"pinned", !tracks.trackLabelOffsetDefault(shown.track->incarnationId)}};
 }
 

@@ -222,6 +222,7 @@ void TestRunEnds::reportSaysWhereTracksStandInThePicture()
     const QJsonArray rect = label["rect"].toArray();
     QCOMPARE(QRect(rect[0].toInt(), rect[1].toInt(), rect[2].toInt(), rect[3].toInt()), painted);
     QVERIFY(label["pinned"].toBool() && label["trackNumber"].toInt() == 42);
+    QCOMPARE(label["lines"].toInt(), 2);
     const int padding = scope->trackDisplay()->backgroundPadding();
     const QPoint symbol = painted.topLeft() + QPoint(padding - 60, padding + 60);
     QCOMPARE(root["symbols"][0]["place"].toArray(), QJsonArray({symbol.x(), symbol.y()}));
