@@ -2,6 +2,7 @@
 
 #include "recorded_picture.h"
 
+#include "display/alert_board.h"
 #include "display/label_field.h"
 #include "display/track_frame.h"
 #include "display/track_label_places.h"
@@ -58,10 +59,10 @@ public:
     void take(const QList<TrackSnapshot> &tracks)
     {
         m_frame.snapshot = QSharedPointer<DisplaySnapshot>::create(DisplaySnapshot{tracks, {}, {}});
-        m_frame.collect(0);
+        m_frame.collect(AlertBoard());
         m_labels.noteContentChange();
         for (const ShownTrack &shown : m_frame.tracks) {
-            m_labels.refresh(*shown.track, m_frame.look);
+            m_labels.refresh(*shown.track, m_frame.look, m_frame.snapshot->time);
         }
         for (ShownTrack &shown : m_frame.tracks) {
             shown.label = m_labels.find(shown.track->incarnationId);
