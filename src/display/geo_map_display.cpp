@@ -86,6 +86,18 @@ void GeoMapDisplay::placeTexts(const GeoView &view)
     }
 }
 
+QList<QRect> GeoMapDisplay::readOutPlaces() const
+{
+    QList<QRect> places;
+    for (const Entry &entry : m_layers) {
+        const QRect place = entry.layer->readOutPlace().toAlignedRect();
+        if (entry.layer->visible() && !place.isEmpty()) {
+            places.append(place);
+        }
+    }
+    return places;
+}
+
 QList<GeoMapDisplay::LayerTime> GeoMapDisplay::layerTimes() const
 {
     QList<LayerTime> times;

@@ -72,6 +72,8 @@ public:
 
     // What lies over the plan view, pixels: rings, rose and scale write nothing under it.
     void setCovered(const QList<QRect> &rects) { m_covered = rects; }
+    // Where the last frame has read-outs of its own, in pixels.
+    QList<QRect> readOutPlaces() const;
 
     // Hands the configuration to the layers that show settings of these groups.
     void applyConfig(const Config &config, SettingGroups changed = AllSettings);

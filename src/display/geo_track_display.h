@@ -78,6 +78,8 @@ public:
     // Gives up the place that the operator gave a label, or all of them.
     void resetTrackLabelOffset(unsigned long long id);
     void resetTrackLabelOffsets();
+    // Places, in pixels, that labels that arrange themselves leave to the map's read-outs.
+    void keepFree(const QList<QRect> &places) { m_places.keepFree(places); }
     // While the view is being dragged labels that arrange themselves keep to their tracks.
     void setViewHeld(bool held);
 

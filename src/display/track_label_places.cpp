@@ -141,9 +141,12 @@ void TrackLabelPlaces::arrange(TrackFrame &frame, unsigned long long hoveredTrac
     for (const ShownTrack &shown : frame.tracks) {
         m_labels.push_back(label(frame, shown, shown.track->incarnationId == hoveredTrack));
     }
+    for (qsizetype i = 0; i < m_keptFree.size(); ++i) {
+        m_labels.push_back(obstacle(~quint64(i), m_keptFree[i]));
+    }
     const std::vector<LabelPlacer::Placed> &placed = m_placer.place(scene(frame), m_labels);
     const QPoint padding = paddingCorner(frame.look);
-    for (std::size_t i = 0; i < placed.size(); ++i) {
+    for (std::size_t i = 0; i < frame.tracks.size(); ++i) {
         ShownTrack &shown = frame.tracks[i];
         if (!shown.label || placed[i].form == LabelPlacer::Form::Hidden) {
             shown.label = nullptr;
@@ -185,6 +188,19 @@ LabelPlacer::Label TrackLabelPlaces::label(const TrackFrame &frame, const ShownT
         label.pinned = true;
         label.pinnedOffset = QPoint(pinned->x(), -pinned->y()) - paddingCorner(frame.look);
     }
+    return label;
+}
+
+// A label that does not give way. No track has so high a key.
+LabelPlacer::Label TrackLabelPlaces::obstacle(quint64 id, const QRect &place)
+{
+    LabelPlacer::Label label;
+    label.id = id;
+    label.place = place.center();
+    label.whole = place.size();
+    label.shortened = place.size();
+    label.pinned = true;
+    label.pinnedOffset = place.topLeft() - place.center();
     return label;
 }
 

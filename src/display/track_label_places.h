@@ -30,6 +30,8 @@ public:
         m_pinned.removeIf([&gone](const auto &entry) { return gone(entry.key()); });
     }
 
+    // Places on the screen that arranged labels leave free.
+    void keepFree(const QList<QRect> &places) { m_keptFree = places; }
     // While the view is being dragged labels keep to their tracks.
     void setViewHeld(bool held) { m_viewHeld = held; }
 
@@ -43,12 +45,14 @@ public:
 private:
     void arrange(TrackFrame &frame, unsigned long long hoveredTrack);
     LabelPlacer::Label label(const TrackFrame &frame, const ShownTrack &shown, bool hovered) const;
+    static LabelPlacer::Label obstacle(quint64 id, const QRect &place);
     LabelPlacer::Scene scene(const TrackFrame &frame) const;
     void noteView(const TrackFrame &frame);
 
     QHash<unsigned long long, QPoint> m_pinned;
     LabelPlacer m_placer;
     std::vector<LabelPlacer::Label> m_labels; // kept for its memory
+    QList<QRect> m_keptFree;
     bool m_viewHeld = false;
     bool m_arranged = false; // at the last frame
     // Of the last frame: another zoom or size opens places that were taken.

@@ -29,6 +29,7 @@ public:
 
     void placeTexts(const GeoView &view, TextRoom &room) override;
     void paint(QPainter &painter, const GeoView &view) override;
+    QRectF readOutPlace() const override { return m_place; }
     void applyConfig(const Config &config) override;
     SettingGroups settings() const override;
 

@@ -18,6 +18,7 @@ public:
 
     void placeTexts(const GeoView &view, TextRoom &room) override;
     void paint(QPainter &painter, const GeoView &view) override;
+    QRectF readOutPlace() const override { return m_length > 0.0 ? m_place : QRectF(); }
     void applyConfig(const Config &config) override;
     SettingGroups settings() const override;
 

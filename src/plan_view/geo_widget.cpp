@@ -354,6 +354,9 @@ void GeoWidget::paintEvent(QPaintEvent *)
         m_mapDisplay->setCovered(coveredPlaces());
         m_mapDisplay->paint(painter, m_view);
     }
+    if (m_mapDisplay && m_trackDisplay) {
+        m_trackDisplay->keepFree(m_mapDisplay->readOutPlaces());
+    }
     const double mapMs = milliseconds(frameTimer);
     if (m_trackDisplay) {
         m_trackDisplay->paint(&painter, m_view);

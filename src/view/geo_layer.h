@@ -3,6 +3,7 @@
 #include "app/setting_group.h"
 
 #include <QObject>
+#include <QRectF>
 #include <QString>
 
 class Config;
@@ -30,6 +31,10 @@ public:
     // Called while visible, before any layer paints the frame and upper layers first: takes the places of the texts
     // that paint() is going to write.
     virtual void placeTexts(const GeoView &view, TextRoom &room);
+
+    // Where the layer has drawn a read-out, in pixels of the last frame: labels of tracks leave it free. Empty:
+    // nowhere.
+    virtual QRectF readOutPlace() const { return {}; }
 
     // Takes over the keys that concern the layer.
     virtual void applyConfig(const Config &config);

@@ -101,6 +101,18 @@ private Q_SLOTS:
         }
     }
 
+    void readOutsOfTheMapAreLeftFree()
+    {
+        Scope scope;
+        scope.show({aircraft(1, {0, 0})});
+        PaintedView view(1.0);
+        scope.paint(view);
+        const QRect usual = scope.rect(1);
+        scope.display.keepFree({usual});
+        scope.paint(view, 30);
+        QVERIFY(scope.rect(1).isValid() && !scope.rect(1).intersects(usual));
+    }
+
     void theOperatorsPlaceStaysUntilItIsReset()
     {
         Scope scope;
