@@ -8,7 +8,7 @@ namespace {
 
 // Pixels between symbol and label. At the middle of a crowd the nearest free place is far away.
 constexpr std::array RingGaps = {4, 11, 19, 28, 39, 52, 67, 85, 106, 131, 161, 196, 237, 286, 343, 411};
-constexpr float DistanceCost = 0.05f; // a pixel
+constexpr float DistanceCost = 0.4f; // a pixel
 constexpr float SideCost = 2.5f; // for the side opposite to the preferred one
 constexpr int StepsAcross = 8; // of the label along its own width
 constexpr int StepsDown = 4;
