@@ -89,31 +89,29 @@ void paintFrame(GeoTrackDisplay &display, QImage &image)
 }
 
 // The same snapshot again, as while the view is panned.
-void paintSameSnapshot(benchmark::State &state)
+void paintAgain(benchmark::State &state, GeoTrackDisplay &display, const QColor &ground)
 {
-    GeoTrackDisplay display;
-    showAllFields(display);
     display.setSnapshot(airPicture(int(state.range(0))));
     QImage image(Screen, QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(173, 173, 173));
+    image.fill(ground);
     paintFrame(display, image);
     for (auto _ : state) {
         paintFrame(display, image);
     }
 }
 
-// Every label is painted: none hides another.
+void paintSameSnapshot(benchmark::State &state)
+{
+    GeoTrackDisplay display;
+    showAllFields(display);
+    paintAgain(state, display, QColor(173, 173, 173));
+}
+
 void paintCompact(benchmark::State &state)
 {
     GeoTrackDisplay display;
     chooseCompact(display);
-    display.setSnapshot(airPicture(int(state.range(0))));
-    QImage image(Screen, QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(20, 28, 36));
-    paintFrame(display, image);
-    for (auto _ : state) {
-        paintFrame(display, image);
-    }
+    paintAgain(state, display, QColor(20, 28, 36));
 }
 
 // A new snapshot each frame in which one track in twenty was updated, as from an antenna of four seconds.
