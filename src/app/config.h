@@ -130,6 +130,12 @@ public:
     QString mapCustomTileHeader; // "Name: value", sent with each request; empty: none
     int mapCustomTileMaxLevel = 18;
     QString mapCustomTileFile; // an MBTiles file, which goes before the template
+    // Where a service is asked instead of at its own addresses, such as "https://proxy.example:8443"; empty: there.
+    QString mapBingTileServer;
+    QString mapOpenAipTileServer;
+    QString mapGoogleTileServer;
+    QString mapTiandituTileServer;
+    QString mapFaaTileServer;
     bool mapSmoothPixmapTransform = false;
     QColor mapBackgroundColor{173, 173, 173};
     bool mapTileService = true;

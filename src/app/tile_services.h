@@ -16,6 +16,7 @@ enum class TileService {
     Tianditu = 4,
     TiandituAnnotation = 5,
     Faa = 6,
+    Custom = 7, // the site's own: a template or a file of tiles
 };
 
 enum class BingTileImagery {
@@ -53,7 +54,7 @@ enum class FaaTileChart {
 namespace tile_texts {
 
 inline constexpr std::array Services{
-    "none", "bingmaps", "openaip", "googlemaps", "tianditu", "tiandituannotation", "faa"};
+    "none", "bingmaps", "openaip", "googlemaps", "tianditu", "tiandituannotation", "faa", "custom"};
 inline constexpr std::array BingImagery{"aerial", "aerial-label", "road", "road-lite", "road-gray", "road-dark"};
 inline constexpr std::array GoogleLayers{"r", "h", "t", "s", "m", "y", "p"};
 inline constexpr std::array TiandituLayers{"img", "vec", "ter"};

@@ -21,7 +21,8 @@ sensorMlatCoverage=250 sensorSdpsCoverage=512 sensorSdpsUpdateInterval=0 sensorS
 sensorSmrRotationPeriod=1 sensorSmrCoverage=5 sensorDatabase=
 mapSmoothPixmapTransform=false mapBackgroundColor=#ffadadad
 mapTileConsent=false mapTileDimming=0 mapTileDesaturation=0 mapCustomTileUrl= mapCustomTileHeader=
-mapCustomTileMaxLevel=18 mapCustomTileFile=
+mapCustomTileMaxLevel=18 mapCustomTileFile= mapBingTileServer= mapOpenAipTileServer=
+mapGoogleTileServer= mapTiandituTileServer= mapFaaTileServer=
 mapTileService=true mapTileVisible=true mapTileTopLayerEnable=false mapTileTopLayerProvider=openaip
 mapTileBottomLayerProvider=bingmaps mapTileCacheDir=%DATA%/TileCache/ mapTileUseProxy=false
 mapTileProxyHostname=localhost mapTileProxyPort=1080 mapTileProxyUser= mapTileProxyPassword=

@@ -198,7 +198,7 @@ private Q_SLOTS:
     void storesEnumerationsAsTexts()
     {
         const QStringList services{
-            "none", "bingmaps", "openaip", "googlemaps", "tianditu", "tiandituannotation", "faa"};
+            "none", "bingmaps", "openaip", "googlemaps", "tianditu", "tiandituannotation", "faa", "custom"};
         // The texts of a key, first that for what is unknown.
         const QList<std::pair<QString, QStringList>> rows{
             {"processorModeSEncapsulation", {"beast", "raw", "avr", "raw-rssi"}},
