@@ -1,0 +1,26 @@
+#pragma once
+
+#include "app/tile_services.h"
+#include "tiles/tile_fetcher.h"
+#include "tiles/tile_provider.h"
+#include "tiles/tile_proxy.h"
+
+#include <memory>
+
+class Config;
+
+// A service as the settings have it. Empty for None.
+TileServiceSetup tileServiceSetup(TileService service, const Config &config);
+
+TileProxy tileProxy(const Config &config);
+// Absolute.
+QString tileCacheDirectory(const Config &config);
+
+// The provider of a service, with everything that the settings say of it applied; null for None. The projector outlives
+// it.
+std::unique_ptr<TileProvider> makeTileProvider(
+    TileService service, const Config &config, Projector *projector, QObject *parent = nullptr);
+
+// The same for single tiles, such as those of a download: proxy, cache and consent applied. Nothing is sent before
+// TileFetcher::pump().
+std::unique_ptr<TileFetcher> makeTileFetcher(TileService service, const Config &config, QObject *parent = nullptr);
