@@ -125,14 +125,20 @@ void AlertProcessor::procMessage(const _ast_datablock_t &block)
     for (const _ast_datarecord_t &generic : block.records) {
         _ast_datarecord_004_t record;
         ast_datarecord_004_disassemble(&record, generic);
-        procCat004Message(record);
+        const ReportOutcome outcome = procCat004Message(record);
+        if (m_ledger) {
+            m_ledger->takeRecord(block.category, generic, outcome);
+        }
     }
 }
 
-void AlertProcessor::procCat004Message(const _ast_datarecord_004_t &record)
+ReportOutcome AlertProcessor::procCat004Message(const _ast_datarecord_004_t &record)
 {
-    if (!record.valid || !record.i000.present) {
-        return;
+    if (!record.valid) {
+        return ReportOutcome::Malformed;
+    }
+    if (!record.i000.present) {
+        return ReportOutcome::Incomplete;
     }
     switch (record.i000.type) {
     case Alive:
@@ -148,14 +154,15 @@ void AlertProcessor::procCat004Message(const _ast_datarecord_004_t &record)
     default:
         Q_EMIT message(
             LogLevel::Debug, withMessageType(tr("Unsupported CAT004 message type: %1 (%2)"), record.i000.type));
+        return ReportOutcome::NoReader;
     }
 }
 
-void AlertProcessor::procCat004AliveMessage(const _ast_datarecord_004_t &record)
+ReportOutcome AlertProcessor::procCat004AliveMessage(const _ast_datarecord_004_t &record)
 {
     if (!record.i060.present) {
         qDebug("CAT004 ALIVE message: Invalid staus.");
-        return;
+        return ReportOutcome::Incomplete;
     }
     for (int i = 0; i < record.i060.count; ++i) {
         const _ast_snet_status_t &status = record.i060.entries[i];
@@ -166,35 +173,43 @@ void AlertProcessor::procCat004AliveMessage(const _ast_datarecord_004_t &record)
             Q_EMIT message(LogLevel::Debug, withMessageType(tr("Unsupported CAT004 status: %1 (%2)"), status.type));
         }
     }
+    return ReportOutcome::Alert;
 }
 
-void AlertProcessor::procCat004MsawMessage(const _ast_datarecord_004_t &record)
+ReportOutcome AlertProcessor::procCat004MsawMessage(const _ast_datarecord_004_t &record)
 {
-    updateAlert(record, Alert::MSAW);
+    return updateAlert(record, Alert::MSAW) ? ReportOutcome::Alert : ReportOutcome::NoIdentity;
 }
 
-void AlertProcessor::procCat004ApwMessage(const _ast_datarecord_004_t &record)
+ReportOutcome AlertProcessor::procCat004ApwMessage(const _ast_datarecord_004_t &record)
 {
     const auto alert = updateAlert(record, Alert::APW);
-    if (alert && record.i100.present && record.i100.areaNamePresent) {
+    if (!alert) {
+        return ReportOutcome::NoIdentity;
+    }
+    if (record.i100.present && record.i100.areaNamePresent) {
         alert->setObjectName(QString::fromLatin1(record.i100.areaName));
     }
+    return ReportOutcome::Alert;
 }
 
-void AlertProcessor::procCat004StcaMessage(const _ast_datarecord_004_t &record)
+ReportOutcome AlertProcessor::procCat004StcaMessage(const _ast_datarecord_004_t &record)
 {
-    updateAlert(record, Alert::STCA);
+    return updateAlert(record, Alert::STCA) ? ReportOutcome::Alert : ReportOutcome::NoIdentity;
 }
 
-void AlertProcessor::procCat004EocMessage(const _ast_datarecord_004_t &record)
+ReportOutcome AlertProcessor::procCat004EocMessage(const _ast_datarecord_004_t &record)
 {
     if (!record.i040.present) {
         qDebug("CAT004 EOC message: Invalid alert id.");
-        return;
+        return ReportOutcome::NoIdentity;
     }
-    if (const auto alert = m_alertManager->findAlertById(record.i040.id)) {
-        alert->setState(Alert::End, m_alertManager->now());
+    const auto alert = m_alertManager->findAlertById(record.i040.id);
+    if (!alert) {
+        return ReportOutcome::Incomplete;
     }
+    alert->setState(Alert::End, m_alertManager->now());
+    return ReportOutcome::Alert;
 }
 
 QSharedPointer<Alert> AlertProcessor::updateAlert(const _ast_datarecord_004_t &record, Alert::Type type)

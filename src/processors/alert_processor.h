@@ -2,6 +2,7 @@
 
 #include "app/log_level.h"
 #include "tracking/alert.h"
+#include "tracking/report_ledger.h"
 
 #include <QMap>
 #include <QObject>
@@ -23,7 +24,11 @@ public:
 
     // Blocks that are not whole or of another category are passed over.
     void procMessage(const _ast_datablock_t &block);
-    void procCat004Message(const _ast_datarecord_004_t &record);
+    ReportOutcome procCat004Message(const _ast_datarecord_004_t &record);
+
+    // Who is told what became of every record of a valid block; null, as at first: nobody. It must outlive the
+    // processor.
+    void setLedger(ReportLedger *ledger) { m_ledger = ledger; }
 
     // False also for a function that the server has not reported.
     bool alertStatus(Alert::Type type) const { return m_alertStatus.value(type); }
@@ -37,11 +42,11 @@ Q_SIGNALS:
     void message(LogLevel level, const QString &text);
 
 private:
-    void procCat004AliveMessage(const _ast_datarecord_004_t &record);
-    void procCat004MsawMessage(const _ast_datarecord_004_t &record);
-    void procCat004ApwMessage(const _ast_datarecord_004_t &record);
-    void procCat004StcaMessage(const _ast_datarecord_004_t &record);
-    void procCat004EocMessage(const _ast_datarecord_004_t &record);
+    ReportOutcome procCat004AliveMessage(const _ast_datarecord_004_t &record);
+    ReportOutcome procCat004MsawMessage(const _ast_datarecord_004_t &record);
+    ReportOutcome procCat004ApwMessage(const _ast_datarecord_004_t &record);
+    ReportOutcome procCat004StcaMessage(const _ast_datarecord_004_t &record);
+    ReportOutcome procCat004EocMessage(const _ast_datarecord_004_t &record);
 
     // Null when the message lacks its alert or a track number, which is reported.
     QSharedPointer<Alert> updateAlert(const _ast_datarecord_004_t &record, Alert::Type type);
@@ -49,4 +54,5 @@ private:
     QSharedPointer<AlertManager> m_alertManager;
     QSharedPointer<TrackManager> m_trackManager;
     QMap<Alert::Type, bool> m_alertStatus;
+    ReportLedger *m_ledger = nullptr;
 };

@@ -44,48 +44,53 @@ void VideoProcessor::procAsterixMessage(const _ast_datablock_t &block)
         return;
     }
     for (const _ast_datarecord_t &record : block.records) {
-        procCat240Record(record);
+        const ReportOutcome outcome = procCat240Record(record);
+        if (m_ledger) {
+            m_ledger->takeRecord(block.category, record, outcome);
+        }
     }
 }
 
-void VideoProcessor::procCat240Record(const _ast_datarecord_t &generic)
+ReportOutcome VideoProcessor::procCat240Record(const _ast_datarecord_t &generic)
 {
     _ast_datarecord_240_t record;
     ast_datarecord_240_disassemble(&record, generic);
     if (!record.valid) {
-        return;
+        return ReportOutcome::Malformed;
     }
     if (record.i048.present && (record.i048.compressed || record.i048.resolution != EightBitCells)) {
         warn(
             UnsupportedVideo, tr("Video Processor: Unsupported video resolution or compressed video, record dropped."));
-        return;
+        return ReportOutcome::Unsupported;
     }
     _ast_video_vector_t vector{};
     const int error = ast_datarecord_240_get_vector(
         &vector, m_amplitudes.data(), static_cast<std::size_t>(m_amplitudes.size()), generic);
     if (error != AST_VIDEO_OK) {
-        procVectorError(error, vector.cellCount);
-        return;
+        return procVectorError(error, vector.cellCount);
     }
     const _ast_sacsic_t source = ast_datarecord_240_get_sacsic(generic);
     Q_EMIT radialReady(
         {source.sac, source.sic, timeOfDay(record), vector.startAzimuth, vector.endAzimuth, vector.cellSize,
             vector.startCell, vector.cellCount, vector.videoMode, lowOctets(m_amplitudes, vector.cellCount)});
+    return ReportOutcome::Video;
 }
 
-void VideoProcessor::procVectorError(int error, quint32 cellCount)
+// Summaries have no vector.
+ReportOutcome VideoProcessor::procVectorError(int error, quint32 cellCount)
 {
     if (error == AST_VIDEO_NO_VECTOR) {
-        return;
+        return ReportOutcome::NoReader;
     }
     if (error == AST_VIDEO_BUFFER_TOO_SMALL) {
         m_amplitudes.resize(cellCount);
         warn(BufferExceeded,
             tr("Video Processor: Video vector exceeds the amplitude buffer (%1 cells), record dropped.")
                 .arg(cellCount));
-        return;
+        return ReportOutcome::Unsupported;
     }
     warn(error, tr("Video Processor: Video vector error %1, record dropped.").arg(error));
+    return ReportOutcome::Incomplete;
 }
 
 void VideoProcessor::warn(int key, const QString &text)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/log_level.h"
+#include "tracking/report_ledger.h"
 
 #include <QHash>
 #include <QList>
@@ -36,7 +37,11 @@ public:
 
     // Blocks that are not whole or of another category are passed over.
     void procAsterixMessage(const _ast_datablock_t &block);
-    void procCat240Record(const _ast_datarecord_t &record);
+    ReportOutcome procCat240Record(const _ast_datarecord_t &record);
+
+    // Who is told what became of every record of a valid block; null, as at first: nobody. It must outlive the
+    // processor.
+    void setLedger(ReportLedger *ledger) { m_ledger = ledger; }
 
     // True at most once a second for each key, so that a stream of bad records does not flood the log.
     bool allowLog(int key);
@@ -49,12 +54,13 @@ Q_SIGNALS:
     void message(LogLevel level, const QString &text);
 
 private:
-    void procVectorError(int error, quint32 cellCount);
+    ReportOutcome procVectorError(int error, quint32 cellCount);
     void warn(int key, const QString &text);
 
     QList<unsigned int> m_amplitudes; // of one record; reused by every record
     QHash<int, qint64> m_lastLogged; // by key, milliseconds
     std::function<qint64()> m_monotonicClock;
+    ReportLedger *m_ledger = nullptr;
 };
 
 Q_DECLARE_METATYPE(VideoProcessor::Radial)

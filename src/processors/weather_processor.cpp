@@ -32,13 +32,14 @@ void WeatherProcessor::procAsterixMessage(const _ast_datablock_t &block)
     for (const _ast_datarecord_t &generic : block.records) {
         _ast_datarecord_008_t record;
         ast_datarecord_008_disassemble(&record, generic);
-        if (record.valid) {
-            procCat008Record(record);
+        const ReportOutcome outcome = record.valid ? procCat008Record(record) : ReportOutcome::Malformed;
+        if (m_ledger) {
+            m_ledger->takeRecord(block.category, generic, outcome);
         }
     }
 }
 
-void WeatherProcessor::procCat008Record(const _ast_datarecord_008_t &record)
+ReportOutcome WeatherProcessor::procCat008Record(const _ast_datarecord_008_t &record)
 {
     switch (record.i000.type) {
     case StartOfPicture:
@@ -49,6 +50,7 @@ void WeatherProcessor::procCat008Record(const _ast_datarecord_008_t &record)
         return procEndOfPicture(record);
     default:
         debug([&] { return tr("Weather Processor: Unsupported CAT008 message type: %1").arg(record.i000.type); });
+        return ReportOutcome::NoReader;
     }
 }
 
@@ -61,7 +63,7 @@ void WeatherProcessor::reset()
     m_vectors.clear();
 }
 
-void WeatherProcessor::procStartOfPicture(const _ast_datarecord_008_t &record)
+ReportOutcome WeatherProcessor::procStartOfPicture(const _ast_datarecord_008_t &record)
 {
     if (m_inPicture) {
         warn(tr("Weather Processor: Incomplete weather picture discarded by new SOP."));
@@ -77,30 +79,38 @@ void WeatherProcessor::procStartOfPicture(const _ast_datarecord_008_t &record)
         return tr("Weather Processor: SOP received (time of day: %1, scale factor: %2).")
             .arg(timeText(m_timeOfDay), m_scaleKnown ? QString::number(m_scale) : QStringLiteral("N/A"));
     });
+    return ReportOutcome::Weather;
 }
 
-bool WeatherProcessor::acceptsPolarVectors(const _ast_datarecord_008_t &record)
+ReportOutcome WeatherProcessor::judgePolarVectors(const _ast_datarecord_008_t &record)
 {
     if (!m_inPicture) {
         debug([] { return tr("Weather Processor: Polar vectors received without SOP, record dropped."); });
-    } else if (!record.i020.present || !record.i034.present || record.i034.count == 0) {
-        debug([] { return tr("Weather Processor: Polar vector record incomplete, record dropped."); });
-    } else if (record.i020.systemCoordinates) {
-        warn(tr("Weather Processor: Weather vectors in system coordinates are not supported, record dropped."));
-    } else if (record.i020.test || record.i020.error) {
-        debug([] { return tr("Weather Processor: Test or error polar vector, record dropped."); });
-    } else if (!m_scaleKnown) {
-        warn(tr("Weather Processor: No scaling factor received, weather vectors dropped."));
-    } else {
-        return true;
+        return ReportOutcome::Incomplete;
     }
-    return false;
+    if (!record.i020.present || !record.i034.present || record.i034.count == 0) {
+        debug([] { return tr("Weather Processor: Polar vector record incomplete, record dropped."); });
+        return ReportOutcome::Incomplete;
+    }
+    if (record.i020.systemCoordinates) {
+        warn(tr("Weather Processor: Weather vectors in system coordinates are not supported, record dropped."));
+        return ReportOutcome::Unsupported;
+    }
+    if (record.i020.test || record.i020.error) {
+        debug([] { return tr("Weather Processor: Test or error polar vector, record dropped."); });
+        return ReportOutcome::TestTarget;
+    }
+    if (!m_scaleKnown) {
+        warn(tr("Weather Processor: No scaling factor received, weather vectors dropped."));
+        return ReportOutcome::Incomplete;
+    }
+    return ReportOutcome::Weather;
 }
 
-void WeatherProcessor::procPolarVectors(const _ast_datarecord_008_t &record)
+ReportOutcome WeatherProcessor::procPolarVectors(const _ast_datarecord_008_t &record)
 {
-    if (!acceptsPolarVectors(record)) {
-        return;
+    if (const ReportOutcome outcome = judgePolarVectors(record); outcome != ReportOutcome::Weather) {
+        return outcome;
     }
     const double unit = std::ldexp(1.0, m_scale - 7);
     for (int i = 0; i < record.i034.count; ++i) {
@@ -113,12 +123,13 @@ void WeatherProcessor::procPolarVectors(const _ast_datarecord_008_t &record)
             .arg(record.i020.intensity)
             .arg(m_vectors.size());
     });
+    return ReportOutcome::Weather;
 }
 
-void WeatherProcessor::procEndOfPicture(const _ast_datarecord_008_t &record)
+ReportOutcome WeatherProcessor::procEndOfPicture(const _ast_datarecord_008_t &record)
 {
     if (!m_inPicture) {
-        return;
+        return ReportOutcome::Incomplete;
     }
     const int announced = record.i120.count;
     if (!record.i120.present) {
@@ -144,4 +155,5 @@ void WeatherProcessor::procEndOfPicture(const _ast_datarecord_008_t &record)
     if (!picture.vectors.isEmpty()) {
         Q_EMIT pictureReady(picture);
     }
+    return ReportOutcome::Weather;
 }

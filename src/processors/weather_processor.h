@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/log_gate.h"
+#include "tracking/report_ledger.h"
 
 #include <QList>
 #include <QMetaType>
@@ -32,7 +33,11 @@ public:
 
     // Blocks that are not whole or of another category are passed over.
     void procAsterixMessage(const _ast_datablock_t &block);
-    void procCat008Record(const _ast_datarecord_008_t &record);
+    ReportOutcome procCat008Record(const _ast_datarecord_008_t &record);
+
+    // Who is told what became of every record of a valid block; null, as at first: nobody. It must outlive the
+    // processor.
+    void setLedger(ReportLedger *ledger) { m_ledger = ledger; }
 
     // Forgets the picture in progress and the scale, which belong to the radar that sent them.
     void reset();
@@ -43,10 +48,11 @@ Q_SIGNALS:
     void message(LogLevel level, const QString &text);
 
 private:
-    void procStartOfPicture(const _ast_datarecord_008_t &record);
-    void procPolarVectors(const _ast_datarecord_008_t &record);
-    void procEndOfPicture(const _ast_datarecord_008_t &record);
-    bool acceptsPolarVectors(const _ast_datarecord_008_t &record);
+    ReportOutcome procStartOfPicture(const _ast_datarecord_008_t &record);
+    ReportOutcome procPolarVectors(const _ast_datarecord_008_t &record);
+    ReportOutcome procEndOfPicture(const _ast_datarecord_008_t &record);
+    // Weather for vectors that can be taken.
+    ReportOutcome judgePolarVectors(const _ast_datarecord_008_t &record);
     // The text is made only where debug lines are shown.
     template <typename MakeText>
     void debug(MakeText makeText)
@@ -62,6 +68,7 @@ private:
     int m_scale = 0; // exponent f: ranges count 2^(f-7) nautical miles
     double m_timeOfDay = -1.0;
     QList<PolarVector> m_vectors;
+    ReportLedger *m_ledger = nullptr;
 };
 
 Q_DECLARE_METATYPE(WeatherProcessor::Picture)

@@ -1,5 +1,6 @@
 #include "tracking/adsb_tracker.h"
 
+#include "modes/mode_s_message.h"
 #include "tracking/report_items.h"
 
 #include <cmath>
@@ -78,25 +79,31 @@ void AdsbTracker::setAltituteBaroChecking(bool enable, unsigned int checkingTime
 
 void AdsbTracker::procAsterixMessage(const _ast_datablock_t &block)
 {
-    if (!block.valid || block.category != 21) {
+    if (!block.valid) {
+        return;
+    }
+    if (block.category != 21) {
+        refuse(block);
         return;
     }
     for (const auto &record : block.records) {
-        procCat021Record(record);
+        handIn(block, record, record.valid ? procCat021Record(record) : Taken{ReportOutcome::Malformed});
     }
 }
 
-void AdsbTracker::procCat021Record(const _ast_datarecord_t &record)
+Tracker::Taken AdsbTracker::procCat021Record(const _ast_datarecord_t &record)
 {
-    if (!record.valid) {
-        return;
-    }
     const auto now = trackManager().now();
     const auto place = takePlace(record, now);
+    // Stations send 0 for want of an address: what has it would become a new track with every report.
     const auto address = ast_datarecord_get_icaoaddr(record);
-    const auto track = address.present ? trackOf(address.address) : QSharedPointer<Track>();
+    if (!address.present || address.address == 0) {
+        return takenAsPlot(place, ast_datarecord_021_get_testbit(record));
+    }
+    const Identity identity{0, address.address, 0.0};
+    const auto track = trackOf(address.address);
     if (!track) {
-        return;
+        return notNumbered(identity, place);
     }
     track->setState(Track::Confirmed);
     // Stations send blanks or zeros for a call sign that they have not heard yet, or not again.
@@ -114,6 +121,7 @@ void AdsbTracker::procCat021Record(const _ast_datarecord_t &record)
     setMovement(*track, record);
     setVerticalMovement(*track, record, now);
     track->recordHistory(now);
+    return takenBy(*track, identity, place);
 }
 
 std::optional<Tracker::Place> AdsbTracker::takePlace(const _ast_datarecord_t &record, const QDateTime &now) const
@@ -131,10 +139,6 @@ std::optional<Tracker::Place> AdsbTracker::takePlace(const _ast_datarecord_t &re
 
 QSharedPointer<Track> AdsbTracker::trackOf(unsigned int address)
 {
-    // Stations send 0 for want of an address: what has it would become a new track with every report.
-    if (address == 0) {
-        return {};
-    }
     if (const auto known = trackManager().findTrackByICAOAddr(address)) {
         return known;
     }
@@ -149,19 +153,37 @@ QSharedPointer<Track> AdsbTracker::trackOf(unsigned int address)
 
 void AdsbTracker::procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &message)
 {
+    handIn(*message, takeMessage(message));
+}
+
+// Other messages than squitters of an aircraft that sends none make no target: nothing in them says where it is.
+Tracker::Taken AdsbTracker::takeMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &message)
+{
+    const auto refused = m_modesTracker.positionsOutOfRange();
     const auto target = m_modesTracker.procModeSMsg(message);
+    const bool outOfRange = m_modesTracker.positionsOutOfRange() != refused;
     reportRefusedPositions();
-    if (!target || !target->icaoAddrValid()) {
-        return;
+    if (!target) {
+        return {ReportOutcome::NoPosition};
     }
+    // Mode S knows no aircraft 0, either.
+    if (!target->icaoAddrValid() || target->icaoAddr() == 0) {
+        return {ReportOutcome::NoIdentity};
+    }
+    const Identity identity{0, target->icaoAddr(), 0.0};
     const auto track = trackOf(target->icaoAddr());
     if (!track) {
-        return;
+        return notNumbered(identity, {});
     }
     track->setState(Track::Confirmed);
     takeTarget(*track, *target);
     track->recordHistory(trackManager().now());
     cleanUpTargets();
+    Taken taken = takenBy(*track, identity, {});
+    if (outOfRange) {
+        taken.outcome = ReportOutcome::OutOfRange;
+    }
+    return taken;
 }
 
 // What has expired is taken from the track; what was never heard is left as it was.

@@ -25,7 +25,8 @@ public:
     void setNoUpdatedTargetDeletionTime(unsigned int seconds) { m_noUpdatedTargetDeletionTime = seconds; }
 
 private:
-    void procCat021Record(const _ast_datarecord_t &record);
+    Taken procCat021Record(const _ast_datarecord_t &record);
+    Taken takeMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &message);
     // Nothing where the report has no position. Reports are plots as well.
     std::optional<Place> takePlace(const _ast_datarecord_t &record, const QDateTime &now) const;
     // Null when no track number is free.

@@ -52,50 +52,45 @@ MlatTracker::MlatTracker(const QSharedPointer<MlatSensorInfo> &sensor, const QSh
 
 void MlatTracker::procAsterixMessage(const _ast_datablock_t &block)
 {
-    if (!block.valid || block.category != 20) {
+    if (!block.valid) {
         return;
     }
-    reports::forEachRecord<_ast_datarecord_020_t>(block, ast_datarecord_020_disassemble, [this](auto &record) {
+    if (block.category != 20) {
+        refuse(block);
+        return;
+    }
+    takeEach<_ast_datarecord_020_t>(block, ast_datarecord_020_disassemble, [this](auto &record) {
         applyOptions(record.i041, record.i042);
-        procCat020Message(record);
+        return procCat020Message(record);
     });
 }
 
-void MlatTracker::procCat020Message(const _ast_datarecord_020_t &record)
+Tracker::Taken MlatTracker::procCat020Message(const _ast_datarecord_020_t &record)
 {
     const auto now = trackManager().now();
     const auto plane = planePosition(record.i041, record.i042);
+    const auto place = reportedPlace(record.i041, plane);
     if (plane && !record.i020.tst) {
         addPlot(*plane, Track::Mlat, now);
     }
-    const auto track = trackOf(record, now);
-    if (!track) {
-        return;
+    const auto identity = identityOf(record);
+    if (!identity.usable()) {
+        debug([] {
+            return tr("MLAT Tracker: CAT020 message has neither valid track number (I020/161) nor valid Mode-S address "
+                      "(I020/220), ignore.");
+        });
+        return takenAsPlot(place, record.i020.tst);
     }
-    track->setType(Track::Mlat);
-    track->setState(stateOf(record));
-    if (record.i245.present) {
-        reports::setCallsign(*track, record.i245.text);
+    const auto track = associate(identity, now);
+    if (!track) {
+        return notNumbered(identity, place);
     }
     placeReported(*track, record.i010, record.i041, record.i042, plane);
-    reports::setModeA(*track, record.i070);
-    track->setSpi(record.i020.spi || (record.i230.present && reports::isSpi(record.i230.stat)));
-    const bool levelKnown = track->levelValid();
-    const int previousLevel = track->level();
-    reports::setLevel(*track, levelOf(record));
-    reports::setSelectedAltitude(*track, reports::selectedAltitude(record.i250), now, DownlinkLifeSpan);
-    reports::setVerticalRate(*track, reports::verticalRate(record.i250), now, DownlinkLifeSpan);
-    if (record.i170.present) {
-        track->setVerticalTrend(trendOf(record.i170.cdm));
-        if (levelKnown && track->levelValid()) {
-            compareTrend(*track, track->level() - previousLevel, record.i010);
-        }
-    }
-    reports::setVelocityFromComponents(*track, record.i202.present, record.i202.vx, record.i202.vy);
-    track->recordHistory(now);
+    takeReport(*track, record, now);
+    return takenBy(*track, identity, place);
 }
 
-QSharedPointer<Track> MlatTracker::trackOf(const _ast_datarecord_020_t &record, const QDateTime &now)
+Tracker::Identity MlatTracker::identityOf(const _ast_datarecord_020_t &record)
 {
     Identity identity;
     if (record.i161.present) {
@@ -105,14 +100,31 @@ QSharedPointer<Track> MlatTracker::trackOf(const _ast_datarecord_020_t &record, 
         identity.address = record.i220.address;
     }
     identity.reportPeriod = ReportPeriod;
-    if (identity.usable()) {
-        return associate(identity, now);
+    return identity;
+}
+
+void MlatTracker::takeReport(Track &track, const _ast_datarecord_020_t &record, const QDateTime &now)
+{
+    track.setType(Track::Mlat);
+    track.setState(stateOf(record));
+    if (record.i245.present) {
+        reports::setCallsign(track, record.i245.text);
     }
-    debug([] {
-        return tr("MLAT Tracker: CAT020 message has neither valid track number (I020/161) nor valid Mode-S address "
-                  "(I020/220), ignore.");
-    });
-    return {};
+    reports::setModeA(track, record.i070);
+    track.setSpi(record.i020.spi || (record.i230.present && reports::isSpi(record.i230.stat)));
+    const bool levelKnown = track.levelValid();
+    const int previousLevel = track.level();
+    reports::setLevel(track, levelOf(record));
+    reports::setSelectedAltitude(track, reports::selectedAltitude(record.i250), now, DownlinkLifeSpan);
+    reports::setVerticalRate(track, reports::verticalRate(record.i250), now, DownlinkLifeSpan);
+    if (record.i170.present) {
+        track.setVerticalTrend(trendOf(record.i170.cdm));
+        if (levelKnown && track.levelValid()) {
+            compareTrend(track, track.level() - previousLevel, record.i010);
+        }
+    }
+    reports::setVelocityFromComponents(track, record.i202.present, record.i202.vx, record.i202.vy);
+    track.recordHistory(now);
 }
 
 // A source that counts its trends in another order shows climbing targets as descending, and the reverse.

@@ -16,8 +16,8 @@ public:
     void procAsterixMessage(const _ast_datablock_t &block) override;
 
 private:
-    void procCat020Message(const _ast_datarecord_020_t &record);
+    Taken procCat020Message(const _ast_datarecord_020_t &record);
+    static Identity identityOf(const _ast_datarecord_020_t &record);
+    void takeReport(Track &track, const _ast_datarecord_020_t &record, const QDateTime &now);
     void compareTrend(const Track &track, int levelChange, const _ast_sacsic_t &code);
-    // Null when the report names no track, which is logged, or no track number is free.
-    QSharedPointer<Track> trackOf(const _ast_datarecord_020_t &record, const QDateTime &now);
 };

@@ -62,105 +62,128 @@ void RadarTracker::procAsterixMessage(const _ast_datablock_t &block)
     if (!block.valid) {
         return;
     }
-    using reports::forEachRecord;
-    const auto procAntenna = [this](const auto &record) { procAntennaMessage(record); };
     switch (block.category) {
     case 1:
-        forEachRecord<_ast_datarecord_001_t>(
-            block, ast_datarecord_001_disassemble, [this](const auto &record) { procCat001Message(record); });
+        takeEach<_ast_datarecord_001_t>(
+            block, ast_datarecord_001_disassemble, [this](const auto &record) { return procCat001Message(record); });
         break;
     case 2:
-        forEachRecord<_ast_datarecord_002_t>(block, ast_datarecord_002_disassemble, procAntenna);
+        takeEach<_ast_datarecord_002_t>(
+            block, ast_datarecord_002_disassemble, [this](const auto &record) { return procAntennaMessage(record); });
         break;
     case 34:
-        forEachRecord<_ast_datarecord_034_t>(block, ast_datarecord_034_disassemble, procAntenna);
+        takeEach<_ast_datarecord_034_t>(
+            block, ast_datarecord_034_disassemble, [this](const auto &record) { return procAntennaMessage(record); });
         break;
     case 48:
-        forEachRecord<_ast_datarecord_048_t>(
-            block, ast_datarecord_048_disassemble, [this](const auto &record) { procCat048Message(record); });
+        takeEach<_ast_datarecord_048_t>(
+            block, ast_datarecord_048_disassemble, [this](const auto &record) { return procCat048Message(record); });
         break;
     default:
-        break;
+        refuse(block);
     }
 }
 
 // CAT002 and CAT034 tell of the antenna in the same way.
 template <typename Record>
-void RadarTracker::procAntennaMessage(const Record &record)
+Tracker::Taken RadarTracker::procAntennaMessage(const Record &record)
 {
     if (!record.i000.present) {
-        return;
+        return {ReportOutcome::Incomplete};
     }
-    if (record.i000.type == SectorCrossing && record.i020.present) {
-        Q_EMIT antennaRotated(record.i020.azimuth);
-    } else if (record.i000.type == NorthMarker) {
+    if (record.i000.type == NorthMarker) {
         Q_EMIT antennaNorthCrossed();
+        return {ReportOutcome::SourceStatus};
     }
+    if (record.i000.type != SectorCrossing) {
+        return {ReportOutcome::NoReader};
+    }
+    if (!record.i020.present) {
+        return {ReportOutcome::Incomplete};
+    }
+    Q_EMIT antennaRotated(record.i020.azimuth);
+    return {ReportOutcome::SourceStatus};
 }
 
-void RadarTracker::procCat001Message(const _ast_datarecord_001_t &record)
+Tracker::Taken RadarTracker::procCat001Message(const _ast_datarecord_001_t &record)
 {
     const auto now = trackManager().now();
     const auto place = takePlace(record, 1.0, now);
-    const auto track = trackOf(record);
+    if (!record.i161.present) {
+        debug([] { return tr("Radar Tracker: CAT001 message has no valid track number (I001/161), ignore."); });
+        return takenAsPlot(place, record.i020.tst);
+    }
+    const Identity identity{record.i161.trackNumber, {}, 0.0};
+    const auto track = findOrCreate(identity.number);
     if (!track) {
-        return;
+        return notNumbered(identity, place);
     }
-    if (record.i020.present) {
-        track->setType(typeOf(record));
-    }
-    track->setState(record.i170.present && record.i170.con ? Track::Tentative : Track::Confirmed);
     if (place) {
         put(*track, *place);
     }
-    reports::setModeA(*track, record.i070);
-    if (record.i020.present) {
-        track->setSpi(record.i020.spi);
-        reports::setEmergency(*track, emergencyOf(record), now);
-    }
-    reports::setLevel(*track, levelOf(record.i090));
-    reports::setVelocity(*track, record.i200);
-    track->recordHistory(now);
+    takeReport(*track, record, now);
+    return takenBy(*track, identity, place);
 }
 
-QSharedPointer<Track> RadarTracker::trackOf(const _ast_datarecord_001_t &record)
+void RadarTracker::takeReport(Track &track, const _ast_datarecord_001_t &record, const QDateTime &now)
 {
-    if (record.i161.present) {
-        return findOrCreate(record.i161.trackNumber);
+    if (record.i020.present) {
+        track.setType(typeOf(record));
     }
-    debug([] { return tr("Radar Tracker: CAT001 message has no valid track number (I001/161), ignore."); });
-    return {};
+    track.setState(record.i170.present && record.i170.con ? Track::Tentative : Track::Confirmed);
+    reports::setModeA(track, record.i070);
+    if (record.i020.present) {
+        track.setSpi(record.i020.spi);
+        reports::setEmergency(track, emergencyOf(record), now);
+    }
+    reports::setLevel(track, levelOf(record.i090));
+    reports::setVelocity(track, record.i200);
+    track.recordHistory(now);
 }
 
-void RadarTracker::procCat048Message(const _ast_datarecord_048_t &record)
+Tracker::Taken RadarTracker::procCat048Message(const _ast_datarecord_048_t &record)
 {
     const auto now = trackManager().now();
     const auto place = takePlace(record, record.i042.resolution, now);
-    const auto track = trackOf(record, now);
+    const auto identity = identityOf(record);
+    if (!identity.usable()) {
+        debug([] {
+            return tr("Radar Tracker: CAT048 message has neither valid track number (I048/161) nor valid Mode-S "
+                      "address (I048/220), ignore.");
+        });
+        return takenAsPlot(place, record.i020.tst);
+    }
+    const auto track = associate(identity, now);
     if (!track) {
-        return;
-    }
-    if (record.i020.present) {
-        track->setType(typeOf(record));
-    }
-    track->setState(record.i170.present && record.i170.cnf ? Track::Tentative : Track::Confirmed);
-    if (record.i240.present) {
-        reports::setCallsign(*track, record.i240.text);
+        return notNumbered(identity, place);
     }
     if (place) {
         put(*track, *place);
     }
-    reports::setModeA(*track, record.i070);
-    track->setSpi(record.i020.spi || (record.i230.present && reports::isSpi(record.i230.stat)));
-    reports::setEmergency(*track, record.i020.me ? Track::GeneralEmergency : Track::NoEmergency, now);
-    reports::setLevel(*track, levelOf(record.i090));
-    reports::setSelectedAltitude(*track, reports::selectedAltitude(record.i250), now, DownlinkLifeSpan);
-    reports::setVerticalRate(*track, reports::verticalRate(record.i250), now, DownlinkLifeSpan);
-    reports::setVelocity(*track, record.i200);
-    track->recordHistory(now);
+    takeReport(*track, record, now);
+    return takenBy(*track, identity, place);
 }
 
-QSharedPointer<Track> RadarTracker::trackOf(const _ast_datarecord_048_t &record, const QDateTime &now)
+void RadarTracker::takeReport(Track &track, const _ast_datarecord_048_t &record, const QDateTime &now)
+{
+    if (record.i020.present) {
+        track.setType(typeOf(record));
+    }
+    track.setState(record.i170.present && record.i170.cnf ? Track::Tentative : Track::Confirmed);
+    if (record.i240.present) {
+        reports::setCallsign(track, record.i240.text);
+    }
+    reports::setModeA(track, record.i070);
+    track.setSpi(record.i020.spi || (record.i230.present && reports::isSpi(record.i230.stat)));
+    reports::setEmergency(track, record.i020.me ? Track::GeneralEmergency : Track::NoEmergency, now);
+    reports::setLevel(track, levelOf(record.i090));
+    reports::setSelectedAltitude(track, reports::selectedAltitude(record.i250), now, DownlinkLifeSpan);
+    reports::setVerticalRate(track, reports::verticalRate(record.i250), now, DownlinkLifeSpan);
+    reports::setVelocity(track, record.i200);
+    track.recordHistory(now);
+}
+
+Tracker::Identity RadarTracker::identityOf(const _ast_datarecord_048_t &record) const
 {
     Identity identity;
     if (record.i161.present) {
@@ -172,14 +195,7 @@ QSharedPointer<Track> RadarTracker::trackOf(const _ast_datarecord_048_t &record,
     // The antenna sees an aircraft once a revolution.
     identity.reportPeriod =
         m_sensor->rotationPeriod() < ShortestRotationPeriod ? AssumedRotationPeriod : m_sensor->rotationPeriod();
-    if (identity.usable()) {
-        return associate(identity, now);
-    }
-    debug([] {
-        return tr("Radar Tracker: CAT048 message has neither valid track number (I048/161) nor valid Mode-S address "
-                  "(I048/220), ignore.");
-    });
-    return {};
+    return identity;
 }
 
 template <typename Record>

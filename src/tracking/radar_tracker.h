@@ -20,7 +20,7 @@ public:
 
     SensorInfo::Type type() const override { return SensorInfo::RadarSensor; }
     void procAsterixMessage(const _ast_datablock_t &block) override;
-    void procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &) override { } // serves none
+    void procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &message) override { refuse(*message); }
     void procAleniaSirMMessage(const QSharedPointer<AleniaSirMRadarMessage> &message) override;
 
 Q_SIGNALS:
@@ -29,15 +29,14 @@ Q_SIGNALS:
     void antennaNorthCrossed();
 
 private:
-    void procCat001Message(const _ast_datarecord_001_t &record);
-    void procCat048Message(const _ast_datarecord_048_t &record);
+    Taken procCat001Message(const _ast_datarecord_001_t &record);
+    Taken procCat048Message(const _ast_datarecord_048_t &record);
     template <typename Record>
-    void procAntennaMessage(const Record &record);
+    Taken procAntennaMessage(const Record &record);
 
-    // The report's track, new where it is the first of an aircraft. Null when the report names none, which is logged,
-    // or no track number is free.
-    QSharedPointer<Track> trackOf(const _ast_datarecord_001_t &record);
-    QSharedPointer<Track> trackOf(const _ast_datarecord_048_t &record, const QDateTime &now);
+    void takeReport(Track &track, const _ast_datarecord_001_t &record, const QDateTime &now);
+    void takeReport(Track &track, const _ast_datarecord_048_t &record, const QDateTime &now);
+    Identity identityOf(const _ast_datarecord_048_t &record) const;
 
     // Nothing where the report has no position; Cartesian ones count in the unit, nautical miles. Reports are plots as
     // well.
@@ -48,8 +47,10 @@ private:
 
     void procAleniaSirMNorthMarker(const AleniaSirMRadarNorthMarkerMessage &marker);
     void procAleniaSirMDataMessage(const AleniaSirMRadarDataMessage &data);
-    void procAleniaSirMPlotRecord(const AleniaSirMRadarPlotRecord &record);
-    void procAleniaSirMTrackRecord(const AleniaSirMRadarTrackRecord &record);
+    Taken procAleniaSirMPlotRecord(const AleniaSirMRadarPlotRecord &record);
+    Taken procAleniaSirMTrackRecord(const AleniaSirMRadarTrackRecord &record);
+    template <typename Record>
+    void handInSirM(const AleniaSirMRadarDataMessage &data, const Record &record, const Taken &taken) const;
 
     QSharedPointer<RadarSensorInfo> m_sensor;
     PolarOrigin m_site;

@@ -75,6 +75,9 @@ void RadarTracker::procAleniaSirMMessage(const QSharedPointer<AleniaSirMRadarMes
 {
     if (const auto *marker = dynamic_cast<const AleniaSirMRadarNorthMarkerMessage *>(message.data())) {
         procAleniaSirMNorthMarker(*marker);
+        if (ledger()) {
+            ledger()->takeSirM(*marker, ReportOutcome::SourceStatus);
+        }
     } else if (const auto *data = dynamic_cast<const AleniaSirMRadarDataMessage *>(message.data())) {
         procAleniaSirMDataMessage(*data);
     }
@@ -109,41 +112,67 @@ void RadarTracker::procAleniaSirMDataMessage(const AleniaSirMRadarDataMessage &d
     if (data.sectorValid()) {
         Q_EMIT antennaRotated(data.sector() * DegreesPerSector);
     }
+    if (data.plotRecords().empty() && data.trackRecords().empty() && ledger()) {
+        ledger()->takeSirM(data, data.sectorValid() ? ReportOutcome::SourceStatus : ReportOutcome::Incomplete);
+    }
     for (const auto &record : data.plotRecords()) {
-        procAleniaSirMPlotRecord(record);
+        handInSirM(data, record, procAleniaSirMPlotRecord(record));
     }
     for (const auto &record : data.trackRecords()) {
-        procAleniaSirMTrackRecord(record);
+        handInSirM(data, record, procAleniaSirMTrackRecord(record));
     }
 }
 
+template <typename Record>
+void RadarTracker::handInSirM(const AleniaSirMRadarDataMessage &data, const Record &record, const Taken &taken) const
+{
+    if (!ledger()) {
+        return;
+    }
+    TakenReport report;
+    report.form = TakenReport::Form::AleniaSirM;
+    report.outcome = taken.outcome;
+    report.octets = record.octets().data();
+    report.size = static_cast<quint32>(record.octets().size());
+    report.sirM = &data;
+    report.trackNumber = taken.trackNumber;
+    report.sensorTrackNumber = taken.identity.number;
+    report.place = taken.place;
+    ledger()->take(report);
+}
+
 // The slant range is taken as the distance over ground.
-void RadarTracker::procAleniaSirMPlotRecord(const AleniaSirMRadarPlotRecord &record)
+Tracker::Taken RadarTracker::procAleniaSirMPlotRecord(const AleniaSirMRadarPlotRecord &record)
 {
     const auto place = placeOf(m_site, record.range() * MetresPerKilometre, record.azimuth());
     if (place.valid) {
         addPlot(place.plane, typeOf(record.plotType()), trackManager().now());
     }
+    return takenAsPlot(place, false);
 }
 
-void RadarTracker::procAleniaSirMTrackRecord(const AleniaSirMRadarTrackRecord &record)
+Tracker::Taken RadarTracker::procAleniaSirMTrackRecord(const AleniaSirMRadarTrackRecord &record)
 {
+    const Identity identity{record.trackNumber(), {}, 0.0};
     if (record.trackType() == NoTrack || record.trackEnd()) {
-        trackManager().removeTrack(trackManager().findTrackByOtherTrackNum(record.trackNumber()));
-        return;
+        const auto ended = trackManager().findTrackByOtherTrackNum(record.trackNumber());
+        trackManager().removeTrack(ended);
+        return {ReportOutcome::TrackEnd, ended ? ended->trackNumber() : 0, identity, {}};
     }
     const auto now = trackManager().now();
+    const auto place =
+        placeOf(m_site, std::hypot(record.x(), record.y()) * MetresPerKilometre, azimuthOf(record.x(), record.y()));
     const auto track = findOrCreate(record.trackNumber());
     if (!track) {
-        return;
+        return notNumbered(identity, place);
     }
     track->setType(typeOf(record.trackType()));
     track->setState(record.coasting() ? Track::Coasting : Track::Confirmed);
-    put(*track,
-        placeOf(m_site, std::hypot(record.x(), record.y()) * MetresPerKilometre, azimuthOf(record.x(), record.y())));
+    put(*track, place);
     setModeA(*track, record);
     setHeight(*track, record);
     setVerticalMovement(*track, record, now);
     setVelocity(*track, record);
     track->recordHistory(now);
+    return takenBy(*track, identity, place);
 }

@@ -49,17 +49,4 @@ std::optional<int> selectedAltitude(const _ast_item_registers_t &item);
 // minute.
 std::optional<double> verticalRate(const _ast_item_registers_t &item);
 
-// Expands every record of a block that the category's disassembler reads and hands it on; invalid ones are left out.
-template <typename Record, typename Disassemble, typename Handle>
-void forEachRecord(const _ast_datablock_t &block, Disassemble disassemble, Handle handle)
-{
-    for (const auto &generic : block.records) {
-        Record record;
-        disassemble(&record, generic);
-        if (record.valid) {
-            handle(record);
-        }
-    }
-}
-
 } // namespace reports

@@ -103,19 +103,23 @@ SdpsTracker::SdpsTracker(const QSharedPointer<SdpsSensorInfo> &sensor, const QSh
 
 void SdpsTracker::procAsterixMessage(const _ast_datablock_t &block)
 {
-    if (!block.valid || block.category != 62) {
+    if (!block.valid) {
         return;
     }
-    reports::forEachRecord<_ast_datarecord_062_t>(block, ast_datarecord_062_disassemble, [this](auto &record) {
+    if (block.category != 62) {
+        refuse(block);
+        return;
+    }
+    takeEach<_ast_datarecord_062_t>(block, ast_datarecord_062_disassemble, [this](auto &record) {
         applyOptions(record.i105, record.i100);
         if (m_correctLongitudeWrap) {
             addHalfCircleToWesternLongitude(record);
         }
-        procCat062Message(record);
+        return procCat062Message(record);
     });
 }
 
-void SdpsTracker::procCat062Message(const _ast_datarecord_062_t &record)
+Tracker::Taken SdpsTracker::procCat062Message(const _ast_datarecord_062_t &record)
 {
     const auto now = trackManager().now();
     const auto identity = identityOf(record);
@@ -124,26 +128,27 @@ void SdpsTracker::procCat062Message(const _ast_datarecord_062_t &record)
             return tr("SDPS Tracker: CAT062 message has neither valid track number (I062/040) nor valid Mode-S address "
                       "(I062/380/ADR), ignore.");
         });
-        return;
+        return {ReportOutcome::NoIdentity};
     }
     if (record.i080.present && record.i080.tse) {
-        endTrack(identity, now);
-        return;
+        return {ReportOutcome::TrackEnd, endTrack(identity, now), identity, {}};
     }
+    const auto plane = planePosition(record.i105, record.i100);
+    const auto place = reportedPlace(record.i105, plane);
     const auto track = associate(identity, now);
     if (!track) {
-        return;
+        return notNumbered(identity, place);
     }
     track->setType(record.i380.present ? Track::SdpsModeS : Track::Sdps);
     setStatus(*track, record, now);
     setCallsign(*track, record);
-    const auto plane = planePosition(record.i105, record.i100);
     placeReported(*track, record.i010, record.i105, record.i100, plane);
     reports::setModeA(*track, record.i060);
     reports::setLevel(*track, levelOf(record));
     setVerticalMovement(*track, record, now);
     reports::setVelocityFromComponents(*track, record.i185.present, record.i185.vx, record.i185.vy);
     track->recordHistory(now);
+    return takenBy(*track, identity, place);
 }
 
 Tracker::Identity SdpsTracker::identityOf(const _ast_datarecord_062_t &record) const

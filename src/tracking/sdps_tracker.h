@@ -21,7 +21,7 @@ public:
     void setCorrectLongitudeWrap(bool correct) { m_correctLongitudeWrap = correct; }
 
 private:
-    void procCat062Message(const _ast_datarecord_062_t &record);
+    Taken procCat062Message(const _ast_datarecord_062_t &record);
     Identity identityOf(const _ast_datarecord_062_t &record) const;
 
     QSharedPointer<SdpsSensorInfo> m_sensor;

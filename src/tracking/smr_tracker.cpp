@@ -24,42 +24,48 @@ SmrTracker::SmrTracker(const QSharedPointer<SmrSensorInfo> &sensor, const QShare
 
 void SmrTracker::procAsterixMessage(const _ast_datablock_t &block)
 {
-    if (!block.valid || block.category != 10) {
+    if (!block.valid) {
         return;
     }
-    reports::forEachRecord<_ast_datarecord_010_t>(
-        block, ast_datarecord_010_disassemble, [this](const auto &record) { procCat010Message(record); });
+    if (block.category != 10) {
+        refuse(block);
+        return;
+    }
+    takeEach<_ast_datarecord_010_t>(
+        block, ast_datarecord_010_disassemble, [this](const auto &record) { return procCat010Message(record); });
 }
 
-void SmrTracker::procCat010Message(const _ast_datarecord_010_t &record)
+Tracker::Taken SmrTracker::procCat010Message(const _ast_datarecord_010_t &record)
 {
     const auto now = trackManager().now();
     const auto place = placeOfReport(record);
-    if (place.valid && !record.i020.tst) {
-        addPlot(place.plane, typeOf(record), now);
+    if (place && place->valid && !record.i020.tst) {
+        addPlot(place->plane, typeOf(record), now);
     }
     if (!record.i161.present) {
         debug([] { return tr("SMR Tracker: CAT010 message has no valid track number (I010/161), ignore."); });
-        return;
+        return takenAsPlot(place, record.i020.tst);
     }
+    const Identity identity{record.i161.trackNumber, {}, 0.0};
     if (!record.i040.present) {
-        return;
+        return place ? takenAsPlot(place, record.i020.tst) : Taken{ReportOutcome::NoPosition, 0, identity, {}};
     }
-    const auto track = findOrCreate(record.i161.trackNumber);
+    const auto track = findOrCreate(identity.number);
     if (!track) {
-        return;
+        return notNumbered(identity, place);
     }
     track->setType(Track::Smr);
     track->setGround(true);
     track->setSpi(record.i020.spi);
     track->setState(record.i170.present && record.i170.cnf ? Track::Tentative : Track::Confirmed);
-    put(*track, place);
+    put(*track, *place);
     reports::setVelocity(*track, record.i200);
     track->recordHistory(now);
+    return takenBy(*track, identity, place);
 }
 
 // The radar's own measurement first, the only one that tracks are made of.
-Tracker::Place SmrTracker::placeOfReport(const _ast_datarecord_010_t &record) const
+std::optional<Tracker::Place> SmrTracker::placeOfReport(const _ast_datarecord_010_t &record) const
 {
     if (record.i040.present) {
         return placeOf(m_site, record.i040.rho, record.i040.theta);

@@ -14,12 +14,12 @@ public:
 
     SensorInfo::Type type() const override { return SensorInfo::SmrSensor; }
     void procAsterixMessage(const _ast_datablock_t &block) override;
-    void procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &) override { } // serves none
+    void procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &message) override { refuse(*message); }
 
 private:
-    void procCat010Message(const _ast_datarecord_010_t &record);
-    // Not valid where the report has no position.
-    Place placeOfReport(const _ast_datarecord_010_t &record) const;
+    Taken procCat010Message(const _ast_datarecord_010_t &record);
+    // Nothing where the report has no position.
+    std::optional<Place> placeOfReport(const _ast_datarecord_010_t &record) const;
 
     PolarOrigin m_site;
 };

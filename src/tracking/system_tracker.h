@@ -12,7 +12,7 @@ class SystemTracker : public Tracker {
     Q_OBJECT
 
 public:
-    void procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &) final { } // they send none
+    void procModeSMessage(const std::shared_ptr<korvane::modes::ModeSMessage> &message) final { refuse(*message); }
 
     // Positions of the kind are taken as if they had not been sent. Off at first.
     bool ignoreWgs84Coordinates() const { return m_ignoreWgs84Coordinates; }
@@ -51,6 +51,16 @@ protected:
         }
         const Place place = wgs84.present ? placeOf(wgs84.latitude, wgs84.longitude) : Place();
         return place.valid ? std::optional(place.plane) : std::nullopt;
+    }
+
+    // Where the target is, of the plane position as planePosition() makes it: nothing where the report has no position.
+    template <typename Wgs84Item>
+    static std::optional<Place> reportedPlace(const Wgs84Item &wgs84, const std::optional<QPointF> &plane)
+    {
+        if (plane) {
+            return Place{wgs84.latitude, wgs84.longitude, true, *plane};
+        }
+        return wgs84.present ? std::optional(Place{wgs84.latitude, wgs84.longitude}) : std::nullopt;
     }
 
     // Each position as it is reported, or derived from the other where only that one is; both are left as they were

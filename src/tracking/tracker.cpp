@@ -1,6 +1,7 @@
 #include "tracking/tracker.h"
 
 #include "geo/projector.h"
+#include "modes/mode_s_message.h"
 #include "tracking/adsb_tracker.h"
 #include "tracking/mlat_tracker.h"
 #include "tracking/radar_tracker.h"
@@ -52,7 +53,59 @@ QSharedPointer<Tracker> Tracker::create(const QSharedPointer<SensorInfo> &sensor
     return {};
 }
 
-void Tracker::procAleniaSirMMessage(const QSharedPointer<AleniaSirMRadarMessage> &) { }
+void Tracker::procAleniaSirMMessage(const QSharedPointer<AleniaSirMRadarMessage> &message)
+{
+    if (m_ledger) {
+        m_ledger->takeSirM(*message, ReportOutcome::WrongSensorKind);
+    }
+}
+
+void Tracker::handIn(const _ast_datablock_t &block, const _ast_datarecord_t &record, const Taken &taken) const
+{
+    if (!m_ledger) {
+        return;
+    }
+    TakenReport report;
+    report.category = static_cast<quint8>(block.category);
+    report.outcome = taken.outcome;
+    report.octets = record.data;
+    report.size = record.length;
+    report.record = &record;
+    report.trackNumber = taken.trackNumber;
+    report.sensorTrackNumber = taken.identity.number;
+    report.address = taken.identity.address;
+    report.place = taken.place;
+    m_ledger->take(report);
+}
+
+void Tracker::handIn(const korvane::modes::ModeSMessage &message, const Taken &taken) const
+{
+    if (!m_ledger) {
+        return;
+    }
+    TakenReport report;
+    report.form = TakenReport::Form::ModeS;
+    report.outcome = taken.outcome;
+    report.octets = message.frame().octets;
+    report.size = message.frame().length;
+    report.modeS = &message;
+    report.trackNumber = taken.trackNumber;
+    report.address = message.icaoAddr();
+    report.place = taken.place;
+    m_ledger->take(report);
+}
+
+void Tracker::refuse(const _ast_datablock_t &block) const
+{
+    for (const auto &record : block.records) {
+        handIn(block, record, {ReportOutcome::WrongSensorKind});
+    }
+}
+
+void Tracker::refuse(const korvane::modes::ModeSMessage &message) const
+{
+    handIn(message, {ReportOutcome::WrongSensorKind});
+}
 
 QSharedPointer<Track> Tracker::createTrack()
 {
@@ -116,12 +169,46 @@ QSharedPointer<Track> Tracker::associate(const Identity &identity, const QDateTi
     return track;
 }
 
-void Tracker::endTrack(const Identity &identity, const QDateTime &now)
+unsigned int Tracker::endTrack(const Identity &identity, const QDateTime &now)
 {
-    if (const auto track = find(identity, now)) {
-        track->setState(Track::Terminated);
-        m_trackManager->removeTrack(track);
+    const auto track = find(identity, now);
+    if (!track) {
+        return 0;
     }
+    track->setState(Track::Terminated);
+    m_trackManager->removeTrack(track);
+    return track->trackNumber();
+}
+
+// A track whose report has no place is shown at its last one.
+Tracker::Taken Tracker::takenBy(const Track &track, const Identity &identity, const std::optional<Place> &place)
+{
+    Taken taken{ReportOutcome::Track, track.trackNumber(), identity, {}};
+    if (place && place->valid) {
+        taken.place = place->plane;
+    } else if (place) {
+        taken.outcome = ReportOutcome::OutOfRange;
+    } else if (!track.carCoordinateValid()) {
+        taken.outcome = ReportOutcome::NoPosition;
+    }
+    return taken;
+}
+
+Tracker::Taken Tracker::takenAsPlot(const std::optional<Place> &place, bool isTest)
+{
+    if (!place) {
+        return {ReportOutcome::NoIdentity};
+    }
+    if (!place->valid) {
+        return {ReportOutcome::OutOfRange};
+    }
+    return {isTest ? ReportOutcome::TestTarget : ReportOutcome::Plot, 0, {}, place->plane};
+}
+
+Tracker::Taken Tracker::notNumbered(const Identity &identity, const std::optional<Place> &place)
+{
+    const bool placed = place && place->valid;
+    return {ReportOutcome::NoTrackNumber, 0, identity, placed ? std::optional(place->plane) : std::nullopt};
 }
 
 QSharedPointer<Track> Tracker::findByNumber(unsigned int number)

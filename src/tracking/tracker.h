@@ -5,6 +5,7 @@
 #include "geo/polar_origin.h"
 #include "sensors/sensor_info.h"
 #include "tracking/plot_store.h"
+#include "tracking/report_ledger.h"
 #include "tracking/track_manager.h"
 
 #include <QObject>
@@ -40,6 +41,10 @@ public:
     // at first: nowhere. The store must outlive the tracker.
     void setPlotStore(PlotStore *plots) { m_plots = plots; }
 
+    // Who is told what became of every record of a valid block and of every message, used or not. Null, as at first:
+    // nobody. The ledger must outlive the tracker.
+    void setLedger(ReportLedger *ledger) { m_ledger = ledger; }
+
     // The tracker for the sensor's type; null for a null sensor and for a type without a tracker.
     static QSharedPointer<Tracker> create(const QSharedPointer<SensorInfo> &sensor,
         const QSharedPointer<TrackManager> &trackManager, Projector *projector, QObject *parent = nullptr);
@@ -66,6 +71,32 @@ protected:
         }
     }
 
+    // What became of a report.
+    struct Taken {
+        ReportOutcome outcome = ReportOutcome::NoReader;
+        unsigned int trackNumber = 0; // of the system; 0: none
+        Identity identity = {};
+        std::optional<QPointF> place = {};
+    };
+
+    // Expands every record of a block that the category's disassembler reads and hands it on; the ledger is told what
+    // each has become.
+    template <typename Record, typename Disassemble, typename Take>
+    void takeEach(const _ast_datablock_t &block, Disassemble disassemble, Take takeRecord)
+    {
+        for (const auto &generic : block.records) {
+            Record record;
+            disassemble(&record, generic);
+            handIn(block, generic, record.valid ? takeRecord(record) : Taken{ReportOutcome::Malformed});
+        }
+    }
+    void handIn(const _ast_datablock_t &block, const _ast_datarecord_t &record, const Taken &taken) const;
+    void handIn(const korvane::modes::ModeSMessage &message, const Taken &taken) const;
+    // What sensors of this kind do not send.
+    void refuse(const _ast_datablock_t &block) const;
+    void refuse(const korvane::modes::ModeSMessage &message) const;
+
+    ReportLedger *ledger() const { return m_ledger; }
     TrackManager &trackManager() const { return *m_trackManager; }
     Projector &projector() const { return *m_projector; }
 
@@ -78,8 +109,8 @@ protected:
     // The track of a sensor that may know an aircraft by number, by address or by both, new where there was none; its
     // identity is brought up to date. The identity must be usable. Null as createTrack().
     QSharedPointer<Track> associate(const Identity &identity, const QDateTime &now);
-    // The source has ended the track: it goes at once.
-    void endTrack(const Identity &identity, const QDateTime &now);
+    // The source has ended the track: it goes at once. Its system track number; 0 where there is none.
+    unsigned int endTrack(const Identity &identity, const QDateTime &now);
 
     // Where a report's target is.
     struct Place {
@@ -91,6 +122,12 @@ protected:
     Place placeOf(double latitude, double longitude) const;
     // Metres over ground and degrees clockwise from north.
     Place placeOf(const PolarOrigin &origin, double distance, double bearing) const;
+
+    // A report with a track: nothing where it has no place.
+    static Taken takenBy(const Track &track, const Identity &identity, const std::optional<Place> &place);
+    // A report that names no track, or whose track got no number.
+    static Taken takenAsPlot(const std::optional<Place> &place, bool isTest);
+    static Taken notNumbered(const Identity &identity, const std::optional<Place> &place);
 
     // The report of now is a plot.
     void addPlot(const QPointF &planePosition, Track::Type type, const QDateTime &now) const
@@ -110,5 +147,6 @@ private:
     QSharedPointer<TrackManager> m_trackManager;
     Projector *m_projector;
     PlotStore *m_plots = nullptr;
+    ReportLedger *m_ledger = nullptr;
     QDateTime m_lastExhaustion; // when it was last reported that no track number is free
 };

@@ -19,6 +19,23 @@ struct Source {
 
 // Of several sources of a field the first ones that a UAP has count. Latitude and longitude keep the same order.
 constexpr Source Sources[] = {
+    {1, ReportField::TimeOfDay, "141"},
+    {2, ReportField::TimeOfDay, "030"},
+    {4, ReportField::TimeOfDay, "020"},
+    {8, ReportField::TimeOfDay, "090"},
+    {10, ReportField::TimeOfDay, "140"},
+    {19, ReportField::TimeOfDay, "140"},
+    {20, ReportField::TimeOfDay, "140"},
+    {21, ReportField::TimeOfDay, "030"}, // editions 0.23 and 0.26
+    {21, ReportField::TimeOfDay, "073"}, // from 2.1 on
+    {21, ReportField::TimeOfDay, "077"},
+    {23, ReportField::TimeOfDay, "070"},
+    {34, ReportField::TimeOfDay, "030"},
+    {48, ReportField::TimeOfDay, "140"},
+    {62, ReportField::TimeOfDay, "070"},
+    {63, ReportField::TimeOfDay, "030"},
+    {65, ReportField::TimeOfDay, "030"},
+    {240, ReportField::TimeOfDay, "140"},
     {1, ReportField::GroundSpeed, "200/GSP", Knots},
     {1, ReportField::TrackAngle, "200/HDG"},
     {1, ReportField::Level, "090/HGT", Feet},

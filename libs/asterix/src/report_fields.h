@@ -36,6 +36,7 @@ enum class ReportField : std::uint8_t {
     MilitaryEmergency,
     Spi,
     TestBit,
+    TimeOfDay,
     Count
 };
 

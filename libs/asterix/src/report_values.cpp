@@ -1,5 +1,6 @@
 #include "asterix/report_values.h"
 
+#include "asterix/report_time.h"
 #include "disassemble.h"
 #include "record_fields.h"
 
@@ -92,6 +93,19 @@ _ast_item_address_t ast_datarecord_get_icaoaddr(const _ast_datarecord_t &record)
 {
     const auto found = findBits(record, ReportField::Address);
     return found ? _ast_item_address_t{true, static_cast<std::uint32_t>(found->bits)} : _ast_item_address_t{};
+}
+
+_ast_time_of_day_t ast_datarecord_get_timeofday(const _ast_datarecord_t &record)
+{
+    constexpr double Day = 86400;
+    constexpr std::uint8_t WholeDayBits = 24;
+    const auto found = findBits(record, ReportField::TimeOfDay);
+    if (!found) {
+        return {};
+    }
+    const ReportPlace &place = *found->place;
+    const double period = place.bits < WholeDayBits ? std::ldexp(place.lsb, place.bits) : Day;
+    return {true, static_cast<double>(found->bits) * place.lsb, period};
 }
 
 _ast_item_callsign_t ast_datarecord_get_callsign(const _ast_datarecord_t &record)

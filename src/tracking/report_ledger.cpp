@@ -1,0 +1,72 @@
+#include "tracking/report_ledger.h"
+
+#include "asterix/asterix.h"
+#include "modes/mode_s_message.h"
+#include "sirm/alenia_sir_m_radar_message.h"
+
+void ReportLedger::takeRecord(std::uint32_t category, const _ast_datarecord_t &record, ReportOutcome outcome)
+{
+    TakenReport report;
+    report.category = static_cast<quint8>(category);
+    report.outcome = outcome;
+    report.octets = record.data;
+    report.size = record.length;
+    report.record = &record;
+    take(report);
+}
+
+namespace {
+
+const char *faultText(const korvane::modes::ModeSMessage &message)
+{
+    using Fault = korvane::modes::ModeSMessage::Fault;
+    switch (message.fault()) {
+    case Fault::Length:
+        return "the length is not that of the downlink format";
+    case Fault::Parity:
+        return "wrong parity";
+    default:
+        return "not decoded";
+    }
+}
+
+} // namespace
+
+void ReportLedger::takeModeS(const korvane::modes::ModeSMessage &message, ReportOutcome outcome)
+{
+    TakenReport report;
+    report.form = TakenReport::Form::ModeS;
+    report.outcome = outcome;
+    report.octets = message.frame().octets;
+    report.size = message.frame().length;
+    report.modeS = &message;
+    if (message.valid()) {
+        report.address = message.icaoAddr();
+    }
+    if (outcome == ReportOutcome::Malformed) {
+        report.fault = faultText(message);
+    }
+    take(report);
+}
+
+void ReportLedger::takeSirM(const AleniaSirMRadarMessage &message, ReportOutcome outcome)
+{
+    TakenReport report;
+    report.form = TakenReport::Form::AleniaSirM;
+    report.outcome = outcome;
+    report.sirM = &message;
+    const auto *data = dynamic_cast<const AleniaSirMRadarDataMessage *>(&message);
+    if (!data || (data->plotRecords().empty() && data->trackRecords().empty())) {
+        take(report);
+        return;
+    }
+    const auto takeAll = [&](const auto &records) {
+        for (const auto &record : records) {
+            report.octets = record.octets().data();
+            report.size = static_cast<quint32>(record.octets().size());
+            take(report);
+        }
+    };
+    takeAll(data->plotRecords());
+    takeAll(data->trackRecords());
+}
