@@ -333,6 +333,7 @@ void DataEngine::publishSnapshot()
         snapshot.alerts = m_alertManager->snapshotAlerts();
         snapshot.alertStatus = {m_alertProcessor->alertStatus(Alert::MSAW), m_alertProcessor->alertStatus(Alert::APW),
             m_alertProcessor->alertStatus(Alert::STCA)};
+        snapshot.netsHeard = m_alertManager->lastHeard();
         snapshot.time = m_clock->now();
         snapshot.recordedTime = m_clock->isRecorded();
         snapshot.messages = messagesReceived();

@@ -18,4 +18,5 @@ struct DisplaySnapshot {
     bool recordedTime = false; // a recording's own, also after its end, until another input is opened
     quint64 messages = 0; // received since the input was opened
     PlotHistory plots = {}; // also those of the snapshots before, so that who misses some misses no plot
+    QDateTime netsHeard = {}; // when the safety nets last sent anything, as time; invalid: not yet
 };

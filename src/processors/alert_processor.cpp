@@ -122,6 +122,7 @@ void AlertProcessor::procMessage(const _ast_datablock_t &block)
     if (!block.valid || block.category != 4) {
         return;
     }
+    m_alertManager->noteHeard();
     for (const _ast_datarecord_t &generic : block.records) {
         _ast_datarecord_004_t record;
         ast_datarecord_004_disassemble(&record, generic);

@@ -42,6 +42,7 @@ void Alert::setState(State state, const QDateTime &now)
     case Active:
         if (!active()) {
             m_startTime = now;
+            m_endedUnheard = false;
         }
         m_lastUpdate = now;
         break;

@@ -40,6 +40,9 @@ public:
     // Asking an active alert for Active refreshes it. An alert that has ended or terminated cannot end again; values
     // that are no state are ignored.
     void setState(State state, const QDateTime &now = QDateTime::currentDateTimeUtc());
+    // It ended because nothing was heard of the safety nets any more, not by their word; until it is active again.
+    bool endedUnheard() const { return m_endedUnheard; }
+    void setEndedUnheard(bool unheard) { m_endedUnheard = unheard; }
     // Type and state back to their start, last update and start time invalid; the rest stays.
     void reset();
 
@@ -87,6 +90,7 @@ private:
     unsigned int m_id;
     Type m_type = None;
     State m_state = Initial;
+    bool m_endedUnheard = false;
     Side m_track1;
     Side m_track2;
     QString m_objectName;

@@ -26,6 +26,7 @@ AlertSnapshot snapshotOf(const Alert &alert)
     snapshot.id = alert.id();
     snapshot.type = alert.type();
     snapshot.state = alert.state();
+    snapshot.endedUnheard = alert.endedUnheard();
     snapshot.stateString = alert.stateString();
     snapshot.objectName = alert.objectName();
     snapshot.lastUpdate = alert.lastUpdate();
@@ -94,6 +95,7 @@ void AlertManager::reset()
 {
     m_alertList.clear();
     m_alerts.clear();
+    m_lastHeard = {};
 }
 
 void AlertManager::checkLife()
@@ -102,6 +104,7 @@ void AlertManager::checkLife()
     const auto alerts = m_alerts.values(); // a copy: alerts are removed on the way
     for (const auto &alert : alerts) {
         if (alert->active() && alert->lastUpdate().msecsTo(time) >= m_activeLifeSpan) {
+            alert->setEndedUnheard(!m_lastHeard.isValid() || m_lastHeard <= alert->lastUpdate());
             alert->setState(Alert::End, time);
         } else if (alert->end() && alert->endTime().msecsTo(time) >= m_endLifeSpan) {
             alert->setState(Alert::Terminated, time);

@@ -36,6 +36,11 @@ public:
 
     QList<AlertSnapshot> snapshotAlerts() const;
 
+    // The safety nets have sent something, whatever it is.
+    void noteHeard() { m_lastHeard = now(); }
+    // When they last did, UTC; invalid: not since the last reset().
+    const QDateTime &lastHeard() const { return m_lastHeard; }
+
     // The UTC time by which alerts age.
     QDateTime now() const { return m_clock->now(); }
     void setClock(SharedClock clock) { m_clock = std::move(clock); }
@@ -49,6 +54,7 @@ private:
     QMap<quint32, QSharedPointer<Alert>> m_alerts; // by identifier
     QList<QSharedPointer<Alert>> m_alertList;
     QTimer m_lifeTimer;
+    QDateTime m_lastHeard;
     unsigned int m_activeLifeSpan = 8000;
     unsigned int m_endLifeSpan = 8000;
     SharedClock m_clock = std::make_shared<Clock>(); // the system's until another is set

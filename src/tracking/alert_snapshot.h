@@ -18,6 +18,7 @@ struct AlertSnapshot {
     unsigned int id = 0;
     Alert::Type type = Alert::None;
     Alert::State state = Alert::Initial;
+    bool endedUnheard = false; // for want of data, not by the safety nets' word
     QString stateString;
     QString objectName;
     QDateTime lastUpdate;

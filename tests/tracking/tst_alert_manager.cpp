@@ -95,6 +95,38 @@ private Q_SLOTS:
         QVERIFY(waiting->initial()); // never ages
     }
 
+    // Two alerts are last refreshed at second 10; what else the safety nets send decides how it looks when they end.
+    void endsUnheard()
+    {
+        for (const bool netsGoOn : {false, true}) {
+            AlertManager manager;
+            const auto clock = std::make_shared<Clock>();
+            manager.setClock(clock);
+            const auto left = manager.createAlert(1);
+            const auto ended = manager.createAlert(2);
+            for (int now = 0; now <= 20; ++now) {
+                clock->startRecorded(second(now));
+                if (now == 10 || (netsGoOn && now > 10)) {
+                    manager.noteHeard();
+                }
+                if (now == 10) {
+                    left->setState(Alert::Active, second(now));
+                    ended->setState(Alert::Active, second(now));
+                }
+                if (now == 12) {
+                    ended->setState(Alert::End, second(now));
+                }
+                manager.checkLife();
+            }
+            QVERIFY(left->end());
+            QCOMPARE(left->endedUnheard(), !netsGoOn);
+            QVERIFY(!ended->endedUnheard());
+            QCOMPARE(manager.snapshotAlerts().first().endedUnheard, !netsGoOn);
+            left->setState(Alert::Active, second(21));
+            QVERIFY(!left->endedUnheard());
+        }
+    }
+
     void removalUnlinksTracks()
     {
         AlertManager manager;
