@@ -9,6 +9,12 @@
 
 namespace {
 
+// An alert that ended only because nothing arrives may well go on.
+QString stateText(const AlertSnapshot &alert)
+{
+    return alert.endedUnheard ? AlertListModel::tr("End, no data") : alert.stateString;
+}
+
 AlertListEntry entryFor(const AlertSnapshot &alert, const AlertBoard &board)
 {
     AlertListEntry entry;
@@ -16,7 +22,7 @@ AlertListEntry entryFor(const AlertSnapshot &alert, const AlertBoard &board)
     entry.kind = Alert::typeString(alert.type);
     entry.state = alert.state;
     const bool acknowledged = board.isAcknowledged(entry.key);
-    entry.stateText = acknowledged ? AlertListModel::tr("Acknowledged") : alert.stateString;
+    entry.stateText = acknowledged ? AlertListModel::tr("Acknowledged") : stateText(alert);
     entry.asking = alert.state == Alert::Active && !acknowledged;
     entry.track1 = alert.track1.text;
     entry.track2 = alert.track2Applicable ? alert.track2.text : QString();
@@ -63,7 +69,7 @@ QList<ListColumn> AlertListModel::makeColumns()
         {tr("Track"), {}, "WWWW9999"},
         {tr("Other Track"), {}, "WWWW9999"},
         {tr("Area"), {}, "WWWWWWWWWW"},
-        {tr("State"), {}, tr("Terminated")},
+        {tr("State"), {}, tr("Acknowledged")},
         {tr("Begin UTC"), {}, "00:00:00"},
         {tr("End UTC"), {}, "00:00:00"},
     };

@@ -8,8 +8,10 @@
 
 #include <QDockWidget>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMainWindow>
 #include <QScopedValueRollback>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -76,8 +78,20 @@ void ListPanes::connectAlertList()
     connect(m_tracks, &GeoTrackDisplay::acknowledged, this, &ListPanes::updateAlertList);
 }
 
-QDockWidget *ListPanes::addDock(const QString &title, const QString &name, QWidget *content)
+QDockWidget *ListPanes::addDock(const QString &title, const QString &name, QWidget *list)
 {
+    auto *content = new QWidget(m_window);
+    auto *warning = new QLabel(content);
+    warning->setAlignment(Qt::AlignCenter);
+    warning->setTextFormat(Qt::PlainText);
+    warning->setWordWrap(true);
+    warning->hide();
+    m_warnings.append(warning);
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(warning);
+    layout->addWidget(list);
     auto *dock = new QDockWidget(title, m_window);
     dock->setObjectName(name); // under which the window's state remembers it
     dock->setWidget(content);
@@ -98,6 +112,15 @@ void ListPanes::setEmptyTexts(const QString &tracks, const QString &alerts)
 {
     m_trackView->setEmptyText(tracks);
     m_alertView->setEmptyText(alerts);
+}
+
+void ListPanes::setWarning(Urgency urgency, const QString &text)
+{
+    for (QLabel *warning : std::as_const(m_warnings)) {
+        warning->setStyleSheet(urgencyStyle(urgency) + QStringLiteral("; padding: 3px; font-weight: bold"));
+        warning->setText(text);
+        warning->setVisible(!text.isEmpty());
+    }
 }
 
 void ListPanes::setAddresses(const korvane::airdb::ICAOAddrDictionary &addresses)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/display_snapshot.h"
+#include "widgets/urgency.h"
 
 #include <QObject>
 #include <QSharedPointer>
@@ -12,6 +13,7 @@ class AlertListModel;
 class GeoTrackDisplay;
 class ListView;
 class QDockWidget;
+class QLabel;
 class QMainWindow;
 class TrackListModel;
 namespace korvane::airdb {
@@ -36,6 +38,8 @@ public:
     void start();
     // What stands in the place of the rows while there are none.
     void setEmptyTexts(const QString &tracks, const QString &alerts);
+    // A line over both lists that says what is wrong with what they show; empty: nothing is.
+    void setWarning(Urgency urgency, const QString &text);
     // Where the countries of registration are looked up, from the next tracks on.
     void setAddresses(const korvane::airdb::ICAOAddrDictionary &addresses);
 
@@ -68,7 +72,7 @@ private:
     void makeLists();
     void connectTrackList();
     void connectAlertList();
-    QDockWidget *addDock(const QString &title, const QString &name, QWidget *content);
+    QDockWidget *addDock(const QString &title, const QString &name, QWidget *list);
     bool outOfSight(const ListView *list) const;
 
     QMainWindow *m_window;
@@ -80,6 +84,7 @@ private:
     ListView *m_alertView = nullptr;
     QDockWidget *m_trackDock = nullptr;
     QDockWidget *m_alertDock = nullptr;
+    QList<QLabel *> m_warnings; // one over each list; the docks'
     QTimer m_trackTimer;
     QTimer m_alertTimer;
     bool m_updating = false; // the program moves the selection, not the operator

@@ -8,6 +8,7 @@
 #include "display/geo_map_display.h"
 #include "display/geo_track_display.h"
 #include "engine/data_engine.h"
+#include "health/input_health.h"
 #include "lists/list_panes.h"
 #include "orientation/geo_map_key.h"
 #include "orientation/geo_sensor_map.h"
@@ -17,6 +18,7 @@
 #include "sensors/sensor_info.h"
 #include "sensors/sensor_manager.h"
 #include "settings/track_label_format_window.h"
+#include "silence/geo_last_place_map.h"
 #include "ui/actions.h"
 #include "ui/empty_scope.h"
 #include "ui/home_view.h"
@@ -93,6 +95,7 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     connectRecordings();
     connectDisplay();
     connectScopeNotices();
+    connectHealth();
     connectInputActions();
     connectViewActions();
     connectTrackActions();
@@ -194,6 +197,7 @@ void MainWindow::makeParts()
     m_session = std::make_unique<InputSession>(&m_config, &m_host);
     m_pump = std::make_unique<SnapshotPump>(&m_host.shared(), m_mapDisplay.get(), m_trackDisplay.get());
     m_emptyScope = std::make_unique<EmptyScope>();
+    m_health = std::make_unique<InputHealth>(m_mapDisplay->addLayer<GeoLastPlaceMap>(MapLayer::Plots));
     m_plotSwitch = std::make_unique<PlotSwitch>(m_mapDisplay->plotMap(), (*m_actions)[ActionId::TogglePlots]);
     m_lists = std::make_unique<ListPanes>(this, m_trackDisplay.get(), [this] { return m_pump->newest(); });
     m_trackCommands = std::make_unique<TrackCommands>(m_actions, m_geoWidget, m_trackDisplay.get(), m_lists.get());
@@ -445,6 +449,7 @@ void MainWindow::applySensor()
     m_session->setSensor(m_config.live().sensor(nullptr));
     placeDefaultLayout();
     m_mapDisplay->setSensor(m_session->sensor());
+    m_health->setSensor(m_session->sensor().data());
     m_readOuts->setSensorPlace(m_session->sensor() ? m_session->sensor()->location() : GeoCoordinate());
     beginRadarPicture();
     updateNotices();

@@ -21,6 +21,7 @@ class GeoMapDisplay;
 class GeoTrackDisplay;
 class GeoWidget;
 class HomeView;
+class InputHealth;
 class InputSession;
 class LayoutMenu;
 class ListPanes;
@@ -189,6 +190,7 @@ private:
     void connectRecordings();
     void connectDisplay();
     void connectScopeNotices();
+    void connectHealth();
     void connectInputActions();
     void connectViewActions();
     void connectTrackActions();
@@ -223,6 +225,8 @@ private:
     // What the window shows of the session.
     void showSession();
     void updateInputActions();
+    void tellHealthOfInput();
+    void showHealth();
     // Why the scope is empty or old, or shows plots; empty when that needs no words.
     QString scopeNotice() const;
     void updateNotices();
@@ -263,6 +267,7 @@ private:
     std::unique_ptr<SnapshotPump> m_pump;
     std::unique_ptr<PlotSwitch> m_plotSwitch;
     std::unique_ptr<EmptyScope> m_emptyScope;
+    std::unique_ptr<InputHealth> m_health;
     std::unique_ptr<ListPanes> m_lists;
     std::unique_ptr<TrackCommands> m_trackCommands;
     std::unique_ptr<HomeView> m_home;

@@ -1,5 +1,6 @@
 // What can be asked of the window, handed on to the part that does it, and what the window shows of the session.
 
+#include "health/input_health.h"
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
 #include "ui/actions.h"
@@ -94,6 +95,7 @@ void MainWindow::showSession()
 {
     m_pump->setInputLive(!m_session->replaying());
     updateInputActions();
+    tellHealthOfInput();
     updateNotices();
 }
 
@@ -105,6 +107,43 @@ void MainWindow::updateInputActions()
     pause->setEnabled(inputOpen());
     pause->setChecked(m_session->paused());
     (*m_actions)[ActionId::Record]->setEnabled(inputOpen() && !m_session->replaying());
+}
+
+void MainWindow::connectHealth()
+{
+    InputHealth *health = m_health.get();
+    connect(health, &InputHealth::logMessage, this, &MainWindow::showLog);
+    connect(health, &InputHealth::changed, this, &MainWindow::showHealth);
+    connect(m_session.get(), &InputSession::openingBegun, health, &InputHealth::beginInput);
+    connect(m_pump.get(), &SnapshotPump::snapshotTaken, health, &InputHealth::look);
+}
+
+void MainWindow::tellHealthOfInput()
+{
+    QSet<quint16> ports;
+    if (inputOpen() && config().inputComm == Config::InputComm::Udp) {
+        if (!config().inputUdpMulticast1) {
+            ports.insert(config().inputUdpPort1);
+        }
+        if (config().inputEnable2 && !config().inputUdpMulticast2) {
+            ports.insert(config().inputUdpPort2);
+        }
+    }
+    m_health->setInput(m_session->description(), inputOpen() && !m_session->paused(), ports);
+}
+
+// Nothing is said twice: silence goes before what else there would be to say of an open input.
+void MainWindow::showHealth()
+{
+    const auto &warning = m_health->notice();
+    if (warning) {
+        m_scopeNotice->showWarning(warning->urgency, warning->headline, warning->text);
+        m_lists->setWarning(warning->urgency, warning->headline);
+    } else {
+        m_scopeNotice->showText(scopeNotice());
+        m_lists->setWarning(Urgency::Note, {});
+    }
+    m_readOuts->showNetsUnheard(m_health->netsUnheard());
 }
 
 QString MainWindow::scopeNotice() const
@@ -121,7 +160,7 @@ QString MainWindow::scopeNotice() const
 void MainWindow::updateNotices()
 {
     const QString input = m_session->description();
-    m_scopeNotice->showText(scopeNotice());
+    showHealth();
     const QString idle = tr("No input is running.");
     const QString waiting =
         m_session->replaying() ? tr("No tracks yet in %1.").arg(input) : tr("No tracks. Listening on %1.").arg(input);

@@ -9,15 +9,29 @@ constexpr int DistanceFromTop = 16;
 ScopeNotice::ScopeNotice(QWidget *scope) : QLabel(scope)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignCenter);
-    setStyleSheet("color: white; background-color: rgba(32, 36, 40, 220); padding: 8px 14px; border-radius: 4px");
     scope->installEventFilter(this);
     hide();
 }
 
 void ScopeNotice::showText(const QString &text)
 {
+    show(Urgency::Note, Qt::PlainText, text);
+}
+
+void ScopeNotice::showWarning(Urgency urgency, const QString &headline, const QString &text)
+{
+    const QString pattern = QStringLiteral("<div style='font-size: x-large; font-weight: bold'>%1</div><div>%2</div>");
+    show(urgency, Qt::RichText, pattern.arg(headline.toHtmlEscaped(), text.toHtmlEscaped()));
+}
+
+void ScopeNotice::show(Urgency urgency, Qt::TextFormat format, const QString &text)
+{
+    const QString style = urgencyStyle(urgency) + QStringLiteral("; padding: 8px 14px; border-radius: 4px");
+    if (styleSheet() != style) { // setting one costs a new layout
+        setStyleSheet(style);
+    }
+    setTextFormat(format);
     setText(text);
     setVisible(!text.isEmpty());
     place();

@@ -4,6 +4,7 @@
 #include "geo/projector.h"
 #include "geo/wgs84.h"
 #include "widgets/figure_font.h"
+#include "widgets/urgency.h"
 
 #include <QDateTime>
 #include <QStatusBar>
@@ -30,6 +31,10 @@ StatusReadOuts::StatusReadOuts(QStatusBar *bar, Projector *projector)
         m_alerts[i]->setText(names[i]);
         showAlertStatus(static_cast<int>(i) + 1, false);
     }
+    m_netsMark = addReadOut(bar, "NOT HEARD", {});
+    m_netsMark->setText(tr("NOT HEARD"));
+    m_netsMark->setStyleSheet(urgencyStyle(Urgency::Caution));
+    m_netsMark->hide();
     m_localClock = addReadOut(bar, "CEST 00:00:00", {});
     m_utcClock = addReadOut(bar, "REC UTC 00:00:00", {});
     setTimeZone("UTC");
@@ -85,6 +90,12 @@ void StatusReadOuts::showAlertStatus(int type, bool on)
     }
     m_alerts[static_cast<std::size_t>(type) - 1]->setStyleSheet(
         on ? "color: white; background-color: green" : "color: white; background-color: gray");
+}
+
+void StatusReadOuts::showNetsUnheard(const QString &explanation)
+{
+    m_netsMark->setToolTip(explanation);
+    m_netsMark->setVisible(!explanation.isEmpty());
 }
 
 void StatusReadOuts::setTimeZone(const QString &name)

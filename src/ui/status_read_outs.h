@@ -29,6 +29,8 @@ public:
     void showRotation(double degrees);
     // Types are Alert::Type; any other number is ignored.
     void showAlertStatus(int type, bool on);
+    // Beside the indicators, which keep what they last showed. Empty: the safety nets are heard.
+    void showNetsUnheard(const QString &explanation);
     // An IANA id, or "LCL" for the system's own zone under just that label; an unknown id gives UTC alone.
     void setTimeZone(const QString &name);
     void showTime(const QDateTime &now);
@@ -42,6 +44,7 @@ public:
     QLabel *rotation() const { return m_rotation; }
     QLabel *localClock() const { return m_localClock; }
     QLabel *utcClock() const { return m_utcClock; }
+    QLabel *netsMark() const { return m_netsMark; }
     // MSAW, APW, STCA.
     QLabel *alertIndicator(int index) const { return m_alerts.at(static_cast<std::size_t>(index)); }
 
@@ -59,6 +62,7 @@ private:
     QLabel *m_scale;
     QLabel *m_rotation;
     std::array<QLabel *, 3> m_alerts = {};
+    QLabel *m_netsMark;
     QLabel *m_localClock;
     QLabel *m_utcClock;
 };

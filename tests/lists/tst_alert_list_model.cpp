@@ -42,6 +42,9 @@ void TestAlertListModel::showsAlerts()
     area.objectName = "LO-R 16";
     area.track2Applicable = false;
     area.endTime = area.startTime.addSecs(5);
+    area.state = Alert::End;
+    area.stateString = "End";
+    area.endedUnheard = true;
     model.setAlerts({conflict(1, 7, 8), area});
 
     const auto row = [&model](int number) {
@@ -52,7 +55,7 @@ void TestAlertListModel::showsAlerts()
         return texts;
     };
     QCOMPARE(row(0), QStringList({"STCA", "VYX1", "VYX2", "", "Active", "23:59:51", ""}));
-    QCOMPARE(row(1), QStringList({"APW", "VYX1", "", "LO-R 16", "Active", "23:59:52", "23:59:57"}));
+    QCOMPARE(row(1), QStringList({"APW", "VYX1", "", "LO-R 16", "End, no data", "23:59:52", "23:59:57"}));
 
     model.setAlerts({area, conflict(20, 0, 8)}); // the latter starts after midnight
     QCOMPARE(model.rowCount(), 2);
