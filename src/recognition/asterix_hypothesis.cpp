@@ -18,24 +18,44 @@ void AsterixHypothesis::add(std::span<const unsigned char> message, std::optiona
     qint64 withoutTable = 0;
     bool anyBlock = false;
     while (!left.empty() && ast_datablock_smart_decode(&m_block, left.data(), left.size()) && m_block.size > 0) {
+        const unsigned char *data = left.data();
         left = left.subspan(m_block.size);
         anyBlock = true;
         m_explained += m_block.valid ? m_block.size : 0;
         withoutTable += m_block.error == korvane::asterix::Error::UnknownCategory ? m_block.size : 0;
-        addBlock(timeMs);
+        addBlock(data, timeMs);
     }
     // A length that fits by chance leaves something over.
     m_explained += left.empty() ? withoutTable : 0;
-    m_undecodable += !anyBlock || left.size() > LongestTrailer ? static_cast<qint64>(left.size()) : 0;
+    addRest(left.size(), anyBlock);
 }
 
-void AsterixHypothesis::addBlock(std::optional<qint64> timeMs)
+// What the walk over the blocks of a message stopped at.
+void AsterixHypothesis::addRest(std::size_t octets, bool anyBlock)
+{
+    if (octets == 0) {
+        return;
+    }
+    if (anyBlock && octets <= LongestTrailer) {
+        ++m_trailers[octets];
+        return;
+    }
+    m_undecodable += static_cast<qint64>(octets);
+    m_cutShort += anyBlock && m_block.error == korvane::asterix::Error::BlockTruncated;
+}
+
+void AsterixHypothesis::addBlock(const unsigned char *data, std::optional<qint64> timeMs)
 {
     const auto category = static_cast<int>(m_block.category);
-    const int source = sourceOfBlock();
+    const int source = m_block.records.empty() ? knownSourceIn(data) : sourceOfBlock();
+    SourceTally &tally = m_sources[source];
+    tally.addBlock(category);
+    if (tally.wantsJudgement(category)) {
+        tally.addJudgement(category, m_judge.judge(data, m_block.size));
+    }
     if (!m_block.valid) {
         m_undecodable += m_block.size;
-        m_sources[source].addUndecodable(category, m_block.size);
+        tally.addUndecodable(m_block);
         return;
     }
     for (const _ast_datarecord_t &record : m_block.records) {
@@ -56,11 +76,42 @@ int AsterixHypothesis::sourceOfBlock() const
     return NoSource;
 }
 
+// Of a block without a record: the source that its first octets name, if it has been heard before. In all categories it
+// comes first, where it is sent.
+int AsterixHypothesis::knownSourceIn(const unsigned char *data) const
+{
+    constexpr std::uint32_t Header = 3;
+    std::uint32_t at = Header;
+    while (at < m_block.size && (data[at] & 1)) {
+        ++at;
+    }
+    if (at + 2 >= m_block.size || !(data[Header] & 0x80)) {
+        return NoSource;
+    }
+    const int source = data[at + 1] * SicsPerSac + data[at + 2];
+    return m_sources.contains(source) ? source : NoSource;
+}
+
+TrailerFindings AsterixHypothesis::trailers() const
+{
+    TrailerFindings trailers;
+    for (const auto &[octets, messages] : m_trailers) {
+        trailers.messages += messages;
+        if (messages > trailers.alike) {
+            trailers.octets = static_cast<int>(octets);
+            trailers.alike = messages;
+        }
+    }
+    return trailers;
+}
+
 void AsterixHypothesis::report(StreamFindings *findings) const
 {
     findings->kind = Config::ProcessorType::Asterix;
     findings->asterixFormat = m_format;
     findings->undecodableOctets = m_undecodable;
+    findings->cutShort = m_cutShort;
+    findings->trailers = trailers();
     for (const auto &[key, tally] : m_sources) {
         SourceFindings source = tally.findings();
         source.identified = key != NoSource;

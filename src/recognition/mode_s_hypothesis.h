@@ -15,6 +15,7 @@ public:
 
     void add(std::span<const unsigned char> message, std::optional<qint64> timeMs) override;
     qint64 explained() const override { return m_explained; }
+    StreamFormat format() const override { return {.kind = Config::ProcessorType::ModeS, .modeS = m_format}; }
     void report(StreamFindings *findings) const override;
 
 private:

@@ -37,7 +37,8 @@ void readMessages(FileReader &reader, RecordingFindings *findings)
     }
     findings->whole = packet.kind != DataPacket::Data;
     if (packet.kind == DataPacket::Error) {
-        findings->damage = tr("%1 (at octet %2)").arg(packet.error).arg(packet.offset);
+        const QString error = packet.error.endsWith(u'.') ? packet.error.chopped(1) : packet.error;
+        findings->damage = tr("%1 (at octet %2).").arg(error).arg(packet.offset);
     }
     findings->stream = analyser.findings();
 }

@@ -12,7 +12,7 @@ struct RecordingFindings {
     korvane::astfile::RecFile::Format format = korvane::astfile::RecFile::Unknown;
     // Why it cannot be played, as one sentence; empty where it can.
     QString fault;
-    // From where on it is damaged, and how, within what was looked at; empty where it is not.
+    // From where on it is damaged, and how, within what was looked at, as one sentence; empty where it is not.
     QString damage;
     bool whole = false; // all of it was looked at
     StreamFindings stream;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace {
 
@@ -14,6 +15,14 @@ constexpr int CategoryOfEditions = 21;
 // Within them a flat map and a round Earth are near enough to each other to tell where the source's origin is.
 constexpr double FarthestForSite = 60000.0; // metres
 constexpr double LargestSiteSpread = 1000.0; // metres
+
+// Of a category; enough to tell editions apart, and no burden on long recordings.
+constexpr qint64 MostJudgedBlocks = 5000;
+
+QString textOf(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 
 } // namespace
 
@@ -71,9 +80,57 @@ void SourceTally::addAntenna(const ReportFacts &facts, std::optional<qint64> tim
     m_statedSite = facts.site ? facts.site : m_statedSite;
 }
 
-void SourceTally::addUndecodable(int category, qint64 octets)
+void SourceTally::addUndecodable(const _ast_datablock_t &block)
 {
-    m_categories[category].counts.undecodableOctets += octets;
+    CategoryFindings &counts = m_categories[static_cast<int>(block.category)].counts;
+    counts.undecodableOctets += block.size;
+    ++counts.undecodableBlocks;
+    counts.hasTable = block.error != korvane::asterix::Error::UnknownCategory;
+    if (counts.fault.isEmpty()) {
+        counts.fault = QString::fromLatin1(korvane::asterix::errorText(block.error));
+        counts.faultOffset = block.errorOffset;
+    }
+}
+
+bool SourceTally::wantsJudgement(int category) const
+{
+    const auto tally = m_categories.find(category);
+    return tally == m_categories.end() || tally->second.counts.judgedBlocks < MostJudgedBlocks;
+}
+
+void SourceTally::addJudgement(int category, std::span<const korvane::asterix::EditionFit> fits)
+{
+    Category &tally = m_categories[category];
+    ++tally.counts.judgedBlocks;
+    tally.judged.resize(fits.size());
+    const auto whole = std::count_if(fits.begin(), fits.end(), [](const auto &fit) { return fit.isWhole; });
+    for (std::size_t i = 0; i < fits.size(); ++i) {
+        EditionFindings &edition = tally.judged[i];
+        if (edition.edition.isEmpty()) {
+            edition.edition = textOf(fits[i].edition);
+        }
+        edition.wholeBlocks += fits[i].isWhole;
+        edition.onlyBlocks += fits[i].isWhole && whole == 1;
+        edition.records += fits[i].isWhole ? fits[i].records : 0;
+        edition.oddRecords += fits[i].isWhole ? fits[i].oddRecords : 0;
+    }
+}
+
+// The one that decoded most of the records is the best; then those that read the most.
+void SourceTally::reportEditions(const Category &tally, CategoryFindings *category)
+{
+    const auto most = std::max_element(
+        tally.editions.begin(), tally.editions.end(), [](const auto &a, const auto &b) { return a.second < b.second; });
+    if (most != tally.editions.end()) {
+        category->edition = textOf(most->first);
+        category->editionRecords = most->second;
+    }
+    category->editions = QList<EditionFindings>(tally.judged.begin(), tally.judged.end());
+    const auto worth = [category](const EditionFindings &edition) {
+        return std::tuple(edition.edition == category->edition, edition.wholeBlocks, -edition.oddRecords);
+    };
+    std::stable_sort(category->editions.begin(), category->editions.end(),
+        [worth](const EditionFindings &a, const EditionFindings &b) { return worth(a) > worth(b); });
 }
 
 SourceFindings SourceTally::findings() const
@@ -83,12 +140,7 @@ SourceFindings SourceTally::findings() const
         CategoryFindings category = tally.counts;
         category.category = number;
         category.editionChosen = number == CategoryOfEditions;
-        const auto most = std::max_element(tally.editions.begin(), tally.editions.end(),
-            [](const auto &a, const auto &b) { return a.second < b.second; });
-        if (most != tally.editions.end()) {
-            category.edition = QString::fromUtf8(most->first.data(), static_cast<qsizetype>(most->first.size()));
-            category.editionRecords = most->second;
-        }
+        reportEditions(tally, &category);
         findings.categories += category;
     }
     std::stable_partition(findings.categories.begin(), findings.categories.end(),

@@ -6,9 +6,9 @@
 #include <QDateTime>
 
 #include <memory>
+#include <optional>
+#include <span>
 #include <vector>
-
-class StreamHypothesis;
 
 // Finds out what a stream of messages holds, of which nothing is known: a recording's, or those that arrive on a
 // socket. Reads nothing by itself. For one thread.
@@ -29,10 +29,16 @@ public:
     StreamFindings findings() const;
 
 private:
-    const StreamHypothesis *best() const;
-    void dropUnlikely();
+    struct Candidate;
 
-    std::vector<std::unique_ptr<StreamHypothesis>> m_hypotheses;
+    // Index.
+    std::size_t best() const;
+    void askCandidates(std::span<const unsigned char> message, std::optional<qint64> timeMs);
+    void compare(qint64 octets);
+    void sortOutUnlikely();
+    void reportAdmixtures(StreamFindings *findings) const;
+
+    std::vector<Candidate> m_candidates;
     StreamFindings m_counts; // what does not depend on the kind of data
-    qint64 m_nextDrop = 0; // octets
+    qint64 m_nextSorting = 0; // octets
 };

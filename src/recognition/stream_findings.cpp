@@ -35,7 +35,7 @@ QString listOf(const QStringList &parts)
 
 QString categoryText(const CategoryFindings &category)
 {
-    const QString name = QStringLiteral("CAT%1").arg(category.category, 3, 10, QLatin1Char('0'));
+    const QString name = categoryName(category.category);
     if (category.records == 0) {
         return tr("%1 (cannot be decoded)").arg(name);
     }
@@ -231,6 +231,28 @@ const CategoryFindings *SourceFindings::find(int category) const
 QString SourceFindings::name() const
 {
     return identified ? QStringLiteral("%1/%2").arg(sac).arg(sic) : tr("a source without SAC/SIC");
+}
+
+QString categoryName(int category)
+{
+    return QStringLiteral("CAT%1").arg(category, 3, 10, QLatin1Char('0'));
+}
+
+QString formatText(const StreamFormat &format)
+{
+    switch (format.kind) {
+    case Config::ProcessorType::Asterix:
+        return format.asterix == Config::AsterixFormat::Raw
+            ? tr("ASTERIX")
+            : tr("ASTERIX in %1").arg(Config::asterixFormatName(format.asterix));
+    case Config::ProcessorType::ModeS:
+        return tr("Mode S (%1)").arg(QString::fromStdString(ModeSEncapsulation::name(format.modeS)));
+    case Config::ProcessorType::AleniaSirM:
+        break;
+    }
+    return format.aleniaSirM == Config::AleniaSirMFormat::Raw
+        ? tr("Alenia SIR-M")
+        : tr("Alenia SIR-M in %1").arg(Config::aleniaSirMFormatName(format.aleniaSirM));
 }
 
 QString describe(const SourceFindings &source)

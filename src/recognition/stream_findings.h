@@ -5,6 +5,7 @@
 #include "modes/mode_s_encapsulation.h"
 #include "sensors/sensor_type.h"
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QList>
 #include <QString>
@@ -20,6 +21,15 @@ struct PositionArea {
     double radius = 0.0; // metres around the centre in which nine of ten of them lie
 };
 
+// How one edition's table suits what a source sent in a category.
+struct EditionFindings {
+    QString edition; // "2.7"
+    qint64 wholeBlocks = 0; // that it reads to their end
+    qint64 onlyBlocks = 0; // that no other edition reads to their end
+    qint64 records = 0; // of the whole blocks
+    qint64 oddRecords = 0; // of them, with values out of range or bits that the edition leaves unused
+};
+
 // What one source sent in one ASTERIX category.
 struct CategoryFindings {
     int category = 0;
@@ -28,6 +38,14 @@ struct CategoryFindings {
     qint64 editionRecords = 0; // those that were decoded by it
     qint64 records = 0;
     qint64 undecodableOctets = 0; // of blocks with a fault in them, or of a category without a table
+    qint64 blocks = 0;
+    qint64 undecodableBlocks = 0;
+    bool hasTable = true; // false: no edition of the category is built in
+    // Of the first of the undecodable blocks: why, in English, and octets from its beginning to the fault.
+    QString fault;
+    qint64 faultOffset = 0;
+    QList<EditionFindings> editions; // in which the first so many blocks were read, the best one first
+    qint64 judgedBlocks = 0;
 
     // Records that carry the item.
     qint64 trackNumbers = 0;
@@ -85,6 +103,27 @@ struct SirMFindings {
     double rotationPeriod = 0.0; // seconds; 0: not known
 };
 
+// A way to take messages apart: the kind of data and its encapsulation, of which the one of the kind counts.
+struct StreamFormat {
+    Config::ProcessorType kind = Config::ProcessorType::Asterix;
+    Config::AsterixFormat asterix = Config::AsterixFormat::Raw;
+    korvane::modes::ModeSEncapsulation::Format modeS = korvane::modes::ModeSEncapsulation::DefaultFormat;
+    Config::AleniaSirMFormat aleniaSirM = Config::AleniaSirMFormat::Raw;
+};
+
+// Messages in a stream that make sense in another format than the rest of it, and none in that of the rest.
+struct Admixture {
+    StreamFormat format;
+    qint64 messages = 0;
+};
+
+// Octets that follow the last block of messages and begin no other one.
+struct TrailerFindings {
+    qint64 messages = 0; // that have any
+    int octets = 0; // of the most frequent length
+    qint64 alike = 0; // messages with that length
+};
+
 struct StreamFindings {
     std::optional<Config::ProcessorType> kind; // nothing: none of those known
     // The one of the kind counts.
@@ -98,10 +137,20 @@ struct StreamFindings {
     QDateTime first; // earliest and latest time of the messages, UTC; invalid where they have none
     QDateTime last;
 
+    QByteArray beginning; // the first octets of the first message
+    QList<Admixture> admixtures; // the most frequent first
+    TrailerFindings trailers; // ASTERIX
+    qint64 cutShort = 0; // ASTERIX: messages whose last block is longer than what is left of them
+
     QList<SourceFindings> sources; // ASTERIX; by SAC/SIC
     ModeSFindings modeS;
     SirMFindings sirM;
 };
+
+// "ASTERIX", "ASTERIX in HDLC Frame", "Mode S (Beast)".
+QString formatText(const StreamFormat &format);
+// "CAT048"
+QString categoryName(int category);
 
 // "CAT048 and CAT034 from 25/11, polar positions, track numbers, turning once in 4.0 s".
 QString describe(const SourceFindings &source);

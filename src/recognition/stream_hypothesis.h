@@ -17,6 +17,7 @@ public:
     virtual void add(std::span<const unsigned char> message, std::optional<qint64> timeMs) = 0;
     // Octets so far that make sense this way: the greater, the more likely.
     virtual qint64 explained() const = 0;
+    virtual StreamFormat format() const = 0;
     // Fills in what concerns this kind of data.
     virtual void report(StreamFindings *findings) const = 0;
 };

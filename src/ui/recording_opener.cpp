@@ -2,6 +2,7 @@
 
 #include "app/run_config.h"
 #include "recognition/input_proposal.h"
+#include "recognition/stream_diagnosis.h"
 #include "sensors/radar_sensor_info.h"
 #include "settings/sensor_site_window.h"
 #include "ui/input_session.h"
@@ -101,6 +102,7 @@ void RecordingOpener::take(const RecordingFindings &findings)
         return;
     }
     Q_EMIT logMessage(LogLevel::Info, tr("%1 holds %2.").arg(name, describe(findings.stream)));
+    logDiagnosis(findings);
     InputProposal proposal(findings.stream, *m_sensors);
     Config proposed = m_config->live();
     proposal.applyTo(&proposed);
@@ -124,6 +126,17 @@ void RecordingOpener::take(const RecordingFindings &findings)
     }
     Q_EMIT settingsProposed(m_config->setAside(proposed, ProposedGroups));
     m_session->play(findings.fileName);
+}
+
+// What is as it should be needs no line.
+void RecordingOpener::logDiagnosis(const RecordingFindings &findings)
+{
+    for (const DiagnosisRemark &remark : diagnose(findings)) {
+        if (remark.level != DiagnosisRemark::Level::Fine) {
+            const bool isWrong = remark.level == DiagnosisRemark::Level::Wrong;
+            Q_EMIT logMessage(isWrong ? LogLevel::Warning : LogLevel::Info, remarkText(remark));
+        }
+    }
 }
 
 // False when the operator does not tell it.

@@ -49,6 +49,7 @@ Q_SIGNALS:
 private:
     void showWait(const QString &fileName);
     void take(const RecordingFindings &findings);
+    void logDiagnosis(const RecordingFindings &findings);
     bool settleSite(InputProposal *proposal);
     bool askSite(InputProposal *proposal);
     void takeProvisionalSite(InputProposal *proposal);

@@ -3,11 +3,15 @@
 #include "octets.h"
 #include "test_program.h"
 #include "vyx-asterix/command_line.h"
+#include "vyx-asterix/doctor_command.h"
 #include "vyx-asterix/encode_command.h"
 #include "vyx-asterix/input_file.h"
 #include "vyx-asterix/stat_command.h"
 
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -91,7 +95,8 @@ private Q_SLOTS:
         good({"decode", "--uap", "48=1.32", "--uap", "62=1.21", "FILE"}, Verb::Decode);
         good({"decode", "--expand", "FILE"}, Verb::Decode);
         good({"encode", "-", "-o", "OUT"}, Verb::Encode);
-        bad({}, "decode, encode or stat");
+        good({"doctor", "FILE", "--json"}, Verb::Doctor);
+        bad({}, "decode, encode, stat or doctor");
         bad({"decode", "A", "B"}, "one argument too many");
         bad({"decode", "--uap"}, "needs a value");
         bad({"decode", "--uap", "48", "FILE"}, "CATEGORY=EDITION");
@@ -99,6 +104,8 @@ private Q_SLOTS:
         bad({"decode", "--uap", "-48=1.32", "FILE"}, "no table");
         bad({"decode", "-o", "OUT", "FILE"}, "unknown option");
         bad({"stat", "--expand", "FILE"}, "unknown option");
+        bad({"stat", "--json", "FILE"}, "unknown option");
+        bad({"doctor", "--uap", "48=1.32", "FILE"}, "unknown option");
     }
 
     void readsArguments()
@@ -118,6 +125,34 @@ private Q_SLOTS:
         QCOMPARE(line.isExpanding, isGood && arguments.contains("--expand"));
         QCOMPARE(
             line.editions.size(), isGood ? static_cast<std::size_t>(arguments.count("--uap")) : line.editions.size());
+    }
+
+    void saysWhatIsWrong()
+    {
+        const QString good = writeCapture({plotBlock, plotBlock});
+        const Outcome fine = run(runDoctor, good);
+        QCOMPARE(fine.status, 0);
+        QVERIFY2(fine.out.contains("\n  fine: The stream holds CAT048 from 25/201, ")
+                && fine.out.endsWith("\nNothing is wrong.\n"),
+            fine.out.constData());
+        const Outcome broken = run(runDoctor, writeCapture({plotBlock, brokenBlock}));
+        QCOMPARE(broken.status, 1);
+        QVERIFY2(
+            broken.out.contains("\n  wrong: CAT048 from 25/202 cannot be decoded: of 1 block none fits edition 1.32"),
+            broken.out.constData());
+        CommandLine line;
+        line.fileName = good.toStdString();
+        line.isJson = true;
+        QByteArray text;
+        const auto out = [&text](std::string_view part) {
+            text.append(part.data(), static_cast<qsizetype>(part.size()));
+            return true;
+        };
+        QCOMPARE(runDoctor(line, out, {}), 1); // the broken one, under the same name
+        const QJsonObject object = QJsonDocument::fromJson(text).object();
+        QCOMPARE(object["wrong"].toBool(), true);
+        QCOMPARE(object["remarks"][1]["topic"].toString(), QStringLiteral("damage"));
+        QCOMPARE(object["sources"][1]["categories"][0]["editions"][0]["wholeBlocks"].toInt(), 0);
     }
 
     void decodes_data()

@@ -29,7 +29,7 @@ bool parseVerb(const std::string &text, CommandLine::Verb &verb)
 {
     using Verb = CommandLine::Verb;
     for (const auto &[name, value] : {std::pair{"decode", Verb::Decode}, {"encode", Verb::Encode}, {"stat", Verb::Stat},
-             {"--help", Verb::Help}, {"-h", Verb::Help}, {"--version", Verb::Version}}) {
+             {"doctor", Verb::Doctor}, {"--help", Verb::Help}, {"-h", Verb::Help}, {"--version", Verb::Version}}) {
         if (text == name) {
             verb = value;
             return true;
@@ -57,13 +57,15 @@ bool parseArgument(const std::vector<std::string> &arguments, std::size_t &index
         error = argument + " needs a value";
         return false;
     }
-    if (argument == "--uap") {
+    if (argument == "--uap" && out.verb != CommandLine::Verb::Doctor) {
         return parseEdition(arguments[++index], out, error);
     }
     if (argument == "-o" && out.verb == CommandLine::Verb::Encode) {
         out.outputName = arguments[++index];
     } else if (argument == "--expand" && out.verb == CommandLine::Verb::Decode) {
         out.isExpanding = true;
+    } else if (argument == "--json" && out.verb == CommandLine::Verb::Doctor) {
+        out.isJson = true;
     } else if (argument.size() > 1 && argument.front() == '-') {
         error = "unknown option \"" + argument + "\"";
         return false;
@@ -82,7 +84,7 @@ bool CommandLine::parse(const std::vector<std::string> &arguments, CommandLine &
 {
     out = {};
     if (arguments.empty() || !parseVerb(arguments.front(), out.verb)) {
-        error = arguments.empty() ? "decode, encode or stat? Try --help"
+        error = arguments.empty() ? "decode, encode, stat or doctor? Try --help"
                                   : "unknown command \"" + arguments.front() + "\"; try --help";
         return false;
     }
@@ -116,6 +118,12 @@ const char *CommandLine::helpText()
         Such lines back to data blocks, on standard output or in OUT.ast; lines of one block make one data block.
   vyx-asterix stat [--uap CAT=EDITION]... FILE
         Blocks, records, octets and rate by category and SAC/SIC.
+  vyx-asterix doctor [--json] FILE
+        What a recording of any kind holds, in words: kind of data and encapsulation, sources, the edition of each
+        category with what speaks for it, and what is wrong: several formats mixed, blocks of another edition, damage,
+        octets that a recorder appended. Each line begins with "fine", "note" or "wrong"; "play" is how the terminal
+        plays it. Looks at the first 16 MiB of messages. --json: one object with "wrong", "remarks" (of "level",
+        "topic", "sentence", "evidence", "source", "category") and "sources" with the counts behind them.
   vyx-asterix --help | --version
 
 FILE holds data blocks back to back, or is a network capture, which its first octets tell; "-" is standard input for
@@ -127,6 +135,7 @@ A malformed block gives one line on standard error and is not decoded beyond the
 passed over, in a file of blocks the next block is found by the length field. Categories without a table are passed
 over and named at the end, as are octets that a recorder put after the last whole block of a datagram.
 
-Exit status: 0 done, 1 malformed input or a file that cannot be read or written, 2 wrong arguments.
+Exit status: 0 done, 1 malformed input or a file that cannot be read or written, of doctor anything wrong, 2 wrong
+arguments.
 )";
 }

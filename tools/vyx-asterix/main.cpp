@@ -1,4 +1,5 @@
 #include "vyx-asterix/decode_command.h"
+#include "vyx-asterix/doctor_command.h"
 #include "vyx-asterix/encode_command.h"
 #include "vyx-asterix/stat_command.h"
 
@@ -55,6 +56,8 @@ int run(const CommandLine &command)
         return runEncode(command, out, printLine);
     case CommandLine::Verb::Stat:
         return runStat(command, out, printLine);
+    case CommandLine::Verb::Doctor:
+        return runDoctor(command, out, printLine);
     case CommandLine::Verb::Version:
         return out("vyx-asterix " VYX_VERSION "\n") ? 0 : 1;
     default:

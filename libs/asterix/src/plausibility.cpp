@@ -19,6 +19,8 @@ constexpr unsigned MostOddValues = 4; // of one record: values all go wrong toge
 constexpr std::uint32_t DayUnits = 86400 * 128; // 1/128 s
 constexpr std::uint32_t NoAddress = 0xFFFFFF;
 
+constexpr int AdsbCategory = 21;
+
 bool isTimeOfDay(const Node &item)
 {
     return item.kind == Kind::Quantity && item.bits == 24 && item.numerator == 1 && item.denominator == 128;
@@ -55,7 +57,7 @@ bool hasUnassignedCharacter(const unsigned char *at)
 
 } // namespace
 
-Plausibility::Plausibility(const Uap &uap)
+Plausibility::Plausibility(const Uap &uap) : m_isAdsb(uap.layout->edition().category == AdsbCategory)
 {
     for (int slot = 0; slot < uap.count; ++slot) {
         if (const Node *item = uap.steps[static_cast<std::size_t>(slot)].node) {
@@ -76,6 +78,9 @@ void Plausibility::addItem(const Node &item, std::uint8_t slot)
     }
     if (item.kind == Kind::Icao && item.bits == 48) {
         m_identities.push_back(slot);
+    }
+    if (!m_isAdsb) {
+        return; // the numbers mean something else, and what must be sent depends on the report
     }
     if (item.name == "080") {
         m_address = slot;
@@ -161,9 +166,10 @@ Oddness Plausibility::oddness(const _ast_datarecord_t &record) const
     for (const std::uint8_t slot : m_mandatory) {
         odd.values += isSent(slot) ? 0 : MissingItem;
     }
-    odd.values += std::any_of(m_times.begin(), m_times.end(), isSent) ? 0 : MissingItem;
+    odd.values += !m_isAdsb || std::any_of(m_times.begin(), m_times.end(), isSent) ? 0 : MissingItem;
     odd.values += hasOddFspec(record.data) ? OddFspec : 0;
-    odd.values += oddValues(record);
+    odd.outOfRange = oddValues(record);
+    odd.values += odd.outOfRange;
     return odd;
 }
 

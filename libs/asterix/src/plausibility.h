@@ -14,11 +14,13 @@ namespace korvane::asterix {
 struct Oddness {
     unsigned form = 0; // items that have bits or extents which the table does not have
     unsigned values = 0; // points for values out of range and for what is missing or superfluous
+    unsigned outOfRange = 0; // of these points, those for values out of range
 
     void add(const Oddness &other)
     {
         form += other.form;
         values += other.values;
+        outOfRange += other.outOfRange;
     }
     // What is wrong with the form counts more than any value: senders make mistakes in values.
     unsigned weight() const { return 8 * form + values; }
@@ -54,6 +56,7 @@ private:
     bool hasOddSpareBits(const SpareCheck &check, const unsigned char *at) const;
     unsigned oddValues(const _ast_datarecord_t &record) const;
 
+    bool m_isAdsb;
     std::vector<SpareCheck> m_spares;
     std::vector<PositionCheck> m_positions;
     std::vector<std::uint8_t> m_times; // slots of times of day
