@@ -52,6 +52,8 @@ private:
         node.parent = parent;
         node.anchor = anchor ? anchor : &node;
         node.bitOffset = static_cast<std::uint16_t>(bitOffset);
+        node.title = field.title;
+        node.unit = field.unit;
         node.name = field.name ? field.name : "";
         node.key = '"' + node.name + "\":";
         node.keySize = static_cast<std::uint8_t>(node.key.size());

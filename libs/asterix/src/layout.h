@@ -48,6 +48,8 @@ struct Node {
     const Node *parent = nullptr;
     // The item, sub-item or repetition element that starts at an octet and holds this field. An anchor is its own.
     const Node *anchor = nullptr;
+    const char *title = ""; // of an item
+    const char *unit = "";
     std::string name;
     std::string key; // "TYP": with its quotes and colon, then filled up to KeyRoom
     std::uint8_t keySize = 0; // without the filling

@@ -37,6 +37,8 @@ enum class ReportField : std::uint8_t {
     Spi,
     TestBit,
     TimeOfDay,
+    TransponderCode, // Mode 3/A of any category, where Mode3A is that of CAT021
+    TrackNumber,
     Count
 };
 

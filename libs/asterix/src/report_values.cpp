@@ -1,5 +1,6 @@
 #include "asterix/report_values.h"
 
+#include "asterix/record_map.h"
 #include "asterix/report_time.h"
 #include "disassemble.h"
 #include "record_fields.h"
@@ -191,3 +192,19 @@ _ast_vrate_t ast_datarecord_get_vrate(const _ast_datarecord_t &record)
     const auto rate = findValue(record, ReportField::VerticalRate);
     return {rate.has_value(), rate.value_or(0)};
 }
+
+namespace korvane::asterix {
+
+std::optional<std::uint16_t> mode3aOf(const _ast_datarecord_t &record)
+{
+    const auto found = findBits(record, ReportField::TransponderCode);
+    return found ? std::optional(static_cast<std::uint16_t>(found->bits)) : std::nullopt;
+}
+
+std::optional<std::uint32_t> trackNumberOf(const _ast_datarecord_t &record)
+{
+    const auto found = findBits(record, ReportField::TrackNumber);
+    return found ? std::optional(static_cast<std::uint32_t>(found->bits)) : std::nullopt;
+}
+
+} // namespace korvane::asterix

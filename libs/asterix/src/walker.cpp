@@ -219,6 +219,19 @@ const Uap *selectUap(const CategoryTable &table, const Fspec &fspec, const unsig
     return table.uaps[chosen < table.uaps.size() ? chosen : 0].get();
 }
 
+// The items of one record. False, with fault set, when they are malformed; record is then undefined.
+bool walkItems(const Uap &uap, const Fspec &fspec, const unsigned char *at, const unsigned char *end,
+    _ast_datarecord_t &record, Fault &fault)
+{
+    if (const std::uint64_t spare = fspec.present & ~uap.defined; spare) [[unlikely]] {
+        fail(fault, Error::SpareFspecBit, at + std::countl_zero(spare) / 7);
+        return false;
+    }
+    record.data = at;
+    record.uap = &uap;
+    return Walk{uap, end, record, fault}.items(fspec.present, fspec.next);
+}
+
 // One record from at on. False, with fault set, when it is malformed; record is then undefined.
 bool walkRecord(const CategoryTable &table, const Uap *forced, const unsigned char *at, const unsigned char *end,
     _ast_datarecord_t &record, Fault &fault)
@@ -227,17 +240,18 @@ bool walkRecord(const CategoryTable &table, const Uap *forced, const unsigned ch
     if (!fspec.next) {
         return false;
     }
-    const Uap *uap = forced ? forced : selectUap(table, fspec, end);
-    if (const std::uint64_t spare = fspec.present & ~uap->defined; spare) [[unlikely]] {
-        fail(fault, Error::SpareFspecBit, at + std::countl_zero(spare) / 7);
-        return false;
-    }
-    record.data = at;
-    record.uap = uap;
-    return Walk{*uap, end, record, fault}.items(fspec.present, fspec.next);
+    return walkItems(forced ? *forced : *selectUap(table, fspec, end), fspec, at, end, record, fault);
 }
 
 } // namespace
+
+bool decodeRecord(_ast_datarecord_t &record, const unsigned char *data, std::size_t length, const Uap &uap)
+{
+    Fault fault;
+    const Fspec fspec = readFspec(data, data + length, fault);
+    record = {};
+    return fspec.next && walkItems(uap, fspec, data, data + length, record, fault);
+}
 
 std::size_t presenceLength(const unsigned char *at, const unsigned char *end, Fault &fault)
 {

@@ -52,6 +52,10 @@ std::size_t presenceLength(const unsigned char *at, const unsigned char *end, Fa
 void decodeRecords(
     _ast_datablock_t &block, const unsigned char *data, const CategoryTable &table, const Uap *forced = nullptr);
 
+// One record at data, of that UAP; octets may follow it. False where it is malformed or runs past length; record is
+// then undefined.
+bool decodeRecord(_ast_datarecord_t &record, const unsigned char *data, std::size_t length, const Uap &uap);
+
 // Whether the contents of an explicit item at at, which has been walked over, are what the table says of them: at least
 // one sub-item, each whole, and nothing after the last.
 bool hasKnownContents(const Node &node, const unsigned char *at);
