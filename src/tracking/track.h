@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geo/geo_coordinate.h"
+#include "tracking/report_ring.h"
 #include "tracking/track_history_element.h"
 
 #include <QDateTime>
@@ -167,6 +168,9 @@ public:
     // Newest first, at most MaximumHistory.
     const std::deque<TrackHistoryElement> &history() const { return m_history; }
 
+    // What it was made of lately.
+    ReportRing &reports() { return m_reports; }
+
     // The same for every track: left 13, top -13, 80 wide, 20 high.
     static QRectF rect() { return {13.0, -13.0, 80.0, 20.0}; }
 
@@ -231,4 +235,5 @@ private:
     std::shared_ptr<int> m_unindexedCount; // how many tracks of its manager are not indexed; null without a manager
     // A list that is filled at the front and cut at the back would keep four times the memory that its elements need.
     std::deque<TrackHistoryElement> m_history;
+    ReportRing m_reports;
 };

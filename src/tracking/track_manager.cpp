@@ -212,6 +212,9 @@ void TrackManager::removeTrack(const QSharedPointer<Track> &track)
     if (const auto stored = m_tracksByNumber.take(track->trackNumber())) {
         release(*stored);
         m_numbersInUse -= isGivenOut(track->trackNumber()) ? 1 : 0;
+        if (m_removalObserver) {
+            m_removalObserver(*stored);
+        }
     }
     if (track->icaoAddrValid()) {
         removeKey(m_tracksByIcaoAddr, track->icaoAddr(), *track);

@@ -10,6 +10,8 @@
 #include <QSharedPointer>
 #include <QTimer>
 
+#include <functional>
+
 // All tracks of the current input: numbers, look-up, ageing once a second and the copy for the display. Everything
 // happens on the thread that it lives on; nothing is locked.
 class TrackManager final : public QObject {
@@ -44,6 +46,12 @@ public:
     bool hasTrackNum(unsigned int trackNumber) const { return m_tracksByNumber.contains(trackNumber); }
     // Null when nothing matches.
     QSharedPointer<Track> findTrackByTrackNum(unsigned int trackNumber) const;
+    // The same; the pointer is good until the track is removed.
+    Track *trackByNumber(unsigned int trackNumber) const
+    {
+        const auto found = m_tracksByNumber.constFind(trackNumber);
+        return found == m_tracksByNumber.constEnd() ? nullptr : found->data();
+    }
     QSharedPointer<Track> findTrackByICAOAddr(unsigned int address);
     QSharedPointer<Track> findTrackByOtherTrackNum(unsigned int number);
 
@@ -54,6 +62,11 @@ public:
     // Milliseconds since the last position after which a track coasts and after which it is removed. A termination span
     // shorter than the coasting span is raised to it.
     void setTrackLifeSpan(unsigned int coastingMs, unsigned int terminationMs);
+    unsigned int terminationSpan() const { return m_terminationSpan; } // milliseconds
+
+    // Told of each track that is removed, not of those that go with a reset. The observer outlives the manager or takes
+    // itself back with an empty one.
+    void setRemovalObserver(std::function<void(const Track &)> observer) { m_removalObserver = std::move(observer); }
 
     // One entry a track, whatever its state, in no particular order; at most trailDots points of trail each.
     QList<TrackSnapshot> snapshotTracks(int trailDots) const;
@@ -93,6 +106,7 @@ private:
     // report of each target, and each report that is refused, need no search.
     std::shared_ptr<int> m_unindexedCount = std::make_shared<int>(0);
     QList<QSharedPointer<Track>> m_trackList;
+    std::function<void(const Track &)> m_removalObserver;
     QTimer m_lifeTimer;
     unsigned int m_coastingSpan = 2000;
     unsigned int m_terminationSpan = 12000;
