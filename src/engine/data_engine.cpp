@@ -38,6 +38,7 @@ void DataEngine::init()
     m_alertManager = QSharedPointer<AlertManager>::create();
     m_trackManager->setClock(m_clock);
     m_alertManager->setClock(m_clock);
+    m_archive.setTracks(m_trackManager, m_clock);
     makeProcessors();
     connectRecorder();
     startTimers();
@@ -123,6 +124,7 @@ void DataEngine::clearPicture()
     m_weatherProcessor->reset();
     m_publisher.reset();
     m_plots.restart();
+    m_archive.clear();
     m_trackManager->reset();
     m_alertManager->reset();
     m_alertProcessor->resetAlertStatus();
@@ -133,6 +135,7 @@ void DataEngine::restartPicture()
 {
     m_weatherProcessor->reset();
     m_plots.restart();
+    m_archive.clear();
     m_trackManager->reset();
     m_alertManager->reset();
     m_input->setRouter(makeRouter());
@@ -221,6 +224,7 @@ QSharedPointer<Tracker> DataEngine::makeTracker()
     }
     connect(tracker.data(), &Tracker::message, this, &DataEngine::log);
     tracker->setPlotStore(&m_plots);
+    tracker->setLedger(&m_archive);
     configureTracker(tracker.data());
     return tracker;
 }
@@ -321,6 +325,16 @@ void DataEngine::connectRecorder()
 void DataEngine::setSnapshotTrailDots(int count)
 {
     m_trailDots = count;
+}
+
+void DataEngine::askForReports(const ReportQuestion &question)
+{
+    Q_EMIT reportsAnswered(m_archive.answer(question));
+}
+
+void DataEngine::lookUp(const QString &text, quint64 requestId)
+{
+    Q_EMIT sightings({requestId, text, m_archive.find(IdentityQuery::fromText(text))});
 }
 
 void DataEngine::publishSnapshot()

@@ -6,6 +6,7 @@
 #include "engine/picture_publisher.h"
 #include "engine/pipeline_stats.h"
 #include "engine/recording_input.h"
+#include "engine/report_archive.h"
 #include "processors/video_processor.h"
 #include "tracking/alert.h"
 #include "tracking/clock.h"
@@ -92,6 +93,11 @@ public Q_SLOTS:
     // Past positions per track in the snapshots from the next one on; 0 when nobody draws them.
     void setSnapshotTrailDots(int count);
 
+    // Answered with reportsAnswered.
+    void askForReports(const ReportQuestion &question);
+    // Whom the stream has named by that callsign, code, address or number: answered with sightings.
+    void lookUp(const QString &text, quint64 requestId);
+
     // Called by timers every 200 ms, and by whoever wants a picture at once.
     void publishSnapshot();
     void publishVideoBatch();
@@ -114,6 +120,8 @@ Q_SIGNALS:
     void pipelineStats(const PipelineStats &stats);
     void recordingStarted(const QString &fileName);
     void recordingStopped();
+    void reportsAnswered(const AskedReports &reports);
+    void sightings(const Sightings &sightings);
     // A safety net was reported as running or not; off for all that ran when the input closes.
     void alertStatusChanged(Alert::Type type, bool on);
 
@@ -149,6 +157,7 @@ private:
     std::shared_ptr<Clock> m_clock = std::make_shared<Clock>();
     PlotStore m_plots;
     QSharedPointer<TrackManager> m_trackManager;
+    ReportArchive m_archive;
     QSharedPointer<AlertManager> m_alertManager;
     QSharedPointer<AlertProcessor> m_alertProcessor;
     QSharedPointer<WeatherProcessor> m_weatherProcessor;

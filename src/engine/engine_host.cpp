@@ -103,6 +103,16 @@ void EngineHost::setSnapshotTrailDots(int dots)
     post([dots](DataEngine *engine) { engine->setSnapshotTrailDots(dots); });
 }
 
+void EngineHost::askForReports(const ReportQuestion &question)
+{
+    post([question](DataEngine *engine) { engine->askForReports(question); });
+}
+
+void EngineHost::lookUp(const QString &text, quint64 requestId)
+{
+    post([=](DataEngine *engine) { engine->lookUp(text, requestId); });
+}
+
 bool EngineHost::stop(int waitMs)
 {
     DataEngine *engine = std::exchange(m_engine, nullptr);

@@ -14,6 +14,7 @@
 class DataEngine;
 class QThread;
 class SensorInfo;
+struct ReportQuestion;
 namespace korvane::astfile {
 class RecordingIndex;
 }
@@ -56,6 +57,9 @@ public:
     void startRecording(const QString &fileName);
     void stopRecording();
     void setSnapshotTrailDots(int dots);
+    // Answered by DataEngine::reportsAnswered and sightings.
+    void askForReports(const ReportQuestion &question);
+    void lookUp(const QString &text, quint64 requestId);
 
     // Ends engine and thread, waiting for the thread this long. False when it did not stop in time: it is then left
     // running, with all that it uses, until the process ends. Does nothing a second time.

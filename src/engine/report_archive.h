@@ -1,0 +1,72 @@
+#pragma once
+
+#include "engine/identity_directory.h"
+#include "engine/loose_reports.h"
+#include "tracking/report_ledger.h"
+#include "tracking/report_ring.h"
+#include "tracking/track_manager.h"
+
+#include <QSharedPointer>
+
+// What reports somebody asks for.
+struct ReportQuestion {
+    enum class About : quint8 {
+        Track, // the reports that it was made of
+        Place, // the plot without a track that is nearest to it
+        Alerts, // those of safety nets
+    };
+
+    quint64 requestId = 0;
+    About about = About::Track;
+    unsigned int trackNumber = 0; // of a track: the system's own
+    quint64 incarnationId = 0;
+    QPointF place = {}; // plane metres
+    double radius = 0.0; // metres, from it
+};
+
+struct AskedReports {
+    ReportQuestion question;
+    bool found = false; // the track lives, or there are reports
+    QList<KeptReport> reports; // newest first
+};
+
+// Whom the stream has named and what became of it, as somebody asked for it.
+struct Sightings {
+    quint64 requestId = 0;
+    QString text; // that was asked for
+    QList<SeenIdentity> seen; // newest first
+};
+
+Q_DECLARE_METATYPE(AskedReports)
+Q_DECLARE_METATYPE(Sightings)
+
+// Remembers of each record what an operator may ask about later: of those that make tracks their octets, with the track
+// itself; of all others who they named and what became of them, and of those that are shown without a track the
+// newest. On the engine's thread.
+class ReportArchive final : public ReportLedger {
+public:
+    ReportArchive() = default;
+    ReportArchive(const ReportArchive &) = delete;
+    ReportArchive &operator=(const ReportArchive &) = delete;
+
+    // Whose tracks the reports belong to; tells of their ends from now on. Both must outlive the archive.
+    void setTracks(const QSharedPointer<TrackManager> &tracks, const SharedClock &clock);
+    // Of another input, or the next run of a recording.
+    void clear();
+
+    void take(const TakenReport &report) override;
+
+    // Of a track that has another incarnation by now nothing is found.
+    AskedReports answer(const ReportQuestion &question) const;
+    QList<SeenIdentity> find(const IdentityQuery &query) const { return m_directory.find(query); }
+
+private:
+    void noteIdentity(const TakenReport &report, qint64 nowMs);
+    void noteEnd(const Track &track);
+
+    QSharedPointer<TrackManager> m_tracks;
+    SharedClock m_clock;
+    IdentityDirectory m_directory;
+    LooseReports m_plots{768 * 1024, 16384}; // of about half a minute
+    LooseReports m_alerts{64 * 1024, 512};
+};

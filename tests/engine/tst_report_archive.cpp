@@ -1,0 +1,229 @@
+#include "asterix/encoder.h"
+#include "engine/report_archive.h"
+#include "engine_rig.h"
+#include "test_program.h"
+
+#include <QTest>
+
+using korvane::asterix::BlockEncoder;
+
+namespace {
+
+// An archive with a store of tracks, and a clock that is set by hand.
+struct ArchiveRig {
+    qint64 nowMs = 1700000000000;
+    std::shared_ptr<Clock> clock = std::make_shared<Clock>([this] { return nowMs; }, [this] { return nowMs; });
+    QSharedPointer<TrackManager> tracks = QSharedPointer<TrackManager>::create();
+    ReportArchive archive;
+
+    ArchiveRig()
+    {
+        clock->startLive();
+        tracks->setClock(clock);
+        tracks->setTrackLifeSpan(5000, 12000);
+        archive.setTracks(tracks, clock);
+    }
+
+    QSharedPointer<Track> addTrack(quint32 address)
+    {
+        auto track = tracks->createTrack();
+        track->setIcaoAddr(address);
+        track->setModeSCallsign("VYX123");
+        track->setCarCoordinate({1000.0, 2000.0});
+        track->setGeoCoordinate({50.0, 14.0});
+        tracks->registerTrack(track);
+        track->recordHistory(clock->now());
+        return track;
+    }
+
+    void take(const QByteArray &octets, ReportOutcome outcome, unsigned int trackNumber)
+    {
+        TakenReport report;
+        report.form = TakenReport::Form::ModeS;
+        report.outcome = outcome;
+        report.octets = reinterpret_cast<const unsigned char *>(octets.constData());
+        report.size = static_cast<quint32>(octets.size());
+        report.trackNumber = trackNumber;
+        report.address = 0x4B1A2C;
+        archive.take(report);
+    }
+
+    QList<SeenIdentity> find(const QString &text) const { return archive.find(IdentityQuery::fromText(text)); }
+};
+
+} // namespace
+
+class TestReportArchive : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsReportsWithTheirTrack();
+    void notesWhoHasNoTrack_data();
+    void notesWhoHasNoTrack();
+    void readsIdentityOfRecord();
+    void keepsPlotsAndAlertsApart();
+    void notesEnds_data();
+    void notesEnds();
+    void answersThroughTheEngine();
+};
+
+void TestReportArchive::keepsReportsWithTheirTrack()
+{
+    ArchiveRig rig;
+    const auto track = rig.addTrack(0x4B1A2C);
+    const auto other = rig.addTrack(0x111111);
+    rig.take("first", ReportOutcome::Track, track->trackNumber());
+    rig.nowMs += 250;
+    rig.take("second", ReportOutcome::Track, track->trackNumber());
+    rig.take("refused", ReportOutcome::OutOfRange, track->trackNumber());
+    rig.take("another", ReportOutcome::Track, other->trackNumber());
+    rig.take("nobody's", ReportOutcome::Track, 999);
+
+    const auto ask = [&rig, &track](quint64 incarnationId) {
+        return rig.archive.answer({1, ReportQuestion::About::Track, track->trackNumber(), incarnationId});
+    };
+    const auto answer = ask(track->incarnationId());
+    QVERIFY(answer.found);
+    QCOMPARE(answer.reports.size(), 3);
+    QCOMPARE(answer.reports[0].octets, QByteArray("refused"));
+    QCOMPARE(answer.reports[2].octets, QByteArray("first"));
+    QCOMPARE(answer.reports[1].timeMs - answer.reports[2].timeMs, 250LL);
+    QVERIFY(!ask(track->incarnationId() + 7).found);
+
+    rig.tracks->removeTrack(track);
+    QVERIFY(!ask(track->incarnationId()).found);
+}
+
+void TestReportArchive::notesWhoHasNoTrack_data()
+{
+    QTest::addColumn<ReportOutcome>("outcome");
+    QTest::addColumn<bool>("noted");
+    QTest::newRow("track") << ReportOutcome::Track << false; // found with the track itself
+    QTest::newRow("plot") << ReportOutcome::Plot << true;
+    QTest::newRow("other source") << ReportOutcome::OtherSource << true;
+    QTest::newRow("no position") << ReportOutcome::NoPosition << true;
+    QTest::newRow("weather") << ReportOutcome::Weather << false;
+}
+
+void TestReportArchive::notesWhoHasNoTrack()
+{
+    QFETCH(ReportOutcome, outcome);
+    QFETCH(bool, noted);
+    ArchiveRig rig;
+    rig.take("x", outcome, 0);
+    QCOMPARE(rig.find("4B1A2C").size(), noted ? 1 : 0);
+    if (noted) {
+        QCOMPARE(rig.find("4B1A2C").first().outcome, outcome);
+        QCOMPARE(rig.find("4B1A2C").first().lastMs, rig.nowMs);
+    }
+}
+
+// Of records at which no tracker has looked.
+void TestReportArchive::readsIdentityOfRecord()
+{
+    BlockEncoder encoder(48);
+    encoder.beginBlock();
+    encoder.beginRecord();
+    encoder.set("010/SAC", 25);
+    encoder.set("010/SIC", 11);
+    encoder.setText("070/MODE3A", "7000");
+    encoder.set("161/TRN", 42);
+    encoder.setText("240", "VYX77");
+    encoder.endRecord();
+    _ast_datablock_t block;
+    ast_datablock_smart_decode(&block, encoder.block().data(), encoder.block().size());
+    ArchiveRig rig;
+    rig.archive.takeRecord(48, block.records.front(), ReportOutcome::OtherSource);
+    for (const char *text : {"VYX77", "7000", "42"}) {
+        const auto found = rig.find(text);
+        QCOMPARE(found.size(), 1);
+        QCOMPARE(int(found.first().category), 48);
+        QCOMPARE(int(found.first().sic), 11);
+    }
+}
+
+void TestReportArchive::keepsPlotsAndAlertsApart()
+{
+    ArchiveRig rig;
+    TakenReport plot;
+    plot.outcome = ReportOutcome::Plot;
+    plot.octets = reinterpret_cast<const unsigned char *>("plot");
+    plot.size = 4;
+    plot.place = QPointF(100.0, 0.0);
+    rig.archive.take(plot);
+    rig.take("alert", ReportOutcome::Alert, 0);
+    const auto plots = rig.archive.answer({1, ReportQuestion::About::Place, 0, 0, {0.0, 0.0}, 200.0});
+    QCOMPARE(plots.reports.size(), 1);
+    QCOMPARE(plots.reports.first().octets, QByteArray("plot"));
+    QVERIFY(!rig.archive.answer({2, ReportQuestion::About::Place, 0, 0, {0.0, 0.0}, 20.0}).found);
+    const auto alerts = rig.archive.answer({3, ReportQuestion::About::Alerts});
+    QCOMPARE(alerts.reports.size(), 1);
+    QCOMPARE(alerts.reports.first().octets, QByteArray("alert"));
+    rig.archive.clear();
+    QVERIFY(!rig.archive.answer({4, ReportQuestion::About::Alerts}).found);
+}
+
+void TestReportArchive::notesEnds_data()
+{
+    QTest::addColumn<qint64>("silenceMs");
+    QTest::addColumn<bool>("removedBySource");
+    QTest::newRow("for want of reports") << 12000LL << false;
+    QTest::newRow("by the source") << 4000LL << true;
+}
+
+void TestReportArchive::notesEnds()
+{
+    QFETCH(qint64, silenceMs);
+    QFETCH(bool, removedBySource);
+    ArchiveRig rig;
+    const auto track = rig.addTrack(0x4B1A2C);
+    const qint64 lastMs = rig.nowMs;
+    rig.nowMs += silenceMs;
+    if (removedBySource) {
+        rig.tracks->removeTrack(track);
+        rig.tracks->removeTrack(track); // a second time is no second end
+    } else {
+        rig.tracks->checkLife();
+    }
+    const auto found = rig.find("VYX123");
+    QCOMPARE(found.size(), 1);
+    QVERIFY(found.first().hasEnded());
+    QCOMPARE(found.first().endedBySource, removedBySource);
+    QCOMPARE(found.first().lastMs, lastMs);
+    QCOMPARE(found.first().endedMs, rig.nowMs);
+    QCOMPARE(found.first().trackNumber, track->trackNumber());
+    QCOMPARE(found.first().reports, 1ULL);
+    QCOMPARE(*found.first().place, QPointF(1000.0, 2000.0));
+}
+
+void TestReportArchive::answersThroughTheEngine()
+{
+    EngineRig rig;
+    QSignalSpy reports(&rig.engine, &DataEngine::reportsAnswered);
+    QSignalSpy sightings(&rig.engine, &DataEngine::sightings);
+    rig.open();
+    rig.engine.procMessage(plotBlock(7, 100));
+    rig.engine.procMessage(plotBlock(7, 200));
+    const auto track = rig.tracks().first();
+    rig.engine.askForReports({31, ReportQuestion::About::Track, track.trackNumber, track.incarnationId});
+    const auto answer = reports.takeFirst().first().value<AskedReports>();
+    QCOMPARE(answer.question.requestId, 31ULL);
+    QCOMPARE(answer.question.incarnationId, track.incarnationId);
+    QCOMPARE(answer.reports.size(), 2);
+    QCOMPARE(answer.reports.first().octets, plotBlock(7, 200).mid(3));
+    QVERIFY(answer.reports.first().uap);
+
+    rig.engine.lookUp("7", 32);
+    const auto seen = sightings.takeFirst().first().value<Sightings>();
+    QCOMPARE(seen.requestId, 32ULL);
+    QVERIFY(seen.seen.isEmpty()); // it lives
+
+    // Another run has seen nobody.
+    rig.engine.closeInput();
+    rig.open();
+    rig.engine.askForReports({33, ReportQuestion::About::Track, track.trackNumber, track.incarnationId});
+    QVERIFY(!reports.takeFirst().first().value<AskedReports>().found);
+}
+
+VYX_TEST(TestReportArchive)
+#include "tst_report_archive.moc"
