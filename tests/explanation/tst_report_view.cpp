@@ -1,0 +1,165 @@
+#include "kept_reports.h"
+#include "sirm/alenia_sir_m_radar_records.h"
+#include "test_program.h"
+
+#include <QTest>
+
+namespace {
+
+QString fieldText(const ReportView &view, const char *key)
+{
+    const ReportField *field = view.find(key);
+    return field ? QString("%1 @%2+%3").arg(field->text()).arg(field->bits.first).arg(field->bits.count) : QString();
+}
+
+} // namespace
+
+class TestReportView : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void takesRecordApart();
+    void takesRegistersApart();
+    void takesFrameApart_data();
+    void takesFrameApart();
+    void takesSirMRecordApart();
+    void survivesNonsense_data();
+    void survivesNonsense();
+    void findsNarrowestField();
+    void writesReports();
+};
+
+void TestReportView::takesRecordApart()
+{
+    const auto view = viewReport(keptRecord(48, 1000, [](BlockEncoder &e) {
+        e.set("090/FL", 350);
+        e.setText("240", "VYX123");
+    }));
+    QCOMPARE(view.category, 48);
+    QCOMPARE(view.name, QString("CAT048, edition 1.32"));
+    QCOMPARE(fieldText(view, "090/FL"), QString("350 FL @18+14"));
+    QCOMPARE(fieldText(view, "240"), QString("VYX123 @32+48"));
+    QCOMPARE(view.find("090/FL")->name, QString("I048/090/FL"));
+    QCOMPARE(view.find("090/FL")->title, QString("Flight Level in Binary Representation"));
+}
+
+void TestReportView::takesRegistersApart()
+{
+    const auto view = viewReport(keptRecord(48, 0, [](BlockEncoder &e) {
+        // Selected altitude 24,000 ft, FMS not told; then a barometric rate of -512 ft/min.
+        const unsigned char intention[] = {0xAE, 0xE0, 0, 0, 0, 0, 0};
+        e.addRepetition("250");
+        e.setExplicit("250/MBDATA", intention);
+        e.set("250/BDS1", 4);
+        const unsigned char speed[] = {0, 0, 0, 0, 0x3F, 0x80, 0};
+        e.addRepetition("250");
+        e.setExplicit("250/MBDATA", speed);
+        e.set("250/BDS1", 6);
+    }));
+    QCOMPARE(fieldText(view, "bds40/mcp"), QString("24000 ft @25+12"));
+    QVERIFY(!view.find("bds40/fms"));
+    QCOMPARE(fieldText(view, "bds60/baro"), QString("-512 ft/min @123+10"));
+}
+
+void TestReportView::takesFrameApart_data()
+{
+    QTest::addColumn<QByteArray>("frame");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("key");
+    QTest::addColumn<QString>("field");
+    QTest::newRow("identification") << QByteArray("8D4840D6202CC371C32CE0576098") << "DF 17, type code 4"
+                                    << QByteArray("callsign") << "KLM1023 @40+48";
+    QTest::newRow("own address") << QByteArray("8D4840D6202CC371C32CE0576098") << "DF 17, type code 4"
+                                 << QByteArray("address") << "4840D6 @8+24";
+    QTest::newRow("altitude of a position") << QByteArray("8D40621D58C382D690C8AC2863A7") << "DF 17, type code 11"
+                                            << QByteArray("altitude") << "38000 ft @40+12";
+    QTest::newRow("even position") << QByteArray("8D40621D58C382D690C8AC2863A7") << "DF 17, type code 11"
+                                   << QByteArray("cprFormat") << "even @53+1";
+    QTest::newRow("encoded latitude") << QByteArray("8D40621D58C382D690C8AC2863A7") << "DF 17, type code 11"
+                                      << QByteArray("cprLatitude") << "93000 @54+17";
+    QTest::newRow("vertical rate") << QByteArray("8D485020994409940838175B284F") << "DF 17, type code 19"
+                                   << QByteArray("verticalRate") << "-832 ft/min @68+10";
+    QTest::newRow("ground speed") << QByteArray("8D485020994409940838175B284F") << "DF 17, type code 19"
+                                  << QByteArray("speed") << "159.2 kt @45+22";
+}
+
+// Well-known frames of the literature; bits as the documents count them, but from 0.
+void TestReportView::takesFrameApart()
+{
+    QFETCH(QByteArray, frame);
+    QFETCH(QByteArray, key);
+    const auto view = viewReport(keptFrame(0, frame.constData()));
+    QTEST(view.name, "name");
+    QTEST(fieldText(view, key.constData()), "field");
+}
+
+void TestReportView::takesSirMRecordApart()
+{
+    AleniaSirMRadarTrackRecord record;
+    record.setTrackNumber(77);
+    record.setPosition(12.5, -3.0);
+    record.setModeACode(01234);
+    record.setTrackEnd(true);
+    const auto &octets = record.octets();
+    const auto view = viewReport({TakenReport::Form::AleniaSirM, 0, nullptr,
+        QByteArray(reinterpret_cast<const char *>(octets.data()), static_cast<qsizetype>(octets.size()))});
+    QCOMPARE(view.category, int(ReportView::AleniaSirM));
+    QCOMPARE(fieldText(view, "number"), QString("77 @0+16"));
+    QCOMPARE(fieldText(view, "x"), QString("12.5 km @32+32"));
+    QCOMPARE(fieldText(view, "squawk"), QString("1234 @132+12"));
+    // Each flag stands where its setter put it.
+    const ReportField *end = view.find("end");
+    QCOMPARE(view.octets[end->bits.first / 8] >> (7 - end->bits.first % 8) & 1, 1);
+}
+
+void TestReportView::survivesNonsense_data()
+{
+    QTest::addColumn<int>("form");
+    QTest::addColumn<QByteArray>("octets");
+    for (const int form : {0, 1, 2}) {
+        QTest::addRow("nothing as %d", form) << form << QByteArray();
+        QTest::addRow("one octet as %d", form) << form << QByteArray("\xFF");
+        QTest::addRow("too much as %d", form) << form << QByteArray(300, '\xFF');
+    }
+}
+
+void TestReportView::survivesNonsense()
+{
+    QFETCH(int, form);
+    QFETCH(QByteArray, octets);
+    const KeptReport report{static_cast<TakenReport::Form>(form), 0, nullptr, octets};
+    const auto view = viewReport(report);
+    QVERIFY(!view.name.isEmpty());
+    QCOMPARE(view.octets, octets);
+    QVERIFY(view.fields.isEmpty());
+    QVERIFY(!reportJson(report).isEmpty());
+}
+
+void TestReportView::findsNarrowestField()
+{
+    const auto view = viewReport(keptRecord(48, 0, [](BlockEncoder &e) {
+        const unsigned char intention[] = {0xAE, 0xE0, 0, 0, 0, 0, 0};
+        e.addRepetition("250");
+        e.setExplicit("250/MBDATA", intention);
+        e.set("250/BDS1", 4);
+    }));
+    QCOMPARE(view.fields[view.fieldAt(25)].key, QString("bds40/mcp"));
+    QCOMPARE(view.fields[view.fieldAt(24)].key, QString("250[1]/MBDATA")); // the status bit before it
+    QCOMPARE(view.fieldAt(0), -1); // the FSPEC
+    QCOMPARE(view.fieldAt(100000), -1);
+}
+
+void TestReportView::writesReports()
+{
+    const auto record = keptRecord(48, 1700000000125, [](BlockEncoder &e) { e.set("090/FL", 350); });
+    QCOMPARE(reportJson(record),
+        QByteArray("{\"cat\":48,\"block\":1,\"offset\":0,\"length\":3,\"time\":1700000000.125,"
+                   "\"items\":{\"090\":{\"V\":0,\"G\":0,\"FL\":350}}}\n"));
+    QCOMPARE(reportHex(viewReport(record)), QString("04 05 78"));
+    QVERIFY(reportText(viewReport(record)).contains("2023-11-14 22:13:20.125  CAT048, edition 1.32\n04 05 78\n"));
+    QCOMPARE(reportJson(keptFrame(1500, "8D4840D6202CC371C32CE0576098")),
+        QByteArray("{\"time\":1.500,\"frame\":\"8d4840d6202cc371c32ce0576098\"}\n"));
+}
+
+VYX_TEST(TestReportView)
+#include "tst_report_view.moc"
