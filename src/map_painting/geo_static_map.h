@@ -3,11 +3,11 @@
 #include "map_painting/static_map_frame.h"
 #include "map_painting/static_map_geometry.h"
 #include "map_painting/static_map_label_layout.h"
-#include "map_painting/static_map_picture.h"
 #include "map_painting/static_map_region.h"
 #include "maps/map_library.h"
 #include "maps/map_style_sheet.h"
 #include "view/geo_layer.h"
+#include "view/kept_picture.h"
 
 #include <QHash>
 #include <QList>
@@ -93,6 +93,6 @@ private:
     StaticMapRegion m_region; // that what follows was decided for
     StaticMapLabelLayout m_labels;
     bool m_crowded = false;
-    StaticMapPicture m_picture;
+    KeptPicture m_picture;
     QThreadPool m_pool; // last, so that it ends first
 };

@@ -1,4 +1,4 @@
-#include "map_painting/static_map_picture.h"
+#include "view/kept_picture.h"
 
 #include "view/geo_view.h"
 
@@ -13,7 +13,7 @@ constexpr double WholeEnough = 1e-3; // pixels
 
 } // namespace
 
-QList<QRect> StaticMapPicture::turnTo(const GeoView &view)
+QList<QRect> KeptPicture::turnTo(const GeoView &view)
 {
     const QRect screen = view.screenRect();
     QPoint shift;
@@ -37,7 +37,7 @@ QList<QRect> StaticMapPicture::turnTo(const GeoView &view)
 }
 
 // Whether the view differs from the picture by whole pixels and by fewer than there are.
-bool StaticMapPicture::findShift(const GeoView &view, QPoint &shift) const
+bool KeptPicture::findShift(const GeoView &view, QPoint &shift) const
 {
     const QTransform &to = view.screenTransform();
     const double ratio = view.devicePixelRatio();
@@ -58,7 +58,7 @@ bool StaticMapPicture::findShift(const GeoView &view, QPoint &shift) const
     return shift.isNull() || ratio == std::floor(ratio);
 }
 
-QList<QRect> StaticMapPicture::move(const QRect &screen, const QPoint &shift)
+QList<QRect> KeptPicture::move(const QRect &screen, const QPoint &shift)
 {
     if (m_spare.size() != m_image.size()) {
         m_spare = QImage(m_image.size(), m_image.format());

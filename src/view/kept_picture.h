@@ -8,7 +8,7 @@
 class GeoView;
 
 // A picture of a view that is kept while the view stays, and moved along with it.
-class StaticMapPicture {
+class KeptPicture {
 public:
     // To be painted anew.
     void invalidate() { m_valid = false; }
