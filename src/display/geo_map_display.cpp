@@ -12,6 +12,7 @@
 #include "orientation/geo_sensor_map.h"
 #include "radar_painting/geo_video_map.h"
 #include "radar_painting/geo_weather_map.h"
+#include "tile_painting/geo_tile_map.h"
 #include "view/geo_view.h"
 
 #include <QElapsedTimer>
@@ -21,7 +22,9 @@
 
 GeoMapDisplay::GeoMapDisplay(Projector *projector, QObject *parent) : QObject(parent)
 {
+    m_bottomTiles = addLayer<GeoTileMap>(MapLayer::BottomTiles, GeoTileMap::Layer::Bottom);
     m_staticMap = addLayer<GeoStaticMap>(MapLayer::StaticMaps, projector);
+    m_topTiles = addLayer<GeoTileMap>(MapLayer::TopTiles, GeoTileMap::Layer::Top);
     m_weatherMap = addLayer<GeoWeatherMap>(MapLayer::Weather, projector);
     m_videoMap = addLayer<GeoVideoMap>(MapLayer::Video, projector);
     m_sensorMap = addLayer<GeoSensorMap>(MapLayer::Sensor, projector);
@@ -123,6 +126,13 @@ void GeoMapDisplay::setBackgroundColor(const QColor &color)
 {
     m_backgroundColor = color;
     Q_EMIT polluted();
+}
+
+void GeoMapDisplay::requestTileMap(const QPoint &corner1, const QPoint &corner2, double metresPerPixel)
+{
+    for (GeoTileMap *const tiles : {m_bottomTiles, m_topTiles}) {
+        tiles->requestTiles(corner1, corner2, metresPerPixel);
+    }
 }
 
 void GeoMapDisplay::setSensor(const QSharedPointer<SensorInfo> &sensor)

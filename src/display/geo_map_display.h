@@ -18,6 +18,7 @@ class GeoPlotMap;
 class GeoRangeRingMap;
 class GeoSensorMap;
 class GeoStaticMap;
+class GeoTileMap;
 class GeoVideoMap;
 class GeoWeatherMap;
 class MapEditorLayer;
@@ -25,7 +26,7 @@ class Projector;
 class SensorInfo;
 
 // The layers' places in the drawing order, bottom first. A new layer is a place here and an addLayer().
-enum class MapLayer { StaticMaps, Weather, Video, Sensor, RangeRings, CompassRose, Plots, ScaleBar, Key, MapEditor };
+enum class MapLayer { BottomTiles, StaticMaps, TopTiles, Weather, Video, Sensor, RangeRings, CompassRose, Plots, ScaleBar, Key, MapEditor };
 
 // The ground colour and the map layers over it, in drawing order. GUI thread only.
 class GeoMapDisplay final : public QObject {
@@ -58,7 +59,9 @@ public:
     }
 
     // Owned by the display, never null.
+    GeoTileMap *bottomTiles() const { return m_bottomTiles; }
     GeoStaticMap *staticMap() const { return m_staticMap; }
+    GeoTileMap *topTiles() const { return m_topTiles; }
     GeoWeatherMap *weatherMap() const { return m_weatherMap; }
     GeoVideoMap *videoMap() const { return m_videoMap; }
     GeoSensorMap *sensorMap() const { return m_sensorMap; }
@@ -80,6 +83,9 @@ public:
 
 public Q_SLOTS:
     void setBackgroundColor(const QColor &color);
+    // Asks for the tiles of a view: a rectangle of the plane, from its northwestern corner to the opposite one, and
+    // metres of the plane per pixel.
+    void requestTileMap(const QPoint &corner1, const QPoint &corner2, double metresPerPixel);
     // Shows this sensor, and puts the range rings round it unless the operator has placed them. Null: no sensor.
     void setSensor(const QSharedPointer<SensorInfo> &sensor);
 
@@ -97,7 +103,9 @@ private:
     void placeTexts(const GeoView &view);
 
     std::vector<Entry> m_layers; // bottom first
+    GeoTileMap *m_bottomTiles = nullptr;
     GeoStaticMap *m_staticMap = nullptr;
+    GeoTileMap *m_topTiles = nullptr;
     GeoWeatherMap *m_weatherMap = nullptr;
     GeoVideoMap *m_videoMap = nullptr;
     GeoSensorMap *m_sensorMap = nullptr;

@@ -1,0 +1,159 @@
+#include "app/config.h"
+#include "geo/mercator_projector.h"
+#include "tile_painting/geo_tile_map.h"
+#include "tile_painting/tile_plane.h"
+#include "view/geo_view.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QGuiApplication>
+#include <QHash>
+#include <QImage>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int Level = 10;
+constexpr QSize Screen(1366, 900);
+constexpr double MetresPerPixel = 200.0; // tiles of 196 pixels: 40 of them
+
+QImage someTile(const TileIndex &index)
+{
+    QImage image(256, 256, QImage::Format_RGB32);
+    for (int y = 0; y < 256; ++y) {
+        for (int x = 0; x < 256; ++x) {
+            image.setPixel(x, y, qRgb((x * index.x) & 255, (y * index.y) & 255, (x ^ y) & 255));
+        }
+    }
+    return image;
+}
+
+class TileScope {
+public:
+    explicit TileScope(double rotation, int dimming = 0) : m_layer(GeoTileMap::Layer::Bottom)
+    {
+        Config config;
+        config.mapTileDimming = dimming;
+        m_layer.applyConfig(config);
+        TileSource source;
+        source.image = [this](const TileIndex &index) {
+            QImage &tile = m_tiles[index];
+            if (tile.isNull()) {
+                tile = someTile(index);
+            }
+            return tile;
+        };
+        source.levelFor = [](double) { return Level; };
+        source.maxLevel = Level;
+        m_layer.setSource(source);
+        MercatorProjector projector;
+        const QPointF middle = projector.toCartesian(48.0, 16.0);
+        m_toScreen.translate(Screen.width() / 2.0, Screen.height() / 2.0);
+        m_toScreen.rotate(rotation);
+        m_toScreen.scale(1.0 / MetresPerPixel, -1.0 / MetresPerPixel);
+        m_toScreen.translate(-middle.x(), -middle.y());
+        paint();
+        for (int i = 0; i < 50; ++i) { // what is toned in the background
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+            paint();
+        }
+    }
+
+    void pan(double pixels) { m_toScreen *= QTransform::fromTranslate(pixels, 0.0); }
+    void comeTiles() { m_layer.tilesChanged(); }
+    int tiles() const
+    {
+        return int(TilePlane::covering(m_toScreen.inverted().mapRect(QRectF(QPointF(), Screen)), Level).count());
+    }
+
+    void paint()
+    {
+        QPainter painter(&m_image);
+        painter.setWorldTransform(m_toScreen);
+        m_layer.paint(painter, GeoView(m_toScreen, Screen));
+    }
+
+private:
+    QHash<TileIndex, QImage> m_tiles;
+    GeoTileMap m_layer;
+    QTransform m_toScreen;
+    QImage m_image{Screen, QImage::Format_ARGB32_Premultiplied};
+};
+
+void unchangedView(benchmark::State &state)
+{
+    TileScope scope(double(state.range(0)), 40);
+    state.counters["tiles"] = scope.tiles();
+    for (auto _ : state) {
+        scope.paint();
+    }
+}
+
+// Half a pixel: nothing of the picture can be kept.
+void newView(benchmark::State &state)
+{
+    TileScope scope(double(state.range(0)), int(state.range(1)));
+    state.counters["tiles"] = scope.tiles();
+    double shift = 0.5;
+    for (auto _ : state) {
+        scope.pan(shift);
+        shift = -shift;
+        scope.paint();
+    }
+}
+
+void pannedView(benchmark::State &state)
+{
+    TileScope scope(double(state.range(0)), 40);
+    double shift = 7.0;
+    for (auto _ : state) {
+        scope.pan(shift);
+        shift = -shift;
+        scope.paint();
+    }
+}
+
+// Tiles have come for elsewhere.
+void checkedView(benchmark::State &state)
+{
+    TileScope scope(0.0, 40);
+    for (auto _ : state) {
+        scope.comeTiles();
+        scope.paint();
+    }
+}
+
+void toneATile(benchmark::State &state)
+{
+    const TileTone tone{45, 50, QColor(11, 17, 24)};
+    const QImage tile = someTile({3, 5, Level});
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(tone.applied(tile));
+    }
+}
+
+} // namespace
+
+BENCHMARK(unchangedView)->ArgName("rotation")->Arg(0)->Arg(30)->Unit(benchmark::kMillisecond);
+BENCHMARK(newView)
+    ->ArgNames({"rotation", "dimming"})
+    ->Args({0, 0})
+    ->Args({0, 40})
+    ->Args({30, 0})
+    ->Args({30, 40})
+    ->Args({90, 0})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(pannedView)->ArgName("rotation")->Arg(0)->Arg(30)->Unit(benchmark::kMillisecond);
+BENCHMARK(checkedView)->Unit(benchmark::kMillisecond);
+BENCHMARK(toneATile)->Unit(benchmark::kMicrosecond);
+
+int main(int argc, char **argv)
+{
+    QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

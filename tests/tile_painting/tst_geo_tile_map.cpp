@@ -1,0 +1,360 @@
+#include "app/config.h"
+#include "test_program.h"
+#include "tile_scene.h"
+#include "view/text_room.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+const GeoCoordinate Steep(35.3, 25.0); // where sphere and plane drift apart the quickest
+
+int differing(const QImage &image, const QColor &color)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            count += image.pixelColor(x, y) != color;
+        }
+    }
+    return count;
+}
+
+Config brightConfig()
+{
+    Config config;
+    config.mapTileDimming = 0;
+    config.mapTileDesaturation = 0;
+    config.mapBackgroundColor = Qt::black;
+    return config;
+}
+
+} // namespace
+
+class TestGeoTileMap : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everythingIsInItsPlace_data();
+    void everythingIsInItsPlace();
+    void noSeams();
+    void movedPictureLooksAsIfDrawnAnew();
+    void coarserAndFinerTilesStandIn();
+    void tilesFadeIn();
+    void transparentTilesFadeToo();
+    void nothingIsDoneWhileNothingChanges();
+    void densityTakesADeeperLevel();
+    void toneIsOfTheBottomLayer();
+    void saysWhoseTheTilesAre();
+    void viewsThatNeedTooManyTilesShowNone();
+};
+
+void TestGeoTileMap::everythingIsInItsPlace_data()
+{
+    QTest::addColumn<double>("metresPerPixel");
+    QTest::addColumn<GeoCoordinate>("center");
+    for (const double metresPerPixel : {14000.0, 2300.0, 300.0, 40.0, 1.5}) {
+        QTest::addRow("%g m", metresPerPixel) << metresPerPixel << Steep;
+    }
+    QTest::newRow("south") << 900.0 << GeoCoordinate(-61.0, -70.0);
+    QTest::newRow("180th meridian") << 2000.0 << GeoCoordinate(35.0, 179.9);
+    QTest::newRow("end of the map") << 9000.0 << GeoCoordinate(84.0, 10.0);
+}
+
+void TestGeoTileMap::everythingIsInItsPlace()
+{
+    QFETCH(double, metresPerPixel);
+    QFETCH(GeoCoordinate, center);
+    TileSupply supply;
+    supply.make = TileWaves::tile;
+    Config config = brightConfig();
+    config.mapSmoothPixmapTransform = true;
+    for (const double ratio : {1.0, 2.0}) {
+        const int level = supply.source().levelFor(metresPerPixel / ratio);
+        for (const double rotation : {0.0, 33.0, 90.0}) {
+            GeoTileMap layer(GeoTileMap::Layer::Bottom);
+            layer.applyConfig(config);
+            layer.setSource(supply.source());
+            const TileView view(metresPerPixel, center, rotation, ratio);
+            const QImage image = view.painted(layer);
+            for (int i = 0; i < image.width() * image.height(); i += 7) {
+                const QPoint pixel(i % image.width(), i / image.width());
+                const QPointF place = view.mapPixel(pixel, level);
+                const QColor color = image.pixelColor(pixel);
+                if (place.y() < 2.0) {
+                    QVERIFY(place.y() > -2.0 || color == QColor(Qt::black));
+                    continue;
+                }
+                // A pixel is ten steps of colour where the waves are steepest.
+                const double error = std::max(std::abs(color.red() - TileWaves::at(place.x())),
+                    std::abs(color.green() - TileWaves::at(place.y())));
+                QVERIFY2(
+                    error < 9.0, qPrintable(QStringLiteral("%1, %2: %3").arg(pixel.x()).arg(pixel.y()).arg(error)));
+            }
+        }
+    }
+}
+
+void TestGeoTileMap::noSeams()
+{
+    const QColor green(10, 190, 30);
+    TileSupply supply;
+    supply.make = [green](const TileIndex &) { return plainTile(green); };
+    GeoTileMap layer(GeoTileMap::Layer::Bottom);
+    layer.applyConfig(brightConfig());
+    layer.setSource(supply.source());
+    for (const double metresPerPixel : {11000.0, 700.0, 87.3, 4.1, 0.3}) {
+        for (const double ratio : {1.0, 1.5, 2.0}) {
+            for (const double rotation : {0.0, 1.0, 33.0, 45.0, 90.0, -127.3}) {
+                const TileView view(metresPerPixel, Steep, rotation, ratio, QSize(500, 300));
+                QCOMPARE(differing(view.painted(layer), green), 0);
+            }
+        }
+    }
+}
+
+void TestGeoTileMap::movedPictureLooksAsIfDrawnAnew()
+{
+    TileSupply supply;
+    supply.make = TileWaves::tile;
+    GeoTileMap moving(GeoTileMap::Layer::Bottom);
+    moving.applyConfig(brightConfig());
+    moving.setSource(supply.source());
+    for (const double rotation : {0.0, 20.0}) {
+        TileView view(500.0, Steep, rotation);
+        view.painted(moving);
+        for (const QPoint step : {QPoint(40, 0), QPoint(-9, 130), QPoint(0, -300)}) {
+            view.pan(step.x(), step.y());
+            GeoTileMap anew(GeoTileMap::Layer::Bottom);
+            anew.applyConfig(brightConfig());
+            anew.setSource(supply.source());
+            const QImage one = view.painted(moving);
+            const QImage other = view.painted(anew);
+            for (int i = 0; i < one.width() * one.height(); ++i) {
+                const QPoint pixel(i % one.width(), i / one.width());
+                const int red = one.pixelColor(pixel).red() - other.pixelColor(pixel).red();
+                const int green = one.pixelColor(pixel).green() - other.pixelColor(pixel).green();
+                QVERIFY(std::abs(red) <= 3 && std::abs(green) <= 3);
+            }
+        }
+    }
+}
+
+void TestGeoTileMap::coarserAndFinerTilesStandIn()
+{
+    const TileView view(2000.0, {4.2, 4.2}, 0.0, 1.0, QSize(200, 200));
+    QCOMPARE(TileGeometry::groundResolutionToLevel(2000.0), 7);
+    TileSupply supply;
+    GeoTileMap layer(GeoTileMap::Layer::Bottom);
+    layer.applyConfig(brightConfig());
+    layer.setSource(supply.source());
+    const TileIndex middle = {65, 62, 7}; // the tile of the view's middle
+    const QRectF rect = view.view().screenTransform().mapRect(TilePlane::planeRect(65, 62, 7));
+    const auto seen = [&](double x, double y) {
+        layer.tilesChanged();
+        const QPointF at = rect.topLeft() + QPointF(x * rect.width(), y * rect.height());
+        return view.painted(layer).pixelColor(at.toPoint());
+    };
+    QCOMPARE(seen(0.5, 0.5), QColor(Qt::black));
+    // The ancestor two levels up has this tile in the second column and the third row of sixteen.
+    QImage patched = plainTile(Qt::red);
+    QPainter(&patched).fillRect(QRect(64, 128, 64, 64), Qt::cyan);
+    supply.tiles[{16, 15, 5}] = patched;
+    QCOMPARE(seen(0.5, 0.5), QColor(Qt::cyan));
+    QCOMPARE(seen(0.1, 0.9), QColor(Qt::cyan));
+    supply.tiles[{131, 124, 8}] = plainTile(Qt::yellow); // the northeastern quarter
+    QCOMPARE(seen(0.75, 0.25), QColor(Qt::yellow));
+    QCOMPARE(seen(0.25, 0.25), QColor(Qt::cyan));
+    supply.tiles[middle] = plainTile(Qt::white);
+    QTRY_COMPARE(seen(0.75, 0.25), QColor(Qt::white));
+    QCOMPARE(seen(0.25, 0.75), QColor(Qt::white));
+}
+
+void TestGeoTileMap::tilesFadeIn()
+{
+    qint64 now = 10000;
+    TileSupply supply;
+    for (int x = 14; x < 18; ++x) {
+        for (int y = 14; y < 18; ++y) {
+            supply.tiles[{x, y, 5}] = plainTile(QColor(0, 0, 200));
+        }
+    }
+    GeoTileMap layer(GeoTileMap::Layer::Bottom);
+    layer.applyConfig(brightConfig());
+    layer.setClock([&now] { return now; });
+    layer.setSource(supply.source());
+    TileView view(2000.0, {0.0, 0.0}, 0.0, 1.0, QSize(200, 200));
+    const auto blue = [&] { return view.painted(layer).pixelColor(150, 150).blue(); };
+    QCOMPARE(blue(), 200);
+    supply.make = [](const TileIndex &index) { return index.level == 7 ? plainTile(QColor(0, 0, 100)) : QImage(); };
+    QSignalSpy polluted(&layer, &GeoLayer::polluted);
+    layer.tilesChanged();
+    QVERIFY(!polluted.isEmpty());
+    const int first = blue();
+    now += 200; // frames come by themselves
+    const int second = blue();
+    QVERIFY2(first > 150 && first < 195, qPrintable(QString::number(first)));
+    QVERIFY2(second > 105 && second < first - 20, qPrintable(QString::number(second)));
+    now += 200;
+    QCOMPARE(blue(), 100);
+    view.pan(-120, 0); // what is there when it comes into view does not fade
+    QCOMPARE(view.painted(layer).pixelColor(199, 150).blue(), 100);
+}
+
+// Of two half transparent tiles no more is ever seen than of one.
+void TestGeoTileMap::transparentTilesFadeToo()
+{
+    qint64 now = 0;
+    const QColor veil(255, 255, 255, 128);
+    QImage image(256, 256, QImage::Format_ARGB32_Premultiplied);
+    image.fill(veil);
+    TileSupply supply;
+    supply.tiles[{16, 15, 5}] = image;
+    GeoTileMap layer(GeoTileMap::Layer::Top);
+    layer.applyConfig(brightConfig());
+    layer.setClock([&now] { return now; });
+    layer.setSource(supply.source());
+    const TileView view(2000.0, {2.8, 2.8}, 0.0, 1.0, QSize(60, 60));
+    QCOMPARE(view.painted(layer).pixelColor(30, 30).red(), 128);
+    supply.make = [&image](const TileIndex &) { return image; };
+    layer.tilesChanged();
+    for (; now < 600; now += 100) {
+        const int red = view.painted(layer).pixelColor(30, 30).red();
+        QVERIFY2(std::abs(red - 128) <= 2, qPrintable(QString::number(red)));
+    }
+}
+
+void TestGeoTileMap::nothingIsDoneWhileNothingChanges()
+{
+    TileSupply supply;
+    supply.make = TileWaves::tile;
+    GeoTileMap layer(GeoTileMap::Layer::Bottom);
+    layer.applyConfig(brightConfig());
+    layer.setSource(supply.source());
+    TileView view(500.0, Steep, 10.0);
+    const QImage first = view.painted(layer);
+    supply.asked = 0;
+    QSignalSpy polluted(&layer, &GeoLayer::polluted);
+    QCOMPARE(view.painted(layer), first);
+    QCOMPARE(supply.asked, 0);
+    QVERIFY(polluted.isEmpty());
+    layer.tilesChanged();
+    QCOMPARE(view.painted(layer), first);
+    QVERIFY(supply.asked > 0);
+}
+
+void TestGeoTileMap::densityTakesADeeperLevel()
+{
+    TileSupply supply;
+    supply.make = TileWaves::tile;
+    GeoTileMap layer(GeoTileMap::Layer::Bottom);
+    layer.setSource(supply.source());
+    TileView(2000.0, Steep, 0.0, 1.0).painted(layer);
+    const int single = supply.deepestAsked;
+    TileView(2000.0, Steep, 0.0, 2.0).painted(layer);
+    QCOMPARE(supply.deepestAsked, single + 1);
+}
+
+void TestGeoTileMap::toneIsOfTheBottomLayer()
+{
+    Config config = brightConfig();
+    config.mapBackgroundColor = QColor(0, 0, 100);
+    config.mapTileDimming = 50;
+    config.mapTileDesaturation = 100;
+    TileSupply supply;
+    supply.make = [](const TileIndex &index) {
+        QImage image = plainTile(QColor(0, 200, 0)).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        if (index.y % 2 == 1) {
+            image.fill(Qt::transparent);
+        }
+        return image;
+    };
+    const TileView view(300.0, {0.0, 0.0}, 0.0, 1.0, QSize(200, 200));
+    const auto seen = [&](GeoLayer &layer, int y) { return view.painted(layer, Qt::red).pixelColor(100, y); };
+    GeoTileMap bottom(GeoTileMap::Layer::Bottom);
+    bottom.applyConfig(config);
+    bottom.setSource(supply.source());
+    QSignalSpy polluted(&bottom, &GeoLayer::polluted);
+    QCOMPARE(seen(bottom, 150), QColor(Qt::red)); // never bright first
+    QTRY_VERIFY(!polluted.isEmpty());
+    // Half the brightness of the green, and half the ground.
+    const auto isToned = [&](const QColor &color, int grey) {
+        return std::abs(color.red() - grey) <= 3 && std::abs(color.green() - grey) <= 3
+            && std::abs(color.blue() - grey - 50) <= 3;
+    };
+    QTRY_VERIFY(isToned(seen(bottom, 150), 59));
+    QCOMPARE(seen(bottom, 50), QColor(Qt::red)); // what is transparent stays so
+    config.mapTileDesaturation = 0;
+    bottom.applyConfig(config);
+    QVERIFY(isToned(seen(bottom, 150), 59)); // until the new ones are there
+    QTRY_COMPARE(seen(bottom, 150), QColor(0, 100, 50));
+
+    GeoTileMap top(GeoTileMap::Layer::Top);
+    top.applyConfig(config);
+    top.setSource(supply.source());
+    QCOMPARE(seen(top, 150), QColor(0, 200, 0));
+}
+
+void TestGeoTileMap::saysWhoseTheTilesAre()
+{
+    TileSupply supply;
+    supply.make = [](const TileIndex &) { return plainTile(QColor(200, 200, 180)); };
+    TileSource source = supply.source();
+    source.copyright = "Copyright 2026 Site.";
+    source.copyrightColor = Qt::black;
+    source.logo = [](TileProvider::LogoStyle style) {
+        return plainTile(style == TileProvider::LogoStyle::Light ? Qt::white : Qt::darkBlue);
+    };
+    const TileView view(500.0, Steep, 30.0, 1.0, QSize(500, 300));
+    for (const QColor &ground : {QColor(10, 16, 24), QColor(240, 240, 235)}) {
+        Config config = brightConfig();
+        config.mapBackgroundColor = ground;
+        config.mapRangeRingLabelColor = ground.lightness() < 128 ? QColor(210, 220, 230) : QColor(40, 50, 60);
+        GeoTileMap layer(GeoTileMap::Layer::Top);
+        layer.applyConfig(config);
+        layer.setSource(source);
+        TextRoom room;
+        room.begin(QRectF(0.0, 0.0, 500.0, 300.0));
+        const QRectF scale(380.0, 270.0, 120.0, 30.0); // another read-out in that corner
+        room.take(scale);
+        layer.placeTexts(view.view(), room);
+        const QRectF place = layer.readOutPlace();
+        QVERIFY(!place.intersects(scale) && place.right() > 480.0 && place.top() > 200.0);
+        QVERIFY(!room.isFree(place));
+        const QImage image = view.painted(layer);
+        // A veil under text that stands out from it, and the logo for such a ground.
+        int legible = 0;
+        int ofLogo = 0;
+        const bool isDark = ground.lightness() < 128;
+        for (int y = int(place.top()) + 1; y < int(place.bottom()); ++y) {
+            for (int x = int(place.left()) + 1; x < int(place.right()); ++x) {
+                const int lightness = image.pixelColor(x, y).lightness();
+                legible += isDark ? lightness > 150 : lightness < 100;
+                ofLogo += image.pixelColor(x, y) == QColor(isDark ? Qt::white : Qt::darkBlue);
+            }
+        }
+        QVERIFY2(legible > 200 && ofLogo > 100, qPrintable(QString::number(legible)));
+        layer.setSource({});
+        room.begin(QRectF(0.0, 0.0, 500.0, 300.0));
+        layer.placeTexts(view.view(), room);
+        QVERIFY(layer.readOutPlace().isEmpty());
+    }
+}
+
+// A service without coarse levels, on a view of a continent.
+void TestGeoTileMap::viewsThatNeedTooManyTilesShowNone()
+{
+    TileSupply supply;
+    supply.minLevel = 12;
+    supply.make = [](const TileIndex &) { return plainTile(Qt::red); };
+    GeoTileMap layer(GeoTileMap::Layer::Bottom);
+    layer.applyConfig(brightConfig());
+    layer.setSource(supply.source());
+    QCOMPARE(differing(TileView(14000.0, Steep).painted(layer), Qt::black), 0);
+    QCOMPARE(supply.asked, 0);
+    QCOMPARE(differing(TileView(30.0, Steep).painted(layer), Qt::red), 0);
+}
+
+VYX_TEST(TestGeoTileMap)
+#include "tst_geo_tile_map.moc"
