@@ -4,13 +4,15 @@
 
 namespace {
 
+using Verb = CommandLine::Verb;
+
 // One option: false with the error set where the value makes no sense.
 using Apply = bool (*)(const QString &value, CommandLine &out, QString &error);
 
 struct Option {
     const char *name;
     bool takesValue;
-    bool isOfConvert; // and of no other command
+    Verb verb; // of which command; of all that read a map for Help
     Apply apply;
 };
 
@@ -66,37 +68,55 @@ bool clear(const QString &, CommandLine &out, QString &)
 using Import = MapImport::Options;
 
 constexpr Option Options[] = {
-    {"--from", true, false,
+    {"--from", true, Verb::Help,
         [](const QString &value, CommandLine &out, QString &error) {
             return parseFormat(value, MapFile::Read, out.inputFormat, error);
         }},
-    {"--to", true, true,
+    {"--to", true, Verb::Convert,
         [](const QString &value, CommandLine &out, QString &error) {
             return parseFormat(value, MapFile::Write, out.outputFormat, error);
         }},
-    {"--class", true, true, store<&Import::className>},
-    {"--class-property", true, true, store<&Import::classProperties>},
-    {"--name-property", true, true, store<&Import::nameProperties>},
-    {"--caption-property", true, true, store<&Import::captionProperties>},
-    {"--symbol", true, true, store<&Import::symbolType>},
-    {"--layer", true, false,
+    {"--class", true, Verb::Convert, store<&Import::className>},
+    {"--class-property", true, Verb::Convert, store<&Import::classProperties>},
+    {"--name-property", true, Verb::Convert, store<&Import::nameProperties>},
+    {"--caption-property", true, Verb::Convert, store<&Import::captionProperties>},
+    {"--symbol", true, Verb::Convert, store<&Import::symbolType>},
+    {"--layer", true, Verb::Help,
         [](const QString &value, CommandLine &out, QString &) {
             out.import.layers.append(value);
             return true;
         }},
-    {"--no-symbols", false, true, clear<&Import::pointSymbols>},
-    {"--no-labels", false, true, clear<&Import::pointLabels>},
-    {"--outlines", false, true, clear<&Import::fillAreas>},
-    {"--no-airspaces", false, true, clear<&Import::airspaces>},
-    {"--tolerance", true, true, parseTolerance},
-    {"--epsg", true, false, parseEpsg},
+    {"--no-symbols", false, Verb::Convert, clear<&Import::pointSymbols>},
+    {"--no-labels", false, Verb::Convert, clear<&Import::pointLabels>},
+    {"--outlines", false, Verb::Convert, clear<&Import::fillAreas>},
+    {"--no-airspaces", false, Verb::Convert, clear<&Import::airspaces>},
+    {"--tolerance", true, Verb::Convert, parseTolerance},
+    {"--out", true, Verb::Tiles,
+        [](const QString &value, CommandLine &out, QString &) {
+            out.output = value;
+            return true;
+        }},
+    {"--levels", true, Verb::Tiles,
+        [](const QString &value, CommandLine &out, QString &error) { return out.tiles.setLevels(value, error); }},
+    {"--area", true, Verb::Tiles,
+        [](const QString &value, CommandLine &out, QString &error) { return out.tiles.setArea(value, error); }},
+    {"--style", true, Verb::Tiles,
+        [](const QString &value, CommandLine &out, QString &) {
+            out.tiles.styleSheet = value;
+            return true;
+        }},
+    {"--theme", true, Verb::Tiles,
+        [](const QString &value, CommandLine &out, QString &) {
+            out.tiles.theme = value;
+            return true;
+        }},
+    {"--epsg", true, Verb::Help, parseEpsg},
 };
 
-bool parseVerb(const QString &text, CommandLine::Verb &verb)
+bool parseVerb(const QString &text, Verb &verb)
 {
-    using Verb = CommandLine::Verb;
-    for (const auto &[name, value] : {std::pair{"info", Verb::Info}, {"convert", Verb::Convert}, {"--help", Verb::Help},
-             {"-h", Verb::Help}, {"--version", Verb::Version}}) {
+    for (const auto &[name, value] : {std::pair{"info", Verb::Info}, {"convert", Verb::Convert}, {"tiles", Verb::Tiles},
+             {"--help", Verb::Help}, {"-h", Verb::Help}, {"--version", Verb::Version}}) {
         if (text == QLatin1String(name)) {
             verb = value;
             return true;
@@ -105,10 +125,10 @@ bool parseVerb(const QString &text, CommandLine::Verb &verb)
     return false;
 }
 
-const Option *findOption(const QString &text, CommandLine::Verb verb)
+const Option *findOption(const QString &text, Verb verb)
 {
     for (const Option &option : Options) {
-        if (text == QLatin1String(option.name) && (verb == CommandLine::Verb::Convert || !option.isOfConvert)) {
+        if (text == QLatin1String(option.name) && (option.verb == verb || option.verb == Verb::Help)) {
             return &option;
         }
     }
@@ -130,12 +150,26 @@ bool parseOption(const QStringList &arguments, qsizetype &i, CommandLine &out, Q
 
 bool parseFile(const QString &text, CommandLine &out, QString &error)
 {
-    if (out.input.isEmpty()) {
+    if (out.verb == Verb::Tiles) {
+        out.tiles.maps.append(text);
+    } else if (out.input.isEmpty()) {
         out.input = text;
-    } else if (out.output.isEmpty() && out.verb == CommandLine::Verb::Convert) {
+    } else if (out.output.isEmpty() && out.verb == Verb::Convert) {
         out.output = text;
     } else {
         error = QStringLiteral("one argument too many: \"%1\"").arg(text);
+    }
+    return error.isEmpty();
+}
+
+bool completeTiles(const CommandLine &out, QString &error)
+{
+    if (out.tiles.maps.isEmpty()) {
+        error = QStringLiteral("which maps? Try --help");
+    } else if (out.output.isEmpty()) {
+        error = QStringLiteral("tiles needs --out, a file or a folder to write");
+    } else if (!out.tiles.theme.isEmpty() && !out.tiles.styleSheet.isEmpty()) {
+        error = QStringLiteral("--theme or --style, not both");
     }
     return error.isEmpty();
 }
@@ -145,7 +179,7 @@ bool complete(CommandLine &out, QString &error)
 {
     if (out.input.isEmpty()) {
         error = QStringLiteral("which file? Try --help");
-    } else if (out.verb == CommandLine::Verb::Convert && out.output.isEmpty()) {
+    } else if (out.verb == Verb::Convert && out.output.isEmpty()) {
         error = QStringLiteral("convert needs a file to write");
     }
     if (!error.isEmpty()) {
@@ -157,7 +191,7 @@ bool complete(CommandLine &out, QString &error)
     if (out.inputFormat == MapFile::Unknown && !MapImport::handles(out.input)) {
         error = QStringLiteral("what is \"%1\"? Its suffix does not tell; try --from").arg(out.input);
     }
-    if (out.verb == CommandLine::Verb::Convert && out.outputFormat == MapFile::Unknown) {
+    if (out.verb == Verb::Convert && out.outputFormat == MapFile::Unknown) {
         parseFormat(
             MapFile::formatToString(MapFile::formatFromFileName(out.output)), MapFile::Write, out.outputFormat, error);
     }
@@ -171,7 +205,7 @@ bool CommandLine::parse(const QStringList &arguments, CommandLine &out, QString 
     out = {};
     error.clear();
     if (arguments.isEmpty() || !parseVerb(arguments.first(), out.verb)) {
-        error = arguments.isEmpty() ? QStringLiteral("info or convert? Try --help")
+        error = arguments.isEmpty() ? QStringLiteral("info, convert or tiles? Try --help")
                                     : QStringLiteral("unknown command \"%1\"; try --help").arg(arguments.first());
         return false;
     }
@@ -186,17 +220,23 @@ bool CommandLine::parse(const QStringList &arguments, CommandLine &out, QString 
             return false;
         }
     }
+    if (out.verb == Verb::Tiles) {
+        return completeTiles(out, error);
+    }
     return out.verb == Verb::Help || out.verb == Verb::Version || complete(out, error);
 }
 
 const char *CommandLine::helpText()
 {
-    return R"(vyx-map: map files described, converted and imported
+    return R"(vyx-map: map files described, converted, imported and drawn as tiles
 
   vyx-map info [--from FORMAT] [--layer NAME]... [--epsg N] FILE
         What is in FILE: format, texts, groups with the number of their elements, bounds, images that are missing.
   vyx-map convert [--from FORMAT] [--to FORMAT] [options] IN OUT
         Writes the map IN to OUT, whose images come to stand beside it.
+  vyx-map tiles [--levels A-B] [--area LAT,LON,LAT,LON] [--theme NAME | --style SHEET] --out OUT MAP...
+        Draws the maps, each a map file or a map index (.idx), as tiles of 256 pixels in spherical Mercator: into the
+        file OUT where it ends in .mbtiles, else into the folder OUT as level/column/row.png.
   vyx-map --help | --version
 
 FORMAT is map (binary), xml or, to read only, legacy; without it the suffix tells (.map, .xml, .mapx). Geographic files
@@ -216,6 +256,13 @@ given with commas, the first that a feature has counts. The options for importin
   --tolerance METRES        simplify lines and areas to within METRES
   --epsg N                  the reference system of the coordinates; else the file's own or, where it has none, degrees
 
-Exit status: 0 done, 1 a file that cannot be read or written, 2 wrong arguments.
+The options of tiles:
+
+  --levels A-B              from level 0, the world in one tile, to 22 (0-6)
+  --area LAT,LON,LAT,LON    two opposite corners in degrees; else all that the maps hold
+  --theme NAME              style and ground of a theme of the terminal (Day)
+  --style SHEET             this style sheet, on a transparent ground
+
+Exit status: 0 done, 1 cancelled, or a file that cannot be read or written, 2 wrong arguments.
 )";
 }

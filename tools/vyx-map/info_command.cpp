@@ -1,69 +1,10 @@
 #include "vyx-map/info_command.h"
 
-#include <algorithm>
+#include "vyx-map/map_bounds.h"
+
 #include <utility>
 
 namespace {
-
-// The corners of what has a place.
-class Bounds {
-public:
-    void add(const GeoCoordinate &point)
-    {
-        if (!point.isValid()) {
-            return;
-        }
-        m_south = std::min(m_south, point.latitude());
-        m_north = std::max(m_north, point.latitude());
-        m_west = std::min(m_west, point.longitude());
-        m_east = std::max(m_east, point.longitude());
-    }
-
-    QString text() const
-    {
-        if (m_south > m_north) {
-            return QStringLiteral("none");
-        }
-        return QStringLiteral("%1 to %2")
-            .arg(GeoCoordinate(m_south, m_west).toATCString(), GeoCoordinate(m_north, m_east).toATCString());
-    }
-
-private:
-    double m_south = 90;
-    double m_north = -90;
-    double m_west = 180;
-    double m_east = -180;
-};
-
-template <typename Elements, typename Sink>
-qint64 forEachPoint(const Elements &elements, const Sink &sink)
-{
-    qint64 count = 0;
-    for (const auto &element : elements) {
-        for (const GeoCoordinate &point : element.points) {
-            sink(point);
-        }
-        count += element.points.size();
-    }
-    return count;
-}
-
-// Returns the number of points that lines and areas have.
-qint64 addGroup(const MapElementGroup &group, Bounds &bounds)
-{
-    const auto add = [&bounds](const GeoCoordinate &point) { bounds.add(point); };
-    for (const MapSymbolElement &symbol : group.symbols) {
-        bounds.add(symbol.coordinate);
-    }
-    for (const MapLabelElement &label : group.labels) {
-        bounds.add(label.coordinate);
-    }
-    for (const MapImageElement &image : group.images) {
-        bounds.add(image.northwest);
-        bounds.add(image.southeast);
-    }
-    return forEachPoint(group.polylines, add) + forEachPoint(group.polygons, add);
-}
 
 void printTexts(const MapData &map, const LineSink &out)
 {
@@ -78,10 +19,10 @@ void printTexts(const MapData &map, const LineSink &out)
 
 void printGroups(const MapData &map, const LineSink &out)
 {
-    Bounds bounds;
+    MapBounds bounds;
     QStringList lines;
     for (const MapElementGroup &group : map.groups) {
-        const qint64 points = addGroup(group, bounds);
+        const qint64 points = bounds.add(group);
         lines.append(QStringLiteral("%1 %2 %3 %4 %5 %6 %7 %8")
                          .arg(group.name, -20)
                          .arg(group.className, -12)

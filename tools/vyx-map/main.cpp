@@ -1,8 +1,11 @@
 #include "vyx-map/convert_command.h"
 #include "vyx-map/info_command.h"
+#include "vyx-map/tiles_command.h"
 
 #include <QGuiApplication>
 
+#include <atomic>
+#include <csignal>
 #include <cstdio>
 #include <unistd.h>
 
@@ -39,6 +42,16 @@ void hideNotes(QtMsgType type, const QMessageLogContext &, const QString &text)
     }
 }
 
+std::atomic<bool> cancelled = false;
+
+int runUntilCancelled(const CommandLine &command, const PercentSink &progress, const LineSink &out)
+{
+    for (const int signal : {SIGINT, SIGTERM}) {
+        std::signal(signal, [](int) { cancelled = true; });
+    }
+    return runTiles(command, progress, out, printError, cancelled);
+}
+
 int run(const CommandLine &command)
 {
     const PercentSink progress = ::isatty(STDERR_FILENO) ? PercentSink(printPercent) : PercentSink();
@@ -48,6 +61,8 @@ int run(const CommandLine &command)
         return runInfo(command, progress, out, printError);
     case CommandLine::Verb::Convert:
         return runConvert(command, progress, printError);
+    case CommandLine::Verb::Tiles:
+        return runUntilCancelled(command, progress, out);
     case CommandLine::Verb::Version:
         std::puts("vyx-map " VYX_VERSION);
         return 0;
