@@ -61,10 +61,12 @@ void GeoWidget::setMapDisplay(GeoMapDisplay *display)
     }
     if (m_mapDisplay) {
         m_mapDisplay->disconnect(this);
+        disconnect(m_mapDisplay);
     }
     m_mapDisplay = display;
     setAttribute(Qt::WA_OpaquePaintEvent); // the map fills every pixel
     connect(display, &GeoMapDisplay::polluted, this, &GeoWidget::updateMap);
+    connect(this, &GeoWidget::viewRectChanged, display, &GeoMapDisplay::requestTileMap);
 }
 
 void GeoWidget::setTrackDisplay(GeoTrackDisplay *display)

@@ -5,6 +5,7 @@
 #include "settings/map_config_page.h"
 #include "settings/processor_config_page.h"
 #include "settings/sensor_config_page.h"
+#include "settings/tile_config_page.h"
 #include "settings/track_config_page.h"
 #include "settings/video_config_page.h"
 #include "settings/weather_config_page.h"
@@ -33,6 +34,7 @@ ConfigWindow::ConfigWindow(const Config &config, SensorManager *sensors, QWidget
     addPage(new ProcessorConfigPage(this));
     addPage(new SensorConfigPage(sensors, this));
     addPage(new MapConfigPage(this));
+    addPage(new TileConfigPage(this));
     addPage(new WeatherConfigPage(this));
     addPage(new VideoConfigPage(this));
     addPage(new TrackConfigPage(this));

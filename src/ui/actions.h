@@ -57,6 +57,8 @@ enum class ActionId : std::size_t {
     StaticMaps,
     ToggleStaticMaps,
     StaticMapEditor,
+    ToggleTileMap,
+    TileDownloader,
     ToggleSensorMap,
     ToggleWeatherMap,
     ToggleVideoMap,

@@ -19,6 +19,7 @@
 #include "sensors/sensor_manager.h"
 #include "settings/track_label_format_window.h"
 #include "silence/geo_last_place_map.h"
+#include "tile_windows/tile_maps.h"
 #include "ui/actions.h"
 #include "ui/empty_scope.h"
 #include "ui/home_view.h"
@@ -101,6 +102,7 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     connectTrackActions();
     connectMapActions();
     connectMapWindows();
+    connectTileMaps();
     connectDialogActions();
     connect(m_sensors.get(), &SensorManager::warning, this,
         [this](const QString &text) { showLog(LogLevel::Warning, text); });
@@ -204,6 +206,8 @@ void MainWindow::makeParts()
     m_home = std::make_unique<HomeView>(m_geoWidget, &m_host.shared().projector, &m_config.live());
     m_layoutMenu = std::make_unique<LayoutMenu>(this, m_actions, m_geoWidget);
     m_mapWindows = std::make_unique<MapWindows>(this, m_actions, m_geoWidget, &m_host.shared().projector);
+    m_tileMaps = std::make_unique<TileMaps>(this, m_geoWidget, &m_host.shared().projector,
+        [this](const std::function<void(Config &)> &change) { editConfig(change); });
     m_replay = std::make_unique<ReplayControls>(this, m_actions, &m_config, m_sensors.get(), &m_host, m_session.get());
 }
 
@@ -435,6 +439,9 @@ void MainWindow::applyConfig(SettingGroups changed)
     }
     if (changed & SettingGroup::PlanView && m_windows.trackLabelFormat) {
         m_windows.trackLabelFormat->setGround(config.mapBackgroundColor);
+    }
+    if (changed & SettingGroup::Tiles) {
+        m_tileMaps->applyConfig(config);
     }
     if (changed & SettingGroup::StaticMaps) {
         m_mapWindows->reload(config);

@@ -38,6 +38,7 @@ class StatsWindow;
 class StatusLine;
 class StatusReadOuts;
 class ThemeMenu;
+class TileMaps;
 class TrackCommands;
 class TrackLabelFormatWindow;
 class WeatherIntensityWindow;
@@ -71,6 +72,7 @@ public:
     const EngineHost &engineHost() const { return m_host; }
     RecordingOpener *recordingOpener() const;
     ThemeMenu *themes() const { return m_themes; }
+    TileMaps *tileMaps() const { return m_tileMaps.get(); }
 
     // Replaces the question whether to exit while an input is open; true exits.
     void setExitQuestion(std::function<bool()> question) { m_questions.exit = std::move(question); }
@@ -145,6 +147,7 @@ public Q_SLOTS:
     void showChangelog();
     void launchSensorManager();
     void showMapWindow();
+    void showBingMapsDownloaderWindow();
     // Empty: no map yet.
     void launchStaticMapEditor(const QString &path, MapFile::Format format);
     void showLayoutSaveWindow();
@@ -197,6 +200,7 @@ private:
     void connectLabelActions();
     void connectMapActions();
     void connectMapWindows();
+    void connectTileMaps();
     void connectDialogActions();
 
     // Settings.
@@ -273,6 +277,7 @@ private:
     std::unique_ptr<HomeView> m_home;
     std::unique_ptr<LayoutMenu> m_layoutMenu;
     std::unique_ptr<MapWindows> m_mapWindows;
+    std::unique_ptr<TileMaps> m_tileMaps;
     std::unique_ptr<ReplayControls> m_replay;
     QTimer m_clockTimer;
 

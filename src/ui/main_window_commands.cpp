@@ -3,6 +3,7 @@
 #include "health/input_health.h"
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
+#include "tile_windows/tile_maps.h"
 #include "ui/actions.h"
 #include "ui/empty_scope.h"
 #include "ui/home_view.h"
@@ -149,12 +150,13 @@ void MainWindow::showHealth()
 QString MainWindow::scopeNotice() const
 {
     const QString input = m_session->description();
-    for (const QString &notice : {m_session->notice(), m_plotSwitch->notice(input)}) {
+    for (const QString &notice :
+        {m_session->notice(), m_plotSwitch->notice(input), m_emptyScope->notice(input), m_tileMaps->notice()}) {
         if (!notice.isEmpty()) {
             return notice;
         }
     }
-    return m_emptyScope->notice(input);
+    return {};
 }
 
 void MainWindow::updateNotices()
@@ -377,6 +379,23 @@ void MainWindow::updateMapLayoutMenu()
 void MainWindow::showReplayWindow()
 {
     m_replay->showWindow();
+}
+
+void MainWindow::connectTileMaps()
+{
+    connect(m_tileMaps.get(), &TileMaps::logMessage, this, &MainWindow::showLog);
+    connect((*m_actions)[ActionId::ToggleTileMap], &QAction::triggered, m_tileMaps.get(), &TileMaps::show);
+    connect(
+        (*m_actions)[ActionId::TileDownloader], &QAction::triggered, this, &MainWindow::showBingMapsDownloaderWindow);
+    connect(m_tileMaps.get(), &TileMaps::changed, this, [this] {
+        (*m_actions)[ActionId::ToggleTileMap]->setChecked(m_tileMaps->shown());
+        showHealth();
+    });
+}
+
+void MainWindow::showBingMapsDownloaderWindow()
+{
+    m_tileMaps->showDownloadWindow();
 }
 
 void MainWindow::showMapWindow()

@@ -4,6 +4,7 @@
 #include "app/config.h"
 #include "app/crash_handler.h"
 #include "engine/replay_speed.h"
+#include "tile_windows/tile_maps.h"
 #include "ui/main_window.h"
 #include "ui/recording_opener.h"
 #include "ui/theme_menu.h"
@@ -116,6 +117,9 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
         }
         commandLine.applyTo(config);
     });
+    if (demo) {
+        window.tileMaps()->barServices();
+    }
     setUpLook(commandLine, themes, window);
     FirstFrame firstFrame(window.centralWidget(), clock);
     QObject::connect(&firstFrame, &FirstFrame::painted, &window, [&window](qint64 milliseconds) {

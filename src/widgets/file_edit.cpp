@@ -31,11 +31,21 @@ void FileEdit::setPath(const QString &path)
 
 void FileEdit::browse()
 {
-    const QString start = QDir(m_baseDir).absoluteFilePath(path());
-    const QString chosen = m_saving
-        ? QFileDialog::getSaveFileName(this, m_title, start, m_filter, nullptr, QFileDialog::DontConfirmOverwrite)
-        : QFileDialog::getOpenFileName(this, m_title, start, m_filter);
-    if (!chosen.isEmpty()) {
-        setPath(chosen);
+    const QString path = chosen();
+    if (!path.isEmpty()) {
+        setPath(path);
     }
+}
+
+// Empty: the dialog was cancelled.
+QString FileEdit::chosen()
+{
+    const QString start = QDir(m_baseDir).absoluteFilePath(path());
+    if (m_choosingDirectory) {
+        return QFileDialog::getExistingDirectory(this, m_title, start);
+    }
+    if (m_saving) {
+        return QFileDialog::getSaveFileName(this, m_title, start, m_filter, nullptr, QFileDialog::DontConfirmOverwrite);
+    }
+    return QFileDialog::getOpenFileName(this, m_title, start, m_filter);
 }

@@ -4,7 +4,7 @@
 
 class QLineEdit;
 
-// A line edit for the path of a file, with a button that opens the file dialog.
+// A line edit for the path of a file or a directory, with a button that opens the file dialog.
 class FileEdit final : public QWidget {
     Q_OBJECT
 
@@ -19,13 +19,17 @@ public:
     void setBaseDir(const QString &dir) { m_baseDir = dir; }
     // The file is to be written, and need not exist; whether it may be replaced is for the owner to ask.
     void setSaving(bool saving) { m_saving = saving; }
+    // It is a directory that is chosen, not a file.
+    void setChoosingDirectory(bool directory) { m_choosingDirectory = directory; }
 
 private:
     void browse();
+    QString chosen();
 
     QString m_title;
     QString m_filter;
     QString m_baseDir;
     bool m_saving = false;
+    bool m_choosingDirectory = false;
     QLineEdit *m_edit = nullptr;
 };

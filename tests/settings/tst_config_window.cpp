@@ -197,9 +197,7 @@ void TestConfigWindow::everySettingHasAField()
         }
     }
     for (const Setting &setting : Setting::all()) {
-        // The tiles have no page as long as there is no tile layer.
-        const bool excepted = elsewhere.contains(setting.key()) || setting.groups() == SettingGroup::Tiles;
-        QVERIFY2(pages.value(setting.key()) == (excepted ? 0 : 1), qPrintable(setting.key()));
+        QVERIFY2(pages.value(setting.key()) == (elsewhere.contains(setting.key()) ? 0 : 1), qPrintable(setting.key()));
     }
 }
 
