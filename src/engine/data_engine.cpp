@@ -16,20 +16,29 @@
 namespace {
 
 constexpr int PublishPeriodMs = 200;
-constexpr int LogPeriodMs = 1000;
+constexpr int StatisticsPeriodMs = 1000;
 
 } // namespace
 
 DataEngine::DataEngine(Projector *projector, SnapshotSlot<DisplaySnapshot> *displaySlot,
-    SnapshotSlot<VideoBatch> *videoSlot, SnapshotSlot<WeatherProcessor::Picture> *weatherSlot, QObject *parent)
-    : QObject(parent), m_projector(projector), m_publisher(displaySlot, videoSlot, weatherSlot)
+    SnapshotSlot<VideoBatch> *videoSlot, SnapshotSlot<WeatherProcessor::Picture> *weatherSlot,
+    SnapshotSlot<InputStatistics> *statisticsSlot, QObject *parent)
+    : QObject(parent), m_projector(projector), m_publisher(displaySlot, videoSlot, weatherSlot, statisticsSlot)
 {
+    m_ledgers.add(&m_sources);
+    m_ledgers.add(&m_archive);
 }
 
 // What is read and written by an input must not go before it.
 DataEngine::~DataEngine()
 {
     delete std::exchange(m_input, nullptr);
+}
+
+void DataEngine::setClock(const std::shared_ptr<Clock> &clock)
+{
+    m_clock = clock;
+    m_sources.setClock(clock);
 }
 
 void DataEngine::init()
@@ -43,17 +52,21 @@ void DataEngine::init()
     connectRecorder();
     startTimers();
     publishSnapshot();
+    publishStatistics();
 }
 
 void DataEngine::makeProcessors()
 {
     m_alertProcessor = QSharedPointer<AlertProcessor>::create(m_alertManager, m_trackManager);
+    m_alertProcessor->setLedger(&m_ledgers);
     connect(m_alertProcessor.data(), &AlertProcessor::message, this, &DataEngine::log);
     connect(m_alertProcessor.data(), &AlertProcessor::alertStatusChanged, this, &DataEngine::alertStatusChanged);
     m_weatherProcessor = QSharedPointer<WeatherProcessor>::create();
+    m_weatherProcessor->setLedger(&m_ledgers);
     connect(m_weatherProcessor.data(), &WeatherProcessor::message, this, &DataEngine::log);
     connect(m_weatherProcessor.data(), &WeatherProcessor::pictureReady, this, &DataEngine::publishWeatherPicture);
     m_videoProcessor = QSharedPointer<VideoProcessor>::create();
+    m_videoProcessor->setLedger(&m_ledgers);
     connect(m_videoProcessor.data(), &VideoProcessor::message, this, &DataEngine::log);
     connect(m_videoProcessor.data(), &VideoProcessor::radialReady, this, &DataEngine::accumulateVideoRadial);
 }
@@ -62,12 +75,13 @@ void DataEngine::startTimers()
 {
     connect(&m_videoTimer, &QTimer::timeout, this, &DataEngine::publishVideoBatch);
     connect(&m_snapshotTimer, &QTimer::timeout, this, &DataEngine::publishSnapshot);
-    connect(&m_logTimer, &QTimer::timeout, this, [this] { m_logGate.sumUp(); });
+    connect(&m_secondTimer, &QTimer::timeout, this, [this] { m_logGate.sumUp(); });
+    connect(&m_secondTimer, &QTimer::timeout, this, &DataEngine::publishStatistics);
     for (QTimer *timer : {&m_videoTimer, &m_snapshotTimer}) {
         timer->setTimerType(Qt::PreciseTimer);
         timer->start(PublishPeriodMs);
     }
-    m_logTimer.start(LogPeriodMs);
+    m_secondTimer.start(StatisticsPeriodMs);
 }
 
 void DataEngine::procMessage(const QByteArray &data)
@@ -103,7 +117,10 @@ void DataEngine::openInput(
     }
     m_input->setParent(this);
     connectInput(m_input);
-    reportOpening(m_input->open());
+    const Input::Opening opening = m_input->open();
+    m_sources.setEndpoints(m_input->endpoints()); // ports may be the system's choice
+    reportOpening(opening);
+    publishStatistics();
 }
 
 // A given up opening is answered by the closing that it was given up for.
@@ -123,6 +140,7 @@ void DataEngine::clearPicture()
 {
     m_weatherProcessor->reset();
     m_publisher.reset();
+    m_sources.restart(m_sensor ? m_sensor->reportPeriod() : 0.0);
     m_plots.restart();
     m_archive.clear();
     m_trackManager->reset();
@@ -134,6 +152,8 @@ void DataEngine::clearPicture()
 void DataEngine::restartPicture()
 {
     m_weatherProcessor->reset();
+    m_sources.restart(m_sensor ? m_sensor->reportPeriod() : 0.0);
+    m_sources.setEndpoints(m_input->endpoints());
     m_plots.restart();
     m_archive.clear();
     m_trackManager->reset();
@@ -205,8 +225,8 @@ void DataEngine::connectInput(Input *input)
 
 std::unique_ptr<MessageRouter> DataEngine::makeRouter()
 {
-    const MessageRouter::Consumers consumers{
-        makeTracker(), m_alertProcessor.data(), m_weatherProcessor.data(), m_videoProcessor.data()};
+    const MessageRouter::Consumers consumers{makeTracker(), m_alertProcessor.data(), m_weatherProcessor.data(),
+        m_videoProcessor.data(), &m_sources, &m_ledgers};
     auto router = std::make_unique<MessageRouter>(m_config, m_sensor, consumers, m_clock, &m_publisher.meter());
     connect(router.get(), &MessageRouter::message, this, &DataEngine::log);
     return router;
@@ -224,7 +244,7 @@ QSharedPointer<Tracker> DataEngine::makeTracker()
     }
     connect(tracker.data(), &Tracker::message, this, &DataEngine::log);
     tracker->setPlotStore(&m_plots);
-    tracker->setLedger(&m_archive);
+    tracker->setLedger(&m_ledgers);
     configureTracker(tracker.data());
     return tracker;
 }
@@ -261,6 +281,7 @@ void DataEngine::closeInput()
         return;
     }
     input->updateClock();
+    m_sources.setBacklog(input->backlog());
     input->close();
     input->deleteLater(); // the call may come from within it
     m_clock->hold();
@@ -268,6 +289,7 @@ void DataEngine::closeInput()
     m_alertProcessor->resetAlertStatus();
     m_logGate.sumUp();
     publishSnapshot(); // what came in since the last one; it stays
+    publishStatistics();
     Q_EMIT inputClosed(m_requestId);
 }
 
@@ -342,6 +364,7 @@ void DataEngine::publishSnapshot()
     if (m_input) {
         m_input->updateClock();
     }
+    m_sources.advance();
     const auto stats = m_publisher.publishSnapshot([this](DisplaySnapshot &snapshot) {
         snapshot.tracks = m_trackManager->snapshotTracks(m_trailDots);
         snapshot.alerts = m_alertManager->snapshotAlerts();
@@ -356,6 +379,25 @@ void DataEngine::publishSnapshot()
     if (stats) {
         Q_EMIT pipelineStats(*stats);
     }
+}
+
+void DataEngine::publishStatistics()
+{
+    m_sources.advance();
+    if (m_input) {
+        m_sources.setBacklog(m_input->backlog());
+    }
+    m_publisher.publishStatistics([this] { return statistics(); });
+}
+
+InputStatistics DataEngine::statistics() const
+{
+    InputStatistics statistics = m_sources.statistics();
+    statistics.recordedTime = m_clock->isRecorded();
+    statistics.open = m_input != nullptr;
+    statistics.paused = m_input && m_input->isPaused();
+    statistics.requestId = m_requestId;
+    return statistics;
 }
 
 void DataEngine::publishVideoBatch()

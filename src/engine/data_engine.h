@@ -7,6 +7,7 @@
 #include "engine/pipeline_stats.h"
 #include "engine/recording_input.h"
 #include "engine/report_archive.h"
+#include "engine/source_monitor.h"
 #include "processors/video_processor.h"
 #include "tracking/alert.h"
 #include "tracking/clock.h"
@@ -32,18 +33,20 @@ class TrackManager;
 // them to the tracker of the input's sensor and to the processors, and publishes what the display needs.
 //
 // Everything in it lives on the thread that it is moved to; call its slots by queued invocation from elsewhere. It
-// talks back by signals and through the three snapshot slots only.
+// talks back by signals and through the slots only.
 class DataEngine final : public QObject {
     Q_OBJECT
 
 public:
-    // Projector and slots belong to the caller and must outlive the engine. Nothing happens before init().
+    // Projector and slots belong to the caller and must outlive the engine; statistics are published nowhere without a
+    // slot. Nothing happens before init().
     DataEngine(Projector *projector, SnapshotSlot<DisplaySnapshot> *displaySlot, SnapshotSlot<VideoBatch> *videoSlot,
-        SnapshotSlot<WeatherProcessor::Picture> *weatherSlot, QObject *parent = nullptr);
+        SnapshotSlot<WeatherProcessor::Picture> *weatherSlot, SnapshotSlot<InputStatistics> *statisticsSlot = nullptr,
+        QObject *parent = nullptr);
     ~DataEngine() override;
 
     // Before init(): what the engine takes the time from, the system's own clock otherwise.
-    void setClock(std::shared_ptr<Clock> clock) { m_clock = std::move(clock); }
+    void setClock(const std::shared_ptr<Clock> &clock);
 
     // Counts one message and routes it as one of the open input; nothing without one. Data need to live during the call
     // only.
@@ -101,6 +104,8 @@ public Q_SLOTS:
     // Called by timers every 200 ms, and by whoever wants a picture at once.
     void publishSnapshot();
     void publishVideoBatch();
+    // Called by a timer every second, and when an input is opened or closed.
+    void publishStatistics();
 
     void accumulateVideoRadial(const VideoProcessor::Radial &radial);
     void publishWeatherPicture(const WeatherProcessor::Picture &picture);
@@ -144,6 +149,7 @@ private:
     void configureTracker(Tracker *tracker);
     void reportOpening(Input::Opening opening);
     void agePicture();
+    InputStatistics statistics() const;
 
     Projector *const m_projector;
 
@@ -156,6 +162,8 @@ private:
 
     std::shared_ptr<Clock> m_clock = std::make_shared<Clock>();
     PlotStore m_plots;
+    SourceMonitor m_sources{m_clock};
+    ReportLedgers m_ledgers;
     QSharedPointer<TrackManager> m_trackManager;
     ReportArchive m_archive;
     QSharedPointer<AlertManager> m_alertManager;
@@ -167,7 +175,7 @@ private:
     int m_trailDots = 0;
     QTimer m_snapshotTimer{this}; // children, so that they follow the engine to its thread
     QTimer m_videoTimer{this};
-    QTimer m_logTimer{this};
+    QTimer m_secondTimer{this}; // of log and statistics
     LogGate m_logGate{[this](LogLevel level, const QString &text) { Q_EMIT logMessage(level, text); }};
 
     InputRecorder m_recorder{this};

@@ -14,7 +14,8 @@ constexpr int StopWaitMs = 5000;
 
 EngineHost::EngineHost(QObject *parent)
     : QObject(parent), m_shared(std::make_shared<Shared>()),
-      m_engine(new DataEngine(&m_shared->projector, &m_shared->display, &m_shared->video, &m_shared->weather))
+      m_engine(new DataEngine(
+          &m_shared->projector, &m_shared->display, &m_shared->video, &m_shared->weather, &m_shared->statistics))
 {
     if (qEnvironmentVariableIsSet("VYXDISPLAY_NO_DATA_THREAD")) {
         return;

@@ -4,6 +4,7 @@
 #include "engine/display_snapshot.h"
 #include "engine/replay_speed.h"
 #include "engine/snapshot_slot.h"
+#include "engine/source_statistics.h"
 #include "engine/video_batch.h"
 #include "geo/mercator_projector.h"
 #include "processors/weather_processor.h"
@@ -33,6 +34,7 @@ public:
         SnapshotSlot<DisplaySnapshot> display;
         SnapshotSlot<VideoBatch> video;
         SnapshotSlot<WeatherProcessor::Picture> weather;
+        SnapshotSlot<InputStatistics> statistics;
     };
 
     // The engine gets a thread of its own unless the environment variable VYXDISPLAY_NO_DATA_THREAD is set. It does

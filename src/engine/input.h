@@ -2,9 +2,11 @@
 
 #include "app/log_level.h"
 #include "engine/message_router.h"
+#include "engine/source_statistics.h"
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -24,6 +26,11 @@ public:
 
     virtual Opening open() = 0;
 
+    // What it reads, for people: each of the endpoints by whose numbers the router is told where a message came by.
+    virtual QStringList endpoints() const = 0;
+
+    virtual InputBacklog backlog() const { return {}; }
+
     // What reads ends with it, at once. The object stays until whatever is on the way through its router is done.
     virtual void close() = 0;
 
@@ -32,6 +39,7 @@ public:
 
     // A paused live input is read and thrown away, a paused recording holds its position.
     virtual void setPaused(bool paused) { m_paused = paused; }
+    bool isPaused() const { return m_paused; }
 
     // The clock of the pipeline is brought up to date where it is this input that moves it.
     virtual void updateClock() { }

@@ -3,11 +3,11 @@
 #include "app/log_gate.h"
 #include "engine/envelope.h"
 #include "engine/pipeline_meter.h"
+#include "engine/source_monitor.h"
 #include "processors/alert_processor.h"
 #include "processors/video_processor.h"
 #include "processors/weather_processor.h"
 #include "sensors/sensor_info.h"
-#include "sirm/alenia_sir_m_radar_decoder.h"
 #include "tracking/tracker.h"
 
 #include <algorithm>
@@ -35,6 +35,26 @@ bool isTrackerCategory(std::uint32_t category)
     return std::find(Categories.begin(), Categories.end(), category) != Categories.end();
 }
 
+bool hasReader(std::uint32_t category)
+{
+    return isTrackerCategory(category) || category == 4 || category == 8 || category == 240;
+}
+
+ReportOutcome outcomeOf(ModeSMessage::Fault fault)
+{
+    switch (fault) {
+    case ModeSMessage::Fault::NotModeS:
+        return ReportOutcome::ModeAC;
+    case ModeSMessage::Fault::DownlinkFormat:
+    case ModeSMessage::Fault::MessageType:
+        return ReportOutcome::NoReader;
+    case ModeSMessage::Fault::UnknownAddress:
+        return ReportOutcome::UnknownAddress;
+    default:
+        return ReportOutcome::Malformed;
+    }
+}
+
 } // namespace
 
 MessageRouter::MessageRouter(const Config &config, const QSharedPointer<SensorInfo> &sensor, const Consumers &consumers,
@@ -52,9 +72,10 @@ void MessageRouter::debug(MakeText makeText)
     }
 }
 
-void MessageRouter::procMessage(const QByteArray &data)
+void MessageRouter::procMessage(const QByteArray &data, int endpoint)
 {
     m_meter->countMessage(data.size());
+    m_consumers.sources->beginMessage(data.size(), endpoint);
     switch (m_config.processorType) {
     case Config::ProcessorType::Asterix:
         return procAsterixMessage(data);
@@ -69,18 +90,82 @@ void MessageRouter::procAsterixMessage(const QByteArray &data)
 {
     const auto *octets = reinterpret_cast<const unsigned char *>(data.constData());
     const auto size = static_cast<std::size_t>(data.size());
-    std::size_t offset = envelopeSize(m_config.processorAsterixFormat);
-    while (offset < size && decodeBlock(octets + offset, size - offset)) {
+    const std::size_t envelope = envelopeSize(m_config.processorAsterixFormat);
+    if (size <= envelope) {
+        m_consumers.sources->countUndecodable();
+    }
+    std::size_t offset = envelope;
+    while (offset < size) {
+        const unsigned char *const block = octets + offset;
+        if (!decodeBlock(block, size - offset)) {
+            return dropRest(block, size - offset, offset == envelope);
+        }
         if (m_block.size == 0) {
             Q_EMIT message(LogLevel::Warning,
                 tr("Decoded ASTERIX data block reports zero size, the rest of the message is dropped."));
-            return;
+            return dropRest(block, size - offset, offset == envelope);
         }
         offset += m_block.size;
-        if (fromConfiguredSensor()) {
-            routeBlock();
-        }
+        m_consumers.sources->beginBlock(m_block.size);
+        procBlock(block);
     }
+}
+
+void MessageRouter::procBlock(const unsigned char *octets)
+{
+    if (!fromConfiguredSensor()) {
+        dropBlock(octets, ReportOutcome::OtherSource);
+    } else if (m_block.error == korvane::asterix::Error::UnknownCategory || !hasReader(m_block.category)) {
+        logUnsupportedCategory();
+        dropBlock(octets, ReportOutcome::NoReader);
+    } else if (!m_block.valid) {
+        dropBlock(octets, ReportOutcome::Malformed);
+    } else {
+        routeBlock();
+    }
+}
+
+// What follows the last block and does not look like another one is no fault: check sequences, and what recorders add.
+void MessageRouter::dropRest(const unsigned char *octets, std::size_t size, bool isWholeMessage)
+{
+    constexpr std::size_t BlockHeader = 3;
+    if (!isWholeMessage && (size < BlockHeader || !hasReader(octets[0]))) {
+        m_consumers.sources->countTrailed();
+        return;
+    }
+    if (isWholeMessage) {
+        m_consumers.sources->countUndecodable();
+    }
+    m_consumers.sources->beginBlock(size);
+    dropUndecoded(octets, size, ReportOutcome::Malformed);
+}
+
+void MessageRouter::dropBlock(const unsigned char *octets, ReportOutcome outcome)
+{
+    if (!m_block.valid) {
+        dropUndecoded(octets, m_block.size, outcome);
+        return;
+    }
+    for (const _ast_datarecord_t &record : m_block.records) {
+        m_consumers.ledger->takeRecord(m_block.category, record, outcome);
+    }
+}
+
+// The first octet names a category where it is one that is read, or the block is whole.
+void MessageRouter::dropUndecoded(const unsigned char *octets, std::size_t size, ReportOutcome outcome)
+{
+    TakenReport report;
+    report.outcome = outcome;
+    report.octets = octets;
+    report.size = static_cast<quint32>(size);
+    if (outcome != ReportOutcome::Malformed || hasReader(octets[0])) {
+        report.category = octets[0];
+    }
+    if (outcome == ReportOutcome::Malformed) {
+        report.fault = korvane::asterix::errorText(m_block.error);
+        report.faultOffset = m_block.errorOffset;
+    }
+    m_consumers.ledger->take(report);
 }
 
 bool MessageRouter::decodeBlock(const unsigned char *data, std::size_t length)
@@ -120,12 +205,6 @@ bool MessageRouter::fromConfiguredSensor()
 
 void MessageRouter::routeBlock()
 {
-    if (isTrackerCategory(m_block.category)) {
-        if (m_consumers.tracker) {
-            m_consumers.tracker->procAsterixMessage(m_block);
-        }
-        return;
-    }
     switch (m_block.category) {
     case 4:
         return m_consumers.alerts->procMessage(m_block);
@@ -134,7 +213,10 @@ void MessageRouter::routeBlock()
     case 240:
         return m_consumers.video->procAsterixMessage(m_block);
     default:
-        logUnsupportedCategory();
+        if (m_consumers.tracker) {
+            return m_consumers.tracker->procAsterixMessage(m_block);
+        }
+        dropBlock(nullptr, ReportOutcome::WrongSensorKind);
     }
 }
 
@@ -156,10 +238,27 @@ void MessageRouter::procModeSMessage(const QByteArray &data)
     m_modesBuffer.erase(0, taken);
     if (m_modesFrames.empty()) {
         debug([] { return tr("Failed to extract Mode-S encapsulation."); });
+        dropUnframed(data, taken);
     }
     for (ModeSFrame &frame : m_modesFrames) {
         procModeSFrame(frame);
     }
+}
+
+// Octets in which no frame begins or ends.
+void MessageRouter::dropUnframed(const QByteArray &data, std::size_t taken)
+{
+    if (taken == 0) {
+        return; // the beginning of a frame, perhaps
+    }
+    m_consumers.sources->countUndecodable();
+    m_consumers.sources->beginBlock(static_cast<std::size_t>(data.size()));
+    TakenReport report;
+    report.form = TakenReport::Form::ModeS;
+    report.octets = reinterpret_cast<const unsigned char *>(data.constData());
+    report.size = static_cast<quint32>(data.size());
+    report.fault = "no frame of the encapsulation";
+    m_consumers.ledger->take(report);
 }
 
 // Receivers count from whenever they were switched on; the tracker needs UTC in any case.
@@ -168,10 +267,14 @@ void MessageRouter::procModeSFrame(ModeSFrame &frame)
     const auto now = static_cast<unsigned long long>(m_clock->nowMs());
     frame.timeStamp = m_config.processorModeSIgnoreTimeStamp ? now : m_receiverClock.toUtc(frame, now);
     m_modesDecoder.decode(ModeSMessage::AnyDownlink, frame, *m_modesMessage);
+    m_consumers.sources->beginBlock(frame.length);
     if (!m_modesMessage->valid()) {
         debug([] { return tr("Failed to decode Mode-S message."); });
+        m_consumers.ledger->takeModeS(*m_modesMessage, outcomeOf(m_modesMessage->fault()));
     } else if (m_consumers.tracker) {
         m_consumers.tracker->procModeSMessage(m_modesMessage);
+    } else {
+        m_consumers.ledger->takeModeS(*m_modesMessage, ReportOutcome::WrongSensorKind);
     }
 }
 
@@ -186,14 +289,38 @@ void MessageRouter::procAleniaSirMMessage(const QByteArray &data)
     auto result = AleniaSirMRadarDecoder::decode(octets, left);
     if (!result.valid()) {
         logAleniaSirMFailure(data.size() - envelope);
+        dropAleniaSirM(octets, left, result);
         return;
     }
-    while (result.valid() && m_consumers.tracker) {
-        m_consumers.tracker->procAleniaSirMMessage(QSharedPointer<AleniaSirMRadarMessage>(result.message.release()));
+    while (result.valid()) {
+        m_consumers.sources->beginBlock(result.size);
+        const QSharedPointer<AleniaSirMRadarMessage> decoded(result.message.release());
+        if (m_consumers.tracker) {
+            m_consumers.tracker->procAleniaSirMMessage(decoded);
+        } else {
+            m_consumers.ledger->takeSirM(*decoded, ReportOutcome::WrongSensorKind);
+        }
         octets += result.size;
         left -= result.size;
         result = AleniaSirMRadarDecoder::decode(octets, left);
     }
+    if (left > 0) {
+        m_consumers.sources->countTrailed();
+    }
+}
+
+void MessageRouter::dropAleniaSirM(
+    const unsigned char *octets, std::size_t size, const AleniaSirMRadarDecoder::Result &result)
+{
+    m_consumers.sources->countUndecodable();
+    m_consumers.sources->beginBlock(size);
+    TakenReport report;
+    report.form = TakenReport::Form::AleniaSirM;
+    report.octets = octets;
+    report.size = static_cast<quint32>(size);
+    report.fault = AleniaSirMRadarDecoder::errorText(result.error);
+    report.faultOffset = static_cast<quint32>(result.errorOffset);
+    m_consumers.ledger->take(report);
 }
 
 void MessageRouter::logAleniaSirMFailure(qsizetype size)

@@ -5,7 +5,9 @@
 #include "asterix/asterix.h"
 #include "modes/mode_s_decoder.h"
 #include "modes/receiver_clock.h"
+#include "sirm/alenia_sir_m_radar_decoder.h"
 #include "tracking/clock.h"
+#include "tracking/report_ledger.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -19,6 +21,7 @@
 class AlertProcessor;
 class PipelineMeter;
 class SensorInfo;
+class SourceMonitor;
 class Tracker;
 class VideoProcessor;
 class WeatherProcessor;
@@ -36,6 +39,8 @@ public:
         AlertProcessor *alerts = nullptr;
         WeatherProcessor *weather = nullptr;
         VideoProcessor *video = nullptr;
+        SourceMonitor *sources = nullptr;
+        ReportLedger *ledger = nullptr; // is told of what reaches no consumer
     };
 
     // The meter outlives the router.
@@ -43,7 +48,8 @@ public:
         const SharedClock &clock, PipelineMeter *meter);
 
     // Counts one message and routes it by the configured processor type. Data need to live during the call only.
-    void procMessage(const QByteArray &data);
+    // endpoint: by which of the input's it came.
+    void procMessage(const QByteArray &data, int endpoint = 0);
 
 Q_SIGNALS:
     void message(LogLevel level, const QString &text);
@@ -51,12 +57,18 @@ Q_SIGNALS:
 private:
     void procAsterixMessage(const QByteArray &data);
     bool decodeBlock(const unsigned char *data, std::size_t length);
+    void procBlock(const unsigned char *octets);
     bool fromConfiguredSensor();
     void routeBlock();
+    void dropRest(const unsigned char *octets, std::size_t size, bool isWholeMessage);
+    void dropBlock(const unsigned char *octets, ReportOutcome outcome);
+    void dropUndecoded(const unsigned char *octets, std::size_t size, ReportOutcome outcome);
     void logUnsupportedCategory();
     void procModeSMessage(const QByteArray &data);
+    void dropUnframed(const QByteArray &data, std::size_t taken);
     void procModeSFrame(korvane::modes::ModeSFrame &frame);
     void procAleniaSirMMessage(const QByteArray &data);
+    void dropAleniaSirM(const unsigned char *octets, std::size_t size, const AleniaSirMRadarDecoder::Result &result);
     void logAleniaSirMFailure(qsizetype size);
     // For texts that need not be made: nothing where debug lines are shown nowhere.
     template <typename MakeText>

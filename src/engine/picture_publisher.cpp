@@ -1,8 +1,8 @@
 #include "engine/picture_publisher.h"
 
 PicturePublisher::PicturePublisher(SnapshotSlot<DisplaySnapshot> *displaySlot, SnapshotSlot<VideoBatch> *videoSlot,
-    SnapshotSlot<WeatherProcessor::Picture> *weatherSlot)
-    : m_displaySlot(displaySlot), m_videoSlot(videoSlot), m_weatherSlot(weatherSlot)
+    SnapshotSlot<WeatherProcessor::Picture> *weatherSlot, SnapshotSlot<InputStatistics> *statisticsSlot)
+    : m_displaySlot(displaySlot), m_videoSlot(videoSlot), m_weatherSlot(weatherSlot), m_statisticsSlot(statisticsSlot)
 {
     m_clock.start();
 }

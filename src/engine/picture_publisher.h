@@ -3,6 +3,7 @@
 #include "engine/display_snapshot.h"
 #include "engine/pipeline_meter.h"
 #include "engine/snapshot_slot.h"
+#include "engine/source_statistics.h"
 #include "engine/video_batch.h"
 #include "processors/weather_processor.h"
 
@@ -11,13 +12,13 @@
 
 #include <optional>
 
-// Puts pictures into the three slots, and measures what it takes. Belongs to the engine's thread; the slots are read by
-// another one.
+// Puts pictures and statistics into the slots, and measures what it takes. Belongs to the engine's thread; the slots
+// are read by another one.
 class PicturePublisher {
 public:
-    // The slots outlive the publisher.
+    // The slots outlive the publisher. Without a slot for statistics these are published nowhere.
     PicturePublisher(SnapshotSlot<DisplaySnapshot> *displaySlot, SnapshotSlot<VideoBatch> *videoSlot,
-        SnapshotSlot<WeatherProcessor::Picture> *weatherSlot);
+        SnapshotSlot<WeatherProcessor::Picture> *weatherSlot, SnapshotSlot<InputStatistics> *statisticsSlot);
 
     // Forgets video that is not published yet, and all counts, as a new input does.
     void reset();
@@ -42,6 +43,15 @@ public:
 
     void publishWeatherPicture(const WeatherProcessor::Picture &picture);
 
+    // Makes the statistics by calling make().
+    template <typename Make>
+    void publishStatistics(Make make)
+    {
+        if (m_statisticsSlot) {
+            m_statisticsSlot->publish(QSharedPointer<InputStatistics>::create(make()));
+        }
+    }
+
     PipelineMeter &meter() { return m_meter; }
     const PipelineMeter &meter() const { return m_meter; }
 
@@ -49,6 +59,7 @@ private:
     SnapshotSlot<DisplaySnapshot> *const m_displaySlot;
     SnapshotSlot<VideoBatch> *const m_videoSlot;
     SnapshotSlot<WeatherProcessor::Picture> *const m_weatherSlot;
+    SnapshotSlot<InputStatistics> *const m_statisticsSlot;
     QSharedPointer<VideoBatch> m_videoBatch; // null while there is none under way
     QElapsedTimer m_clock; // the meter's
     PipelineMeter m_meter;

@@ -37,6 +37,7 @@ public:
 
     Opening open() override;
     void close() override;
+    QStringList endpoints() const override { return {m_fileName}; }
     bool isLive() const override { return false; }
     void setPaused(bool paused) override;
     void updateClock() override;

@@ -19,6 +19,7 @@ public:
 
     Opening open() override;
     void close() override;
+    QStringList endpoints() const override { return {m_config.inputSerialDevice}; }
 
 private:
     void applySettings();

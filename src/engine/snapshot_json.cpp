@@ -1,7 +1,6 @@
 #include "engine/snapshot_json.h"
 
 #include <QCoreApplication>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QSaveFile>
 
@@ -99,7 +98,103 @@ QJsonObject alertObject(const AlertSnapshot &alert)
     };
 }
 
+QJsonValue timeValue(qint64 ms)
+{
+    return timeValue(ms == 0 ? QDateTime() : QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC));
+}
+
+QString formName(TakenReport::Form form)
+{
+    switch (form) {
+    case TakenReport::Form::ModeS:
+        return QStringLiteral("modeS");
+    case TakenReport::Form::AleniaSirM:
+        return QStringLiteral("sirM");
+    case TakenReport::Form::Asterix:
+        break;
+    }
+    return QStringLiteral("asterix");
+}
+
+QJsonObject outcomesObject(const SourceStatistics &source)
+{
+    QJsonObject outcomes;
+    for (int i = 0; i < ReportOutcomeCount; ++i) {
+        const auto outcome = static_cast<ReportOutcome>(i);
+        if (source.outcome(outcome) > 0) {
+            outcomes[QLatin1String(reportOutcomeName(outcome))] = static_cast<qint64>(source.outcome(outcome));
+        }
+    }
+    return outcomes;
+}
+
+QJsonObject countsObject(const SourceStatistics &source)
+{
+    return {
+        {"datagrams", static_cast<qint64>(source.datagrams)},
+        {"blocks", static_cast<qint64>(source.blocks)},
+        {"records", static_cast<qint64>(source.records)},
+        {"octets", static_cast<qint64>(source.octets)},
+        {"outcomes", outcomesObject(source)},
+    };
+}
+
+QJsonObject delayObject(const DelayStatistics &delay)
+{
+    return {{"samples", delay.samples}, {"median", delay.median}, {"percentile95", delay.percentile95},
+        {"smallest", delay.smallest}, {"jumps", static_cast<qint64>(delay.jumps)}};
+}
+
+QJsonObject antennaObject(const AntennaStatistics &antenna)
+{
+    return {
+        {"period", valueOrNull(antenna.period > 0.0, antenna.period)},
+        {"deviation", valueOrNull(antenna.period > 0.0, antenna.periodDeviation)},
+        {"revolutions", static_cast<qint64>(antenna.revolutions)},
+        {"northMarkers", static_cast<qint64>(antenna.northMarkers)},
+        {"sectorCrossings", static_cast<qint64>(antenna.sectorCrossings)},
+        {"missingSectors", static_cast<qint64>(antenna.missingSectors)},
+    };
+}
+
+QJsonObject sourceObject(const SourceStatistics &source, const QStringList &endpoints)
+{
+    QJsonObject object = countsObject(source);
+    object["form"] = formName(source.form);
+    object["sac"] = valueOrNull(source.identified, source.sac);
+    object["sic"] = valueOrNull(source.identified, source.sic);
+    object["category"] = source.category;
+    object["edition"] = valueOrNull(!source.edition.isEmpty(), QString::fromLatin1(source.edition));
+    object["endpoint"] = endpoints.value(source.endpoint);
+    object["rate10"] = source.rate10;
+    object["rate60"] = source.rate60;
+    object["firstArrival"] = timeValue(source.firstArrivalMs);
+    object["lastArrival"] = timeValue(source.lastArrivalMs);
+    object["expectedInterval"] = valueOrNull(source.expectedInterval > 0.0, source.expectedInterval);
+    if (source.delay.samples > 0) {
+        object["delay"] = delayObject(source.delay);
+    }
+    if (source.antenna.northMarkers + source.antenna.sectorCrossings > 0) {
+        object["antenna"] = antennaObject(source.antenna);
+    }
+    return object;
+}
+
 } // namespace
+
+QJsonArray SnapshotJson::sources(const InputStatistics &statistics)
+{
+    QJsonArray sources;
+    for (const SourceStatistics &source : statistics.sources) {
+        sources += sourceObject(source, statistics.endpoints);
+    }
+    if (statistics.others.records > 0) {
+        QJsonObject others = countsObject(statistics.others);
+        others["others"] = static_cast<qint64>(statistics.otherSources);
+        sources += others;
+    }
+    return sources;
+}
 
 QJsonObject SnapshotJson::toJson(const DisplaySnapshot &snapshot)
 {

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <optional>
@@ -88,6 +89,12 @@ struct SourceStatistics {
     const ReportExample &example(ReportOutcome which) const { return examples[static_cast<std::size_t>(which)]; }
 };
 
+// What the system keeps for a live input; nothing for others.
+struct InputBacklog {
+    qint64 octets = 0; // that wait to be read
+    quint64 kernelDrops = 0; // messages that found no room, since the input was opened
+};
+
 // Published every second, whether or not anything arrives, and when an input is opened or closed.
 struct InputStatistics {
     qint64 timeMs = 0;
@@ -96,7 +103,7 @@ struct InputStatistics {
     bool paused = false; // nothing is counted
     quint64 requestId = 0; // of the opening
 
-    QList<QString> endpoints; // what the input reads: "239.0.0.1:50000", a serial device, a file
+    QStringList endpoints; // what the input reads: "239.0.0.1:50000", a serial device, a file
 
     // Of the whole input since it was opened, or the recording rewound.
     quint64 messages = 0;
@@ -105,9 +112,7 @@ struct InputStatistics {
     quint64 trailedMessages = 0; // octets that begin no block follow the last one: check sequences, recorders' own
     std::optional<qint64> lastMessageMs; // to a fifth of a second
 
-    // Live inputs: what waits in the system's buffers, and what did not fit into them since the input was opened.
-    qint64 backlogOctets = 0;
-    quint64 kernelDrops = 0;
+    InputBacklog backlog;
 
     // By category, SAC/SIC and so on. At most MaximumSources; what is heard once goes first when there are more.
     static constexpr int MaximumSources = 256;

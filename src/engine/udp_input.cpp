@@ -33,6 +33,7 @@ UdpInput::UdpInput(
     if (config.inputEnable2) {
         m_sources.back().address = {config.inputUdpPort2, config.inputUdpMulticast2, config.inputUdpMcastAddress2,
             config.inputUdpMcastLanInterface2};
+        m_sources.back().endpoint = 1;
     }
 }
 
@@ -48,6 +49,29 @@ Input::Opening UdpInput::open()
 quint16 UdpInput::port(int source) const
 {
     return m_sources.at(static_cast<std::size_t>(source)).address.port;
+}
+
+QStringList UdpInput::endpoints() const
+{
+    QStringList names;
+    for (const Source &source : m_sources) {
+        const QString group = source.address.multicast ? source.address.group.toString() : QString();
+        names += QStringLiteral("%1:%2").arg(group).arg(source.address.port);
+    }
+    return names;
+}
+
+InputBacklog UdpInput::backlog() const
+{
+    InputBacklog sum;
+    for (const Source &source : m_sources) {
+        if (source.socket && source.socket->state() == QAbstractSocket::BoundState) {
+            const UdpSocketOptions::Queue queue = UdpSocketOptions::queue(source.socket.get());
+            sum.octets += queue.pendingOctets;
+            sum.kernelDrops += queue.drops;
+        }
+    }
+    return sum;
 }
 
 bool UdpInput::openSource(Source &source)
@@ -174,7 +198,7 @@ bool UdpInput::readDatagram(const Source &source)
         record(datagram, source, sender, senderPort);
     }
     if (!m_paused) {
-        router().procMessage(datagram);
+        router().procMessage(datagram, source.endpoint);
     }
     return true;
 }

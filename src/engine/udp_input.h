@@ -25,6 +25,8 @@ public:
 
     Opening open() override;
     void close() override;
+    QStringList endpoints() const override;
+    InputBacklog backlog() const override;
 
     // What the first or second source, from 0, is bound to: the configured port, or the system's choice where that is
     // 0.
@@ -43,6 +45,7 @@ private:
     struct Source {
         Address address;
         std::unique_ptr<QUdpSocket> socket;
+        int endpoint = 0;
         bool drainScheduled = false; // continues on the next turn of the event loop
         quint32 drops = 0; // at the last backlog warning
     };

@@ -22,6 +22,16 @@ Clock::Clock(Source system, Source monotonic) : m_system(std::move(system)), m_m
     startLive();
 }
 
+QDateTime Clock::now() const
+{
+    const qint64 ms = nowMs();
+    if (ms != m_readingMs) {
+        m_reading = QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC);
+        m_readingMs = ms;
+    }
+    return m_reading;
+}
+
 qint64 Clock::nowMs() const
 {
     return m_recorded || m_held ? m_stillMs : liveMs();

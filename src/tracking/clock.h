@@ -3,6 +3,7 @@
 #include <QDateTime>
 
 #include <functional>
+#include <limits>
 #include <memory>
 
 // The time by which everything in the pipeline is stamped and ages, UTC. Belongs to the thread of its readers, and is
@@ -19,7 +20,7 @@ public:
     Clock();
     Clock(Source system, Source monotonic);
 
-    QDateTime now() const { return QDateTime::fromMSecsSinceEpoch(nowMs(), Qt::UTC); }
+    QDateTime now() const;
     qint64 nowMs() const;
 
     // Whether the time is, or was when it was held, a recording's.
@@ -44,6 +45,8 @@ private:
     // Live time at the last reading, on both clocks.
     mutable qint64 m_liveMs = 0;
     mutable qint64 m_monotonicMs = 0;
+    mutable QDateTime m_reading; // the last one: many reports come in a millisecond
+    mutable qint64 m_readingMs = std::numeric_limits<qint64>::min();
     qint64 m_stillMs = 0; // recorded or held
     bool m_recorded = false;
     bool m_held = false;

@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr unsigned char TargetReport = 1; // message type; the others tell of the radar itself
+
 // Others than the radar report targets in the same category.
 Track::Type typeOf(const _ast_datarecord_010_t &record)
 {
@@ -44,7 +46,8 @@ Tracker::Taken SmrTracker::procCat010Message(const _ast_datarecord_010_t &record
     }
     if (!record.i161.present) {
         debug([] { return tr("SMR Tracker: CAT010 message has no valid track number (I010/161), ignore."); });
-        return takenAsPlot(place, record.i020.tst);
+        const bool isTarget = !record.i000.present || record.i000.type == TargetReport;
+        return isTarget || place ? takenAsPlot(place, record.i020.tst) : Taken{ReportOutcome::NoReader};
     }
     const Identity identity{record.i161.trackNumber, {}, 0.0};
     if (!record.i040.present) {

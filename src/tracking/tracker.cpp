@@ -73,8 +73,13 @@ void Tracker::handIn(const _ast_datablock_t &block, const _ast_datarecord_t &rec
     report.record = &record;
     report.trackNumber = taken.trackNumber;
     report.sensorTrackNumber = taken.identity.number;
-    report.address = taken.identity.address;
-    report.place = taken.place;
+    // Value by value: what has just been written in parts is not there yet to be read as a whole.
+    if (taken.identity.address) {
+        report.address.emplace(*taken.identity.address);
+    }
+    if (taken.place) {
+        report.place.emplace(taken.place->x(), taken.place->y());
+    }
     m_ledger->take(report);
 }
 

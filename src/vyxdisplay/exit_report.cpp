@@ -49,6 +49,9 @@ void ExitReport::writeSnapshot()
 {
     const QSharedPointer<const DisplaySnapshot> newest = m_window->newestSnapshot();
     QJsonObject picture = SnapshotJson::toJson(newest ? *newest : DisplaySnapshot());
+    if (const auto statistics = m_window->engineHost().shared().statistics.read().value) {
+        picture.insert("sources", SnapshotJson::sources(*statistics));
+    }
     const QJsonObject painted = pictureJson(*m_window->geoWidget());
     for (auto part = painted.begin(); part != painted.end(); ++part) {
         picture.insert(part.key(), part.value());

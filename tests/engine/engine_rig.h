@@ -17,9 +17,10 @@ public:
     SnapshotSlot<DisplaySnapshot> displaySlot;
     SnapshotSlot<VideoBatch> videoSlot;
     SnapshotSlot<WeatherProcessor::Picture> weatherSlot;
+    SnapshotSlot<InputStatistics> statisticsSlot;
     qint64 nowMs = QDateTime::currentMSecsSinceEpoch(); // of the system, set by hand
     const std::shared_ptr<Clock> clock = std::make_shared<Clock>([this] { return nowMs; }, [this] { return nowMs; });
-    DataEngine engine{&projector, &displaySlot, &videoSlot, &weatherSlot};
+    DataEngine engine{&projector, &displaySlot, &videoSlot, &weatherSlot, &statisticsSlot};
     QSignalSpy opened{&engine, &DataEngine::inputOpened};
     QSignalSpy failed{&engine, &DataEngine::inputOpenFailed};
     QSignalSpy closed{&engine, &DataEngine::inputClosed};
@@ -62,6 +63,13 @@ public:
         return displaySlot.read().value;
     }
     QList<TrackSnapshot> tracks() { return snapshot()->tracks; }
+
+    // Made now.
+    QSharedPointer<const InputStatistics> statistics()
+    {
+        engine.publishStatistics();
+        return statisticsSlot.read().value;
+    }
 
     // Of the open UDP input's sockets, which the system has chosen unless the configuration did.
     quint16 port(int index = 0) const { return engine.findChildren<UdpInput *>().last()->port(index); }

@@ -56,6 +56,25 @@ private Q_SLOTS:
         QTRY_COMPARE(log, 3);
         QVERIFY(host.stop(2000));
     }
+
+    // Read on one thread while the other writes; the newest names the input that is open.
+    void statisticsChangeThreads()
+    {
+        EngineHost host;
+        host.start();
+        Config config;
+        config.inputUdpMulticast1 = false;
+        config.inputUdpPort1 = 0; // any
+        const auto &slot = host.shared().statistics;
+        for (quint64 request = 1; request <= 20; ++request) {
+            host.openInput(config, QSharedPointer<RadarSensorInfo>::create(), {}, request);
+            QTRY_VERIFY(slot.read().value && slot.read().value->requestId == request && slot.read().value->open);
+            QCOMPARE(slot.read().value->endpoints.size(), 1);
+            host.closeInput();
+            QTRY_VERIFY(!slot.read().value->open);
+        }
+        QVERIFY(slot.read().counter > 40);
+    }
 };
 
 VYX_TEST(TestEngineHost)

@@ -1,0 +1,94 @@
+#include "engine_rig.h"
+#include "played_scenario.h"
+#include "traffic/sensor_json.h"
+
+#include "sensors/sensor_info.h"
+#include "test_program.h"
+
+#include <QHash>
+#include <QSet>
+
+// What scenarios send is accounted for to the last record.
+class TestAccountedTraffic final : public QObject {
+    Q_OBJECT
+
+private:
+    // By category; of whole blocks only, as the generator sends them.
+    static void countRecords(const QByteArray &datagram, QHash<int, quint64> &records)
+    {
+        const auto *data = reinterpret_cast<const unsigned char *>(datagram.constData());
+        const auto size = static_cast<std::size_t>(datagram.size());
+        _ast_datablock_t block;
+        for (std::size_t at = 0; at < size; at += block.size) {
+            QVERIFY(ast_datablock_smart_decode(&block, data + at, size - at) && block.size > 0);
+            records[static_cast<int>(block.category)] += block.records.size();
+        }
+    }
+
+private Q_SLOTS:
+    void outcomesSumToTheRecords_data()
+    {
+        // Of what the scenario's sensor does not show; nothing where it shows everything.
+        QTest::addColumn<QStringList>("drops");
+        for (const char *name : {"adsb", "alerts", "demo", "mlat", "sdps", "sirm", "video", "weather"}) {
+            QTest::newRow(name) << QStringList();
+        }
+        QTest::newRow("busy") << QStringList("wrongSensorKind"); // sources of every kind
+        QTest::newRow("modes") << QStringList("noPosition"); // of a position every other report is the first half
+        QTest::newRow("smr") << QStringList("noReader"); // its status
+    }
+
+    void outcomesSumToTheRecords()
+    {
+        const std::optional<Scenario> scenario = ScenarioReader().read(QString::fromLatin1(QTest::currentDataTag()));
+        QVERIFY(scenario);
+        const QJsonObject sensor = sensorJson(*scenario);
+        const bool asterix = sensor["processor"] == "asterix";
+        EngineRig rig;
+        rig.config.processorType = sensor["processor"] == "modes" ? Config::ProcessorType::ModeS
+            : sensor["processor"] == "sirm"                       ? Config::ProcessorType::AleniaSirM
+                                                                  : Config::ProcessorType::Asterix;
+        rig.open(1, SensorInfo::create(sensor));
+        QHash<int, quint64> records;
+        quint64 octets = 0;
+        TrafficSource source(*scenario, 1);
+        while (source.nextTime() < 20) {
+            for (const QByteArray &datagram : *source.next().datagrams) {
+                rig.engine.procMessage(datagram);
+                octets += static_cast<quint64>(datagram.size());
+                if (asterix) {
+                    countRecords(datagram, records);
+                }
+            }
+        }
+
+        const auto statistics = rig.statistics();
+        quint64 counted = 0;
+        QSet<QString> drops;
+        for (const SourceStatistics &of : statistics->sources) {
+            counted += of.octets;
+            quint64 accounted = 0;
+            for (int i = 0; i < ReportOutcomeCount; ++i) {
+                const auto outcome = static_cast<ReportOutcome>(i);
+                accounted += of.outcome(outcome);
+                if (of.outcome(outcome) > 0 && !isShown(outcome)) {
+                    drops += QLatin1String(reportOutcomeName(outcome));
+                }
+            }
+            QCOMPARE(accounted, of.records);
+            records[of.category] -= asterix ? accounted : 0;
+        }
+        QVERIFY(!statistics->sources.isEmpty());
+        for (const auto &[category, left] : records.asKeyValueRange()) {
+            QVERIFY2(left == 0, qPrintable(QString::number(category)));
+        }
+        QTEST(drops.values(), "drops");
+        QCOMPARE(statistics->undecodableMessages + statistics->trailedMessages, 0ULL);
+        if (asterix) {
+            QCOMPARE(counted, octets);
+        }
+    }
+};
+
+VYX_TEST(TestAccountedTraffic)
+#include "tst_accounted_traffic.moc"
