@@ -22,6 +22,8 @@ public:
 
     QDateTime now() const;
     qint64 nowMs() const;
+    // What now() said last.
+    qint64 lastMs() const { return m_readingMs; }
 
     // Whether the time is, or was when it was held, a recording's.
     bool isRecorded() const { return m_recorded; }

@@ -9,6 +9,7 @@
 #include <vector>
 
 class AleniaSirMRadarMessage;
+class ReportRing;
 struct _ast_datarecord_t;
 namespace korvane::modes {
 class ModeSMessage;
@@ -30,6 +31,7 @@ struct TakenReport {
     const AleniaSirMRadarMessage *sirM = nullptr; // the message that a record of SIR-M belongs to; null otherwise
 
     unsigned int trackNumber = 0; // the system track number of the track that it began, updated or ended; 0: none
+    ReportRing *reports = nullptr; // of that track, where there is room for what it is made of; null: none
     // What it names its track by, where a tracker has looked.
     unsigned int sensorTrackNumber = 0; // 0: none
     std::optional<unsigned int> address; // 24 bits

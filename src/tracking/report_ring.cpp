@@ -1,102 +1,93 @@
 #include "tracking/report_ring.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 constexpr std::size_t CapacityStep = 512; // a few reports: most tracks of false targets have no more
 }
 
-struct ReportRing::Head {
-    qint64 timeMs;
-    const korvane::asterix::Uap *uap;
-    quint16 size;
-    TakenReport::Form form;
-};
-
-void ReportRing::add(TakenReport::Form form, qint64 timeMs, const korvane::asterix::Uap *uap,
-    const unsigned char *octets, std::size_t size)
+template <typename Take>
+void ReportRing::forEach(Take take) const
 {
-    const std::size_t needed = sizeof(Head) + size;
+    int left = MaximumReports;
+    const auto walkBack = [&](std::size_t end, std::size_t least) {
+        while (end >= least + TailSize && left > 0) {
+            Tail tail{};
+            std::memcpy(&tail, m_octets.get() + end - TailSize, TailSize);
+            if (end < least + TailSize + tail.size) {
+                return; // partly written over
+            }
+            end -= TailSize + tail.size;
+            take(end, tail);
+            --left;
+        }
+    };
+    walkBack(m_end, 0);
+    if (m_lastEnd > m_end) {
+        walkBack(m_lastEnd, m_end);
+    }
+}
+
+int ReportRing::count() const
+{
+    int count = 0;
+    forEach([&count](std::size_t, const Tail &) { ++count; });
+    return count;
+}
+
+// Where a round ends and the next one begins room for a report each is lost.
+bool ReportRing::isRoomy() const
+{
+    int count = 0;
+    std::size_t used = 0;
+    std::size_t largest = 0;
+    forEach([&](std::size_t, const Tail &tail) {
+        ++count;
+        used += tail.size + TailSize;
+        largest = std::max(largest, tail.size + TailSize);
+    });
+    return count == MaximumReports && used + 2 * largest <= m_capacity;
+}
+
+// At the end of a round: a larger ring while it holds too few, else another round.
+bool ReportRing::makeRoom(std::size_t needed)
+{
     if (needed > MaximumOctets) {
-        return;
+        return false;
     }
-    if (m_count == MaximumReports) {
-        dropOldest();
+    if (m_capacity < MaximumOctets && (!isRoomy() || needed > m_capacity)) {
+        grow(std::min(MaximumOctets, std::max(m_capacity + CapacityStep, m_end + needed)));
     }
-    if (m_used + needed > m_capacity) {
-        grow(needed);
+    if (needed > static_cast<std::size_t>(m_capacity - m_end)) {
+        m_lastEnd = m_end;
+        m_end = 0;
     }
-    while (m_used + needed > m_capacity) {
-        dropOldest();
-    }
-    Head head{};
-    head.timeMs = timeMs;
-    head.uap = uap;
-    head.size = static_cast<quint16>(size);
-    head.form = form;
-    write(&head, sizeof head);
-    write(octets, size);
-    ++m_count;
+    return true;
 }
 
-void ReportRing::dropOldest()
+// What there is moves to the beginning, the oldest first.
+void ReportRing::grow(std::size_t capacity)
 {
-    Head head{};
-    read(m_begin, &head, sizeof head);
-    const std::size_t size = sizeof head + head.size;
-    m_begin = static_cast<quint16>((m_begin + size) % m_capacity);
-    m_used = static_cast<quint16>(m_used - size);
-    --m_count;
-}
-
-void ReportRing::grow(std::size_t needed)
-{
-    const std::size_t capacity = std::min(MaximumOctets, std::max(m_capacity + CapacityStep, m_used + needed));
-    if (capacity <= m_capacity) {
-        return;
-    }
     auto octets = std::make_unique<unsigned char[]>(capacity);
-    if (m_used > 0) {
-        read(m_begin, octets.get(), m_used);
-    }
+    std::size_t size = 0;
+    forEach([&size](std::size_t, const Tail &tail) { size += tail.size + TailSize; });
+    std::size_t end = size;
+    forEach([&](std::size_t begin, const Tail &tail) {
+        end -= tail.size + TailSize;
+        std::copy_n(m_octets.get() + begin, tail.size + TailSize, octets.get() + end);
+    });
     m_octets = std::move(octets);
     m_capacity = static_cast<quint16>(capacity);
-    m_begin = 0;
-}
-
-void ReportRing::write(const void *from, std::size_t size)
-{
-    const std::size_t at = (m_begin + m_used) % m_capacity;
-    const std::size_t first = std::min(size, m_capacity - at);
-    const auto *octets = static_cast<const unsigned char *>(from);
-    std::copy_n(octets, first, m_octets.get() + at);
-    std::copy_n(octets + first, size - first, m_octets.get());
-    m_used = static_cast<quint16>(m_used + size);
-}
-
-// Returns where the next piece begins.
-std::size_t ReportRing::read(std::size_t at, void *to, std::size_t size) const
-{
-    const std::size_t first = std::min(size, m_capacity - at);
-    auto *octets = static_cast<unsigned char *>(to);
-    std::copy_n(m_octets.get() + at, first, octets);
-    std::copy_n(m_octets.get(), size - first, octets + first);
-    return (at + size) % m_capacity;
+    m_end = static_cast<quint16>(size);
+    m_lastEnd = 0;
 }
 
 QList<KeptReport> ReportRing::reports() const
 {
     QList<KeptReport> reports;
-    reports.reserve(m_count);
-    std::size_t at = m_begin;
-    for (int i = 0; i < m_count; ++i) {
-        Head head{};
-        at = read(at, &head, sizeof head);
-        KeptReport report{head.form, head.timeMs, head.uap, QByteArray(head.size, Qt::Uninitialized)};
-        at = read(at, report.octets.data(), head.size);
-        reports.append(report);
-    }
-    std::reverse(reports.begin(), reports.end());
+    forEach([&](std::size_t begin, const Tail &tail) {
+        const auto *octets = reinterpret_cast<const char *>(m_octets.get() + begin);
+        reports.append(KeptReport{tail.form, tail.timeMs, tail.uap, QByteArray(octets, tail.size)});
+    });
     return reports;
 }

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QList>
 
+#include <cstring>
 #include <memory>
 
 // One report as it came in.
@@ -17,33 +18,53 @@ struct KeptReport {
 };
 
 // The last reports of one track, in one piece of memory of 6 KB at most that grows with need: nothing is allocated for
-// a report once the ring is as large as it gets. Where memory or number run out the oldest make room.
+// a report once the ring is as large as it gets. Where room or number run out the oldest go.
 class ReportRing {
 public:
     static constexpr int MaximumReports = 50;
     static constexpr std::size_t MaximumOctets = 6000; // with what is noted beside each report
 
-    // A report of more octets than the ring holds is left out.
+    // A report of more octets than the ring holds is left out. Writes and reads nothing of the ring: its memory is cold
+    // when a report comes, and it need not be waited for.
     void add(TakenReport::Form form, qint64 timeMs, const korvane::asterix::Uap *uap, const unsigned char *octets,
-        std::size_t size);
+        std::size_t size)
+    {
+        const std::size_t needed = size + TailSize;
+        if (needed > static_cast<std::size_t>(m_capacity - m_end) && !makeRoom(needed)) {
+            return;
+        }
+        unsigned char *const to = m_octets.get() + m_end;
+        std::memcpy(to, octets, size);
+        const Tail tail{timeMs, uap, static_cast<quint16>(size), form};
+        std::memcpy(to + size, &tail, TailSize);
+        m_end = static_cast<quint16>(m_end + needed);
+    }
 
-    int count() const { return m_count; }
+    int count() const;
     // Octets that are allocated.
     std::size_t capacity() const { return m_capacity; }
     // Copies, newest first.
     QList<KeptReport> reports() const;
 
 private:
-    struct Head; // before the octets of each report
+    // After the octets of each report, so that they are found from the newest back.
+    struct Tail {
+        qint64 timeMs;
+        const korvane::asterix::Uap *uap;
+        quint16 size;
+        TakenReport::Form form;
+    };
+    static constexpr std::size_t TailSize = 20; // without the filling at its end
 
-    void dropOldest();
-    void grow(std::size_t needed);
-    void write(const void *from, std::size_t size);
-    std::size_t read(std::size_t at, void *to, std::size_t size) const;
+    bool isRoomy() const;
+    bool makeRoom(std::size_t needed);
+    void grow(std::size_t capacity);
+    // Calls take(begin, tail) for each report, newest first, until it has been called MaximumReports times.
+    template <typename Take>
+    void forEach(Take take) const;
 
     std::unique_ptr<unsigned char[]> m_octets;
     quint16 m_capacity = 0;
-    quint16 m_begin = 0; // of the oldest report
-    quint16 m_used = 0;
-    quint16 m_count = 0;
+    quint16 m_end = 0; // of the newest report
+    quint16 m_lastEnd = 0; // of the round before; what of it lies behind m_end is still there
 };

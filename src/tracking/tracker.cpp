@@ -72,6 +72,7 @@ void Tracker::handIn(const _ast_datablock_t &block, const _ast_datarecord_t &rec
     report.size = record.length;
     report.record = &record;
     report.trackNumber = taken.trackNumber;
+    report.reports = taken.reports;
     report.sensorTrackNumber = taken.identity.number;
     // Value by value: what has just been written in parts is not there yet to be read as a whole.
     if (taken.identity.address) {
@@ -95,6 +96,7 @@ void Tracker::handIn(const korvane::modes::ModeSMessage &message, const Taken &t
     report.size = message.frame().length;
     report.modeS = &message;
     report.trackNumber = taken.trackNumber;
+    report.reports = taken.reports;
     report.address = message.icaoAddr();
     report.place = taken.place;
     m_ledger->take(report);
@@ -186,9 +188,9 @@ unsigned int Tracker::endTrack(const Identity &identity, const QDateTime &now)
 }
 
 // A track whose report has no place is shown at its last one.
-Tracker::Taken Tracker::takenBy(const Track &track, const Identity &identity, const std::optional<Place> &place)
+Tracker::Taken Tracker::takenBy(Track &track, const Identity &identity, const std::optional<Place> &place)
 {
-    Taken taken{ReportOutcome::Track, track.trackNumber(), identity, {}};
+    Taken taken{ReportOutcome::Track, track.trackNumber(), identity, {}, &track.reports()};
     if (place && place->valid) {
         taken.place = place->plane;
     } else if (place) {

@@ -77,6 +77,7 @@ protected:
         unsigned int trackNumber = 0; // of the system; 0: none
         Identity identity = {};
         std::optional<QPointF> place = {};
+        ReportRing *reports = nullptr; // of the track
     };
 
     // Expands every record of a block that the category's disassembler reads and hands it on; the ledger is told what
@@ -124,7 +125,7 @@ protected:
     Place placeOf(const PolarOrigin &origin, double distance, double bearing) const;
 
     // A report with a track: nothing where it has no place.
-    static Taken takenBy(const Track &track, const Identity &identity, const std::optional<Place> &place);
+    static Taken takenBy(Track &track, const Identity &identity, const std::optional<Place> &place);
     // A report that names no track, or whose track got no number.
     static Taken takenAsPlot(const std::optional<Place> &place, bool isTest);
     static Taken notNumbered(const Identity &identity, const std::optional<Place> &place);

@@ -57,6 +57,9 @@ void TestReportRing::keepsNewest()
     ReportRing ring;
     for (int i = 0; i < added; ++i) {
         add(ring, i, sizes[i % sizes.size()]);
+        if (i >= 500) {
+            QVERIFY(ring.count() >= fewest);
+        }
     }
     const auto reports = ring.reports();
     QCOMPARE(static_cast<int>(reports.size()), ring.count());
@@ -82,7 +85,7 @@ void TestReportRing::leavesOutWhatDoesNotFit()
 void TestReportRing::stopsGrowing()
 {
     ReportRing ring;
-    for (int i = 0; i < 50; ++i) {
+    for (int i = 0; i < 100; ++i) {
         add(ring, i, 60);
     }
     const std::size_t capacity = ring.capacity();
