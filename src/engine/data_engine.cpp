@@ -77,6 +77,7 @@ void DataEngine::startTimers()
     connect(&m_snapshotTimer, &QTimer::timeout, this, &DataEngine::publishSnapshot);
     connect(&m_secondTimer, &QTimer::timeout, this, [this] { m_logGate.sumUp(); });
     connect(&m_secondTimer, &QTimer::timeout, this, &DataEngine::publishStatistics);
+    connect(&m_secondTimer, &QTimer::timeout, this, [this] { m_archive.readIdentities(); });
     for (QTimer *timer : {&m_videoTimer, &m_snapshotTimer}) {
         timer->setTimerType(Qt::PreciseTimer);
         timer->start(PublishPeriodMs);

@@ -21,21 +21,34 @@ LooseReports::LooseReports(std::size_t maximumOctets, std::size_t maximumReports
 
 void LooseReports::add(const TakenReport &report, qint64 timeMs)
 {
-    m_octets.resize(m_maximumOctets);
-    m_entries.resize(m_maximumReports);
+    if (m_entries.empty()) {
+        m_octets.resize(m_maximumOctets);
+        m_entries.resize(m_maximumReports);
+    }
     const auto begin = report.octets ? makeRoom(report.size) : std::nullopt;
     if (!begin) {
         return;
     }
-    std::copy_n(report.octets, report.size, m_octets.begin() + static_cast<std::ptrdiff_t>(*begin));
-    m_entries[(m_first + m_count) % m_entries.size()] = {
-        timeMs, report.record ? report.record->uap : nullptr, report.place, *begin, report.size, report.form};
+    std::copy_n(report.octets, report.size, m_octets.data() + *begin);
+    LooseReport &kept = m_entries[wrapped(m_first + m_count)];
+    kept.timeMs = timeMs;
+    kept.uap = report.record ? report.record->uap : nullptr;
+    kept.placed = report.place.has_value();
+    kept.place = kept.placed ? *report.place : QPointF();
+    kept.size = report.size;
+    kept.address = report.address.value_or(0);
+    kept.sensorNumber = report.sensorTrackNumber;
+    kept.form = report.form;
+    kept.outcome = report.outcome;
+    kept.category = report.category;
+    kept.begin = *begin;
     ++m_count;
+    ++m_added;
 }
 
 void LooseReports::dropOldest()
 {
-    m_first = (m_first + 1) % m_entries.size();
+    m_first = wrapped(m_first + 1);
     --m_count;
 }
 
@@ -51,7 +64,7 @@ std::optional<std::size_t> LooseReports::makeRoom(std::size_t size)
     if (m_count == 0) {
         return 0;
     }
-    const Entry &newest = entry(m_count - 1);
+    const LooseReport &newest = entry(m_count - 1);
     std::size_t begin = newest.begin + newest.size;
     if (begin + size > m_maximumOctets) {
         // What lies behind is passed over: it is older than anything at the beginning.
@@ -71,7 +84,7 @@ void LooseReports::clear()
     m_count = 0;
 }
 
-KeptReport LooseReports::keptReport(const Entry &kept) const
+KeptReport LooseReports::keptReport(const LooseReport &kept) const
 {
     const auto *octets = reinterpret_cast<const char *>(m_octets.data() + kept.begin);
     return {kept.form, kept.timeMs, kept.uap, QByteArray(octets, static_cast<qsizetype>(kept.size))};
@@ -91,16 +104,16 @@ QList<KeptReport> LooseReports::near(const QPointF &place, double radius, int ma
     std::optional<QPointF> nearest;
     double least = radius;
     for (std::size_t i = 0; i < m_count; ++i) {
-        const auto &there = entry(i).place;
-        if (there && distanceOf(*there, place) <= least) {
-            least = distanceOf(*there, place);
-            nearest = there;
+        const LooseReport &there = entry(i);
+        if (there.placed && distanceOf(there.place, place) <= least) {
+            least = distanceOf(there.place, place);
+            nearest = there.place;
         }
     }
     QList<KeptReport> found;
     for (std::size_t i = m_count; nearest && i > 0 && found.size() < maximum; --i) {
-        const Entry &kept = entry(i - 1);
-        if (kept.place && distanceOf(*kept.place, *nearest) <= SamePlace) {
+        const LooseReport &kept = entry(i - 1);
+        if (kept.placed && distanceOf(kept.place, *nearest) <= SamePlace) {
             found.append(keptReport(kept));
         }
     }

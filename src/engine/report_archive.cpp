@@ -2,7 +2,6 @@
 
 #include "asterix/asterix.h"
 #include "asterix/record_map.h"
-#include "modes/mode_s_message.h"
 
 #include <algorithm>
 
@@ -48,16 +47,12 @@ void identify(SeenIdentity &seen, const _ast_datarecord_t &record)
     }
 }
 
-void identify(SeenIdentity &seen, const korvane::modes::ModeSMessage &message)
-{
-    seen.address = message.icaoAddr();
-    seen.modeA = message.squawk();
-    if (const auto *identification = std::get_if<korvane::modes::Identification>(&message.content())) {
-        copyCallsign(seen, identification->callsign);
-    }
-}
-
 } // namespace
+
+ReportArchive::ReportArchive()
+{
+    m_modesDecoder.setAddressCheck(false); // what is kept has passed it
+}
 
 void ReportArchive::setTracks(const QSharedPointer<TrackManager> &tracks, const SharedClock &clock)
 {
@@ -66,49 +61,81 @@ void ReportArchive::setTracks(const QSharedPointer<TrackManager> &tracks, const 
     m_tracks->setRemovalObserver([this](const Track &track) { noteEnd(track); });
 }
 
-void ReportArchive::take(const TakenReport &report)
-{
-    if (report.trackNumber != 0 && report.outcome != ReportOutcome::TrackEnd) {
-        if (Track *track = m_tracks->trackByNumber(report.trackNumber)) {
-            // With a place the track has just noted the time, which spares reading the clock once more for each report.
-            const qint64 timeMs = report.place ? track->lastUpdate().toMSecsSinceEpoch() : m_clock->nowMs();
-            track->reports().add(
-                report.form, timeMs, report.record ? report.record->uap : nullptr, report.octets, report.size);
-        }
-    }
-    if (report.outcome == ReportOutcome::Plot) {
-        m_plots.add(report, m_clock->nowMs());
-    } else if (report.outcome == ReportOutcome::Alert) {
-        m_alerts.add(report, m_clock->nowMs());
-    }
-    if (namesSomebody(report.outcome)) {
-        noteIdentity(report, m_clock->nowMs());
-    }
-}
-
 void ReportArchive::clear()
 {
     m_directory.clear();
     m_plots.clear();
     m_alerts.clear();
+    m_dropped.clear();
 }
 
-void ReportArchive::noteIdentity(const TakenReport &report, qint64 nowMs)
+// Trackers have just read the clock for each report that they look at.
+void ReportArchive::take(const TakenReport &report)
+{
+    if (report.reports) {
+        report.reports->add(
+            report.form, m_clock->lastMs(), report.record ? report.record->uap : nullptr, report.octets, report.size);
+    }
+    if (report.outcome == ReportOutcome::Track) {
+        return;
+    }
+    if (report.outcome == ReportOutcome::Plot) {
+        m_plots.add(report, m_clock->lastMs());
+    } else if (report.outcome == ReportOutcome::Alert) {
+        m_alerts.add(report, m_clock->nowMs());
+    } else if (namesSomebody(report.outcome)) {
+        m_dropped.add(report, m_clock->nowMs());
+    }
+}
+
+void ReportArchive::readIdentities()
+{
+    const auto note = [this](const LooseReport &report, const unsigned char *octets) { noteIdentity(report, octets); };
+    m_plots.takeNew(note);
+    m_dropped.takeNew(note);
+}
+
+QList<SeenIdentity> ReportArchive::find(const IdentityQuery &query)
+{
+    readIdentities();
+    return m_directory.find(query);
+}
+
+void ReportArchive::noteIdentity(const LooseReport &report, const unsigned char *octets)
 {
     SeenIdentity seen;
     seen.category = report.category;
     seen.outcome = report.outcome;
-    seen.address = report.address.value_or(0);
-    seen.sensorNumber = report.sensorTrackNumber;
-    seen.place = report.place;
-    seen.lastMs = nowMs;
-    if (report.record) {
-        identify(seen, *report.record);
-    } else if (report.modeS && report.modeS->valid()) {
-        identify(seen, *report.modeS);
+    seen.address = report.address;
+    seen.sensorNumber = report.sensorNumber;
+    seen.place = report.placed ? std::optional(report.place) : std::nullopt;
+    seen.lastMs = report.timeMs;
+    _ast_datarecord_t record;
+    if (report.uap && korvane::asterix::decodeRecord(&record, octets, report.size, report.uap)) {
+        identify(seen, record);
+    } else if (report.form == TakenReport::Form::ModeS && report.address != 0) {
+        readFrame(seen, octets, report.size);
     }
     if (seen.isNamed()) {
         m_directory.note(seen);
+    }
+}
+
+void ReportArchive::readFrame(SeenIdentity &seen, const unsigned char *octets, quint32 size)
+{
+    korvane::modes::ModeSFrame frame;
+    if (size > sizeof frame.octets) {
+        return;
+    }
+    frame.length = static_cast<std::uint8_t>(size);
+    std::copy_n(octets, size, frame.octets);
+    m_modesDecoder.decode(korvane::modes::ModeSMessage::AnyDownlink, frame, m_modesMessage);
+    if (!m_modesMessage.valid()) {
+        return;
+    }
+    seen.modeA = m_modesMessage.squawk();
+    if (const auto *identification = std::get_if<korvane::modes::Identification>(&m_modesMessage.content())) {
+        copyCallsign(seen, identification->callsign);
     }
 }
 

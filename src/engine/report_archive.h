@@ -2,6 +2,7 @@
 
 #include "engine/identity_directory.h"
 #include "engine/loose_reports.h"
+#include "modes/mode_s_decoder.h"
 #include "tracking/report_ledger.h"
 #include "tracking/report_ring.h"
 #include "tracking/track_manager.h"
@@ -45,7 +46,7 @@ Q_DECLARE_METATYPE(Sightings)
 // newest. On the engine's thread.
 class ReportArchive final : public ReportLedger {
 public:
-    ReportArchive() = default;
+    ReportArchive();
     ReportArchive(const ReportArchive &) = delete;
     ReportArchive &operator=(const ReportArchive &) = delete;
 
@@ -54,14 +55,18 @@ public:
     // Of another input, or the next run of a recording.
     void clear();
 
+    // Only copies: who is named in the reports without a track is read later.
     void take(const TakenReport &report) override;
+    // To be called once a second: reads whom the reports since the last call have named.
+    void readIdentities();
 
     // Of a track that has another incarnation by now nothing is found.
     AskedReports answer(const ReportQuestion &question) const;
-    QList<SeenIdentity> find(const IdentityQuery &query) const { return m_directory.find(query); }
+    QList<SeenIdentity> find(const IdentityQuery &query);
 
 private:
-    void noteIdentity(const TakenReport &report, qint64 nowMs);
+    void noteIdentity(const LooseReport &report, const unsigned char *octets);
+    void readFrame(SeenIdentity &seen, const unsigned char *octets, quint32 size);
     void noteEnd(const Track &track);
 
     QSharedPointer<TrackManager> m_tracks;
@@ -69,4 +74,7 @@ private:
     IdentityDirectory m_directory;
     LooseReports m_plots{768 * 1024, 16384}; // of about half a minute
     LooseReports m_alerts{64 * 1024, 512};
+    LooseReports m_dropped{256 * 1024, 4096}; // until their identities have been read
+    korvane::modes::ModeSDecoder m_modesDecoder;
+    korvane::modes::ModeSMessage m_modesMessage;
 };

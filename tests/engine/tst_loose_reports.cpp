@@ -34,6 +34,7 @@ private Q_SLOTS:
     void keepsNewest_data();
     void keepsNewest();
     void findsNearestPlace();
+    void givesEachOnce();
 };
 
 void TestLooseReports::keepsNewest_data()
@@ -87,6 +88,31 @@ void TestLooseReports::findsNearestPlace()
     QCOMPARE(found[1].octets, QByteArray("nearer"));
     QVERIFY(reports.near({0.0, 0.0}, 10.0, 10).isEmpty());
     QCOMPARE(reports.near({0.0, 0.0}, 500.0, 1).size(), 1);
+}
+
+void TestLooseReports::givesEachOnce()
+{
+    LooseReports reports(1000, 10);
+    QStringList given;
+    const auto giveAll = [&] {
+        given.clear();
+        reports.takeNew([&given](const LooseReport &report, const unsigned char *octets) {
+            given.append(QString::fromLatin1(reinterpret_cast<const char *>(octets), static_cast<int>(report.size)));
+        });
+        return given.join(' ');
+    };
+    QCOMPARE(giveAll(), QString());
+    addLoose(reports, "a");
+    addLoose(reports, "b");
+    QCOMPARE(giveAll(), QString("a b"));
+    QCOMPARE(giveAll(), QString());
+    for (int i = 0; i < 12; ++i) {
+        addLoose(reports, QByteArray::number(i));
+    }
+    QCOMPARE(giveAll(), QString("2 3 4 5 6 7 8 9 10 11")); // two have gone
+    addLoose(reports, "c");
+    reports.clear();
+    QCOMPARE(giveAll(), QString());
 }
 
 VYX_TEST(TestLooseReports)

@@ -36,19 +36,21 @@ struct ArchiveRig {
         return track;
     }
 
-    void take(const QByteArray &octets, ReportOutcome outcome, unsigned int trackNumber)
+    // As a tracker hands it in.
+    void take(const QByteArray &octets, ReportOutcome outcome, Track *track = nullptr)
     {
+        clock->now();
         TakenReport report;
         report.form = TakenReport::Form::ModeS;
         report.outcome = outcome;
         report.octets = reinterpret_cast<const unsigned char *>(octets.constData());
         report.size = static_cast<quint32>(octets.size());
-        report.trackNumber = trackNumber;
+        report.reports = track ? &track->reports() : nullptr;
         report.address = 0x4B1A2C;
         archive.take(report);
     }
 
-    QList<SeenIdentity> find(const QString &text) const { return archive.find(IdentityQuery::fromText(text)); }
+    QList<SeenIdentity> find(const QString &text) { return archive.find(IdentityQuery::fromText(text)); }
 };
 
 } // namespace
@@ -72,12 +74,11 @@ void TestReportArchive::keepsReportsWithTheirTrack()
     ArchiveRig rig;
     const auto track = rig.addTrack(0x4B1A2C);
     const auto other = rig.addTrack(0x111111);
-    rig.take("first", ReportOutcome::Track, track->trackNumber());
+    rig.take("first", ReportOutcome::Track, track.data());
     rig.nowMs += 250;
-    rig.take("second", ReportOutcome::Track, track->trackNumber());
-    rig.take("refused", ReportOutcome::OutOfRange, track->trackNumber());
-    rig.take("another", ReportOutcome::Track, other->trackNumber());
-    rig.take("nobody's", ReportOutcome::Track, 999);
+    rig.take("second", ReportOutcome::Track, track.data());
+    rig.take("refused", ReportOutcome::OutOfRange, track.data());
+    rig.take("another", ReportOutcome::Track, other.data());
 
     const auto ask = [&rig, &track](quint64 incarnationId) {
         return rig.archive.answer({1, ReportQuestion::About::Track, track->trackNumber(), incarnationId});
@@ -110,7 +111,7 @@ void TestReportArchive::notesWhoHasNoTrack()
     QFETCH(ReportOutcome, outcome);
     QFETCH(bool, noted);
     ArchiveRig rig;
-    rig.take("x", outcome, 0);
+    rig.take("x", outcome);
     QCOMPARE(rig.find("4B1A2C").size(), noted ? 1 : 0);
     if (noted) {
         QCOMPARE(rig.find("4B1A2C").first().outcome, outcome);
@@ -145,13 +146,14 @@ void TestReportArchive::readsIdentityOfRecord()
 void TestReportArchive::keepsPlotsAndAlertsApart()
 {
     ArchiveRig rig;
+    rig.clock->now();
     TakenReport plot;
     plot.outcome = ReportOutcome::Plot;
     plot.octets = reinterpret_cast<const unsigned char *>("plot");
     plot.size = 4;
     plot.place = QPointF(100.0, 0.0);
     rig.archive.take(plot);
-    rig.take("alert", ReportOutcome::Alert, 0);
+    rig.take("alert", ReportOutcome::Alert);
     const auto plots = rig.archive.answer({1, ReportQuestion::About::Place, 0, 0, {0.0, 0.0}, 200.0});
     QCOMPARE(plots.reports.size(), 1);
     QCOMPARE(plots.reports.first().octets, QByteArray("plot"));
