@@ -95,6 +95,8 @@ Q_SIGNALS:
     void trackHovered(unsigned long long id);
     // The right button was clicked on a track, by its symbol or its label.
     void trackMenuRequested(unsigned long long id, const QPoint &globalPosition);
+    // The right button was clicked where there is none.
+    void placeMenuRequested(const QPointF &planePoint, const QPoint &globalPosition);
     void paintStats(const PaintStats &stats);
     void geoPointerMoveEvent(QPointF planePoint);
     void geoPointerClickEvent(QPointF planePoint);

@@ -162,6 +162,8 @@ void GeoWidget::requestMenuAt(const QPointF &position, const QPoint &globalPosit
     const auto tracks = m_trackDisplay->findTracks(screenTransform(), qRound(position.x()), qRound(position.y()));
     if (!tracks.isEmpty()) {
         Q_EMIT trackMenuRequested(tracks.constFirst(), globalPosition);
+    } else {
+        Q_EMIT placeMenuRequested(screenTransform().inverted().map(position), globalPosition);
     }
 }
 

@@ -109,6 +109,12 @@ constexpr ActionSpec Specs[] = {
         MenuId::Track, ToolBarId::None, true},
     {ActionId::ToggleAlertList, QT_TRANSLATE_NOOP("Actions", "Toggle Alert List"), "", "", "", "alert-list", true,
         MenuId::Track, ToolBarId::None, false},
+    {ActionId::ExplainTrack, QT_TRANSLATE_NOOP("Actions", "Explain Track"), "",
+        QT_TRANSLATE_NOOP("Actions", "Where the values of the selected track come from, with its last reports"),
+        "Ctrl+E", "explain-track", true, MenuId::Track, ToolBarId::None, true},
+    {ActionId::WhyNotShown, QT_TRANSLATE_NOOP("Actions", "Why Is It Not Shown?..."), "",
+        QT_TRANSLATE_NOOP("Actions", "Where a target is that cannot be seen"), "Ctrl+F", "why-not-shown", false,
+        MenuId::Track, ToolBarId::None, false},
 
     {ActionId::StaticMaps, QT_TRANSLATE_NOOP("Actions", "Static Maps..."), QT_TRANSLATE_NOOP("Actions", "Maps"),
         QT_TRANSLATE_NOOP("Actions", "Manage static maps"), "", "static-maps", false,

@@ -54,6 +54,8 @@ enum class ActionId : std::size_t {
     AcknowledgeAllAlerts,
     ToggleTrackList,
     ToggleAlertList,
+    ExplainTrack,
+    WhyNotShown,
     StaticMaps,
     ToggleStaticMaps,
     StaticMapEditor,

@@ -9,6 +9,7 @@
 #include "display/geo_track_display.h"
 #include "engine/data_engine.h"
 #include "health/input_health.h"
+#include "inspection/inspection.h"
 #include "lists/list_panes.h"
 #include "orientation/geo_map_key.h"
 #include "orientation/geo_sensor_map.h"
@@ -203,6 +204,7 @@ void MainWindow::makeParts()
     m_plotSwitch = std::make_unique<PlotSwitch>(m_mapDisplay->plotMap(), (*m_actions)[ActionId::TogglePlots]);
     m_lists = std::make_unique<ListPanes>(this, m_trackDisplay.get(), [this] { return m_pump->newest(); });
     m_trackCommands = std::make_unique<TrackCommands>(m_actions, m_geoWidget, m_trackDisplay.get(), m_lists.get());
+    makeInspection();
     m_home = std::make_unique<HomeView>(m_geoWidget, &m_host.shared().projector, &m_config.live());
     m_layoutMenu = std::make_unique<LayoutMenu>(this, m_actions, m_geoWidget);
     m_mapWindows = std::make_unique<MapWindows>(this, m_actions, m_geoWidget, &m_host.shared().projector);

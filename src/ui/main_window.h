@@ -5,6 +5,7 @@
 #include "engine/display_snapshot.h"
 #include "engine/engine_host.h"
 #include "engine/replay_speed.h"
+#include "explanation/absence.h"
 #include "maps/map_file.h"
 #include "processors/video_processor.h"
 #include "processors/weather_processor.h"
@@ -23,6 +24,7 @@ class GeoWidget;
 class HomeView;
 class InputHealth;
 class InputSession;
+class Inspection;
 class LayoutMenu;
 class ListPanes;
 class LogPane;
@@ -186,6 +188,7 @@ private:
     void makeResizeMenu();
     void makeMessagesDock();
     void makeParts();
+    void makeInspection();
     void routeLibraryLogs();
     void connectThemes();
     void connectEngine();
@@ -233,6 +236,8 @@ private:
     void showHealth();
     // Why the scope is empty or old, or shows plots; empty when that needs no words.
     QString scopeNotice() const;
+    // For who asks why a target is not shown.
+    AbsenceFacts inputFacts() const;
     void updateNotices();
 
     // Life cycle.
@@ -274,6 +279,7 @@ private:
     std::unique_ptr<InputHealth> m_health;
     std::unique_ptr<ListPanes> m_lists;
     std::unique_ptr<TrackCommands> m_trackCommands;
+    std::unique_ptr<Inspection> m_inspection;
     std::unique_ptr<HomeView> m_home;
     std::unique_ptr<LayoutMenu> m_layoutMenu;
     std::unique_ptr<MapWindows> m_mapWindows;

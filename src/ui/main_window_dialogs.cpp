@@ -5,8 +5,10 @@
 #include "help/about_window.h"
 #include "help/changelog_window.h"
 #include "help/cheat_sheet_window.h"
+#include "inspection/inspection.h"
 #include "orientation/geo_range_ring_map.h"
 #include "plan_view/geo_widget.h"
+#include "sensors/sensor_info.h"
 #include "sensors/sensor_manager.h"
 #include "settings/config_window.h"
 #include "settings/sensor_manager_window.h"
@@ -23,9 +25,11 @@
 #include "ui/snapshot_pump.h"
 #include "ui/stats_window.h"
 #include "ui/theme_menu.h"
+#include "ui/track_commands.h"
 #include "ui/weather_intensity_window.h"
 
 #include <QAction>
+#include <QDockWidget>
 
 namespace {
 
@@ -59,6 +63,44 @@ void MainWindow::connectDialogActions()
     on(ActionId::WhatsNew, &MainWindow::showChangelog);
     on(ActionId::About, &MainWindow::showAbout);
     on(ActionId::Statistics, &MainWindow::showStatsWindow);
+}
+
+void MainWindow::makeInspection()
+{
+    m_inspection = std::make_unique<Inspection>(this,
+        Inspection::Sources{m_geoWidget, &m_host, &m_config.live(), [this] { return m_pump->newest(); },
+            [this] { return inputFacts(); }});
+    Inspection *inspection = m_inspection.get();
+    QAction *explain = (*m_actions)[ActionId::ExplainTrack];
+    connect(explain, &QAction::triggered, inspection->dock(), &QWidget::setVisible);
+    connect(inspection->dock()->toggleViewAction(), &QAction::toggled, explain, &QAction::setChecked);
+    connect((*m_actions)[ActionId::WhyNotShown], &QAction::triggered, inspection, &Inspection::showAbsenceWindow);
+    connect(m_trackCommands.get(), &TrackCommands::trackToExplain, inspection, &Inspection::explainSelectedTrack);
+    connect(m_trackCommands.get(), &TrackCommands::plotToExplain, inspection, &Inspection::explainPlotAt);
+    connect(m_trackCommands.get(), &TrackCommands::alertToExplain, inspection, &Inspection::explainAlertOf);
+    connect(inspection, &Inspection::trackChosen, m_trackCommands.get(), &TrackCommands::select);
+    connect(inspection, &Inspection::cureChosen, this, [this](Cure cure) {
+        constexpr std::pair<Cure, ActionId> Cures[] = {{Cure::ShowLabels, ActionId::ToggleTrackLabel},
+            {Cure::ShowPlots, ActionId::TogglePlots}, {Cure::StartInput, ActionId::Start},
+            {Cure::ResumeInput, ActionId::Pause}, {Cure::OpenSettings, ActionId::Settings}};
+        for (const auto &[which, action] : Cures) {
+            if (which == cure) {
+                (*m_actions)[action]->trigger();
+            }
+        }
+    });
+}
+
+AbsenceFacts MainWindow::inputFacts() const
+{
+    AbsenceFacts facts;
+    facts.inputOpen = inputOpen();
+    facts.paused = m_session->paused();
+    if (config().processorAsterixVerifySacSic && m_session->sensor()) {
+        facts.sensorSac = m_session->sensor()->sac();
+        facts.sensorSic = m_session->sensor()->sic();
+    }
+    return facts;
 }
 
 void MainWindow::showConfigWindow()

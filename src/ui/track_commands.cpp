@@ -27,10 +27,10 @@ TrackCommands::TrackCommands(Actions *actions, GeoWidget *plan, GeoTrackDisplay 
     connect(plan, &GeoWidget::trackSelected, lists, &ListPanes::selectTrackInList);
     connect(plan, &GeoWidget::trackSelected, this, &TrackCommands::refresh);
     connect(plan, &GeoWidget::trackHovered, lists, &ListPanes::lightTrackInList);
-    connect(plan, &GeoWidget::trackMenuRequested, this, [this](unsigned long long track, const QPoint &place) {
-        m_planMenuAge.start();
-        m_planMenuPlace = place;
-        showMenu(track, 0, place)->installEventFilter(this);
+    connect(plan, &GeoWidget::trackMenuRequested, this,
+        [this](unsigned long long track, const QPoint &place) { notePlanMenu(showMenu(track, 0, place), place); });
+    connect(plan, &GeoWidget::placeMenuRequested, this, [this](const QPointF &planePoint, const QPoint &place) {
+        notePlanMenu(showPlaceMenu(planePoint, place), place);
     });
     connect(lists, &ListPanes::trackMenuRequested, this, &TrackCommands::showMenu);
     connect(lists, &ListPanes::trackActivated, this, &TrackCommands::bringIntoView);
@@ -50,12 +50,33 @@ QMenu *TrackCommands::showMenu(unsigned long long track, quint64 alert, const QP
     if (m_tracks->hasTrack(track)) {
         addTrackActions(menu, track);
     }
+    if (alert != 0) {
+        menu->addAction(tr("Explain Alert"), this, [this, alert] { Q_EMIT alertToExplain(alert); });
+    }
     QAction *one = menu->addAction(tr("Acknowledge"), this, [this, track, alert] { acknowledge(track, alert); });
     one->setEnabled(isAsking(track, alert));
     menu->addAction((*m_actions)[ActionId::AcknowledgeAllAlerts]);
     refresh();
     menu->popup(globalPosition);
     return menu;
+}
+
+QMenu *TrackCommands::showPlaceMenu(const QPointF &planePoint, const QPoint &globalPosition)
+{
+    auto *menu = new QMenu(m_plan);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction *plot = menu->addAction(tr("Explain Plot"), this, [this, planePoint] { Q_EMIT plotToExplain(planePoint); });
+    plot->setEnabled((*m_actions)[ActionId::TogglePlots]->isChecked());
+    menu->addAction((*m_actions)[ActionId::WhyNotShown]);
+    menu->popup(globalPosition);
+    return menu;
+}
+
+void TrackCommands::notePlanMenu(QMenu *menu, const QPoint &globalPosition)
+{
+    m_planMenuAge.start();
+    m_planMenuPlace = globalPosition;
+    menu->installEventFilter(this);
 }
 
 void TrackCommands::addTrackActions(QMenu *menu, unsigned long long track)
@@ -73,6 +94,10 @@ void TrackCommands::addTrackActions(QMenu *menu, unsigned long long track)
     QAction *reset =
         menu->addAction(tr("Reset Label"), m_tracks, [this, track] { m_tracks->resetTrackLabelOffset(track); });
     reset->setEnabled(!m_tracks->trackLabelOffsetDefault(track));
+    menu->addAction(tr("Explain"), this, [this, track] {
+        select(track);
+        Q_EMIT trackToExplain();
+    });
     menu->addSeparator();
 }
 

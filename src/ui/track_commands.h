@@ -24,6 +24,8 @@ public:
     // The key is an alert's on the AlertBoard; 0: all of the track's. The track 0 is none of ours. The menu goes when
     // it is closed.
     QMenu *showMenu(unsigned long long track, quint64 alert, const QPoint &globalPosition);
+    // Of a place without a track.
+    QMenu *showPlaceMenu(const QPointF &planePoint, const QPoint &globalPosition);
 
 public Q_SLOTS:
     void select(unsigned long long track);
@@ -32,12 +34,19 @@ public Q_SLOTS:
     // What chip and actions say of the newest snapshot; otherwise once a second.
     void refresh();
 
+Q_SIGNALS:
+    // The operator wants to know what the selected track, the plot there, plane metres, or the alert is made of.
+    void trackToExplain();
+    void plotToExplain(const QPointF &planePoint);
+    void alertToExplain(quint64 alert);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     bool isAsking(unsigned long long track, quint64 alert) const;
     void addTrackActions(QMenu *menu, unsigned long long track);
+    void notePlanMenu(QMenu *menu, const QPoint &globalPosition);
 
     Actions *m_actions;
     GeoWidget *m_plan;

@@ -1,0 +1,277 @@
+#include "inspection/inspection.h"
+
+#include "app/config.h"
+#include "display/geo_map_display.h"
+#include "display/geo_plot_map.h"
+#include "display/geo_track_display.h"
+#include "display/track_label_lines.h"
+#include "engine/data_engine.h"
+#include "engine/display_snapshot.h"
+#include "engine/engine_host.h"
+#include "explanation/symbol_explanation.h"
+#include "inspection/absence_window.h"
+#include "inspection/inspection_pane.h"
+#include "inspection/scope_targets.h"
+#include "plan_view/geo_widget.h"
+
+#include <QDockWidget>
+#include <QMainWindow>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int RefreshIntervalMs = 500;
+constexpr QSize FirstSize(1240, 460);
+constexpr double CloseZoom = 100.0; // metres per pixel at which labels have room
+constexpr double ReachPixels = 8.0; // from the pointer to a plot
+
+QList<ReportView> viewsOf(const QList<KeptReport> &reports)
+{
+    QList<ReportView> views;
+    views.reserve(reports.size());
+    std::transform(reports.begin(), reports.end(), std::back_inserter(views), viewReport);
+    return views;
+}
+
+} // namespace
+
+Inspection::Inspection(QMainWindow *window, const Sources &sources) : m_sources(sources), m_window(window)
+{
+    makeDock(window);
+    const DataEngine *engine = m_sources.host->engine();
+    connect(engine, &DataEngine::reportsAnswered, this, &Inspection::takeReports);
+    connect(engine, &DataEngine::sightings, this, &Inspection::takeSightings);
+    connect(&m_timer, &QTimer::timeout, this, &Inspection::refresh);
+    connect(m_sources.plan, &GeoWidget::trackSelected, this, &Inspection::refresh);
+    connect(m_dock, &QDockWidget::visibilityChanged, this, [this](bool visible) {
+        if (visible) {
+            m_timer.start(RefreshIntervalMs);
+            refresh();
+        } else {
+            m_timer.stop();
+        }
+    });
+}
+
+Inspection::~Inspection() = default;
+
+void Inspection::makeDock(QMainWindow *window)
+{
+    m_pane = new InspectionPane(window);
+    m_dock = new QDockWidget(tr("Track Explanation"), window);
+    m_dock->setObjectName("inspectionDock"); // under which the window's state remembers it
+    m_dock->setWidget(m_pane);
+    window->addDockWidget(Qt::BottomDockWidgetArea, m_dock);
+    // It wants more room than the scope can spare; who has a large screen docks it.
+    m_dock->setFloating(true);
+    m_dock->resize(FirstSize);
+    m_dock->hide();
+}
+
+void Inspection::refresh()
+{
+    noteSelection();
+    if (!m_dock->isVisible() || m_subject == ReportQuestion::About::Place) {
+        return; // a plot was what it is
+    }
+    ReportQuestion question;
+    question.about = m_subject;
+    if (m_subject == ReportQuestion::About::Track) {
+        const GeoTrackDisplay *tracks = m_sources.plan->trackDisplay();
+        const TrackSnapshot *track = tracks->findTrack(tracks->selectedTrackId());
+        if (!track) {
+            m_reportsRequest = 0;
+            m_pane->showHint(tr("Select a track to see where its values come from."));
+            return;
+        }
+        question.trackNumber = track->trackNumber;
+        question.incarnationId = track->incarnationId;
+    }
+    ask(question);
+}
+
+void Inspection::ask(const ReportQuestion &question)
+{
+    ReportQuestion numbered = question;
+    numbered.requestId = m_reportsRequest = ++m_lastRequest;
+    m_sources.host->askForReports(numbered);
+}
+
+// Whoever selects another track, on the plan view or in a list, has seen enough of plot or alert.
+void Inspection::noteSelection()
+{
+    const quint64 selected = m_sources.plan->trackDisplay()->selectedTrackId();
+    if (selected != 0 && selected != m_selectedTrack) {
+        m_subject = ReportQuestion::About::Track;
+    }
+    m_selectedTrack = selected;
+}
+
+void Inspection::explainSelectedTrack()
+{
+    m_subject = ReportQuestion::About::Track;
+    m_dock->show();
+    m_dock->raise();
+    refresh();
+}
+
+void Inspection::explainPlotAt(const QPointF &planePoint)
+{
+    noteSelection();
+    ReportQuestion question;
+    question.about = ReportQuestion::About::Place;
+    question.place = planePoint;
+    question.radius = ReachPixels * m_sources.plan->currentZoom();
+    show(question);
+}
+
+void Inspection::explainAlertOf(quint64 alert)
+{
+    noteSelection();
+    m_alert = alert;
+    ReportQuestion question;
+    question.about = ReportQuestion::About::Alerts;
+    show(question);
+}
+
+void Inspection::show(const ReportQuestion &question)
+{
+    m_subject = question.about;
+    m_dock->show();
+    m_dock->raise();
+    ask(question);
+}
+
+void Inspection::takeReports(const AskedReports &reports)
+{
+    const auto snapshot = m_sources.newest();
+    if (reports.question.requestId != m_reportsRequest || !snapshot) {
+        return;
+    }
+    switch (reports.question.about) {
+    case ReportQuestion::About::Track:
+        return showTrack(reports, *snapshot);
+    case ReportQuestion::About::Place:
+        return showPlot(reports, *snapshot);
+    case ReportQuestion::About::Alerts:
+        return showAlert(reports, *snapshot);
+    }
+}
+
+void Inspection::showTrack(const AskedReports &reports, const DisplaySnapshot &snapshot)
+{
+    const TrackSnapshot *track = m_sources.plan->trackDisplay()->findTrack(reports.question.incarnationId);
+    if (!track) {
+        return;
+    }
+    const auto views = viewsOf(reports.reports);
+    const auto values = explainTrack(*track, views, snapshot.time, explanationSettings());
+    m_pane->explain(trackName(*track), values, reports.reports, views, snapshot.time);
+}
+
+void Inspection::showPlot(const AskedReports &reports, const DisplaySnapshot &snapshot)
+{
+    if (!reports.found) {
+        m_pane->showHint(tr("No plot without a track has been received here lately. What a plot with a track is made "
+                            "of stands with the track: select it."));
+        return;
+    }
+    const auto views = viewsOf(reports.reports);
+    m_pane->explain(tr("Plot"), explainPlot(views, snapshot.time), reports.reports, views, snapshot.time);
+}
+
+void Inspection::showAlert(const AskedReports &reports, const DisplaySnapshot &snapshot)
+{
+    const auto alert = std::find_if(snapshot.alerts.begin(), snapshot.alerts.end(),
+        [this](const AlertSnapshot &candidate) { return AlertBoard::keyOf(candidate) == m_alert; });
+    if (alert == snapshot.alerts.end()) {
+        m_pane->showHint(tr("The alert is no longer there, or it is an emergency: what a track says of itself is "
+                            "explained with the track."));
+        return;
+    }
+    QList<KeptReport> own;
+    for (const KeptReport &report : reports.reports) {
+        if (isOfAlert(viewReport(report), alert->id)) {
+            own.append(report);
+        }
+    }
+    const auto views = viewsOf(own);
+    const auto values = explainAlert(*alert, views, snapshot.time);
+    m_pane->explain(tr("Alert %1").arg(alert->id), values, own, views, snapshot.time);
+}
+
+ExplanationSettings Inspection::explanationSettings() const
+{
+    const Config &config = *m_sources.config;
+    return {config.processorAsterixIgnoreWgs84Coordinates, config.processorAsterixIgnoreCartesianCoordinates,
+        config.processorAsterixCorrectLongitudeWrap};
+}
+
+void Inspection::showAbsenceWindow()
+{
+    if (!m_absence) {
+        m_absence = new AbsenceWindow(m_window);
+        connect(m_absence, &AbsenceWindow::asked, this, &Inspection::lookFor);
+        connect(m_absence, &AbsenceWindow::cureChosen, this, &Inspection::applyCure);
+    }
+    m_absence->show();
+    m_absence->raise();
+    m_absence->activateWindow();
+}
+
+void Inspection::lookFor(const QString &text)
+{
+    m_sightingsRequest = ++m_lastRequest;
+    if (text.isEmpty()) {
+        m_absence->showFindings({}, {});
+    } else {
+        m_sources.host->lookUp(text, m_sightingsRequest);
+    }
+}
+
+void Inspection::takeSightings(const Sightings &sightings)
+{
+    if (!m_absence || sightings.requestId != m_sightingsRequest) {
+        return;
+    }
+    const auto query = IdentityQuery::fromText(sightings.text);
+    AbsenceFacts facts = m_sources.inputFacts();
+    const GeoTrackDisplay &tracks = *m_sources.plan->trackDisplay();
+    facts.labelsOn = tracks.labelVisible();
+    facts.detailsShown = tracks.frame().showsDetails();
+    facts.plotsOn = m_sources.plan->mapDisplay()->plotMap()->visible();
+    facts.seen = sightings.seen;
+    const auto snapshot = m_sources.newest();
+    if (snapshot) {
+        facts.live = findOnScope(query, *snapshot, *m_sources.plan, m_sources.host->shared().projector);
+    }
+    m_absence->showFindings(explainAbsence(query, facts), snapshot ? snapshot->time : QDateTime());
+}
+
+void Inspection::applyCure(const AbsenceFinding &finding)
+{
+    GeoWidget *plan = m_sources.plan;
+    if (finding.track != 0) {
+        Q_EMIT trackChosen(finding.track);
+    }
+    switch (finding.cure) {
+    case Cure::None:
+    case Cure::Select:
+        break;
+    case Cure::Centre:
+    case Cure::ZoomIn: {
+        const TrackSnapshot *track = plan->trackDisplay()->findTrack(finding.track);
+        const QPointF place = track ? track->carCoordinate : finding.place.value_or(QPointF());
+        if (finding.cure == Cure::ZoomIn) {
+            plan->setView(place.x(), place.y(), CloseZoom);
+        } else {
+            plan->jumpTo(place.x(), place.y());
+        }
+        break;
+    }
+    default:
+        Q_EMIT cureChosen(finding.cure);
+    }
+    lookFor(m_absence->text());
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QTableWidget>
+
+// A table that says what its rows mean rather than being edited: rows are replaced as a whole, what is pointed at is
+// told, and the arrow keys move in it although the window has shortcuts on them.
+class ReportTable final : public QTableWidget {
+    Q_OBJECT
+
+public:
+    // widest: a text for each column that it should hold; the last column takes what is left.
+    ReportTable(const QStringList &titles, const QStringList &widest, QWidget *parent = nullptr);
+
+    // Selection and scroll position stay with the row's number.
+    void setRows(const QList<QStringList> &rows);
+    // Lit up because something of the row is pointed at elsewhere.
+    void setLitRows(const QList<int> &rows);
+
+Q_SIGNALS:
+    // -1: none any more.
+    void rowHovered(int row);
+
+protected:
+    bool event(QEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+
+private:
+    void setText(int row, int column, const QString &text);
+    void noteHover(int row);
+
+    QList<int> m_lit;
+    int m_hoveredRow = -1;
+};
