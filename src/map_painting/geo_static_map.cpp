@@ -79,6 +79,14 @@ void GeoStaticMap::setSymbolSize(int pixels)
     forgetPainted();
 }
 
+void GeoStaticMap::setOverTiles(bool over)
+{
+    if (over != m_overTiles) {
+        m_overTiles = over;
+        forgetPainted();
+    }
+}
+
 void GeoStaticMap::setStyleSheet(const MapStyleSheet &sheet)
 {
     m_styles = sheet;
@@ -230,7 +238,7 @@ void GeoStaticMap::paintPart(const GeoView &view, const QRect &part, const std::
     for (const ShownMap &map : maps) {
         std::vector<Look> looks;
         for (const StaticMapGroup &group : map.geometry->groups()) {
-            looks.push_back({m_styles.style(group.className), !m_styles.contains(group.className)});
+            looks.push_back(lookOf(group.className));
         }
         for (const auto &elements : m_painters) {
             for (std::size_t i = 0; i < looks.size(); ++i) {
@@ -239,6 +247,15 @@ void GeoStaticMap::paintPart(const GeoView &view, const QRect &part, const std::
             }
         }
     }
+}
+
+GeoStaticMap::Look GeoStaticMap::lookOf(const QString &className) const
+{
+    Look look{m_styles.style(className), !m_styles.contains(className)};
+    if (m_overTiles && look.style.brush.isOpaque()) {
+        look.style.brush = Qt::NoBrush;
+    }
+    return look;
 }
 
 void GeoStaticMap::paintGroup(QPainter &painter, const GeoView &view, const StaticMapFrame &frame,

@@ -46,6 +46,8 @@ public Q_SLOTS:
     void setMaps(const QList<MapLibrary::Map> &maps);
     void setStyleSheet(const MapStyleSheet &sheet);
     void setSymbolSize(int pixels);
+    // Tiles lie under the maps: areas that would hide them altogether are not filled.
+    void setOverTiles(bool over);
 
 private:
     using Token = std::shared_ptr<std::atomic<bool>>; // true: cancelled
@@ -74,6 +76,7 @@ private:
     void prepareInBackground(quint64 id, Prepared &prepared);
     void takeGeometry(quint64 id, const Token &token, const StaticMapGeometry::Pointer &geometry);
     void forgetPainted();
+    Look lookOf(const QString &className) const;
     std::vector<ShownMap> shownMaps(double metresPerPixel) const;
     void decideForRegion(const std::vector<ShownMap> &maps, double metresPerPixel);
     void paintPart(const GeoView &view, const QRect &part, const std::vector<ShownMap> &maps);
@@ -86,6 +89,7 @@ private:
     MapStyleSheet m_styles;
     int m_symbolSize = 0;
     bool m_smoothImages = false;
+    bool m_overTiles = false;
     QColor m_ground;
 
     std::array<std::unique_ptr<StaticMapPainter>, 5> m_painters; // in drawing order

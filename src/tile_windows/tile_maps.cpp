@@ -3,6 +3,7 @@
 #include "app/setting.h"
 #include "display/geo_map_display.h"
 #include "geo/projector.h"
+#include "map_painting/geo_static_map.h"
 #include "plan_view/geo_widget.h"
 #include "tile_painting/geo_tile_map.h"
 #include "tile_windows/tile_download_window.h"
@@ -34,6 +35,7 @@ bool sameProviders(const Config &one, const Config &other)
 TileMaps::TileMaps(QWidget *window, GeoWidget *plan, Projector *projector, Edit edit)
     : m_window(window), m_projector(projector), m_edit(std::move(edit))
 {
+    m_staticMap = plan->mapDisplay()->staticMap();
     m_bottom.map = plan->mapDisplay()->bottomTiles();
     m_top.map = plan->mapDisplay()->topTiles();
     connect(plan, &GeoWidget::viewRectChanged, this, [this](const QPoint &northWest, const QPoint &southEast) {
@@ -74,19 +76,28 @@ void TileMaps::applyConfig(const Config &config)
     m_config = config;
     give(m_bottom, config.mapTileBottomLayerProvider, anew);
     give(m_top, config.mapTileTopLayerEnable ? config.mapTileTopLayerProvider : TileService::None, anew);
+    showLayers();
+}
+
+// Nothing of a layer is seen, not even whose it is, as long as it is not switched on. Where its tiles keep away the
+// static maps are as they are without it.
+void TileMaps::showLayers()
+{
+    m_bottom.map->setVisible(shown() && m_bottom.provider);
+    m_top.map->setVisible(shown() && m_top.provider);
+    m_staticMap->setOverTiles(m_bottom.map->visible() && m_bottom.provider->stateText().isEmpty());
     Q_EMIT changed();
 }
 
 void TileMaps::give(Layer &layer, TileService service, bool anew)
 {
-    layer.map->setVisible(m_config.mapTileVisible && service != TileService::None);
     if (anew || service != layer.service) {
         layer.map->setProvider(nullptr);
         layer.provider = makeTileProvider(service, allowed(), m_projector);
         layer.service = service;
         if (layer.provider) {
             connect(layer.provider.get(), &TileProvider::message, this, &TileMaps::logMessage);
-            connect(layer.provider.get(), &TileProvider::stateChanged, this, &TileMaps::changed);
+            connect(layer.provider.get(), &TileProvider::stateChanged, this, &TileMaps::showLayers);
         }
         layer.map->setProvider(layer.provider.get());
     }

@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 
+class GeoStaticMap;
 class GeoTileMap;
 class GeoWidget;
 class Projector;
@@ -62,6 +63,7 @@ private:
     };
 
     void give(Layer &layer, TileService service, bool anew);
+    void showLayers();
     // The services of the layers that would have to be asked, as a text; empty: none.
     QString servicesToAsk() const;
     bool needsService(TileService service) const;
@@ -77,6 +79,7 @@ private:
     QPoint m_northWest; // of the view, metres of the plane
     QPoint m_southEast;
     bool m_barred = false;
+    GeoStaticMap *m_staticMap;
     Layer m_bottom;
     Layer m_top;
     QPointer<TileDownloadWindow> m_downloads;

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void areasAndLinesAreSoundCloseUp();
     void whatHasNoStyleIsSeenOnAnyGround();
     void largeMapsArePreparedInTheBackground();
+    void leavesTilesInSight();
 };
 
 void TestStaticMapPicture::movedPictureLooksAsIfDrawnAnew_data()
@@ -247,6 +248,30 @@ void TestStaticMapPicture::largeMapsArePreparedInTheBackground()
     large.revision = 2;
     large.data = mapOf({lineGroup(coast(40000, 0.001))}).data;
     layer.setMaps({large}); // and away while it is being prepared
+}
+
+// What lets the ground through goes on to be filled.
+void TestStaticMapPicture::leavesTilesInSight()
+{
+    MapStyleClass opaque = styleOf(Red);
+    opaque.brush = Red;
+    MapStyleClass veil = styleOf(Green);
+    veil.name = QStringLiteral("veil");
+    veil.brush = QColor(0, 255, 0, 100);
+    StaticMapScene scene;
+    GeoStaticMap layer(&scene.projector);
+    layer.setStyleSheet(sheet({opaque, veil}));
+    layer.setMaps({mapOf({areaGroup(box(40.0, 0.0, 41.0, 1.0)), areaGroup(box(40.0, 2.0, 41.0, 3.0), "veil")})});
+    const auto colorAt = [&](double longitude) {
+        return scene.painted(layer, 100.0, scene.plane({40.5, longitude})).at(PaintedView::Middle);
+    };
+    QCOMPARE(colorAt(0.5), Red);
+    const QColor veiled = colorAt(2.5);
+    layer.setOverTiles(true);
+    const QColor ground = colorAt(1.5);
+    QCOMPARE(colorAt(0.5), ground);
+    QCOMPARE(colorAt(2.5), veiled);
+    QVERIFY(veiled != ground);
 }
 
 VYX_TEST(TestStaticMapPicture)
