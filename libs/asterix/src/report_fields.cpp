@@ -61,6 +61,7 @@ constexpr Source Sources[] = {
     {20, ReportField::Level, "090/FL", Feet},
     {20, ReportField::TransponderCode, "070/MODE3A"},
     {20, ReportField::TrackNumber, "161/TRN"},
+    {20, ReportField::GeometricAltitude, "105"},
     {21, ReportField::Address, "080"},
     {21, ReportField::Identification, "170"},
     {21, ReportField::Latitude, "131/LAT"},
@@ -90,6 +91,9 @@ constexpr Source Sources[] = {
     {21, ReportField::VerticalRate, "157"},
     {21, ReportField::VerticalRate, "155/BVR"}, // from 2.1 on
     {21, ReportField::VerticalRate, "157/GVR"},
+    {21, ReportField::PositionTime, "071"}, // from 2.1 on
+    {21, ReportField::PositionTime, "073"},
+    {21, ReportField::GeometricAltitude, "140"},
     {48, ReportField::Address, "220"},
     {48, ReportField::Identification, "240"},
     {48, ReportField::GroundSpeed, "200/GSP", Knots},
@@ -109,6 +113,7 @@ constexpr Source Sources[] = {
     {62, ReportField::TransponderCode, "060/MODE3A"},
     {62, ReportField::TrackNumber, "040"},
     {62, ReportField::VerticalRate, "220"},
+    {62, ReportField::GeometricAltitude, "130"},
 };
 
 // The outermost item that holds a node.

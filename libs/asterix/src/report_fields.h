@@ -39,6 +39,8 @@ enum class ReportField : std::uint8_t {
     TimeOfDay,
     TransponderCode, // Mode 3/A of any category, where Mode3A is that of CAT021
     TrackNumber,
+    PositionTime,
+    GeometricAltitude,
     Count
 };
 
@@ -53,7 +55,7 @@ struct ReportPlace {
     bool isSigned = false;
     std::uint8_t bits = 0;
     std::uint16_t bitOffset = 0; // from the first bit of the item
-    double lsb = 1; // in degrees, feet, knots or feet per minute
+    double lsb = 1; // in degrees, feet, knots, feet per minute or seconds
 };
 
 using ReportFields = std::array<std::array<ReportPlace, ReportPlaces>, ReportFieldCount>;

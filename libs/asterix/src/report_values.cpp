@@ -1,7 +1,7 @@
 #include "asterix/report_values.h"
 
 #include "asterix/record_map.h"
-#include "asterix/report_time.h"
+#include "asterix/reference_values.h"
 #include "disassemble.h"
 #include "record_fields.h"
 
@@ -85,6 +85,19 @@ _ast_altitude_t altitude(const _ast_datarecord_t &record, ReportField field)
     return {feet.has_value(), feet.value_or(0)};
 }
 
+_ast_time_of_day_t timeOf(const _ast_datarecord_t &record, ReportField field)
+{
+    constexpr double Day = 86400;
+    constexpr std::uint8_t WholeDayBits = 24;
+    const auto found = findBits(record, field);
+    if (!found) {
+        return {};
+    }
+    const ReportPlace &place = *found->place;
+    const double period = place.bits < WholeDayBits ? std::ldexp(place.lsb, place.bits) : Day;
+    return {true, static_cast<double>(found->bits) * place.lsb, period};
+}
+
 } // namespace
 } // namespace korvane::asterix
 
@@ -98,15 +111,18 @@ _ast_item_address_t ast_datarecord_get_icaoaddr(const _ast_datarecord_t &record)
 
 _ast_time_of_day_t ast_datarecord_get_timeofday(const _ast_datarecord_t &record)
 {
-    constexpr double Day = 86400;
-    constexpr std::uint8_t WholeDayBits = 24;
-    const auto found = findBits(record, ReportField::TimeOfDay);
-    if (!found) {
-        return {};
-    }
-    const ReportPlace &place = *found->place;
-    const double period = place.bits < WholeDayBits ? std::ldexp(place.lsb, place.bits) : Day;
-    return {true, static_cast<double>(found->bits) * place.lsb, period};
+    return timeOf(record, ReportField::TimeOfDay);
+}
+
+_ast_time_of_day_t ast_datarecord_get_positiontime(const _ast_datarecord_t &record)
+{
+    const _ast_time_of_day_t time = timeOf(record, ReportField::PositionTime);
+    return time.present ? time : ast_datarecord_get_timeofday(record);
+}
+
+_ast_altitude_t ast_datarecord_get_geometricaltitude(const _ast_datarecord_t &record)
+{
+    return altitude(record, ReportField::GeometricAltitude);
 }
 
 _ast_item_callsign_t ast_datarecord_get_callsign(const _ast_datarecord_t &record)
