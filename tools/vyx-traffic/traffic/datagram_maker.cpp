@@ -16,8 +16,8 @@ int serviceCategory(const ScenarioRadar &radar)
 } // namespace
 
 DatagramMaker::DatagramMaker(const ScenarioRadar &radar, const QDateTime &startTime)
-    : m_radar(radar), m_clock(startTime), m_service(serviceCategory(radar)), m_targets(TargetWriter::create(radar)),
-      m_packer(LargestRecord)
+    : m_radar(radar), m_clock(startTime.addMSecs(std::llround(radar.errors.timeOffset * 1000))),
+      m_service(serviceCategory(radar)), m_targets(TargetWriter::create(radar)), m_packer(LargestRecord)
 {
 }
 

@@ -2,6 +2,8 @@
 
 #include "traffic/earth.h"
 
+#include "geo/line_of_sight.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -11,6 +13,16 @@ constexpr std::uint64_t FirstNoiseStream = 100;
 constexpr std::uint16_t LastTrackNumber = 4095;
 constexpr int TentativeReports = 2;
 constexpr int TurnRegisterInterval = 3; // every third turn the radar reads BDS 5,0 as well
+
+// Where it was so many seconds ago, as the time of its report says; good for the fraction of a turn that reports wait
+// for the end of their sector.
+Aircraft::State earlier(Aircraft::State state, double seconds)
+{
+    const double metres = state.speed * Earth::MetresPerNauticalMile / 3600 * seconds;
+    Earth::advance(state.latitude, state.longitude, Earth::normalized(state.track + 180), metres);
+    state.altitude -= state.verticalRate / 60 * seconds;
+    return state;
+}
 
 } // namespace
 
@@ -35,6 +47,7 @@ SectorReport RadarModel::enterSector(const AirTraffic &traffic)
     for (const AirTarget &target : traffic.targets()) {
         look(target, report.azimuth, report.time, report.targets);
     }
+    addFalsePlots(report.azimuth, report.time, report.targets);
     std::stable_sort(report.targets.begin(), report.targets.end(),
         [](const TargetReport &a, const TargetReport &b) { return a.time < b.time; });
     if (report.northMarker) {
@@ -55,7 +68,8 @@ void RadarModel::look(const AirTarget &target, double sweepEnd, double now, std:
     if (behind <= 0 || behind > 2 * 360.0 / m_radar.sectors || time < 0) {
         return;
     }
-    const Look look = lookAt(target, azimuth, time);
+    const bool isStamped = m_radar.category != ScenarioRadar::TargetCategory::SirM;
+    const Look look = lookAt(target, isStamped ? earlier(state, now - time) : state, time);
     if (!look.inPrimary && !look.inSecondary && !m_tracks.contains(target.id)) {
         return;
     }
@@ -87,14 +101,21 @@ void RadarModel::look(const AirTarget &target, double sweepEnd, double now, std:
     track.ended = target.endedAt.has_value();
 }
 
-RadarModel::Look RadarModel::lookAt(const AirTarget &target, double azimuth, double time) const
+RadarModel::Look RadarModel::lookAt(const AirTarget &target, const Aircraft::State &state, double time) const
 {
-    const Aircraft::State &state = target.aircraft.state();
     Look look;
     look.time = time;
-    look.azimuth = azimuth;
+    look.azimuth = Earth::bearing(m_radar.latitude, m_radar.longitude, state.latitude, state.longitude);
     look.distance = Earth::distance(m_radar.latitude, m_radar.longitude, state.latitude, state.longitude);
     look.height = state.altitude * Earth::MetresPerFoot - m_radar.antennaAltitude;
+    look.slantRange = std::hypot(look.distance, look.height);
+    if (m_radar.ellipsoid) {
+        const double altitude = state.altitude * Earth::MetresPerFoot;
+        const LineOfSight antenna(m_radar.latitude, m_radar.longitude, m_radar.antennaAltitude);
+        const auto sight = antenna.to(LineOfSight::point(state.latitude, state.longitude, altitude));
+        look.azimuth = sight.azimuth;
+        look.slantRange = sight.range;
+    }
     const double miles = look.distance / Earth::MetresPerNauticalMile;
     const bool visible = !target.flight->vehicle && aboveHorizon(look, state.altitude);
     const bool transponder = target.flight->transponder != ScenarioFlight::Transponder::None;
@@ -178,10 +199,40 @@ TargetReport RadarModel::reportOf(const Track &track, const AirTarget &target, c
 
 void RadarModel::measure(TargetReport &report, const Look &look)
 {
-    const double miles = std::hypot(look.distance, look.height) / Earth::MetresPerNauticalMile;
+    const ScenarioRadarErrors &errors = m_radar.errors;
+    const double metres = look.slantRange * (1 + errors.rangeGain) + errors.rangeBias;
+    const double miles = metres / Earth::MetresPerNauticalMile;
     report.positionValid = true;
     report.slantRange = std::max(miles + m_radar.rangeSigma * m_random.normal(), 0.0);
-    report.azimuth = Earth::normalized(look.azimuth + m_radar.azimuthSigma * m_random.normal());
+    report.azimuth = Earth::normalized(look.azimuth + errors.azimuthBias + m_radar.azimuthSigma * m_random.normal());
+}
+
+// Nothing is drawn for a radar that makes none.
+void RadarModel::addFalsePlots(double sweepEnd, double now, std::vector<TargetReport> &reports)
+{
+    const double mean = m_radar.errors.falsePlots / m_radar.sectors;
+    if (mean <= 0 || now <= 0) {
+        return;
+    }
+    const int count = static_cast<int>(mean) + (m_random.chance(mean - std::floor(mean)) ? 1 : 0);
+    const double sectorTime = m_radar.rotationPeriod / m_radar.sectors;
+    for (int i = 0; i < count; ++i) {
+        const double part = m_random.uniform(); // of the sector that lies behind
+        reports.push_back(
+            falsePlot(Earth::normalized(sweepEnd - part * 360 / m_radar.sectors), now - part * sectorTime));
+    }
+}
+
+TargetReport RadarModel::falsePlot(double azimuth, double time)
+{
+    TargetReport report;
+    report.time = time;
+    report.byPrimary = m_radar.psr;
+    report.bySecondary = !m_radar.psr;
+    report.positionValid = true;
+    report.slantRange = m_random.uniform(1, m_radar.psr ? m_radar.coveragePrimary : m_radar.coverageSecondary);
+    report.azimuth = azimuth;
+    return report;
 }
 
 // Both 4,0 and 6,0 are read in every turn: a display that forgets their values after twelve seconds would blink

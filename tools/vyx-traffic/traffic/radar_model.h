@@ -12,7 +12,7 @@
 // What a radar says about one target in one turn of its antenna.
 struct TargetReport {
     double time = 0; // seconds from the scenario's start
-    std::uint16_t trackNumber = 0;
+    std::uint16_t trackNumber = 0; // 0: a plot that belongs to no track
     bool byPrimary = false; // with neither this nor bySecondary: not detected
     bool bySecondary = false;
     bool byModeS = false; // the secondary detection came from a Mode S roll call
@@ -43,8 +43,9 @@ struct SectorReport {
 
 // A turning antenna with a plot extractor and a tracker behind it.
 //
-// The slant range is the hypotenuse of ground range and height over a flat Earth; the radio horizon takes the Earth
-// with four thirds of its radius. Speed and track are the true ones, as a radar's own tracker has them smoothed.
+// The slant range is the hypotenuse of ground range and height over a flat Earth, or the true one on the ellipsoid; the
+// radio horizon takes the Earth with four thirds of its radius. Speed and track are the true ones, as a radar's own
+// tracker has them smoothed.
 class RadarModel {
 public:
     // index: of the radar in the scenario; gives it a noise of its own.
@@ -66,6 +67,7 @@ private:
         double distance = 0; // metres over ground
         double azimuth = 0;
         double height = 0; // metres above the antenna
+        double slantRange = 0; // metres
         bool inPrimary = false;
         bool inSecondary = false;
     };
@@ -80,7 +82,7 @@ private:
     };
 
     void look(const AirTarget &target, double sweepEnd, double now, std::vector<TargetReport> &reports);
-    Look lookAt(const AirTarget &target, double azimuth, double time) const;
+    Look lookAt(const AirTarget &target, const Aircraft::State &state, double time) const;
     bool aboveHorizon(const Look &look, double altitude) const;
     bool detects(bool inCoverage, const AirTarget &target, double time);
     void missed(Track &track, const AirTarget &target, const Look &look, std::vector<TargetReport> &reports);
@@ -88,6 +90,8 @@ private:
     TargetReport reportOf(const Track &track, const AirTarget &target, const Look &look);
     void measure(TargetReport &report, const Look &look);
     void interrogate(TargetReport &report, const AirTarget &target, const Look &look, int turn) const;
+    void addFalsePlots(double sweepEnd, double now, std::vector<TargetReport> &reports);
+    TargetReport falsePlot(double azimuth, double time);
     void endTrack(Track &track);
     void forgetGone(double now);
 

@@ -22,6 +22,15 @@ struct ScenarioSource {
     int portOffset = 0; // added to the port of the destination
 };
 
+// What a radar that wants adjusting adds to all that it measures.
+struct ScenarioRadarErrors {
+    double rangeBias = 0; // metres
+    double rangeGain = 0; // parts of the range
+    double azimuthBias = 0;
+    double timeOffset = 0; // seconds that its clock is ahead
+    double falsePlots = 0; // a turn, on average
+};
+
 struct ScenarioRadar : ScenarioSource {
     enum class TargetCategory { Cat001, Cat048, SirM }; // the first two with service messages in CAT002 and CAT034
 
@@ -39,6 +48,8 @@ struct ScenarioRadar : ScenarioSource {
     bool horizon = true; // targets below the radio horizon are not seen
     double minimumElevation = -90;
     int missesToDrop = 3; // looks in a row without detection after which the radar ends its track
+    ScenarioRadarErrors errors;
+    bool ellipsoid = false; // measures on WGS-84 rather than on the sphere that plots are put back on
 };
 
 struct ScenarioAdsb : ScenarioSource {

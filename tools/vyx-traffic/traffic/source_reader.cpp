@@ -94,7 +94,22 @@ void SourceReader::readRadar(JsonObjectReader &reader)
     radar.horizon = reader.flag("horizon", true);
     radar.minimumElevation = reader.number("minimumElevation", {-90, 90}, -90);
     radar.missesToDrop = reader.integer("missesToDrop", {1, 100}, radar.missesToDrop);
+    radar.ellipsoid = reader.flag("ellipsoid", false);
+    readErrors(reader, radar);
     m_scenario.radars.push_back(radar);
+}
+
+void SourceReader::readErrors(JsonObjectReader &reader, ScenarioRadar &radar) const
+{
+    ScenarioRadarErrors &errors = radar.errors;
+    errors.rangeBias = reader.number("rangeBias", {-5000, 5000}, 0);
+    errors.rangeGain = reader.number("rangeGain", {-0.05, 0.05}, 0);
+    errors.azimuthBias = reader.number("azimuthBias", {-10, 10}, 0);
+    errors.timeOffset = reader.number("timeOffset", {-60, 60}, 0);
+    errors.falsePlots = reader.number("falsePlots", {0, 10000}, 0);
+    if (errors.falsePlots > 0 && radar.category != Category::Cat048) {
+        reader.fail("falsePlots", tr("needs category 048: the others report tracks"));
+    }
 }
 
 void SourceReader::readAdsb(JsonObjectReader &reader)

@@ -25,6 +25,7 @@ public:
 
 private:
     void readRadar(JsonObjectReader &reader);
+    void readErrors(JsonObjectReader &reader, ScenarioRadar &radar) const;
     void readAdsb(JsonObjectReader &reader);
     void readModeSReceiver(JsonObjectReader &reader);
     void readMlat(JsonObjectReader &reader);

@@ -52,13 +52,17 @@ void Cat048Writer::write(const TargetReport &report, double secondsOfDay)
     m_encoder.setRaw(m_type, static_cast<std::uint64_t>(report.byModeS && report.bySecondary ? rollCall : detection));
     m_encoder.setRaw(m_simulated, 1);
     writePosition(report, 256);
-    writeVelocity(report);
+    if (report.trackNumber != 0) {
+        writeVelocity(report);
+    }
     writeCodes(report);
     if (report.byModeS) {
         writeModeS(report);
     }
-    m_encoder.setRaw(m_trackNumber, report.trackNumber);
-    writeStatus(report);
+    if (report.trackNumber != 0) {
+        m_encoder.setRaw(m_trackNumber, report.trackNumber);
+        writeStatus(report);
+    }
     m_encoder.endRecord();
 }
 
