@@ -96,7 +96,7 @@ private Q_SLOTS:
         good({"decode", "--expand", "FILE"}, Verb::Decode);
         good({"encode", "-", "-o", "OUT"}, Verb::Encode);
         good({"doctor", "FILE", "--json"}, Verb::Doctor);
-        bad({}, "decode, encode, stat or doctor");
+        bad({}, "decode, encode, stat, doctor or assess");
         bad({"decode", "A", "B"}, "one argument too many");
         bad({"decode", "--uap"}, "needs a value");
         bad({"decode", "--uap", "48", "FILE"}, "CATEGORY=EDITION");

@@ -28,14 +28,70 @@ bool parseEdition(const std::string &text, CommandLine &out, std::string &error)
 bool parseVerb(const std::string &text, CommandLine::Verb &verb)
 {
     using Verb = CommandLine::Verb;
-    for (const auto &[name, value] : {std::pair{"decode", Verb::Decode}, {"encode", Verb::Encode}, {"stat", Verb::Stat},
-             {"doctor", Verb::Doctor}, {"--help", Verb::Help}, {"-h", Verb::Help}, {"--version", Verb::Version}}) {
+    for (const auto &[name, value] :
+        {std::pair{"decode", Verb::Decode}, {"encode", Verb::Encode}, {"stat", Verb::Stat}, {"doctor", Verb::Doctor},
+            {"assess", Verb::Assess}, {"--help", Verb::Help}, {"-h", Verb::Help}, {"--version", Verb::Version}}) {
         if (text == name) {
             verb = value;
             return true;
         }
     }
     return false;
+}
+
+bool parseSensor(const std::string &text, CommandLine &out, std::string &error)
+{
+    int sac = -1;
+    int sic = -1;
+    const char *const end = text.data() + text.size();
+    const char *const slash = std::from_chars(text.data(), end, sac).ptr;
+    const bool isSplit = slash != end && *slash == '/';
+    if (!isSplit || std::from_chars(slash + 1, end, sic).ptr != end || sac < 0 || sac > 255 || sic < 0 || sic > 255) {
+        error = "--sensor takes SAC/SIC, such as 25/11, not \"" + text + "\"";
+        return false;
+    }
+    out.assess.sensors.push_back(sac * 256 + sic);
+    return true;
+}
+
+bool parseSite(const std::string &text, CommandLine &out, std::string &error)
+{
+    const char *at = text.data();
+    const char *const end = at + text.size();
+    int count = 0;
+    while (count < 3 && at != end) {
+        const auto [next, fault] = std::from_chars(at, end, out.assess.site[count]);
+        if (fault != std::errc() || (next != end && *next != ',')) {
+            break;
+        }
+        ++count;
+        at = next == end ? end : next + 1;
+    }
+    const auto &[latitude, longitude, height] = out.assess.site;
+    out.assess.isSiteGiven = count >= 2 && at == end && latitude >= -90 && latitude <= 90 && longitude >= -180
+        && longitude <= 180 && height >= -1000 && height <= 10000;
+    if (!out.assess.isSiteGiven) {
+        error = "--site takes LATITUDE,LONGITUDE[,METRES] in degrees, such as 40.05,116.73,45, not \"" + text + "\"";
+    }
+    return out.assess.isSiteGiven;
+}
+
+bool takesValue(const std::string &argument, CommandLine::Verb verb)
+{
+    const bool isOfAssess = argument == "--sensor" || argument == "--site" || argument == "--report";
+    return argument == "--uap" || argument == "-o" || (isOfAssess && verb == CommandLine::Verb::Assess);
+}
+
+bool parseAssessValue(const std::string &option, const std::string &value, CommandLine &out, std::string &error)
+{
+    if (option == "--sensor") {
+        return parseSensor(value, out, error);
+    }
+    if (option == "--site") {
+        return parseSite(value, out, error);
+    }
+    out.assess.reportName = value;
+    return true;
 }
 
 bool isHelp(const std::string &argument)
@@ -48,23 +104,32 @@ bool isInformation(CommandLine::Verb verb)
     return verb == CommandLine::Verb::Help || verb == CommandLine::Verb::Version;
 }
 
+// Commands that find out editions by themselves and can print an object.
+bool choosesItself(CommandLine::Verb verb)
+{
+    return verb == CommandLine::Verb::Doctor || verb == CommandLine::Verb::Assess;
+}
+
 // The argument at index, and the value that follows it where it takes one.
 bool parseArgument(const std::vector<std::string> &arguments, std::size_t &index, CommandLine &out, std::string &error)
 {
     const std::string &argument = arguments[index];
-    const bool takesValue = argument == "--uap" || argument == "-o";
-    if (takesValue && index + 1 == arguments.size()) {
+    const bool isAssessing = out.verb == CommandLine::Verb::Assess;
+    if (takesValue(argument, out.verb) && index + 1 == arguments.size()) {
         error = argument + " needs a value";
         return false;
     }
-    if (argument == "--uap" && out.verb != CommandLine::Verb::Doctor) {
+    if (isAssessing && takesValue(argument, out.verb) && argument != "-o" && argument != "--uap") {
+        return parseAssessValue(argument, arguments[++index], out, error);
+    }
+    if (argument == "--uap" && !choosesItself(out.verb)) {
         return parseEdition(arguments[++index], out, error);
     }
     if (argument == "-o" && out.verb == CommandLine::Verb::Encode) {
         out.outputName = arguments[++index];
     } else if (argument == "--expand" && out.verb == CommandLine::Verb::Decode) {
         out.isExpanding = true;
-    } else if (argument == "--json" && out.verb == CommandLine::Verb::Doctor) {
+    } else if (argument == "--json" && choosesItself(out.verb)) {
         out.isJson = true;
     } else if (argument.size() > 1 && argument.front() == '-') {
         error = "unknown option \"" + argument + "\"";
@@ -84,7 +149,7 @@ bool CommandLine::parse(const std::vector<std::string> &arguments, CommandLine &
 {
     out = {};
     if (arguments.empty() || !parseVerb(arguments.front(), out.verb)) {
-        error = arguments.empty() ? "decode, encode, stat or doctor? Try --help"
+        error = arguments.empty() ? "decode, encode, stat, doctor or assess? Try --help"
                                   : "unknown command \"" + arguments.front() + "\"; try --help";
         return false;
     }
@@ -99,6 +164,10 @@ bool CommandLine::parse(const std::vector<std::string> &arguments, CommandLine &
     }
     if (out.fileName.empty() && !isInformation(out.verb)) {
         error = arguments.front() + " needs a file";
+        return false;
+    }
+    if (out.assess.isSiteGiven && out.assess.sensors.size() != 1) {
+        error = "--site needs one --sensor, which stands there";
         return false;
     }
     return true;
@@ -124,6 +193,12 @@ const char *CommandLine::helpText()
         octets that a recorder appended. Each line begins with "fine", "note" or "wrong"; "play" is how the terminal
         plays it. Looks at the first 16 MiB of messages. --json: one object with "wrong", "remarks" (of "level",
         "topic", "sentence", "evidence", "source", "category") and "sources" with the counts behind them.
+  vyx-asterix assess [--sensor SAC/SIC]... [--site LAT,LON[,METRES]] [--json] [--report OUT.html|OUT.pdf] FILE
+        How good the radars of a recording are (CAT001, CAT002, CAT034, CAT048): rotation, delays, probability of
+        detection, false plots, and, against ADS-B (CAT021) and system tracks (CAT062) of the same recording, bias and
+        gain of range, bias of azimuth, and time offset, with 95 % confidence. --sensor chooses radars, --site says
+        where the chosen one stands if it does not say so itself (I034/120). The report has charts beside the tables.
+        Ctrl-C ends the reading; what was read until then is told.
   vyx-asterix --help | --version
 
 FILE holds data blocks back to back, or is a network capture, which its first octets tell; "-" is standard input for

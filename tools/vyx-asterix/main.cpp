@@ -1,9 +1,12 @@
+#include "vyx-asterix/assess_command.h"
 #include "vyx-asterix/decode_command.h"
 #include "vyx-asterix/doctor_command.h"
 #include "vyx-asterix/encode_command.h"
 #include "vyx-asterix/stat_command.h"
 
+#include <atomic>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
@@ -42,6 +45,24 @@ int openOutput(const CommandLine &command)
     return descriptor;
 }
 
+std::atomic<bool> stopRequested{false};
+static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler sets it");
+
+void requestStop(int)
+{
+    stopRequested = true;
+}
+
+// The second Ctrl-C ends the program as any other.
+int runInterruptibly(const CommandLine &command, const TextSink &out)
+{
+    struct sigaction action = {};
+    action.sa_handler = requestStop;
+    action.sa_flags = static_cast<int>(SA_RESETHAND);
+    ::sigaction(SIGINT, &action, nullptr);
+    return runAssess(command, out, printLine, stopRequested);
+}
+
 int run(const CommandLine &command)
 {
     const int descriptor = openOutput(command);
@@ -58,6 +79,8 @@ int run(const CommandLine &command)
         return runStat(command, out, printLine);
     case CommandLine::Verb::Doctor:
         return runDoctor(command, out, printLine);
+    case CommandLine::Verb::Assess:
+        return runInterruptibly(command, out);
     case CommandLine::Verb::Version:
         return out("vyx-asterix " VYX_VERSION "\n") ? 0 : 1;
     default:
