@@ -10,6 +10,7 @@ namespace {
 
 constexpr int ExtendedSquitter = 17;
 constexpr int ExtendedSquitterRelayed = 18;
+constexpr int ModeAcOctets = 2; // of a reply to a Mode A/C interrogation
 
 } // namespace
 
@@ -46,6 +47,11 @@ qint64 ModeSHypothesis::octetsOf(const ModeSFrame &frame) const
 
 void ModeSHypothesis::addFrame(const ModeSFrame &frame)
 {
+    if (frame.length == ModeAcOctets) {
+        ++m_counts.modeAcReplies;
+        m_explained += octetsOf(frame);
+        return;
+    }
     m_decoder.decode(ModeSMessage::AnyDownlink, frame, m_message);
     if (!m_message.valid()) {
         return;

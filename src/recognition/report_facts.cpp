@@ -189,9 +189,9 @@ ReportFacts ReportFacts::of(int category, const _ast_datarecord_t &record)
     }
 }
 
-bool ReportFacts::trackable(int category) const
+bool ReportFacts::trackable(SensorType tracker) const
 {
-    switch (sensorTypeOf(category)) {
+    switch (tracker) {
     case RadarSensor:
         return (trackNumber || address) && (polar || cartesian);
     case AdsbSensor:

@@ -34,11 +34,12 @@ struct ReportFacts {
 
     static ReportFacts of(int category, const _ast_datarecord_t &record);
 
-    // Whether the category's tracker makes a track of it.
-    bool trackable(int category) const;
+    // Whether the tracker of that kind of sensor makes a track of it.
+    bool trackable(SensorType tracker) const;
 };
 
-// The sensor whose tracker reads the category; UnknownSensor for those of no tracker.
+// The sensor that sends the category; UnknownSensor for those of no tracker. Multilateration of airports sends category
+// 10 as surface movement radars do, for which it is taken here.
 SensorType sensorTypeOf(int category);
 // Whether the category is for reports of targets, rather than for the state of their source.
 bool isTargetCategory(int category);

@@ -12,6 +12,9 @@ namespace {
 // The one category of which several editions are about.
 constexpr int CategoryOfEditions = 21;
 
+// The one category that sensors of two kinds send.
+constexpr int SurfaceCategory = 10;
+
 // Within them a flat map and a round Earth are near enough to each other to tell where the source's origin is.
 constexpr double FarthestForSite = 60000.0; // metres
 constexpr double LargestSiteSpread = 1000.0; // metres
@@ -34,7 +37,8 @@ void SourceTally::addRecord(const _ast_datarecord_t &record, int category, std::
     const ReportFacts facts = ReportFacts::of(category, record);
     if (facts.isTarget) {
         addTarget(tally.counts, facts, timeMs);
-        tally.counts.trackable += facts.trackable(category);
+        tally.counts.trackable += facts.trackable(sensorTypeOf(category));
+        tally.surfaceTracks += category == SurfaceCategory && facts.trackable(MlatSensor);
     } else {
         addAntenna(facts, timeMs);
     }
@@ -133,6 +137,13 @@ void SourceTally::reportEditions(const Category &tally, CategoryFindings *catego
         [worth](const EditionFindings &a, const EditionFindings &b) { return worth(a) > worth(b); });
 }
 
+// Radars measure in polar coordinates. Where these are few beside other positions, the reports are of receivers that
+// hear transponders, or of both kinds, and more of them is seen so.
+bool SourceTally::isMultilateration(const Category &tally)
+{
+    return tally.surfaceTracks > 2 * tally.counts.trackable;
+}
+
 SourceFindings SourceTally::findings() const
 {
     SourceFindings findings;
@@ -140,6 +151,8 @@ SourceFindings SourceTally::findings() const
         CategoryFindings category = tally.counts;
         category.category = number;
         category.editionChosen = number == CategoryOfEditions;
+        category.multilateration = isMultilateration(tally);
+        category.trackable = category.multilateration ? tally.surfaceTracks : category.trackable;
         reportEditions(tally, &category);
         findings.categories += category;
     }

@@ -30,9 +30,11 @@ private:
         CategoryFindings counts;
         std::map<std::string_view, qint64> editions; // records by edition
         std::vector<EditionFindings> judged; // in the order of the library
+        qint64 surfaceTracks = 0; // of category 10, those of which a multilateration tracker makes a track
     };
 
     static void reportEditions(const Category &tally, CategoryFindings *category);
+    static bool isMultilateration(const Category &tally);
     void addTarget(CategoryFindings &counts, const ReportFacts &facts, std::optional<qint64> timeMs);
     void addSiteFrom(const ReportFacts::Wgs84 &place, const ReportFacts::Offset &offset);
     void addAntenna(const ReportFacts &facts, std::optional<qint64> timeMs);

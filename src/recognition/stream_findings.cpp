@@ -155,6 +155,9 @@ QString modeSText(const StreamFindings &findings)
     if (modeS.area.positions > 0) {
         parts += placeText(modeS.area);
     }
+    if (modeS.modeAcReplies > 0) {
+        parts += tr("%1 Mode A/C replies").arg(number(modeS.modeAcReplies));
+    }
     return parts.join(QStringLiteral(", "));
 }
 
@@ -197,7 +200,7 @@ QString envelopeText(const StreamFindings &findings)
 
 SensorType CategoryFindings::sensorType() const
 {
-    return sensorTypeOf(category);
+    return multilateration ? MlatSensor : sensorTypeOf(category);
 }
 
 bool CategoryFindings::reportsTargets() const

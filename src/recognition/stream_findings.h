@@ -55,6 +55,7 @@ struct CategoryFindings {
     qint64 wgs84Positions = 0;
     // Records of which the tracker for this category makes a track: they say who and where.
     qint64 trackable = 0;
+    bool multilateration = false; // of category 10, which surface movement radars send as well
 
     // The sensor whose tracker reads the category; UnknownSensor for alerts, weather, video and what is not used.
     SensorType sensorType() const;
@@ -91,6 +92,7 @@ struct SourceFindings {
 struct ModeSFindings {
     qint64 frames = 0; // valid ones
     qint64 squitters = 0; // of them, extended squitters
+    qint64 modeAcReplies = 0; // to interrogations of Mode A or C, beside the frames; nobody can tell whose they are
     qint64 aircraft = 0; // addresses that send extended squitters
     PositionArea area;
 };

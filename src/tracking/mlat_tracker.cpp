@@ -11,6 +11,7 @@ namespace {
 constexpr qint64 DownlinkLifeSpan = 4000; // milliseconds that a value from a Mode S register stays valid
 constexpr double FeetPerLevel = 100.0;
 constexpr double ReportPeriod = 1.0; // seconds
+constexpr unsigned char TargetReport = 1; // of the message types of category 10
 constexpr int CertainContradictions = 10; // more of them than jitter of the levels would give
 
 Track::State stateOf(const _ast_datarecord_020_t &record)
@@ -26,6 +27,60 @@ Track::State stateOf(const _ast_datarecord_020_t &record)
         return Track::Coasting;
     }
     return status.tre ? Track::Terminated : Track::Confirmed;
+}
+
+Track::State stateOf(const _ast_datarecord_010_t &record)
+{
+    const auto &status = record.i170;
+    if (!status.present) {
+        return Track::Confirmed;
+    }
+    if (status.cnf) {
+        return Track::Tentative;
+    }
+    if (status.cst != 0) {
+        return Track::Coasting;
+    }
+    return status.tre ? Track::Terminated : Track::Confirmed;
+}
+
+const _ast_item_mode3a_t &modeAOf(const _ast_datarecord_020_t &record)
+{
+    return record.i070;
+}
+
+const _ast_item_mode3a_t &modeAOf(const _ast_datarecord_010_t &record)
+{
+    return record.i060;
+}
+
+bool isSpi(const _ast_datarecord_020_t &record)
+{
+    return record.i020.spi || (record.i230.present && reports::isSpi(record.i230.stat));
+}
+
+bool isSpi(const _ast_datarecord_010_t &record)
+{
+    return record.i020.spi;
+}
+
+std::optional<int> levelOf(const _ast_datarecord_010_t &record)
+{
+    constexpr int FeetPerQuarterLevel = 25;
+    return record.i090.present ? std::optional(record.i090.level * FeetPerQuarterLevel) : std::nullopt;
+}
+
+// The items by which a report names its track.
+QString missingItems(const _ast_datarecord_020_t &)
+{
+    return MlatTracker::tr("MLAT Tracker: CAT020 message has neither valid track number (I020/161) nor valid Mode-S "
+                           "address (I020/220), ignore.");
+}
+
+QString missingItems(const _ast_datarecord_010_t &)
+{
+    return MlatTracker::tr("MLAT Tracker: CAT010 message has neither valid track number (I010/161) nor valid Mode-S "
+                           "address (I010/220), ignore.");
 }
 
 std::optional<int> levelOf(const _ast_datarecord_020_t &record)
@@ -55,17 +110,32 @@ void MlatTracker::procAsterixMessage(const _ast_datablock_t &block)
     if (!block.valid) {
         return;
     }
-    if (block.category != 20) {
+    if (block.category == 20) {
+        takeEach<_ast_datarecord_020_t>(block, ast_datarecord_020_disassemble, [this](auto &record) {
+            applyOptions(record.i041, record.i042);
+            return procTargetReport(record);
+        });
+    } else if (block.category == 10) {
+        takeEach<_ast_datarecord_010_t>(block, ast_datarecord_010_disassemble, [this](auto &record) {
+            applyOptions(record.i041, record.i042);
+            return procCat010Message(record);
+        });
+    } else {
         refuse(block);
-        return;
     }
-    takeEach<_ast_datarecord_020_t>(block, ast_datarecord_020_disassemble, [this](auto &record) {
-        applyOptions(record.i041, record.i042);
-        return procCat020Message(record);
-    });
 }
 
-Tracker::Taken MlatTracker::procCat020Message(const _ast_datarecord_020_t &record)
+// Beside target reports there are messages about the system itself.
+Tracker::Taken MlatTracker::procCat010Message(const _ast_datarecord_010_t &record)
+{
+    if (record.i000.present && record.i000.type != TargetReport) {
+        return {ReportOutcome::SourceStatus};
+    }
+    return procTargetReport(record);
+}
+
+template <typename Record>
+Tracker::Taken MlatTracker::procTargetReport(const Record &record)
 {
     const auto now = trackManager().now();
     const auto plane = planePosition(record.i041, record.i042);
@@ -75,10 +145,7 @@ Tracker::Taken MlatTracker::procCat020Message(const _ast_datarecord_020_t &recor
     }
     const auto identity = identityOf(record);
     if (!identity.usable()) {
-        debug([] {
-            return tr("MLAT Tracker: CAT020 message has neither valid track number (I020/161) nor valid Mode-S address "
-                      "(I020/220), ignore.");
-        });
+        debug([&record] { return missingItems(record); });
         return takenAsPlot(place, record.i020.tst);
     }
     const auto track = associate(identity, now);
@@ -90,7 +157,8 @@ Tracker::Taken MlatTracker::procCat020Message(const _ast_datarecord_020_t &recor
     return takenBy(*track, identity, place);
 }
 
-Tracker::Identity MlatTracker::identityOf(const _ast_datarecord_020_t &record)
+template <typename Record>
+Tracker::Identity MlatTracker::identityOf(const Record &record)
 {
     Identity identity;
     if (record.i161.present) {
@@ -103,28 +171,34 @@ Tracker::Identity MlatTracker::identityOf(const _ast_datarecord_020_t &record)
     return identity;
 }
 
-void MlatTracker::takeReport(Track &track, const _ast_datarecord_020_t &record, const QDateTime &now)
+template <typename Record>
+void MlatTracker::takeReport(Track &track, const Record &record, const QDateTime &now)
 {
     track.setType(Track::Mlat);
     track.setState(stateOf(record));
     if (record.i245.present) {
         reports::setCallsign(track, record.i245.text);
     }
-    reports::setModeA(track, record.i070);
-    track.setSpi(record.i020.spi || (record.i230.present && reports::isSpi(record.i230.stat)));
-    const bool levelKnown = track.levelValid();
-    const int previousLevel = track.level();
+    reports::setModeA(track, modeAOf(record));
+    track.setSpi(isSpi(record));
+    const std::optional<int> previousLevel = track.levelValid() ? std::optional(track.level()) : std::nullopt;
     reports::setLevel(track, levelOf(record));
     reports::setSelectedAltitude(track, reports::selectedAltitude(record.i250), now, DownlinkLifeSpan);
     reports::setVerticalRate(track, reports::verticalRate(record.i250), now, DownlinkLifeSpan);
-    if (record.i170.present) {
-        track.setVerticalTrend(trendOf(record.i170.cdm));
-        if (levelKnown && track.levelValid()) {
-            compareTrend(track, track.level() - previousLevel, record.i010);
-        }
-    }
+    takeTrend(track, record, previousLevel);
     reports::setVelocityFromComponents(track, record.i202.present, record.i202.vx, record.i202.vy);
     track.recordHistory(now);
+}
+
+void MlatTracker::takeTrend(Track &track, const _ast_datarecord_020_t &record, std::optional<int> previousLevel)
+{
+    if (!record.i170.present) {
+        return;
+    }
+    track.setVerticalTrend(trendOf(record.i170.cdm));
+    if (previousLevel && track.levelValid()) {
+        compareTrend(track, track.level() - *previousLevel, record.i010);
+    }
 }
 
 // A source that counts its trends in another order shows climbing targets as descending, and the reverse.

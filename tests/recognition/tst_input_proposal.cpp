@@ -55,6 +55,11 @@ private Q_SLOTS:
         row("ADS-B before multilateration", {mlat, mlat, adsb}, "adsb 25/8", false);
         row("several ADS-B stations together", {adsb, "[25/6] " + adsb.mid(7)}, "adsb 25/6", false);
         row("multilateration before radars", {plot, plot, mlat}, "mlat 25/7", false);
+        const QString surface = "[25/5] 10 000=1 161/TRK=5 040/RHO=800 040/TH=90 042/X=800";
+        const QString airport = "[25/5] 10 000=1 220=0x400123 041/LAT=50 041/LON=8";
+        row("surface movement radar", {surface, surface, airport, "[25/5] 10 000=4"}, "smr 25/5", false);
+        row("multilateration of an airport", {airport, "[25/5] 10 000=4", surface, airport, airport}, "mlat 25/5",
+            false);
         row("of radars the one with most", {plot, "[25/2] " + plot, "[25/2] " + plot, "[25/3] " + plot}, "radar 25/2",
             true);
         row("tracks before plots", {"[25/2] 48 040/RHO=5", "[25/2] 48 040/RHO=5", plot}, "radar 25/0", true);
@@ -153,7 +158,8 @@ private Q_SLOTS:
         row("48 040/RHO=5", false, "no track numbers");
         row("48 040/RHO=5\n8 000=254", true, "no track numbers");
         row("34 000=1", false, "no reports of targets");
-        row("10 000=1 161/TRK=5 042/X=80 042/Y=90", false, "I010/040");
+        row("10 000=1 161/TRK=5 042/X=80 042/Y=90", true, "");
+        row("10 000=1 161/TRK=5", false, "I010/040");
         row("21 080=0x400123 073=100 040/ATP=0", false, "WGS-84");
         row("62 040=9", false, "an identity and a position");
         row("4 000=1 020=100", true, "no reports of targets");

@@ -233,10 +233,12 @@ private Q_SLOTS:
         // Cut where no frame ends, as serial lines do.
         const QByteArray octets = squitters(ModeSEncapsulation::Beast, 40);
         frames.add(octets.left(100));
-        frames.add(octets.mid(100));
+        frames.add(octets.mid(100) + QByteArray::fromHex("1a31000000000001800e55").repeated(3)); // Mode A/C replies
         const ModeSFindings modeS = frames.findings().modeS;
         QCOMPARE(modeS.frames, 40);
         QCOMPARE(modeS.squitters, 40);
+        QCOMPARE(modeS.modeAcReplies, 3);
+        QCOMPARE(frames.findings().undecodableOctets, 0);
         QCOMPARE(modeS.aircraft, 1);
         QVERIFY(modeS.area.center.distanceTo(GeoCoordinate(50, 8)) < 100);
         QVERIFY(modeS.area.positions >= 39);

@@ -166,6 +166,39 @@ private Q_SLOTS:
         QCOMPARE(shown(rig, expected), QString(expected));
     }
 
+    // Of airports, where category 10 is not a radar's.
+    void multilaterationInCategory10_data()
+    {
+        QTest::addColumn<QString>("reports");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *name, const char *reports, const char *expected) {
+            QTest::newRow(name) << reports << expected;
+        };
+        row("all fields",
+            "000=1 161/TRK=7 220=0x4b1a2c 245/CHR=VYX12 041/LAT=50.625 041/LON=8.4375 060/MODE3A=07421 "
+            "090/FL=101.25 202/VX=-50 202/VY=-50 bds40=750/- bds60=-7/-",
+            "tracks 1, type 7, state 1, address 4B1A2C, call VYX12, code 7421, lat 50.62500, lon 8.43750, x 939258, "
+            "y 6522177, level 10125, selected 12000, rate -224, trend 3, speed 137.5, heading 225.0, dots 1");
+        row("plane", "161/TRK=7 042/X=1000 042/Y=-2000", "lat 49.98842, lon 8.00898, x 891556, y 6411525");
+        row("known by its address", "220=99; @1 161/TRK=7 220=99", "tracks 1, address 000063");
+        row("tentative", "161/TRK=7 170/CNF=1 170/CST=1", "state 0");
+        row("coasting, in a masked area", "161/TRK=7 170/CST=2", "state 2");
+        row("end of track", "161/TRK=7 170/TRE=1", "state 3");
+        row("level and velocity end", "161/TRK=7 090/FL=10 202/VX=9; 161/TRK=7", "level -, speed -");
+        row("polar positions are the radar's", "161/TRK=7 040/RHO=3000", "tracks 1, lat -");
+        row("messages of the system about itself", "000=4 161/TRK=7 041/LAT=50", "tracks 0");
+        row("names no track", "161/TRK=0 041/LAT=50", "tracks 0");
+    }
+
+    void multilaterationInCategory10()
+    {
+        QFETCH(QString, reports);
+        QFETCH(QString, expected);
+        TrackerRig rig(MlatSensor);
+        rig.send(10, reports);
+        QCOMPARE(shown(rig, expected), expected);
+    }
+
     void reportsThatNameNoTrack()
     {
         const std::tuple<int, const char *, const char *> unnamed[]{
