@@ -1,11 +1,13 @@
 #include "asterix/asterix.h"
 #include "asterix/encoder.h"
 #include "asterix/profile.h"
+#include "asterix/report_time.h"
 #include "octets.h"
 #include "test_program.h"
 
 #include <QTest>
 
+#include <tuple>
 #include <utility>
 
 namespace {
@@ -208,6 +210,26 @@ private Q_SLOTS:
         QTEST(heading.trackAngleAvailable, "track");
         QTEST(heading.magneticHeadingAvailable, "magnetic");
         QTEST(heading.heading, "heading");
+    }
+
+    // Wherever a category has its time of day; CAT001's begins anew every 512 seconds.
+    void readsTheTimeOfDay()
+    {
+        const std::tuple<int, const char *, const char *> places[]{{1, nullptr, "141"}, {2, nullptr, "030"},
+            {4, nullptr, "020"}, {8, nullptr, "090"}, {10, nullptr, "140"}, {19, nullptr, "140"}, {20, nullptr, "140"},
+            {21, "0.23", "030"}, {21, "0.26", "030"}, {21, "2.1", "073"}, {21, "2.7", "077"}, {23, nullptr, "070"},
+            {34, nullptr, "030"}, {48, nullptr, "140"}, {62, nullptr, "070"}, {63, nullptr, "030"},
+            {65, nullptr, "030"}, {240, nullptr, "140"}};
+        for (const auto &[category, edition, path] : places) {
+            const Octets octets(encode(category, edition, {{path, 500.25}}));
+            const Decoded decoded(octets, category, edition);
+            QVERIFY2(decoded.isGood(), path);
+            const auto time = ast_datarecord_get_timeofday(decoded.record());
+            QVERIFY2(time.present && time.seconds == 500.25, qPrintable(QString::number(category)));
+            QCOMPARE(time.period, category == 1 ? 512.0 : 86400.0);
+        }
+        const Octets without(encode(48, nullptr, {{"161/TRN", 7}}));
+        QVERIFY(!ast_datarecord_get_timeofday(Decoded(without, 48, nullptr).record()).present);
     }
 };
 
