@@ -29,15 +29,24 @@ const _ast_uap_t *configuredUap(int selector)
     return selector >= 0 && index < profiles.size() ? profiles[index] : nullptr;
 }
 
-bool isTrackerCategory(std::uint32_t category)
-{
-    constexpr std::array Categories = {1U, 2U, 10U, 20U, 21U, 34U, 48U, 62U};
-    return std::find(Categories.begin(), Categories.end(), category) != Categories.end();
-}
-
 bool hasReader(std::uint32_t category)
 {
-    return isTrackerCategory(category) || category == 4 || category == 8 || category == 240;
+    switch (category) {
+    case 1:
+    case 2:
+    case 4:
+    case 8:
+    case 10:
+    case 20:
+    case 21:
+    case 34:
+    case 48:
+    case 62:
+    case 240:
+        return true;
+    default:
+        return false;
+    }
 }
 
 ReportOutcome outcomeOf(ModeSMessage::Fault fault)

@@ -121,7 +121,13 @@ void SourceMonitor::restart(double reportPeriod)
     m_last = nullptr;
     m_lastUap = nullptr;
     m_nowMs = m_clock ? m_clock->nowMs() : 0;
-    m_second = m_nowMs / 1000;
+    setSecond(m_nowMs / 1000);
+}
+
+void SourceMonitor::setSecond(qint64 second)
+{
+    m_second = second;
+    m_bucket = second / SourceStatistics::BucketSeconds;
 }
 
 void SourceMonitor::advance()
@@ -133,7 +139,7 @@ void SourceMonitor::advance()
     } else if (passed < 0) {
         // Another time has begun: a recording's.
         std::for_each(m_sources.begin(), m_sources.end(), [](const auto &source) { source->forgetTime(); });
-        m_second += passed;
+        setSecond(m_second + passed);
     }
 }
 
@@ -149,7 +155,7 @@ void SourceMonitor::endSecond(qint64 passed)
             source->seconds[indexOf(m_second + i)] = 0;
         }
     }
-    m_second += passed;
+    setSecond(m_second + passed);
 }
 
 void SourceMonitor::take(const TakenReport &report)
@@ -249,7 +255,7 @@ SourceMonitor::Source *SourceMonitor::makeRoom()
         const auto weight = [](const Source &source) {
             return std::pair(source.values.records, source.values.lastArrivalMs);
         };
-        if (!m_sources[i]->isRegular(bucket())
+        if (!m_sources[i]->isRegular(m_bucket)
             && (victim == m_sources.size() || weight(*m_sources[i]) < weight(*m_sources[victim]))) {
             victim = i;
         }
@@ -296,7 +302,7 @@ void SourceMonitor::beginIn(Source &source, const TakenReport &report)
     ++source.values.blocks;
     source.values.octets += std::exchange(m_blockOctets, 0);
     source.values.lastArrivalMs = m_nowMs;
-    source.buckets += std::exchange(source.lastBucket, bucket()) != bucket() ? 1 : 0;
+    source.buckets += std::exchange(source.lastBucket, m_bucket) != m_bucket ? 1 : 0;
     if (source.lastMessage != m_totals.messages) {
         source.lastMessage = m_totals.messages;
         ++source.values.datagrams;

@@ -98,7 +98,7 @@ private:
     static void measureVideo(Source &source, const TakenReport &report);
     void keepExample(Source &source, const TakenReport &report) const;
     void endSecond(qint64 passed);
-    qint64 bucket() const { return m_second / SourceStatistics::BucketSeconds; }
+    void setSecond(qint64 second);
     void addRates(SourceStatistics &values, const Source &source) const;
     double expectedInterval(const SourceStatistics &values) const;
 
@@ -107,6 +107,7 @@ private:
     InputStatistics m_totals; // without sources
     qint64 m_nowMs = 0;
     qint64 m_second = 0; // the one under way, since 1970
+    qint64 m_bucket = 0; // the stretch of ten of them under way
     int m_endpoint = 0;
     quint64 m_block = 0;
     std::size_t m_blockOctets = 0;
