@@ -47,7 +47,7 @@ Tracker::Taken SmrTracker::procCat010Message(const _ast_datarecord_010_t &record
     if (!record.i161.present) {
         debug([] { return tr("SMR Tracker: CAT010 message has no valid track number (I010/161), ignore."); });
         const bool isTarget = !record.i000.present || record.i000.type == TargetReport;
-        return isTarget || place ? takenAsPlot(place, record.i020.tst) : Taken{ReportOutcome::NoReader};
+        return isTarget || place ? takenAsPlot(place, record.i020.tst) : Taken{ReportOutcome::SourceStatus};
     }
     const Identity identity{record.i161.trackNumber, {}, 0.0};
     if (!record.i040.present) {
