@@ -113,8 +113,10 @@ void GeoTileMap::followDensity(double devicePixelRatio)
     QMetaObject::invokeMethod(this, &GeoTileMap::sendRequest, Qt::QueuedConnection);
 }
 
+// Nobody is named for what is not there: without consent, network or key there is no tile.
 void GeoTileMap::placeTexts(const GeoView &view, TextRoom &room)
 {
+    m_attribution.setShown(m_cells.showAnything());
     m_attribution.place(view, room);
 }
 
@@ -159,6 +161,9 @@ void GeoTileMap::paint(QPainter &painter, const GeoView &view)
             onPicture.setClipRect(part);
             m_rows.paint(onPicture, view, part, m_cells, level, m_smooth);
         }
+    }
+    if (!m_cells.showAnything()) {
+        return;
     }
     painter.resetTransform();
     painter.drawImage(QPointF(0.0, 0.0), m_picture.image());

@@ -79,7 +79,7 @@ QSizeF TileAttribution::logoSize() const
 void TileAttribution::place(const GeoView &view, TextRoom &room)
 {
     m_rect = {};
-    if (!m_source || (m_source->copyright.isEmpty() && m_logo.isNull())) {
+    if (!m_shown || !m_source || (m_source->copyright.isEmpty() && m_logo.isNull())) {
         return;
     }
     const QFontMetricsF metrics(mapFont());

@@ -17,6 +17,7 @@ public:
     // The map's ground, and a colour that is legible on it.
     void setColors(const QColor &ground, const QColor &text);
 
+    void setShown(bool shown) { m_shown = shown; }
     // Takes a place for the frame: the lower right corner or, where that is taken, what is next to it.
     void place(const GeoView &view, TextRoom &room);
     // Pixels; empty: there is nothing to show, or no room.
@@ -29,6 +30,7 @@ private:
     QSizeF logoSize() const;
 
     const TileSource *m_source = nullptr;
+    bool m_shown = false;
     QColor m_ground;
     QColor m_plainText;
     QColor m_textColor;

@@ -40,6 +40,12 @@ void findChildren(TileCell &cell, const TileIndex &index, const TileCells::Image
 
 } // namespace
 
+bool TileCell::isBlank() const
+{
+    return image.isNull() && ancestor.isNull()
+        && std::all_of(children.begin(), children.end(), [](const QImage &child) { return child.isNull(); });
+}
+
 bool TileCell::looksLike(const TileCell &other) const
 {
     const auto same = [](const QImage &one, const QImage &two) { return one.cacheKey() == two.cacheKey(); };
@@ -53,6 +59,7 @@ std::vector<QPoint> TileCells::update(
     QHash<TileIndex, Entry> cells;
     std::vector<QPoint> changed;
     m_fading = false;
+    m_showAnything = false;
     m_widest = 0;
     for (int row = range.top; row <= range.bottom; ++row) {
         for (int column = range.left; column <= range.right; ++column) {
@@ -65,6 +72,7 @@ std::vector<QPoint> TileCells::update(
             if (before != m_cells.constEnd() && !entry->cell.looksLike(before->cell)) {
                 changed.emplace_back(column, row);
             }
+            m_showAnything = m_showAnything || !entry->cell.isBlank();
             m_fading = m_fading || entry->cell.opacity < 1.0;
             m_widest = std::max(m_widest, entry->cell.image.width());
         }
@@ -98,6 +106,7 @@ void TileCells::clear()
     m_cells.clear();
     m_range = {};
     m_fading = false;
+    m_showAnything = false;
 }
 
 const TileCell &TileCells::at(int column, int row) const

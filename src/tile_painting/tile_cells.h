@@ -19,6 +19,7 @@ struct TileCell {
     QRectF ancestorPart; // pixels of it
     std::array<QImage, 4> children; // northwest, northeast, southwest, southeast; null: not there
 
+    bool isBlank() const;
     bool looksLike(const TileCell &other) const;
 };
 
@@ -36,6 +37,8 @@ public:
     // One without images where the range has none.
     const TileCell &at(int column, int row) const;
     bool isEmpty() const { return m_cells.isEmpty(); }
+    // Whether there is any image, be it one that stands in.
+    bool showAnything() const { return m_showAnything; }
     // Some image is not yet there in full: what update() returns changes with time.
     bool fading() const { return m_fading; }
     // The widest image, pixels.
@@ -52,5 +55,6 @@ private:
     QHash<TileIndex, Entry> m_cells;
     TileRange m_range;
     bool m_fading = false;
+    bool m_showAnything = false;
     int m_widest = 0;
 };
