@@ -103,6 +103,16 @@ void addRegister(ReportView &view, int firstBit)
     }
 }
 
+// Aircraft addresses, the only codes of 24 bits, as everybody writes them.
+QString valueOf(const FieldPlace &place)
+{
+    const QString value = QString::fromStdString(place.value);
+    bool isNumber = false;
+    const uint number = value.toUInt(&isNumber);
+    const bool isAddress = place.bits == 24 && place.unit.empty() && isNumber;
+    return isAddress ? QString("%1").arg(number, 6, 16, QChar('0')).toUpper() : value;
+}
+
 bool isRegister(const FieldPlace &place)
 {
     return place.bits == 56 && place.path.starts_with("250[") && place.path.ends_with("DATA");
@@ -130,8 +140,8 @@ void viewAsterix(const KeptReport &report, ReportView &view)
     for (const FieldPlace &place : korvane::asterix::fieldPlaces(record)) {
         const QString path = QString::fromStdString(place.path);
         const int firstBit = static_cast<int>(place.firstBit);
-        view.fields.append({path, view.itemName(path), text(place.title), QString::fromStdString(place.value),
-            text(place.unit), {firstBit, static_cast<int>(place.bits)}});
+        view.fields.append({path, view.itemName(path), text(place.title), valueOf(place), text(place.unit),
+            {firstBit, static_cast<int>(place.bits)}});
         if (isRegister(place)) {
             addRegister(view, firstBit);
         }

@@ -46,7 +46,7 @@ bool isIdentity(TrackValue value)
 bool isPassedOver(const ValueSource &source, const ReportField &field, const ReportView &view)
 {
     if (isIdentity(source.value)) {
-        return field.value.isEmpty() || field.value == "0";
+        return field.value.count('0') == field.value.size();
     }
     if (field.key.startsWith("bds60/")) {
         return std::abs(field.value.toDouble()) > MaximumVerticalRate;

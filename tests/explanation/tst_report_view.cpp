@@ -34,11 +34,13 @@ void TestReportView::takesRecordApart()
     const auto view = viewReport(keptRecord(48, 1000, [](BlockEncoder &e) {
         e.set("090/FL", 350);
         e.setText("240", "VYX123");
+        e.set("220", 0x4B1A2C);
     }));
     QCOMPARE(view.category, 48);
     QCOMPARE(view.name, QString("CAT048, edition 1.32"));
     QCOMPARE(fieldText(view, "090/FL"), QString("350 FL @18+14"));
-    QCOMPARE(fieldText(view, "240"), QString("VYX123 @32+48"));
+    QCOMPARE(fieldText(view, "220"), QString("4B1A2C @32+24"));
+    QCOMPARE(fieldText(view, "240"), QString("VYX123 @56+48"));
     QCOMPARE(view.find("090/FL")->name, QString("I048/090/FL"));
     QCOMPARE(view.find("090/FL")->title, QString("Flight Level in Binary Representation"));
 }

@@ -137,6 +137,8 @@ void TestTrackExplanation::namesItemAndRule_data()
     row(
         "geometric rate", 21, [](E &e) { e.set("157/GVR", 100); }, "Vertical rate", "I021/157/GVR", "geometric");
     row(
+        "no address", 48, [](E &e) { e.set("220", 0); }, "Address", "", "in none of the last");
+    row(
         "type by category", 21, [](E &e) { e.set("080", 5); }, "Type", "", "every track of such reports");
 }
 
