@@ -116,12 +116,28 @@ private:
 
     bool isIgnored(const ValueSource &source) const
     {
-        if (source.value != TrackValue::Position || (source.category != 20 && source.category != 62)) {
+        const QString keys = QString::fromLatin1(source.keys);
+        if (source.category == 10 && isOfOtherSensor(source.value, keys)) {
+            return true;
+        }
+        const bool ofSystem = source.category == 20 || source.category == 62 || isMlat(source.category);
+        if (source.value != TrackValue::Position || !ofSystem) {
             return false;
         }
-        const QString keys = QString::fromLatin1(source.keys);
-        const bool cartesian = keys.contains("/X");
-        return cartesian ? m_settings.ignoreCartesian : m_settings.ignoreWgs84;
+        return keys.contains("/X") ? m_settings.ignoreCartesian : m_settings.ignoreWgs84;
+    }
+
+    bool isMlat(int category) const { return category == 10 && m_track.type == Track::Mlat; }
+
+    // Surface movement radars and multilateration send the same category; each tracker takes its own items of it.
+    bool isOfOtherSensor(TrackValue value, const QString &keys) const
+    {
+        if (isMlat(10)) {
+            return keys.startsWith("040") || keys.startsWith("200");
+        }
+        const bool identity = value == TrackValue::Callsign || value == TrackValue::ModeA
+            || value == TrackValue::Address || value == TrackValue::Level;
+        return identity || keys.startsWith("202");
     }
 
     bool take(const ValueSource &source, int report, ExplainedValue &row) const

@@ -60,6 +60,7 @@ private Q_SLOTS:
     void explainsCoasting();
     void explainsEmergency();
     void heedsIgnoredPositions();
+    void tellsSensorsOfOneCategoryApart();
     void explainsWithoutReports();
 };
 
@@ -281,6 +282,26 @@ void TestTrackExplanation::heedsIgnoredPositions()
     const auto value = valueOf(explainTrack({}, views, Now, settings), "Position");
     QCOMPARE(value.item, QString("I020/042/X, Y"));
     QVERIFY(value.rule.contains("ignored"));
+}
+
+void TestTrackExplanation::tellsSensorsOfOneCategoryApart()
+{
+    const auto views = viewsOf({keptRecord(10, ago(1), [](BlockEncoder &e) {
+        e.set("040/RHO", 1000);
+        e.set("041/LAT", 1);
+        e.set("200/GSP", 0.01);
+        e.set("202/VX", 1);
+        e.setText("245/CHR", "VYX1");
+    })});
+    TrackSnapshot track;
+    track.type = Track::Smr;
+    QCOMPARE(valueOf(explainTrack(track, views, Now), "Position").item, QString("I010/040/RHO, TH"));
+    QCOMPARE(valueOf(explainTrack(track, views, Now), "Ground speed").item, QString("I010/200/GSP"));
+    QVERIFY(valueOf(explainTrack(track, views, Now), "Callsign").item.isEmpty());
+    track.type = Track::Mlat;
+    QCOMPARE(valueOf(explainTrack(track, views, Now), "Position").item, QString("I010/041/LAT, LON"));
+    QCOMPARE(valueOf(explainTrack(track, views, Now), "Ground speed").item, QString("I010/202/VX, VY"));
+    QCOMPARE(valueOf(explainTrack(track, views, Now), "Callsign").item, QString("I010/245/CHR"));
 }
 
 void TestTrackExplanation::explainsWithoutReports()
