@@ -29,3 +29,12 @@ PolarOrigin::Place PolarOrigin::at(double distance, double bearing) const
     const double longitude = std::remainder(wgs84::degrees(m_longitude + turned), 360.0);
     return {wgs84::degrees(std::asin(std::clamp(sinLatitude, -1.0, 1.0))), longitude};
 }
+
+// By the law of cosines in the triangle with the middle of the Earth, in a form that keeps small angles.
+double PolarOrigin::groundDistance(double slantRange, double height, double targetHeight)
+{
+    const double climb = targetHeight - height;
+    const double level = slantRange * slantRange - climb * climb;
+    const double chord = level > 0.0 ? std::sqrt(level / ((EarthRadius + height) * (EarthRadius + targetHeight))) : 0.0;
+    return 2.0 * EarthRadius * std::asin(std::min(chord / 2.0, 1.0));
+}

@@ -17,6 +17,10 @@ public:
     // Metres over ground and degrees clockwise from north.
     Place at(double distance, double bearing) const;
 
+    // Metres over ground to what is so far away in a straight line, at heights in metres above the sphere. Zero where
+    // the heights alone are farther apart than that.
+    static double groundDistance(double slantRange, double height, double targetHeight);
+
 private:
     double m_longitude; // radians
     double m_sinLatitude;

@@ -19,6 +19,7 @@ QJsonObject RadarSensorInfo::jsonObject() const
     object[QLatin1String("modes")] = m_modeS;
     object[QLatin1String("psr_coverage")] = static_cast<qint64>(m_coveragePrimary);
     object[QLatin1String("ssr_coverage")] = static_cast<qint64>(m_coverageSecondary);
+    object[QLatin1String("slant_range_corrected")] = m_slantRangeCorrected;
     return object;
 }
 
@@ -35,6 +36,7 @@ bool RadarSensorInfo::setJsonObject(const QJsonObject &object)
     m_modeS = values.flag("modes");
     m_coveragePrimary = values.unsignedInteger("psr_coverage", 0);
     m_coverageSecondary = values.unsignedInteger("ssr_coverage", 0);
+    m_slantRangeCorrected = values.flag("slant_range_corrected");
     return true;
 }
 

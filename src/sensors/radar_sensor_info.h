@@ -24,6 +24,11 @@ public:
     double rotationPeriod() const { return m_rotationPeriod; } // seconds
     void setRotationPeriod(double period) { m_rotationPeriod = period; }
 
+    // Its slant ranges are made distances over ground where a target's height is known. Of records of the sensor file
+    // alone.
+    bool slantRangeCorrected() const { return m_slantRangeCorrected; }
+    void setSlantRangeCorrected(bool corrected) { m_slantRangeCorrected = corrected; }
+
     // A Mode S radar is a secondary one, whatever ssr says.
     void setRadarType(bool psr, bool ssr, bool modeS);
     bool isPrimary() const { return m_primary; }
@@ -43,4 +48,5 @@ private:
     bool m_modeS = false;
     unsigned int m_coveragePrimary = 0;
     unsigned int m_coverageSecondary = 0;
+    bool m_slantRangeCorrected = false;
 };

@@ -1,5 +1,7 @@
 #include "sensors/sensor_manager.h"
 
+#include "sensors/radar_sensor_info.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -20,6 +22,15 @@ bool SensorManager::hasSensor(const QString &name) const
 QSharedPointer<SensorInfo> SensorManager::findSensor(const QString &name) const
 {
     return m_sensors.value(name);
+}
+
+void SensorManager::addDetails(SensorInfo *sensor) const
+{
+    auto *radar = qobject_cast<RadarSensorInfo *>(sensor);
+    const auto record = radar ? findSensor(radar->name()).dynamicCast<RadarSensorInfo>() : nullptr;
+    if (record && record->sac() == radar->sac() && record->sic() == radar->sic()) {
+        radar->setSlantRangeCorrected(record->slantRangeCorrected());
+    }
 }
 
 void SensorManager::addSensor(const QSharedPointer<SensorInfo> &sensor)

@@ -20,6 +20,8 @@ public:
     bool hasSensor(const QString &name) const;
     // Null when there is none.
     QSharedPointer<SensorInfo> findSensor(const QString &name) const;
+    // Adds what only records hold to a sensor that was configured from the one of its name.
+    void addDetails(SensorInfo *sensor) const;
     // Replaces a record of the same name; ignores null and a record without a name.
     void addSensor(const QSharedPointer<SensorInfo> &sensor);
     void removeSensor(const QString &name);

@@ -49,7 +49,7 @@ QDoubleSpinBox *makeSeconds(double Config::*member)
 
 class RadarFields final : public SensorTypeFields {
 public:
-    explicit RadarFields(FieldForm *form) : SensorTypeFields(form)
+    RadarFields(FieldForm *form, bool details) : SensorTypeFields(form)
     {
         addRow(tr("Antenna &altitude:"), m_altitude, QStringLiteral("radarAntennaAltitude"));
         addRow(tr("&Rotation period:"), m_period, QStringLiteral("radarRotationPeriod"));
@@ -63,6 +63,12 @@ public:
             m_secondary->setChecked(on || m_secondary->isChecked());
             m_secondary->setEnabled(!on);
         });
+        if (details) {
+            m_slantRange = new QCheckBox(tr("Correct s&lant range"));
+            m_slantRange->setToolTip(
+                tr("Targets whose height is known are shown at their distance over ground; the others as before."));
+            addRow(m_slantRange, QStringLiteral("radarSlantRange"));
+        }
     }
 
     SensorType type() const override { return RadarSensor; }
@@ -77,6 +83,9 @@ public:
         m_secondary->setChecked(radar.isSecondary());
         m_coveragePrimary->setValue(static_cast<int>(radar.coveragePrimary()));
         m_coverageSecondary->setValue(static_cast<int>(radar.coverageSecondary()));
+        if (m_slantRange) {
+            m_slantRange->setChecked(radar.slantRangeCorrected());
+        }
     }
 
     void store(SensorInfo *sensor) const override
@@ -87,6 +96,9 @@ public:
         radar->setRadarType(m_primary->isChecked(), m_secondary->isChecked(), m_modeS->isChecked());
         radar->setCoveragePrimary(static_cast<unsigned int>(m_coveragePrimary->value()));
         radar->setCoverageSecondary(static_cast<unsigned int>(m_coverageSecondary->value()));
+        if (m_slantRange) {
+            radar->setSlantRangeCorrected(m_slantRange->isChecked());
+        }
     }
 
     bool check() override
@@ -103,6 +115,7 @@ private:
     QCheckBox *m_modeS = new QCheckBox(tr("Mode S"));
     QSpinBox *m_coveragePrimary = makeNumber(&Config::sensorRadarCoveragePrimary);
     QSpinBox *m_coverageSecondary = makeNumber(&Config::sensorRadarCoverageSecondary);
+    QCheckBox *m_slantRange = nullptr; // null without details
 };
 
 class AdsbFields final : public SensorTypeFields {
@@ -286,7 +299,7 @@ void SensorTypeFields::addRow(QWidget *field, const QString &objectName)
 std::vector<std::unique_ptr<SensorTypeFields>> SensorTypeFields::makeAll(FieldForm *form, bool details)
 {
     std::vector<std::unique_ptr<SensorTypeFields>> all;
-    all.push_back(std::make_unique<RadarFields>(form));
+    all.push_back(std::make_unique<RadarFields>(form, details));
     all.push_back(std::make_unique<AdsbFields>(form, details));
     all.push_back(std::make_unique<MlatFields>(form));
     all.push_back(std::make_unique<SdpsFields>(form));

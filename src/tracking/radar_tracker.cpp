@@ -108,12 +108,12 @@ Tracker::Taken RadarTracker::procAntennaMessage(const Record &record)
 Tracker::Taken RadarTracker::procCat001Message(const _ast_datarecord_001_t &record)
 {
     const auto now = trackManager().now();
-    const auto place = takePlace(record, 1.0, now);
+    const Identity identity{record.i161.present ? record.i161.trackNumber : 0u, {}, 0.0};
+    const auto place = takePlace(record, identity, 1.0, now);
     if (!record.i161.present) {
         debug([] { return tr("Radar Tracker: CAT001 message has no valid track number (I001/161), ignore."); });
         return takenAsPlot(place, record.i020.tst);
     }
-    const Identity identity{record.i161.trackNumber, {}, 0.0};
     const auto track = findOrCreate(identity.number);
     if (!track) {
         return notNumbered(identity, place);
@@ -144,8 +144,8 @@ void RadarTracker::takeReport(Track &track, const _ast_datarecord_001_t &record,
 Tracker::Taken RadarTracker::procCat048Message(const _ast_datarecord_048_t &record)
 {
     const auto now = trackManager().now();
-    const auto place = takePlace(record, record.i042.resolution, now);
     const auto identity = identityOf(record);
+    const auto place = takePlace(record, identity, record.i042.resolution, now);
     if (!identity.usable()) {
         debug([] {
             return tr("Radar Tracker: CAT048 message has neither valid track number (I048/161) nor valid Mode-S "
@@ -200,15 +200,17 @@ Tracker::Identity RadarTracker::identityOf(const _ast_datarecord_048_t &record) 
 
 template <typename Record>
 std::optional<Tracker::Place> RadarTracker::takePlace(
-    const Record &record, double cartesianUnit, const QDateTime &now) const
+    const Record &record, const Identity &identity, double cartesianUnit, const QDateTime &now)
 {
     std::optional<Place> place;
+    const std::optional<int> level = levelForPlace(record, identity, now);
     if (record.i040.present) {
-        place = polarPlace(record.i040.rho, record.i040.theta);
+        place = polarPlace(record.i040.rho * wgs84::MetresPerNauticalMile, record.i040.theta, level);
     } else if (record.i042.present) {
         const double x = record.i042.x;
         const double y = record.i042.y;
-        place = polarPlace(cartesianUnit * std::hypot(x, y), reports::bearingOf(x, y));
+        const double range = cartesianUnit * std::hypot(x, y) * wgs84::MetresPerNauticalMile;
+        place = polarPlace(range, reports::bearingOf(x, y), level);
     }
     if (place && place->valid && !record.i020.tst) {
         addPlot(place->plane, typeOf(record), now);
@@ -216,8 +218,25 @@ std::optional<Tracker::Place> RadarTracker::takePlace(
     return place;
 }
 
-// The slant range is taken as the distance over ground.
-Tracker::Place RadarTracker::polarPlace(double range, double bearing) const
+// A target that only the primary radar sees in this turn is as high as it was in the turn before.
+template <typename Record>
+std::optional<int> RadarTracker::levelForPlace(const Record &record, const Identity &identity, const QDateTime &now)
 {
-    return placeOf(m_site, range * wgs84::MetresPerNauticalMile, bearing);
+    if (!m_sensor->slantRangeCorrected()) {
+        return std::nullopt;
+    }
+    const std::optional<int> level = levelOf(record.i090);
+    const auto track = level ? QSharedPointer<Track>() : find(identity, now);
+    return track && track->levelValid() ? std::optional(track->level()) : level;
+}
+
+// Unless it is corrected, the slant range is taken as the distance over ground.
+Tracker::Place RadarTracker::polarPlace(double range, double bearing, std::optional<int> level) const
+{
+    constexpr double MetresPerFoot = 0.3048;
+    if (!level || !m_sensor->slantRangeCorrected()) {
+        return placeOf(m_site, range, bearing);
+    }
+    const double ground = PolarOrigin::groundDistance(range, m_sensor->antennaAltitude(), *level * MetresPerFoot);
+    return placeOf(m_site, ground, bearing);
 }

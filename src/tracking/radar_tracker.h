@@ -41,9 +41,13 @@ private:
     // Nothing where the report has no position; Cartesian ones count in the unit, nautical miles. Reports are plots as
     // well.
     template <typename Record>
-    std::optional<Place> takePlace(const Record &record, double cartesianUnit, const QDateTime &now) const;
-    // Nautical miles and degrees clockwise from north, from the sensor.
-    Place polarPlace(double range, double bearing) const;
+    std::optional<Place> takePlace(
+        const Record &record, const Identity &identity, double cartesianUnit, const QDateTime &now);
+    // In feet, of the report or else of its track; asked for only where it changes anything.
+    template <typename Record>
+    std::optional<int> levelForPlace(const Record &record, const Identity &identity, const QDateTime &now);
+    // Slant range in metres and degrees clockwise from north, from the sensor; level in feet where it is known.
+    Place polarPlace(double range, double bearing, std::optional<int> level) const;
 
     void procAleniaSirMNorthMarker(const AleniaSirMRadarNorthMarkerMessage &marker);
     void procAleniaSirMDataMessage(const AleniaSirMRadarDataMessage &data);

@@ -46,10 +46,12 @@ void setModeA(Track &track, const AleniaSirMRadarTrackRecord &record)
     }
 }
 
-void setHeight(Track &track, const AleniaSirMRadarTrackRecord &record)
+// In feet.
+template <typename Record>
+std::optional<int> heightOf(const Record &record)
 {
     const auto height = static_cast<int>(std::lround(record.modeCHeightImperial()));
-    reports::setLevel(track, record.modeCHeightValid() ? std::optional(height) : std::nullopt);
+    return record.modeCHeightValid() ? std::optional(height) : std::nullopt;
 }
 
 // The radar knows the trend better than the rate, so that the trend does not follow from it.
@@ -142,10 +144,9 @@ void RadarTracker::handInSirM(const AleniaSirMRadarDataMessage &data, const Reco
     ledger()->take(report);
 }
 
-// The slant range is taken as the distance over ground.
 Tracker::Taken RadarTracker::procAleniaSirMPlotRecord(const AleniaSirMRadarPlotRecord &record)
 {
-    const auto place = placeOf(m_site, record.range() * MetresPerKilometre, record.azimuth());
+    const auto place = polarPlace(record.range() * MetresPerKilometre, record.azimuth(), heightOf(record));
     if (place.valid) {
         addPlot(place.plane, typeOf(record.plotType()), trackManager().now());
     }
@@ -161,8 +162,8 @@ Tracker::Taken RadarTracker::procAleniaSirMTrackRecord(const AleniaSirMRadarTrac
         return {ReportOutcome::TrackEnd, ended ? ended->trackNumber() : 0, identity, {}};
     }
     const auto now = trackManager().now();
-    const auto place =
-        placeOf(m_site, std::hypot(record.x(), record.y()) * MetresPerKilometre, azimuthOf(record.x(), record.y()));
+    const auto place = polarPlace(
+        std::hypot(record.x(), record.y()) * MetresPerKilometre, azimuthOf(record.x(), record.y()), heightOf(record));
     const auto track = findOrCreate(record.trackNumber());
     if (!track) {
         return notNumbered(identity, place);
@@ -171,7 +172,7 @@ Tracker::Taken RadarTracker::procAleniaSirMTrackRecord(const AleniaSirMRadarTrac
     track->setState(record.coasting() ? Track::Coasting : Track::Confirmed);
     put(*track, place);
     setModeA(*track, record);
-    setHeight(*track, record);
+    reports::setLevel(*track, heightOf(record));
     setVerticalMovement(*track, record, now);
     setVelocity(*track, record);
     track->recordHistory(now);

@@ -456,6 +456,7 @@ void MainWindow::applyConfig(SettingGroups changed)
 void MainWindow::applySensor()
 {
     m_session->setSensor(m_config.live().sensor(nullptr));
+    m_sensors->addDetails(m_session->sensor().data());
     placeDefaultLayout();
     m_mapDisplay->setSensor(m_session->sensor());
     m_health->setSensor(m_session->sensor().data());

@@ -51,7 +51,7 @@ private Q_SLOTS:
             QTest::newRow(name) << object;
         };
         row("radar", R"({"type":"radar","antenna_altitude":-3,"rotation_period":4.5,"psr":true,"ssr":true,"modes":false,
-                     "psr_coverage":60,"ssr_coverage":4000000000})");
+                     "psr_coverage":60,"ssr_coverage":4000000000,"slant_range_corrected":true})");
         row("ADS-B", R"({"type":"adsb","coverage":200,"update_interval":0.5,"versions":["0","2"]})");
         row("multilateration", R"({"type":"mlat","coverage":80})");
         row("SDPS", R"({"type":"sdps","coverage":512,"update_interval":4.25})");
@@ -81,10 +81,30 @@ private Q_SLOTS:
         if (object.contains(QStringLiteral("versions"))) {
             object[QStringLiteral("versions")] = QJsonArray();
         }
+        if (object.contains(QStringLiteral("slant_range_corrected"))) {
+            object[QStringLiteral("slant_range_corrected")] = false;
+        }
         if (object.contains(QStringLiteral("acp"))) {
             object[QStringLiteral("acp")] = 0;
         }
         QCOMPARE(sensor->jsonObject(), object);
+    }
+
+    void configuredSensorGetsWhatItsRecordHolds()
+    {
+        auto object = sensorObject(QStringLiteral("radar"));
+        object[QStringLiteral("sac")] = 25;
+        object[QStringLiteral("slant_range_corrected")] = true;
+        SensorManager sensors;
+        sensors.addSensor(SensorInfo::create(object));
+        for (const int sac : {25, 26}) {
+            RadarSensorInfo configured;
+            configured.setName(QStringLiteral("R1"));
+            configured.setSacSic(static_cast<unsigned char>(sac), 0);
+            sensors.addDetails(&configured);
+            QCOMPARE(configured.slantRangeCorrected(), sac == 25);
+        }
+        sensors.addDetails(nullptr);
     }
 
     void readingIsTolerant()
@@ -92,9 +112,9 @@ private Q_SLOTS:
         const QJsonValue missing(QJsonValue::Undefined);
         // What the record holds, what it reads and what it holds after that.
         const std::tuple<const char *, QString, QJsonValue, QJsonValue, QJsonValue> rows[]{
-            {"radar", "rotation_period", 4.5, missing, 0.0}, {"smr", "rotation_period", 1.5, missing, 1.5},
-            {"adsb", "coverage", 200, missing, 200}, {"mlat", "coverage", 80, -1, 80},
-            {"mlat", "name", "N", missing, ""},
+            {"radar", "slant_range_corrected", true, missing, false}, {"radar", "rotation_period", 4.5, missing, 0.0},
+            {"smr", "rotation_period", 1.5, missing, 1.5}, {"adsb", "coverage", 200, missing, 200},
+            {"mlat", "coverage", 80, -1, 80}, {"mlat", "name", "N", missing, ""},
             {"adsb", "versions", QJsonArray{"1"}, QJsonArray{"0", 1, "2"}, QJsonArray{"0", "2"}},
             {"sdps", "update_interval", 4.0, "4.5", 4.0}, {"sdps", "type", "sdps", "atcas", "sdps"}};
         for (const auto &[type, key, before, read, after] : rows) {

@@ -14,13 +14,17 @@ class TrackerRig {
 public:
     static constexpr int ReportPeriod = 4; // seconds
 
-    explicit TrackerRig(SensorType type)
+    // What the sensor's record says beyond what all of them do here.
+    explicit TrackerRig(SensorType type, const QJsonObject &more = {})
     {
         setTime(0.0);
         manager->setClock(m_clock);
-        const auto sensor =
-            SensorInfo::create(QJsonObject{{"type", sensorTypeToString(type)}, {"location", "500000.00N0080000.00E"},
-                {"rotation_period", ReportPeriod}, {"update_interval", ReportPeriod}});
+        QJsonObject object{{"type", sensorTypeToString(type)}, {"location", "500000.00N0080000.00E"},
+            {"rotation_period", ReportPeriod}, {"update_interval", ReportPeriod}};
+        for (auto member = more.begin(); member != more.end(); ++member) {
+            object[member.key()] = member.value();
+        }
+        const auto sensor = SensorInfo::create(object);
         tracker = Tracker::create(sensor, manager, &m_projector);
     }
 

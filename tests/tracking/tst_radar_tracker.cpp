@@ -100,6 +100,23 @@ private Q_SLOTS:
         }
     }
 
+    // Only for who asks for it, and with a height; a turn without Mode C keeps the one before.
+    void slantRangeIsCorrected()
+    {
+        const std::tuple<bool, int, const char *, const char *> cases[]{
+            {true, 48, "161/TRN=7 040/RHO=10 040/THETA=90 090/FL=300", "lat 49.99978, lon 8.22516"},
+            {true, 1, "161=7 040/RHO=10 040/THETA=90 090/HGT=300", "lat 49.99978, lon 8.22516"},
+            {false, 48, "161/TRN=7 040/RHO=10 040/THETA=90 090/FL=300", "lat 49.99971, lon 8.25911"},
+            {true, 48, "161/TRN=7 040/RHO=10 040/THETA=90", "lat 49.99971, lon 8.25911"},
+            {true, 48, "161/TRN=7 090/FL=300; 161/TRN=7 040/RHO=10 040/THETA=90", "lat 49.99978, lon 8.22516"},
+            {true, 48, "161/TRN=7 040/RHO=4 040/THETA=90 090/FL=300", "lat 50.00000, lon 8.00000"}};
+        for (const auto &[isOn, category, reports, expected] : cases) {
+            TrackerRig rig(RadarSensor, {{"slant_range_corrected", isOn}});
+            rig.send(category, reports);
+            QCOMPARE(shown(rig, expected), QString(expected));
+        }
+    }
+
     void association_data()
     {
         // One aircraft a letter.
