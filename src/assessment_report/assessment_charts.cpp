@@ -80,7 +80,7 @@ void paintDetectionMap(QPainter &painter, const QRectF &area, const SensorReport
 {
     const DetectionGrid &grid = report.detection.grid;
     const int rings = std::max(grid.usedRings(), 1);
-    constexpr double KeyWidth = 110.0;
+    constexpr double KeyWidth = 132.0;
     const double radius = std::min(area.width() - KeyWidth, area.height() - 26.0) / 2;
     const QPointF center(area.left() + radius + 4, area.top() + 18 + radius);
     for (int ring = 0; ring < rings; ++ring) {

@@ -116,6 +116,7 @@ void DetectionLayer::paintKey(QPainter &painter) const
     for (std::size_t step = detectionscale::Steps.size(); step > 0; --step) {
         y += KeyLine;
         QColor color(detectionscale::Steps[step - 1].color);
+        color.setAlpha(Opacity); // as on the map
         painter.fillRect(QRectF(m_keyPlace.left() + 8, y + 3, 14, 11), color);
         painter.drawText(QRectF(m_keyPlace.left() + 30, y, KeyWidth - 38, KeyLine), Qt::AlignLeft | Qt::AlignVCenter,
             detectionscale::stepText(step - 1));

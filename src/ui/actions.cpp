@@ -81,6 +81,9 @@ constexpr ActionSpec Specs[] = {
         false},
     {ActionId::SensorManager, QT_TRANSLATE_NOOP("Actions", "Sensor Manager..."), "", "", "", "sensor-manager", false,
         MenuId::Tools, ToolBarId::None, false},
+    {ActionId::SensorCheck, QT_TRANSLATE_NOOP("Actions", "Sensor Check..."), "",
+        QT_TRANSLATE_NOOP("Actions", "Detection, rotation and errors of radars, measured"), "Ctrl+F8", "sensor-check",
+        false, MenuId::Tools, ToolBarId::None, false},
 
     {ActionId::ToggleTrackLabel, QT_TRANSLATE_NOOP("Actions", "Toggle Track Label"),
         QT_TRANSLATE_NOOP("Actions", "Label"), "", "", "track-label", true, MenuId::Track, ToolBarId::Track, false},

@@ -41,6 +41,7 @@ enum class ActionId : std::size_t {
     ResizeMainWindow,
     Statistics,
     SensorManager,
+    SensorCheck,
     CheatSheet,
     WhatsNew,
     About,

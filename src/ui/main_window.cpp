@@ -4,6 +4,7 @@
 #include "app/app_paths.h"
 #include "app/log_gate.h"
 #include "app/map_places.h"
+#include "assessment_windows/sensor_check.h"
 #include "asterix/asterix.h"
 #include "display/geo_map_display.h"
 #include "display/geo_track_display.h"

@@ -34,6 +34,7 @@ class RangeRingWindow;
 class RecordingOpener;
 class ReplayControls;
 class ScopeNotice;
+class SensorCheck;
 class SensorManager;
 class SnapshotPump;
 class StatsWindow;
@@ -285,6 +286,7 @@ private:
     std::unique_ptr<MapWindows> m_mapWindows;
     std::unique_ptr<TileMaps> m_tileMaps;
     std::unique_ptr<ReplayControls> m_replay;
+    std::unique_ptr<SensorCheck> m_sensorCheck;
     QTimer m_clockTimer;
 
     QSize m_sizeOfRun; // empty: as stored

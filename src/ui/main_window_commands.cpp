@@ -1,5 +1,6 @@
 // What can be asked of the window, handed on to the part that does it, and what the window shows of the session.
 
+#include "assessment_windows/sensor_check.h"
 #include "health/input_health.h"
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
@@ -95,6 +96,7 @@ void MainWindow::onEngineInputClosed(unsigned long long requestId)
 void MainWindow::showSession()
 {
     m_pump->setInputLive(!m_session->replaying());
+    m_sensorCheck->setInput(inputOpen(), m_session->description(), config());
     updateInputActions();
     tellHealthOfInput();
     updateNotices();

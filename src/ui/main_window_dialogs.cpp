@@ -1,6 +1,7 @@
 // The dialogs that the operator opens, and what they change.
 
 #include "app/app_paths.h"
+#include "assessment_windows/sensor_check.h"
 #include "display/geo_map_display.h"
 #include "help/about_window.h"
 #include "help/changelog_window.h"
@@ -63,6 +64,9 @@ void MainWindow::connectDialogActions()
     on(ActionId::WhatsNew, &MainWindow::showChangelog);
     on(ActionId::About, &MainWindow::showAbout);
     on(ActionId::Statistics, &MainWindow::showStatsWindow);
+    m_sensorCheck =
+        std::make_unique<SensorCheck>(m_mapDisplay.get(), &m_host.shared().projector, m_sensors.get(), this);
+    connect((*m_actions)[ActionId::SensorCheck], &QAction::triggered, m_sensorCheck.get(), &SensorCheck::show);
 }
 
 void MainWindow::makeInspection()
