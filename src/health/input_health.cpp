@@ -1,10 +1,12 @@
 #include "health/input_health.h"
 
 #include "engine/display_snapshot.h"
+#include "sensors/sensor_info.h"
 #include "silence/geo_last_place_map.h"
 
 #include <QStringList>
 
+#include <algorithm>
 #include <utility>
 
 using Level = SilenceWatch::Level;
@@ -21,12 +23,22 @@ void InputHealth::setInput(const QString &name, bool expecting, const QSet<quint
 {
     m_input = name;
     m_silence.setExpecting(expecting);
+    m_basis.expecting = expecting;
     m_ports.setPorts(unicastPorts);
     updateNotice();
 }
 
+void InputHealth::setSensor(const SensorInfo *sensor)
+{
+    m_silence.setSensor(sensor);
+    m_basis.sensorKind = sensor ? sensor->type() : UnknownSensor;
+    m_basis.sensorSac = sensor ? sensor->sac() : 0;
+    m_basis.sensorSic = sensor ? sensor->sic() : 0;
+}
+
 void InputHealth::beginInput()
 {
+    m_sources.beginInput();
     m_silence.beginInput();
     m_nets.beginInput();
     m_lastPlaces.beginInput();
@@ -54,9 +66,58 @@ void InputHealth::look(const DisplaySnapshot &snapshot)
     }
 }
 
+void InputHealth::take(const InputStatistics &statistics)
+{
+    m_basis.nowMs = statistics.timeMs;
+    m_basis.live = !statistics.recordedTime;
+    const QList<SourceWatch::Line> lines = m_sources.take(statistics, m_basis);
+    m_silence.setMeasuredPeriod(m_sources.measuredPeriod());
+    if (m_silence.level() == Level::Heard) { // else one line has said it for all
+        for (const SourceWatch::Line &line : lines) {
+            Q_EMIT logMessage(line.level, line.text);
+        }
+    }
+    updateNotice();
+    if (m_sources.explanation() != std::exchange(m_explanation, m_sources.explanation())) {
+        Q_EMIT changed();
+    }
+    Q_EMIT sourcesChanged();
+}
+
+SourceJudgement::Light InputHealth::light() const
+{
+    using Light = SourceJudgement::Light;
+    switch (m_basis.expecting ? m_silence.level() : Level::Heard) {
+    case Level::Silent:
+        return Light::Red;
+    case Level::Overdue:
+        return std::max(Light::Amber, m_sources.worst());
+    case Level::Heard:
+        break;
+    }
+    return m_notice ? std::max(Light::Amber, m_sources.worst()) : m_sources.worst();
+}
+
+QString InputHealth::remarks() const
+{
+    QStringList sentences;
+    if (m_notice) {
+        sentences += QStringLiteral("%1. %2").arg(m_notice->headline, m_notice->text);
+    }
+    for (const UdpPortUser &user : m_ports.others()) {
+        sentences += tr("%1 listens on UDP port %2 too.").arg(UdpPortUsers::describe(user)).arg(user.port);
+    }
+    sentences += m_sources.remarks();
+    sentences.removeAll(QString());
+    return sentences.join(' ');
+}
+
 void InputHealth::updateNotice()
 {
-    const auto notice = silenceNotice();
+    auto notice = silenceNotice();
+    if (!notice && m_basis.expecting) {
+        notice = m_sources.notice();
+    }
     if (notice != std::exchange(m_notice, notice)) {
         Q_EMIT changed();
     }
@@ -68,13 +129,13 @@ QString InputHealth::timeText(const QDateTime &time) const
     return time.toString(time.date() == m_now.date() ? "HH:mm:ss" : "yyyy-MM-dd HH:mm:ss");
 }
 
-std::optional<InputHealth::Notice> InputHealth::silenceNotice() const
+std::optional<HealthNotice> InputHealth::silenceNotice() const
 {
     if (m_silence.level() == Level::Heard) {
         return std::nullopt;
     }
     const Urgency urgency = m_silence.level() == Level::Silent ? Urgency::Alarm : Urgency::Caution;
-    return Notice{urgency, tr("NO DATA since %1").arg(timeText(m_silence.since())), silenceText()};
+    return HealthNotice{urgency, tr("NO DATA since %1").arg(timeText(m_silence.since())), silenceText()};
 }
 
 QString InputHealth::silenceText() const
@@ -82,16 +143,14 @@ QString InputHealth::silenceText() const
     if (m_silence.recorded()) {
         return tr("There is a gap in %1: the picture is old.").arg(m_input);
     }
-    QStringList sentences;
-    if (m_silence.everHeard()) {
-        sentences +=
-            tr("Nothing arrives on %1 any more: the picture is old. Check the sender and the line.").arg(m_input);
-    } else {
-        sentences +=
-            tr("Nothing has arrived on %1 yet: check the sender, and the input in Settings (F10).").arg(m_input);
-    }
+    QStringList sentences{m_silence.everHeard() ? tr("Nothing arrives on %1 any more: the picture is old.").arg(m_input)
+                                                : tr("Nothing has arrived on %1 yet.").arg(m_input)};
     for (const UdpPortUser &user : m_ports.others()) {
         sentences += tr("%1 listens there too, and takes what is sent.").arg(UdpPortUsers::describe(user));
+    }
+    if (m_ports.others().isEmpty()) {
+        sentences += m_silence.everHeard() ? tr("Check the sender and the line.")
+                                           : tr("Check the sender, and the input in Settings (F10).");
     }
     return sentences.join(' ');
 }

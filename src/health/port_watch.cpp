@@ -1,12 +1,12 @@
 #include "health/port_watch.h"
 
 namespace {
-constexpr int IntervalMs = 5000;
+constexpr int PortIntervalMs = 5000;
 }
 
 PortWatch::PortWatch()
 {
-    m_timer.setInterval(IntervalMs);
+    m_timer.setInterval(PortIntervalMs);
     connect(&m_timer, &QTimer::timeout, this, &PortWatch::look);
 }
 

@@ -92,7 +92,7 @@ void namePrograms(QList<UdpPortUser> &users)
     }
 }
 
-QString text(const char *source)
+QString portText(const char *source)
 {
     return QCoreApplication::translate("UdpPortUsers", source);
 }
@@ -147,8 +147,8 @@ QSet<quint64> UdpPortUsers::ownSockets()
 QString UdpPortUsers::describe(const UdpPortUser &user)
 {
     if (user.program.isEmpty()) {
-        return text(QT_TRANSLATE_NOOP("UdpPortUsers", "a program of the user %1")).arg(user.user);
+        return portText(QT_TRANSLATE_NOOP("UdpPortUsers", "a program of the user %1")).arg(user.user);
     }
-    return text(QT_TRANSLATE_NOOP("UdpPortUsers", "\"%1\" (process %2, user %3)"))
+    return portText(QT_TRANSLATE_NOOP("UdpPortUsers", "\"%1\" (process %2, user %3)"))
         .arg(user.program, QString::number(user.pid), user.user);
 }

@@ -117,7 +117,10 @@ void ListPanes::setEmptyTexts(const QString &tracks, const QString &alerts)
 void ListPanes::setWarning(Urgency urgency, const QString &text)
 {
     for (QLabel *warning : std::as_const(m_warnings)) {
-        warning->setStyleSheet(urgencyStyle(urgency) + QStringLiteral("; padding: 3px; font-weight: bold"));
+        const QString style = urgencyStyle(urgency) + QStringLiteral("; padding: 3px; font-weight: bold");
+        if (warning->styleSheet() != style) { // setting one costs a new layout
+            warning->setStyleSheet(style);
+        }
         warning->setText(text);
         warning->setVisible(!text.isEmpty());
     }

@@ -15,6 +15,8 @@ class EmptyScope final : public QObject {
 public:
     // One sentence, empty while there is something to see or it is too early to say. The input as in "UDP port 20000".
     QString notice(const QString &input) const;
+    // Data arrive, but nothing that would be seen.
+    bool nothingIsSeen() const { return m_reason == Reason::NoTargets; }
 
 public Q_SLOTS:
     // What the next snapshots show is of another input.

@@ -45,6 +45,7 @@ class TileMaps;
 class TrackCommands;
 class TrackLabelFormatWindow;
 class WeatherIntensityWindow;
+struct SourceHealth;
 
 #include <functional>
 #include <memory>
@@ -235,8 +236,13 @@ private:
     void updateInputActions();
     void tellHealthOfInput();
     void showHealth();
+    // What was proposed to the operator, and he wants.
+    void cureSource(const SourceHealth &source);
+    // Takes effect at once: an open input is opened anew.
+    void changeSensor(const std::function<void(Config &)> &change);
     // Why the scope is empty or old, or shows plots; empty when that needs no words.
     QString scopeNotice() const;
+    QString emptyNotice(const QString &input) const;
     // For who asks why a target is not shown.
     AbsenceFacts inputFacts() const;
     void updateNotices();

@@ -1,6 +1,7 @@
 // What can be asked of the window, handed on to the part that does it, and what the window shows of the session.
 
 #include "assessment_windows/sensor_check.h"
+#include "health/health_dock.h"
 #include "health/input_health.h"
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
@@ -119,6 +120,13 @@ void MainWindow::connectHealth()
     connect(health, &InputHealth::changed, this, &MainWindow::showHealth);
     connect(m_session.get(), &InputSession::openingBegun, health, &InputHealth::beginInput);
     connect(m_pump.get(), &SnapshotPump::snapshotTaken, health, &InputHealth::look);
+    connect(m_pump.get(), &SnapshotPump::statisticsTaken, health, &InputHealth::take);
+    const QAction *plots = (*m_actions)[ActionId::TogglePlots];
+    connect(plots, &QAction::toggled, health, &InputHealth::setPlotsShown);
+    health->setPlotsShown(plots->isChecked());
+    const auto *dock = new HealthDock(health, this, m_messagesDock);
+    m_actions->menu(MenuId::View)->addAction(dock->toggleViewAction());
+    connect(dock, &HealthDock::cureRequested, this, &MainWindow::cureSource);
 }
 
 void MainWindow::tellHealthOfInput()
@@ -149,16 +157,57 @@ void MainWindow::showHealth()
     m_readOuts->showNetsUnheard(m_health->netsUnheard());
 }
 
+void MainWindow::cureSource(const SourceHealth &source)
+{
+    const SourceStatistics &statistics = source.statistics;
+    switch (source.judgement.cure) {
+    case SourceJudgement::Cure::ShowPlots:
+        if (QAction *plots = (*m_actions)[ActionId::TogglePlots]; !plots->isChecked()) {
+            plots->trigger();
+        }
+        return;
+    case SourceJudgement::Cure::UseSacSic:
+        changeSensor([&statistics](Config &config) {
+            config.sensorSac = statistics.sac;
+            config.sensorSic = statistics.sic;
+        });
+        return;
+    case SourceJudgement::Cure::UseSensorKind:
+        changeSensor([&source](Config &config) { config.sensorType = source.judgement.cureKind; });
+        return;
+    case SourceJudgement::Cure::None:
+        return;
+    }
+}
+
+void MainWindow::changeSensor(const std::function<void(Config &)> &change)
+{
+    editConfig(change);
+    applySensor();
+    if (inputOpen()) {
+        const auto snapshot = m_pump->newest();
+        m_session->restart(m_session->replaying() && snapshot ? snapshot->time : QDateTime());
+    }
+}
+
 QString MainWindow::scopeNotice() const
 {
     const QString input = m_session->description();
     for (const QString &notice :
-        {m_session->notice(), m_plotSwitch->notice(input), m_emptyScope->notice(input), m_tileMaps->notice()}) {
+        {m_session->notice(), m_plotSwitch->notice(input), emptyNotice(input), m_tileMaps->notice()}) {
         if (!notice.isEmpty()) {
             return notice;
         }
     }
     return {};
+}
+
+// By the truth about its sources, where they tell it.
+QString MainWindow::emptyNotice(const QString &input) const
+{
+    const QString why = m_emptyScope->nothingIsSeen() ? m_health->explanation() : QString();
+    return why.isEmpty() ? m_emptyScope->notice(input)
+                         : tr("Nothing of what %1 brings is seen. %2\nMore: View, Input Health.").arg(input, why);
 }
 
 void MainWindow::updateNotices()

@@ -37,6 +37,7 @@ void SnapshotPump::pull()
     pullVideo();
     pullWeather();
     pullDisplay();
+    pullStatistics();
 }
 
 void SnapshotPump::pullVideo()
@@ -82,6 +83,13 @@ void SnapshotPump::pullDisplay()
             m_alertStatus[i] = snapshot->alertStatus[i];
             Q_EMIT alertStatusChanged(static_cast<Alert::Type>(i + 1), m_alertStatus[i]);
         }
+    }
+}
+
+void SnapshotPump::pullStatistics()
+{
+    if (const auto statistics = m_statisticsReader.take(m_shared->statistics)) {
+        Q_EMIT statisticsTaken(*statistics);
     }
 }
 

@@ -46,6 +46,8 @@ Q_SIGNALS:
     void snapshotTaken(const DisplaySnapshot &snapshot);
     // The same of weather or radar video.
     void radarPictureTaken();
+    // What the engine counts of its input; once a second.
+    void statisticsTaken(const InputStatistics &statistics);
     // The status of this type differs from that in the snapshot before.
     void alertStatusChanged(Alert::Type type, bool on);
     void dropStats(const DropStats &stats);
@@ -54,6 +56,7 @@ private:
     void pullVideo();
     void pullWeather();
     void pullDisplay();
+    void pullStatistics();
 
     const EngineHost::Shared *m_shared;
     GeoMapDisplay *m_map;
@@ -63,6 +66,7 @@ private:
     SlotReader<DisplaySnapshot> m_displayReader;
     SlotReader<VideoBatch> m_videoReader;
     SlotReader<WeatherProcessor::Picture> m_weatherReader;
+    SlotReader<InputStatistics> m_statisticsReader;
     LargestDelay m_videoDelay;
     LargestDelay m_weatherDelay;
     bool m_live = true;

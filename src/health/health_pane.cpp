@@ -1,0 +1,84 @@
+#include "health/health_pane.h"
+
+#include "health/input_health.h"
+#include "health/rate_curve_delegate.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QTableView>
+#include <QVBoxLayout>
+
+HealthPane::HealthPane(const InputHealth *health, QWidget *parent)
+    : QWidget(parent), m_health(health), m_model(new SourceTableModel(this)), m_remarks(new QLabel(this)),
+      m_table(new QTableView(this))
+{
+    makeTable();
+    m_remarks->setTextFormat(Qt::PlainText);
+    m_remarks->setWordWrap(true);
+    m_remarks->setMargin(4);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(m_remarks);
+    layout->addWidget(m_table);
+    refresh();
+}
+
+void HealthPane::makeTable()
+{
+    m_table->setObjectName("sources");
+    m_table->setModel(m_model);
+    m_table->setItemDelegateForColumn(SourceTableModel::Curve, new RateCurveDelegate(m_table));
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setShowGrid(false);
+    m_table->setFrameShape(QFrame::NoFrame);
+    m_table->setWordWrap(false);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
+    QHeaderView *header = m_table->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setStretchLastSection(true);
+    const QFontMetrics metrics = m_table->fontMetrics();
+    const auto setWidth = [&](int column, const QString &widest) {
+        m_table->setColumnWidth(column, metrics.horizontalAdvance(widest) + 16);
+    };
+    setWidth(SourceTableModel::Source, "255/255 CAT240 oo");
+    setWidth(SourceTableModel::Rate, "1000.0/s");
+    setWidth(SourceTableModel::Curve, "Last 10 minutes");
+    setWidth(SourceTableModel::Delay, "-10.0 s");
+    setWidth(SourceTableModel::Shown, "Used 1");
+    setWidth(SourceTableModel::State, "silent since 00:00:00");
+    connect(m_table, &QTableView::clicked, this, [this](const QModelIndex &index) { open(index.row()); });
+    connect(m_table, &QTableView::activated, this, [this](const QModelIndex &index) { open(index.row()); });
+}
+
+void HealthPane::refresh()
+{
+    const int selected = m_table->currentIndex().row();
+    const SourceHealth before = selected >= 0 ? m_model->source(selected) : SourceHealth();
+    m_model->setSources(m_health->sources());
+    if (selected >= 0 && m_table->currentIndex().row() != selected) {
+        m_table->selectRow(m_model->rowOf(before));
+    }
+    m_remarks->setText(m_health->remarks());
+    m_remarks->setVisible(!m_remarks->text().isEmpty());
+    if (m_window) {
+        const int shown = m_model->rowOf(m_window->source());
+        if (shown >= 0) {
+            m_window->setSource(m_model->source(shown));
+        }
+    }
+}
+
+void HealthPane::open(int row)
+{
+    if (!m_window) {
+        m_window = new SourceWindow(window());
+        m_window->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_window, &SourceWindow::cureRequested, this, &HealthPane::cureRequested);
+    }
+    m_window->setSource(m_model->source(row));
+    m_window->show();
+    m_window->raise();
+}
