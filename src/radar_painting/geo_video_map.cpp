@@ -5,6 +5,7 @@
 #include "radar_painting/radial_store.h"
 #include "radar_painting/site_offsets.h"
 #include "radar_painting/video_raster.h"
+#include "radar_painting/wide_view.h"
 #include "sensors/smr_sensor_info.h"
 #include "view/geo_view.h"
 #include "view/steady_clock.h"
@@ -20,6 +21,7 @@ namespace {
 constexpr int UsualAzimuthBins = 8192; // where nothing tells: 0.044 degrees each
 constexpr int FewestAzimuthBins = 2048;
 constexpr int MostAzimuthBins = 16384;
+constexpr qint64 UpdateIntervalMs = 100; // while the view is dragged
 constexpr std::size_t MostReportedSources = 8; // more than that is noise on the line
 
 // As many bins as radials fit into a turn, so that bins and radials fall together. Azimuth pulses, where the sensor
@@ -32,19 +34,6 @@ int azimuthBins(int statedSteps, const VideoProcessor::Radial &radial)
     const double width = std::abs(std::remainder(radial.endAzimuth - radial.startAzimuth, 360.0));
     return width > 0.0 ? int(std::clamp(360.0 / width, double(FewestAzimuthBins), double(MostAzimuthBins)) + 0.5)
                        : UsualAzimuthBins;
-}
-
-// By how many device pixels one view lies beside another; nothing where they differ by anything else.
-std::optional<QPoint> wholePixelShift(const QTransform &from, const QTransform &to)
-{
-    const QPointF shift(to.dx() - from.dx(), to.dy() - from.dy());
-    const QPointF rest = shift - QPointF(shift.toPoint());
-    const bool sameScale =
-        from.m11() == to.m11() && from.m12() == to.m12() && from.m21() == to.m21() && from.m22() == to.m22();
-    if (!sameScale || rest.manhattanLength() > 1e-3) {
-        return std::nullopt;
-    }
-    return shift.toPoint();
 }
 
 } // namespace
@@ -68,13 +57,18 @@ struct GeoVideoMap::Radar {
 
     // Brings the raster, not its contents, up to date with view and store.
     void fitTo(const GeoView &view, Projector &projector);
+    // Brings its contents up to date.
+    void update(const VideoPalette &palette, qint64 now, qint64 validity);
 
     Place place;
     RadialStore store{UsualAzimuthBins};
     double cellSize = 0.0; // metres
     quint16 videoMode = 0;
     std::unique_ptr<VideoRaster> raster; // null while there is nothing to show
-    QTransform rasterTransform; // from the plane to device pixels, as it was made for
+    WideView wide; // that the raster was made for
+    QTransform paintedTransform; // from the plane to the screen, of the last frame
+    bool dragged = false; // another part of the same raster is shown than in the last frame
+    qint64 updateTime = 0;
 };
 
 GeoVideoMap::GeoVideoMap(Projector *projector, QObject *parent)
@@ -201,17 +195,15 @@ void GeoVideoMap::paint(QPainter &painter, const GeoView &view)
 
 void GeoVideoMap::Radar::fitTo(const GeoView &view, Projector &projector)
 {
-    const QTransform transform =
-        view.screenTransform() * QTransform::fromScale(view.devicePixelRatio(), view.devicePixelRatio());
-    const bool sameSize = raster && raster->image().size() == view.screenRect().size() * view.devicePixelRatio()
-        && store.endCell() <= raster->reach();
-    if (sameSize && transform == rasterTransform) {
+    const auto shift = wide.follow(view);
+    const bool usable = shift && raster && store.endCell() <= raster->reach();
+    dragged = usable && shift->isNull() && paintedTransform != view.screenTransform();
+    paintedTransform = view.screenTransform();
+    if (usable && shift->isNull()) {
         return;
     }
-    const SiteOffsets offsets(projector, place.location, view);
-    const auto shift = sameSize ? wholePixelShift(rasterTransform, transform) : std::nullopt;
-    rasterTransform = transform;
-    if (shift) {
+    const SiteOffsets offsets(projector, place.location, wide.view());
+    if (usable) {
         raster->moveView(offsets, *shift);
         return;
     }
@@ -221,12 +213,27 @@ void GeoVideoMap::Radar::fitTo(const GeoView &view, Projector &projector)
     raster->setView(offsets, store, cellSize);
 }
 
+// A view that is dragged comes many times a second: what the antenna brings between two frames need not be in each.
+void GeoVideoMap::Radar::update(const VideoPalette &palette, qint64 now, qint64 validity)
+{
+    if (dragged && now - updateTime < UpdateIntervalMs) {
+        return;
+    }
+    updateTime = now;
+    raster->update(store, palette, now, validity);
+    store.forgetChanges();
+}
+
 void GeoVideoMap::paintRadar(QPainter &painter, const GeoView &view, Radar &radar)
 {
     radar.fitTo(view, *m_projector);
-    radar.raster->update(radar.store, m_palette, m_clock(), m_validity);
-    radar.store.forgetChanges();
-    const QRectF source = radar.raster->bounds();
-    const QRectF target(source.topLeft() / view.devicePixelRatio(), source.size() / view.devicePixelRatio());
+    radar.update(m_palette, m_clock(), m_validity);
+    const QRect seen = radar.wide.seen();
+    const QRectF source = radar.raster->bounds() & seen;
+    if (source.isEmpty()) {
+        return;
+    }
+    const QRectF target(
+        (source.topLeft() - seen.topLeft()) / view.devicePixelRatio(), source.size() / view.devicePixelRatio());
     painter.drawImage(target, radar.raster->image(), source);
 }

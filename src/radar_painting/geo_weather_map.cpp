@@ -144,23 +144,45 @@ void GeoWeatherMap::paint(QPainter &painter, const GeoView &view)
     if (m_shapes.empty()) {
         return;
     }
-    const double ratio = view.devicePixelRatio();
-    if (!m_rendered || m_canvas.image().size() != view.screenRect().size() * ratio
-        || m_renderedTransform != view.screenTransform()) {
-        render(view);
+    const std::optional<QPoint> shift = m_wide.follow(view);
+    if (!m_rendered || !shift) {
+        render();
+    } else if (!shift->isNull()) {
+        move(*shift);
     }
+    const double ratio = view.devicePixelRatio();
+    const QRect seen = m_wide.seen();
     painter.resetTransform();
-    for (const QRect &part : m_parts) {
-        const QRectF target(QPointF(part.topLeft()) / ratio, QSizeF(part.size()) / ratio);
+    for (const QRect &whole : m_parts) {
+        const QRect part = whole & seen;
+        if (part.isEmpty()) {
+            continue;
+        }
+        const QRectF target(QPointF(part.topLeft() - seen.topLeft()) / ratio, QSizeF(part.size()) / ratio);
         painter.drawImage(target, m_canvas.image(), part);
     }
 }
 
-void GeoWeatherMap::render(const GeoView &view)
+void GeoWeatherMap::render()
 {
-    const double ratio = view.devicePixelRatio();
-    const QTransform toDevice = view.screenTransform() * QTransform::fromScale(ratio, ratio);
-    m_canvas.reset(view.screenRect().size() * ratio);
+    m_canvas.reset(m_wide.deviceSize());
+    drawShapes();
+    m_rendered = true;
+}
+
+// Only what has come into the picture is drawn.
+void GeoWeatherMap::move(const QPoint &shift)
+{
+    for (const QRect &exposed : m_canvas.move(shift)) {
+        m_canvas.setClip(exposed);
+        drawShapes();
+    }
+}
+
+void GeoWeatherMap::drawShapes()
+{
+    const double ratio = m_wide.view().devicePixelRatio();
+    const QTransform &toDevice = m_wide.deviceTransform();
     // Tied to the ground, so that it moves along with it.
     m_canvas.setHatching(toDevice.map(m_projector->toCartesian(m_site)), qRound(HatchSpacing * ratio), qRound(ratio));
     for (const WeatherShape &shape : m_shapes) {
@@ -175,6 +197,4 @@ void GeoWeatherMap::render(const GeoView &view)
             levelVisible(shape.level) ? QuadCanvas::Pattern::Solid : QuadCanvas::Pattern::Hatched);
     }
     m_parts = m_canvas.filledParts();
-    m_rendered = true;
-    m_renderedTransform = view.screenTransform();
 }

@@ -3,6 +3,7 @@
 #include "geo/geo_coordinate.h"
 #include "radar_painting/quad_canvas.h"
 #include "radar_painting/weather_shapes.h"
+#include "radar_painting/wide_view.h"
 #include "view/geo_layer.h"
 
 #include <QColor>
@@ -64,7 +65,9 @@ private:
     void setVectorWidth(double width, bool automatic);
     void makeShapes();
     void dropExpired();
-    void render(const GeoView &view);
+    void render();
+    void move(const QPoint &shift);
+    void drawShapes();
 
     Projector *m_projector;
     std::function<qint64()> m_clock;
@@ -82,8 +85,8 @@ private:
     qint64 m_pictureTime = 0;
     std::vector<WeatherShape> m_shapes;
     bool m_rendered = false;
-    QTransform m_renderedTransform;
-    QuadCanvas m_canvas; // device pixels
+    WideView m_wide; // that is rendered
+    QuadCanvas m_canvas; // its device pixels
     std::vector<QRect> m_parts; // of the canvas that there is something in
     quint64 m_emptyPictures = 0;
     quint64 m_placelessPictures = 0;

@@ -1,5 +1,7 @@
 #include "radar_painting/quad_canvas.h"
 
+#include <QRegion>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -16,9 +18,28 @@ void QuadCanvas::reset(const QSize &size)
         m_image = QImage(size, QImage::Format_ARGB32_Premultiplied);
     }
     m_image.fill(Qt::transparent);
+    m_clip = m_image.rect();
     m_pixels = reinterpret_cast<QRgb *>(m_image.bits());
     m_tileColumns = size.width() / TileWidth + 1;
     m_filledTiles.assign(std::size_t(m_tileColumns * (size.height() / TileHeight + 1)), false);
+}
+
+std::vector<QRect> QuadCanvas::move(const QPoint &shift)
+{
+    const std::vector<QRect> filled = filledParts();
+    const QImage before = m_image.copy();
+    reset(m_image.size());
+    for (const QRect &part : filled) {
+        const QRect moved = part.translated(shift) & m_image.rect();
+        for (int row = moved.top(); row <= moved.bottom(); ++row) {
+            const auto *from = reinterpret_cast<const QRgb *>(before.constScanLine(row - shift.y()));
+            QRgb *to = m_pixels + std::size_t(row) * std::size_t(m_image.width());
+            std::copy_n(from + moved.left() - shift.x(), moved.width(), to + moved.left());
+            noteFilled(row, moved.left(), moved.right());
+        }
+    }
+    const QRegion exposed = QRegion(m_image.rect()) - m_image.rect().translated(shift);
+    return {exposed.begin(), exposed.end()};
 }
 
 void QuadCanvas::setHatching(const QPointF &origin, int spacing, int width)
@@ -44,11 +65,11 @@ void QuadCanvas::fill(const Quad &quad, QRgb premultiplied, Pattern pattern)
         top = std::min(top, corner.y());
         bottom = std::max(bottom, corner.y());
     }
-    if (right < 0.0 || left >= m_image.width() || bottom < 0.0 || top >= m_image.height()) {
+    if (right < m_clip.left() || left >= m_clip.right() + 1 || bottom < m_clip.top() || top >= m_clip.bottom() + 1) {
         return;
     }
-    m_top = std::max(int(std::floor(top)), 0);
-    const int last = std::min(int(std::floor(bottom)), m_image.height() - 1);
+    m_top = std::max(int(std::floor(top)), m_clip.top());
+    const int last = std::min(int(std::floor(bottom)), m_clip.bottom());
     m_rows.assign(
         std::size_t(last - m_top + 1), {std::numeric_limits<double>::max(), std::numeric_limits<double>::lowest()});
     for (std::size_t i = 0; i < quad.size(); ++i) {
@@ -85,17 +106,22 @@ void QuadCanvas::addEdge(const QPointF &from, const QPointF &to)
 void QuadCanvas::fillRow(int row, QRgb premultiplied, Pattern pattern)
 {
     const Extent &extent = m_rows[std::size_t(row - m_top)];
-    if (extent.right < 0.0 || extent.left >= m_image.width()) {
+    if (extent.right < m_clip.left() || extent.left >= m_clip.right() + 1) {
         return;
     }
-    const int first = int(std::max(extent.left, 0.0));
-    const int last = int(std::min(extent.right, m_image.width() - 1.0));
+    const int first = int(std::max(extent.left, double(m_clip.left())));
+    const int last = int(std::min(extent.right, double(m_clip.right())));
     QRgb *line = m_pixels + std::size_t(row) * std::size_t(m_image.width());
     if (pattern == Pattern::Solid) {
         std::fill(line + first, line + last + 1, premultiplied);
     } else {
         hatch(line, row, first, last, premultiplied);
     }
+    noteFilled(row, first, last);
+}
+
+void QuadCanvas::noteFilled(int row, int first, int last)
+{
     for (int column = first / TileWidth; column <= last / TileWidth; ++column) {
         m_filledTiles[std::size_t(row / TileHeight * m_tileColumns + column)] = true;
     }

@@ -23,6 +23,10 @@ public:
 
     // Empties the picture.
     void reset(const QSize &size);
+    // Moves what has been drawn. Returns the parts into which nothing has come; they are empty.
+    std::vector<QRect> move(const QPoint &shift);
+    // What lies outside is drawn no more, until the next reset.
+    void setClip(const QRect &clip) { m_clip = clip & m_image.rect(); }
     // Corners that are no numbers, or too far away to be told from such, draw nothing.
     void fill(const Quad &quad, QRgb premultiplied, Pattern pattern = Pattern::Solid);
 
@@ -34,11 +38,13 @@ private:
     static constexpr int TileWidth = 64;
     static constexpr int TileHeight = 16;
 
+    void noteFilled(int row, int first, int last);
     void addEdge(const QPointF &from, const QPointF &to);
     void fillRow(int row, QRgb premultiplied, Pattern pattern);
     void hatch(QRgb *line, int row, int first, int last, QRgb premultiplied) const;
 
     QImage m_image;
+    QRect m_clip;
     QRgb *m_pixels = nullptr; // of the image; its lines follow each other without padding
     int m_tileColumns = 0;
     std::vector<char> m_filledTiles; // row by row

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void neighboursShowNoSeams();
     void strongerLevelsLieOnTop();
     void hiddenLevelsAreHatched();
+    void movesWithTheView();
     void keepsUpWithItsCauses();
     void picturesComeAndGo();
     void ignoresNonsense();
@@ -198,6 +199,23 @@ void TestGeoWeatherMap::hiddenLevelsAreHatched()
     PaintedView moved(2500.0, plane(Site) + QPointF(3 * 2500.0, -2 * 2500.0));
     moved.paint([&](QPainter &painter, const GeoView &view) { m_layer->paint(painter, view); });
     QCOMPARE(moved.image().copy(50, 50, 300, 300), hatched.image().copy(53, 52, 300, 300));
+}
+
+// What is moved on the screen must look as if it had been drawn there.
+void TestGeoWeatherMap::movesWithTheView()
+{
+    m_layer->setPicture(picture({{1, 0.0, 90.0, 45.0}, {3, 20.0, 100.0, 135.0}, {5, 30.0, 120.0, 290.0}}));
+    m_layer->setLevelVisible(3, false); // hatched
+    const auto paintedAt = [this](const QPointF &pixels) {
+        PaintedView view(2500.0, plane(Site) + pixels * 2500.0);
+        view.paint([&](QPainter &painter, const GeoView &shown) { m_layer->paint(painter, shown); });
+        return view.image();
+    };
+    for (const QPointF pixels : {QPointF(0, 0), QPointF(9, -5), QPointF(75, -5), QPointF(40, 120), QPointF(-300, 90)}) {
+        const QImage moved = paintedAt(pixels);
+        m_layer->applyConfig(m_config); // all is drawn anew
+        QCOMPARE(moved, paintedAt(pixels));
+    }
 }
 
 // What was drawn is kept; nothing of it may survive its cause.
