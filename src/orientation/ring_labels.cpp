@@ -45,9 +45,31 @@ std::vector<Place> placesInSight(const QPolygonF &ring, const QRectF &sight)
     return places;
 }
 
+// Between two bearings of 0 to 360 degrees.
 double turn(double from, double to)
 {
-    return std::abs(std::remainder(to - from, 360.0));
+    const double apart = std::abs(to - from);
+    return std::min(apart, 360.0 - apart);
+}
+
+struct Candidate {
+    QPointF point;
+    double turn = 0.0; // degrees from the bearing that is wanted
+};
+
+// Those in the bearing's quarter, the nearest first.
+std::vector<Candidate> inQuarter(const std::vector<Place> &places, double bearing)
+{
+    std::vector<Candidate> candidates;
+    for (const Place &place : places) {
+        const double away = turn(bearing, place.bearing);
+        if (away <= Quarter) {
+            candidates.push_back({place.point, away});
+        }
+    }
+    std::stable_sort(candidates.begin(), candidates.end(),
+        [](const Candidate &one, const Candidate &other) { return one.turn < other.turn; });
+    return candidates;
 }
 
 bool crowds(const std::vector<RingLabel> &labels, const QPointF &point)
@@ -62,17 +84,14 @@ std::vector<RingLabel> placeOnRing(const QPolygonF &ring, const QString &text, T
 {
     std::vector<RingLabel> labels;
     const QRectF box = mapTextRect({}, text);
-    std::vector<Place> places =
+    const std::vector<Place> places =
         placesInSight(ring, room.view().adjusted(-box.left(), -box.top(), -box.right(), -box.bottom()));
     for (const double bearing : Bearings) {
         if (labels.size() == most) {
             break;
         }
-        std::stable_sort(places.begin(), places.end(), [bearing](const Place &one, const Place &other) {
-            return turn(bearing, one.bearing) < turn(bearing, other.bearing);
-        });
-        for (const Place &place : places) {
-            if (turn(bearing, place.bearing) > Quarter || crowds(labels, place.point)) {
+        for (const Candidate &place : inQuarter(places, bearing)) {
+            if (crowds(labels, place.point)) {
                 break;
             }
             if (room.takeIfFree(box.translated(place.point))) {
