@@ -19,6 +19,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 GeoMapDisplay::GeoMapDisplay(Projector *projector, QObject *parent) : QObject(parent)
 {
@@ -75,14 +76,20 @@ void GeoMapDisplay::paint(QPainter &painter, const GeoView &view)
     }
 }
 
-// What is in the corners goes before what can stand elsewhere.
+// What is in the corners goes before the names on the maps, and these before what can stand elsewhere.
 void GeoMapDisplay::placeTexts(const GeoView &view)
 {
     m_textRoom.begin(view.screenRect());
     for (const QRect &rect : m_covered) {
         m_textRoom.take(rect);
     }
+    bool namesTaken = false;
     for (auto entry = m_layers.rbegin(); entry != m_layers.rend(); ++entry) {
+        if (entry->place <= MapLayer::RangeRings && !std::exchange(namesTaken, true)) {
+            for (const QRectF &name : m_staticMap->textPlaces(view)) {
+                m_textRoom.take(name);
+            }
+        }
         if (entry->layer->visible()) {
             entry->layer->placeTexts(view, m_textRoom);
         }

@@ -208,6 +208,26 @@ void GeoStaticMap::paint(QPainter &painter, const GeoView &view)
     painter.drawImage(QPointF(0.0, 0.0), m_picture.image());
 }
 
+QList<QRectF> GeoStaticMap::textPlaces(const GeoView &view) const
+{
+    const QTransform &from = m_region.toSheet;
+    const QTransform &to = view.screenTransform();
+    const bool sameScale =
+        from.m11() == to.m11() && from.m12() == to.m12() && from.m21() == to.m21() && from.m22() == to.m22();
+    QList<QRectF> places;
+    if (!visible() || !m_regionValid || !sameScale) {
+        return places;
+    }
+    const QPointF shift(to.dx() - from.dx(), to.dy() - from.dy());
+    for (const QRectF &box : m_labels.boxes()) {
+        const QRectF place = box.translated(shift);
+        if (place.intersects(view.screenRect())) {
+            places.append(place);
+        }
+    }
+    return places;
+}
+
 void GeoStaticMap::decideForRegion(const std::vector<ShownMap> &maps, double metresPerPixel)
 {
     m_labels.layOut(m_region, maps, m_styles, m_symbolSize);

@@ -37,6 +37,10 @@ public:
     void applyConfig(const Config &config) override;
     SettingGroups settings() const override { return SettingGroup::StaticMaps | SettingGroup::PlanView; }
 
+    // Where the texts of the last frame stand in a view, which may lie beside it: what can stand elsewhere leaves them
+    // free. Those within the view only, pixels.
+    QList<QRectF> textPlaces(const GeoView &view) const;
+
     // True while maps are being prepared in the background; polluted() follows each.
     bool preparing() const;
 

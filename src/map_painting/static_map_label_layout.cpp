@@ -94,6 +94,7 @@ std::array<QPointF, 4> sidesOf(int symbolSize, const QSizeF &size)
 void StaticMapLabelLayout::forget()
 {
     m_placed.clear();
+    m_boxes.clear();
     m_sizes.clear();
 }
 
@@ -111,6 +112,7 @@ void StaticMapLabelLayout::layOut(
     m_region = region;
     m_symbolSize = symbolSize;
     m_placed.clear();
+    m_boxes.clear();
     std::vector<ShownMap> byPriority = maps;
     std::stable_sort(byPriority.begin(), byPriority.end(),
         [](const ShownMap &one, const ShownMap &other) { return one.priority > other.priority; });
@@ -176,6 +178,7 @@ void StaticMapLabelLayout::placeGroup(
                     return false;
                 }
                 taken.take(box);
+                m_boxes.push_back(box);
                 m_placed[{&group, copy}].push_back({&label, offset, size});
                 return true;
             };

@@ -30,6 +30,9 @@ public:
     // Of one group in one copy of the world.
     const std::vector<Placed> &placed(const StaticMapGroup &group, int copy) const;
 
+    // All that are shown, in pixels of the region's sheet.
+    const std::vector<QRectF> &boxes() const { return m_boxes; }
+
     // Maps or styles change.
     void forget();
 
@@ -46,5 +49,6 @@ private:
     StaticMapRegion m_region;
     int m_symbolSize = 0;
     std::map<std::pair<const StaticMapGroup *, int>, std::vector<Placed>> m_placed;
+    std::vector<QRectF> m_boxes;
     QHash<const StaticMapLabel *, QSizeF> m_sizes;
 };

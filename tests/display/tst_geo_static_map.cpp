@@ -40,6 +40,7 @@ private Q_SLOTS:
     void labelsGiveWay();
     void textsStayUpright();
     void textsHaveARimOfTheGround();
+    void tellsWhereItsTextsStand();
     void takesTheConfiguration();
 };
 
@@ -247,6 +248,25 @@ void TestGeoStaticMap::labelsGiveWay()
     const QRect dot = symbol ? QRect(196, 200 - int(greenAway / 0.0045) - 4, 9, 9) : QRect();
     QCOMPARE(tinted(view, Red) > 10, redSeen);
     QCOMPARE(tinted(view, Green) - view.inkIn(dot) > 10, greenSeen);
+}
+
+// Also in a view beside that which was painted, as when the view is being dragged.
+void TestGeoStaticMap::tellsWhereItsTextsStand()
+{
+    GeoStaticMap layer(&projector);
+    layer.setStyleSheet(sheet({styleOf(Green)}));
+    layer.setMaps(
+        {mapOf({labelGroup({{{}, QStringLiteral("WWWW"), {0.1, 0.2}}, {{}, QStringLiteral("W"), {9.0, 9.0}}})})});
+    const PaintedView before = painted(layer, 500.0, plane({0.0, 0.0}));
+    const PaintedView beside(500.0, plane({0.0, 0.0}) + QPointF(20.0, -30.0) * 500.0);
+    const auto places = layer.textPlaces(beside.view());
+    QCOMPARE(places.size(), 1);
+    const QRect ink = painted(layer, 500.0, plane({0.0, 0.0}) + QPointF(20.0, -30.0) * 500.0).extent(Green);
+    QVERIFY(!ink.isEmpty() && places[0].adjusted(-1, -1, 1, 1).contains(ink));
+    QVERIFY(places[0].width() < 2.0 * ink.width());
+    QVERIFY(layer.textPlaces(PaintedView(400.0).view()).isEmpty()); // another scale: not painted yet
+    layer.setVisible(false);
+    QVERIFY(layer.textPlaces(beside.view()).isEmpty());
 }
 
 void TestGeoStaticMap::textsStayUpright()
