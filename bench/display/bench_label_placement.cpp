@@ -112,6 +112,7 @@ public:
         m_covered += covered / area;
         m_symbols += symbolsUnderLabels(frame);
         m_crossings += crossings();
+        m_throughs += leadersThroughLabels();
         ++m_pictures;
     }
 
@@ -132,17 +133,25 @@ public:
                 sum += moves.back();
             }
         }
-        std::sort(moves.begin(), moves.end());
-        const double p95 = moves.empty() ? 0.0 : moves[moves.size() * 95 / 100];
+        const double p95 = percentile95(moves);
         std::printf(
             "%-8s %4d labels (%.0f in view): covered %.3f %%, whole %.1f %%, hidden %.2f, symbols under a label "
-            "%.1f, leaders crossing %.1f, moves a minute %.2f (95th %.1f), %.2f ms (longest %.2f)\n",
+            "%.1f, leaders crossing %.1f, through labels %.1f, long %.0f px (95th %.0f), moves a minute %.2f (95th "
+            "%.1f), "
+            "%.2f ms (longest %.2f)\n",
             name, wanted, m_inView / m_pictures, 100.0 * m_covered / m_pictures, 100.0 * m_whole / m_inView,
-            m_hidden / m_pictures, m_symbols / m_pictures, m_crossings / m_pictures,
+            m_hidden / m_pictures, m_symbols / m_pictures, m_crossings / m_pictures, m_throughs / m_pictures,
+            m_lengthSum / std::max<double>(1.0, double(m_lengths.size())), percentile95(m_lengths),
             sum / double(std::max<std::size_t>(1, moves.size())), p95, m_time / m_pictures, m_longest);
     }
 
 private:
+    static double percentile95(std::vector<double> values)
+    {
+        std::sort(values.begin(), values.end());
+        return values.empty() ? 0.0 : values[values.size() * 95 / 100];
+    }
+
     struct Followed {
         QRect last; // from the symbol; null: hidden
         int pictures = 0;
@@ -158,6 +167,8 @@ private:
         if (shown.label) {
             m_rects.push_back(rect);
             m_leaders.emplace_back(shown.place, LabelField::leaderEnd(shown.place, rect));
+            m_lengths.push_back(m_leaders.back().length());
+            m_lengthSum += m_lengths.back();
         }
         follow(shown.track->incarnationId, shown.label ? rect.translated(-shown.place) : QRect());
     }
@@ -207,8 +218,31 @@ private:
         return count;
     }
 
+    // What the eye would take for the leader of the label that it runs through.
+    double leadersThroughLabels() const
+    {
+        double count = 0.0;
+        for (std::size_t i = 0; i < m_leaders.size(); ++i) {
+            for (std::size_t j = 0; j < m_rects.size(); ++j) {
+                count += i != j && reaches(m_leaders[i], m_rects[j]) ? 1.0 : 0.0;
+            }
+        }
+        return count;
+    }
+
+    static bool reaches(const QLineF &line, const QRectF &rect)
+    {
+        const QLineF sides[] = {{rect.topLeft(), rect.topRight()}, {rect.bottomLeft(), rect.bottomRight()},
+            {rect.topLeft(), rect.bottomLeft()}, {rect.topRight(), rect.bottomRight()}};
+        return std::any_of(std::begin(sides), std::end(sides),
+            [&line](const QLineF &side) { return line.intersects(side) == QLineF::BoundedIntersection; });
+    }
+
     std::vector<QRect> m_rects;
     std::vector<QLineF> m_leaders;
+    std::vector<double> m_lengths; // of all leaders of all pictures, pixels
+    double m_lengthSum = 0.0;
+    double m_throughs = 0.0;
     QHash<quint64, Followed> m_followed;
     double m_covered = 0.0;
     double m_symbols = 0.0;
