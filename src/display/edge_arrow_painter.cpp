@@ -57,9 +57,9 @@ QRectF textPlace(const QRectF &view, const QRectF &arrow, const QSizeF &size)
 
 } // namespace
 
-void EdgeArrowPainter::paint(QPainter *painter, const TrackFrame &frame, const AlertBoard &board, const Tracks &tracks)
+void EdgeArrowPainter::prepare(const TrackFrame &frame, const AlertBoard &board, const Tracks &tracks)
 {
-    m_texts.clear();
+    m_arrows.clear();
     if (!frame.look.fields.alertIndicator) {
         return;
     }
@@ -74,35 +74,53 @@ void EdgeArrowPainter::paint(QPainter *painter, const TrackFrame &frame, const A
                 continue;
             }
             shown.insert(id);
-            paintArrow(painter, frame, *track, attention != AlertBoard::Attention::Asked || frame.blinkOn);
+            add(frame, *track, attention != AlertBoard::Attention::Asked || frame.blinkOn);
         }
     }
 }
 
-void EdgeArrowPainter::paintArrow(QPainter *painter, const TrackFrame &frame, const TrackSnapshot &track, bool filled)
+void EdgeArrowPainter::add(const TrackFrame &frame, const TrackSnapshot &track, bool filled)
 {
     const QRectF view = QRectF(frame.view.screenRect()).adjusted(Inset, Inset, -Inset, -Inset);
     const QPointF place = frame.view.toScreen(track.carCoordinate);
-    const QPointF point = exitPoint(view, place);
     const QPointF away = place - view.center();
-    const QPolygonF shape = arrow(point, std::atan2(away.y(), away.x()));
-    const QColor &color = track.alertsString.isEmpty() ? frame.look.colors.caution : frame.look.colors.labelAlert;
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(color, 1.5));
-    painter->setBrush(filled ? QBrush(color) : QBrush(frame.look.colors.labelBackground));
-    painter->drawPolygon(shape);
-    painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setBrush(Qt::NoBrush);
-
-    const QString words = (track.alertsString + ' ' + trackMarks(track)).simplified() + ' ' + trackName(track);
+    Arrow added;
+    added.shape = arrow(exitPoint(view, place), std::atan2(away.y(), away.x()));
+    added.color = track.alertsString.isEmpty() ? frame.look.colors.caution : frame.look.colors.labelAlert;
+    added.filled = filled;
+    added.words = (track.alertsString + ' ' + trackMarks(track)).simplified() + ' ' + trackName(track);
     const QFontMetricsF metrics(frame.look.labelFont);
-    const QSizeF size(metrics.horizontalAdvance(words) + 2.0 * ArrowTextGap, metrics.height());
-    const QRectF text = textPlace(view, shape.boundingRect(), size);
-    if (std::any_of(m_texts.begin(), m_texts.end(), [&text](const QRectF &other) { return other.intersects(text); })) {
-        return;
+    const QSizeF size(metrics.horizontalAdvance(added.words) + 2.0 * ArrowTextGap, metrics.height());
+    const QRect text = textPlace(view, added.shape.boundingRect(), size).toAlignedRect();
+    const bool taken = std::any_of(
+        m_arrows.begin(), m_arrows.end(), [&text](const Arrow &other) { return other.text.intersects(text); });
+    added.text = taken ? QRect() : text;
+    m_arrows.push_back(added);
+}
+
+QList<QRect> EdgeArrowPainter::places() const
+{
+    QList<QRect> places;
+    for (const Arrow &arrow : m_arrows) {
+        places.append(arrow.shape.boundingRect().toAlignedRect() | arrow.text);
     }
-    m_texts.push_back(text);
+    return places;
+}
+
+void EdgeArrowPainter::paint(QPainter *painter, const TrackFrame &frame) const
+{
+    const QColor ground = frame.look.alertGround();
     painter->setFont(frame.look.labelFont);
-    painter->fillRect(text, frame.look.colors.labelBackground);
-    painter->drawText(text, int(Qt::AlignCenter | Qt::TextDontClip), words);
+    for (const Arrow &arrow : m_arrows) {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(QPen(arrow.color, 1.5));
+        painter->setBrush(arrow.filled ? arrow.color : ground);
+        painter->drawPolygon(arrow.shape);
+        painter->setRenderHint(QPainter::Antialiasing, false);
+        painter->setBrush(Qt::NoBrush);
+        if (!arrow.text.isNull()) {
+            painter->fillRect(arrow.text, ground);
+            painter->drawText(arrow.text, int(Qt::AlignCenter | Qt::TextDontClip), arrow.words);
+        }
+    }
 }

@@ -2,9 +2,12 @@
 
 #include "display/alert_board.h"
 
+#include <QColor>
 #include <QHash>
 #include <QList>
-#include <QRectF>
+#include <QPolygonF>
+#include <QRect>
+#include <QString>
 
 #include <vector>
 
@@ -17,10 +20,25 @@ class EdgeArrowPainter {
 public:
     using Tracks = QHash<unsigned long long, const TrackSnapshot *>; // by TrackSnapshot::incarnationId
 
-    void paint(QPainter *painter, const TrackFrame &frame, const AlertBoard &board, const Tracks &tracks);
+    // Takes the arrows of a frame.
+    void prepare(const TrackFrame &frame, const AlertBoard &board, const Tracks &tracks);
+    void clear() { m_arrows.clear(); }
+
+    void paint(QPainter *painter, const TrackFrame &frame) const;
+
+    // Of the frame's arrows and their texts, in pixels.
+    QList<QRect> places() const;
 
 private:
-    void paintArrow(QPainter *painter, const TrackFrame &frame, const TrackSnapshot &track, bool filled);
+    struct Arrow {
+        QPolygonF shape;
+        QColor color;
+        bool filled = false;
+        QString words;
+        QRect text; // null: there is no room for it
+    };
 
-    std::vector<QRectF> m_texts; // of the frame: one that has no room is left out
+    void add(const TrackFrame &frame, const TrackSnapshot &track, bool filled);
+
+    std::vector<Arrow> m_arrows;
 };

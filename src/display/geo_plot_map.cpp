@@ -1,6 +1,7 @@
 #include "display/geo_plot_map.h"
 
 #include "app/config.h"
+#include "display/track_symbols.h"
 #include "engine/display_snapshot.h"
 #include "sensors/sensor_info.h"
 #include "view/geo_view.h"
@@ -99,11 +100,27 @@ std::size_t GeoPlotMap::shownPlots() const
     return visible() ? count : 0;
 }
 
+std::vector<GeoPlotMap::MarkMeaning> GeoPlotMap::shownMarks() const
+{
+    std::vector<MarkMeaning> shown;
+    for (std::size_t kind = 0; visible() && kind < PlotMarks::Kinds; ++kind) {
+        if (m_painted.test(kind)) {
+            const auto type = static_cast<Track::Type>(kind);
+            QPixmap picture = QPixmap::fromImage(m_marks.mark(type, 0));
+            picture.setDevicePixelRatio(m_ratio);
+            shown.push_back({tr("%1 plot").arg(TrackSymbols::meaning(TrackSymbols::forTrackType(type))), picture});
+        }
+    }
+    return shown;
+}
+
 // In device pixels, so that each mark stays as sharp as it was drawn.
 void GeoPlotMap::paint(QPainter &painter, const GeoView &view)
 {
     const double ratio = view.devicePixelRatio();
     m_marks.prepare(m_color, ratio);
+    m_ratio = ratio;
+    m_painted.reset();
     painter.setWorldTransform(QTransform::fromScale(1.0 / ratio, 1.0 / ratio));
     const QTransform toDevice = view.screenTransform() * QTransform::fromScale(ratio, ratio);
     const int reach = m_marks.reach();
@@ -120,6 +137,7 @@ void GeoPlotMap::paint(QPainter &painter, const GeoView &view)
             const QPoint pixel(static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y())));
             const QImage &mark = m_marks.mark(plot.type, static_cast<int>(age * PlotMarks::FadeSteps / life));
             painter.drawImage(pixel - QPoint(reach, reach), mark);
+            m_painted.set(PlotMarks::kindOf(plot.type));
         }
     }
 }

@@ -5,9 +5,13 @@
 #include "view/geo_layer.h"
 
 #include <QColor>
+#include <QPixmap>
 #include <QSharedPointer>
+#include <QString>
 
+#include <bitset>
 #include <deque>
+#include <vector>
 
 class SensorInfo;
 struct DisplaySnapshot;
@@ -28,6 +32,13 @@ public:
     void applyConfig(const Config &config) override;
     SettingGroups settings() const override { return SettingGroup::Plots; }
 
+    struct MarkMeaning {
+        QString meaning;
+        QPixmap picture; // carries the ratio
+    };
+    // The marks that the last frame showed, each once, in its pixels; none while the layer is hidden.
+    std::vector<MarkMeaning> shownMarks() const;
+
     // All that have not faded, in view or not; 0 while the layer is hidden.
     std::size_t shownPlots() const;
     // Since the layer was made: those that came and went between two snapshots, and those for which there was no room.
@@ -46,6 +57,8 @@ private:
     qint64 lifeTime() const;
 
     PlotMarks m_marks;
+    std::bitset<PlotMarks::Kinds> m_painted; // by the last frame
+    double m_ratio = 1.0; // of the last frame
     std::deque<QSharedPointer<const PlotBatch>> m_batches; // the oldest first
     std::size_t m_held = 0; // plots in them
     quint64 m_run = 0; // of the plots

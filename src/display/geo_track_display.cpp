@@ -1,6 +1,7 @@
 #include "display/geo_track_display.h"
 
 #include "app/config.h"
+#include "engine/track_life_span.h"
 
 #include <QtMath>
 
@@ -39,6 +40,13 @@ void GeoTrackDisplay::setSnapshot(const QSharedPointer<const DisplaySnapshot> &s
     m_places.removeIf([this](unsigned long long id) { return !hasTrack(id); });
     m_frame.tracks.clear(); // their labels go
     m_labels.removeIf([this](unsigned long long id) { return !hasTrack(id); });
+}
+
+// Half way from coasting to the end, which leaves time to look.
+void GeoTrackDisplay::setSensor(const QSharedPointer<SensorInfo> &sensor)
+{
+    const auto life = TrackLifeSpan::forSensor(sensor.data());
+    change(&m_look.longestCoastingMs, life ? int((life->coastingMs + life->terminationMs) / 2) : 0);
 }
 
 void GeoTrackDisplay::applyConfig(const Config &config)

@@ -19,6 +19,7 @@
 #include <QColor>
 #include <QFont>
 #include <QHash>
+#include <QList>
 #include <QObject>
 #include <QPoint>
 #include <QRect>
@@ -28,6 +29,7 @@
 class Config;
 class GeoView;
 class QPainter;
+class SensorInfo;
 
 // The air picture: for each track of the newest snapshot its trail, speed vector, label and symbol, and the label
 // places that the operator chose. Track keys are TrackSnapshot::incarnationId, 0 is none. GUI thread only.
@@ -78,8 +80,9 @@ public:
     // Gives up the place that the operator gave a label, or all of them.
     void resetTrackLabelOffset(unsigned long long id);
     void resetTrackLabelOffsets();
-    // Places, in pixels, that labels that arrange themselves leave to the map's read-outs.
-    void keepFree(const QList<QRect> &places) { m_places.keepFree(places); }
+    // Places, in pixels, that labels that arrange themselves leave to the map's read-outs and to what lies over the
+    // scope.
+    void keepFree(const QList<QRect> &places) { m_keptFree = places; }
     // While the view is being dragged labels that arrange themselves keep to their tracks.
     void setViewHeld(bool held);
 
@@ -91,6 +94,8 @@ public:
     // The track that the pointer is on, here or in a list.
     unsigned long long hoveredTrackId() const { return m_hoveredTrack; }
 
+    // Whose reports make the tracks: says after how long a silence a coasting track needs a look. May be null.
+    void setSensor(const QSharedPointer<SensorInfo> &sensor);
     // Takes what the settings say of tracks.
     void applyConfig(const Config &config);
 
@@ -191,6 +196,7 @@ private:
     void noteAcknowledgement(bool any);
     void setField(bool TrackLabelFields::*field, bool visible);
 
+    void arrange();
     void placeLabels();
     void noteShortenedLabels();
     void paintDetails(QPainter *painter);
@@ -208,6 +214,7 @@ private:
     bool m_blinkOn = true;
 
     TrackLabelPlaces m_places;
+    QList<QRect> m_keptFree;
     int m_shortenedLabels = 0;
     QHash<unsigned long long, QRect> m_labelRects; // of the last paint, pixels from the track's place
     TrackLabelCache m_labels;

@@ -29,7 +29,7 @@ void GeoTrackDisplay::paint(QPainter *painter, const GeoView &view)
     m_frame.hoveredTrack = m_hoveredTrack;
     m_frame.blinkOn = m_blinkOn;
     m_frame.collect(m_alerts);
-    placeLabels();
+    arrange();
     noteShortenedLabels();
     painter->save();
     painter->resetTransform();
@@ -40,13 +40,35 @@ void GeoTrackDisplay::paint(QPainter *painter, const GeoView &view)
         m_leaderPainter.prepare(m_frame);
         m_labelPainter.prepare(painter, m_frame);
         m_look.isCompact() ? paintCompactDetails(painter) : paintDetails(painter);
-        m_conflictLinePainter.paintTexts(painter, m_frame, m_alerts.entries(), m_tracksById);
+        m_conflictLinePainter.paintTexts(painter, m_frame);
         m_highlightPainter.paint(painter, m_frame);
-        m_edgeArrowPainter.paint(painter, m_frame, m_alerts, m_tracksById);
+        m_edgeArrowPainter.paint(painter, m_frame);
     } else {
         paintSymbols(painter);
     }
     painter->restore();
+}
+
+// Labels that arrange themselves make room for the figures of alerts; among labels that do not, these find their own.
+void GeoTrackDisplay::arrange()
+{
+    m_conflictLinePainter.clear();
+    m_edgeArrowPainter.clear();
+    if (!m_frame.showsDetails()) {
+        return;
+    }
+    const auto prepareFigures = [this] {
+        m_edgeArrowPainter.prepare(m_frame, m_alerts, m_tracksById);
+        m_conflictLinePainter.prepare(
+            m_frame, m_alerts.entries(), m_tracksById, m_keptFree + m_edgeArrowPainter.places());
+    };
+    if (m_look.autoPlace) {
+        prepareFigures();
+        placeLabels();
+    } else {
+        placeLabels();
+        prepareFigures();
+    }
 }
 
 void GeoTrackDisplay::paintSymbols(QPainter *painter)
@@ -69,7 +91,7 @@ void GeoTrackDisplay::paintDetails(QPainter *painter)
         m_leaderPainter.paint(painter, m_frame, shown);
     }
     paintSymbols(painter);
-    m_conflictLinePainter.paintLines(painter, m_frame, m_alerts.entries(), m_tracksById);
+    m_conflictLinePainter.paintLines(painter, m_frame);
     for (const ShownTrack &shown : m_frame.raised()) {
         paintLines(shown);
         paintRaisedLabel(painter, shown);
@@ -98,7 +120,7 @@ void GeoTrackDisplay::paintCompactDetails(QPainter *painter)
         m_labelPainter.paint(painter, m_frame, shown);
     }
     paintSymbols(painter);
-    m_conflictLinePainter.paintLines(painter, m_frame, m_alerts.entries(), m_tracksById);
+    m_conflictLinePainter.paintLines(painter, m_frame);
     for (const ShownTrack &shown : m_frame.raised()) {
         paintRaisedLabel(painter, shown);
     }
@@ -129,7 +151,7 @@ bool GeoTrackDisplay::isUnderRaisedLabel(const QPoint &place) const
 
 void GeoTrackDisplay::placeLabels()
 {
-    if (!m_frame.showsDetails() || !m_look.showsLabels()) {
+    if (!m_look.showsLabels()) {
         return;
     }
     for (const ShownTrack &shown : m_frame.tracks) {
@@ -138,7 +160,8 @@ void GeoTrackDisplay::placeLabels()
     for (ShownTrack &shown : m_frame.tracks) {
         shown.label = m_labels.find(shown.track->incarnationId);
     }
-    m_places.place(m_frame, m_hoveredTrack);
+    m_places.place(m_frame,
+        {m_keptFree + m_edgeArrowPainter.places() + m_conflictLinePainter.textPlaces(), m_conflictLinePainter.lines()});
     m_labelRects.reserve(qsizetype(m_frame.tracks.size()));
     for (const ShownTrack &shown : m_frame.tracks) {
         if (shown.label) {

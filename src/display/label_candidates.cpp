@@ -9,6 +9,7 @@ namespace {
 // Pixels between symbol and label. At the middle of a crowd the nearest free place is far away.
 constexpr std::array RingGaps = {4, 11, 19, 28, 39, 52, 67, 85, 106, 131, 161, 196, 237, 286, 343, 411};
 constexpr float DistanceCost = 0.4f; // a pixel
+constexpr float FarCost = 0.002f; // a square pixel: the eye loses long leaders
 constexpr float SideCost = 2.5f; // for the side opposite to the preferred one
 constexpr int StepsAcross = 8; // of the label along its own width
 constexpr int StepsDown = 4;
@@ -41,7 +42,8 @@ float LabelCandidates::cost(const QPoint &offset, const QSize &size) const
     const double cosine = product > 0.0 ? QPointF::dotProduct(wanted, centre) / product : 1.0;
     const int x = std::max({offset.x(), -offset.x() - size.width(), 0});
     const int y = std::max({offset.y(), -offset.y() - size.height(), 0});
-    return DistanceCost * float(std::hypot(x, y)) + SideCost * float(1.0 - cosine) / 2.0f;
+    const float distance = float(std::hypot(x, y));
+    return DistanceCost * distance + FarCost * distance * distance + SideCost * float(1.0 - cosine) / 2.0f;
 }
 
 std::vector<LabelCandidates::Candidate> LabelCandidates::make(const QSize &size) const

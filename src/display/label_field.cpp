@@ -10,9 +10,10 @@ constexpr int DensityPixels = 8; // side of the cells for guesses
 constexpr double DensityUnits = 16.0; // whole numbers add up quicker
 // A square pixel of a label under another one, of a symbol under a label.
 constexpr double LabelAreaCost = 2.0;
-constexpr double SymbolAreaCost = 2.0;
+constexpr double SymbolAreaCost = 2.2;
 constexpr double CrossingCost = 150.0; // of two leaders
-constexpr double ThroughCost = 1.0; // of a leader through a label
+constexpr double ThroughCost = 40.0; // of a leader through a label
+constexpr double YieldingShare = 0.15; // of what a label that yields costs one that does not
 constexpr double FreeLineCost = 100.0; // of a line that is to stay free under a label
 
 int sharedArea(const QRect &a, const QRect &b)
@@ -112,6 +113,11 @@ void LabelField::addSymbol(int owner, const QPoint &place, const QPointF &motion
     addDensity(symbolRect(added), int(SymbolAreaCost * DensityUnits));
 }
 
+void LabelField::setYields(int owner, bool yields)
+{
+    m_owners[std::size_t(owner)].yields = yields;
+}
+
 void LabelField::addFreeLine(int owner, const QPoint &tip)
 {
     m_freeLines.emplace_back(m_owners[std::size_t(owner)].place, tip);
@@ -162,15 +168,18 @@ double LabelField::cost(int owner, const QRect &rect, double limit) const
     if (!go) {
         return cost;
     }
-    const QLine leader(m_owners[std::size_t(owner)].place, leaderEnd(m_owners[std::size_t(owner)].place, rect));
+    const Owner &asked = m_owners[std::size_t(owner)];
+    const QLine leader(asked.place, leaderEnd(asked.place, rect));
     ++m_question;
     visit(m_labelCells, m_columns, cellsOf(rect | boundsOf(leader)), [&](int other) {
         unsigned int &visited = m_visited[std::size_t(other)];
         if (other != owner && visited != m_question) {
             visited = m_question;
             const Owner &stands = m_owners[std::size_t(other)];
-            cost += LabelAreaCost * sharedArea(rect, stands.rect) + (cross(leader, stands.leader) ? CrossingCost : 0.0)
-                + (cross(rect, stands.leader) ? ThroughCost : 0.0) + (cross(stands.rect, leader) ? ThroughCost : 0.0);
+            const double inTheWay = LabelAreaCost * sharedArea(rect, stands.rect)
+                + (cross(leader, stands.leader) ? CrossingCost : 0.0) + (cross(rect, stands.leader) ? ThroughCost : 0.0)
+                + (cross(stands.rect, leader) ? ThroughCost : 0.0);
+            cost += !asked.yields && stands.yields ? YieldingShare * inTheWay : inTheWay;
         }
         return cost < limit;
     });

@@ -16,6 +16,8 @@ public:
     void reset(const QRect &area, int owners, int symbolReach);
     // Before anything else of that owner.
     void addSymbol(int owner, const QPoint &place, const QPointF &motion);
+    // Whether its label gets out of the way of one that does not yield. All do until told otherwise.
+    void setYields(int owner, bool yields);
     // A line from an owner's symbol that the labels of all leave free.
     void addFreeLine(int owner, const QPoint &tip);
     // The owner's label; of one that has a label already, instead of that.
@@ -43,6 +45,7 @@ private:
         QPointF motion;
         QRect rect; // of the label; null: none
         QLine leader;
+        bool yields = true;
     };
 
     QRect cellsOf(const QRect &rect) const;

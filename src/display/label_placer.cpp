@@ -9,17 +9,18 @@ constexpr int OutsideMargin = 300; // pixels round the view in which it matters 
 constexpr int EdgeGap = 2; // pixels between label and edge
 constexpr int MemoryCalls = 300; // for which a track that is not shown is remembered
 constexpr int RetryCalls = 20; // until a label looks again that found nothing better
-constexpr double Horizon = 90.0; // seconds looked ahead
-constexpr double HorizonCost = 250.0; // of a place that is about to be taken
+constexpr double Horizon = 75.0; // seconds looked ahead
+constexpr double HorizonCost = 350.0; // of a place that is about to be taken
 constexpr double VectorCost = 3.0; // of covering its own vector
 constexpr double CrowdCost = 0.3; // of each symbol around: the edge of a crowd has more room
 constexpr double EdgeCost = 220.0; // of reaching beyond the edge
 constexpr double EdgePixelCost = 0.5; // of a pixel beyond the edge
 constexpr double BadCost = 60.0; // more than that and a label looks for another place
-constexpr double ShortenedCost = 550.0; // of giving up lines
+constexpr double ShortenedCost = 450.0; // of giving up lines
 constexpr double HiddenCost = 1400.0; // of not being shown
 constexpr double ChangeCost = 200.0; // what a move or another form has to be worth
-constexpr double ExchangeCost = 600.0; // what the moves of two labels have to be worth
+constexpr double FarPlaceCost = 30.0; // of a place from which a label that has become urgent comes nearer
+constexpr double ExchangeCost = 500.0; // what the moves of two labels have to be worth
 constexpr int WorkLimit = 6000; // candidates a call, from which on what can wait does
 constexpr std::size_t HastyStride = 20; // of the candidates looked at when there is no time for all
 constexpr double NoLimit = 1e9;
@@ -96,6 +97,7 @@ void LabelPlacer::collect(const std::vector<Label> &labels)
         memory.seen = m_call;
         m_entries.push_back({&label, &memory, m_scene.view.contains(label.place)});
         m_field.addSymbol(index, label.place, label.motion);
+        m_field.setYields(index, !label.pinned && label.priority < Priority::Selected);
         if (label.keepsVectorFree && !label.vectorTip.isNull()) {
             m_field.addFreeLine(index, label.place + label.vectorTip);
         }
@@ -125,7 +127,9 @@ void LabelPlacer::recall(int index)
         settle(index, {label.pinnedOffset, 0.0, 0.0, Form::Whole});
         return;
     }
-    if (memory.isNew || (staysWhole(index) && memory.form != Form::Whole)) {
+    const bool comesNear = isUrgent(index) && label.priority > memory.priority && memory.placeCost > FarPlaceCost;
+    memory.priority = label.priority;
+    if (memory.isNew || comesNear || (staysWhole(index) && memory.form != Form::Whole)) {
         m_new.push_back(index);
         return;
     }
@@ -256,6 +260,11 @@ bool LabelPlacer::staysWhole(int index) const
     return priority != Priority::Normal && priority != Priority::Hovered;
 }
 
+bool LabelPlacer::isUrgent(int index) const
+{
+    return entry(index).label->priority >= Priority::Selected;
+}
+
 bool LabelPlacer::isMovable(int index) const
 {
     return !entry(index).label->pinned && entry(index).label->priority == Priority::Normal;
@@ -377,7 +386,7 @@ LabelPlacer::Found LabelPlacer::bestPlace(int index, Form form, Found best)
         }
         ++m_work;
         const QRect rect(label.place + candidate.offset, size);
-        if (own + RoughShare * m_field.roughCost(rect) < best.cost) {
+        if (isUrgent(index) || own + RoughShare * m_field.roughCost(rect) < best.cost) {
             const double cost = placeCost(index, rect, own, best.cost);
             best = cost < best.cost ? Found{candidate.offset, double(candidate.cost), cost, form} : best;
         }

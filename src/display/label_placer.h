@@ -67,6 +67,7 @@ private:
         double placeCost = 0.0; // of its offset alone
         QSize size;
         Form form = Form::Hidden;
+        Priority priority = Priority::Normal;
         bool isNew = true;
         int seen = 0; // the number of the call
         int retry = 0; // the call from which on it looks for a better place again
@@ -99,6 +100,7 @@ private:
     Placed hovered(int index);
 
     bool staysWhole(int index) const;
+    bool isUrgent(int index) const;
     bool isMovable(int index) const;
     bool isGood(int index) const;
     bool isWanting(int index) const;

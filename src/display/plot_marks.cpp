@@ -90,8 +90,7 @@ void PlotMarks::prepare(const QColor &color, double devicePixelRatio)
 
 const QImage &PlotMarks::mark(Track::Type type, int step) const
 {
-    const Track::Type kind = type <= Track::Smr ? type : Track::Unknown;
-    return m_marks[kind][static_cast<std::size_t>(step)];
+    return m_marks[kindOf(type)][static_cast<std::size_t>(step)];
 }
 
 // At full strength first, so that lines that cross are not darker where they do.

@@ -14,18 +14,18 @@
 class PlotMarks {
 public:
     static constexpr int FadeSteps = 12;
+    static constexpr std::size_t Kinds = Track::Smr + 1;
 
     // To be called before each painting; draws them anew where one of the two has changed.
     void prepare(const QColor &color, double devicePixelRatio);
 
     // In device pixels, square, with the plot's place in the middle pixel. A step is 0 to FadeSteps - 1.
     const QImage &mark(Track::Type type, int step) const;
+    static Track::Type kindOf(Track::Type type) { return type <= Track::Smr ? type : Track::Unknown; }
     // Device pixels from the edge to the middle.
     int reach() const { return m_reach; }
 
 private:
-    static constexpr std::size_t Kinds = Track::Smr + 1;
-
     QImage drawn(Track::Type type, double opacity) const;
 
     QColor m_color;

@@ -17,6 +17,10 @@ void TrackFrame::collect(const AlertBoard &alerts)
     if (!snapshot) {
         return;
     }
+    const auto isOverdue = [this](const TrackSnapshot &track) {
+        return track.coasting && look.longestCoastingMs > 0
+            && track.lastUpdate.msecsTo(snapshot->time) > look.longestCoastingMs;
+    };
     for (const TrackSnapshot &track : snapshot->tracks) {
         if (!track.carCoordinateValid || !area.contains(track.carCoordinate)) {
             continue;
@@ -28,6 +32,7 @@ void TrackFrame::collect(const AlertBoard &alerts)
         shown.hovered = track.incarnationId == hoveredTrack;
         shown.alerting = !track.alertsString.isEmpty();
         shown.inDistress = track.emergency != Track::NoEmergency;
+        shown.overdue = isOverdue(track);
         shown.asking = alerts.attention(track.incarnationId) == AlertBoard::Attention::Asked;
         shown.blinkedOff = shown.asking && !blinkOn;
         tracks.push_back(shown);
@@ -64,6 +69,9 @@ const QColor &TrackFrame::color(const ShownTrack &shown) const
     }
     if (shown.selected) {
         return look.colors.labelSelected;
+    }
+    if (shown.overdue) {
+        return look.colors.caution;
     }
     return shown.track->coasting ? look.colors.coasting : look.colors.symbol;
 }

@@ -21,6 +21,7 @@ struct ShownTrack {
     bool hovered = false;
     bool alerting = false;
     bool inDistress = false; // tells of an emergency
+    bool overdue = false; // has been coasting for too long
     bool asking = false; // for the acknowledgement of an alert or an emergency
     bool blinkedOff = false; // what of it blinks is off now
     const TrackLabelLayout *label = nullptr; // null: shows none

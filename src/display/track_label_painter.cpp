@@ -95,7 +95,7 @@ const QPen &TrackLabelPainter::penFor(TrackLabelLayout::Kind kind, const ShownTr
         return m_selectedPen;
     }
     if (m_compact && shown.track->coasting && !shown.alerting) {
-        return m_coastingPen;
+        return shown.overdue ? m_cautionPen : m_coastingPen;
     }
     return kind == Kind::Detail ? m_detailPen : m_pen;
 }

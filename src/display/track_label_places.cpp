@@ -77,7 +77,7 @@ QPoint vectorTip(const TrackFrame &frame, const TrackSnapshot &track)
     return (unit * look.vectorRangeOf(track.incarnationId == frame.selectedTrack)).toPoint();
 }
 
-LabelPlacer::Priority priorityOf(const ShownTrack &shown, bool hovered)
+LabelPlacer::Priority priorityOf(const ShownTrack &shown)
 {
     using Priority = LabelPlacer::Priority;
     if (shown.alerting) {
@@ -86,7 +86,7 @@ LabelPlacer::Priority priorityOf(const ShownTrack &shown, bool hovered)
     if (shown.selected) {
         return Priority::Selected;
     }
-    if (hovered) {
+    if (shown.hovered) {
         return Priority::Hovered;
     }
     return shown.inDistress ? Priority::Emergency : Priority::Normal;
@@ -118,11 +118,11 @@ void TrackLabelPlaces::resetAll()
     m_placer.forget();
 }
 
-void TrackLabelPlaces::place(TrackFrame &frame, unsigned long long hoveredTrack)
+void TrackLabelPlaces::place(TrackFrame &frame, const Obstacles &obstacles)
 {
     m_arranged = frame.look.autoPlace;
     if (m_arranged) {
-        arrange(frame, hoveredTrack);
+        arrange(frame, obstacles);
         return;
     }
     m_placer.forget();
@@ -134,15 +134,19 @@ void TrackLabelPlaces::place(TrackFrame &frame, unsigned long long hoveredTrack)
     }
 }
 
-void TrackLabelPlaces::arrange(TrackFrame &frame, unsigned long long hoveredTrack)
+void TrackLabelPlaces::arrange(TrackFrame &frame, const Obstacles &obstacles)
 {
     noteView(frame);
     m_labels.clear();
     for (const ShownTrack &shown : frame.tracks) {
-        m_labels.push_back(label(frame, shown, shown.track->incarnationId == hoveredTrack));
+        m_labels.push_back(label(frame, shown));
     }
-    for (qsizetype i = 0; i < m_keptFree.size(); ++i) {
-        m_labels.push_back(obstacle(~quint64(i), m_keptFree[i]));
+    quint64 id = ~quint64(0); // no track has so high a key
+    for (const QRect &place : obstacles.places) {
+        m_labels.push_back(obstacle(id--, place));
+    }
+    for (const QLine &line : obstacles.lines) {
+        m_labels.push_back(obstacle(id--, line));
     }
     const std::vector<LabelPlacer::Placed> &placed = m_placer.place(scene(frame), m_labels);
     const QPoint padding = paddingCorner(frame.look);
@@ -170,7 +174,7 @@ void TrackLabelPlaces::noteView(const TrackFrame &frame)
 }
 
 // A track without a label has a symbol that those of the others leave free.
-LabelPlacer::Label TrackLabelPlaces::label(const TrackFrame &frame, const ShownTrack &shown, bool hovered) const
+LabelPlacer::Label TrackLabelPlaces::label(const TrackFrame &frame, const ShownTrack &shown) const
 {
     const TrackSnapshot &track = *shown.track;
     LabelPlacer::Label label;
@@ -178,7 +182,7 @@ LabelPlacer::Label TrackLabelPlaces::label(const TrackFrame &frame, const ShownT
     label.place = shown.place;
     label.motion = motionOf(frame.view, track);
     label.vectorTip = vectorTip(frame, track);
-    label.priority = priorityOf(shown, hovered);
+    label.priority = priorityOf(shown);
     label.keepsVectorFree = shown.selected;
     if (shown.label) {
         label.whole = paddedSize(frame.look, shown.label->size);
@@ -191,7 +195,7 @@ LabelPlacer::Label TrackLabelPlaces::label(const TrackFrame &frame, const ShownT
     return label;
 }
 
-// A label that does not give way. No track has so high a key.
+// A label that does not give way.
 LabelPlacer::Label TrackLabelPlaces::obstacle(quint64 id, const QRect &place)
 {
     LabelPlacer::Label label;
@@ -201,6 +205,16 @@ LabelPlacer::Label TrackLabelPlaces::obstacle(quint64 id, const QRect &place)
     label.shortened = place.size();
     label.pinned = true;
     label.pinnedOffset = place.topLeft() - place.center();
+    return label;
+}
+
+LabelPlacer::Label TrackLabelPlaces::obstacle(quint64 id, const QLine &line)
+{
+    LabelPlacer::Label label;
+    label.id = id;
+    label.place = line.p1();
+    label.vectorTip = line.p2() - line.p1();
+    label.keepsVectorFree = true;
     return label;
 }
 

@@ -3,7 +3,10 @@
 #include "display/label_placer.h"
 
 #include <QHash>
+#include <QLine>
+#include <QList>
 #include <QPoint>
+#include <QRect>
 
 #include <optional>
 #include <vector>
@@ -30,29 +33,32 @@ public:
         m_pinned.removeIf([&gone](const auto &entry) { return gone(entry.key()); });
     }
 
-    // Places on the screen that arranged labels leave free.
-    void keepFree(const QList<QRect> &places) { m_keptFree = places; }
     // While the view is being dragged labels keep to their tracks.
     void setViewHeld(bool held) { m_viewHeld = held; }
 
+    // What else is on the screen, in its pixels, and labels that arrange themselves should leave free.
+    struct Obstacles {
+        QList<QRect> places;
+        QList<QLine> lines;
+    };
     // Gives each label of the frame its rectangle and the lines that there is room for; that of the track under the
-    // pointer, 0 for none, always all.
-    void place(TrackFrame &frame, unsigned long long hoveredTrack = 0);
+    // pointer always all.
+    void place(TrackFrame &frame, const Obstacles &obstacles = {});
 
     // Labels in view, at the last frame, that show less than they have to say.
     int shortenedCount() const { return m_arranged ? m_placer.shortenedCount() + m_placer.hiddenCount() : 0; }
 
 private:
-    void arrange(TrackFrame &frame, unsigned long long hoveredTrack);
-    LabelPlacer::Label label(const TrackFrame &frame, const ShownTrack &shown, bool hovered) const;
+    void arrange(TrackFrame &frame, const Obstacles &obstacles);
+    LabelPlacer::Label label(const TrackFrame &frame, const ShownTrack &shown) const;
     static LabelPlacer::Label obstacle(quint64 id, const QRect &place);
+    static LabelPlacer::Label obstacle(quint64 id, const QLine &line);
     LabelPlacer::Scene scene(const TrackFrame &frame) const;
     void noteView(const TrackFrame &frame);
 
     QHash<unsigned long long, QPoint> m_pinned;
     LabelPlacer m_placer;
     std::vector<LabelPlacer::Label> m_labels; // kept for its memory
-    QList<QRect> m_keptFree;
     bool m_viewHeld = false;
     bool m_arranged = false; // at the last frame
     // Of the last frame: another zoom or size opens places that were taken.

@@ -2,6 +2,7 @@
 
 #include "display/cover_mask.h"
 #include "display/track_label_marks.h"
+#include "view/contrast.h"
 #include "view/label_face.h"
 
 #include <QFontDatabase>
@@ -55,6 +56,16 @@ void TrackLook::setLabelFont(const QFont &font)
     identityFont = labelFont;
     identityFont.setBold(true);
     drawnMarks = tracklabel::marksToDraw(labelFont);
+}
+
+QColor TrackLook::alertGround() const
+{
+    if (!isCompact()) {
+        return groundFor(colors.labelAlert);
+    }
+    QColor ground = colors.labelBackground;
+    ground.setAlpha(255);
+    return ground;
 }
 
 int TrackLook::coveringLabels() const

@@ -37,6 +37,8 @@ struct TrackLook {
     // The label with its ground: the padding goes round it, except below it. The veil of a compact label is tight.
     QRect padded(const QRect &label) const;
     bool showsLabels() const { return labelVisible && fields.any(); }
+    // Under words in the alert or caution colour that may stand on the text of a label.
+    QColor alertGround() const;
     // How many labels on top of each other let nothing through that an eye could see; 0: however many do not.
     int coveringLabels() const;
     bool isCompact() const { return layout == Config::TrackLabelLayout::Compact; }
@@ -46,6 +48,7 @@ struct TrackLook {
     TrackColors colors;
     Config::TrackLabelLayout layout = Config::TrackLabelLayout::Standard;
     bool autoPlace = false;
+    int longestCoastingMs = 0; // without a report, from which on a coasting track needs a look; 0: none does
 
     bool targetTypeSymbol = false; // an aircraft turned to its heading instead of the kind of surveillance
     bool sensorTypeSymbol = true;

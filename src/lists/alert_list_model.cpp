@@ -116,6 +116,17 @@ quint64 AlertListModel::trackId(int row) const
     return entry.track1Id != 0 ? entry.track1Id : entry.track2Id;
 }
 
+QList<int> AlertListModel::rowsOf(quint64 track) const
+{
+    QList<int> rows;
+    for (int row = 0; track != 0 && row < rowCount(); ++row) {
+        if (record(row).track1Id == track || record(row).track2Id == track) {
+            rows.append(row);
+        }
+    }
+    return rows;
+}
+
 QString AlertListModel::text(const AlertListEntry &entry, int column) const
 {
     switch (column) {

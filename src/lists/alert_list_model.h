@@ -38,6 +38,8 @@ public:
 
     // The first of the alert's tracks that the terminal holds; 0 when it holds neither.
     quint64 trackId(int row) const;
+    // Those that concern the track; none for 0.
+    QList<int> rowsOf(quint64 track) const;
     AlertBoard::Key key(int row) const { return record(row).key; }
 
 protected:

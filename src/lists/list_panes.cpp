@@ -180,6 +180,7 @@ void ListPanes::updateAlertList()
     }
     const QScopedValueRollback updating(m_updating, true);
     m_alertModel->setAlerts(alerts, board);
+    m_alertView->setLitRows(m_alertModel->rowsOf(m_litTrack)); // an alert may have come under the pointer
 }
 
 void ListPanes::clearTrackList()
@@ -225,7 +226,10 @@ void ListPanes::selectTrackInList(unsigned long long id)
     m_trackView->selectRow(row);
 }
 
-void ListPanes::lightTrackInList(unsigned long long id)
+void ListPanes::lightTrackInLists(unsigned long long id)
 {
-    m_trackView->setLitRow(m_trackModel->rowOf(id).value_or(-1));
+    m_litTrack = id;
+    const std::optional<int> row = m_trackModel->rowOf(id);
+    m_trackView->setLitRows(row ? QList<int>{*row} : QList<int>());
+    m_alertView->setLitRows(m_alertModel->rowsOf(id));
 }

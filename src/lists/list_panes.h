@@ -65,8 +65,8 @@ public Q_SLOTS:
     void alertListSelectionChanged();
     // By incarnation id; 0 clears the selection.
     void selectTrackInList(unsigned long long id);
-    // Lights up the row of the track that the pointer is on.
-    void lightTrackInList(unsigned long long id);
+    // Lights up the rows that tell of the track that the pointer is on, in both lists; 0: of none.
+    void lightTrackInLists(unsigned long long id);
 
 private:
     void makeLists();
@@ -87,5 +87,6 @@ private:
     QList<QLabel *> m_warnings; // one over each list; the docks'
     QTimer m_trackTimer;
     QTimer m_alertTimer;
+    unsigned long long m_litTrack = 0;
     bool m_updating = false; // the program moves the selection, not the operator
 };

@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int CellPadding = 6;
@@ -134,18 +136,22 @@ void ListView::selectRow(int row)
     scrollTo(index);
 }
 
-void ListView::setLitRow(int row)
+void ListView::setLitRows(const QList<int> &rows)
 {
-    const QModelIndex index = row < 0 ? QModelIndex() : m_sorted->mapFromSource(m_sorted->sourceModel()->index(row, 0));
-    if (index != m_lit) {
-        m_lit = index;
+    QList<QPersistentModelIndex> lit;
+    for (const int row : rows) {
+        lit.append(m_sorted->mapFromSource(m_sorted->sourceModel()->index(row, 0)));
+    }
+    if (lit != m_lit) {
+        m_lit.swap(lit);
         viewport()->update();
     }
 }
 
 bool ListView::isLit(const QModelIndex &sortedIndex) const
 {
-    return m_lit.isValid() && m_lit.row() == sortedIndex.row();
+    return std::any_of(m_lit.begin(), m_lit.end(),
+        [&sortedIndex](const QPersistentModelIndex &lit) { return lit.isValid() && lit.row() == sortedIndex.row(); });
 }
 
 void ListView::noteHover(int row)

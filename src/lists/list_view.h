@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QPersistentModelIndex>
 #include <QTableView>
 
@@ -22,8 +23,8 @@ public:
     // Selects the row and scrolls to it; -1 clears the selection.
     void selectRow(int row);
 
-    // The row that is lit up because it is pointed at somewhere else; -1: none.
-    void setLitRow(int row);
+    // The rows that are lit up because what they tell of is pointed at somewhere else.
+    void setLitRows(const QList<int> &rows);
     bool isLit(const QModelIndex &sortedIndex) const;
 
 Q_SIGNALS:
@@ -49,6 +50,6 @@ private:
 
     ListSortModel *m_sorted; // a child
     QString m_emptyText;
-    QPersistentModelIndex m_lit; // of the sorted model
+    QList<QPersistentModelIndex> m_lit; // of the sorted model
     int m_hoveredRow = -1;
 };

@@ -352,12 +352,13 @@ void GeoWidget::paintEvent(QPaintEvent *)
     m_view.update(screenTransform(), size(), devicePixelRatioF());
     QPainter painter(this);
     painter.setWorldTransform(m_view.screenTransform());
+    const QList<QRect> covered = coveredPlaces();
     if (m_mapDisplay) {
-        m_mapDisplay->setCovered(coveredPlaces());
+        m_mapDisplay->setCovered(covered);
         m_mapDisplay->paint(painter, m_view);
     }
     if (m_mapDisplay && m_trackDisplay) {
-        m_trackDisplay->keepFree(m_mapDisplay->readOutPlaces());
+        m_trackDisplay->keepFree(m_mapDisplay->readOutPlaces() + covered);
     }
     const double mapMs = milliseconds(frameTimer);
     if (m_trackDisplay) {

@@ -7,6 +7,7 @@
 #include "assessment_windows/sensor_check.h"
 #include "asterix/asterix.h"
 #include "display/geo_map_display.h"
+#include "display/geo_plot_map.h"
 #include "display/geo_track_display.h"
 #include "engine/data_engine.h"
 #include "health/input_health.h"
@@ -146,6 +147,9 @@ void MainWindow::makeDisplay()
     m_mapDisplay->mapKey()->setSymbolSource([this](double devicePixelRatio) {
         std::vector<GeoMapKey::Symbol> symbols;
         for (auto &[meaning, picture] : m_trackDisplay->shownSymbols(devicePixelRatio)) {
+            symbols.push_back({meaning, picture});
+        }
+        for (auto &[meaning, picture] : m_mapDisplay->plotMap()->shownMarks()) {
             symbols.push_back({meaning, picture});
         }
         return symbols;
@@ -461,6 +465,7 @@ void MainWindow::applySensor()
     placeDefaultLayout();
     m_mapDisplay->setSensor(m_session->sensor());
     m_health->setSensor(m_session->sensor().data());
+    m_trackDisplay->setSensor(m_session->sensor());
     m_readOuts->setSensorPlace(m_session->sensor() ? m_session->sensor()->location() : GeoCoordinate());
     beginRadarPicture();
     updateNotices();

@@ -26,7 +26,7 @@ TrackCommands::TrackCommands(Actions *actions, GeoWidget *plan, GeoTrackDisplay 
     connect(plan, &GeoWidget::followSelectedTrackChanged, this, &TrackCommands::refresh);
     connect(plan, &GeoWidget::trackSelected, lists, &ListPanes::selectTrackInList);
     connect(plan, &GeoWidget::trackSelected, this, &TrackCommands::refresh);
-    connect(plan, &GeoWidget::trackHovered, lists, &ListPanes::lightTrackInList);
+    connect(plan, &GeoWidget::trackHovered, lists, &ListPanes::lightTrackInLists);
     connect(plan, &GeoWidget::trackMenuRequested, this,
         [this](unsigned long long track, const QPoint &place) { notePlanMenu(showMenu(track, 0, place), place); });
     connect(plan, &GeoWidget::placeMenuRequested, this, [this](const QPointF &planePoint, const QPoint &place) {

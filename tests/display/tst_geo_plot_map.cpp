@@ -89,6 +89,23 @@ private Q_SLOTS:
         }
     }
 
+    void theKeyGetsWhatIsShown()
+    {
+        Scene scene(10.0);
+        scene.add({}, Track::Psr, 0.0);
+        scene.add({1000.0, 0.0}, Track::ModeS, 0.0);
+        scene.add({1e7, 0.0}, Track::Ssr, 0.0); // far outside
+        scene.show(0.0);
+        scene.painted();
+        const auto marks = scene.layer.shownMarks();
+        QCOMPARE(marks.size(), std::size_t(2));
+        QCOMPARE(marks[0].meaning, "PSR plot");
+        QCOMPARE(marks[1].meaning, "Mode S plot");
+        QVERIFY(marks[0].picture.toImage() != marks[1].picture.toImage());
+        scene.layer.setVisible(false);
+        QVERIFY(scene.layer.shownMarks().empty());
+    }
+
     // By the picture's time: while that stands still, so do the plots.
     void plotsFadeAndGo()
     {

@@ -81,6 +81,8 @@ struct Scope {
         });
     }
 
+    double leaderLength(std::size_t i) const { return shown(i) ? leader(i).length() : 0.0; }
+
     LabelPlacer placer;
     LabelPlacer::Scene scene;
     std::vector<Label> labels;
@@ -247,6 +249,27 @@ private Q_SLOTS:
         QVERIFY2(hidden > 100, qPrintable(QString::number(hidden)));
         QCOMPARE(scope.placer.shortenedCount(), shortened);
         QCOMPARE(scope.placer.hiddenCount(), hidden);
+    }
+
+    // Where all places near are taken, those who have them make room.
+    void anAlertComesNearItsTrack()
+    {
+        Scope scope;
+        scope.labels = crowd(250, QSize(1600, 1000));
+        scope.next(60);
+        std::size_t farthest = 0;
+        for (std::size_t i = 0; i < scope.labels.size(); ++i) {
+            farthest = scope.leaderLength(i) > scope.leaderLength(farthest) ? i : farthest;
+        }
+        const double before = scope.leaderLength(farthest);
+        QVERIFY(before > 60.0);
+        scope.labels[farthest].priority = Priority::Alert;
+        scope.next(20);
+        QVERIFY2(scope.leaderLength(farthest) < 40.0, qPrintable(QString::number(scope.leaderLength(farthest))));
+        for (std::size_t i = 0; i < scope.labels.size(); ++i) {
+            const QRect shared = scope.rect(i) & scope.rect(farthest);
+            QVERIFY(i == farthest || !scope.shown(i) || shared.width() * shared.height() < 60);
+        }
     }
 
     // The pointer brings up what there is no room for, over the others, who stay where they are.

@@ -1,6 +1,7 @@
 #include "display/conflict_line_painter.h"
 #include "display/geo_track_display.h"
 #include "painted_view.h"
+#include "sensors/radar_sensor_info.h"
 #include "test_program.h"
 #include "tracking/conflict_geometry.h"
 
@@ -93,9 +94,12 @@ private Q_SLOTS:
     void headsAreShownWithoutLabels();
     void conflictsAreJoined();
     void tellsOfConflicts();
+    void figuresOfConflictsStandFree_data();
+    void figuresOfConflictsStandFree();
     void arrowsPointToWhatIsOutside_data();
     void arrowsPointToWhatIsOutside();
     void ringsTellSelectedAndHovered();
+    void coastingForTooLongNeedsALook();
     void noSymbolLiesOnTheTextOfAnAlert();
 };
 
@@ -205,6 +209,50 @@ void TestTrackSalience::tellsOfConflicts()
     QCOMPARE(ConflictLinePainter::text(geometry), "3.2 NM 400 ft");
 }
 
+void TestTrackSalience::figuresOfConflictsStandFree_data()
+{
+    QTest::addColumn<bool>("arranged");
+    QTest::addColumn<QPointF>("between"); // a third track
+    QTest::newRow("labels arrange themselves") << true << QPointF(0.0, 15000.0);
+    QTest::newRow("labels stand where they stand") << false << QPointF(0.0, 15000.0);
+    QTest::newRow("something is on the line, labels arrange themselves") << true << QPointF(0.0, 0.0);
+    QTest::newRow("something is on the line, labels stand where they stand") << false << QPointF(0.0, 0.0);
+}
+
+// On neither a symbol nor a label, and no label on them.
+void TestTrackSalience::figuresOfConflictsStandFree()
+{
+    QFETCH(bool, arranged);
+    QFETCH(QPointF, between);
+    Scope scope;
+    Config config;
+    config.trackLabelLayout = Config::TrackLabelLayout::Compact;
+    config.trackLabelAutoPlace = arranged;
+    scope.display.applyConfig(config);
+    const QList<TrackSnapshot> tracks{
+        aircraft(1, {-6000.0, -2000.0}), aircraft(2, {6000.0, 2000.0}), aircraft(3, between)};
+    scope.show(tracks, {conflict(1, 2)});
+    for (int frame = 0; frame < 5; ++frame) {
+        scope.painted();
+    }
+    const TrackFrame &frame = scope.display.frame();
+    TrackFrame judged = frame;
+    for (ShownTrack &shown : judged.tracks) {
+        shown.label = arranged ? nullptr : shown.label;
+    }
+    ConflictLinePainter figures;
+    figures.prepare(
+        judged, scope.display.alertBoard().entries(), {{1, &tracks[0]}, {2, &tracks[1]}, {3, &tracks[2]}}, {});
+    QCOMPARE(figures.textPlaces().size(), 1);
+    const QRect place = figures.textPlaces().first();
+    QVERIFY(frame.view.screenRect().contains(place));
+    QCOMPARE(frame.tracks.size(), std::size_t(3));
+    for (const ShownTrack &shown : frame.tracks) {
+        QVERIFY(!place.contains(shown.place));
+        QVERIFY(shown.label && !frame.look.padded(shown.labelRect).intersects(place));
+    }
+}
+
 void TestTrackSalience::arrowsPointToWhatIsOutside_data()
 {
     QTest::addColumn<QPointF>("place");
@@ -261,6 +309,28 @@ void TestTrackSalience::ringsTellSelectedAndHovered()
         scope.display.setHovered(0);
         QCOMPARE(scope.painted().ink(), bare);
     }
+}
+
+void TestTrackSalience::coastingForTooLongNeedsALook()
+{
+    const auto sensor = QSharedPointer<RadarSensorInfo>::create();
+    sensor->setRotationPeriod(4.0); // coasting after 5 s, gone after 12 s
+    const QDateTime heard = QDateTime::fromMSecsSinceEpoch(1'700'000'000'000, Qt::UTC);
+    const auto caution = [&](int silence, bool known) {
+        Scope scope;
+        scope.display.setSensor(known ? sensor : QSharedPointer<RadarSensorInfo>());
+        TrackSnapshot track = aircraft(1, {});
+        track.coasting = true;
+        track.lastUpdate = heard;
+        auto snapshot = QSharedPointer<DisplaySnapshot>::create();
+        snapshot->tracks = {track};
+        snapshot->time = heard.addSecs(silence);
+        scope.display.setSnapshot(snapshot);
+        return scope.painted().count(CautionColor) > 0;
+    };
+    QVERIFY(!caution(8, true));
+    QVERIFY(caution(9, true));
+    QVERIFY(!caution(9, false));
 }
 
 void TestTrackSalience::noSymbolLiesOnTheTextOfAnAlert()

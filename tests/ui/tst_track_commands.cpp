@@ -87,8 +87,11 @@ void TestTrackCommands::hoverGoesBothWays()
         lit += view->isLit(view->model()->index(row, 0));
     }
     QCOMPARE(lit, 1);
+    auto *alerts = list("alertList");
+    QVERIFY(alerts->isLit(alerts->model()->index(0, 0))); // the conflict is also that of the second track
     Q_EMIT m_window->geoWidget()->trackHovered(0);
     QVERIFY(!view->isLit(view->model()->index(0, 0)) && !view->isLit(view->model()->index(1, 0)));
+    QVERIFY(!alerts->isLit(alerts->model()->index(0, 0)));
 }
 
 void TestTrackCommands::doubleClickInAListShowsTheTrack()
