@@ -13,7 +13,7 @@ constexpr double LabelAreaCost = 2.0;
 constexpr double SymbolAreaCost = 2.2;
 constexpr double CrossingCost = 150.0; // of two leaders
 constexpr double ThroughCost = 40.0; // of a leader through a label
-constexpr double YieldingShare = 0.15; // of what a label that yields costs one that does not
+constexpr double YieldingShare = 0.05; // of what a label that yields costs one that does not
 constexpr double FreeLineCost = 100.0; // of a line that is to stay free under a label
 
 int sharedArea(const QRect &a, const QRect &b)
@@ -221,9 +221,10 @@ double LabelField::freeFor(int owner, const QRect &rect, double limit) const
         }
         return limit > 0.0;
     });
+    const bool yields = m_owners[std::size_t(owner)].yields;
     visit(m_labelCells, m_columns, range, [&](int other) {
         const Owner &stands = m_owners[std::size_t(other)];
-        if (other != owner) {
+        if (other != owner && (yields || !stands.yields)) {
             limit = timeToTouch(rect, stands.rect, stands.motion - motion, limit);
         }
         return limit > 0.0;
