@@ -22,6 +22,7 @@ constexpr int UsualAzimuthBins = 8192; // where nothing tells: 0.044 degrees eac
 constexpr int FewestAzimuthBins = 2048;
 constexpr int MostAzimuthBins = 16384;
 constexpr qint64 UpdateIntervalMs = 100; // while the view is dragged
+constexpr qint64 LongestUpdateIntervalMs = 300;
 constexpr std::size_t MostReportedSources = 8; // more than that is noise on the line
 
 // As many bins as radials fit into a turn, so that bins and radials fall together. Azimuth pulses, where the sensor
@@ -68,6 +69,7 @@ struct GeoVideoMap::Radar {
     WideView wide; // that the raster was made for
     QTransform paintedTransform; // from the plane to the screen, of the last frame
     bool dragged = false; // another part of the same raster is shown than in the last frame
+    bool moved = false; // the raster has been moved for this frame
     qint64 updateTime = 0;
 };
 
@@ -197,13 +199,14 @@ void GeoVideoMap::Radar::fitTo(const GeoView &view, Projector &projector)
 {
     const auto shift = wide.follow(view);
     const bool usable = shift && raster && store.endCell() <= raster->reach();
+    moved = usable && !shift->isNull();
     dragged = usable && shift->isNull() && paintedTransform != view.screenTransform();
     paintedTransform = view.screenTransform();
     if (usable && shift->isNull()) {
         return;
     }
     const SiteOffsets offsets(projector, place.location, wide.view());
-    if (usable) {
+    if (moved) {
         raster->moveView(offsets, *shift);
         return;
     }
@@ -213,10 +216,16 @@ void GeoVideoMap::Radar::fitTo(const GeoView &view, Projector &projector)
     raster->setView(offsets, store, cellSize);
 }
 
-// A view that is dragged comes many times a second: what the antenna brings between two frames need not be in each.
+// A view that is dragged comes many times a second: what the antenna brings between two frames need not be in each, and
+// can wait when the frame costs a move already.
 void GeoVideoMap::Radar::update(const VideoPalette &palette, qint64 now, qint64 validity)
 {
-    if (dragged && now - updateTime < UpdateIntervalMs) {
+    const qint64 age = now - updateTime;
+    if (dragged && age < UpdateIntervalMs) {
+        return;
+    }
+    if (moved && age < LongestUpdateIntervalMs) {
+        raster->update(store, palette, now, validity, VideoRaster::Extent::Exposed);
         return;
     }
     updateTime = now;

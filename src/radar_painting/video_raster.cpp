@@ -91,10 +91,13 @@ void VideoRaster::moveView(const SiteOffsets &offsets, const QPoint &shift)
     movePixels(reinterpret_cast<QRgb *>(m_image.bits()), size, shift);
     const QRegion exposed = QRegion(m_image.rect()) - QRegion(m_image.rect().translated(shift));
     m_exposed.assign(exposed.begin(), exposed.end());
+    m_bounds.translate(shift);
     for (const QRect &rect : m_exposed) {
         placePixels(rect, offsets);
+        m_bounds |= rect;
     }
-    findRuns();
+    m_bounds &= m_image.rect();
+    m_runsStale = true;
 }
 
 // Works out range and bin of the pixels in a part of the picture.
@@ -121,6 +124,7 @@ void VideoRaster::placePixels(const QRect &rect, const SiteOffsets &offsets)
 void VideoRaster::findRuns()
 {
     m_runs.clear();
+    m_runsStale = false;
     m_bounds = QRect();
     for (int y = 0; y < m_image.height(); ++y) {
         addRuns(y, m_image.width());
@@ -184,10 +188,17 @@ void VideoRaster::sortRuns()
     m_runs.swap(sorted);
 }
 
-void VideoRaster::update(const RadialStore &store, const VideoPalette &palette, qint64 now, qint64 validity)
+void VideoRaster::update(
+    const RadialStore &store, const VideoPalette &palette, qint64 now, qint64 validity, Extent extent)
 {
     readStore(store, now, validity);
     expose(palette);
+    if (extent == Extent::Exposed) {
+        return;
+    }
+    if (m_runsStale) {
+        findRuns();
+    }
     for (int sector = 0; sector <= SectorCount; ++sector) {
         const auto index = std::size_t(sector);
         const bool wasLit = m_lit[index];

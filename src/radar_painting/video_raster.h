@@ -21,15 +21,17 @@ public:
     void moveView(const SiteOffsets &offsets, const QPoint &shift);
     quint64 reach() const { return m_reach; } // cells; 0 before the first setView()
 
-    // Brings the picture up to date with what changed in the store; fades by age, which reaches the palette's end after
-    // the validity. Times in milliseconds.
-    void update(const RadialStore &store, const VideoPalette &palette, qint64 now, qint64 validity);
+    enum class Extent { All, Exposed };
+    // Brings the picture up to date with what changed in the store, or only that part of it which the last moves have
+    // brought into sight; fades by age, which reaches the palette's end after the validity. Times in milliseconds.
+    void update(const RadialStore &store, const VideoPalette &palette, qint64 now, qint64 validity,
+        Extent extent = Extent::All);
     // To be called when the palette has changed.
     void recolor() { m_recolorAll = true; }
 
     // Device pixels, as large as the view.
     const QImage &image() const { return m_image; }
-    // The part of the image where the radar reaches.
+    // Holds the part of the image where the radar reaches.
     const QRect &bounds() const { return m_bounds; }
 
 private:
@@ -85,6 +87,7 @@ private:
     std::vector<float> m_bin;
     std::vector<Echo> m_echoes;
 
+    bool m_runsStale = false; // the view has been moved since they were found
     std::vector<Run> m_runs; // sector by sector
     std::vector<std::size_t> m_firstRun; // of each sector, and one behind the last
 
