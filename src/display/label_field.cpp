@@ -209,7 +209,7 @@ int LabelField::crowding(const QPoint &place) const
     return int(count);
 }
 
-double LabelField::freeFor(int owner, const QRect &rect, double limit) const
+double LabelField::freeFor(int owner, const QRect &rect, double limit, double least) const
 {
     const QPointF motion = m_owners[std::size_t(owner)].motion;
     const int reach = int(std::ceil(2.0 * m_speed * limit)) + m_symbolReach;
@@ -219,15 +219,21 @@ double LabelField::freeFor(int owner, const QRect &rect, double limit) const
         if (other != owner) {
             limit = timeToTouch(rect, symbolRect(stands), stands.motion - motion, limit);
         }
-        return limit > 0.0;
+        return limit > least;
     });
+    if (limit <= least) {
+        return limit;
+    }
+    ++m_question;
     const bool yields = m_owners[std::size_t(owner)].yields;
     visit(m_labelCells, m_columns, range, [&](int other) {
         const Owner &stands = m_owners[std::size_t(other)];
-        if (other != owner && (yields || !stands.yields)) {
+        unsigned int &visited = m_visited[std::size_t(other)];
+        if (other != owner && visited != m_question && (yields || !stands.yields)) {
+            visited = m_question;
             limit = timeToTouch(rect, stands.rect, stands.motion - motion, limit);
         }
-        return limit > 0.0;
+        return limit > least;
     });
     return limit;
 }

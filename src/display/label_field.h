@@ -34,7 +34,8 @@ public:
     // A quick guess at the cost from what stands on the same pixels.
     double roughCost(const QRect &rect) const;
     // Seconds until the label would run into another label or symbol, up to the limit, if all keep moving as they do.
-    double freeFor(int owner, const QRect &rect, double limit) const;
+    // Where it comes to no more than the least that is worth knowing the answer is any figure up to that.
+    double freeFor(int owner, const QRect &rect, double limit, double least = 0.0) const;
 
     // Where a leader ends: the label's pixel that is nearest to the place.
     static QPoint leaderEnd(const QPoint &place, const QRect &rect);

@@ -401,7 +401,11 @@ double LabelPlacer::placeCost(int index, const QRect &rect, double cost, double 
     if (cost < limit) {
         cost += m_field.cost(index, rect, limit - cost);
     }
-    return cost < limit ? cost + HorizonCost * (1.0 - m_field.freeFor(index, rect, Horizon) / Horizon) : cost;
+    if (cost >= limit) {
+        return cost;
+    }
+    const double least = Horizon * (1.0 - (limit - cost) / HorizonCost); // below that it costs too much
+    return cost + HorizonCost * (1.0 - m_field.freeFor(index, rect, Horizon, std::max(0.0, least)) / Horizon);
 }
 
 void LabelPlacer::settle(int index, const Found &found)
