@@ -78,7 +78,14 @@ void SdpsStation::writeStatus(const Sight &sight)
     encoder().setRaw("080/TSE", sight.last ? 1 : 0);
     encoder().setRaw("080/CST", sight.coasting ? 1 : 0);
     encoder().set("290/TRK", std::fmin(sight.time - sight.target.startedAt, 63));
-    encoder().set("290/PSR", sight.coasting ? interval() : 0);
+    const double age = sight.coasting ? interval() : 0.0;
+    encoder().set("290/PSR", age);
+    if (sight.hasTransponder()) {
+        encoder().set("290/SSR", age);
+    }
+    if (sight.hasModeS()) {
+        encoder().set("290/MDS", age);
+    }
 }
 
 // Altitudes are known from transponders alone.
