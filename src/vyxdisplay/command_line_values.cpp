@@ -191,7 +191,7 @@ std::optional<std::chrono::milliseconds> CommandLineValues::parsedSeconds(const 
 
 std::optional<QSize> CommandLineValues::parsedSize(const QString &text, QString *error)
 {
-    constexpr int Smallest = 320; // a window that is narrower or lower shows nothing of use
+    constexpr int Smallest = 240; // a window that is narrower or lower shows nothing of use
     constexpr int Largest = 16384;
     static const QRegularExpression pattern(QStringLiteral("^([0-9]{1,5})[xX]([0-9]{1,5})$"));
     const auto match = pattern.match(text);

@@ -126,6 +126,7 @@ private Q_SLOTS:
         QVERIFY(all.start);
         QCOMPARE(all.exitAfter->count(), 2500);
         QCOMPARE(parsed({"--theme", "My Night", "--size=1280X720"}).size, QSize(1280, 720));
+        QCOMPARE(parsed({"--size=400x300"}).size, QSize(400, 300));
         QCOMPARE(all.screenshot + ' ' + all.snapshot, QStringLiteral("a=b.png c.json"));
         QVERIFY(parsed({"-platform", "offscreen", "--style=fusion", "-reverse", "--start"}).start); // the toolkit's own
     }
