@@ -36,6 +36,13 @@ GeoMapDisplay::GeoMapDisplay(Projector *projector, QObject *parent) : QObject(pa
     addLayer<GeoScaleBar>(MapLayer::ScaleBar, projector);
     m_mapKey = addLayer<GeoMapKey>(MapLayer::Key, m_weatherMap);
     m_mapEditorLayer = addLayer<MapEditorLayer>(MapLayer::MapEditor);
+    m_mapKey->addSymbolSource([this](double) {
+        std::vector<GeoMapKey::Symbol> symbols;
+        for (auto &[meaning, picture] : m_plotMap->shownMarks()) {
+            symbols.push_back({meaning, picture});
+        }
+        return symbols;
+    });
     setBackgroundColor(Config().mapBackgroundColor);
 }
 

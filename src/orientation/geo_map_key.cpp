@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -44,9 +45,9 @@ SettingGroups GeoMapKey::settings() const
     return SettingGroup::Orientation | SettingGroup::PlanView;
 }
 
-void GeoMapKey::setSymbolSource(SymbolSource source)
+void GeoMapKey::addSymbolSource(SymbolSource source)
 {
-    m_symbols = std::move(source);
+    m_sources.push_back(std::move(source));
     Q_EMIT polluted();
 }
 
@@ -75,7 +76,11 @@ void GeoMapKey::placeTexts(const GeoView &view, TextRoom &room)
 {
     m_place = QRectF();
     collectLevels();
-    std::vector<Symbol> symbols = m_symbols ? m_symbols(view.devicePixelRatio()) : std::vector<Symbol>();
+    std::vector<Symbol> symbols;
+    for (const SymbolSource &source : m_sources) {
+        std::vector<Symbol> shown = source(view.devicePixelRatio());
+        std::move(shown.begin(), shown.end(), std::back_inserter(symbols));
+    }
     if (m_levels.empty() && symbols.empty()) {
         return;
     }

@@ -33,7 +33,8 @@ public:
     void applyConfig(const Config &config) override;
     SettingGroups settings() const override;
 
-    void setSymbolSource(SymbolSource source);
+    // Those of earlier sources stand above those of later ones.
+    void addSymbolSource(SymbolSource source);
 
 private:
     struct Item {
@@ -48,7 +49,7 @@ private:
     void paintLevels(QPainter &painter) const;
 
     const GeoWeatherMap *m_weather;
-    SymbolSource m_symbols;
+    std::vector<SymbolSource> m_sources;
     QColor m_color;
     QColor m_ground;
 

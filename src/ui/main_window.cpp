@@ -7,7 +7,6 @@
 #include "assessment_windows/sensor_check.h"
 #include "asterix/asterix.h"
 #include "display/geo_map_display.h"
-#include "display/geo_plot_map.h"
 #include "display/geo_track_display.h"
 #include "engine/data_engine.h"
 #include "health/input_health.h"
@@ -144,12 +143,9 @@ void MainWindow::makeDisplay()
 {
     m_mapDisplay = std::make_unique<GeoMapDisplay>(&m_host.shared().projector);
     m_trackDisplay = std::make_unique<GeoTrackDisplay>();
-    m_mapDisplay->mapKey()->setSymbolSource([this](double devicePixelRatio) {
+    m_mapDisplay->mapKey()->addSymbolSource([this](double devicePixelRatio) {
         std::vector<GeoMapKey::Symbol> symbols;
         for (auto &[meaning, picture] : m_trackDisplay->shownSymbols(devicePixelRatio)) {
-            symbols.push_back({meaning, picture});
-        }
-        for (auto &[meaning, picture] : m_mapDisplay->plotMap()->shownMarks()) {
             symbols.push_back({meaning, picture});
         }
         return symbols;

@@ -294,7 +294,7 @@ void TestOrientationLayers::keyShowsWhatIsThere()
     // More symbols than half of the height has rows for.
     QPixmap mark(10, 10);
     mark.fill(Qt::blue);
-    display.mapKey()->setSymbolSource([&mark](double) {
+    display.mapKey()->addSymbolSource([&mark](double) {
         return std::vector<GeoMapKey::Symbol>(11, GeoMapKey::Symbol{"Mode S", mark});
     });
     const QImage image = picture(display, view);
