@@ -1,7 +1,6 @@
 #include "tiles/tile_disk_cache.h"
 
 #include <QDirIterator>
-#include <QThreadPool>
 
 #include <algorithm>
 
@@ -36,14 +35,16 @@ TileDiskCache::TileDiskCache(const QString &directory, QObject *parent) : QNetwo
     setMaximumCacheSize(MaxOctets);
 }
 
+// The base class clears itself by way of a size of zero.
 qint64 TileDiskCache::expire()
 {
-    if (m_storedSinceSearch++ % FilesBetweenSearches == 0 && !m_searching->exchange(true)) {
-        QThreadPool::globalInstance()->start(
-            [directory = cacheDirectory(), limit = maximumCacheSize(), searching = m_searching] {
-                shrinkTileCache(directory, limit);
-                *searching = false;
-            });
+    const bool clearing = maximumCacheSize() == 0;
+    if (clearing || (m_stored++ % FilesBetweenSearches == 0 && !m_shrinking.running())) {
+        const auto shrink = [directory = cacheDirectory(), limit = maximumCacheSize()](const BackgroundPass::Token &) {
+            shrinkTileCache(directory, limit);
+            return true;
+        };
+        m_shrinking.start(shrink, [](bool) {});
     }
     return 0;
 }

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QNetworkDiskCache>
+#include "app/background_pass.h"
 
-#include <atomic>
-#include <memory>
+#include <QNetworkDiskCache>
 
 // A network cache that is cut down to its size by a worker: the search through its directory takes longer than a frame
 // may. For the thread of its network access.
@@ -18,8 +17,8 @@ protected:
     qint64 expire() override;
 
 private:
-    int m_storedSinceSearch = 0;
-    std::shared_ptr<std::atomic<bool>> m_searching = std::make_shared<std::atomic<bool>>(false);
+    int m_stored = 0; // files
+    BackgroundPass m_shrinking;
 };
 
 // Removes files of the cache, the oldest first, until nine tenths of the octets are left. Any thread.

@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QNetworkAccessManager>
-#include <QNetworkProxy>
 #include <QNetworkReply>
 
 #include <algorithm>
@@ -20,6 +19,7 @@ constexpr int FaultyFor = 600; // seconds
 constexpr int SaidAgainAfter = 600; // seconds
 constexpr int MostUnavailable = 50'000;
 constexpr int MostSaid = 50;
+constexpr int Patience = 2; // seconds for an answer that no view waits for any more
 
 QString &userAgentContact()
 {
@@ -70,15 +70,32 @@ TileFetcher::~TileFetcher()
     clear();
 }
 
+// A terminal that never asks a service does not pay for being able to.
+QNetworkAccessManager &TileFetcher::network()
+{
+    if (!m_network) {
+        m_network = new QNetworkAccessManager(this);
+        setProxy(m_proxy);
+        setCacheDirectory(m_cacheDirectory);
+    }
+    return *m_network;
+}
+
 void TileFetcher::setProxy(const QNetworkProxy &proxy)
 {
-    m_network->setProxy(proxy);
+    m_proxy = proxy;
+    if (m_network) {
+        m_network->setProxy(proxy);
+    }
 }
 
 void TileFetcher::setCacheDirectory(const QString &directory)
 {
-    const QString own = directory + u'/' + tileServiceIdentifier(m_request.service);
-    m_network->setCache(directory.isEmpty() ? nullptr : new TileDiskCache(own));
+    m_cacheDirectory = directory;
+    if (m_network) {
+        const QString own = directory + u'/' + tileServiceIdentifier(m_request.service);
+        m_network->setCache(directory.isEmpty() ? nullptr : new TileDiskCache(own));
+    }
 }
 
 void TileFetcher::setMaxConcurrentRequests(int count)
@@ -107,9 +124,23 @@ void TileFetcher::enqueue(const TileIndex &index)
 void TileFetcher::keepOnly(const QSet<TileIndex> &wanted)
 {
     m_queue.intersect(wanted);
-    for (auto sent = m_inFlight.begin(); sent != m_inFlight.end(); ++sent) {
+    const QDateTime longAgo = m_pacing.now().addSecs(-Patience);
+    for (auto sent = m_inFlight.begin(); sent != m_inFlight.end();) {
         sent->wanted = wanted.contains(sent.key());
+        if (!sent->wanted && sent->since <= longAgo) {
+            forget(*sent);
+            sent = m_inFlight.erase(sent);
+        } else {
+            ++sent;
+        }
     }
+}
+
+void TileFetcher::forget(const InFlight &request)
+{
+    request.reply->disconnect(this);
+    request.reply->abort();
+    request.reply->deleteLater();
 }
 
 void TileFetcher::pump()
@@ -149,10 +180,12 @@ void TileFetcher::send(const TileIndex &index, bool pastCache)
     if (pastCache) {
         request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
     }
-    QNetworkReply *reply = m_network->get(request);
-    m_inFlight.insert(index, {reply, m_round, true});
+    QNetworkReply *reply = network().get(request);
+    m_inFlight.insert(index, {reply, m_pacing.now(), m_round, true});
     connect(reply, &QNetworkReply::finished, this, [this, index, reply] { finish(index, reply); });
-    connect(reply, &QNetworkReply::redirected, this, [this, reply](const QUrl &target) { follow(reply, target); });
+    connect(reply, &QNetworkReply::redirected, this, [this, reply, from = request.url()](const QUrl &target) mutable {
+        follow(reply, std::exchange(from, target), target);
+    });
     connect(reply, &QNetworkReply::downloadProgress, this, [reply](qint64 received, qint64 total) {
         if (std::max(received, total) > MaxTileOctets) {
             giveUp(reply, tr("the answer is larger than a tile can be"));
@@ -160,10 +193,10 @@ void TileFetcher::send(const TileIndex &index, bool pastCache)
     });
 }
 
-// Qt counts the redirects. Headers of the settings may hold a key, which is nobody else's.
-void TileFetcher::follow(QNetworkReply *reply, const QUrl &target)
+// Qt counts the redirects, and has given the reply its new address by now. Headers of the settings may hold a key,
+// which is nobody else's.
+void TileFetcher::follow(QNetworkReply *reply, const QUrl &from, const QUrl &target)
 {
-    const QUrl from = reply->url();
     if (!noLessSafe(from, target)) {
         giveUp(reply, tr("%1 redirects to an insecure address").arg(from.host()));
     } else if (!m_request.headers.isEmpty() && !sameHost(from, target)) {
@@ -179,7 +212,7 @@ void TileFetcher::finish(const TileIndex &index, QNetworkReply *reply)
     const TileAnswer answer = TileAnswer::of(reply);
     reply->deleteLater();
     if (answer.fromCache && answer.kind == TileAnswer::ServiceError) {
-        m_network->cache()->remove(m_request.url(index));
+        forgetCached(index);
         send(index, true); // what the cache holds was damaged
         return;
     }
@@ -195,6 +228,8 @@ void TileFetcher::settle(const TileIndex &index, const TileAnswer &answer, const
 {
     switch (answer.kind) {
     case TileAnswer::Image:
+        ++m_answers;
+        m_answersAtFailure.remove(index);
         if (!answer.fromCache) {
             succeed(request.round);
         }
@@ -209,9 +244,14 @@ void TileFetcher::settle(const TileIndex &index, const TileAnswer &answer, const
         complain(answer.message(), false);
         markUnavailable(index, answer);
         return;
+    case TileAnswer::NetworkError:
+        if (failsAlone(index)) {
+            markUnavailable(index, answer);
+            return;
+        }
+        break;
     case TileAnswer::Authentication:
     case TileAnswer::RateLimited:
-    case TileAnswer::NetworkError:
         break;
     }
     if (request.wanted) {
@@ -219,6 +259,18 @@ void TileFetcher::settle(const TileIndex &index, const TileAnswer &answer, const
     }
     pauseAfter(answer, request.round);
     complain(answer.message(), true);
+}
+
+// Whether others came since it failed before: then it is the tile and not the way to the service, which the others need
+// not wait for.
+bool TileFetcher::failsAlone(const TileIndex &index)
+{
+    if (m_answersAtFailure.size() > MostUnavailable) {
+        m_answersAtFailure.clear();
+    }
+    const int before = m_answersAtFailure.value(index, m_answers);
+    m_answersAtFailure.insert(index, m_answers);
+    return before != m_answers;
 }
 
 // Requests that were under way together fail together; that is one failure.
@@ -274,9 +326,7 @@ void TileFetcher::reject(const TileIndex &index, const QString &reason)
     TileAnswer answer;
     answer.kind = TileAnswer::ServiceError;
     answer.reason = reason;
-    if (QAbstractNetworkCache *cache = m_network->cache()) {
-        cache->remove(m_request.url(index));
-    }
+    forgetCached(index);
     complain(answer.message(), false);
     markUnavailable(index, answer);
 }
@@ -332,16 +382,21 @@ void TileFetcher::clear()
     m_queue.clear();
     m_pacingTimer.stop();
     for (const InFlight &request : std::exchange(m_inFlight, {})) {
-        request.reply->disconnect(this);
-        request.reply->abort();
-        request.reply->deleteLater();
+        forget(request);
     }
 }
 
 void TileFetcher::clearCache()
 {
-    if (QAbstractNetworkCache *cache = m_network->cache()) {
+    if (QAbstractNetworkCache *cache = network().cache()) {
         cache->clear();
+    }
+}
+
+void TileFetcher::forgetCached(const TileIndex &index)
+{
+    if (QAbstractNetworkCache *cache = network().cache()) {
+        cache->remove(m_request.url(index));
     }
 }
 

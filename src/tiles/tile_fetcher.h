@@ -6,13 +6,13 @@
 #include "tiles/tile_request.h"
 
 #include <QHash>
+#include <QNetworkProxy>
 #include <QObject>
 #include <QPointF>
 #include <QSet>
 #include <QTimer>
 
 class QNetworkAccessManager;
-class QNetworkProxy;
 class QNetworkReply;
 
 // Asks one service for tiles: the queue, the requests in flight, the tiles known to be unavailable, and the pauses
@@ -47,7 +47,7 @@ public:
     void setCentre(const QPointF &centre) { m_centre = centre; }
     // Ignored when it is on its way or known to be unavailable. Nothing is sent before pump().
     void enqueue(const TileIndex &index);
-    // What else is in the queue is dropped; requests in flight go on.
+    // What else is in the queue is dropped; requests in flight go on unless the service takes its time over them.
     void keepOnly(const QSet<TileIndex> &wanted);
     bool holds(const TileIndex &index) const { return m_queue.contains(index) || m_inFlight.contains(index); }
     qsizetype queued() const { return m_queue.size(); }
@@ -84,6 +84,7 @@ Q_SIGNALS:
 private:
     struct InFlight {
         QNetworkReply *reply = nullptr;
+        QDateTime since;
         int round = 0; // m_round when it was sent
         bool wanted = true; // by the present view
     };
@@ -92,10 +93,14 @@ private:
         bool absent = false;
     };
 
+    QNetworkAccessManager &network();
+    void forget(const InFlight &request);
+    void forgetCached(const TileIndex &index);
     void send(const TileIndex &index, bool pastCache);
     void finish(const TileIndex &index, QNetworkReply *reply);
-    void follow(QNetworkReply *reply, const QUrl &target);
+    void follow(QNetworkReply *reply, const QUrl &from, const QUrl &target);
     void settle(const TileIndex &index, const TileAnswer &answer, const InFlight &request);
+    bool failsAlone(const TileIndex &index);
     void pauseAfter(const TileAnswer &answer, int round);
     void markUnavailable(const TileIndex &index, const TileAnswer &answer);
     void forgetExpired();
@@ -104,7 +109,9 @@ private:
     void reportMissing();
 
     TileRequest m_request;
-    QNetworkAccessManager *m_network;
+    QNetworkAccessManager *m_network = nullptr; // made with the first request
+    QNetworkProxy m_proxy;
+    QString m_cacheDirectory;
     TilePacing m_pacing;
     QTimer m_pacingTimer;
     QSet<TileIndex> m_queue;
@@ -113,6 +120,8 @@ private:
     QHash<TileIndex, Unavailable> m_unavailable;
     QHash<QString, QDateTime> m_said; // lines of the log, and until when they are not repeated; null: an outage's end
     QString m_trouble; // the last failure; empty after a success
+    QHash<TileIndex, int> m_answersAtFailure; // m_answers when a tile last failed
+    int m_answers = 0; // tiles that came
     int m_newlyAbsent = 0; // tiles, since the last line about them
     int m_maxConcurrent = DefaultConcurrentRequests;
     int m_round = 0; // of pauses: failures of requests sent before the last pause do not begin another

@@ -85,16 +85,19 @@ int TileGeometry::groundResolutionToLevel(double metresPerPixel)
 
 TileRange TileGeometry::tilesCovering(double north, double west, double south, double east, int level)
 {
+    const int top = pixelXYToTileXY(latLongToPixelXY(north, 0.0, level)).y();
+    const int bottom = pixelXYToTileXY(latLongToPixelXY(south, 0.0, level)).y();
     const int columns = 1 << level;
-    const auto column = [&](double longitude) {
-        const double turns = std::abs(longitude) <= 180.0 ? 0.0 : std::floor((longitude + 180.0) / 360.0);
-        const QPoint pixel = latLongToPixelXY(0.0, longitude - 360.0 * turns, level);
-        return pixelXYToTileXY(pixel).x() + static_cast<int>(turns) * columns;
-    };
-    const bool wholeWorld = !(east - west < 360.0);
-    return {wholeWorld ? 0 : column(west), pixelXYToTileXY(latLongToPixelXY(north, 0.0, level)).y(),
-        wholeWorld ? columns - 1 : column(east), pixelXYToTileXY(latLongToPixelXY(south, 0.0, level)).y(),
-        static_cast<quint8>(level)};
+    if (!(east - west < 360.0)) {
+        return {0, top, columns - 1, bottom, static_cast<quint8>(level)};
+    }
+    const double turns = std::floor((west + 180.0) / 360.0) * 360.0;
+    const bool crosses = east - turns > 180.0;
+    const auto column = [level](
+                            double longitude) { return pixelXYToTileXY(latLongToPixelXY(0.0, longitude, level)).x(); };
+    const int left = column(west - turns);
+    const int right = column(east - turns - (crosses ? 360.0 : 0.0)) + (crosses ? columns : 0);
+    return {left, top, right, bottom, static_cast<quint8>(level)};
 }
 
 TileRange TileGeometry::tilesCovering(const GeoCoordinate &topLeft, const GeoCoordinate &bottomRight, int level)

@@ -9,12 +9,14 @@
 #include <QSvgRenderer>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
 constexpr int ChangeDelay = 30; // milliseconds, in which images are gathered for one change
 constexpr int LogoHeight = 20; // pixels
 constexpr int LogoRatio = 2; // device pixels a pixel
+constexpr int MostLevelsTooFine = 2; // where the service has no coarser one; beyond it a tile is a speck
 
 TileLoader::Open readFiles(const TileFileStore &store, const TileRequest &request)
 {
@@ -62,7 +64,8 @@ void TileProvider::connectFetcher()
     connect(m_fetcher, &TileFetcher::unavailable, this, &TileProvider::scheduleChange);
     connect(m_fetcher, &TileFetcher::idle, this, &TileProvider::scheduleChange);
     connect(m_fetcher, &TileFetcher::stateChanged, this, [this] {
-        if (std::exchange(m_paused, m_fetcher->paused()) != m_paused && m_paused) {
+        const bool wasPaused = std::exchange(m_paused, m_fetcher->paused());
+        if (m_paused && !wasPaused) {
             turnToStore();
         }
         scheduleChange();
@@ -226,8 +229,17 @@ void TileProvider::requestView(const QPointF &topLeft, const QPointF &bottomRigh
 
 void TileProvider::repeatView()
 {
-    if (m_view) {
+    if (m_view && std::isfinite(m_view->north + m_view->west + m_view->south + m_view->east)) {
         processRequest(*m_view);
+    }
+}
+
+// A key or an address that is missing is said once, when there is something to show.
+void TileProvider::sayWhatIsMissing()
+{
+    const QString &problem = m_setup.request.problem;
+    if (!problem.isEmpty() && !std::exchange(m_problemSaid, true)) {
+        Q_EMIT message(LogLevel::Warning, problem);
     }
 }
 
@@ -237,12 +249,14 @@ void TileProvider::processRequest(const View &view)
     m_wanted.clear();
     m_tooWide = false;
     if (m_enabled && m_visible) {
+        sayWhatIsMissing();
         int level = levelFor(view.resolution);
         TileRange range = tilesCovering(view.north, view.west, view.south, view.east, level);
         while (range.count() > MaxTilesPerView && level > minLevel()) {
             range = tilesCovering(view.north, view.west, view.south, view.east, --level);
         }
-        m_tooWide = range.count() > MaxTilesPerView;
+        const int suiting = groundResolutionToLevel(view.resolution) + adjustLevel();
+        m_tooWide = range.count() > MaxTilesPerView || minLevel() - suiting > MostLevelsTooFine;
         prepareTiles(m_tooWide ? TileRange() : range);
     } else {
         prepareTiles({});

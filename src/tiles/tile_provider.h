@@ -29,8 +29,9 @@ public:
     // What a logo stands out from: Light is for dark grounds.
     enum class LogoStyle { Light, Dark };
 
-    // Tiles that a view may ask for; where the service has no level coarse enough, it is asked for none.
-    static constexpr qint64 MaxTilesPerView = 1024;
+    // Tiles that a view may ask for. A wider view takes a coarser level; where the service has none that is coarse
+    // enough, it is asked for nothing.
+    static constexpr qint64 MaxTilesPerView = 2048;
     static constexpr qsizetype DefaultMemory = 256 * 1024 * 1024; // octets of decoded images
 
     TileProvider(const TileServiceSetup &setup, Projector *projector, QObject *parent = nullptr);
@@ -132,6 +133,7 @@ private:
     bool readsStoreFirst() const;
     bool asksService() const;
     void repeatView();
+    void sayWhatIsMissing();
     void processRequest(const View &view);
     void prepareTiles(const TileRange &range);
     void enqueueTile(const TileIndex &index);
@@ -162,4 +164,5 @@ private:
     bool m_tooWide = false; // the view, for the coarsest level
     bool m_imagesCame = false; // since the last tilesChanged()
     bool m_paused = false; // the fetcher, when it was last looked at
+    bool m_problemSaid = false;
 };
