@@ -140,6 +140,7 @@ std::optional<Tracker::Place> AdsbTracker::takePlace(const _ast_datarecord_t &re
 QSharedPointer<Track> AdsbTracker::trackOf(unsigned int address)
 {
     if (const auto known = trackManager().findTrackByICAOAddr(address)) {
+        known->reports().expect();
         return known;
     }
     const auto track = createTrack();

@@ -24,6 +24,17 @@ public:
     static constexpr int MaximumReports = 50;
     static constexpr std::size_t MaximumOctets = 6000; // with what is noted beside each report
 
+    // To be called some time before add(): fetches the memory that it will write to, which nobody has touched since the
+    // report before.
+    void expect() const
+    {
+        constexpr int CacheLine = 64;
+        if (m_octets) {
+            __builtin_prefetch(m_octets.get() + m_end, 1);
+            __builtin_prefetch(m_octets.get() + m_end + CacheLine, 1);
+        }
+    }
+
     // A report of more octets than the ring holds is left out. Writes and reads nothing of the ring: its memory is cold
     // when a report comes, and it need not be waited for.
     void add(TakenReport::Form form, qint64 timeMs, const korvane::asterix::Uap *uap, const unsigned char *octets,

@@ -192,6 +192,7 @@ private:
     void updateModeAString();
 
     quint64 m_incarnationId = 0;
+    ReportRing m_reports; // beside what a report is found by
     Type m_type = Unknown;
     Type m_detectedBy = Unknown;
     unsigned int m_trackNumber = 0;
@@ -235,5 +236,4 @@ private:
     std::shared_ptr<int> m_unindexedCount; // how many tracks of its manager are not indexed; null without a manager
     // A list that is filled at the front and cut at the back would keep four times the memory that its elements need.
     std::deque<TrackHistoryElement> m_history;
-    ReportRing m_reports;
 };

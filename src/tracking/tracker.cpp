@@ -132,6 +132,7 @@ QSharedPointer<Track> Tracker::createTrack()
 QSharedPointer<Track> Tracker::findOrCreate(unsigned int number)
 {
     if (const auto known = findByNumber(number)) {
+        known->reports().expect();
         return known;
     }
     const auto track = createTrack();
@@ -166,6 +167,7 @@ QSharedPointer<Track> Tracker::associate(const Identity &identity, const QDateTi
     if (!track) {
         return {};
     }
+    track->reports().expect();
     if (identity.address) {
         track->setIcaoAddr(*identity.address);
     }
