@@ -13,7 +13,7 @@ constexpr double LabelAreaCost = 2.0;
 constexpr double SymbolAreaCost = 2.2;
 constexpr double CrossingCost = 150.0; // of two leaders
 constexpr double ThroughCost = 40.0; // of a leader through a label
-constexpr double YieldingShare = 0.05; // of what a label that yields costs one that does not
+constexpr double YieldingShare = 0.01; // of what a label that yields costs one that does not
 constexpr double FreeLineCost = 100.0; // of a line that is to stay free under a label
 
 int sharedArea(const QRect &a, const QRect &b)

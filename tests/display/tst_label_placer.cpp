@@ -262,13 +262,14 @@ private Q_SLOTS:
             farthest = scope.leaderLength(i) > scope.leaderLength(farthest) ? i : farthest;
         }
         const double before = scope.leaderLength(farthest);
-        QVERIFY(before > 60.0);
+        QVERIFY(before > 150.0);
         scope.labels[farthest].priority = Priority::Alert;
         scope.next(20);
-        QVERIFY2(scope.leaderLength(farthest) < 40.0, qPrintable(QString::number(scope.leaderLength(farthest))));
+        QVERIFY2(
+            scope.leaderLength(farthest) < before / 2.0, qPrintable(QString::number(scope.leaderLength(farthest))));
         for (std::size_t i = 0; i < scope.labels.size(); ++i) {
             const QRect shared = scope.rect(i) & scope.rect(farthest);
-            QVERIFY(i == farthest || !scope.shown(i) || shared.width() * shared.height() < 60);
+            QVERIFY(i == farthest || !scope.shown(i) || shared.width() * shared.height() < 300);
         }
     }
 
