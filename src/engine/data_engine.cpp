@@ -227,7 +227,7 @@ void DataEngine::connectInput(Input *input)
 std::unique_ptr<MessageRouter> DataEngine::makeRouter()
 {
     const MessageRouter::Consumers consumers{makeTracker(), m_alertProcessor.data(), m_weatherProcessor.data(),
-        m_videoProcessor.data(), &m_sources, &m_ledgers};
+        m_videoProcessor.data(), &m_sources, &m_ledgers, &m_taps};
     auto router = std::make_unique<MessageRouter>(m_config, m_sensor, consumers, m_clock, &m_publisher.meter());
     connect(router.get(), &MessageRouter::message, this, &DataEngine::log);
     return router;
@@ -360,8 +360,22 @@ void DataEngine::lookUp(const QString &text, quint64 requestId)
     Q_EMIT sightings({requestId, text, m_archive.find(IdentityQuery::fromText(text))});
 }
 
+void DataEngine::openTap(const std::shared_ptr<StreamTap> &tap)
+{
+    tap->setClock(m_clock);
+    m_taps.open(tap);
+    m_ledgers.add(tap.get());
+}
+
+void DataEngine::closeTap(const std::shared_ptr<StreamTap> &tap)
+{
+    m_ledgers.remove(tap.get());
+    m_taps.close(tap);
+}
+
 void DataEngine::publishSnapshot()
 {
+    m_taps.flush();
     if (m_input) {
         m_input->updateClock();
     }

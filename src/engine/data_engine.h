@@ -8,6 +8,7 @@
 #include "engine/recording_input.h"
 #include "engine/report_archive.h"
 #include "engine/source_monitor.h"
+#include "engine/stream_tap.h"
 #include "processors/video_processor.h"
 #include "tracking/alert.h"
 #include "tracking/clock.h"
@@ -101,6 +102,11 @@ public Q_SLOTS:
     // Whom the stream has named by that callsign, code, address or number: answered with sightings.
     void lookUp(const QString &text, quint64 requestId);
 
+    // The tap gets copies of what inputs receive from now on, whichever input it is, until it is closed. Its reader may
+    // have what has come every 200 ms.
+    void openTap(const std::shared_ptr<StreamTap> &tap);
+    void closeTap(const std::shared_ptr<StreamTap> &tap);
+
     // Called by timers every 200 ms, and by whoever wants a picture at once.
     void publishSnapshot();
     void publishVideoBatch();
@@ -166,6 +172,7 @@ private:
     ReportLedgers m_ledgers;
     QSharedPointer<TrackManager> m_trackManager;
     ReportArchive m_archive;
+    StreamTaps m_taps;
     QSharedPointer<AlertManager> m_alertManager;
     QSharedPointer<AlertProcessor> m_alertProcessor;
     QSharedPointer<WeatherProcessor> m_weatherProcessor;

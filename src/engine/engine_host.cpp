@@ -114,6 +114,16 @@ void EngineHost::lookUp(const QString &text, quint64 requestId)
     post([=](DataEngine *engine) { engine->lookUp(text, requestId); });
 }
 
+void EngineHost::openTap(const std::shared_ptr<StreamTap> &tap)
+{
+    post([tap](DataEngine *engine) { engine->openTap(tap); });
+}
+
+void EngineHost::closeTap(const std::shared_ptr<StreamTap> &tap)
+{
+    post([tap](DataEngine *engine) { engine->closeTap(tap); });
+}
+
 bool EngineHost::stop(int waitMs)
 {
     DataEngine *engine = std::exchange(m_engine, nullptr);

@@ -16,6 +16,7 @@ class DataEngine;
 class QThread;
 class SensorInfo;
 struct ReportQuestion;
+class StreamTap;
 namespace korvane::astfile {
 class RecordingIndex;
 }
@@ -62,6 +63,10 @@ public:
     // Answered by DataEngine::reportsAnswered and sightings.
     void askForReports(const ReportQuestion &question);
     void lookUp(const QString &text, quint64 requestId);
+
+    // See DataEngine.
+    void openTap(const std::shared_ptr<StreamTap> &tap);
+    void closeTap(const std::shared_ptr<StreamTap> &tap);
 
     // Ends engine and thread, waiting for the thread this long. False when it did not stop in time: it is then left
     // running, with all that it uses, until the process ends. Does nothing a second time.

@@ -4,6 +4,7 @@
 #include "engine/envelope.h"
 #include "engine/pipeline_meter.h"
 #include "engine/source_monitor.h"
+#include "engine/stream_tap.h"
 #include "processors/alert_processor.h"
 #include "processors/video_processor.h"
 #include "processors/weather_processor.h"
@@ -85,6 +86,8 @@ void MessageRouter::procMessage(const QByteArray &data, int endpoint)
 {
     m_meter->countMessage(data.size());
     m_consumers.sources->beginMessage(data.size(), endpoint);
+    m_consumers.taps->addMessage(
+        {reinterpret_cast<const unsigned char *>(data.constData()), static_cast<std::size_t>(data.size())});
     switch (m_config.processorType) {
     case Config::ProcessorType::Asterix:
         return procAsterixMessage(data);

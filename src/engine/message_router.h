@@ -22,6 +22,7 @@ class AlertProcessor;
 class PipelineMeter;
 class SensorInfo;
 class SourceMonitor;
+class StreamTaps;
 class Tracker;
 class VideoProcessor;
 class WeatherProcessor;
@@ -41,6 +42,7 @@ public:
         VideoProcessor *video = nullptr;
         SourceMonitor *sources = nullptr;
         ReportLedger *ledger = nullptr; // is told of what reaches no consumer
+        StreamTaps *taps = nullptr;
     };
 
     // The meter outlives the router.

@@ -40,6 +40,8 @@ enum class ActionId : std::size_t {
     FullScreen,
     ResizeMainWindow,
     Statistics,
+    RawView,
+    DiagnoseInput,
     SensorManager,
     SensorCheck,
     CheatSheet,

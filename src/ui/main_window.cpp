@@ -15,6 +15,7 @@
 #include "plan_view/geo_widget.h"
 #include "radar_painting/geo_video_map.h"
 #include "radar_painting/geo_weather_map.h"
+#include "raw_view/stream_windows.h"
 #include "sensors/sensor_info.h"
 #include "sensors/sensor_manager.h"
 #include "settings/track_label_format_window.h"

@@ -40,6 +40,7 @@ class SnapshotPump;
 class StatsWindow;
 class StatusLine;
 class StatusReadOuts;
+class StreamWindows;
 class ThemeMenu;
 class TileMaps;
 class TrackCommands;
@@ -207,6 +208,7 @@ private:
     void connectMapWindows();
     void connectTileMaps();
     void connectDialogActions();
+    void connectStreamWindows();
 
     // Settings.
     // What concerns settings of these groups.
@@ -287,6 +289,7 @@ private:
     std::unique_ptr<ListPanes> m_lists;
     std::unique_ptr<TrackCommands> m_trackCommands;
     std::unique_ptr<Inspection> m_inspection;
+    std::unique_ptr<StreamWindows> m_streamWindows;
     std::unique_ptr<HomeView> m_home;
     std::unique_ptr<LayoutMenu> m_layoutMenu;
     std::unique_ptr<MapWindows> m_mapWindows;

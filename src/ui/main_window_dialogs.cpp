@@ -9,6 +9,7 @@
 #include "inspection/inspection.h"
 #include "orientation/geo_range_ring_map.h"
 #include "plan_view/geo_widget.h"
+#include "raw_view/stream_windows.h"
 #include "sensors/sensor_info.h"
 #include "sensors/sensor_manager.h"
 #include "settings/config_window.h"
@@ -67,6 +68,17 @@ void MainWindow::connectDialogActions()
     m_sensorCheck =
         std::make_unique<SensorCheck>(m_mapDisplay.get(), &m_host.shared().projector, m_sensors.get(), this);
     connect((*m_actions)[ActionId::SensorCheck], &QAction::triggered, m_sensorCheck.get(), &SensorCheck::show);
+    connectStreamWindows();
+}
+
+void MainWindow::connectStreamWindows()
+{
+    m_streamWindows = std::make_unique<StreamWindows>(
+        this, &m_host, [this] { return m_session->state() == InputSession::State::Open ? &m_config.live() : nullptr; });
+    StreamWindows *stream = m_streamWindows.get();
+    connect(m_session.get(), &InputSession::openingBegun, stream, &StreamWindows::beginInput);
+    connect((*m_actions)[ActionId::RawView], &QAction::triggered, stream, &StreamWindows::showRawView);
+    connect((*m_actions)[ActionId::DiagnoseInput], &QAction::triggered, stream, &StreamWindows::showDiagnosis);
 }
 
 void MainWindow::makeInspection()

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "engine/stream_tap.h"
+#include "tracking/report_ring.h"
+
+#include <QString>
+
+#include <memory>
+
+// One record of the stream as it came: a place in the batch that it came in. Cheap to copy; keeps the batch alive.
+struct RawRecord {
+    std::shared_ptr<const StreamBatch> batch;
+    quint32 index = 0;
+    quint64 number = 0; // from 1, without a gap
+
+    const StreamBatch::Record &facts() const { return batch->records[index]; }
+
+    // With its octets, to be taken apart.
+    KeptReport kept() const;
+};
+
+// Short texts of a record; all of them are worked out anew, from its octets where they are needed.
+
+// "CAT048", "Mode S", "SIR-M".
+QString formText(const RawRecord &record);
+// "25/11"; empty where none is told.
+QString sourceText(const RawRecord &record);
+// Call sign, Mode 3/A code, address and track number, as far as it carries them: "DLH4AB 4521 3C6444 #121".
+QString identityText(const RawRecord &record);
+// What became of it, or why it cannot be decoded.
+QString outcomeText(const RawRecord &record);
+// The items that it carries, "010 140 020 040", or a name of what it is.
+QString contentsText(const RawRecord &record);
+// All that can be searched for: the texts above and every value with its name.
+QString fullText(const RawRecord &record);
