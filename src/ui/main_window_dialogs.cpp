@@ -67,6 +67,9 @@ void MainWindow::connectDialogActions()
     on(ActionId::Statistics, &MainWindow::showStatsWindow);
     m_sensorCheck =
         std::make_unique<SensorCheck>(m_mapDisplay.get(), &m_host.shared().projector, m_sensors.get(), this);
+    m_sensorCheck->setSwitchTap([this](const std::shared_ptr<StreamTap> &tap, bool open) {
+        open ? m_host.openTap(tap) : m_host.closeTap(tap);
+    });
     connect((*m_actions)[ActionId::SensorCheck], &QAction::triggered, m_sensorCheck.get(), &SensorCheck::show);
     connectStreamWindows();
 }
