@@ -168,24 +168,30 @@ void TileFetcher::pump()
 
 void TileFetcher::send(const TileIndex &index, bool pastCache)
 {
-    QNetworkRequest request(m_request.url(index));
+    InFlight first;
+    first.since = m_pacing.now();
+    first.round = m_round;
+    get(index, m_request.url(index), pastCache, first);
+}
+
+void TileFetcher::get(const TileIndex &index, const QUrl &url, bool pastCache, const InFlight &before)
+{
+    QNetworkRequest request(url);
     request.setHeader(
         QNetworkRequest::UserAgentHeader, m_request.userAgent.isEmpty() ? tileUserAgent() : m_request.userAgent);
     for (const auto &[name, value] : m_request.headers) {
         request.setRawHeader(name, value);
     }
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
-    request.setMaximumRedirectsAllowed(MostRedirects);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setTransferTimeout(TransferTimeout);
     if (pastCache) {
         request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
     }
     QNetworkReply *reply = network().get(request);
-    m_inFlight.insert(index, {reply, m_pacing.now(), m_round, true});
+    InFlight sent = before;
+    sent.reply = reply;
+    m_inFlight.insert(index, sent);
     connect(reply, &QNetworkReply::finished, this, [this, index, reply] { finish(index, reply); });
-    connect(reply, &QNetworkReply::redirected, this, [this, reply, from = request.url()](const QUrl &target) mutable {
-        follow(reply, std::exchange(from, target), target);
-    });
     connect(reply, &QNetworkReply::downloadProgress, this, [reply](qint64 received, qint64 total) {
         if (std::max(received, total) > MaxTileOctets) {
             giveUp(reply, tr("the answer is larger than a tile can be"));
@@ -193,24 +199,48 @@ void TileFetcher::send(const TileIndex &index, bool pastCache)
     });
 }
 
-// Qt counts the redirects, and has given the reply its new address by now. Headers of the settings may hold a key,
-// which is nobody else's.
-void TileFetcher::follow(QNetworkReply *reply, const QUrl &from, const QUrl &target)
+// Headers of the settings may hold a key, which is nobody else's.
+QString TileFetcher::refusal(const QUrl &from, const QUrl &target, int redirects) const
 {
-    if (!noLessSafe(from, target)) {
-        giveUp(reply, tr("%1 redirects to an insecure address").arg(from.host()));
-    } else if (!m_request.headers.isEmpty() && !sameHost(from, target)) {
-        giveUp(reply, tr("%1 redirects to another server, which must not see the key").arg(from.host()));
-    } else {
-        Q_EMIT reply->redirectAllowed();
+    if (redirects >= MostRedirects) {
+        return tr("%1 redirects too often").arg(from.host());
     }
+    if (!noLessSafe(from, target)) {
+        return tr("%1 redirects to an insecure address").arg(from.host());
+    }
+    if (!m_request.headers.isEmpty() && !sameHost(from, target)) {
+        return tr("%1 redirects to another server, which must not see the key").arg(from.host());
+    }
+    return {};
+}
+
+// True when the reply was a redirect, and has become another request.
+bool TileFetcher::follow(const TileIndex &index, QNetworkReply *reply, const InFlight &request)
+{
+    const QUrl target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+    if (target.isEmpty()) {
+        return false;
+    }
+    const QUrl resolved = reply->url().resolved(target);
+    const QString reason = refusal(reply->url(), resolved, request.redirects);
+    if (!reason.isEmpty()) {
+        reply->setProperty(TileRefusal, reason);
+        return false;
+    }
+    InFlight next = request;
+    ++next.redirects;
+    get(index, resolved, true, next);
+    return true;
 }
 
 void TileFetcher::finish(const TileIndex &index, QNetworkReply *reply)
 {
     const InFlight request = m_inFlight.take(index);
-    const TileAnswer answer = TileAnswer::of(reply);
     reply->deleteLater();
+    if (follow(index, reply, request)) {
+        return;
+    }
+    const TileAnswer answer = TileAnswer::of(reply);
     if (answer.fromCache && answer.kind == TileAnswer::ServiceError) {
         forgetCached(index);
         send(index, true); // what the cache holds was damaged

@@ -86,6 +86,7 @@ private:
         QNetworkReply *reply = nullptr;
         QDateTime since;
         int round = 0; // m_round when it was sent
+        int redirects = 0; // that led to it
         bool wanted = true; // by the present view
     };
     struct Unavailable {
@@ -97,8 +98,11 @@ private:
     void forget(const InFlight &request);
     void forgetCached(const TileIndex &index);
     void send(const TileIndex &index, bool pastCache);
+    void get(const TileIndex &index, const QUrl &url, bool pastCache, const InFlight &before);
     void finish(const TileIndex &index, QNetworkReply *reply);
-    void follow(QNetworkReply *reply, const QUrl &from, const QUrl &target);
+    bool follow(const TileIndex &index, QNetworkReply *reply, const InFlight &request);
+    // Why a redirect is not followed; empty where it is.
+    QString refusal(const QUrl &from, const QUrl &target, int redirects) const;
     void settle(const TileIndex &index, const TileAnswer &answer, const InFlight &request);
     bool failsAlone(const TileIndex &index);
     void pauseAfter(const TileAnswer &answer, int round);
