@@ -285,8 +285,9 @@ void TestSourceJudgement::statesAreToldFromTargets()
     rig.engine.procMessage(QByteArray::fromHex("0a000a d0 0002 02 000000"));
     const auto statistics = rig.statistics();
     QCOMPARE(statistics->sources.size(), 1);
-    const QString said = SourceJudge::judge(statistics->sources[0], JudgementBasis()).whyNotUsed;
-    QVERIFY2(said.startsWith("Nothing here shows this kind of message of CAT010"), qPrintable(said));
+    const SourceJudgement judgement = SourceJudge::judge(statistics->sources[0], JudgementBasis());
+    QVERIFY2(judgement.whyNotUsed.isEmpty(), qPrintable(judgement.whyNotUsed));
+    QCOMPARE(judgement.shownShare, std::optional(1.0));
 }
 
 VYX_TEST(TestSourceJudgement)
