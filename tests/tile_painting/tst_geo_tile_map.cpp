@@ -1,6 +1,8 @@
 #include "app/config.h"
+#include "app/theme_library.h"
 #include "test_program.h"
 #include "tile_scene.h"
+#include "view/contrast.h"
 #include "view/text_room.h"
 
 #include <QSignalSpy>
@@ -46,6 +48,7 @@ private Q_SLOTS:
     void nothingIsDoneWhileNothingChanges();
     void densityTakesADeeperLevel();
     void toneIsOfTheBottomLayer();
+    void trafficStandsOutFromTonedTiles();
     void saysWhoseTheTilesAre();
     void viewsThatNeedTooManyTilesShowNone();
 };
@@ -294,6 +297,22 @@ void TestGeoTileMap::toneIsOfTheBottomLayer()
     top.applyConfig(config);
     top.setSource(supply.source());
     QCOMPARE(seen(top, 150), QColor(0, 200, 0));
+}
+
+// From street maps, which are nearly white, and from pictures from the air, which are dark.
+void TestGeoTileMap::trafficStandsOutFromTonedTiles()
+{
+    const ThemeLibrary themes;
+    for (const char *name : {"Night", "Dusk", "Day"}) {
+        Config config;
+        themes.find(name)->applyTo(config);
+        const TileTone tone{config.mapTileDimming, config.mapTileDesaturation, config.mapBackgroundColor};
+        for (const int grey : {255, 180, 70}) {
+            const QColor tile = tone.applied(plainTile(QColor(grey, grey, grey))).pixelColor(0, 0);
+            QVERIFY2(contrastRatio(config.trackLabelColor, tile) >= 4.5, name);
+            QVERIFY2(contrastRatio(config.trackSymbolColor, tile) >= 3.0, name);
+        }
+    }
 }
 
 void TestGeoTileMap::saysWhoseTheTilesAre()
