@@ -151,7 +151,8 @@ void DemoTraffic::fitRings(Config &config) const
 void DemoTraffic::start()
 {
     if (m_process.state() == QProcess::NotRunning) {
-        m_process.start(m_program, {m_scenario, "--with-parent", "--to", QString("udp:127.0.0.1:%1").arg(m_port)});
+        m_process.start(
+            m_program, {m_scenario, "--with-parent", "--wall-clock", "--to", QString("udp:127.0.0.1:%1").arg(m_port)});
     }
 }
 
