@@ -26,7 +26,20 @@ class Projector;
 class SensorInfo;
 
 // The layers' places in the drawing order, bottom first. A new layer is a place here and an addLayer().
-enum class MapLayer { BottomTiles, StaticMaps, TopTiles, Weather, Video, Sensor, RangeRings, CompassRose, Plots, ScaleBar, Key, MapEditor };
+enum class MapLayer {
+    BottomTiles,
+    StaticMaps,
+    TopTiles,
+    Weather,
+    Video,
+    Sensor,
+    RangeRings,
+    CompassRose,
+    Plots,
+    ScaleBar,
+    Key,
+    MapEditor
+};
 
 // The ground colour and the map layers over it, in drawing order. GUI thread only.
 class GeoMapDisplay final : public QObject {

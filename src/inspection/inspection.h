@@ -48,8 +48,8 @@ public:
 public Q_SLOTS:
     // Asks again for what the pane shows, while it is in sight.
     void refresh();
-    // Shows the pane with what the selected track, the plot without a track nearest to the place, plane metres, is made of; and an alert,
-    // by its key on the AlertBoard. Until a track is selected.
+    // Shows the pane with what the selected track, the plot without a track nearest to the place, plane metres, is made
+    // of; and an alert, by its key on the AlertBoard. Until a track is selected.
     void explainSelectedTrack();
     void explainPlotAt(const QPointF &planePoint);
     void explainAlertOf(quint64 alert);

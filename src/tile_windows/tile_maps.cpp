@@ -109,7 +109,7 @@ void TileMaps::give(Layer &layer, TileService service, bool anew)
 
 bool TileMaps::needsService(TileService service) const
 {
-    if (service == TileService::None || !allowed().mapTileService) {
+    if (service == TileService::None) {
         return false;
     }
     const TileServiceSetup setup = tileServiceSetup(service, m_config);
@@ -130,8 +130,9 @@ QString TileMaps::servicesToAsk() const
 
 bool TileMaps::shown() const
 {
-    return m_config.mapTileVisible && (m_bottom.provider || m_top.provider)
-        && (m_config.mapTileConsent || servicesToAsk().isEmpty());
+    // Switched off by the operator, requests need no agreement: he sees what is on this machine.
+    const bool agreed = !m_barred && (m_config.mapTileConsent || !m_config.mapTileService);
+    return m_config.mapTileVisible && (m_bottom.provider || m_top.provider) && (agreed || servicesToAsk().isEmpty());
 }
 
 QString TileMaps::notice() const
@@ -153,12 +154,13 @@ void TileMaps::show(bool on)
     if (on && !m_bottom.provider && !m_top.provider) {
         Q_EMIT logMessage(LogLevel::Info, tr("No tile service is chosen: see Map Tiles in the settings."));
     }
-    if (on && m_barred) {
-        Q_EMIT logMessage(
-            LogLevel::Info, tr("The demonstration asks no tile service; only tiles on this machine are shown."));
-    }
     const QString services = servicesToAsk();
-    const bool agreed = m_config.mapTileConsent || services.isEmpty();
+    if (on && m_barred && !services.isEmpty()) {
+        Q_EMIT logMessage(LogLevel::Info, tr("The demonstration asks no tile service, only files of tiles are shown."));
+        Q_EMIT changed();
+        return;
+    }
+    const bool agreed = m_config.mapTileConsent || !m_config.mapTileService || services.isEmpty();
     if (on && !agreed && !askConsent(services)) {
         Q_EMIT changed();
         return;
