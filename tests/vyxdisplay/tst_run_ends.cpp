@@ -130,7 +130,7 @@ void TestRunEnds::demoEndIsReported()
         QCOMPARE(messages[0][0].value<LogLevel>(), level);
         QVERIFY(arguments.open(QFile::ReadOnly));
         QCOMPARE(QString::fromUtf8(arguments.readAll()).trimmed(),
-            QString("a scenario.json --with-parent --to udp:127.0.0.1:%1").arg(config.inputUdpPort1));
+            QString("a scenario.json --with-parent --wall-clock --to udp:127.0.0.1:%1").arg(config.inputUdpPort1));
     }
 }
 
