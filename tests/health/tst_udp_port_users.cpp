@@ -68,13 +68,11 @@ void TestUdpPortUsers::findsARealSocket()
 {
     QUdpSocket socket;
     QVERIFY(socket.bind(QHostAddress::AnyIPv4, 0));
-    if (!QFile::exists("/proc/net/udp") || UdpPortUsers::ownSockets().isEmpty()) {
-        QSKIP("The system does not tell.");
-    }
     QVERIFY(UdpPortUsers::find({socket.localPort()}, UdpPortUsers::ownSockets()).isEmpty());
     const QList<UdpPortUser> users = UdpPortUsers::find({socket.localPort()}, {});
-    if (users.isEmpty() && !QFile::exists("/proc/net/snmp")) {
-        QSKIP("The system does not tell of sockets.");
+    if (!QFile::exists("/proc/net/udp")) {
+        QVERIFY(users.isEmpty()); // such a system tells of nobody
+        return;
     }
     QCOMPARE(users.size(), 1);
     QCOMPARE(users[0].port, socket.localPort());
