@@ -129,7 +129,7 @@ void TestTileProvider::showsAView()
     const QSignalSpy changes(provider.get(), &TileProvider::tilesChanged);
     Home.show(*provider);
     QTRY_VERIFY(shows(*provider, Home));
-    QTRY_VERIFY(changes.size() > 0);
+    QTRY_VERIFY(!changes.isEmpty());
     QVERIFY(changes.size() < Home.tiles().size());
     QCOMPARE(m_server->count(), Home.tiles().size());
     QVERIFY(provider->settled());
