@@ -63,8 +63,13 @@ public:
     QString displayStyle = QStringLiteral("windowsvista"); // key of a widget style
     QString displayLanguage = QStringLiteral("en"); // empty: the system's
     bool displayToolbarText = true;
+    int displayFontScale = 100; // of the windows' text, percent of the system's
+    QString settingsLock; // salted hash of the password that settings are locked with; empty: not locked
+    int logFileSize = 4; // where a new log file is begun, MiB; 0: no log file
+    int logFileCount = 5; // kept, the one being written among them
 
     // Inputs
+    bool inputAutoStart = false; // with the program
     InputComm inputComm = InputComm::Udp;
     bool inputUdpMulticast1 = true;
     QNetworkInterface inputUdpMcastLanInterface1; // invalid: the system chooses

@@ -88,6 +88,11 @@ constexpr std::array Table{
     SETTING(displayStyle, Group::General).ofThemes(),
     SETTING(displayLanguage, Group::General),
     SETTING(displayToolbarText, Group::General),
+    SETTING(displayFontScale, Group::General).within(100, 200, Unit::Percent),
+    SETTING(settingsLock, Group::General),
+    SETTING(logFileSize, Group::General).within(0, 1024, Unit::Mebibytes),
+    SETTING(logFileCount, Group::General).within(1, 100),
+    SETTING(inputAutoStart, Group::General),
     SETTING(inputComm, Group::Input),
     SETTING(inputUdpMulticast1, Group::Input),
     SETTING(inputUdpMcastLanInterface1, Group::Input),
@@ -320,6 +325,8 @@ QString Setting::unitSuffix() const
         return QCoreApplication::translate("Setting", " pixels");
     case Unit::Percent:
         return QCoreApplication::translate("Setting", " %");
+    case Unit::Mebibytes:
+        return QCoreApplication::translate("Setting", " MiB");
     case Unit::None:
         break;
     }

@@ -14,7 +14,7 @@ class QSettings;
 // them is the only place that lists the settings; a setting's default is the initialiser of its member.
 class Setting {
 public:
-    enum class Unit { None, Seconds, NauticalMiles, Metres, Feet, Degrees, Pixels, Percent };
+    enum class Unit { None, Seconds, NauticalMiles, Metres, Feet, Degrees, Pixels, Percent, Mebibytes };
 
     // What reads and writes one member of a record.
     struct Access {

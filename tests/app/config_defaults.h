@@ -4,7 +4,8 @@
 // for the data directory, * for any opaque colour; colours are alpha and RGB.
 inline constexpr char ConfigDefaults[] = R"(
 displayCenterCoordinate=400300N1164400E displayLocalTimeZoneName=%ZONE% displayTheme=Classic displayStyle=windowsvista
-displayLanguage=en displayToolbarText=true
+displayLanguage=en displayToolbarText=true displayFontScale=100 settingsLock= logFileSize=4 logFileCount=5
+inputAutoStart=false
 inputComm=0 inputUdpMulticast1=true inputUdpMcastLanInterface1= inputUdpMcastAddress1=239.0.0.1
 inputUdpPort1=50000 inputEnable2=false inputUdpMulticast2=true inputUdpMcastLanInterface2=
 inputUdpMcastAddress2=239.0.0.2 inputUdpPort2=50001 inputSerialDevice= inputSerialBaudRate=9600
