@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -23,6 +24,12 @@ int sharedArea(const QRect &a, const QRect &b)
     return width > 0 && height > 0 ? width * height : 0;
 }
 
+// Without the toolkit's care for rectangles turned inside out, which takes a call each; there are none here.
+bool overlap(const QRect &a, const QRect &b)
+{
+    return a.left() <= b.right() && b.left() <= a.right() && a.top() <= b.bottom() && b.top() <= a.bottom();
+}
+
 // Which side of a line a point is on: the sign.
 qint64 sideOf(const QLine &line, int x, int y)
 {
@@ -35,19 +42,19 @@ QRect boundsOf(const QLine &line)
         QPoint(std::max(line.x1(), line.x2()), std::max(line.y1(), line.y2())));
 }
 
-bool cross(const QLine &a, const QLine &b)
+bool cross(const QLine &a, const QRect &boundsOfA, const QLine &b, const QRect &boundsOfB)
 {
     const auto apart = [](const QLine &line, const QLine &other) {
         const qint64 first = sideOf(line, other.x1(), other.y1());
         const qint64 second = sideOf(line, other.x2(), other.y2());
         return first == 0 || second == 0 || (first < 0) == (second < 0);
     };
-    return boundsOf(a).intersects(boundsOf(b)) && !apart(a, b) && !apart(b, a);
+    return overlap(boundsOfA, boundsOfB) && !apart(a, b) && !apart(b, a);
 }
 
-bool cross(const QRect &rect, const QLine &line)
+bool cross(const QRect &rect, const QLine &line, const QRect &boundsOfLine)
 {
-    if (!rect.intersects(boundsOf(line))) {
+    if (!overlap(rect, boundsOfLine)) {
         return false;
     }
     const qint64 corners[] = {sideOf(line, rect.left(), rect.top()), sideOf(line, rect.right(), rect.top()),
@@ -56,29 +63,48 @@ bool cross(const QRect &rect, const QLine &line)
     return *least <= 0 && *most >= 0;
 }
 
-// Narrows the time in which two intervals, the second moving, share a point.
-void meet(int firstLow, int firstHigh, int secondLow, int secondHigh, double speed, double *begin, double *end)
+// Whether two intervals, the second moving, are apart all the time until the limit.
+bool stayApart(int firstLow, int firstHigh, int secondLow, int secondHigh, double speed, double limit)
 {
-    const double toLow = firstLow - secondHigh;
-    const double toHigh = firstHigh - secondLow;
-    if (speed == 0.0) {
-        if (toLow > 0.0 || toHigh < 0.0) {
-            *end = -1.0;
-        }
-        return;
-    }
-    *begin = std::max(*begin, std::min(toLow / speed, toHigh / speed));
-    *end = std::min(*end, std::max(toLow / speed, toHigh / speed));
+    return (secondHigh < firstLow && speed * limit < firstLow - secondHigh)
+        || (secondLow > firstHigh && speed * limit > firstHigh - secondLow);
 }
 
-// Seconds until the second rectangle, moving at that speed, touches the first, up to the limit.
+// When they come to share a point, at the earliest now.
+double meetingTime(int firstLow, int firstHigh, int secondLow, int secondHigh, double speed)
+{
+    if (secondHigh < firstLow) {
+        return (firstLow - secondHigh) / speed;
+    }
+    return secondLow > firstHigh ? (firstHigh - secondLow) / speed : 0.0;
+}
+
+// When they cease to, which is never before that.
+double partingTime(int firstLow, int firstHigh, int secondLow, int secondHigh, double speed)
+{
+    if (speed == 0.0) {
+        return std::numeric_limits<double>::infinity();
+    }
+    return (speed > 0.0 ? firstHigh - secondLow : firstLow - secondHigh) / speed;
+}
+
+// Seconds until the second rectangle, moving at that speed, touches the first, up to the limit. Most never do, and are
+// done with before anything is divided.
 double timeToTouch(const QRect &first, const QRect &second, const QPointF &speed, double limit)
 {
-    double begin = 0.0;
-    double end = limit;
-    meet(first.left(), first.right(), second.left(), second.right(), speed.x(), &begin, &end);
-    meet(first.top(), first.bottom(), second.top(), second.bottom(), speed.y(), &begin, &end);
-    return begin <= end ? begin : limit;
+    const int left = first.left();
+    const int right = first.right();
+    const int top = first.top();
+    const int bottom = first.bottom();
+    if (stayApart(left, right, second.left(), second.right(), speed.x(), limit)
+        || stayApart(top, bottom, second.top(), second.bottom(), speed.y(), limit)) {
+        return limit;
+    }
+    const double begin = std::max(meetingTime(left, right, second.left(), second.right(), speed.x()),
+        meetingTime(top, bottom, second.top(), second.bottom(), speed.y()));
+    const double end = std::min(partingTime(left, right, second.left(), second.right(), speed.x()),
+        partingTime(top, bottom, second.top(), second.bottom(), speed.y()));
+    return begin <= end ? std::min(begin, limit) : limit;
 }
 
 } // namespace
@@ -129,8 +155,9 @@ void LabelField::put(int owner, const QRect &rect)
     Owner &put = m_owners[std::size_t(owner)];
     put.rect = rect;
     put.leader = QLine(put.place, leaderEnd(put.place, rect));
+    put.leaderBounds = boundsOf(put.leader);
     addDensity(rect, int(LabelAreaCost * DensityUnits));
-    const QRect range = cellsOf(rect | boundsOf(put.leader));
+    const QRect range = cellsOf(rect | put.leaderBounds);
     for (int y = range.top(); y <= range.bottom(); ++y) {
         for (int x = range.left(); x <= range.right(); ++x) {
             m_labelCells[std::size_t(y * m_columns + x)].push_back(owner);
@@ -144,7 +171,7 @@ void LabelField::remove(int owner)
     if (removed.rect.isNull()) {
         return;
     }
-    const QRect range = cellsOf(removed.rect | boundsOf(removed.leader));
+    const QRect range = cellsOf(removed.rect | removed.leaderBounds);
     for (int y = range.top(); y <= range.bottom(); ++y) {
         for (int x = range.left(); x <= range.right(); ++x) {
             std::vector<int> &cell = m_labelCells[std::size_t(y * m_columns + x)];
@@ -170,15 +197,17 @@ double LabelField::cost(int owner, const QRect &rect, double limit) const
     }
     const Owner &asked = m_owners[std::size_t(owner)];
     const QLine leader(asked.place, leaderEnd(asked.place, rect));
+    const QRect bounds = boundsOf(leader);
     ++m_question;
-    visit(m_labelCells, m_columns, cellsOf(rect | boundsOf(leader)), [&](int other) {
+    visit(m_labelCells, m_columns, cellsOf(rect | bounds), [&](int other) {
         unsigned int &visited = m_visited[std::size_t(other)];
         if (other != owner && visited != m_question) {
             visited = m_question;
             const Owner &stands = m_owners[std::size_t(other)];
             const double inTheWay = LabelAreaCost * sharedArea(rect, stands.rect)
-                + (cross(leader, stands.leader) ? CrossingCost : 0.0) + (cross(rect, stands.leader) ? ThroughCost : 0.0)
-                + (cross(stands.rect, leader) ? ThroughCost : 0.0);
+                + (cross(leader, bounds, stands.leader, stands.leaderBounds) ? CrossingCost : 0.0)
+                + (cross(rect, stands.leader, stands.leaderBounds) ? ThroughCost : 0.0)
+                + (cross(stands.rect, leader, bounds) ? ThroughCost : 0.0);
             cost += !asked.yields && stands.yields ? YieldingShare * inTheWay : inTheWay;
         }
         return cost < limit;
@@ -190,8 +219,11 @@ int LabelField::crossing(int owner) const
 {
     const Owner &asked = m_owners[std::size_t(owner)];
     int found = -1;
-    visit(m_labelCells, m_columns, cellsOf(boundsOf(asked.leader)), [&](int other) {
-        found = other != owner && cross(asked.leader, m_owners[std::size_t(other)].leader) ? other : -1;
+    visit(m_labelCells, m_columns, cellsOf(asked.leaderBounds), [&](int other) {
+        const Owner &stands = m_owners[std::size_t(other)];
+        const bool crosses =
+            other != owner && cross(asked.leader, asked.leaderBounds, stands.leader, stands.leaderBounds);
+        found = crosses ? other : -1;
         return found < 0;
     });
     return found;
@@ -212,8 +244,10 @@ int LabelField::crowding(const QPoint &place) const
 double LabelField::freeFor(int owner, const QRect &rect, double limit, double least) const
 {
     const QPointF motion = m_owners[std::size_t(owner)].motion;
-    const int reach = int(std::ceil(2.0 * m_speed * limit)) + m_symbolReach;
-    const QRect range = cellsOf(rect.adjusted(-reach, -reach, reach, reach));
+    // Who comes from ahead closes in quicker than who comes from behind.
+    const auto reach = [&](double ownSpeed) { return int(std::ceil((m_speed + ownSpeed) * limit)) + m_symbolReach; };
+    const QRect range =
+        cellsOf(rect.adjusted(-reach(-motion.x()), -reach(-motion.y()), reach(motion.x()), reach(motion.y())));
     visit(m_symbolCells, m_columns, range, [&](int other) {
         const Owner &stands = m_owners[std::size_t(other)];
         if (other != owner) {
@@ -296,12 +330,13 @@ void LabelField::addDensity(const QRect &rect, int costOfPixel)
 // Over the cells whose middle lies within.
 double LabelField::roughCost(const QRect &rect) const
 {
-    const QRect inside = (rect & m_area).translated(-m_area.topLeft());
-    const int left = (inside.left() + DensityPixels / 2) / DensityPixels;
-    const int right = (inside.right() + 1 - DensityPixels / 2) / DensityPixels;
-    const int bottom = (inside.bottom() + 1 - DensityPixels / 2) / DensityPixels;
+    const int half = DensityPixels / 2;
+    const int left = (std::max(rect.left() - m_area.left(), 0) + half) / DensityPixels;
+    const int top = (std::max(rect.top() - m_area.top(), 0) + half) / DensityPixels;
+    const int right = (std::min(rect.right() - m_area.left(), m_area.width() - 1) + 1 - half) / DensityPixels;
+    const int bottom = (std::min(rect.bottom() - m_area.top(), m_area.height() - 1) + 1 - half) / DensityPixels;
     int sum = 0;
-    for (int y = (inside.top() + DensityPixels / 2) / DensityPixels; y <= bottom && !inside.isEmpty(); ++y) {
+    for (int y = top; y <= bottom; ++y) {
         const int *row = m_density.data() + y * m_densityColumns;
         for (int x = left; x <= right; ++x) {
             sum += row[x];
@@ -313,6 +348,6 @@ double LabelField::roughCost(const QRect &rect) const
 double LabelField::freeLineCost(const QRect &rect) const
 {
     return FreeLineCost * double(std::count_if(m_freeLines.begin(), m_freeLines.end(), [&rect](const QLine &line) {
-        return cross(rect, line);
+        return cross(rect, line, boundsOf(line));
     }));
 }

@@ -46,6 +46,7 @@ private:
         QPointF motion;
         QRect rect; // of the label; null: none
         QLine leader;
+        QRect leaderBounds;
         bool yields = true;
     };
 

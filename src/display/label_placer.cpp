@@ -1,6 +1,7 @@
 #include "display/label_placer.h"
 
 #include <algorithm>
+#include <cmath>
 #include <tuple>
 
 namespace {
@@ -17,11 +18,16 @@ constexpr double EdgeCost = 220.0; // of reaching beyond the edge
 constexpr double EdgePixelCost = 0.5; // of a pixel beyond the edge
 constexpr double BadCost = 60.0; // more than that and a label looks for another place
 constexpr double ShortenedCost = 450.0; // of giving up lines
-constexpr double HiddenCost = 1400.0; // of not being shown
+// Of not being shown, with few labels in view; from Few to Many of them it falls, where covering each other helps
+// nobody.
+constexpr double HiddenCostOfFew = 2200.0;
+constexpr double HiddenCostOfMany = 1400.0;
+constexpr int Few = 350;
+constexpr int Many = 600;
 constexpr double ChangeCost = 200.0; // what a move or another form has to be worth
 constexpr double FarPlaceCost = 30.0; // of a place from which a label that has become urgent comes nearer
 constexpr double ExchangeCost = 500.0; // what the moves of two labels have to be worth
-constexpr int WorkLimit = 6000; // candidates a call, from which on what can wait does
+constexpr int WorkLimit = 4500; // candidates a call, from which on what can wait does
 constexpr std::size_t HastyStride = 20; // of the candidates looked at when there is no time for all
 constexpr double NoLimit = 1e9;
 constexpr double RoughShare = 0.75; // of a guess that the cost surely comes to
@@ -102,6 +108,9 @@ void LabelPlacer::collect(const std::vector<Label> &labels)
             m_field.addFreeLine(index, label.place + label.vectorTip);
         }
     }
+    const auto inView = std::count_if(m_entries.begin(), m_entries.end(), [](const Entry &e) { return e.inView; });
+    const double crowd = std::clamp(double(inView - Few) / (Many - Few), 0.0, 1.0);
+    m_hiddenCost = std::lerp(HiddenCostOfFew, HiddenCostOfMany, crowd);
     std::erase_if(m_memories, [this](const auto &item) { return m_call - item.second.seen > MemoryCalls; });
 }
 
@@ -159,7 +168,7 @@ void LabelPlacer::placeNew()
 {
     sortNew();
     for (const int index : m_new) {
-        settle(index, bestForm(index, {{}, 0.0, staysWhole(index) ? NoLimit : HiddenCost, Form::Hidden}));
+        settle(index, bestForm(index, {{}, 0.0, staysWhole(index) ? NoLimit : m_hiddenCost, Form::Hidden}));
     }
 }
 
@@ -281,7 +290,7 @@ LabelPlacer::Found LabelPlacer::standing(int index) const
 {
     const Memory &memory = *entry(index).memory;
     const double cost = memory.form == Form::Hidden
-        ? HiddenCost
+        ? m_hiddenCost
         : standingCost(index, NoLimit) + memory.placeCost + formCost(memory.form);
     return {memory.offset, memory.placeCost, cost, memory.form};
 }

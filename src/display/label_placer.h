@@ -128,6 +128,7 @@ private:
     quint64 m_hovered = 0; // the track that is shown over the others
     Placed m_hoveredPlace;
     int m_call = 0;
+    double m_hiddenCost = 0.0; // of not being shown, in this call
     int m_work = 0; // candidates looked at in this call
     int m_shortenedCount = 0;
     int m_hiddenCount = 0;
