@@ -4,6 +4,8 @@
 // labels are in view, then 100. Exit status 1 when a frame took more processor time than wanted: 33 ms with 300 labels,
 // and 16.7 ms at the 95th percentile with 100.
 
+#include "window_frames.h"
+
 #include "app/app_identity.h"
 #include "app/app_paths.h"
 #include "app/theme_library.h"
@@ -24,49 +26,14 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <ctime>
-#include <vector>
 
 namespace {
 
-constexpr double FrameMs = 1000.0 / 60.0;
 constexpr double LongestFrameMs = 33.0;
 constexpr double WidestView = 700.0; // metres a pixel
 constexpr int MostSteps = 30; // of zoom
 constexpr double DragRadius = 180.0; // pixels
 constexpr double DragStep = 0.06; // radians a frame: some 11 pixels
-
-double threadMs()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1000.0 + static_cast<double>(time.tv_nsec) / 1e6;
-}
-
-// What frames took, milliseconds, in ascending order once they have been sorted.
-struct Frames {
-    std::vector<double> work;
-    std::vector<double> clock;
-
-    static QString figures(std::vector<double> &times)
-    {
-        std::sort(times.begin(), times.end());
-        return QString("%1 / %2 / %3 ms")
-            .arg(times[times.size() / 2], 0, 'f', 1)
-            .arg(times[times.size() * 95 / 100], 0, 'f', 1)
-            .arg(times.back(), 0, 'f', 1);
-    }
-};
-
-void let(int milliseconds)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < milliseconds) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        QThread::msleep(1);
-    }
-}
 
 int labelsInView(GeoWidget &plan)
 {
@@ -177,10 +144,7 @@ int run(const QString &scenario, const QStringList &themeNames, double seconds, 
             }
         }
     }
-    window.setExitQuestion([] { return true; });
-    QObject::connect(&window, &MainWindow::shutdownComplete, qApp, [] { QCoreApplication::exit(); });
-    window.requestExit();
-    QApplication::exec();
+    endWindow(window);
     return good ? 0 : 1;
 }
 

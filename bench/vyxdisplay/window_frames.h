@@ -1,0 +1,57 @@
+#pragma once
+
+// What the programs that drive the terminal's window by hand share.
+
+#include "ui/main_window.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QThread>
+
+#include <algorithm>
+#include <ctime>
+#include <vector>
+
+inline constexpr double FrameMs = 1000.0 / 60.0;
+
+// Processor time of this thread so far.
+inline double threadMs()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1000.0 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+// What frames took, milliseconds, in ascending order once they have been sorted.
+struct Frames {
+    std::vector<double> work;
+    std::vector<double> clock;
+
+    static QString figures(std::vector<double> &times)
+    {
+        std::sort(times.begin(), times.end());
+        return QString("%1 / %2 / %3 ms")
+            .arg(times[times.size() / 2], 0, 'f', 1)
+            .arg(times[times.size() * 95 / 100], 0, 'f', 1)
+            .arg(times.back(), 0, 'f', 1);
+    }
+};
+
+inline void let(int milliseconds)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < milliseconds) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        QThread::msleep(1);
+    }
+}
+
+// As the operator ends it; returns when all has stopped.
+inline void endWindow(MainWindow &window)
+{
+    window.setExitQuestion([] { return true; });
+    QObject::connect(&window, &MainWindow::shutdownComplete, qApp, [] { QCoreApplication::exit(); });
+    window.requestExit();
+    QApplication::exec();
+}
