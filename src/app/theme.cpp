@@ -4,6 +4,7 @@
 
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -97,6 +98,14 @@ QVariant valueOf(const QJsonValue &value, const Setting &setting, const QVariant
 } // namespace
 
 const QString Theme::Classic = QStringLiteral("Classic");
+
+QString Theme::shownName(const QString &name)
+{
+    static constexpr const char *Own[] = {QT_TRANSLATE_NOOP("Theme", "Classic"), QT_TRANSLATE_NOOP("Theme", "Night"),
+        QT_TRANSLATE_NOOP("Theme", "Dusk"), QT_TRANSLATE_NOOP("Theme", "Day")};
+    const auto own = std::find(std::begin(Own), std::end(Own), name);
+    return own == std::end(Own) ? name : tr(*own);
+}
 
 Theme::Theme(const QString &name, const Config &config, const QJsonObject &trackFormat, const Theme &windows)
     : m_name(name), m_values(themedValues(config)), m_trackFormat(trackFormat), m_windows(windows.m_windows)

@@ -23,6 +23,9 @@ class Theme {
 public:
     // The look that settings have by themselves.
     static const QString Classic;
+    // A theme's name as the operator reads it: those of the program's own are translated.
+    static QString shownName(const QString &name);
+
     Theme() = default;
     // The look that these settings have now, with a track format, and windows as another theme has them.
     Theme(const QString &name, const Config &config, const QJsonObject &trackFormat, const Theme &windows);

@@ -11,10 +11,9 @@ namespace {
 using assessment::Row;
 using assessment::Table;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Assessment", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Assessment)
+};
 
 QString number(double value, int decimals)
 {
@@ -30,7 +29,7 @@ QString withConfidence(const AssessedValue &value, double unit, int decimals, co
 
 QString milliseconds(double seconds)
 {
-    return tr("%1 ms").arg(number(seconds * 1000.0, 0));
+    return Text::tr("%1 ms").arg(number(seconds * 1000.0, 0));
 }
 
 QString basisText(RotationReport::Basis basis)
@@ -38,13 +37,13 @@ QString basisText(RotationReport::Basis basis)
     using Basis = RotationReport::Basis;
     switch (basis) {
     case Basis::NorthMarkers:
-        return tr("from north markers");
+        return Text::tr("from north markers");
     case Basis::Sectors:
-        return tr("from sector crossings");
+        return Text::tr("from sector crossings");
     case Basis::Reported:
-        return tr("as the radar says; not measured");
+        return Text::tr("as the radar says; not measured");
     case Basis::TrackUpdates:
-        return tr("from reports of the same targets");
+        return Text::tr("from reports of the same targets");
     case Basis::None:
         break;
     }
@@ -53,34 +52,36 @@ QString basisText(RotationReport::Basis basis)
 
 Table rotationTable(const RotationReport &rotation)
 {
-    Table table{tr("Antenna"), {}};
+    Table table{Text::tr("Antenna"), {}};
     if (rotation.basis == RotationReport::Basis::None) {
-        table.rows += Row{tr("Rotation period"), tr("not known"), tr("too few reports")};
+        table.rows += Row{Text::tr("Rotation period"), Text::tr("not known"), Text::tr("too few reports")};
         return table;
     }
-    table.rows += Row{tr("Rotation period"), tr("%1 s").arg(number(rotation.period, 3)), basisText(rotation.basis)};
+    table.rows +=
+        Row{Text::tr("Rotation period"), Text::tr("%1 s").arg(number(rotation.period, 3)), basisText(rotation.basis)};
     if (rotation.turns > 0) {
-        table.rows += Row{tr("Turns measured"), QString::number(rotation.turns), {}};
-        table.rows += Row{tr("Jitter"), milliseconds(rotation.jitter), tr("one standard deviation")};
-        table.rows += Row{tr("Shortest and longest turn"),
-            tr("%1 s and %2 s").arg(number(rotation.shortest, 3), number(rotation.longest, 3)), {}};
+        table.rows += Row{Text::tr("Turns measured"), QString::number(rotation.turns), {}};
+        table.rows += Row{Text::tr("Jitter"), milliseconds(rotation.jitter), Text::tr("one standard deviation")};
+        table.rows += Row{Text::tr("Shortest and longest turn"),
+            Text::tr("%1 s and %2 s").arg(number(rotation.shortest, 3), number(rotation.longest, 3)), {}};
     }
     return table;
 }
 
 Table delayTable(const SensorReport &report)
 {
-    Table table{tr("Clock"), {}};
+    Table table{Text::tr("Clock"), {}};
     const auto add = [&table](const QString &name, const DelayReport &delay, const QString &remark) {
         if (delay.count > 0) {
             table.rows += Row{name, milliseconds(delay.median),
-                tr("%1, least %2, 95 % below %3").arg(remark, milliseconds(delay.least), milliseconds(delay.most))};
+                Text::tr("%1, least %2, 95 % below %3")
+                    .arg(remark, milliseconds(delay.least), milliseconds(delay.most))};
         }
     };
-    add(tr("Delay of service messages"), report.serviceDelay, tr("clock offset and way"));
-    add(tr("Delay of plots"), report.plotDelay, tr("median"));
+    add(Text::tr("Delay of service messages"), report.serviceDelay, Text::tr("clock offset and way"));
+    add(Text::tr("Delay of plots"), report.plotDelay, Text::tr("median"));
     if (table.rows.isEmpty()) {
-        table.rows += Row{tr("Delay"), tr("not known"), tr("the data have no times of arrival")};
+        table.rows += Row{Text::tr("Delay"), Text::tr("not known"), Text::tr("the data have no times of arrival")};
     }
     return table;
 }
@@ -90,13 +91,15 @@ QString proportion(qint64 hits, qint64 looks)
     if (looks <= 0) {
         return QStringLiteral("\u2013");
     }
-    return tr("%1 %").arg(number(100.0 * static_cast<double>(hits) / static_cast<double>(looks), 1));
+    return Text::tr("%1 %").arg(number(100.0 * static_cast<double>(hits) / static_cast<double>(looks), 1));
 }
 
 QString intervalText(qint64 hits, qint64 looks)
 {
     const ProportionInterval interval = ProportionInterval::of(hits, looks);
-    return tr("%1 to %2 %, %3 looks").arg(number(interval.low * 100, 1), number(interval.high * 100, 1)).arg(looks);
+    return Text::tr("%1 to %2 %, %3 looks")
+        .arg(number(interval.low * 100, 1), number(interval.high * 100, 1))
+        .arg(looks);
 }
 
 // Within the range at which its primary radar detects anything.
@@ -114,21 +117,22 @@ DetectionGrid::Cell primaryArea(const DetectionReport &detection)
 Table detectionTable(const SensorReport &report)
 {
     const DetectionGrid::Cell all = report.detection.grid.total();
-    Table table{tr("Detection"), {}};
+    Table table{Text::tr("Detection"), {}};
     if (all.looks == 0) {
-        table.rows += Row{tr("Probability of detection"), tr("not known"), tr("too few reports of the same targets")};
+        table.rows += Row{Text::tr("Probability of detection"), Text::tr("not known"),
+            Text::tr("too few reports of the same targets")};
         return table;
     }
     table.rows +=
-        Row{tr("Probability of detection"), proportion(all.hits, all.looks), intervalText(all.hits, all.looks)};
+        Row{Text::tr("Probability of detection"), proportion(all.hits, all.looks), intervalText(all.hits, all.looks)};
     if (all.secondaryLooks > 0) {
-        table.rows += Row{tr("Secondary radar"), proportion(all.secondaryHits, all.secondaryLooks),
+        table.rows += Row{Text::tr("Secondary radar"), proportion(all.secondaryHits, all.secondaryLooks),
             intervalText(all.secondaryHits, all.secondaryLooks)};
     }
     const DetectionGrid::Cell primary = primaryArea(report.detection);
     if (primary.primaryHits > 0) {
-        table.rows += Row{tr("Primary radar"), proportion(primary.primaryHits, primary.looks),
-            tr("%1, within %2 NM")
+        table.rows += Row{Text::tr("Primary radar"), proportion(primary.primaryHits, primary.looks),
+            Text::tr("%1, within %2 NM")
                 .arg(intervalText(primary.primaryHits, primary.looks),
                     number(report.detection.primaryRange / wgs84::MetresPerNauticalMile, 0))};
     }
@@ -137,38 +141,41 @@ Table detectionTable(const SensorReport &report)
 
 Table falsePlotTable(const FalsePlotReport &report)
 {
-    Table table{tr("False plots"), {}};
+    Table table{Text::tr("False plots"), {}};
     constexpr double LeastTurns = 3.0; // of which a rate can be told
     const QString perTurn = report.turns >= LeastTurns
-        ? tr("%1 a turn").arg(number(static_cast<double>(report.all()) / report.turns, 2))
+        ? Text::tr("%1 a turn").arg(number(static_cast<double>(report.all()) / report.turns, 2))
         : QString();
-    table.rows += Row{tr("False plots"), proportion(report.all(), report.plots), perTurn};
-    table.rows += Row{tr("Lone plots"), QString::number(report.lone), tr("belong to no track")};
-    table.rows += Row{tr("Second plots"), QString::number(report.doubled), tr("of one target in one turn")};
+    table.rows += Row{Text::tr("False plots"), proportion(report.all(), report.plots), perTurn};
+    table.rows += Row{Text::tr("Lone plots"), QString::number(report.lone), Text::tr("belong to no track")};
+    table.rows += Row{Text::tr("Second plots"), QString::number(report.doubled), Text::tr("of one target in one turn")};
     return table;
 }
 
 Table biasTable(const BiasReport &bias)
 {
-    Table table{tr("Compared with %1").arg(assessment::nameOf(bias.reference)), {}};
-    const QString kept = bias.sampled < bias.matched ? tr(", an even sample of %1").arg(bias.sampled) : QString();
-    table.rows += Row{tr("Matched plots"), QString::number(bias.matched),
-        bias.solved ? tr("%1 used, of %2 aircraft%3").arg(bias.used).arg(bias.aircraft).arg(kept)
-                    : tr("too few, or in too few directions")};
+    Table table{Text::tr("Compared with %1").arg(assessment::nameOf(bias.reference)), {}};
+    const QString kept = bias.sampled < bias.matched ? Text::tr(", an even sample of %1").arg(bias.sampled) : QString();
+    table.rows += Row{Text::tr("Matched plots"), QString::number(bias.matched),
+        bias.solved ? Text::tr("%1 used, of %2 aircraft%3").arg(bias.used).arg(bias.aircraft).arg(kept)
+                    : Text::tr("too few, or in too few directions")};
     if (!bias.solved) {
         return table;
     }
-    const QString interval = tr("95 % confidence");
-    table.rows += Row{tr("Range bias"), withConfidence(bias.rangeBias, 1.0, 1, tr("m")), interval};
+    const QString interval = Text::tr("95 % confidence");
+    table.rows += Row{Text::tr("Range bias"), withConfidence(bias.rangeBias, 1.0, 1, Text::tr("m")), interval};
+    table.rows += Row{Text::tr("Range gain"),
+        withConfidence(bias.rangeGain, wgs84::MetresPerNauticalMile, 3, Text::tr("m/NM")), interval};
     table.rows +=
-        Row{tr("Range gain"), withConfidence(bias.rangeGain, wgs84::MetresPerNauticalMile, 3, tr("m/NM")), interval};
-    table.rows += Row{tr("Azimuth bias"), withConfidence(bias.azimuthBias, 1.0, 4, QStringLiteral("\u00b0")), interval};
-    table.rows += Row{tr("Time offset"), withConfidence(bias.timeOffset, 1000.0, 1, tr("ms")),
-        bias.timeOffset.value >= 0 ? tr("the radar's stamps are ahead") : tr("the radar's stamps are behind")};
-    table.rows += Row{tr("Random error of range"), tr("%1 m").arg(number(bias.rangeDeviation, 1)),
-        tr("one standard deviation, the reference's included")};
-    table.rows += Row{tr("Random error of azimuth"), QStringLiteral("%1\u00b0").arg(number(bias.azimuthDeviation, 4)),
-        tr("one standard deviation, the reference's included")};
+        Row{Text::tr("Azimuth bias"), withConfidence(bias.azimuthBias, 1.0, 4, QStringLiteral("\u00b0")), interval};
+    table.rows += Row{Text::tr("Time offset"), withConfidence(bias.timeOffset, 1000.0, 1, Text::tr("ms")),
+        bias.timeOffset.value >= 0 ? Text::tr("the radar's stamps are ahead")
+                                   : Text::tr("the radar's stamps are behind")};
+    table.rows += Row{Text::tr("Random error of range"), Text::tr("%1 m").arg(number(bias.rangeDeviation, 1)),
+        Text::tr("one standard deviation, the reference's included")};
+    table.rows +=
+        Row{Text::tr("Random error of azimuth"), QStringLiteral("%1\u00b0").arg(number(bias.azimuthDeviation, 4)),
+            Text::tr("one standard deviation, the reference's included")};
     return table;
 }
 
@@ -291,7 +298,7 @@ QString textOf(const SensorReport &sensor)
             .arg(cells[4], 10)
             .arg(cells[5], 12);
     };
-    text += u'\n' + tr("Detection by range") + u'\n' + line(names);
+    text += u'\n' + Text::tr("Detection by range") + u'\n' + line(names);
     for (const assessment::RangeRow &row : rows) {
         text += line({row.range, row.looks, row.any, row.primary, row.secondary, row.falsePlots});
     }
@@ -302,7 +309,7 @@ QString textOf(const SensorReport &sensor)
 
 QString assessment::nameOf(ReferenceKind kind)
 {
-    return kind == ReferenceKind::Adsb ? tr("ADS-B (CAT021)") : tr("system tracks (CAT062)");
+    return kind == ReferenceKind::Adsb ? Text::tr("ADS-B (CAT021)") : Text::tr("system tracks (CAT062)");
 }
 
 QList<Table> assessment::tablesOf(const SensorReport &report)
@@ -317,7 +324,8 @@ QList<Table> assessment::tablesOf(const SensorReport &report)
 
 QStringList assessment::rangeHeadings()
 {
-    return {tr("Range, NM"), tr("Looks"), tr("Detected"), tr("Primary"), tr("Secondary"), tr("False plots")};
+    return {Text::tr("Range, NM"), Text::tr("Looks"), Text::tr("Detected"), Text::tr("Primary"), Text::tr("Secondary"),
+        Text::tr("False plots")};
 }
 
 QList<assessment::RangeRow> assessment::rangeRows(const DetectionReport &report)
@@ -328,11 +336,11 @@ QList<assessment::RangeRow> assessment::rangeRows(const DetectionReport &report)
         const DetectionGrid::Cell sum = report.grid.ring(ring);
         const bool isLast = ring + 1 == DetectionGrid::Rings;
         const QString from = number(ring * RingMiles, 0);
-        rows +=
-            RangeRow{isLast ? tr("%1 and more").arg(from) : tr("%1 to %2").arg(from, number((ring + 1) * RingMiles, 0)),
-                QString::number(sum.looks), proportion(sum.hits, sum.looks),
-                sum.primaryHits > 0 ? proportion(sum.primaryHits, sum.looks) : QStringLiteral("\u2013"),
-                proportion(sum.secondaryHits, sum.secondaryLooks), QString::number(sum.falsePlots)};
+        rows += RangeRow{isLast ? Text::tr("%1 and more").arg(from)
+                                : Text::tr("%1 to %2").arg(from, number((ring + 1) * RingMiles, 0)),
+            QString::number(sum.looks), proportion(sum.hits, sum.looks),
+            sum.primaryHits > 0 ? proportion(sum.primaryHits, sum.looks) : QStringLiteral("\u2013"),
+            proportion(sum.secondaryHits, sum.secondaryLooks), QString::number(sum.falsePlots)};
     }
     return rows;
 }
@@ -344,39 +352,43 @@ QString assessment::describeData(const AssessmentReport &report)
         parts += report.first.toUTC().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss 'UTC'"));
     }
     const auto seconds = static_cast<qint64>(report.duration);
-    parts += seconds >= 120 ? tr("%1 min").arg(seconds / 60) : tr("%1 s").arg(seconds);
-    parts += tr("%1 records").arg(report.records);
-    parts += tr("%1 reports of reference targets").arg(report.references);
+    parts += seconds >= 120 ? Text::tr("%1 min").arg(seconds / 60) : Text::tr("%1 s").arg(seconds);
+    parts += Text::tr("%1 records").arg(report.records);
+    parts += Text::tr("%1 reports of reference targets").arg(report.references);
     return parts.join(QStringLiteral(", "));
 }
 
 QStringList assessment::methods()
 {
-    return {tr("Rotation: the times between north markers, or crossings of one sector. Jitter is their standard "
-               "deviation, less what the resolution of the time stamps (1/128 s) alone would give."),
-        tr("Delay: time of arrival less time of day. It holds the way, the radar's processing and the difference of "
-           "the "
-           "two clocks."),
-        tr("Probability of detection: blips over scans. Of the turns between two detections of a target those count in "
-           "which it was detected; five turns without end a track. Intervals are Wilson's, 95 %."),
-        tr("False plots: lone plots, to which no other plot within the neighbouring turns belongs, and second plots of "
-           "one address in one turn."),
-        tr("Bias, gain and time offset: weighted least squares over all matched plots, dr = b + g r - r' t and da = c "
-           "- "
-           "a' t, with r and a the slant range and azimuth of the reference on the ellipsoid of WGS-84 at the plot's "
-           "time, "
-           "r' and a' their rates. Outliers are kept out by Huber's weights and then beyond four deviations; "
-           "confidence "
-           "is the sandwich by aircraft. Refraction, some tens of metres at long range and low elevation, is part of "
-           "the "
-           "gain. Plots nearer than 5 km or above 30\u00b0 are left out.")};
+    return {Text::tr("Rotation: the times between north markers, or crossings of one sector. Jitter is their standard "
+                     "deviation, less what the resolution of the time stamps (1/128 s) alone would give."),
+        Text::tr(
+            "Delay: time of arrival less time of day. It holds the way, the radar's processing and the difference of "
+            "the "
+            "two clocks."),
+        Text::tr("Probability of detection: blips over scans. Of the turns between two detections of a target those "
+                 "count in "
+                 "which it was detected; five turns without end a track. Intervals are Wilson's, 95 %."),
+        Text::tr("False plots: lone plots, to which no other plot within the neighbouring turns belongs, and second "
+                 "plots of "
+                 "one address in one turn."),
+        Text::tr(
+            "Bias, gain and time offset: weighted least squares over all matched plots, dr = b + g r - r' t and da = c "
+            "- "
+            "a' t, with r and a the slant range and azimuth of the reference on the ellipsoid of WGS-84 at the plot's "
+            "time, "
+            "r' and a' their rates. Outliers are kept out by Huber's weights and then beyond four deviations; "
+            "confidence "
+            "is the sandwich by aircraft. Refraction, some tens of metres at long range and low elevation, is part of "
+            "the "
+            "gain. Plots nearer than 5 km or above 30\u00b0 are left out.")};
 }
 
 QString assessment::toText(const AssessmentReport &report)
 {
-    QString text = tr("Sensor check of %1").arg(report.source) + u'\n' + describeData(report) + u'\n';
+    QString text = Text::tr("Sensor check of %1").arg(report.source) + u'\n' + describeData(report) + u'\n';
     if (report.sensors.isEmpty()) {
-        text += u'\n' + tr("It holds no reports of radars (CAT001, CAT002, CAT034, CAT048).") + u'\n';
+        text += u'\n' + Text::tr("It holds no reports of radars (CAT001, CAT002, CAT034, CAT048).") + u'\n';
     }
     for (const SensorReport &sensor : report.sensors) {
         text += textOf(sensor);

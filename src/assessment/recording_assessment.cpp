@@ -13,10 +13,9 @@ namespace {
 
 constexpr qint64 MessagesBetweenReports = 512;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("RecordingAssessment", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(RecordingAssessment)
+};
 
 std::span<const unsigned char> octetsOf(const QByteArray &data)
 {
@@ -34,7 +33,7 @@ void readAll(
         result->cancelled = isReportDue && progress && !progress(reader.octetsRead(), reader.octetsTotal());
     }
     if (packet.kind == DataPacket::Error && !result->cancelled) {
-        result->damage = tr("%1 (at octet %2)").arg(packet.error).arg(packet.offset);
+        result->damage = Text::tr("%1 (at octet %2)").arg(packet.error).arg(packet.offset);
     }
 }
 
@@ -56,7 +55,7 @@ RecordingAssessment assessRecording(
         return result;
     }
     if (findings.stream.kind != Config::ProcessorType::Asterix) {
-        result.fault = tr("It holds no ASTERIX data.");
+        result.fault = Text::tr("It holds no ASTERIX data.");
         return result;
     }
     SensorAssessor::Options found = options;

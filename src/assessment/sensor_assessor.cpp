@@ -16,10 +16,9 @@ constexpr double LongestAdsbGap = 5.0; // seconds
 constexpr double LongestSystemGap = 13.0;
 constexpr double MetresPerFoot = 0.3048;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("SensorAssessor", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(SensorAssessor)
+};
 
 std::optional<double> heightOf(const _ast_datarecord_t &record)
 {
@@ -36,7 +35,7 @@ std::optional<double> heightOf(const _ast_datarecord_t &record)
 QString SensorReport::title() const
 {
     const QString id = QStringLiteral("%1/%2").arg(sac).arg(sic);
-    return name.isEmpty() ? tr("Radar %1").arg(id) : QStringLiteral("%1 (%2)").arg(name, id);
+    return name.isEmpty() ? Text::tr("Radar %1").arg(id) : QStringLiteral("%1 (%2)").arg(name, id);
 }
 
 SensorAssessor::SensorAssessor(const Options &options)
@@ -227,16 +226,17 @@ QString SensorAssessor::troubleOf(const SensorReport &report, qint64 references)
         return {};
     }
     if (report.plots == 0) {
-        return tr("It sends no plots.");
+        return Text::tr("It sends no plots.");
     }
     if (references == 0) {
-        return tr("There is nothing to compare it with: the data hold neither ADS-B reports (CAT021) nor system tracks "
-                  "(CAT062).");
+        return Text::tr(
+            "There is nothing to compare it with: the data hold neither ADS-B reports (CAT021) nor system tracks "
+            "(CAT062).");
     }
     if (!report.isSite()) {
-        return tr("Where the radar stands is not known: it is neither given nor sent in I034/120.");
+        return Text::tr("Where the radar stands is not known: it is neither given nor sent in I034/120.");
     }
     return report.biases.isEmpty()
-        ? tr("None of its plots could be matched with the reference by address or Mode 3/A code.")
-        : tr("Too few plots could be matched with the reference, or they lie in too few directions.");
+        ? Text::tr("None of its plots could be matched with the reference by address or Mode 3/A code.")
+        : Text::tr("Too few plots could be matched with the reference, or they lie in too few directions.");
 }

@@ -18,10 +18,9 @@ constexpr double RingMiles = DetectionGrid::RingWidth * Miles;
 constexpr double DotRadius = 0.9;
 constexpr int MostDots = 2000;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Assessment", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Assessment)
+};
 
 const BiasReport *shownBias(const SensorReport &report)
 {
@@ -94,10 +93,10 @@ void paintDetectionMap(QPainter &painter, const QRectF &area, const SensorReport
     }
     paintRings(painter, center, radius, rings, look);
     painter.drawText(
-        QRectF(center.x() - 44, center.y() - radius - 14, 40, 14), Qt::AlignRight | Qt::AlignBottom, tr("N"));
+        QRectF(center.x() - 44, center.y() - radius - 14, 40, 14), Qt::AlignRight | Qt::AlignBottom, Text::tr("N"));
     paintKey(painter, QRectF(area.right() - KeyWidth + 6, area.top(), KeyWidth - 6, area.height() - 14), look);
-    painter.drawText(
-        QRectF(area.right() - KeyWidth + 6, area.bottom() - 14, KeyWidth - 6, 14), Qt::AlignLeft, tr("rings in NM"));
+    painter.drawText(QRectF(area.right() - KeyWidth + 6, area.bottom() - 14, KeyWidth - 6, 14), Qt::AlignLeft,
+        Text::tr("rings in NM"));
 }
 
 struct Series {
@@ -150,16 +149,17 @@ void paintDetectionByRange(QPainter &painter, const QRectF &area, const SensorRe
 {
     const DetectionGrid &grid = report.detection.grid;
     const DetectionGrid::Cell all = grid.total();
-    const ChartFrame frame(area, {tr("Range, NM"), 0.0, grid.usedRings() * RingMiles}, {tr("Detected, %"), 0.0, 100.0});
+    const ChartFrame frame(
+        area, {Text::tr("Range, NM"), 0.0, grid.usedRings() * RingMiles}, {Text::tr("Detected, %"), 0.0, 100.0});
     frame.paint(painter, look);
     QList<Series> series;
     if (all.primaryHits > 0) {
-        series += Series{tr("Primary"), look.third, DetectionKind::Primary};
+        series += Series{Text::tr("Primary"), look.third, DetectionKind::Primary};
     }
     if (all.secondaryLooks > 0) {
-        series += Series{tr("Secondary"), look.second, DetectionKind::Secondary};
+        series += Series{Text::tr("Secondary"), look.second, DetectionKind::Secondary};
     }
-    series += Series{tr("Any"), look.first, DetectionKind::Any};
+    series += Series{Text::tr("Any"), look.first, DetectionKind::Any};
     for (const Series &one : series) {
         paintSeries(painter, frame, report.detection, one);
     }
@@ -194,8 +194,9 @@ void paintErrors(QPainter &painter, const QRectF &area, const BiasReport &bias, 
         farthest = std::max(farthest, point.range * Miles);
     }
     const double end = isRange ? std::ceil(farthest / 10) * 10 : 360.0;
-    const ChartFrame frame(area, {isRange ? tr("Range, NM") : tr("Azimuth, degrees"), 0.0, end},
-        errorAxis(isRange ? tr("Measured minus reference, m") : tr("Measured minus reference, degrees"), errors));
+    const ChartFrame frame(area, {isRange ? Text::tr("Range, NM") : Text::tr("Azimuth, degrees"), 0.0, end},
+        errorAxis(
+            isRange ? Text::tr("Measured minus reference, m") : Text::tr("Measured minus reference, degrees"), errors));
     frame.paint(painter, look);
     painter.setPen(Qt::NoPen);
     QColor dot = look.first;
@@ -218,8 +219,8 @@ void paintErrors(QPainter &painter, const QRectF &area, const BiasReport &bias, 
 void paintRotation(QPainter &painter, const QRectF &area, const RotationReport &rotation, const ChartLook &look)
 {
     const double room = std::max((rotation.longest - rotation.shortest) * 0.2, 0.01);
-    const ChartFrame frame(area, {tr("Time, s"), rotation.course.front().time, rotation.course.back().time},
-        {tr("Turn, s"), rotation.shortest - room, rotation.longest + room});
+    const ChartFrame frame(area, {Text::tr("Time, s"), rotation.course.front().time, rotation.course.back().time},
+        {Text::tr("Turn, s"), rotation.shortest - room, rotation.longest + room});
     frame.paint(painter, look);
     painter.setPen(Qt::NoPen);
     painter.setBrush(look.first);
@@ -252,15 +253,15 @@ QString assessment::chartTitle(Chart chart)
 {
     switch (chart) {
     case Chart::DetectionMap:
-        return tr("Probability of detection by range and azimuth");
+        return Text::tr("Probability of detection by range and azimuth");
     case Chart::DetectionByRange:
-        return tr("Probability of detection by range");
+        return Text::tr("Probability of detection by range");
     case Chart::RangeErrors:
-        return tr("Range errors");
+        return Text::tr("Range errors");
     case Chart::AzimuthErrors:
-        return tr("Azimuth errors");
+        return Text::tr("Azimuth errors");
     case Chart::Rotation:
-        return tr("Turns of the antenna");
+        return Text::tr("Turns of the antenna");
     }
     return {};
 }

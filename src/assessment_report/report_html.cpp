@@ -27,10 +27,9 @@ figure { margin: 1em 0; break-inside: avoid; } figcaption { font-weight: 600; }
 footer { margin-top: 3em; color: #586069; font-size: .9em; }
 )";
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Assessment", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Assessment)
+};
 
 QString element(const char *name, const QString &text, const char *cssClass = nullptr)
 {
@@ -88,7 +87,7 @@ QString rangeTableHtml(const SensorReport &sensor)
             escaped("td", row.range) + escaped("td", row.looks) + escaped("td", row.any) + escaped("td", row.primary)
                 + escaped("td", row.secondary) + escaped("td", row.falsePlots));
     }
-    return escaped("h3", tr("Detection by range")) + element("table", html, "grid");
+    return escaped("h3", Text::tr("Detection by range")) + element("table", html, "grid");
 }
 
 QString sensorHtml(const SensorReport &sensor)
@@ -114,15 +113,15 @@ QString sensorHtml(const SensorReport &sensor)
 
 QByteArray assessment::toHtml(const AssessmentReport &report)
 {
-    const QString title = tr("Sensor check of %1").arg(report.source);
+    const QString title = Text::tr("Sensor check of %1").arg(report.source);
     QString body = escaped("h1", title) + escaped("p", describeData(report), "data");
     if (report.sensors.isEmpty()) {
-        body += escaped("p", tr("It holds no reports of radars (CAT001, CAT002, CAT034, CAT048)."), "trouble");
+        body += escaped("p", Text::tr("It holds no reports of radars (CAT001, CAT002, CAT034, CAT048)."), "trouble");
     }
     for (const SensorReport &sensor : report.sensors) {
         body += sensorHtml(sensor);
     }
-    QString notes = escaped("h3", tr("Methods"));
+    QString notes = escaped("h3", Text::tr("Methods"));
     for (const QString &method : methods()) {
         notes += escaped("p", method);
     }

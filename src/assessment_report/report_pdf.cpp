@@ -16,10 +16,9 @@ constexpr double Margin = 15.0; // millimetres
 constexpr double LineHeight = 15.0;
 constexpr double ChartHeight = 235.0;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Assessment", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Assessment)
+};
 
 // Fills pages from the top; begins another where something does not fit any more.
 class PageFlow {
@@ -138,7 +137,7 @@ void writeSensor(PageFlow &flow, const SensorReport &sensor)
     if (rows.isEmpty()) {
         return;
     }
-    flow.heading(tr("Detection by range"), 12);
+    flow.heading(Text::tr("Detection by range"), 12);
     flow.cells(assessment::rangeHeadings(), true);
     for (const assessment::RangeRow &row : rows) {
         flow.cells({row.range, row.looks, row.any, row.primary, row.secondary, row.falsePlots}, false);
@@ -153,22 +152,22 @@ QByteArray assessment::toPdf(const AssessmentReport &report)
     QBuffer buffer(&document);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
-    writer.setTitle(tr("Sensor check of %1").arg(report.source));
+    writer.setTitle(Text::tr("Sensor check of %1").arg(report.source));
     writer.setCreator(QStringLiteral("Vyx Display"));
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageMargins(QMarginsF(Margin, Margin, Margin, Margin), QPageLayout::Millimeter);
     writer.setResolution(600);
     {
         PageFlow flow(writer);
-        flow.heading(tr("Sensor check of %1").arg(report.source), 20);
+        flow.heading(Text::tr("Sensor check of %1").arg(report.source), 20);
         flow.paragraph(describeData(report));
         if (report.sensors.isEmpty()) {
-            flow.paragraph(tr("It holds no reports of radars (CAT001, CAT002, CAT034, CAT048)."));
+            flow.paragraph(Text::tr("It holds no reports of radars (CAT001, CAT002, CAT034, CAT048)."));
         }
         for (const SensorReport &sensor : report.sensors) {
             writeSensor(flow, sensor);
         }
-        flow.heading(tr("Methods"), 12);
+        flow.heading(Text::tr("Methods"), 12);
         for (const QString &method : methods()) {
             flow.paragraph(method);
         }

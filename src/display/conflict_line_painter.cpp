@@ -4,7 +4,6 @@
 #include "geo/wgs84.h"
 #include "tracking/conflict_geometry.h"
 
-#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QStringList>
@@ -59,7 +58,6 @@ std::array<QRect, SideCount> figurePlaces(const QLineF &whole, const QSize &size
 
 QString ConflictLinePainter::text(const ConflictGeometry &geometry)
 {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("ConflictLinePainter", text); };
     QStringList parts{tr("%1 NM").arg(geometry.distance / wgs84::MetresPerNauticalMile, 0, 'f', 1)};
     if (geometry.levelDifference) {
         parts.append(tr("%1 ft").arg(*geometry.levelDifference));

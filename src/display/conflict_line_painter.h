@@ -2,6 +2,7 @@
 
 #include "display/alert_board.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QLineF>
 #include <QList>
@@ -17,6 +18,8 @@ struct TrackFrame;
 // The lines between the two tracks of each short-term conflict alert, with their distance, the difference of their
 // levels and the time to their closest approach.
 class ConflictLinePainter {
+    Q_DECLARE_TR_FUNCTIONS(ConflictLinePainter)
+
 public:
     using Tracks = QHash<unsigned long long, const TrackSnapshot *>; // by TrackSnapshot::incarnationId
 

@@ -19,7 +19,7 @@ constexpr double AssumedPeriod = 4.0; // seconds
 
 } // namespace
 
-GeoPlotMap::GeoPlotMap(QObject *parent) : GeoLayer(QStringLiteral("Plots"), parent)
+GeoPlotMap::GeoPlotMap(QObject *parent) : GeoLayer(tr("Plots"), parent)
 {
     applyConfig(Config());
 }

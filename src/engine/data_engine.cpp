@@ -4,6 +4,7 @@
 #include "engine/track_life_span.h"
 #include "engine/udp_input.h"
 #include "processors/alert_processor.h"
+#include "sensors/sensor_type_text.h"
 #include "tracking/adsb_tracker.h"
 #include "tracking/alert_manager.h"
 #include "tracking/radar_tracker.h"
@@ -240,7 +241,7 @@ QSharedPointer<Tracker> DataEngine::makeTracker()
     if (!tracker) {
         log(LogLevel::Warning,
             tr("There is no tracker for sensors of the type %1, its reports are not shown.")
-                .arg(SensorInfo::typeFullName(m_sensor ? m_sensor->type() : SensorInfo::UnknownSensor)));
+                .arg(sensorTypeText(m_sensor ? m_sensor->type() : SensorInfo::UnknownSensor)));
         return tracker;
     }
     connect(tracker.data(), &Tracker::message, this, &DataEngine::log);

@@ -8,10 +8,9 @@
 
 namespace {
 
-QString say(const char *text)
-{
-    return QCoreApplication::translate("Absence", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Absence)
+};
 
 QString clockText(qint64 ms)
 {
@@ -32,14 +31,15 @@ QString nameOf(const SeenIdentity &seen)
         names.append(QString("%1").arg(seen.address, 6, 16, QChar('0')).toUpper());
     }
     if (seen.sensorNumber != 0) {
-        names.append(say("sensor's number %1").arg(seen.sensorNumber));
+        names.append(Text::tr("sensor's number %1").arg(seen.sensorNumber));
     }
     return names.join(", ");
 }
 
 QString reportsOf(const SeenIdentity &seen)
 {
-    return seen.category == 0 ? say("Its reports") : say("Its reports (CAT%1)").arg(seen.category, 3, 10, QChar('0'));
+    return seen.category == 0 ? Text::tr("Its reports")
+                              : Text::tr("Its reports (CAT%1)").arg(seen.category, 3, 10, QChar('0'));
 }
 
 // The first thing that keeps a living track from being seen.
@@ -53,26 +53,26 @@ AbsenceFinding liveFinding(const LiveTarget &target, const AbsenceFacts &facts)
         finding.cure = cure;
     };
     if (!target.hasPlace) {
-        is(say("It has the track %1, but none of its reports says where it is.").arg(target.number), Cure::None);
+        is(Text::tr("It has the track %1, but none of its reports says where it is.").arg(target.number), Cure::None);
     } else if (!target.inView) {
-        is(say("It is outside the view, %1 NM from its centre in direction %2°.")
+        is(Text::tr("It is outside the view, %1 NM from its centre in direction %2°.")
                 .arg(target.distance, 0, 'f', 1)
                 .arg(std::lround(target.bearing) % 360, 3, 10, QChar('0')),
             Cure::Centre);
     } else if (target.symbolCovered) {
-        is(say("Its symbol is under the label of %1.").arg(target.coveredBy), Cure::Select);
+        is(Text::tr("Its symbol is under the label of %1.").arg(target.coveredBy), Cure::Select);
     } else if (!facts.detailsShown) {
-        is(say("It is in view; the view is too wide for labels, so that only its symbol is shown."), Cure::ZoomIn);
+        is(Text::tr("It is in view; the view is too wide for labels, so that only its symbol is shown."), Cure::ZoomIn);
     } else if (!facts.labelsOn) {
-        is(say("It is in view; labels are switched off, so that only its symbol is shown."), Cure::ShowLabels);
+        is(Text::tr("It is in view; labels are switched off, so that only its symbol is shown."), Cure::ShowLabels);
     } else if (!target.labelShown) {
-        is(say("It is in view; its label is under others, so that only its symbol is shown."), Cure::Select);
+        is(Text::tr("It is in view; its label is under others, so that only its symbol is shown."), Cure::Select);
     } else {
-        is(say("It is shown."), Cure::Select);
+        is(Text::tr("It is shown."), Cure::Select);
     }
     if (target.coasting) {
         finding.sentence += ' '
-            + say("It coasts: no report has told its position for %1 s.")
+            + Text::tr("It coasts: no report has told its position for %1 s.")
                   .arg(static_cast<double>(target.silentMs) / 1000.0, 0, 'f', 0);
     }
     return finding;
@@ -83,8 +83,8 @@ AbsenceFinding endedFinding(const SeenIdentity &seen)
     AbsenceFinding finding;
     const QString ended = clockText(seen.endedMs);
     finding.sentence = seen.endedBySource
-        ? say("Its track %1 ended at %2: its source ended it.").arg(seen.trackNumber).arg(ended)
-        : say("Its track %1 ended at %2: no report had told its position since %3.")
+        ? Text::tr("Its track %1 ended at %2: its source ended it.").arg(seen.trackNumber).arg(ended)
+        : Text::tr("Its track %1 ended at %2: no report had told its position since %3.")
               .arg(seen.trackNumber)
               .arg(ended, clockText(seen.lastMs));
     finding.cure = seen.place ? Cure::Centre : Cure::None;
@@ -94,12 +94,12 @@ AbsenceFinding endedFinding(const SeenIdentity &seen)
 AbsenceFinding plotFinding(const SeenIdentity &seen, const AbsenceFacts &facts)
 {
     AbsenceFinding finding;
-    const QString why = say("%1 carry neither track number nor address, so they are plots and no track.");
+    const QString why = Text::tr("%1 carry neither track number nor address, so they are plots and no track.");
     if (facts.plotsOn) {
-        finding.sentence = why.arg(reportsOf(seen)) + ' ' + say("The plot layer shows them.");
+        finding.sentence = why.arg(reportsOf(seen)) + ' ' + Text::tr("The plot layer shows them.");
         finding.cure = seen.place ? Cure::Centre : Cure::None;
     } else {
-        finding.sentence = why.arg(reportsOf(seen)) + ' ' + say("The plot layer is switched off.");
+        finding.sentence = why.arg(reportsOf(seen)) + ' ' + Text::tr("The plot layer is switched off.");
         finding.cure = Cure::ShowPlots;
     }
     return finding;
@@ -108,9 +108,9 @@ AbsenceFinding plotFinding(const SeenIdentity &seen, const AbsenceFacts &facts)
 QString sourceSentence(const SeenIdentity &seen, const AbsenceFacts &facts)
 {
     if (!seen.sourceKnown || facts.sensorSac < 0) {
-        return say("%1 are dropped: they are of another source than the sensor's.").arg(reportsOf(seen));
+        return Text::tr("%1 are dropped: they are of another source than the sensor's.").arg(reportsOf(seen));
     }
-    return say("%1 are dropped: they are of SAC/SIC %2/%3, the sensor is set to %4/%5.")
+    return Text::tr("%1 are dropped: they are of SAC/SIC %2/%3, the sensor is set to %4/%5.")
         .arg(reportsOf(seen))
         .arg(seen.sac)
         .arg(seen.sic)
@@ -123,7 +123,7 @@ AbsenceFinding droppedFinding(const SeenIdentity &seen, const AbsenceFacts &fact
     const QString reports = reportsOf(seen);
     const auto dropped = [&reports](const char *why, Cure cure = Cure::None) {
         AbsenceFinding finding;
-        finding.sentence = say(why).arg(reports);
+        finding.sentence = Text::tr(why).arg(reports);
         finding.cure = cure;
         return finding;
     };
@@ -135,23 +135,26 @@ AbsenceFinding droppedFinding(const SeenIdentity &seen, const AbsenceFacts &fact
         return finding;
     }
     case ReportOutcome::WrongSensorKind:
-        return dropped("%1 are dropped: sensors of the configured kind do not send them.", Cure::OpenSettings);
+        return dropped(QT_TRANSLATE_NOOP("Absence", "%1 are dropped: sensors of the configured kind do not send them."),
+            Cure::OpenSettings);
     case ReportOutcome::NoReader:
-        return dropped("%1 are dropped: this program shows nothing of their category.");
+        return dropped(QT_TRANSLATE_NOOP("Absence", "%1 are dropped: this program shows nothing of their category."));
     case ReportOutcome::NoIdentity:
-        return dropped("%1 are dropped: they carry neither track number nor address nor a position.");
+        return dropped(QT_TRANSLATE_NOOP(
+            "Absence", "%1 are dropped: they carry neither track number nor address nor a position."));
     case ReportOutcome::TestTarget:
-        return dropped("%1 are dropped: the source marks it as a test target.");
+        return dropped(QT_TRANSLATE_NOOP("Absence", "%1 are dropped: the source marks it as a test target."));
     case ReportOutcome::NoPosition:
-        return dropped("%1 have told no position yet.");
+        return dropped(QT_TRANSLATE_NOOP("Absence", "%1 have told no position yet."));
     case ReportOutcome::OutOfRange:
-        return dropped(
-            "%1 are dropped: their position is out of range. Is the sensor's location right?", Cure::OpenSettings);
+        return dropped(QT_TRANSLATE_NOOP("Absence",
+                           "%1 are dropped: their position is out of range. Is the sensor's location right?"),
+            Cure::OpenSettings);
     case ReportOutcome::NoTrackNumber:
-        return dropped("%1 make no track: all system track numbers are in use.");
+        return dropped(QT_TRANSLATE_NOOP("Absence", "%1 make no track: all system track numbers are in use."));
     default: {
         AbsenceFinding finding;
-        finding.sentence = say("%1 are dropped: %2.").arg(reports, reportOutcomeText(seen.outcome));
+        finding.sentence = Text::tr("%1 are dropped: %2.").arg(reports, reportOutcomeText(seen.outcome));
         return finding;
     }
     }
@@ -173,13 +176,13 @@ AbsenceFinding unknownFinding(const IdentityQuery &query, const AbsenceFacts &fa
     AbsenceFinding finding;
     finding.who = query.callsign;
     if (!facts.inputOpen) {
-        finding.sentence = say("It has not been received, and no input is open now.");
+        finding.sentence = Text::tr("It has not been received, and no input is open now.");
         finding.cure = Cure::StartInput;
     } else if (facts.paused) {
-        finding.sentence = say("It has not been received, and the input is paused.");
+        finding.sentence = Text::tr("It has not been received, and the input is paused.");
         finding.cure = Cure::ResumeInput;
     } else {
-        finding.sentence = say("It has not been received: no report has named it.");
+        finding.sentence = Text::tr("It has not been received: no report has named it.");
     }
     return finding;
 }
@@ -224,21 +227,21 @@ QString cureText(Cure cure)
     case Cure::None:
         return {};
     case Cure::Select:
-        return say("Select");
+        return Text::tr("Select");
     case Cure::Centre:
-        return say("Show the Place");
+        return Text::tr("Show the Place");
     case Cure::ZoomIn:
-        return say("Zoom In");
+        return Text::tr("Zoom In");
     case Cure::ShowLabels:
-        return say("Show Labels");
+        return Text::tr("Show Labels");
     case Cure::ShowPlots:
-        return say("Show Plots");
+        return Text::tr("Show Plots");
     case Cure::StartInput:
-        return say("Start Input");
+        return Text::tr("Start Input");
     case Cure::ResumeInput:
-        return say("Resume Input");
+        return Text::tr("Resume Input");
     case Cure::OpenSettings:
-        return say("Settings...");
+        return Text::tr("Settings...");
     }
     return {};
 }

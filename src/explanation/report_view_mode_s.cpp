@@ -11,6 +11,7 @@ namespace {
 
 // Field by field of one frame. Bits are counted from 1, as the documents do.
 class FrameViewer {
+    Q_DECLARE_TR_FUNCTIONS(ReportView)
 public:
     FrameViewer(const ModeSMessage &message, ReportView &view) : m_message(message), m_view(view) { }
 
@@ -40,7 +41,6 @@ public:
     }
 
 private:
-    static QString tr(const char *text) { return QCoreApplication::translate("ReportView", text); }
     static QString number(int value) { return QString::number(value); }
     static QString number(double value) { return QString::number(value, 'f', 1); }
     static QString octal(unsigned squawk) { return QString("%1").arg(squawk, 4, 8, QChar('0')); }

@@ -9,10 +9,9 @@
 
 namespace {
 
-QString symbolText(const char *text)
-{
-    return QCoreApplication::translate("SymbolExplanation", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(SymbolExplanation)
+};
 
 struct AlertSource {
     const char *name;
@@ -97,9 +96,9 @@ QList<ExplainedValue> explainPlot(const QList<ReportView> &reports, const QDateT
         }
     }
     ExplainedValue none;
-    none.name = symbolText("Track");
+    none.name = Text::tr("Track");
     none.value = noValueText();
-    none.rule = symbolText("the report names no track by number or address");
+    none.rule = Text::tr("the report names no track by number or address");
     values.append(none);
     return values;
 }
@@ -121,14 +120,14 @@ QList<ExplainedValue> explainAlert(const AlertSnapshot &alert, const QList<Repor
     for (const AlertSource &source : AlertSources) {
         for (const QString &key : QString::fromLatin1(source.keys).split(' ')) {
             if (const ReportField *field = found->find(key)) {
-                values.append(rowOf(*field, symbolText(source.name), static_cast<int>(found - reports.begin()),
+                values.append(rowOf(*field, Text::tr(source.name), static_cast<int>(found - reports.begin()),
                     now.toMSecsSinceEpoch() - found->timeMs));
                 break;
             }
         }
     }
     if (!values.isEmpty()) {
-        values.first().rule = symbolText("shown as %1, %2").arg(typeOf(alert), alert.stateString);
+        values.first().rule = Text::tr("shown as %1, %2").arg(typeOf(alert), alert.stateString);
     }
     return values;
 }

@@ -16,15 +16,9 @@ constexpr qint64 SurfacePairSpanMs = 25000;
 constexpr double MaximumVerticalRate = 6000.0; // feet per minute, of a register
 constexpr qint64 DayMs = 86400000;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("TrackExplanation", text);
-}
-
-QString tr(const char *text, int number)
-{
-    return QCoreApplication::translate("TrackExplanation", text, nullptr, number);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(TrackExplanation)
+};
 
 QString seconds(qint64 ms)
 {
@@ -89,12 +83,12 @@ private:
         row.value = trackValueText(m_track, value);
         const ValueSource *source = find(value, row);
         if (source) {
-            row.rule = tr(source->rule);
+            row.rule = Text::tr(source->rule);
             if (source->lifeMs > 0) {
-                addRule(row, tr("valid for %1 s").arg(source->lifeMs / 1000));
+                addRule(row, Text::tr("valid for %1 s").arg(source->lifeMs / 1000));
             }
         } else if (row.value != noValueText()) {
-            addRule(row, tr("told before the reports that are kept"));
+            addRule(row, Text::tr("told before the reports that are kept"));
         }
         refine(value, source, row);
         m_values.append(row);
@@ -250,12 +244,12 @@ private:
             return candidate.value == value && candidate.category == last.category;
         });
         if (source == sources.end()) {
-            row.rule = tr("these reports do not carry it");
+            row.rule = Text::tr("these reports do not carry it");
             return;
         }
         row.rule = source->lifeMs == ValueSource::LastReport
-            ? tr("not in the last report, so the value before it is not kept")
-            : tr("in none of the last %n report(s)", static_cast<int>(m_reports.size()));
+            ? Text::tr("not in the last report, so the value before it is not kept")
+            : Text::tr("in none of the last %n report(s)", nullptr, static_cast<int>(m_reports.size()));
     }
 
     void refineModeA(ExplainedValue &row) const
@@ -266,13 +260,13 @@ private:
         }
         for (const QString &item : {QStringLiteral("070"), QStringLiteral("060")}) {
             if (isSet(row, item + "/G")) {
-                addRule(row, tr("garbled (G)"));
+                addRule(row, Text::tr("garbled (G)"));
             }
             if (isSet(row, item + "/L")) {
-                addRule(row, tr("smoothed or not extracted in the last scan (L)"));
+                addRule(row, Text::tr("smoothed or not extracted in the last scan (L)"));
             }
             if (isSet(row, item + "/V")) {
-                addRule(row, tr("not validated (V)"));
+                addRule(row, Text::tr("not validated (V)"));
             }
         }
     }
@@ -282,7 +276,7 @@ private:
     {
         if (const ReportField *field = fieldOf(row)) {
             row.value = field->value;
-            row.rule = tr("by which the report finds its track");
+            row.rule = Text::tr("by which the report finds its track");
         } else {
             noteAbsence(TrackValue::SensorNumber, row);
         }
@@ -300,8 +294,8 @@ private:
         // Midnight may lie between the two.
         const qint64 gone =
             ((view->timeMs % DayMs) - std::llround(sent * 1000.0) + DayMs + DayMs / 2) % DayMs - DayMs / 2;
-        row.rule = gone >= 0 ? tr("the report arrived %1 s later").arg(seconds(gone))
-                             : tr("the report arrived %1 s earlier: the clocks differ").arg(seconds(-gone));
+        row.rule = gone >= 0 ? Text::tr("the report arrived %1 s later").arg(seconds(gone))
+                             : Text::tr("the report arrived %1 s earlier: the clocks differ").arg(seconds(-gone));
     }
 
     void refinePosition(ExplainedValue &row) const
@@ -313,12 +307,12 @@ private:
         if (view->category == ReportView::ModeS) {
             row.rule = cprRule(row.report);
         } else if (view->category == 62 && m_settings.correctLongitudeWrap && row.item.startsWith("I062/105")) {
-            addRule(row, tr("180° added to western longitudes, as the settings say"));
+            addRule(row, Text::tr("180° added to western longitudes, as the settings say"));
         }
         if ((view->category == 20 || view->category == 62) && (m_settings.ignoreWgs84 || m_settings.ignoreCartesian)) {
             addRule(row,
-                m_settings.ignoreWgs84 ? tr("WGS-84 positions are ignored, as the settings say")
-                                       : tr("Cartesian positions are ignored, as the settings say"));
+                m_settings.ignoreWgs84 ? Text::tr("WGS-84 positions are ignored, as the settings say")
+                                       : Text::tr("Cartesian positions are ignored, as the settings say"));
         }
     }
 
@@ -332,25 +326,25 @@ private:
         for (int i = report + 1; i < m_reports.size() && newest.timeMs - m_reports[i].timeMs <= span; ++i) {
             const ReportField *other = m_reports[i].find("cprFormat");
             if (other && other->value != format) {
-                return tr("CPR global: this %1 position and the %2 one of %3 s before")
+                return Text::tr("CPR global: this %1 position and the %2 one of %3 s before")
                     .arg(format, other->value, seconds(newest.timeMs - m_reports[i].timeMs));
             }
         }
-        return tr("CPR local: the place nearest to the one before, since there is no pair of even and odd");
+        return Text::tr("CPR local: the place nearest to the one before, since there is no pair of even and odd");
     }
 
     void refineLevel(ExplainedValue &row) const
     {
         if (isSet(row, "090/G")) {
-            row.rule = tr("Mode C garbled (G): the level is not taken");
+            row.rule = Text::tr("Mode C garbled (G): the level is not taken");
             return;
         }
         if (isSet(row, "090/V")) {
-            addRule(row, tr("not validated (V), which is not looked at"));
+            addRule(row, Text::tr("not validated (V), which is not looked at"));
         }
         const ReportView *last = m_reports.isEmpty() ? nullptr : &m_reports.first();
         if (row.report < 0 && last && last->find("135/QNH") && isQnh(*last)) {
-            row.rule = tr("the calculated altitude is corrected by QNH (I062/135/QNH), so it is no flight level");
+            row.rule = Text::tr("the calculated altitude is corrected by QNH (I062/135/QNH), so it is no flight level");
             return;
         }
         noteAbsence(TrackValue::Level, row);
@@ -363,14 +357,14 @@ private:
         const auto rate = std::find_if(m_values.begin(), m_values.end(),
             [](const ExplainedValue &value) { return value.name == trackValueName(TrackValue::VerticalRate); });
         if (!m_track.verticalRateValid || rate == m_values.end()) {
-            row.rule = tr("no vertical rate to tell it from");
+            row.rule = Text::tr("no vertical rate to tell it from");
             return;
         }
         row.item = rate->item;
         row.bits = rate->bits;
         row.report = rate->report;
         row.ageMs = rate->ageMs;
-        row.rule = tr("from the vertical rate: climbing or descending beyond 200 ft/min, else level");
+        row.rule = Text::tr("from the vertical rate: climbing or descending beyond 200 ft/min, else level");
     }
 
     void refineType(ExplainedValue &row) const
@@ -380,9 +374,9 @@ private:
             return;
         }
         if (last->category == 62) {
-            row.rule = tr("SDPS Mode S with aircraft-derived data (I062/380), SDPS without");
+            row.rule = Text::tr("SDPS Mode S with aircraft-derived data (I062/380), SDPS without");
         } else {
-            row.rule = tr("every track of such reports is");
+            row.rule = Text::tr("every track of such reports is");
         }
     }
 
@@ -391,18 +385,18 @@ private:
         const bool byReport = source && (isSet(row, "170/CST") || isSet(row, "080/CST") || isSet(row, "coasting"));
         if (m_track.coasting && !byReport) {
             const qint64 silent = std::max<qint64>(0, m_nowMs - m_track.lastUpdate.toMSecsSinceEpoch());
-            row = {row.name, row.value, {}, tr("no position for %1 s").arg(seconds(silent)), -1, silent, {}};
+            row = {row.name, row.value, {}, Text::tr("no position for %1 s").arg(seconds(silent)), -1, silent, {}};
         } else if (!source) {
-            row.rule = tr("a report without a track status confirms it");
+            row.rule = Text::tr("a report without a track status confirms it");
         }
     }
 
     void refineGround(ExplainedValue &row) const
     {
         if (m_track.onGround) {
-            row.rule = m_track.type == Track::Smr ? tr("all that a surface movement radar sees is") : row.rule;
+            row.rule = m_track.type == Track::Smr ? Text::tr("all that a surface movement radar sees is") : row.rule;
         } else {
-            row.rule = tr("no report says so");
+            row.rule = Text::tr("no report says so");
         }
     }
 
@@ -418,9 +412,9 @@ private:
             row = *squawk;
             row.name = name;
             row.value = value;
-            row.rule = tr("by the Mode A code %1").arg(m_track.modeAString);
+            row.rule = Text::tr("by the Mode A code %1").arg(m_track.modeAString);
         } else {
-            addRule(row, tr("as reported; kept for 20 s without being repeated"));
+            addRule(row, Text::tr("as reported; kept for 20 s without being repeated"));
         }
     }
 
@@ -428,9 +422,9 @@ private:
     void addNumber()
     {
         ExplainedValue row;
-        row.name = tr("Track number");
+        row.name = Text::tr("Track number");
         row.value = QString::number(m_track.trackNumber);
-        row.rule = tr("given by this system");
+        row.rule = Text::tr("given by this system");
         m_values.append(row);
     }
 
@@ -453,7 +447,7 @@ QString explanationText(const QList<ExplainedValue> &values)
 {
     QString text;
     for (const ExplainedValue &value : values) {
-        const QString age = value.ageMs ? tr("%1 s").arg(seconds(*value.ageMs)) : QString();
+        const QString age = value.ageMs ? Text::tr("%1 s").arg(seconds(*value.ageMs)) : QString();
         text += QStringList{value.name, value.value, value.item, age, value.rule}.join('\t') + '\n';
     }
     return text;

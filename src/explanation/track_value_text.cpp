@@ -6,16 +6,15 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("TrackExplanation", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(TrackExplanation)
+};
 
 QString typeText(Track::Type type)
 {
     const char *const texts[] = {QT_TRANSLATE_NOOP("TrackExplanation", "unknown"), "PSR", "SSR", "PSR+SSR", "Mode S",
         "Mode S+PSR", "ADS-B", "MLAT", "SMR", "SDPS Mode S", "SDPS"};
-    return tr(texts[type]);
+    return Text::tr(texts[type]);
 }
 
 QString stateText(Track::State state)
@@ -23,7 +22,7 @@ QString stateText(Track::State state)
     const char *const texts[] = {QT_TRANSLATE_NOOP("TrackExplanation", "tentative"),
         QT_TRANSLATE_NOOP("TrackExplanation", "confirmed"), QT_TRANSLATE_NOOP("TrackExplanation", "coasting"),
         QT_TRANSLATE_NOOP("TrackExplanation", "terminated")};
-    return tr(texts[state]);
+    return Text::tr(texts[state]);
 }
 
 QString trendText(Track::VerticalTrend trend)
@@ -31,7 +30,7 @@ QString trendText(Track::VerticalTrend trend)
     const char *const texts[] = {QT_TRANSLATE_NOOP("TrackExplanation", "unknown"),
         QT_TRANSLATE_NOOP("TrackExplanation", "level"), QT_TRANSLATE_NOOP("TrackExplanation", "climbing"),
         QT_TRANSLATE_NOOP("TrackExplanation", "descending")};
-    return tr(texts[trend]);
+    return Text::tr(texts[trend]);
 }
 
 } // namespace
@@ -53,7 +52,7 @@ QString trackValueName(TrackValue value)
         QT_TRANSLATE_NOOP("TrackExplanation", "Selected altitude"), QT_TRANSLATE_NOOP("TrackExplanation", "Type"),
         QT_TRANSLATE_NOOP("TrackExplanation", "State"), QT_TRANSLATE_NOOP("TrackExplanation", "On ground"),
         QT_TRANSLATE_NOOP("TrackExplanation", "Emergency"), QT_TRANSLATE_NOOP("TrackExplanation", "Special pulse")};
-    return tr(names[static_cast<int>(value)]);
+    return Text::tr(names[static_cast<int>(value)]);
 }
 
 QString trackValueText(const TrackSnapshot &track, TrackValue value)
@@ -87,11 +86,11 @@ QString trackValueText(const TrackSnapshot &track, TrackValue value)
     case TrackValue::State:
         return stateText(track.state);
     case TrackValue::OnGround:
-        return track.onGround ? tr("yes") : tr("no");
+        return track.onGround ? Text::tr("yes") : Text::tr("no");
     case TrackValue::Emergency:
         return Track::emergencyString(track.emergency);
     case TrackValue::Spi:
-        return tr("yes");
+        return Text::tr("yes");
     default:
         return noValueText();
     }

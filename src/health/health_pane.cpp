@@ -3,6 +3,7 @@
 #include "health/input_health.h"
 #include "health/rate_curve_delegate.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QTableView>
@@ -45,10 +46,10 @@ void HealthPane::makeTable()
     };
     setWidth(SourceTableModel::Source, "255/255 CAT240 oo");
     setWidth(SourceTableModel::Rate, "1000.0/s");
-    setWidth(SourceTableModel::Curve, "Last 10 minutes");
+    setWidth(SourceTableModel::Curve, SourceTableModel::tr("Last 10 minutes"));
     setWidth(SourceTableModel::Delay, "-10.0 s");
-    setWidth(SourceTableModel::Shown, "Used 1");
-    setWidth(SourceTableModel::State, "silent since 00:00:00");
+    setWidth(SourceTableModel::Shown, SourceTableModel::tr("Used") + " 1");
+    setWidth(SourceTableModel::State, QCoreApplication::translate("SourceJudge", "silent since %1").arg("00:00:00"));
     connect(m_table, &QTableView::clicked, this, [this](const QModelIndex &index) { open(index.row()); });
     connect(m_table, &QTableView::activated, this, [this](const QModelIndex &index) { open(index.row()); });
 }

@@ -2,6 +2,7 @@
 
 #include "asterix/json_writer.h"
 #include "asterix/profile.h"
+#include "tracking/fault_text.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -53,7 +54,7 @@ QString RecordText::decoded(const SourceStatistics &source, const ReportExample 
 {
     if (!example.fault.isEmpty()) {
         return recordText(QT_TRANSLATE_NOOP("RecordText", "Not decoded: %1, at octet %2."))
-            .arg(example.fault)
+            .arg(faultText(example.fault))
             .arg(example.faultOffset);
     }
     if (source.form != TakenReport::Form::Asterix) {

@@ -2,6 +2,8 @@
 
 #include "health/source_judgement.h"
 #include "sensors/sensor_info.h"
+#include "sensors/sensor_type_text.h"
+#include "tracking/fault_text.h"
 
 #include <QCoreApplication>
 
@@ -107,7 +109,7 @@ QString Advice::malformed() const
     const ReportExample &example = m_source.example(ReportOutcome::Malformed);
     const QString fault = example.fault.isEmpty()
         ? QString()
-        : tr(" The last one: %1 at octet %2.").arg(example.fault).arg(example.faultOffset);
+        : tr(" The last one: %1 at octet %2.").arg(faultText(example.fault)).arg(example.faultOffset);
     return tr("What cannot be decoded may be of another edition or in another envelope than the one in Settings, "
               "Processor.")
         + fault;
@@ -123,13 +125,13 @@ QString Advice::noReader() const
 
 QString Advice::wrongKind() const
 {
-    const QString configured = sensorTypeFullName(m_basis.sensorKind);
+    const QString configured = sensorTypeText(m_basis.sensorKind);
     const SensorType sender = kindOf(m_source);
     return sender == UnknownSensor
         ? tr("The sensor is set to %1, which does not send CAT%2.")
               .arg(configured)
               .arg(m_source.category, 3, 10, QLatin1Char('0'))
-        : tr("The sensor is set to %1; these are %2 reports.").arg(configured, sensorTypeFullName(sender));
+        : tr("The sensor is set to %1; these are %2 reports.").arg(configured, sensorTypeText(sender));
 }
 
 QString Advice::noPosition() const
@@ -191,7 +193,7 @@ void Advice::offerCure(ReportOutcome reason)
     } else if (reason == ReportOutcome::WrongSensorKind && kindOf(m_source) != UnknownSensor) {
         m_judgement.cure = Cure::UseSensorKind;
         m_judgement.cureKind = kindOf(m_source);
-        m_judgement.cureText = tr("Set the sensor to %1").arg(sensorTypeFullName(m_judgement.cureKind));
+        m_judgement.cureText = tr("Set the sensor to %1").arg(sensorTypeText(m_judgement.cureKind));
     }
 }
 

@@ -15,11 +15,6 @@ struct Row {
     QString effect;
 };
 
-QString tr(const char *text)
-{
-    return CheatSheetWindow::tr(text);
-}
-
 QString plainText(const QAction &action)
 {
     QString text = action.text();
@@ -42,7 +37,7 @@ QList<Row> shortcutRows(const QList<QAction *> &actions)
             }
         }
         if (!keys.isEmpty()) {
-            rows.append({keys.join(tr(" or ")), plainText(*action)});
+            rows.append({keys.join(CheatSheetWindow::tr(" or ")), plainText(*action)});
         }
     }
     return rows;
@@ -50,19 +45,25 @@ QList<Row> shortcutRows(const QList<QAction *> &actions)
 
 QList<Row> mouseRows()
 {
-    return {{tr("Left click on a symbol or label"), tr("Select the track")},
-        {tr("Left click once more"), tr("Select the next track at this place")},
-        {tr("Right click on a symbol or label"), tr("What can be done with the track")},
-        {tr("Right drag on the map"), tr("Move the view")}, {tr("Right drag on a label"), tr("Move the label")},
-        {tr("Right double-click"), tr("Bring this point to the centre")}, {tr("Wheel"), tr("Zoom around the pointer")},
-        {tr("Alt + wheel"), tr("Zoom in small steps")},
-        {tr("Left click with the cross"), tr("Place the centre of the range rings")}};
+    return {{CheatSheetWindow::tr("Left click on a symbol or label"), CheatSheetWindow::tr("Select the track")},
+        {CheatSheetWindow::tr("Left click once more"), CheatSheetWindow::tr("Select the next track at this place")},
+        {CheatSheetWindow::tr("Right click on a symbol or label"),
+            CheatSheetWindow::tr("What can be done with the track")},
+        {CheatSheetWindow::tr("Right drag on the map"), CheatSheetWindow::tr("Move the view")},
+        {CheatSheetWindow::tr("Right drag on a label"), CheatSheetWindow::tr("Move the label")},
+        {CheatSheetWindow::tr("Right double-click"), CheatSheetWindow::tr("Bring this point to the centre")},
+        {CheatSheetWindow::tr("Wheel"), CheatSheetWindow::tr("Zoom around the pointer")},
+        {CheatSheetWindow::tr("Alt + wheel"), CheatSheetWindow::tr("Zoom in small steps")},
+        {CheatSheetWindow::tr("Left click with the cross"),
+            CheatSheetWindow::tr("Place the centre of the range rings")}};
 }
 
 QList<Row> viewKeyRows()
 {
-    return {{tr("F12"), tr("Rotate clockwise by 1°")}, {tr("F11"), tr("Rotate counter-clockwise by 1°")},
-        {tr("Alt + F12"), tr("Rotate clockwise by 0.1°")}, {tr("Alt + F11"), tr("Rotate counter-clockwise by 0.1°")}};
+    return {{CheatSheetWindow::tr("F12"), CheatSheetWindow::tr("Rotate clockwise by 1°")},
+        {CheatSheetWindow::tr("F11"), CheatSheetWindow::tr("Rotate counter-clockwise by 1°")},
+        {CheatSheetWindow::tr("Alt + F12"), CheatSheetWindow::tr("Rotate clockwise by 0.1°")},
+        {CheatSheetWindow::tr("Alt + F11"), CheatSheetWindow::tr("Rotate counter-clockwise by 0.1°")}};
 }
 
 QLabel *makeKeyCap(const QString &text)

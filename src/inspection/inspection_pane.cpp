@@ -1,5 +1,6 @@
 #include "inspection/inspection_pane.h"
 
+#include "explanation/track_value_text.h"
 #include "inspection/octet_view.h"
 #include "inspection/report_table.h"
 #include "widgets/quiet_hint.h"
@@ -17,6 +18,16 @@
 #include <algorithm>
 
 namespace {
+
+QString longestValueName()
+{
+    QString longest;
+    for (int value = 0; value <= static_cast<int>(TrackValue::Spi); ++value) {
+        const QString name = trackValueName(static_cast<TrackValue>(value));
+        longest = name.size() > longest.size() ? name : longest;
+    }
+    return longest;
+}
 
 constexpr int Margin = 4;
 
@@ -69,7 +80,7 @@ QWidget *InspectionPane::makeExplanation()
     head->addWidget(m_title, 1);
     head->addWidget(copyButton);
     m_values = new ReportTable({tr("Value"), tr("Shown"), tr("From"), tr("Age"), tr("Rule")},
-        {"Sensor's track number", "595959.99N1791717.00E", "I048/040/RHO, THETA", "99.9 s", ""}, this);
+        {longestValueName(), "595959.99N1791717.00E", "I048/040/RHO, THETA", "99.9 s", ""}, this);
     m_values->setObjectName("explainedValues");
     m_values->setSelectionMode(QAbstractItemView::NoSelection);
     connect(m_values, &ReportTable::rowHovered, this, [this](int row) { pointAt(Place::Values, row); });

@@ -9,10 +9,26 @@
 
 namespace {
 
+QString stateName(Alert::State state)
+{
+    switch (state) {
+    case Alert::Initial:
+        return AlertListModel::tr("Initial");
+    case Alert::Active:
+        return AlertListModel::tr("Active");
+    case Alert::End:
+        return AlertListModel::tr("End");
+    case Alert::Terminated:
+        return AlertListModel::tr("Terminated");
+    default:
+        return Alert::stateString(state);
+    }
+}
+
 // An alert that ended only because nothing arrives may well go on.
 QString stateText(const AlertSnapshot &alert)
 {
-    return alert.endedUnheard ? AlertListModel::tr("End, no data") : alert.stateString;
+    return alert.endedUnheard ? AlertListModel::tr("End, no data") : stateName(alert.state);
 }
 
 AlertListEntry entryFor(const AlertSnapshot &alert, const AlertBoard &board)
@@ -41,7 +57,7 @@ AlertListEntry entryFor(const AlertBoard::Entry &noted)
     const QString emergency = Track::emergencyString(noted.emergency);
     entry.kind = emergency.isEmpty() ? QStringLiteral("SPI") : emergency;
     entry.state = noted.state;
-    entry.stateText = noted.acknowledged ? AlertListModel::tr("Acknowledged") : Alert::stateString(noted.state);
+    entry.stateText = noted.acknowledged ? AlertListModel::tr("Acknowledged") : stateName(noted.state);
     entry.track1 = noted.track1Text;
     entry.startTime = noted.since;
     entry.track1Id = noted.track1;

@@ -14,16 +14,20 @@ namespace {
 
 QString typeText(Track::Type type)
 {
-    static const char *const texts[] = {"", QT_TR_NOOP("PSR"), QT_TR_NOOP("SSR"), QT_TR_NOOP("PSR+SSR"),
-        QT_TR_NOOP("Mode S"), QT_TR_NOOP("Mode S+PSR"), QT_TR_NOOP("ADS-B"), QT_TR_NOOP("MLAT"), QT_TR_NOOP("SMR"),
-        QT_TR_NOOP("SDPS Mode S"), QT_TR_NOOP("SDPS")};
+    static const char *const texts[] = {"", QT_TRANSLATE_NOOP("TrackListModel", "PSR"),
+        QT_TRANSLATE_NOOP("TrackListModel", "SSR"), QT_TRANSLATE_NOOP("TrackListModel", "PSR+SSR"),
+        QT_TRANSLATE_NOOP("TrackListModel", "Mode S"), QT_TRANSLATE_NOOP("TrackListModel", "Mode S+PSR"),
+        QT_TRANSLATE_NOOP("TrackListModel", "ADS-B"), QT_TRANSLATE_NOOP("TrackListModel", "MLAT"),
+        QT_TRANSLATE_NOOP("TrackListModel", "SMR"), QT_TRANSLATE_NOOP("TrackListModel", "SDPS Mode S"),
+        QT_TRANSLATE_NOOP("TrackListModel", "SDPS")};
     return type == Track::Unknown ? QString() : TrackListModel::tr(texts[type]);
 }
 
 QString stateText(Track::State state)
 {
-    static const char *const texts[] = {
-        QT_TR_NOOP("Tentative"), QT_TR_NOOP("Confirmed"), QT_TR_NOOP("Coasting"), QT_TR_NOOP("Terminated")};
+    static const char *const texts[] = {QT_TRANSLATE_NOOP("TrackListModel", "Tentative"),
+        QT_TRANSLATE_NOOP("TrackListModel", "Confirmed"), QT_TRANSLATE_NOOP("TrackListModel", "Coasting"),
+        QT_TRANSLATE_NOOP("TrackListModel", "Terminated")};
     return TrackListModel::tr(texts[state]);
 }
 

@@ -35,10 +35,9 @@ namespace {
 
 constexpr int MovePointId = 1;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("MapEditorCommands", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(MapEditorCommands)
+};
 
 class StoreCommand : public MapEditorCommand {
 public:
@@ -50,7 +49,8 @@ protected:
 
 class MetaCommand final : public StoreCommand {
 public:
-    MetaCommand(MapEditorStore &store, const MapData &meta) : StoreCommand(store, tr("Change Map Data")), m_other(meta)
+    MetaCommand(MapEditorStore &store, const MapData &meta)
+        : StoreCommand(store, Text::tr("Change Map Data")), m_other(meta)
     {
         m_other.groups.clear();
     }
@@ -72,7 +72,7 @@ private:
 class InsertGroupCommand final : public StoreCommand {
 public:
     InsertGroupCommand(MapEditorStore &store, int at, const MapElementGroup &group)
-        : StoreCommand(store, tr("Add Group")), m_at(at), m_group(group)
+        : StoreCommand(store, Text::tr("Add Group")), m_at(at), m_group(group)
     {
     }
 
@@ -87,7 +87,7 @@ private:
 
 class RemoveGroupCommand final : public StoreCommand {
 public:
-    RemoveGroupCommand(MapEditorStore &store, int at) : StoreCommand(store, tr("Delete Group")), m_at(at) { }
+    RemoveGroupCommand(MapEditorStore &store, int at) : StoreCommand(store, Text::tr("Delete Group")), m_at(at) { }
 
 protected:
     void apply() override { m_group = m_store.takeGroup(m_at); }
@@ -101,7 +101,7 @@ private:
 class GroupCommand final : public StoreCommand {
 public:
     GroupCommand(MapEditorStore &store, int at, const QString &name, const QString &className)
-        : StoreCommand(store, tr("Change Group")), m_at(at), m_name(name), m_className(className)
+        : StoreCommand(store, Text::tr("Change Group")), m_at(at), m_name(name), m_className(className)
     {
     }
 
@@ -123,7 +123,7 @@ private:
 class InsertElementsCommand final : public StoreCommand {
 public:
     InsertElementsCommand(MapEditorStore &store, const MapElementRef &at, const QList<MapElement> &elements)
-        : StoreCommand(store, tr("Add Element")), m_at(at), m_count(static_cast<int>(elements.size())),
+        : StoreCommand(store, Text::tr("Add Element")), m_at(at), m_count(static_cast<int>(elements.size())),
           m_elements(elements)
     {
     }
@@ -141,7 +141,7 @@ private:
 class RemoveElementsCommand final : public StoreCommand {
 public:
     RemoveElementsCommand(MapEditorStore &store, const MapElementRef &first, int count)
-        : StoreCommand(store, tr("Delete Element")), m_first(first), m_count(count)
+        : StoreCommand(store, Text::tr("Delete Element")), m_first(first), m_count(count)
     {
     }
 
@@ -158,7 +158,7 @@ private:
 class PropertiesCommand final : public StoreCommand {
 public:
     PropertiesCommand(MapEditorStore &store, const MapElementRef &ref, const MapElementProperties &properties)
-        : StoreCommand(store, tr("Change Element")), m_ref(ref), m_other(properties)
+        : StoreCommand(store, Text::tr("Change Element")), m_ref(ref), m_other(properties)
     {
     }
 
@@ -180,7 +180,7 @@ class SplicePointsCommand final : public StoreCommand {
 public:
     SplicePointsCommand(MapEditorStore &store, const MapElementRef &ref, qsizetype at, qsizetype removeCount,
         const QList<GeoCoordinate> &inserted)
-        : StoreCommand(store, tr("Change Points")), m_ref(ref), m_at(at), m_count(removeCount), m_other(inserted)
+        : StoreCommand(store, Text::tr("Change Points")), m_ref(ref), m_at(at), m_count(removeCount), m_other(inserted)
     {
     }
 
@@ -204,7 +204,7 @@ class MovePointCommand final : public StoreCommand {
 public:
     MovePointCommand(
         MapEditorStore &store, const MapElementRef &ref, qsizetype index, const GeoCoordinate &coordinate, quint64 drag)
-        : StoreCommand(store, tr("Move Point")), m_ref(ref), m_index(index), m_drag(drag),
+        : StoreCommand(store, Text::tr("Move Point")), m_ref(ref), m_index(index), m_drag(drag),
           m_before(store.point(ref, index)), m_after(coordinate)
     {
     }

@@ -38,10 +38,9 @@ constexpr int OpeningPercent = 50; // drivers that read everything while opening
 constexpr int Wgs84 = 4326;
 constexpr double FarthestLongitude = 360.0; // some files continue a line beyond 180 instead of jumping to -180
 
-QString tr(const char *text, int count = -1)
-{
-    return QCoreApplication::translate("MapImport", text, nullptr, count);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(MapImport)
+};
 
 template <auto Close>
 struct Closer {
@@ -188,12 +187,12 @@ bool LayerReader::readLayer(OGRLayerH layer, int epsg, QString *error)
     while (const Feature feature = next()) {
         take(feature.get());
         if (!reportProgress(++read, total)) {
-            *error = tr("The import was cancelled.");
+            *error = Text::tr("The import was cancelled.");
             return false;
         }
     }
     if (CPLGetLastErrorType() >= CE_Failure) {
-        m_report.messages.append(tr("Layer \"%1\": %2").arg(m_layerName, QuietErrors::last()));
+        m_report.messages.append(Text::tr("Layer \"%1\": %2").arg(m_layerName, QuietErrors::last()));
     }
     return true;
 }
@@ -204,7 +203,7 @@ bool LayerReader::setSystem(OGRLayerH layer, int epsg, QString *error)
     m_transformation.reset();
     const ReferenceSystem stated = epsg > 0 ? systemOf(epsg) : nullptr;
     if (epsg > 0 && !stated) {
-        *error = tr("There is no reference system EPSG:%1.").arg(epsg);
+        *error = Text::tr("There is no reference system EPSG:%1.").arg(epsg);
         return false;
     }
     const ReferenceSystem degrees = systemOf(Wgs84);
@@ -214,7 +213,7 @@ bool LayerReader::setSystem(OGRLayerH layer, int epsg, QString *error)
     }
     m_transformation.reset(OCTNewCoordinateTransformation(source, degrees.get()));
     if (!m_transformation) {
-        *error = tr("The reference system of the coordinates cannot be used: %1").arg(QuietErrors::last());
+        *error = Text::tr("The reference system of the coordinates cannot be used: %1").arg(QuietErrors::last());
     }
     return m_transformation != nullptr;
 }
@@ -334,13 +333,13 @@ bool LayerReader::reportProgress(qint64 read, qint64 total) const
 void LayerReader::reportSkipped()
 {
     if (m_shapeless > 0) {
-        m_report.messages.append(tr("%n feature(s) without a usable shape were left out.", m_shapeless));
+        m_report.messages.append(Text::tr("%n feature(s) without a usable shape were left out.", nullptr, m_shapeless));
     }
     if (m_offGlobe > 0) {
         m_report.messages.append(
-            tr("%n feature(s) outside of the globe were left out. Are the coordinates not degrees, "
-               "and the reference system not stated?",
-                m_offGlobe));
+            Text::tr("%n feature(s) outside of the globe were left out. Are the coordinates not degrees, "
+                     "and the reference system not stated?",
+                nullptr, m_offGlobe));
     }
 }
 
@@ -359,12 +358,12 @@ QList<OGRLayerH> chosenLayers(GDALDatasetH dataset, const QStringList &names, QS
         missing.removeAll(known.last());
     }
     if (!missing.isEmpty()) {
-        *error = tr("There is no layer \"%1\"; the file has: %2.")
+        *error = Text::tr("There is no layer \"%1\"; the file has: %2.")
                      .arg(missing.join(QLatin1String("\", \"")), known.join(QLatin1String(", ")));
         return {};
     }
     if (layers.isEmpty()) {
-        *error = tr("The file has no layers.");
+        *error = Text::tr("The file has no layers.");
     }
     return layers;
 }
@@ -383,21 +382,21 @@ bool FeatureReader::read(const QString &file, const FeatureReaderOptions &option
     ReadingProgress reading(file, progress);
     const Dataset dataset = openDataset(file);
     if (reading.cancelled()) {
-        *error = tr("The import was cancelled.");
+        *error = Text::tr("The import was cancelled.");
         return false;
     }
     if (!dataset) {
         const QString reason = QuietErrors::last();
-        *error = tr("Cannot read \"%1\": %2")
+        *error = Text::tr("Cannot read \"%1\": %2")
                      .arg(QFileInfo(file).fileName(),
-                         reason.isEmpty() ? tr("it is not GeoJSON, KML, Shapefile or DXF.") : reason);
+                         reason.isEmpty() ? Text::tr("it is not GeoJSON, KML, Shapefile or DXF.") : reason);
         return false;
     }
     const QList<OGRLayerH> layers = chosenLayers(dataset.get(), options.layers, error);
     const MapImport::Progress ofFeatures = [&reading](int percent) { return reading.reportFeatures(percent); };
     const bool good = !layers.isEmpty() && LayerReader(ofFeatures, sink, report).read(layers, options.epsg, error);
     if (good && reading.cancelled()) {
-        *error = tr("The import was cancelled."); // and what was read is not all
+        *error = Text::tr("The import was cancelled."); // and what was read is not all
     }
     return good && !reading.cancelled();
 }

@@ -10,10 +10,9 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("MapImport", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(MapImport)
+};
 
 struct Format {
     const char *name;
@@ -31,7 +30,7 @@ MapData finished(const MapBuilder &builder, const QFileInfo &file)
 {
     MapData map = builder.map();
     map.name = map.title = file.completeBaseName();
-    map.description = tr("Imported from %1").arg(file.fileName());
+    map.description = Text::tr("Imported from %1").arg(file.fileName());
     return map;
 }
 
@@ -47,7 +46,7 @@ QString MapImport::missingText()
     if (available()) {
         return {};
     }
-    return tr(
+    return Text::tr(
         "This program was built without GDAL, which reads GeoJSON, KML, Shapefile and DXF. Install its development "
         "package (Debian and Ubuntu: libgdal-dev) and build again.");
 }
@@ -60,7 +59,7 @@ QStringList MapImport::nameFilters()
         filters.append(QStringLiteral("%1 (%2)").arg(QLatin1String(format.name), QLatin1String(format.suffixes)));
         all.append(QLatin1String(format.suffixes));
     }
-    filters.prepend(tr("Geographic files (%1)").arg(all.join(QLatin1Char(' '))));
+    filters.prepend(Text::tr("Geographic files (%1)").arg(all.join(QLatin1Char(' '))));
     return filters;
 }
 
@@ -88,15 +87,16 @@ MapData MapImport::read(
     if (!available()) {
         reason = missingText();
     } else if (!info.isFile() || !info.isReadable()) {
-        reason = tr("File \"%1\" does not exist or is not readable.").arg(info.absoluteFilePath());
+        reason = Text::tr("File \"%1\" does not exist or is not readable.").arg(info.absoluteFilePath());
     } else {
         isRead = FeatureReader::read(
             info.absoluteFilePath(), {options.layers, options.epsg}, progress,
             [&builder](const ImportFeature &feature) { builder.add(feature); }, counts, &reason);
     }
     if (isRead && builder.features() == 0) {
-        reason = (QStringList{tr("Nothing in \"%1\" can be shown on a map.").arg(info.fileName())} + counts.messages)
-                     .join(QLatin1Char(' '));
+        reason =
+            (QStringList{Text::tr("Nothing in \"%1\" can be shown on a map.").arg(info.fileName())} + counts.messages)
+                .join(QLatin1Char(' '));
         isRead = false;
     }
     if (error) {

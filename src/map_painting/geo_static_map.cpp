@@ -48,7 +48,7 @@ std::size_t pointsIn(const StaticMapGroup &group, const PlaneBox &box, double me
 } // namespace
 
 GeoStaticMap::GeoStaticMap(Projector *projector, QObject *parent)
-    : GeoLayer(QStringLiteral("Static maps"), parent),
+    : GeoLayer(tr("Static maps"), parent),
       m_projector(projector), m_painters{std::make_unique<StaticMapImagePainter>(),
                                   std::make_unique<StaticMapAreaPainter>(), std::make_unique<StaticMapLinePainter>(),
                                   std::make_unique<StaticMapSymbolPainter>(), std::make_unique<StaticMapLabelPainter>()}

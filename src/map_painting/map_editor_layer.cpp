@@ -182,7 +182,7 @@ double distanceToSegment(const QPointF &pixel, const QLineF &segment)
 
 } // namespace
 
-MapEditorLayer::MapEditorLayer(QObject *parent) : GeoLayer(QStringLiteral("Map editor"), parent)
+MapEditorLayer::MapEditorLayer(QObject *parent) : GeoLayer(tr("Map editor"), parent)
 {
     setVisible(false);
 }

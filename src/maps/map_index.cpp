@@ -11,10 +11,9 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("MapIndex", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(MapIndex)
+};
 
 void report(QString *error, const QString &text)
 {
@@ -83,7 +82,7 @@ QList<MapIndexEntry> readMapIndex(const QString &fileName, QString *error)
     report(error, {});
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
-        report(error, tr("Cannot open map index file \"%1\": %2.").arg(fileName, file.errorString()));
+        report(error, Text::tr("Cannot open map index file \"%1\": %2.").arg(fileName, file.errorString()));
         return {};
     }
     MapXmlReader xml(&file);
@@ -96,7 +95,7 @@ QList<MapIndexEntry> readMapIndex(const QString &fileName, QString *error)
     if (!xml.hasError()) {
         return entries;
     }
-    report(error, tr("Malformed map index file \"%1\": %2.").arg(fileName, xml.errorString()));
+    report(error, Text::tr("Malformed map index file \"%1\": %2.").arg(fileName, xml.errorString()));
     return {};
 }
 
@@ -117,6 +116,6 @@ bool writeMapIndex(const QString &fileName, const QList<MapIndexEntry> &entries,
     if (file.isOpen() && file.commit()) {
         return true;
     }
-    report(error, tr("Cannot write map index file \"%1\": %2.").arg(fileName, file.errorString()));
+    report(error, Text::tr("Cannot write map index file \"%1\": %2.").arg(fileName, file.errorString()));
     return false;
 }

@@ -40,10 +40,9 @@ constexpr std::array<MetaField, 6> MetaFields{{
     {QLatin1String("comment"), &MapStyleSheet::comment},
 }};
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("MapStyleSheet", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(MapStyleSheet)
+};
 
 bool fail(QString *errorMessage, const QString &text)
 {
@@ -163,7 +162,7 @@ void readStyle(MapXmlReader &xml, MapStyleSheet &sheet)
 void readSheet(MapXmlReader &xml, MapStyleSheet &sheet)
 {
     if (xml.nextChild() && xml.name() != QLatin1String("map")) {
-        xml.raiseError(tr("This is not a valid map style sheet."));
+        xml.raiseError(Text::tr("This is not a valid map style sheet."));
     }
     while (xml.nextChild()) {
         if (xml.name() == QLatin1String("meta")) {
@@ -258,7 +257,7 @@ bool MapStyleSheet::load(const QString &fileName, QString *errorMessage)
     const QFileInfo info(fileName);
     const QString path = info.absoluteFilePath();
     if (!info.isFile() || !info.isReadable()) {
-        return fail(errorMessage, tr("Style sheet \"%1\" does not exist or is not readable.").arg(path));
+        return fail(errorMessage, Text::tr("Style sheet \"%1\" does not exist or is not readable.").arg(path));
     }
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -280,10 +279,10 @@ bool MapStyleSheet::save(const QString &fileName, QString *errorMessage) const
 {
     const QString folder = QFileInfo(fileName).absolutePath();
     if (!QDir().mkpath(folder)) {
-        return fail(errorMessage, tr("Cannot create directory \"%1\".").arg(folder));
+        return fail(errorMessage, Text::tr("Cannot create directory \"%1\".").arg(folder));
     }
     if (QFile::exists(fileName) && !backUp(fileName)) {
-        return fail(errorMessage, tr("Cannot write backup file \"%1\".").arg(fileName + QStringLiteral(".bak")));
+        return fail(errorMessage, Text::tr("Cannot write backup file \"%1\".").arg(fileName + QStringLiteral(".bak")));
     }
     QSaveFile file(fileName);
     if (file.open(QIODevice::WriteOnly)) {

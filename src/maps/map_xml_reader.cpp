@@ -11,10 +11,9 @@ namespace {
 
 constexpr qint64 CharactersPerStep = 65536;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("MapXmlReader", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(MapXmlReader)
+};
 
 bool isBlankOrZero(char octet) // zeros: of texts of two octets a character
 {
@@ -68,7 +67,7 @@ MapXmlReader::MapXmlReader(const QByteArray &document)
 QString MapXmlReader::errorString() const
 {
     return m_cut && m_xml.error() == QXmlStreamReader::PrematureEndOfDocumentError
-        ? tr("An element has too many attributes.")
+        ? Text::tr("An element has too many attributes.")
         : m_xml.errorString();
 }
 
@@ -90,9 +89,9 @@ QXmlStreamReader::TokenType MapXmlReader::next()
 void MapXmlReader::check()
 {
     if (m_depth > MaxDepth) {
-        m_xml.raiseError(tr("Elements are nested too deeply."));
+        m_xml.raiseError(Text::tr("Elements are nested too deeply."));
     } else if (m_xml.isDTD() && m_xml.text().contains(QLatin1Char('['))) {
-        m_xml.raiseError(tr("Definitions of entities are not read."));
+        m_xml.raiseError(Text::tr("Definitions of entities are not read."));
     }
     if (!m_step || m_xml.characterOffset() - m_lastStep < CharactersPerStep) {
         return;

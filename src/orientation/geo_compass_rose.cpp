@@ -51,7 +51,7 @@ bool fits(const QPolygonF &ring, const QRectF &view)
 } // namespace
 
 GeoCompassRose::GeoCompassRose(Projector *projector, GeoRangeRingMap *rings, QObject *parent)
-    : GeoLayer(QStringLiteral("Compass rose"), parent), m_projector(projector), m_rings(rings)
+    : GeoLayer(tr("Compass rose"), parent), m_projector(projector), m_rings(rings)
 {
     GeoCompassRose::applyConfig(Config());
 }

@@ -26,8 +26,7 @@ constexpr int VeilOpacity = 150;
 
 } // namespace
 
-GeoMapKey::GeoMapKey(const GeoWeatherMap *weather, QObject *parent)
-    : GeoLayer(QStringLiteral("Key"), parent), m_weather(weather)
+GeoMapKey::GeoMapKey(const GeoWeatherMap *weather, QObject *parent) : GeoLayer(tr("Key"), parent), m_weather(weather)
 {
     GeoMapKey::applyConfig(Config());
 }

@@ -30,7 +30,7 @@ QPainterPath arrow()
 
 } // namespace
 
-GeoNorthArrow::GeoNorthArrow(QObject *parent) : GeoLayer(QStringLiteral("North arrow"), parent)
+GeoNorthArrow::GeoNorthArrow(QObject *parent) : GeoLayer(tr("North arrow"), parent)
 {
     GeoNorthArrow::applyConfig(Config());
 }

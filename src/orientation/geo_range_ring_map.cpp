@@ -19,7 +19,7 @@ constexpr double SmallestLabelledGap = 44.0; // pixels from one ring with a dist
 } // namespace
 
 GeoRangeRingMap::GeoRangeRingMap(Projector *projector, QObject *parent)
-    : GeoLayer(QStringLiteral("Range rings"), parent), m_projector(projector)
+    : GeoLayer(tr("Range rings"), parent), m_projector(projector)
 {
     takeLook(Config());
 }

@@ -23,7 +23,7 @@ constexpr double TextGap = 6.0;
 } // namespace
 
 GeoScaleBar::GeoScaleBar(Projector *projector, QObject *parent)
-    : GeoLayer(QStringLiteral("Scale bar"), parent), m_projector(projector)
+    : GeoLayer(tr("Scale bar"), parent), m_projector(projector)
 {
     GeoScaleBar::applyConfig(Config());
 }

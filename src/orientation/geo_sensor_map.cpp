@@ -57,7 +57,7 @@ double lastPartWithin(const QLineF &line, const QRectF &rect)
 } // namespace
 
 GeoSensorMap::GeoSensorMap(Projector *projector, QObject *parent)
-    : GeoLayer(QStringLiteral("Sensor"), parent), m_projector(projector), m_clock(steadyClock())
+    : GeoLayer(tr("Sensor"), parent), m_projector(projector), m_clock(steadyClock())
 {
     GeoSensorMap::applyConfig(Config());
 }

@@ -74,7 +74,7 @@ struct GeoVideoMap::Radar {
 };
 
 GeoVideoMap::GeoVideoMap(Projector *projector, QObject *parent)
-    : GeoLayer(QStringLiteral("Video"), parent), m_projector(projector), m_clock(steadyClock()), m_palette(m_colors)
+    : GeoLayer(tr("Video"), parent), m_projector(projector), m_clock(steadyClock()), m_palette(m_colors)
 {
     GeoVideoMap::applyConfig(Config());
 }

@@ -22,7 +22,7 @@ bool isLevel(int level)
 } // namespace
 
 GeoWeatherMap::GeoWeatherMap(Projector *projector, QObject *parent)
-    : GeoLayer(QStringLiteral("Weather"), parent), m_projector(projector), m_clock(steadyClock())
+    : GeoLayer(tr("Weather"), parent), m_projector(projector), m_clock(steadyClock())
 {
     m_levelVisible.fill(true);
     GeoWeatherMap::applyConfig(Config());

@@ -4,6 +4,7 @@
 #include "asterix/record_map.h"
 #include "explanation/report_view.h"
 #include "recognition/stream_findings.h"
+#include "tracking/fault_text.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -12,10 +13,9 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("RawRecord", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(RawRecord)
+};
 
 QString octal(unsigned code)
 {
@@ -67,11 +67,11 @@ QString formText(const RawRecord &record)
     case TakenReport::Form::Asterix:
         return categoryName(record.facts().category);
     case TakenReport::Form::ModeS:
-        return tr("Mode S");
+        return Text::tr("Mode S");
     case TakenReport::Form::AleniaSirM:
         break;
     }
-    return tr("SIR-M");
+    return Text::tr("SIR-M");
 }
 
 QString sourceText(const RawRecord &record)
@@ -100,7 +100,9 @@ QString outcomeText(const RawRecord &record)
 {
     const StreamBatch::Record &facts = record.facts();
     const QString outcome = reportOutcomeText(facts.outcome);
-    return facts.fault ? tr("%1: %2, at octet %3").arg(outcome, QString::fromLatin1(facts.fault)).arg(facts.faultOffset)
+    return facts.fault ? Text::tr("%1: %2, at octet %3")
+                             .arg(outcome, faultText(QString::fromLatin1(facts.fault)))
+                             .arg(facts.faultOffset)
                        : outcome;
 }
 

@@ -1,5 +1,6 @@
 #include "raw_view/raw_record_model.h"
 
+#include "tracking/report_outcome.h"
 #include "widgets/figure_font.h"
 #include "widgets/text_colors.h"
 
@@ -15,7 +16,7 @@ constexpr std::size_t DropShare = 10;
 
 struct ColumnSpec {
     const char *title;
-    const char *widest;
+    const char *widest; // null: words, which are of a length of their own in each language
     Qt::Alignment alignment;
 };
 
@@ -25,7 +26,7 @@ constexpr ColumnSpec Columns[] = {
     {QT_TRANSLATE_NOOP("RawRecordModel", "Source"), "255/255", Qt::AlignLeft},
     {QT_TRANSLATE_NOOP("RawRecordModel", "Octets"), "1400", Qt::AlignRight},
     {QT_TRANSLATE_NOOP("RawRecordModel", "Identity"), "DLH4ABCD 7777 3C6444 #9999", Qt::AlignLeft},
-    {QT_TRANSLATE_NOOP("RawRecordModel", "Became"), "no track number, no address", Qt::AlignLeft},
+    {QT_TRANSLATE_NOOP("RawRecordModel", "Became"), nullptr, Qt::AlignLeft},
     {QT_TRANSLATE_NOOP("RawRecordModel", "Holds"), "010 140 020 040 070 090 220 240 250 161", Qt::AlignLeft},
 };
 static_assert(std::size(Columns) == RawRecordModel::ColumnCount);
@@ -46,7 +47,8 @@ int RawRecordModel::columnCount(const QModelIndex &parent) const
 
 QString RawRecordModel::widestText(int column)
 {
-    return QString::fromLatin1(Columns[column].widest);
+    const char *widest = Columns[column].widest;
+    return widest ? QString::fromLatin1(widest) : reportOutcomeText(ReportOutcome::NoIdentity);
 }
 
 QVariant RawRecordModel::headerData(int section, Qt::Orientation orientation, int role) const

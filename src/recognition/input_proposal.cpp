@@ -2,6 +2,7 @@
 
 #include "sensors/radar_sensor_info.h"
 #include "sensors/sensor_manager.h"
+#include "sensors/sensor_type_text.h"
 #include "sensors/smr_sensor_info.h"
 
 #include <QCoreApplication>
@@ -13,10 +14,9 @@ using Processor = Config::ProcessorType;
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("InputProposal", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(InputProposal)
+};
 
 // What is shown best comes first: tracks that say where they are, then those that are placed by their radar.
 constexpr std::array TypesByWorth = {SdpsSensor, AdsbSensor, MlatSensor, RadarSensor, SmrSensor};
@@ -61,21 +61,21 @@ qint64 targetSum(const SourceFindings &source, SensorType type, qint64 CategoryF
 QString whyNoTracks(const SourceFindings &source, SensorType type)
 {
     if (targetSum(source, type, &CategoryFindings::records) == 0) {
-        return tr("It holds no reports of targets.");
+        return Text::tr("It holds no reports of targets.");
     }
     const bool identified = targetSum(source, type, &CategoryFindings::trackNumbers) > 0
         || (type != SmrSensor && targetSum(source, type, &CategoryFindings::addresses) > 0);
     if (!identified) {
-        return type == AdsbSensor ? tr("Its reports carry no aircraft addresses, so they make no tracks.")
-                                  : tr("Its reports carry no track numbers, so they make no tracks.");
+        return type == AdsbSensor ? Text::tr("Its reports carry no aircraft addresses, so they make no tracks.")
+                                  : Text::tr("Its reports carry no track numbers, so they make no tracks.");
     }
     switch (type) {
     case SmrSensor:
-        return tr("Its reports carry no polar positions (I010/040), without which they make no tracks.");
+        return Text::tr("Its reports carry no polar positions (I010/040), without which they make no tracks.");
     case AdsbSensor:
-        return tr("Its reports carry no positions in WGS-84, so they make no tracks.");
+        return Text::tr("Its reports carry no positions in WGS-84, so they make no tracks.");
     default:
-        return tr("No report carries both an identity and a position, so they make no tracks.");
+        return Text::tr("No report carries both an identity and a position, so they make no tracks.");
     }
 }
 
@@ -169,8 +169,8 @@ void InputProposal::takeSensor(SensorType type, quint8 sac, quint8 sic, const Se
     defaults.sensorType = type;
     m_sensor = defaults.sensor(nullptr);
     m_sensor->setSacSic(sac, sic);
-    m_sensor->setName(sac == 0 && sic == 0 ? SensorInfo::typeFullName(type)
-                                           : tr("%1 %2/%3").arg(SensorInfo::typeFullName(type)).arg(sac).arg(sic));
+    m_sensor->setName(
+        sac == 0 && sic == 0 ? sensorTypeText(type) : Text::tr("%1 %2/%3").arg(sensorTypeText(type)).arg(sac).arg(sic));
 }
 
 void InputProposal::describeSource(const SourceFindings &source, SensorType type)
@@ -204,9 +204,9 @@ void InputProposal::chooseModeS(const ModeSFindings &modeS, const SensorManager 
     m_sensor->setLocation(modeS.area.center);
     m_showsAnything = modeS.aircraft > 0;
     if (modeS.aircraft == 0) {
-        m_shortfall = tr("It holds no extended squitters, without which there are no tracks.");
+        m_shortfall = Text::tr("It holds no extended squitters, without which there are no tracks.");
     } else if (modeS.area.positions == 0) {
-        m_shortfall = tr("No position of an aircraft could be made out.");
+        m_shortfall = Text::tr("No position of an aircraft could be made out.");
     }
 }
 
@@ -220,7 +220,7 @@ void InputProposal::chooseSirM(const SirMFindings &sirM, const SensorManager &se
         setRotationPeriod(sirM.rotationPeriod);
     }
     m_showsAnything = sirM.tracks > 0;
-    m_shortfall = sirM.tracks > 0 ? QString() : tr("It holds no tracks.");
+    m_shortfall = sirM.tracks > 0 ? QString() : Text::tr("It holds no tracks.");
 }
 
 void InputProposal::setSite(const GeoCoordinate &site)
@@ -256,14 +256,14 @@ void InputProposal::applyTo(Config *config) const
 QString InputProposal::choiceText() const
 {
     QString text = m_fromSensorFile
-        ? tr("Played as %1 \"%2\" of the sensor file").arg(SensorInfo::typeFullName(m_sensor->type()), m_sensor->name())
-        : tr("Played as %1").arg(m_sensor->name());
+        ? Text::tr("Played as %1 \"%2\" of the sensor file").arg(sensorTypeText(m_sensor->type()), m_sensor->name())
+        : Text::tr("Played as %1").arg(m_sensor->name());
     if (m_sourcesLeftOut > 0) {
-        text += m_sourcesLeftOut == 1 ? tr(", the other source left out")
-                                      : tr(", %1 other sources left out").arg(m_sourcesLeftOut);
+        text += m_sourcesLeftOut == 1 ? Text::tr(", the other source left out")
+                                      : Text::tr(", %1 other sources left out").arg(m_sourcesLeftOut);
     }
     if (m_siteMissing) {
-        text += tr("; where it stands is not known, and its positions are relative to that");
+        text += Text::tr("; where it stands is not known, and its positions are relative to that");
     }
     return text + u'.';
 }

@@ -19,10 +19,9 @@ constexpr qint64 MostMessageOctets = 16 * 1024 * 1024;
 // Of a capture in which there is hardly anything to look at.
 constexpr qint64 MostFileOctets = 1024 * 1024 * 1024;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("RecordingAnalysis", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(RecordingAnalysis)
+};
 
 // Feeds the beginning of the file to an analyser.
 void readMessages(FileReader &reader, RecordingFindings *findings)
@@ -38,7 +37,7 @@ void readMessages(FileReader &reader, RecordingFindings *findings)
     findings->whole = packet.kind != DataPacket::Data;
     if (packet.kind == DataPacket::Error) {
         const QString error = packet.error.endsWith(u'.') ? packet.error.chopped(1) : packet.error;
-        findings->damage = tr("%1 (at octet %2).").arg(error).arg(packet.offset);
+        findings->damage = Text::tr("%1 (at octet %2).").arg(error).arg(packet.offset);
     }
     findings->stream = analyser.findings();
 }
@@ -48,10 +47,10 @@ QString faultOf(const RecordingFindings &findings)
     const bool isCapture = findings.format == RecFile::Pcap || findings.format == RecFile::PcapNg;
     if (findings.stream.messages == 0) {
         return !findings.damage.isEmpty() ? findings.damage
-            : isCapture                   ? tr("The capture holds no UDP datagrams.")
-                                          : tr("It holds no messages.");
+            : isCapture                   ? Text::tr("The capture holds no UDP datagrams.")
+                                          : Text::tr("It holds no messages.");
     }
-    return findings.stream.kind ? QString() : tr("It holds %1.").arg(describe(findings.stream));
+    return findings.stream.kind ? QString() : Text::tr("It holds %1.").arg(describe(findings.stream));
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "engine/envelope.h"
 #include "recognition/recording_analysis.h"
+#include "sensors/sensor_type_text.h"
+#include "tracking/fault_text.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -20,10 +22,9 @@ constexpr qint64 OddShare = 20; // one in so many
 constexpr qint64 MixedShare = 20;
 constexpr int HdlcCheckOctets = 2;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("StreamDiagnosis", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(StreamDiagnosis)
+};
 
 QString number(qint64 value)
 {
@@ -32,7 +33,7 @@ QString number(qint64 value)
 
 QString counted(qint64 count, const char *one, const char *many)
 {
-    return count == 1 ? tr(one) : tr(many).arg(number(count));
+    return count == 1 ? Text::tr(one) : Text::tr(many).arg(number(count));
 }
 
 QString blocksText(qint64 blocks)
@@ -50,7 +51,7 @@ QString messagesText(qint64 messages)
 // "CAT021 from 25/11"
 QString subject(const SourceFindings &source, const CategoryFindings &category)
 {
-    return tr("%1 from %2").arg(categoryName(category.category), source.name());
+    return Text::tr("%1 from %2").arg(categoryName(category.category), source.name());
 }
 
 DiagnosisRemark makeRemark(Level level, Topic topic, const QString &sentence, const QString &evidence = {})
@@ -78,16 +79,16 @@ bool isEqual(const EditionFindings &best, const EditionFindings &other)
 
 QString evidenceOf(const EditionFindings &edition, qint64 blocks)
 {
-    QString text = edition.wholeBlocks == blocks ? tr("edition %1 reads all").arg(edition.edition)
-        : edition.wholeBlocks == 0               ? tr("edition %1 reads none").arg(edition.edition)
-                                   : tr("edition %1 reads %2").arg(edition.edition, number(edition.wholeBlocks));
+    QString text = edition.wholeBlocks == blocks ? Text::tr("edition %1 reads all").arg(edition.edition)
+        : edition.wholeBlocks == 0               ? Text::tr("edition %1 reads none").arg(edition.edition)
+                                   : Text::tr("edition %1 reads %2").arg(edition.edition, number(edition.wholeBlocks));
     if (edition.onlyBlocks > 0) {
         text += edition.onlyBlocks == blocks
-            ? tr(", and no other edition reads any")
-            : tr("; %1 of these no other edition reads").arg(number(edition.onlyBlocks));
+            ? Text::tr(", and no other edition reads any")
+            : Text::tr("; %1 of these no other edition reads").arg(number(edition.onlyBlocks));
     }
     if (edition.oddRecords > 0) {
-        text += tr(", with implausible values in %1 of %2 records")
+        text += Text::tr(", with implausible values in %1 of %2 records")
                     .arg(number(edition.oddRecords), number(edition.records));
     }
     return text;
@@ -100,8 +101,8 @@ QString evidenceOf(const CategoryFindings &category)
         parts += evidenceOf(edition, category.judgedBlocks);
     }
     const QString looked = category.judgedBlocks == 1
-        ? tr("Of 1 block that was looked at")
-        : tr("Of %1 blocks that were looked at").arg(number(category.judgedBlocks));
+        ? Text::tr("Of 1 block that was looked at")
+        : Text::tr("Of %1 blocks that were looked at").arg(number(category.judgedBlocks));
     return looked + QStringLiteral(": ") + parts.join(QStringLiteral("; ")) + u'.';
 }
 
@@ -111,7 +112,8 @@ DiagnosisRemark editionRemark(const SourceFindings &source, const CategoryFindin
     const QString who = subject(source, category);
     if (isMixed(category)) {
         return makeRemark(Level::Wrong, Topic::Edition,
-            tr("%1 comes in more than one edition: %2 of %3 records are of edition %4, the others of another one.")
+            Text::tr(
+                "%1 comes in more than one edition: %2 of %3 records are of edition %4, the others of another one.")
                 .arg(who, number(category.editionRecords), number(category.records), category.edition),
             evidenceOf(category));
     }
@@ -123,12 +125,12 @@ DiagnosisRemark editionRemark(const SourceFindings &source, const CategoryFindin
     }
     if (!equals.isEmpty()) {
         return makeRemark(Level::Note, Topic::Edition,
-            tr("%1 is read in edition %2, but nothing in it tells that from edition %3.")
-                .arg(who, category.edition, equals.join(tr(" or "))),
+            Text::tr("%1 is read in edition %2, but nothing in it tells that from edition %3.")
+                .arg(who, category.edition, equals.join(Text::tr(" or "))),
             evidenceOf(category));
     }
     return makeRemark(
-        Level::Fine, Topic::Edition, tr("%1 is of edition %2.").arg(who, category.edition), evidenceOf(category));
+        Level::Fine, Topic::Edition, Text::tr("%1 is of edition %2.").arg(who, category.edition), evidenceOf(category));
 }
 
 // The one edition of its category that is known. That need not be the edition's fault.
@@ -136,8 +138,9 @@ DiagnosisRemark oddRemark(const SourceFindings &source, const CategoryFindings &
 {
     const EditionFindings &edition = category.editions.first();
     return makeRemark(Level::Note, Topic::Edition,
-        tr("In %1 of %2 records of %3 a time, a place or an aircraft identification cannot be right, or bits are set "
-           "that edition %4 leaves unused.")
+        Text::tr(
+            "In %1 of %2 records of %3 a time, a place or an aircraft identification cannot be right, or bits are set "
+            "that edition %4 leaves unused.")
             .arg(number(edition.oddRecords), number(edition.records), subject(source, category), edition.edition));
 }
 
@@ -146,19 +149,21 @@ DiagnosisRemark undecodableRemark(const SourceFindings &source, const CategoryFi
     const QString who = subject(source, category);
     if (!category.hasTable) {
         return makeRemark(Level::Note, Topic::Category,
-            tr("%1 is passed over: nothing here reads this category (%2, %3 octets).")
+            Text::tr("%1 is passed over: nothing here reads this category (%2, %3 octets).")
                 .arg(who, blocksText(category.undecodableBlocks), number(category.undecodableOctets)));
     }
     const QString edition = category.edition.isEmpty() && !category.editions.isEmpty()
         ? category.editions.first().edition
         : category.edition;
     const QString sentence = category.records == 0
-        ? tr("%1 cannot be decoded: of %2 none fits edition %3, so it is of another edition, or damaged.")
+        ? Text::tr("%1 cannot be decoded: of %2 none fits edition %3, so it is of another edition, or damaged.")
               .arg(who, blocksText(category.undecodableBlocks), edition)
-        : tr("%1 of %2 of %3 cannot be decoded in edition %4: damaged on the way, or of another edition.")
+        : Text::tr("%1 of %2 of %3 cannot be decoded in edition %4: damaged on the way, or of another edition.")
               .arg(number(category.undecodableBlocks), blocksText(category.blocks), who, edition);
     return makeRemark(Level::Wrong, Topic::Damage, sentence,
-        tr("The first fault: %1, at octet %2 of the block.").arg(category.fault).arg(category.faultOffset));
+        Text::tr("The first fault: %1, at octet %2 of the block.")
+            .arg(faultText(category.fault))
+            .arg(category.faultOffset));
 }
 
 Diagnosis diagnose(const SourceFindings &source, const CategoryFindings &category)
@@ -190,15 +195,15 @@ StreamFormat formatOf(const StreamFindings &stream)
 DiagnosisRemark contentsRemark(const StreamFindings &stream)
 {
     if (stream.messages == 0) {
-        return makeRemark(Level::Wrong, Topic::Contents, tr("Nothing has come."));
+        return makeRemark(Level::Wrong, Topic::Contents, Text::tr("Nothing has come."));
     }
     if (!stream.kind) {
         return makeRemark(Level::Wrong, Topic::Format,
-            tr("In %1 nothing makes sense as ASTERIX, Mode S or Alenia SIR-M, in whatever encapsulation.")
+            Text::tr("In %1 nothing makes sense as ASTERIX, Mode S or Alenia SIR-M, in whatever encapsulation.")
                 .arg(messagesText(stream.messages)),
-            tr("The first one begins with the octets %1.").arg(QString::fromLatin1(stream.beginning.toHex(' '))));
+            Text::tr("The first one begins with the octets %1.").arg(QString::fromLatin1(stream.beginning.toHex(' '))));
     }
-    return makeRemark(Level::Fine, Topic::Contents, tr("The stream holds %1.").arg(describe(stream)));
+    return makeRemark(Level::Fine, Topic::Contents, Text::tr("The stream holds %1.").arg(describe(stream)));
 }
 
 void addEnvelope(const StreamFindings &stream, Diagnosis *remarks)
@@ -211,7 +216,9 @@ void addEnvelope(const StreamFindings &stream, Diagnosis *remarks)
         const QString name = isAsterix ? Config::asterixFormatName(stream.asterixFormat)
                                        : Config::aleniaSirMFormatName(stream.aleniaSirMFormat);
         *remarks += makeRemark(Level::Note, Topic::Format,
-            tr("Each message begins with %1 octets of its transport: the format is \"%2\".").arg(octets).arg(name));
+            Text::tr("Each message begins with %1 octets of its transport: the format is \"%2\".")
+                .arg(octets)
+                .arg(name));
     }
 }
 
@@ -222,11 +229,12 @@ void addMixture(const StreamFindings &stream, Diagnosis *remarks)
     }
     QStringList parts;
     for (const Admixture &other : stream.admixtures) {
-        parts += tr("%1 in %2").arg(formatText(other.format), messagesText(other.messages));
+        parts += Text::tr("%1 in %2").arg(formatText(other.format), messagesText(other.messages));
     }
     *remarks += makeRemark(Level::Wrong, Topic::Mixture,
-        tr("Several formats arrive together: beside %1 there is %2. One is shown at a time; each needs a port of its "
-           "own.")
+        Text::tr(
+            "Several formats arrive together: beside %1 there is %2. One is shown at a time; each needs a port of its "
+            "own.")
             .arg(formatText(formatOf(stream)), parts.join(QStringLiteral(", "))));
 }
 
@@ -239,12 +247,13 @@ void addTrailers(const StreamFindings &stream, Diagnosis *remarks)
     }
     const QString alike = trailers.alike == trailers.messages
         ? QString()
-        : tr("%1 of them have that many, the others between 1 and 32.").arg(number(trailers.alike));
+        : Text::tr("%1 of them have that many, the others between 1 and 32.").arg(number(trailers.alike));
     *remarks += makeRemark(Level::Note, Topic::Trailer,
-        tr("In %1 of %2 the last block is followed by %3 that begin no other one, as recorders and gateways append "
-           "them; they are passed over.")
+        Text::tr(
+            "In %1 of %2 the last block is followed by %3 that begin no other one, as recorders and gateways append "
+            "them; they are passed over.")
             .arg(number(trailers.messages), messagesText(stream.messages),
-                trailers.octets == 1 ? tr("1 octet") : tr("%1 octets").arg(trailers.octets)),
+                trailers.octets == 1 ? Text::tr("1 octet") : Text::tr("%1 octets").arg(trailers.octets)),
         alike);
 }
 
@@ -252,7 +261,7 @@ void addCutShort(const StreamFindings &stream, Diagnosis *remarks)
 {
     if (stream.cutShort > 0) {
         *remarks += makeRemark(Level::Wrong, Topic::Damage,
-            tr("%1 of %2 end within a block: they are cut short, or what follows their blocks is something else.")
+            Text::tr("%1 of %2 end within a block: they are cut short, or what follows their blocks is something else.")
                 .arg(number(stream.cutShort), messagesText(stream.messages)));
     }
 }
@@ -269,11 +278,11 @@ void addProcessor(const StreamFindings &stream, const Config &config, Diagnosis 
         || (found.kind == Config::ProcessorType::AleniaSirM && set.aleniaSirM != found.aleniaSirM);
     if (set.kind != found.kind) {
         *remarks += makeRemark(Level::Wrong, Topic::Processor,
-            tr("The processor is set to \"%1\", but what arrives is %2.")
+            Text::tr("The processor is set to \"%1\", but what arrives is %2.")
                 .arg(Config::processorName(set.kind), formatText(found)));
     } else if (isFormatWrong) {
         *remarks += makeRemark(Level::Wrong, Topic::Processor,
-            tr("The processor is set to %1, but what arrives is %2.").arg(formatText(set), formatText(found)));
+            Text::tr("The processor is set to %1, but what arrives is %2.").arg(formatText(set), formatText(found)));
     }
 }
 
@@ -310,7 +319,7 @@ void addProfile(const StreamFindings &stream, const Config &config, Diagnosis *r
             continue;
         }
         DiagnosisRemark found = makeRemark(Level::Wrong, Topic::Processor,
-            tr("The profile reads CAT021 in edition %1, but %2 sends edition %3: set it to automatic.")
+            Text::tr("The profile reads CAT021 in edition %1, but %2 sends edition %3: set it to automatic.")
                 .arg(forced, source.name(), reports->edition),
             evidenceOf(*reports));
         found.source = source.name();
@@ -333,7 +342,7 @@ void addIdentity(const StreamFindings &stream, const Config &config, Diagnosis *
         names += source.name();
     }
     *remarks += makeRemark(Level::Wrong, Topic::Sensor,
-        tr("Only reports of the sensor's SAC/SIC %1/%2 are taken, but those that arrive are of %3.")
+        Text::tr("Only reports of the sensor's SAC/SIC %1/%2 are taken, but those that arrive are of %3.")
             .arg(config.sensorSac)
             .arg(config.sensorSic)
             .arg(names.join(QStringLiteral(", "))));
@@ -355,8 +364,8 @@ void addSensorType(const StreamFindings &stream, const Config &config, Diagnosis
     const SensorType found = isModeS ? AdsbSensor : other;
     if (found != UnknownSensor && own == 0 && found != config.sensorType) {
         *remarks += makeRemark(Level::Wrong, Topic::Sensor,
-            tr("The sensor is set to %1, but what arrives are reports of %2.")
-                .arg(sensorTypeFullName(config.sensorType), sensorTypeFullName(found)));
+            Text::tr("The sensor is set to %1, but what arrives are reports of %2.")
+                .arg(sensorTypeText(config.sensorType), sensorTypeText(found)));
     }
 }
 
@@ -411,7 +420,7 @@ Diagnosis diagnose(const RecordingFindings &recording)
 {
     if (!recording.playable()) {
         Diagnosis remarks = {
-            makeRemark(Level::Wrong, Topic::Damage, tr("It cannot be played: %1").arg(recording.fault))};
+            makeRemark(Level::Wrong, Topic::Damage, Text::tr("It cannot be played: %1").arg(recording.fault))};
         if (recording.stream.messages > 0 && !recording.stream.kind) {
             remarks.first().evidence = contentsRemark(recording.stream).evidence;
         }
@@ -421,7 +430,7 @@ Diagnosis diagnose(const RecordingFindings &recording)
     if (!recording.damage.isEmpty()) {
         remarks.insert(1,
             makeRemark(Level::Wrong, Topic::Damage,
-                tr("The file is damaged, and what follows cannot be played: %1").arg(recording.damage)));
+                Text::tr("The file is damaged, and what follows cannot be played: %1").arg(recording.damage)));
     }
     return remarks;
 }

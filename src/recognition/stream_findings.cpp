@@ -15,10 +15,9 @@ namespace {
 
 constexpr int MostSourcesNamed = 6;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("StreamFindings", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(StreamFindings)
+};
 
 QString number(qint64 value)
 {
@@ -30,16 +29,16 @@ QString listOf(const QStringList &parts)
 {
     return parts.size() < 2
         ? parts.join(QString())
-        : tr("%1 and %2").arg(parts.mid(0, parts.size() - 1).join(QStringLiteral(", ")), parts.last());
+        : Text::tr("%1 and %2").arg(parts.mid(0, parts.size() - 1).join(QStringLiteral(", ")), parts.last());
 }
 
 QString categoryText(const CategoryFindings &category)
 {
     const QString name = categoryName(category.category);
     if (category.records == 0) {
-        return tr("%1 (cannot be decoded)").arg(name);
+        return Text::tr("%1 (cannot be decoded)").arg(name);
     }
-    return category.editionChosen ? tr("%1 in edition %2").arg(name, category.edition) : name;
+    return category.editionChosen ? Text::tr("%1 in edition %2").arg(name, category.edition) : name;
 }
 
 QString categoriesText(const SourceFindings &source)
@@ -53,7 +52,7 @@ QString categoriesText(const SourceFindings &source)
 
 QString recordsText(qint64 records)
 {
-    return records == 1 ? tr("1 record") : tr("%1 records").arg(number(records));
+    return records == 1 ? Text::tr("1 record") : Text::tr("%1 records").arg(number(records));
 }
 
 using Count = qint64 CategoryFindings::*;
@@ -89,7 +88,7 @@ QString itemsText(const SourceFindings &source, const ItemText (&items)[Size], c
     QStringList parts;
     for (const ItemText &item : items) {
         if (sum(source, item.count) > 0) {
-            parts += tr(item.text);
+            parts += Text::tr(item.text);
         }
     }
     return parts.isEmpty() ? none : listOf(parts);
@@ -101,23 +100,23 @@ QStringList targetTexts(const SourceFindings &source)
     if (reports == 0) {
         return {};
     }
-    QStringList parts = {
-        itemsText(source, PositionTexts, tr("no positions")), itemsText(source, IdentityTexts, tr("no track numbers"))};
+    QStringList parts = {itemsText(source, PositionTexts, Text::tr("no positions")),
+        itemsText(source, IdentityTexts, Text::tr("no track numbers"))};
     const qint64 trackable = sum(source, &CategoryFindings::trackable);
     if (trackable > 0 && trackable < reports) {
-        parts += tr("both in %1 of %2 reports").arg(number(trackable), number(reports));
+        parts += Text::tr("both in %1 of %2 reports").arg(number(trackable), number(reports));
     }
     return parts;
 }
 
 QString turnText(double seconds)
 {
-    return seconds > 0.0 ? tr("turning once in %1 s").arg(seconds, 0, 'f', 1) : QString();
+    return seconds > 0.0 ? Text::tr("turning once in %1 s").arg(seconds, 0, 'f', 1) : QString();
 }
 
 QString placeText(const PositionArea &area)
 {
-    return tr("around %1").arg(area.center.toATCString(GeoCoordinate::NormalPrecisionSpace));
+    return Text::tr("around %1").arg(area.center.toATCString(GeoCoordinate::NormalPrecisionSpace));
 }
 
 qint64 reportsOf(const SourceFindings &source)
@@ -136,27 +135,28 @@ QString asterixText(const StreamFindings &findings)
         [](const SourceFindings &a, const SourceFindings &b) { return reportsOf(a) > reportsOf(b); });
     QStringList parts;
     for (const SourceFindings &source : sources.mid(0, MostSourcesNamed)) {
-        parts += tr("%1 from %2 (%3)").arg(categoriesText(source), source.name(), recordsText(reportsOf(source)));
+        parts += Text::tr("%1 from %2 (%3)").arg(categoriesText(source), source.name(), recordsText(reportsOf(source)));
     }
     if (sources.size() > MostSourcesNamed) {
-        parts += tr("%1 more").arg(sources.size() - MostSourcesNamed);
+        parts += Text::tr("%1 more").arg(sources.size() - MostSourcesNamed);
     }
-    return tr("%1 sources: %2").arg(sources.size()).arg(parts.join(QStringLiteral("; ")));
+    return Text::tr("%1 sources: %2").arg(sources.size()).arg(parts.join(QStringLiteral("; ")));
 }
 
 QString modeSText(const StreamFindings &findings)
 {
     const ModeSFindings &modeS = findings.modeS;
     QStringList parts = {
-        tr("Mode S (%1): %2 frames")
+        Text::tr("Mode S (%1): %2 frames")
             .arg(QString::fromStdString(ModeSEncapsulation::name(findings.modeSEncapsulation)), number(modeS.frames)),
-        tr("%1 aircraft with extended squitters").arg(number(modeS.aircraft))};
-    parts += modeS.area.positions > 0 ? tr("%1 positions").arg(number(modeS.area.positions)) : tr("no positions");
+        Text::tr("%1 aircraft with extended squitters").arg(number(modeS.aircraft))};
+    parts += modeS.area.positions > 0 ? Text::tr("%1 positions").arg(number(modeS.area.positions))
+                                      : Text::tr("no positions");
     if (modeS.area.positions > 0) {
         parts += placeText(modeS.area);
     }
     if (modeS.modeAcReplies > 0) {
-        parts += tr("%1 Mode A/C replies").arg(number(modeS.modeAcReplies));
+        parts += Text::tr("%1 Mode A/C replies").arg(number(modeS.modeAcReplies));
     }
     return parts.join(QStringLiteral(", "));
 }
@@ -164,8 +164,9 @@ QString modeSText(const StreamFindings &findings)
 QString sirMText(const StreamFindings &findings)
 {
     const SirMFindings &sirM = findings.sirM;
-    QStringList parts = {tr("Alenia SIR-M radar %1: %2 tracks").arg(QString::number(sirM.radarId), number(sirM.tracks)),
-        tr("%1 plots").arg(number(sirM.plots))};
+    QStringList parts = {
+        Text::tr("Alenia SIR-M radar %1: %2 tracks").arg(QString::number(sirM.radarId), number(sirM.tracks)),
+        Text::tr("%1 plots").arg(number(sirM.plots))};
     parts += turnText(sirM.rotationPeriod);
     parts.removeAll(QString());
     return parts.join(QStringLiteral(", "));
@@ -233,7 +234,7 @@ const CategoryFindings *SourceFindings::find(int category) const
 
 QString SourceFindings::name() const
 {
-    return identified ? QStringLiteral("%1/%2").arg(sac).arg(sic) : tr("a source without SAC/SIC");
+    return identified ? QStringLiteral("%1/%2").arg(sac).arg(sic) : Text::tr("a source without SAC/SIC");
 }
 
 QString categoryName(int category)
@@ -246,21 +247,21 @@ QString formatText(const StreamFormat &format)
     switch (format.kind) {
     case Config::ProcessorType::Asterix:
         return format.asterix == Config::AsterixFormat::Raw
-            ? tr("ASTERIX")
-            : tr("ASTERIX in %1").arg(Config::asterixFormatName(format.asterix));
+            ? Text::tr("ASTERIX")
+            : Text::tr("ASTERIX in %1").arg(Config::asterixFormatName(format.asterix));
     case Config::ProcessorType::ModeS:
-        return tr("Mode S (%1)").arg(QString::fromStdString(ModeSEncapsulation::name(format.modeS)));
+        return Text::tr("Mode S (%1)").arg(QString::fromStdString(ModeSEncapsulation::name(format.modeS)));
     case Config::ProcessorType::AleniaSirM:
         break;
     }
     return format.aleniaSirM == Config::AleniaSirMFormat::Raw
-        ? tr("Alenia SIR-M")
-        : tr("Alenia SIR-M in %1").arg(Config::aleniaSirMFormatName(format.aleniaSirM));
+        ? Text::tr("Alenia SIR-M")
+        : Text::tr("Alenia SIR-M in %1").arg(Config::aleniaSirMFormatName(format.aleniaSirM));
 }
 
 QString describe(const SourceFindings &source)
 {
-    QStringList parts = {tr("%1 from %2").arg(categoriesText(source), source.name())};
+    QStringList parts = {Text::tr("%1 from %2").arg(categoriesText(source), source.name())};
     parts += targetTexts(source);
     parts += source.records(RadarSensor) > 0 ? turnText(source.rotationPeriod) : QString();
     parts += source.area.positions > 0 ? placeText(source.area) : QString();
@@ -271,15 +272,15 @@ QString describe(const SourceFindings &source)
 QString describe(const StreamFindings &findings)
 {
     if (!findings.kind) {
-        return tr("no ASTERIX, Mode S or SIR-M data in %1 messages").arg(number(findings.messages));
+        return Text::tr("no ASTERIX, Mode S or SIR-M data in %1 messages").arg(number(findings.messages));
     }
     QStringList parts = {contentsText(findings)};
     if (const QString envelope = envelopeText(findings); !envelope.isEmpty()) {
-        parts += tr("in %1").arg(envelope);
+        parts += Text::tr("in %1").arg(envelope);
     }
     if (findings.undecodableOctets > 0) {
-        parts +=
-            tr("%1 of %2 octets cannot be decoded").arg(number(findings.undecodableOctets), number(findings.octets));
+        parts += Text::tr("%1 of %2 octets cannot be decoded")
+                     .arg(number(findings.undecodableOctets), number(findings.octets));
     }
     return parts.join(QStringLiteral(", "));
 }

@@ -1,10 +1,12 @@
 #include "settings/display_config_page.h"
 
+#include "app/languages.h"
 #include "app/theme_library.h"
 #include "widgets/coordinate_edit.h"
 #include "widgets/field_form.h"
 
 #include <QCompleter>
+#include <QLabel>
 #include <QLineEdit>
 #include <QStyleFactory>
 #include <QTimeZone>
@@ -46,21 +48,23 @@ void DisplayConfigPage::addThemeRow()
 {
     const ThemeLibrary library;
     auto *theme = new QComboBox;
-    theme->addItems(library.names());
+    for (const QString &name : library.names()) {
+        theme->addItem(Theme::shownName(name), name);
+    }
     theme->setToolTip(
         tr("Fills in the colours, fonts and map style of all pages. Each of them can be changed afterwards."));
     form()->addField(tr("T&heme:"), theme);
     bind<QString>(
         theme, &Config::displayTheme,
         [theme](const QString &name) {
-            if (theme->findText(name) < 0) { // its file has gone
-                theme->addItem(name);
+            if (theme->findData(name) < 0) { // its file has gone
+                theme->addItem(name, name);
             }
-            theme->setCurrentText(name);
+            theme->setCurrentIndex(theme->findData(name));
         },
-        [theme] { return std::optional(theme->currentText()); });
-    connect(theme, &QComboBox::textActivated, this, [this, themes = library](const QString &name) {
-        if (const Theme *chosen = themes.find(name)) {
+        [theme] { return std::optional(theme->currentData().toString()); });
+    connect(theme, &QComboBox::activated, this, [this, theme, themes = library] {
+        if (const Theme *chosen = themes.find(theme->currentData().toString())) {
             Q_EMIT themeChosen(*chosen);
         }
     });
@@ -81,6 +85,7 @@ void DisplayConfigPage::addPlanViewRows()
 void DisplayConfigPage::addWindowRows()
 {
     form()->addHeading(tr("Window"));
+    addLanguageRow();
     form()->addField(tr("&Time zone:"), m_timeZone);
     bind<QString>(
         m_timeZone, &Config::displayLocalTimeZoneName,
@@ -100,6 +105,34 @@ void DisplayConfigPage::addWindowRows()
         },
         [style] { return std::optional(style->currentText()); });
     addSwitch(tr("Te&xt beside the icons of the tool bars"), &Config::displayToolbarText);
+}
+
+void DisplayConfigPage::addLanguageRow()
+{
+    auto *language = new QComboBox;
+    language->addItem(tr("The system's"), QString());
+    for (const Languages::Language &offered : Languages::available()) {
+        language->addItem(offered.name, offered.code);
+    }
+    language->setToolTip(
+        tr("The language of windows, menus and messages. It changes when the program is started again."));
+    form()->addField(tr("Lan&guage:"), language);
+    bind<QString>(
+        language, &Config::displayLanguage,
+        [this, language](const QString &code) {
+            if (language->findData(code) < 0) { // its file has gone
+                language->addItem(code, code);
+            }
+            m_languageAtFirst = code;
+            language->setCurrentIndex(language->findData(code));
+        },
+        [language] { return std::optional(language->currentData().toString()); });
+    auto *note = new QLabel(tr("The new language is spoken from the next start on."));
+    note->setObjectName("languageNote");
+    note->hide();
+    form()->addField(note);
+    connect(language, &QComboBox::currentIndexChanged, this,
+        [this, language, note] { note->setVisible(language->currentData().toString() != m_languageAtFirst); });
 }
 
 QString DisplayConfigPage::timeZoneProblem() const

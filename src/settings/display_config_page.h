@@ -22,8 +22,10 @@ private:
     void addThemeRow();
     void addPlanViewRows();
     void addWindowRows();
+    void addLanguageRow();
     QString timeZoneProblem() const;
 
     CoordinateEdit *m_center = nullptr;
     QComboBox *m_timeZone = nullptr;
+    QString m_languageAtFirst; // before the operator chose another
 };

@@ -1,6 +1,7 @@
 #include "settings/sensor_form.h"
 
 #include "sensors/sensor_info.h"
+#include "sensors/sensor_type_text.h"
 #include "settings/sensor_type_fields.h"
 #include "widgets/coordinate_edit.h"
 #include "widgets/field_form.h"
@@ -67,7 +68,7 @@ QComboBox *SensorForm::makeTypeBox()
         box->addItem(tr("None"), UnknownSensor);
     }
     for (const SensorType type : {RadarSensor, AdsbSensor, MlatSensor, SdpsSensor, SmrSensor}) {
-        box->addItem(SensorInfo::typeFullName(type), type);
+        box->addItem(sensorTypeText(type), type);
     }
     return box;
 }

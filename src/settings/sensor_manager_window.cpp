@@ -1,6 +1,7 @@
 #include "settings/sensor_manager_window.h"
 
 #include "sensors/sensor_manager.h"
+#include "sensors/sensor_type_text.h"
 #include "settings/sensor_edit_window.h"
 
 #include <QDir>
@@ -39,10 +40,10 @@ QString saveFailureReason(const QString &fileName)
 
 QTreeWidgetItem *makeItem(const SensorInfo &sensor)
 {
-    auto *item = new QTreeWidgetItem({sensor.name(), SensorInfo::typeFullName(sensor.type()),
-        QStringLiteral("%1/%2").arg(sensor.sac()).arg(sensor.sic()),
-        sensor.location().toATCString(GeoCoordinate::HighPrecision),
-        QStringLiteral("%1 %2").arg(sensor.manufacturer(), sensor.model()).trimmed(), sensor.description()});
+    auto *item = new QTreeWidgetItem(
+        {sensor.name(), sensorTypeText(sensor.type()), QStringLiteral("%1/%2").arg(sensor.sac()).arg(sensor.sic()),
+            sensor.location().toATCString(GeoCoordinate::HighPrecision),
+            QStringLiteral("%1 %2").arg(sensor.manufacturer(), sensor.model()).trimmed(), sensor.description()});
     item->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
     return item;
 }

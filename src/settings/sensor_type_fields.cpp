@@ -18,10 +18,9 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("SensorTypeFields", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(SensorTypeFields)
+};
 
 // Range and unit are those of the configured sensor's setting; a record's are the same.
 template <typename Box, typename T>
@@ -43,7 +42,7 @@ QDoubleSpinBox *makeSeconds(double Config::*member)
 {
     auto *box = makeNumber<QDoubleSpinBox>(member);
     box->setDecimals(3);
-    box->setSpecialValueText(tr("not given"));
+    box->setSpecialValueText(Text::tr("not given"));
     return box;
 }
 
@@ -51,22 +50,22 @@ class RadarFields final : public SensorTypeFields {
 public:
     RadarFields(FieldForm *form, bool details) : SensorTypeFields(form)
     {
-        addRow(tr("Antenna &altitude:"), m_altitude, QStringLiteral("radarAntennaAltitude"));
-        addRow(tr("&Rotation period:"), m_period, QStringLiteral("radarRotationPeriod"));
+        addRow(Text::tr("Antenna &altitude:"), m_altitude, QStringLiteral("radarAntennaAltitude"));
+        addRow(Text::tr("&Rotation period:"), m_period, QStringLiteral("radarRotationPeriod"));
         addRow(m_primary, QStringLiteral("radarPrimary"));
-        addRow(tr("Coverage, &primary:"), m_coveragePrimary, QStringLiteral("radarCoveragePrimary"));
+        addRow(Text::tr("Coverage, &primary:"), m_coveragePrimary, QStringLiteral("radarCoveragePrimary"));
         addRow(m_secondary, QStringLiteral("radarSecondary"));
         addRow(m_modeS, QStringLiteral("radarModeS"));
-        addRow(tr("Coverage, se&condary:"), m_coverageSecondary, QStringLiteral("radarCoverageSecondary"));
+        addRow(Text::tr("Coverage, se&condary:"), m_coverageSecondary, QStringLiteral("radarCoverageSecondary"));
         // A Mode S radar is a secondary one.
         QObject::connect(m_modeS, &QCheckBox::toggled, m_secondary, [this](bool on) {
             m_secondary->setChecked(on || m_secondary->isChecked());
             m_secondary->setEnabled(!on);
         });
         if (details) {
-            m_slantRange = new QCheckBox(tr("Correct s&lant range"));
-            m_slantRange->setToolTip(
-                tr("Targets whose height is known are shown at their distance over ground; the others as before."));
+            m_slantRange = new QCheckBox(Text::tr("Correct s&lant range"));
+            m_slantRange->setToolTip(Text::tr(
+                "Targets whose height is known are shown at their distance over ground; the others as before."));
             addRow(m_slantRange, QStringLiteral("radarSlantRange"));
         }
     }
@@ -104,15 +103,15 @@ public:
     bool check() override
     {
         const bool any = m_primary->isChecked() || m_secondary->isChecked() || m_modeS->isChecked();
-        return form()->check(m_modeS, any ? QString() : tr("A radar is primary, secondary or both."));
+        return form()->check(m_modeS, any ? QString() : Text::tr("A radar is primary, secondary or both."));
     }
 
 private:
     QSpinBox *m_altitude = makeNumber(&Config::sensorRadarAntennaAltitude);
     QDoubleSpinBox *m_period = makeSeconds(&Config::sensorRadarRotationPeriod);
-    QCheckBox *m_primary = new QCheckBox(tr("Primary radar"));
-    QCheckBox *m_secondary = new QCheckBox(tr("Secondary radar"));
-    QCheckBox *m_modeS = new QCheckBox(tr("Mode S"));
+    QCheckBox *m_primary = new QCheckBox(Text::tr("Primary radar"));
+    QCheckBox *m_secondary = new QCheckBox(Text::tr("Secondary radar"));
+    QCheckBox *m_modeS = new QCheckBox(Text::tr("Mode S"));
     QSpinBox *m_coveragePrimary = makeNumber(&Config::sensorRadarCoveragePrimary);
     QSpinBox *m_coverageSecondary = makeNumber(&Config::sensorRadarCoverageSecondary);
     QCheckBox *m_slantRange = nullptr; // null without details
@@ -122,14 +121,14 @@ class AdsbFields final : public SensorTypeFields {
 public:
     AdsbFields(FieldForm *form, bool details) : SensorTypeFields(form)
     {
-        addRow(tr("Co&verage:"), m_coverage, QStringLiteral("adsbCoverage"));
-        addRow(tr("&Update interval:"), m_interval, QStringLiteral("adsbUpdateInterval"));
+        addRow(Text::tr("Co&verage:"), m_coverage, QStringLiteral("adsbCoverage"));
+        addRow(Text::tr("&Update interval:"), m_interval, QStringLiteral("adsbUpdateInterval"));
         if (!details) {
             return;
         }
         m_versions = new QLineEdit;
-        m_versions->setPlaceholderText(tr("such as 0, 1, 2"));
-        addRow(tr("ADS-&B versions:"), m_versions, QStringLiteral("adsbVersions"));
+        m_versions->setPlaceholderText(Text::tr("such as 0, 1, 2"));
+        addRow(Text::tr("ADS-&B versions:"), m_versions, QStringLiteral("adsbVersions"));
     }
 
     SensorType type() const override { return AdsbSensor; }
@@ -176,7 +175,7 @@ class MlatFields final : public SensorTypeFields {
 public:
     explicit MlatFields(FieldForm *form) : SensorTypeFields(form)
     {
-        addRow(tr("Co&verage:"), m_coverage, QStringLiteral("mlatCoverage"));
+        addRow(Text::tr("Co&verage:"), m_coverage, QStringLiteral("mlatCoverage"));
     }
 
     SensorType type() const override { return MlatSensor; }
@@ -199,8 +198,8 @@ class SdpsFields final : public SensorTypeFields {
 public:
     explicit SdpsFields(FieldForm *form) : SensorTypeFields(form)
     {
-        addRow(tr("Co&verage:"), m_coverage, QStringLiteral("sdpsCoverage"));
-        addRow(tr("&Update interval:"), m_interval, QStringLiteral("sdpsUpdateInterval"));
+        addRow(Text::tr("Co&verage:"), m_coverage, QStringLiteral("sdpsCoverage"));
+        addRow(Text::tr("&Update interval:"), m_interval, QStringLiteral("sdpsUpdateInterval"));
     }
 
     SensorType type() const override { return SdpsSensor; }
@@ -228,18 +227,18 @@ class SmrFields final : public SensorTypeFields {
 public:
     SmrFields(FieldForm *form, bool details) : SensorTypeFields(form)
     {
-        addRow(tr("Antenna &altitude:"), m_altitude, QStringLiteral("smrAntennaAltitude"));
-        addRow(tr("&Rotation period:"), m_period, QStringLiteral("smrRotationPeriod"));
+        addRow(Text::tr("Antenna &altitude:"), m_altitude, QStringLiteral("smrAntennaAltitude"));
+        addRow(Text::tr("&Rotation period:"), m_period, QStringLiteral("smrRotationPeriod"));
         m_coverage->setDecimals(2);
-        addRow(tr("Co&verage:"), m_coverage, QStringLiteral("smrCoverage"));
+        addRow(Text::tr("Co&verage:"), m_coverage, QStringLiteral("smrCoverage"));
         if (!details) {
             return;
         }
         m_acp = new QSpinBox;
         m_acp->setRange(0, std::numeric_limits<int>::max());
-        m_acp->setSpecialValueText(tr("not given"));
-        m_acp->setToolTip(tr("Azimuth change pulses per revolution of the antenna"));
-        addRow(tr("Azimuth &pulses:"), m_acp, QStringLiteral("smrAcp"));
+        m_acp->setSpecialValueText(Text::tr("not given"));
+        m_acp->setToolTip(Text::tr("Azimuth change pulses per revolution of the antenna"));
+        addRow(Text::tr("Azimuth &pulses:"), m_acp, QStringLiteral("smrAcp"));
     }
 
     SensorType type() const override { return SmrSensor; }

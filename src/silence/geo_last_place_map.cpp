@@ -48,7 +48,7 @@ QColor dimmed(const QColor &color, const QColor &ground)
 
 } // namespace
 
-GeoLastPlaceMap::GeoLastPlaceMap(QObject *parent) : GeoLayer(QStringLiteral("Last places"), parent)
+GeoLastPlaceMap::GeoLastPlaceMap(QObject *parent) : GeoLayer(tr("Last places"), parent)
 {
     GeoLastPlaceMap::applyConfig(Config());
 }

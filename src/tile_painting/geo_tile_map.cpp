@@ -10,8 +10,8 @@
 #include <algorithm>
 
 GeoTileMap::GeoTileMap(Layer layer, QObject *parent)
-    : GeoLayer(layer == Layer::Bottom ? QStringLiteral("Bottom tiles") : QStringLiteral("Top tiles"), parent),
-      m_layer(layer), m_clock(steadyClock())
+    : GeoLayer(layer == Layer::Bottom ? tr("Bottom tiles") : tr("Top tiles"), parent), m_layer(layer),
+      m_clock(steadyClock())
 {
     connect(&m_toned, &TonedTiles::changed, this, &GeoTileMap::tilesChanged);
     connect(this, &GeoLayer::polluted, this, &GeoTileMap::followVisibility);

@@ -7,10 +7,9 @@
 
 namespace {
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("TileAnswer", source);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(TileAnswer)
+};
 
 QString statusName(int status)
 {
@@ -40,37 +39,37 @@ QString statusText(int status, const QString &host)
 {
     const QString name = statusName(status);
     const QString code = QString::number(status);
-    return text("HTTP %1 from %2").arg(name.isEmpty() ? code : code + u' ' + name, host);
+    return Text::tr("HTTP %1 from %2").arg(name.isEmpty() ? code : code + u' ' + name, host);
 }
 
 QString networkErrorText(QNetworkReply::NetworkError error)
 {
     switch (error) {
     case QNetworkReply::ConnectionRefusedError:
-        return text("the connection was refused");
+        return Text::tr("the connection was refused");
     case QNetworkReply::RemoteHostClosedError:
-        return text("the connection was closed before the answer was complete");
+        return Text::tr("the connection was closed before the answer was complete");
     case QNetworkReply::HostNotFoundError:
-        return text("the host was not found");
+        return Text::tr("the host was not found");
     case QNetworkReply::TimeoutError:
     case QNetworkReply::OperationCanceledError:
-        return text("no answer in time");
+        return Text::tr("no answer in time");
     case QNetworkReply::SslHandshakeFailedError:
-        return text("no secure connection could be made");
+        return Text::tr("no secure connection could be made");
     case QNetworkReply::ProxyConnectionRefusedError:
     case QNetworkReply::ProxyConnectionClosedError:
     case QNetworkReply::ProxyTimeoutError:
-        return text("the proxy cannot be reached");
+        return Text::tr("the proxy cannot be reached");
     case QNetworkReply::ProxyNotFoundError:
-        return text("the proxy's host was not found");
+        return Text::tr("the proxy's host was not found");
     case QNetworkReply::ProxyAuthenticationRequiredError:
-        return text("the proxy asks for another user name or password");
+        return Text::tr("the proxy asks for another user name or password");
     case QNetworkReply::TooManyRedirectsError:
-        return text("the service redirects without end");
+        return Text::tr("the service redirects without end");
     case QNetworkReply::InsecureRedirectError:
-        return text("the service redirects to an insecure address");
+        return Text::tr("the service redirects to an insecure address");
     default:
-        return text("error %1").arg(static_cast<int>(error));
+        return Text::tr("error %1").arg(static_cast<int>(error));
     }
 }
 
@@ -111,8 +110,9 @@ TileAnswer imageOf(QNetworkReply *reply, TileAnswer answer)
         return answer;
     }
     answer.kind = TileAnswer::ServiceError;
-    answer.reason = answer.octets.isEmpty() ? text("an empty answer from %1").arg(reply->url().host())
-                                            : text("an answer from %1 that is no whole image").arg(reply->url().host());
+    answer.reason = answer.octets.isEmpty()
+        ? Text::tr("an empty answer from %1").arg(reply->url().host())
+        : Text::tr("an answer from %1 that is no whole image").arg(reply->url().host());
     answer.octets.clear();
     return answer;
 }
@@ -146,15 +146,15 @@ QString TileAnswer::message() const
 {
     switch (kind) {
     case Malformed:
-        return text("Request parameter error.");
+        return Text::tr("Request parameter error.");
     case Authentication:
-        return text("Tile service rejected the request (authentication failed): %1").arg(reason);
+        return Text::tr("Tile service rejected the request (authentication failed): %1").arg(reason);
     case RateLimited:
-        return text("Tile service is rate limiting requests: %1").arg(reason);
+        return Text::tr("Tile service is rate limiting requests: %1").arg(reason);
     case ServiceError:
-        return text("Tile service error: %1").arg(reason);
+        return Text::tr("Tile service error: %1").arg(reason);
     case NetworkError:
-        return text("Network error while requesting tiles: %1").arg(reason);
+        return Text::tr("Network error while requesting tiles: %1").arg(reason);
     case Image:
     case Missing:
         break;

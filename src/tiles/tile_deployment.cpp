@@ -4,10 +4,9 @@
 
 namespace {
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("TileDeployment", source);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(TileDeployment)
+};
 
 QStringList numbered(int first, int last)
 {
@@ -20,7 +19,7 @@ QStringList numbered(int first, int last)
 
 QString noBulkDownload(TileService service)
 {
-    return text("%1 does not allow its tiles to be downloaded in bulk or kept, except under an agreement with it.")
+    return Text::tr("%1 does not allow its tiles to be downloaded in bulk or kept, except under an agreement with it.")
         .arg(tileServiceName(service));
 }
 
@@ -36,7 +35,7 @@ TileDeployment tileDeployment(TileService service, bool bingAerial)
     case TileService::OpenAip:
         return {QStringLiteral("https://{s}.api.tiles.openaip.net"),
             {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}, false,
-            text("OpenAIP's data may be used with attribution and not commercially (CC BY-NC).")};
+            Text::tr("OpenAIP's data may be used with attribution and not commercially (CC BY-NC).")};
     case TileService::GoogleMaps:
         return {QStringLiteral("https://mt{s}.google.com"), numbered(0, 3), true, noBulkDownload(service)};
     case TileService::Tianditu:
@@ -44,10 +43,10 @@ TileDeployment tileDeployment(TileService service, bool bingAerial)
         return {QStringLiteral("https://t{s}.tianditu.gov.cn"), numbered(0, 7), true, noBulkDownload(service)};
     case TileService::Faa:
         return {QStringLiteral("https://tiles.arcgis.com/tiles/ssFJjBXIUyZDrSYZ/arcgis/rest/services"), {}, false,
-            text("The charts of the FAA are in the public domain.")};
+            Text::tr("The charts of the FAA are in the public domain.")};
     case TileService::Custom:
         return {{}, {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}, false,
-            text("Please see the terms of the service behind the address.")};
+            Text::tr("Please see the terms of the service behind the address.")};
     case TileService::None:
         break;
     }
@@ -58,21 +57,21 @@ QString tileServiceName(TileService service)
 {
     switch (service) {
     case TileService::BingMaps:
-        return text("Bing Maps");
+        return Text::tr("Bing Maps");
     case TileService::OpenAip:
-        return text("OpenAIP");
+        return Text::tr("OpenAIP");
     case TileService::GoogleMaps:
-        return text("Google Maps");
+        return Text::tr("Google Maps");
     case TileService::Tianditu:
-        return text("Map World");
+        return Text::tr("Map World");
     case TileService::TiandituAnnotation:
-        return text("Map World Annotation");
+        return Text::tr("Map World Annotation");
     case TileService::Faa:
-        return text("FAA Charts");
+        return Text::tr("FAA Charts");
     case TileService::Custom:
-        return text("Custom Tiles");
+        return Text::tr("Custom Tiles");
     case TileService::None:
         break;
     }
-    return text("No Service");
+    return Text::tr("No Service");
 }

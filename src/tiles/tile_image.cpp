@@ -26,10 +26,9 @@ bool isWholeWebP(const QByteArray &octets)
     return octets.size() >= qint64(size) + 8;
 }
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("TileImage", source);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(TileImage)
+};
 
 QImage refused(QString *error, const QString &reason)
 {
@@ -61,7 +60,7 @@ bool isWholeTileImage(const QByteArray &octets)
 QImage decodeTileImage(const QByteArray &octets, QString *error)
 {
     if (!isWholeTileImage(octets)) {
-        return refused(error, text("what came is no whole image"));
+        return refused(error, Text::tr("what came is no whole image"));
     }
     QBuffer buffer;
     buffer.setData(octets);
@@ -70,11 +69,11 @@ QImage decodeTileImage(const QByteArray &octets, QString *error)
     reader.setDecideFormatFromContent(true);
     const QSize size = reader.size();
     if (size.width() > MaxTileSide || size.height() > MaxTileSide) {
-        return refused(error, text("the image is too large: %1 x %2 pixels").arg(size.width()).arg(size.height()));
+        return refused(error, Text::tr("the image is too large: %1 x %2 pixels").arg(size.width()).arg(size.height()));
     }
     const QImage image = reader.read();
     if (image.isNull() || image.width() > MaxTileSide || image.height() > MaxTileSide) {
-        return refused(error, text("the image cannot be decoded"));
+        return refused(error, Text::tr("the image cannot be decoded"));
     }
     return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
 }

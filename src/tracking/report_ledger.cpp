@@ -17,7 +17,7 @@ void ReportLedger::takeRecord(std::uint32_t category, const _ast_datarecord_t &r
 
 namespace {
 
-const char *faultText(const korvane::modes::ModeSMessage &message)
+const char *faultOf(const korvane::modes::ModeSMessage &message)
 {
     using Fault = korvane::modes::ModeSMessage::Fault;
     switch (message.fault()) {
@@ -44,7 +44,7 @@ void ReportLedger::takeModeS(const korvane::modes::ModeSMessage &message, Report
         report.address = message.icaoAddr();
     }
     if (outcome == ReportOutcome::Malformed) {
-        report.fault = faultText(message);
+        report.fault = faultOf(message);
     }
     take(report);
 }

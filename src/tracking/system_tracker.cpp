@@ -2,6 +2,7 @@
 
 #include "geo/projector.h"
 #include "geo/wgs84.h"
+#include "sensors/sensor_type_text.h"
 
 #include <cmath>
 
@@ -38,7 +39,7 @@ void SystemTracker::comparePositions(const Track &track, const _ast_sacsic_t &co
     Q_EMIT message(LogLevel::Warning,
         tr("%1 Tracker: the WGS-84 and Cartesian positions of SAC/SIC %2/%3 lie %4 NM apart, see the settings \"Ignore "
            "WGS-84 positions\" and \"Ignore Cartesian positions\".")
-            .arg(SensorInfo::typeFullName(type()))
+            .arg(sensorTypeText(type()))
             .arg(code.sac)
             .arg(code.sic)
             .arg(distance / wgs84::MetresPerNauticalMile, 0, 'f', 1));

@@ -19,8 +19,8 @@ StatusReadOuts::StatusReadOuts(QStatusBar *bar, Projector *projector)
     : QObject(bar), m_projector(projector),
       m_cursor(addReadOut(bar, "8959599N 17959599W", tr("Position under the pointer"))),
       m_fromSensor(addReadOut(bar, "360° 9999.9 NM", tr("Pointer from the sensor: true bearing and distance"))),
-      m_scale(addReadOut(bar, "SCL 14000", tr("Scale, metres per pixel"))),
-      m_rotation(addReadOut(bar, "ROT +000180", tr("Rotation of the view, degrees clockwise")))
+      m_scale(addReadOut(bar, tr("SCL %1").arg(14000), tr("Scale, metres per pixel"))),
+      m_rotation(addReadOut(bar, tr("ROT %1%2").arg("+000", "180"), tr("Rotation of the view, degrees clockwise")))
 {
     m_fromSensor->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const char *const names[] = {"MSAW", "APW", "STCA"};
@@ -31,8 +31,9 @@ StatusReadOuts::StatusReadOuts(QStatusBar *bar, Projector *projector)
         m_alerts[i]->setText(names[i]);
         showAlertStatus(static_cast<int>(i) + 1, false);
     }
-    m_netsMark = addReadOut(bar, "NOT HEARD", {});
-    m_netsMark->setText(tr("NOT HEARD"));
+    const QString notHeard = tr("NOT HEARD");
+    m_netsMark = addReadOut(bar, notHeard, {});
+    m_netsMark->setText(notHeard);
     m_netsMark->setStyleSheet(urgencyStyle(Urgency::Caution));
     m_netsMark->hide();
     m_localClock = addReadOut(bar, "CEST 00:00:00", {});

@@ -64,7 +64,7 @@ void ThemeMenu::addThemes()
 {
     auto *group = new QActionGroup(m_menu);
     for (const QString &name : m_library.names()) {
-        QAction *action = m_menu->addAction(menuText(name), this, [this, name] { choose(name); });
+        QAction *action = m_menu->addAction(menuText(Theme::shownName(name)), this, [this, name] { choose(name); });
         action->setCheckable(true);
         action->setChecked(name == inForce().name());
         group->addAction(action);
@@ -180,7 +180,7 @@ bool ThemeMenu::saveAs(const QString &name)
     }
     m_library = ThemeLibrary();
     apply(theme);
-    Q_EMIT logMessage(LogLevel::Info, tr("Theme \"%1\" saved.").arg(theme.name()));
+    Q_EMIT logMessage(LogLevel::Info, tr("Theme \"%1\" saved.").arg(Theme::shownName(theme.name())));
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "app/app_paths.h"
 #include "app/config.h"
 #include "app/crash_handler.h"
+#include "app/languages.h"
 #include "engine/replay_speed.h"
 #include "tile_windows/tile_maps.h"
 #include "ui/main_window.h"
@@ -17,11 +18,9 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QLocale>
 #include <QLoggingCategory>
 #include <QSplashScreen>
 #include <QTimer>
-#include <QTranslator>
 
 #include <cstdio>
 #include <memory>
@@ -55,13 +54,6 @@ bool screenAvailable([[maybe_unused]] const QStringList &arguments)
 #else
     return true;
 #endif
-}
-
-void installTranslator(QTranslator &translator, const QString &file)
-{
-    if (translator.load(file, QString())) {
-        QApplication::installTranslator(&translator);
-    }
 }
 
 void showSplash(QSplashScreen &splash)
@@ -168,12 +160,7 @@ int runApplication(int argc, char *argv[], const CommandLine &commandLine, const
     Config config;
     config.load(AppPaths::configFile());
     applyWidgetStyle(config.displayStyle);
-
-    const QString language = config.displayLanguage.isEmpty() ? QLocale::system().name() : config.displayLanguage;
-    QTranslator toolkitTexts;
-    QTranslator ownTexts;
-    installTranslator(toolkitTexts, "qt_" + language);
-    installTranslator(ownTexts, "vyxdisplay_" + language);
+    Languages::install(config.displayLanguage);
 
     const ThemeLibrary themes;
     if (!commandLine.theme.isEmpty() && !themes.find(commandLine.theme)) {

@@ -168,10 +168,9 @@ Halves splitWithoutLetters(const QString &text)
     return commas == 1 && even ? halves : Halves{{}, {}, Fault::Ambiguous};
 }
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("CoordinateText", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(CoordinateText)
+};
 
 } // namespace
 
@@ -208,15 +207,17 @@ QString coordinateFaultText(CoordinateFault fault)
     case Fault::None:
         return {};
     case Fault::Ambiguous:
-        return tr("This could be read in several ways. Write 48.1234, 16.5678 or 48,1234; 16,5678; south and west with "
-                  "either a sign or a letter.");
+        return Text::tr(
+            "This could be read in several ways. Write 48.1234, 16.5678 or 48,1234; 16,5678; south and west with "
+            "either a sign or a letter.");
     case Fault::Range:
-        return tr("Latitudes end at 90°, longitudes at 180°, minutes and seconds before 60: such as 395427N1162317E.");
+        return Text::tr(
+            "Latitudes end at 90°, longitudes at 180°, minutes and seconds before 60: such as 395427N1162317E.");
     case Fault::Empty:
     case Fault::Notation:
         break;
     }
-    return tr("Write 395427N1162317E, 39°54'27\"N 116°23'17\"E, N39 54.45 E116 23.28 or 39.9076, 116.3881.");
+    return Text::tr("Write 395427N1162317E, 39°54'27\"N 116°23'17\"E, N39 54.45 E116 23.28 or 39.9076, 116.3881.");
 }
 
 std::optional<QList<GeoCoordinate>> coordinatesFromLines(const QString &text, QString *badLine)

@@ -186,7 +186,6 @@ void TestConfigWindow::applyWithoutEditsChangesNothing()
 void TestConfigWindow::everySettingHasAField()
 {
     const QHash<QString, QString> elsewhere{
-        {"displayLanguage", "there are no translations to choose from yet"},
         {"sensorDatabase", "Open and Save as of the sensor manager"},
     };
     const ConfigWindow window(Config(), nullptr);

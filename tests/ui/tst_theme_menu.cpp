@@ -124,7 +124,7 @@ void TestThemeMenu::settingsWindowFillsInTheThemeOfItsChoice()
     auto *settings = window->findChild<ConfigWindow *>();
     auto *theme = settings->findChild<QComboBox *>("displayTheme");
     theme->setCurrentText("Day");
-    Q_EMIT theme->textActivated("Day");
+    Q_EMIT theme->activated(theme->currentIndex());
     Config day;
     ThemeLibrary().find("Day")->applyTo(day);
     QCOMPARE(settings->findChild<ColorButton *>("trackSymbolColor")->color(), day.trackSymbolColor);

@@ -13,10 +13,9 @@ namespace korvane::astfile {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("CaptureReader", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(CaptureReader)
+};
 
 } // namespace
 
@@ -30,7 +29,7 @@ void CaptureReader::Closer::operator()(pcap *capture) const
 bool CaptureReader::openFile(const QString &fileName, RecFile::Format format)
 {
     if (format != RecFile::Pcap && format != RecFile::PcapNg) {
-        return fail(tr("This reader reads network captures only."));
+        return fail(Text::tr("This reader reads network captures only."));
     }
     auto source = openSource(fileName);
     if (!source) {
@@ -82,8 +81,8 @@ bool CaptureReader::openCapture(std::FILE *stream)
     m_linkType = pcap_datalink(m_capture.get());
     if (!linkTypeKnown(m_linkType)) {
         const char *name = pcap_datalink_val_to_name(m_linkType);
-        return fail(
-            tr("Link type %1 is not supported.").arg(name ? QString::fromLatin1(name) : QString::number(m_linkType)));
+        return fail(Text::tr("Link type %1 is not supported.")
+                        .arg(name ? QString::fromLatin1(name) : QString::number(m_linkType)));
     }
     m_stopped = false;
     return true;

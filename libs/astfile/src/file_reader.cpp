@@ -10,10 +10,9 @@ namespace korvane::astfile {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("FileReader", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(FileReader)
+};
 
 } // namespace
 
@@ -34,7 +33,7 @@ std::unique_ptr<FileReader> FileReader::create(const RecFile::Format &format, QS
         break;
     }
     if (error) {
-        *error = tr("%1 (format %2) cannot be read.").arg(RecFile::formatName(format), QString::number(format));
+        *error = Text::tr("%1 (format %2) cannot be read.").arg(RecFile::formatName(format), QString::number(format));
     }
     return nullptr;
 }
@@ -80,7 +79,7 @@ bool FileReader::reset()
 {
     m_lastError.clear();
     if (!m_open) {
-        return fail(tr("No file is open."));
+        return fail(Text::tr("No file is open."));
     }
     m_isHeld = false;
     m_atEnd = !rewindFile();
@@ -104,7 +103,8 @@ bool FileReader::seek(const QDateTime &time)
         return false;
     }
     m_isHeld = true;
-    return anyTime || (!m_index.isNull() && m_index.first().isValid()) || fail(tr("The recording has no time stamps."));
+    return anyTime || (!m_index.isNull() && m_index.first().isValid())
+        || fail(Text::tr("The recording has no time stamps."));
 }
 
 bool FileReader::positionBefore(qint64 timeMs)

@@ -12,10 +12,9 @@ namespace {
 
 constexpr qsizetype WriteSize = 64 * 1024;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("FileWriter", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(FileWriter)
+};
 
 } // namespace
 
@@ -35,7 +34,8 @@ std::unique_ptr<FileWriter> FileWriter::create(RecFile::Format format, QString *
         return std::make_unique<FinalFormatWriter>();
     default:
         if (error) {
-            *error = tr("%1 (format %2) cannot be written.").arg(RecFile::formatName(format), QString::number(format));
+            *error =
+                Text::tr("%1 (format %2) cannot be written.").arg(RecFile::formatName(format), QString::number(format));
         }
         return nullptr;
     }
@@ -60,7 +60,7 @@ bool FileWriter::openFile(const QString &fileName)
 bool FileWriter::writable()
 {
     if (!m_file.isOpen()) {
-        return fail(tr("No file is open."));
+        return fail(Text::tr("No file is open."));
     }
     return !m_broken;
 }

@@ -20,10 +20,9 @@ constexpr std::array<unsigned char, 4> Footer = {0xa5, 0xa5, 0xa5, 0xa5};
 constexpr int FramesToTry = 16;
 constexpr int MaxDaysApart = 27; // the day octet of some recorders is the day of the month
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("FinalFormatFraming", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(FinalFormatFraming)
+};
 
 std::size_t frameLength(Octets octets)
 {
@@ -72,17 +71,17 @@ void FinalFormatFraming::next(BufferedInput &input, Record *record)
     }
     const std::size_t length = frameLength(octets);
     if (octets.size() >= 2 && length < m_headerSize + Footer.size()) {
-        setError(record, tr("A frame's length field says %1.").arg(length));
+        setError(record, Text::tr("A frame's length field says %1.").arg(length));
         return;
     }
     octets = input.peek(length);
     if (octets.size() < std::max<std::size_t>(length, 2)) {
-        setError(record, tr("The file ends within a frame."));
+        setError(record, Text::tr("The file ends within a frame."));
         return;
     }
     const std::size_t bodyEnd = length - Footer.size();
     if (!std::equal(Footer.begin(), Footer.end(), octets.begin() + static_cast<std::ptrdiff_t>(bodyEnd))) {
-        setError(record, tr("A frame of %1 octets has no end mark.").arg(length));
+        setError(record, Text::tr("A frame of %1 octets has no end mark.").arg(length));
         return;
     }
     record->kind = DataPacket::Data;

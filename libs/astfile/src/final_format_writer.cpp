@@ -13,10 +13,9 @@ constexpr qsizetype HeaderSize = 8;
 constexpr qsizetype FooterSize = 4;
 constexpr qsizetype MaxFrame = 0xffff;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("FinalFormatWriter", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(FinalFormatWriter)
+};
 
 } // namespace
 
@@ -33,10 +32,10 @@ bool FinalFormatWriter::write(const QDateTime &timeStamp, const Endpoint &, cons
     }
     const qsizetype length = HeaderSize + payload.size() + FooterSize;
     if (length > MaxFrame) {
-        return fail(tr("A message of %1 octets does not fit into a frame.").arg(payload.size()));
+        return fail(Text::tr("A message of %1 octets does not fit into a frame.").arg(payload.size()));
     }
     if (!timeStamp.isValid()) {
-        return fail(tr("The time stamp cannot be stored."));
+        return fail(Text::tr("The time stamp cannot be stored."));
     }
     const QDateTime utc = timeStamp.toUTC();
     const qint64 day = utc.date().toJulianDay();

@@ -47,10 +47,9 @@ private:
     std::size_t m_position = 0;
 };
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("RecFile", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(RecFile)
+};
 
 // The magic numbers of network captures: micro- and nanoseconds in both octet orders, and the next generation's.
 RecFile::Format captureFormat(Octets octets)
@@ -152,8 +151,8 @@ RecFile::Format formatOf(OctetSource &source, RecFile::Format named, QString *re
     const RecFile::Format format =
         capture != RecFile::Unknown ? capture : framedFormat(beginning, source.modified(), named);
     if (format == RecFile::Unknown) {
-        *reason =
-            beginning.empty() ? tr("The file is empty.") : tr("Its contents are none of the known recording formats.");
+        *reason = beginning.empty() ? Text::tr("The file is empty.")
+                                    : Text::tr("Its contents are none of the known recording formats.");
     }
     return format;
 }
@@ -165,7 +164,7 @@ RecFile::Format RecFile::formatOfFile(const QString &fileName, QString *error, c
     QString reason;
     Format format = Unknown;
     if (QFileInfo::exists(fileName) && !QFileInfo(fileName).isFile()) {
-        reason = tr("It is no regular file."); // a pipe would keep whoever opens it waiting
+        reason = Text::tr("It is no regular file."); // a pipe would keep whoever opens it waiting
     } else if (const auto source = OctetSource::open(fileName, cancel, &reason)) {
         format = formatOf(*source, formatFromFileName(fileName), &reason);
     }

@@ -34,10 +34,9 @@ constexpr std::array<GpsFraming::Layout, 4> Layouts = {{
     {2200, 4, millisecondTime},
 }};
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("GpsFraming", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(GpsFraming)
+};
 
 } // namespace
 
@@ -72,7 +71,7 @@ void GpsFraming::next(BufferedInput &input, Record *record)
     Octets octets = input.peek(BlockHeaderSize);
     record->offset = input.position();
     if (m_cut) {
-        setError(record, tr("The file ends within a time stamp."));
+        setError(record, Text::tr("The file ends within a time stamp."));
         return;
     }
     if (octets.empty()) {
@@ -81,12 +80,12 @@ void GpsFraming::next(BufferedInput &input, Record *record)
     }
     const std::size_t length = blockLength(octets);
     if (length == 0 && octets.size() >= BlockHeaderSize) {
-        setError(record, tr("A data block's length field says %1.").arg(read16(octets, 1)));
+        setError(record, Text::tr("A data block's length field says %1.").arg(read16(octets, 1)));
         return;
     }
     octets = input.peek(length + m_layout->trailerSize);
     if (length == 0 || octets.size() < length) {
-        setError(record, tr("The file ends within a data block."));
+        setError(record, Text::tr("The file ends within a data block."));
         return;
     }
     record->kind = DataPacket::Data;

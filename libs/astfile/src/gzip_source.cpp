@@ -16,10 +16,9 @@ constexpr std::size_t WindowSize = 32768;
 constexpr qint64 FirstMarkSpacing = 1 << 20; // octets of contents: unpacked in a few milliseconds
 constexpr std::size_t MaxMarks = 512; // 16 MiB; with more, every other one goes
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("GzipSource", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(GzipSource)
+};
 
 } // namespace
 
@@ -35,7 +34,7 @@ GzipSource::GzipSource(std::unique_ptr<QFile> file) : OctetSource(std::move(file
     if (const quint32 seconds = qFromLittleEndian<quint32>(head.constData() + 4); seconds != 0) {
         m_packedTime = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
     }
-    m_done = inflateInit2(&m_stream, GzipWindowBits) != Z_OK && !fault(tr("Unpacking cannot be set up."));
+    m_done = inflateInit2(&m_stream, GzipWindowBits) != Z_OK && !fault(Text::tr("Unpacking cannot be set up."));
 }
 
 GzipSource::~GzipSource()
@@ -72,7 +71,7 @@ qint64 GzipSource::read(std::span<unsigned char> room)
 bool GzipSource::step()
 {
     if (m_stream.avail_in == 0 && !fill()) {
-        return m_error.isEmpty() && fault(tr("The compressed file ends early."));
+        return m_error.isEmpty() && fault(Text::tr("The compressed file ends early."));
     }
     switch (inflate(&m_stream, m_collected ? Z_BLOCK : Z_NO_FLUSH)) {
     case Z_OK:
@@ -82,8 +81,8 @@ bool GzipSource::step()
         nextMember();
         return false;
     default:
-        return fault(tr("The compressed file is damaged: %1.")
-                         .arg(m_stream.msg ? QString::fromLatin1(m_stream.msg) : tr("out of memory")));
+        return fault(Text::tr("The compressed file is damaged: %1.")
+                         .arg(m_stream.msg ? QString::fromLatin1(m_stream.msg) : Text::tr("out of memory")));
     }
 }
 
@@ -163,7 +162,7 @@ bool GzipSource::rewind()
     m_offset = 0;
     m_raw = m_done = false;
     return seekFile(0)
-        && (inflateReset2(&m_stream, GzipWindowBits) == Z_OK || fault(tr("Unpacking cannot be set up.")));
+        && (inflateReset2(&m_stream, GzipWindowBits) == Z_OK || fault(Text::tr("Unpacking cannot be set up.")));
 }
 
 bool GzipSource::resume(const SeekMarks::Mark &mark)
@@ -173,11 +172,11 @@ bool GzipSource::resume(const SeekMarks::Mark &mark)
     m_raw = true;
     m_done = false;
     if (!seekFile(mark.fileOffset - (mark.bits ? 1 : 0)) || inflateReset2(&m_stream, RawWindowBits) != Z_OK) {
-        return fault(tr("Unpacking cannot be taken up."));
+        return fault(Text::tr("Unpacking cannot be taken up."));
     }
     if (mark.bits != 0) {
         if (!fill()) {
-            return fault(tr("The compressed file ends early."));
+            return fault(Text::tr("The compressed file ends early."));
         }
         inflatePrime(&m_stream, mark.bits, *m_stream.next_in >> (8 - mark.bits));
         ++m_stream.next_in;
@@ -185,7 +184,7 @@ bool GzipSource::resume(const SeekMarks::Mark &mark)
     }
     const auto *window = reinterpret_cast<const Bytef *>(mark.window.constData());
     return inflateSetDictionary(&m_stream, window, static_cast<uInt>(mark.window.size())) == Z_OK
-        || fault(tr("Unpacking cannot be taken up."));
+        || fault(Text::tr("Unpacking cannot be taken up."));
 }
 
 bool GzipSource::skipTo(qint64 offset)
@@ -194,7 +193,7 @@ bool GzipSource::skipTo(qint64 offset)
     while (m_offset < offset) {
         const std::size_t step = std::min<std::size_t>(scratch.size(), static_cast<std::size_t>(offset - m_offset));
         if (read(std::span(scratch).first(step)) <= 0) {
-            return m_error.isEmpty() ? fault(tr("The compressed file ends early.")) : false;
+            return m_error.isEmpty() ? fault(Text::tr("The compressed file ends early.")) : false;
         }
     }
     return true;

@@ -15,10 +15,9 @@ constexpr qsizetype MaxPayload = 65507;
 constexpr std::uint16_t Ipv4HeaderSize = 20;
 constexpr std::uint16_t UdpHeaderSize = 8;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("PcapWriter", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(PcapWriter)
+};
 
 template <typename T>
 void appendLittle(QByteArray &octets, T value)
@@ -134,11 +133,11 @@ bool PcapWriter::write(
         return false;
     }
     if (payload.size() > MaxPayload) {
-        return fail(tr("A payload of %1 octets does not fit into a datagram.").arg(payload.size()));
+        return fail(Text::tr("A payload of %1 octets does not fit into a datagram.").arg(payload.size()));
     }
     const qint64 timeMs = timeStamp.isValid() ? timeStamp.toMSecsSinceEpoch() : -1;
     if (timeMs < 0 || timeMs / 1000 > std::numeric_limits<std::uint32_t>::max()) {
-        return fail(tr("The time stamp cannot be stored."));
+        return fail(Text::tr("The time stamp cannot be stored."));
     }
     const auto udpLength = static_cast<std::uint16_t>(UdpHeaderSize + payload.size());
     const std::uint32_t frameLength =

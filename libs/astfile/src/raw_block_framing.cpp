@@ -10,10 +10,9 @@ namespace {
 
 constexpr std::size_t HeaderSize = 3;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("RawBlockFraming", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(RawBlockFraming)
+};
 
 } // namespace
 
@@ -52,17 +51,17 @@ void RawBlockFraming::next(BufferedInput &input, Record *record)
         return;
     }
     if (octets.size() < HeaderSize) {
-        setError(record, tr("The file ends within a data block's header."));
+        setError(record, Text::tr("The file ends within a data block's header."));
         return;
     }
     const std::size_t length = blockLength(octets);
     if (length == 0) {
-        setError(record, tr("A data block's length field says %1.").arg(octets[1] << 8 | octets[2]));
+        setError(record, Text::tr("A data block's length field says %1.").arg(octets[1] << 8 | octets[2]));
         return;
     }
     octets = input.peek(length);
     if (octets.size() < length) {
-        setError(record, tr("The file ends within a data block of %1 octets.").arg(length));
+        setError(record, Text::tr("The file ends within a data block of %1 octets.").arg(length));
         return;
     }
     record->kind = DataPacket::Data;

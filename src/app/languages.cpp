@@ -1,0 +1,61 @@
+#include "app/languages.h"
+
+#include <QDir>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QMap>
+#include <QTranslator>
+
+#include <memory>
+
+namespace {
+
+const QString English = QStringLiteral("en");
+const QString OwnTexts = QStringLiteral("vyxdisplay_");
+const QString ResourceFolder = QStringLiteral(":/translations");
+
+// Of the folders the first wins that has the file, or one for the same language of no particular country.
+void installFirst(const QString &file, const QStringList &folders)
+{
+    auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
+    for (const QString &folder : folders) {
+        if (translator->load(file, folder)) {
+            QCoreApplication::installTranslator(translator.release());
+            return;
+        }
+    }
+}
+
+} // namespace
+
+QList<Languages::Language> Languages::available()
+{
+    QMap<QString, QString> names;
+    for (const QDir &folder : {QDir::current(), QDir(ResourceFolder)}) {
+        const QStringList files = folder.entryList({OwnTexts + "*.qm"}, QDir::Files);
+        for (const QString &file : files) {
+            const QString code = file.mid(OwnTexts.size()).chopped(3);
+            names.insert(code, QLocale(code).nativeLanguageName());
+        }
+    }
+    names.remove(English); // its file holds nothing but plurals
+    QList<Language> languages{{English, QStringLiteral("English")}};
+    for (auto name = names.cbegin(); name != names.cend(); ++name) {
+        languages.append({name.key(), name.value().isEmpty() ? name.key() : name.value()});
+    }
+    return languages;
+}
+
+QString Languages::systemLanguage()
+{
+    return QLocale::system().name();
+}
+
+void Languages::install(const QString &code)
+{
+    const QString language = code.isEmpty() ? systemLanguage() : code;
+    const QString toolkit = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    installFirst("qtbase_" + language, {QString(), toolkit, ResourceFolder});
+    installFirst("qt_" + language, {QString()});
+    installFirst(OwnTexts + language, {QString(), ResourceFolder});
+}
