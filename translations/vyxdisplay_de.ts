@@ -3205,7 +3205,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation>Einzelheiten</translation>
+        <translation>Details</translation>
     </message>
 </context>
 <context>
@@ -7028,7 +7028,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Language and region:</source>
-        <translation>S&amp;prache und Region:</translation>
+        <translation>Spra&amp;che und Region:</translation>
     </message>
     <message>
         <source>Such as en-US or de-DE.</source>
@@ -7044,7 +7044,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Map:</source>
-        <translation>Ka&amp;rte:</translation>
+        <translation>Kartenthe&amp;ma:</translation>
     </message>
     <message>
         <source>Roads alone</source>
@@ -7072,7 +7072,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation>S&amp;prache:</translation>
+        <translation>Spra&amp;che:</translation>
     </message>
     <message>
         <source>Such as en or de.</source>
@@ -7080,7 +7080,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Country:</source>
-        <translation>La&amp;nd:</translation>
+        <translation>&amp;Land:</translation>
     </message>
     <message>
         <source>Such as us or de.</source>
@@ -7100,7 +7100,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Chart:</source>
-        <translation>Kar&amp;te:</translation>
+        <translation>Kartenb&amp;latt:</translation>
     </message>
     <message>
         <source>VFR sectional</source>
@@ -7136,7 +7136,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Address:</source>
-        <translation>Adr&amp;esse:</translation>
+        <translation>UR&amp;L:</translation>
     </message>
     <message>
         <source>Such as https://tiles.example/{z}/{x}/{y}.png. Placeholders: {z}, {x}, {y}, {-y} (counted from the south), {quadkey} and {s} (a, b or c).</source>
@@ -7144,7 +7144,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Header:</source>
-        <translation>Kopf&amp;zeile:</translation>
+        <translation>Kopfze&amp;ile:</translation>
     </message>
     <message>
         <source>&quot;Name: value&quot;, sent with each request, for a key.</source>
@@ -7156,7 +7156,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Try</source>
-        <translation>Pr&amp;obieren</translation>
+        <translation>&amp;Probieren</translation>
     </message>
     <message>
         <source>Fetches one tile from this service with the values of this page.</source>
@@ -7196,7 +7196,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Server instead of the service&apos;s own:</source>
-        <translation>Server statt des vom Dienst vor&amp;gegebenen:</translation>
+        <translation>S&amp;erver statt des vom Dienst vorgegebenen:</translation>
     </message>
     <message>
         <source>Such as https://tiles.example:8443. Empty: the service&apos;s own.</source>
@@ -7216,7 +7216,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>Proxy hos&amp;t:</source>
-        <translation>Proxy-&amp;Host:</translation>
+        <translation>Proxy-Hos&amp;t:</translation>
     </message>
     <message>
         <source>Proxy &amp;port:</source>
@@ -7224,7 +7224,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>Proxy &amp;user:</source>
-        <translation>Proxy-Ben&amp;utzer:</translation>
+        <translation>Prox&amp;y-Benutzer:</translation>
     </message>
     <message>
         <source>Proxy pass&amp;word:</source>

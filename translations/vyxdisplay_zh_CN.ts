@@ -2710,7 +2710,7 @@ More: View, Input Health.</source>
     </message>
     <message>
         <source>North &amp;marker:</source>
-        <translation>正北标记(&amp;M)：</translation>
+        <translation>正北标记(&amp;J)：</translation>
     </message>
     <message>
         <source>North Marker Colour</source>
@@ -2762,7 +2762,7 @@ More: View, Input Health.</source>
     </message>
     <message>
         <source>&amp;Text and rose:</source>
-        <translation>文字和罗经圈(&amp;T)：</translation>
+        <translation>文字和罗经圈(&amp;F)：</translation>
     </message>
     <message>
         <source>Orientation Colour</source>
@@ -7153,7 +7153,7 @@ More: View, Input Health.</source>
     </message>
     <message>
         <source>&amp;Try</source>
-        <translation>测试(&amp;T)</translation>
+        <translation>测试(&amp;Y)</translation>
     </message>
     <message>
         <source>Fetches one tile from this service with the values of this page.</source>
@@ -7173,7 +7173,7 @@ More: View, Input Health.</source>
     </message>
     <message>
         <source>Di&amp;rectory of the files:</source>
-        <translation>文件目录(&amp;R)：</translation>
+        <translation>文件目录(&amp;J)：</translation>
     </message>
     <message>
         <source>Files before requests</source>
@@ -7209,11 +7209,11 @@ More: View, Input Health.</source>
     </message>
     <message>
         <source>Use a &amp;proxy</source>
-        <translation>使用代理(&amp;P)</translation>
+        <translation>使用代理(&amp;X)</translation>
     </message>
     <message>
         <source>Proxy hos&amp;t:</source>
-        <translation>代理主机(&amp;T)：</translation>
+        <translation>代理主机(&amp;G)：</translation>
     </message>
     <message>
         <source>Proxy &amp;port:</source>
@@ -7221,7 +7221,7 @@ More: View, Input Health.</source>
     </message>
     <message>
         <source>Proxy &amp;user:</source>
-        <translation>代理用户(&amp;U)：</translation>
+        <translation>代理用户(&amp;Q)：</translation>
     </message>
     <message>
         <source>Proxy pass&amp;word:</source>
@@ -7847,7 +7847,7 @@ Ask it from now on?</source>
     </message>
     <message>
         <source>Lea&amp;der lines:</source>
-        <translation>引线(&amp;D)：</translation>
+        <translation>引线(&amp;I)：</translation>
     </message>
     <message>
         <source>Leader Colour</source>

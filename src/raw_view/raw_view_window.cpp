@@ -168,9 +168,10 @@ void RawViewWindow::makeList()
     m_list->horizontalHeader()->setHighlightSections(false);
     m_list->horizontalHeader()->setStretchLastSection(true);
     const QFontMetrics figures(figureFont());
+    QHeaderView *header = m_list->horizontalHeader();
     for (int column = 0; column < RawRecordModel::ColumnCount; ++column) {
-        m_list->horizontalHeader()->resizeSection(
-            column, figures.horizontalAdvance(RawRecordModel::widestText(column)) + 2 * CellPadding);
+        const int content = figures.horizontalAdvance(RawRecordModel::widestText(column)) + 2 * CellPadding;
+        header->resizeSection(column, std::max(content, header->sectionSizeHint(column)));
     }
     connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
         if (m_list->currentIndex().isValid()) {
