@@ -13,13 +13,13 @@ if(PROJECT_IS_TOP_LEVEL)
     endif()
 endif()
 
-# vyx_install_library(<name> [PACKAGES <package arguments>...] [DATA <file>]): rules of target korvane_<name> in
-# libs/<name>, whose public headers are those below include/. PACKAGES: what a user of the installed package has to find
-# first, each one the arguments of a find_dependency in quotes. DATA: a built file that is installed to
-# share/korvane_<name> and that the package names in korvane_<name>_DATA_FILE. Built alone, the library's example is
-# compiled too.
+# vyx_install_library(<name> [PACKAGES <package arguments>...] [REQUIRES <modules>] [DATA <file>]): rules of target
+# korvane_<name> in libs/<name>, whose public headers are those below include/. PACKAGES: what a user of the installed
+# package has to find first, each one the arguments of a find_dependency in quotes; REQUIRES: the same as modules of
+# pkg-config. DATA: a built file that is installed to share/korvane_<name> and that the package names in
+# korvane_<name>_DATA_FILE, and pkg-config in the variable data_file. Built alone, the library's example is compiled too.
 function(vyx_install_library name)
-    cmake_parse_arguments(ARG "" "DATA" "PACKAGES" ${ARGN})
+    cmake_parse_arguments(ARG "" "DATA" "PACKAGES;REQUIRES" ${ARGN})
     set(target korvane_${name})
     add_library(korvane::${name} ALIAS ${target})
     set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
@@ -30,6 +30,7 @@ function(vyx_install_library name)
     install(TARGETS ${target} EXPORT ${target} ARCHIVE COMPONENT ${target} LIBRARY COMPONENT ${target})
     install(DIRECTORY include/${name} TYPE INCLUDE COMPONENT ${target} FILES_MATCHING PATTERN "*.h")
     _vyx_install_package_files(${target} "${ARG_PACKAGES}" "${ARG_DATA}")
+    _vyx_install_pkg_config_file(${target} "${ARG_REQUIRES}" "${ARG_DATA}")
     if(PROJECT_IS_TOP_LEVEL)
         _vyx_build_example(${target})
     endif()
@@ -57,6 +58,24 @@ function(_vyx_install_package_files target packages data)
         ${CMAKE_CURRENT_BINARY_DIR}/${target}-config-version.cmake DESTINATION ${folder} COMPONENT ${target})
     install(EXPORT ${target} FILE ${target}-targets.cmake NAMESPACE korvane:: DESTINATION ${folder}
         COMPONENT ${target})
+endfunction()
+
+# For those who build otherwise. The archive can be moved with the tree that it stands in.
+function(_vyx_install_pkg_config_file target requires data)
+    set(folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+    file(RELATIVE_PATH way /${folder} /)
+    string(REGEX REPLACE "/$" "" way ${way})
+    list(JOIN requires " " modules)
+    set(text "prefix=\${pcfiledir}/${way}\n")
+    if(data)
+        cmake_path(GET data FILENAME file)
+        string(APPEND text "data_file=\${prefix}/${CMAKE_INSTALL_DATADIR}/${target}/${file}\n")
+    endif()
+    string(APPEND text "\nName: ${target}\nDescription: ${PROJECT_DESCRIPTION}\nVersion: ${PROJECT_VERSION}\n"
+        "Requires: ${modules}\nCflags: -I\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}\n"
+        "Libs: -L\${prefix}/${CMAKE_INSTALL_LIBDIR} -l${target} -lstdc++ -lm\n")
+    file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc CONTENT "${text}" @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc DESTINATION ${folder} COMPONENT ${target})
 endfunction()
 
 function(_vyx_build_example target)

@@ -42,3 +42,14 @@ run(${CMAKE_COMMAND} -S ${SOURCE}/tests/install/consumer -B ${WORK}/consumer ${a
     -DCMAKE_PREFIX_PATH=${WORK}/elsewhere)
 run(${CMAKE_COMMAND} --build ${WORK}/consumer)
 run(${CMAKE_CTEST_COMMAND} --test-dir ${WORK}/consumer)
+
+# The same for those who build with pkg-config.
+find_program(PKG_CONFIG pkg-config)
+file(GLOB_RECURSE modules ${WORK}/elsewhere/*/korvane_asterix.pc)
+cmake_path(GET modules PARENT_PATH folder)
+foreach(library asterix astfile)
+    if(PKG_CONFIG)
+        run(sh -c "c++ -std=c++20 -fPIC ${SOURCE}/tests/install/consumer/${library}.cpp -o ${WORK}/${library}-program \
+            $(PKG_CONFIG_PATH=${folder} ${PKG_CONFIG} --cflags --libs korvane_${library}) && ${WORK}/${library}-program")
+    endif()
+endforeach()
