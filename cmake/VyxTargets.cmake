@@ -22,6 +22,20 @@ function(vyx_folder_library folder)
     endif()
 endfunction()
 
+# vyx_program(<target>): a program that is installed, and that the man page, the completions and the packages know. What is
+# built finds libraries in lib/ beside bin/, where a portable tree has copies of them, those that the libraries need
+# themselves included; what is installed has the system's.
+function(vyx_program target)
+    set_target_properties(${target} PROPERTIES BUILD_RPATH "$ORIGIN/../lib")
+    target_link_options(${target} PRIVATE -Wl,--disable-new-dtags)
+    install(TARGETS ${target} RUNTIME COMPONENT programs)
+    set_property(GLOBAL APPEND PROPERTY VYX_PROGRAMS ${target})
+    if(NOT TARGET programs)
+        add_custom_target(programs)
+    endif()
+    add_dependencies(programs ${target})
+endfunction()
+
 # Shares one precompiled set of headers among the targets of a kind: core (Qt Core and Gui) or widgets.
 # A folder that asks for it is compiled several sources at a time where nobody works on single ones. Its sources then
 # share one anonymous namespace.

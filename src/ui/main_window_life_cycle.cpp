@@ -192,7 +192,7 @@ void MainWindow::loadSensorDatabase()
 
 void MainWindow::loadAircraftDatabase()
 {
-    const QFileInfo file(AppPaths::exeDir() + "/../share/korvane_airdb/airdb.dat");
+    const QFileInfo file(AppPaths::exeDir() + "/../share/vyxdisplay/airdb.dat");
     korvane::airdb::LibAirDB database;
     if (!database.loadFromDataFile(file)) {
         showLog(LogLevel::Warning, tr("Cannot load the aircraft database: %1").arg(database.lastError()));

@@ -1,6 +1,7 @@
 #include "vyxdisplay/command_line.h"
 
 #include "app/app_identity.h"
+#include "maps/map_file.h"
 #include "vyxdisplay/command_line_values.h"
 
 #include <QGuiApplication>
@@ -90,8 +91,9 @@ private:
         m_option = equals < 0 ? argument : argument.left(equals);
         m_inlineValue = equals < 0 ? std::nullopt : std::optional(argument.mid(equals + 1));
         const auto name = m_option.mid(m_option.startsWith(QLatin1String("--")) ? 2 : 1);
-        if (!argument.startsWith(QLatin1Char('-')) && !argument.isEmpty() && !m_result.input) {
-            takeRecording(argument);
+        const bool hasFile = m_result.input || !m_result.map.isEmpty();
+        if (!argument.startsWith(QLatin1Char('-')) && !argument.isEmpty() && !hasFile) {
+            takeFile(argument);
         } else if (name.isEmpty() || !argument.startsWith(QLatin1Char('-'))) {
             m_error = CommandLine::tr("unexpected argument '%1'").arg(argument);
         } else if (isToolkitOption(name)) {
@@ -101,9 +103,13 @@ private:
         }
     }
 
-    // A recording named by itself is played at once.
-    void takeRecording(const QString &path)
+    // A recording named by itself is played at once; a map opens in the editor.
+    void takeFile(const QString &path)
     {
+        if (MapFile::formatFromFileName(path) != MapFile::Unknown) {
+            m_result.map = path;
+            return;
+        }
         m_result.input = fileInput(path, &m_error);
         m_result.start = true;
         m_recordingAlone = true;
@@ -137,7 +143,7 @@ private:
         if (m_option == QLatin1String("--demo")) {
             m_result.demo = optionalValue();
         } else if (m_option == QLatin1String("--input")) {
-            m_result.input = parsedValue(parsedInput);
+            takeInput();
         } else if (m_option == QLatin1String("--sensor")) {
             takeSensor();
         } else if (m_option == QLatin1String("--processor")) {
@@ -160,6 +166,15 @@ private:
             return false;
         }
         return true;
+    }
+
+    void takeInput()
+    {
+        const auto text = value();
+        m_result.chooseRecording = text == QLatin1String("file");
+        if (m_error.isEmpty() && !m_result.chooseRecording) {
+            m_result.input = parsedValue(text, parsedInput);
+        }
     }
 
     void takeSensor()
@@ -226,7 +241,7 @@ std::optional<CommandLine> CommandLine::parse(const QStringList &arguments, QStr
 
 QString CommandLine::helpText()
 {
-    return tr("Usage: vyxdisplay [options] [RECORDING]\n"
+    return tr("Usage: vyxdisplay [options] [RECORDING|MAP]\n"
               "Air-traffic surveillance display.\n"
               "\n"
               "  --demo [SCENARIO]     show simulated traffic, with settings of its own;\n"
@@ -236,7 +251,7 @@ QString CommandLine::helpText()
               "                          udp:PORT\n"
               "                          udp:GROUP:PORT[@INTERFACE]\n"
               "                          serial:DEVICE[:BAUD]\n"
-              "                          file:PATH\n"
+              "                          file:PATH, or file to be asked for a recording\n"
               "  --sensor TYPE:LAT,LON[:NAME]\n"
               "                        in place of the configured sensor, for this run;\n"
               "                        TYPE is radar, adsb, mlat, sdps or smr, the location\n"
@@ -255,6 +270,7 @@ QString CommandLine::helpText()
               "  --ignore-wgs84        place MLAT and SDPS tracks by their Cartesian positions\n"
               "  RECORDING             play that file as what it holds, as\n"
               "                        --input file:RECORDING --sensor auto --start\n"
+              "  MAP                   open that map (.map, .mapx, .xml) in the map editor\n"
               "  --replay-speed SPEED  of recordings: 0.5x, 1x, 2x, 4x, 8x or Max\n"
               "  --start               open the input at once\n"
               "  --theme NAME          show that theme in this run: Classic, Night, Dusk, Day\n"

@@ -54,6 +54,8 @@ public:
     QString replaySpeed; // name of the speed, or empty
     std::optional<QString> demo; // scenario, file or "list"; empty: the one shown first
     std::optional<Input> input;
+    bool chooseRecording = false; // which one, the window asks
+    QString map; // path of the map to be opened in the editor, or empty
     std::optional<Sensor> sensor;
     bool sensorAuto = false; // the one that the data tell
     std::optional<Processor> processor;

@@ -18,6 +18,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QIcon>
 #include <QLoggingCategory>
 #include <QSplashScreen>
 #include <QTimer>
@@ -88,6 +89,16 @@ void openInput(const CommandLine &commandLine, MainWindow &window)
     }
 }
 
+void openFiles(const CommandLine &commandLine, MainWindow &window)
+{
+    if (!commandLine.map.isEmpty()) {
+        window.launchStaticMapEditor(commandLine.map, MapFile::Unknown);
+    }
+    if (commandLine.chooseRecording) {
+        QTimer::singleShot(0, &window, &MainWindow::openRecordingFile); // its dialog has an event loop of its own
+    }
+}
+
 // The demonstration begins dark, as long as nobody has chosen another theme for it.
 void setUpLook(const CommandLine &commandLine, const ThemeLibrary &themes, MainWindow &window)
 {
@@ -143,6 +154,7 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
     if (demo || commandLine.start) {
         openInput(commandLine, window);
     }
+    openFiles(commandLine, window);
     if (commandLine.exitAfter) {
         QTimer::singleShot(*commandLine.exitAfter, &window, &MainWindow::requestExit);
     }
@@ -154,6 +166,8 @@ int runApplication(int argc, char *argv[], const CommandLine &commandLine, const
 {
     QApplication application(argc, argv);
     setApplicationIdentity();
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/application/vyxdisplay.svg")));
+    QApplication::setDesktopFileName(QStringLiteral("com.korvane.VyxDisplay")); // whose icon Wayland shows
     if (!debugModeMarked()) {
         QLoggingCategory::setFilterRules("default.debug=false");
     }

@@ -142,6 +142,15 @@ private Q_SLOTS:
         QVERIFY(!parsed({"--input", "file:a.pcap"}).sensorAuto);
     }
 
+    void opensWhatADesktopHandsOver()
+    {
+        const auto map = parsed({"charts/area.map"});
+        QCOMPARE(map.map, QStringLiteral("charts/area.map"));
+        QVERIFY(!map.input && !map.start);
+        const auto chosen = parsed({"--input", "file"});
+        QVERIFY(chosen.chooseRecording && !chosen.input);
+    }
+
     void demoTakesNoOptionForItsScenario()
     {
         for (const char *scenario : {"--demo busy.json", "--demo=busy.json", "--start --demo busy.json --start"}) {
@@ -163,6 +172,7 @@ private Q_SLOTS:
         row("unknown option", {"--frobnicate"}, "'--frobnicate'");
         row("one dash too few", {"-start"}, "'-start'");
         row("second recording", {"a.pcap", "b.pcap"}, "'b.pcap'");
+        row("recording behind a map", {"a.map", "b.pcap"}, "'b.pcap'");
         row("recording beside a demo", {"--demo", "a", "b.pcap"}, "--demo");
         row("no speed", {"--replay-speed", "3x"}, "'3x'");
         row("no size", {"--size", "800"}, "'800'");
