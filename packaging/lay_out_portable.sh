@@ -14,7 +14,7 @@ if [ -e "$directory" ] && [ -n "$(ls -A "$directory")" ] && [ ! -e "$directory/$
 fi
 mkdir -p "$directory"
 cd "$directory"
-rm -rf documents lib licences plugins share
+rm -rf documents lib licences plugins share translations
 mkdir -p bin/data lib plugins licences
 
 # The programs as they are built: those that are installed no longer look for libraries beside themselves.
@@ -29,13 +29,17 @@ mv share/doc/vyxdisplay documents
 find share -mindepth 1 -maxdepth 1 ! -name vyxdisplay -exec rm -r {} +
 
 query=$(command -v qtpaths6 || command -v qmake6 || echo /usr/lib/qt6/bin/qtpaths)
-plugins=$("$query" --query QT_INSTALL_PLUGINS 2>/dev/null || "$query" -query QT_INSTALL_PLUGINS)
+qt() { "$query" --query "$1" 2>/dev/null || "$query" -query "$1"; } # as qtpaths or as qmake takes it
+plugins=$(qt QT_INSTALL_PLUGINS)
 for kind in iconengines imageformats platforminputcontexts platforms sqldrivers/libqsqlite.so styles tls \
     wayland-decoration-client wayland-graphics-integration-client wayland-shell-integration xcbglintegrations; do
     [ -e "$plugins/$kind" ] || continue
     mkdir -p "plugins/$(dirname "$kind")"
     cp -rL "$plugins/$kind" "plugins/$kind"
 done
+# The toolkit's own texts in other languages.
+mkdir translations
+cp "$(qt QT_INSTALL_TRANSLATIONS)"/qtbase_*.qm translations 2>/dev/null || true
 # Reference systems of imported maps, which their library looks for beside itself.
 if [ -e /usr/share/proj/proj.db ]; then
     install -D -m 644 -t share/proj /usr/share/proj/proj.db
