@@ -16,6 +16,7 @@
 namespace {
 
 constexpr qsizetype ReceiveBufferSize = 65536; // grows for larger chunks
+constexpr int RetryIntervalMs = 2000;
 
 // The port as the system lists it.
 std::optional<QSerialPortInfo> listedPort(const QString &portName)
@@ -109,6 +110,7 @@ Input::Opening SerialInput::open()
     connect(&m_port, &QSerialPort::readyRead, this, &SerialInput::read);
     // Queued: the port closes itself no sooner than its own notification is through.
     connect(&m_port, &QSerialPort::errorOccurred, this, &SerialInput::procError, Qt::QueuedConnection);
+    connect(&m_retryTimer, &QTimer::timeout, this, &SerialInput::reopen);
     return Opening::Opened;
 }
 
@@ -146,19 +148,39 @@ void SerialInput::read()
     }
 }
 
-// An unplugged adapter never delivers again, and would be found readable for ever. The input is closed so that the
-// operator sees it and can open it again.
+// An unplugged adapter never delivers again, and would be found readable for ever: the port is closed until it is back.
 void SerialInput::procError()
 {
-    if (m_port.error() == QSerialPort::ResourceError || m_port.error() == QSerialPort::ReadError) {
-        reportFault(tr("The serial device is gone: %1").arg(m_port.errorString()));
-        Q_EMIT ended();
+    const bool gone = m_port.error() == QSerialPort::ResourceError || m_port.error() == QSerialPort::ReadError;
+    if (!gone || !m_port.isOpen()) {
+        return;
     }
+    Q_EMIT message(LogLevel::Warning,
+        tr("The serial device is gone: %1. It is opened again when it is back.").arg(m_port.errorString()));
+    m_port.close();
+    m_retryTimer.start(RetryIntervalMs);
+}
+
+// Silent until it succeeds: a device that has just been plugged in may not be accessible yet.
+void SerialInput::reopen()
+{
+    const auto port = findPort(m_config.inputSerialDevice);
+    if (!port) {
+        return;
+    }
+    m_port.setPortName(port->path);
+    if (!m_port.open(QIODevice::ReadOnly)) {
+        return;
+    }
+    m_retryTimer.stop();
+    applySettings();
+    Q_EMIT message(LogLevel::Info, tr("The serial device %1 is back.").arg(port->name));
 }
 
 void SerialInput::close()
 {
     Q_EMIT message(LogLevel::Info, tr("Close async serial device"));
+    m_retryTimer.stop();
     m_port.disconnect(this);
     m_port.close();
 }

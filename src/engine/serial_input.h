@@ -5,10 +5,12 @@
 
 #include <QByteArray>
 #include <QSerialPort>
+#include <QTimer>
 
 class InputRecorder;
 
-// A serial line. It is not framed: what has arrived at once is one message.
+// A serial line. It is not framed: what has arrived at once is one message. A device that is unplugged leaves the input
+// open, and is opened again when it is back.
 class SerialInput final : public Input {
     Q_OBJECT
 
@@ -23,11 +25,13 @@ public:
 
 private:
     void applySettings();
+    void reopen();
     void read();
     void procError();
 
     const Config m_config;
     InputRecorder *const m_recorder;
     QSerialPort m_port;
+    QTimer m_retryTimer{this}; // runs while the device is gone
     QByteArray m_receiveBuffer; // reused by every chunk
 };

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -18,6 +19,30 @@ constexpr qint64 BacklogOctets = 512 * 1024;
 constexpr qint64 BacklogWarningPeriodMs = 10000;
 constexpr int DatagramsPerClockLook = 64;
 constexpr qint64 DrainBudgetMs = 50;
+constexpr int InterfaceIntervalMs = 2000;
+
+bool isUsable(const QNetworkInterface &candidate)
+{
+    constexpr QNetworkInterface::InterfaceFlags Needed = QNetworkInterface::IsUp | QNetworkInterface::IsRunning;
+    return (candidate.flags() & Needed) == Needed;
+}
+
+// Number and IPv4 addresses of an interface, of all of them without a name; empty while there is none that a group
+// could be received on. Where this has changed, a membership may be lost.
+QString interfaceState(const QString &name)
+{
+    const QList<QNetworkInterface> candidates =
+        name.isEmpty() ? QNetworkInterface::allInterfaces() : QList{QNetworkInterface::interfaceFromName(name)};
+    QStringList parts;
+    for (const QNetworkInterface &candidate : candidates) {
+        for (const QNetworkAddressEntry &entry : candidate.addressEntries()) {
+            if (isUsable(candidate) && entry.ip().protocol() == QAbstractSocket::IPv4Protocol) {
+                parts += QStringLiteral("%1/%2").arg(candidate.index()).arg(entry.ip().toString());
+            }
+        }
+    }
+    return parts.join(' ');
+}
 
 } // namespace
 
@@ -41,9 +66,15 @@ UdpInput::~UdpInput() = default;
 
 Input::Opening UdpInput::open()
 {
-    return std::all_of(m_sources.begin(), m_sources.end(), [this](Source &source) { return openSource(source); })
-        ? Opening::Opened
-        : Opening::Failed;
+    if (!std::all_of(m_sources.begin(), m_sources.end(), [this](Source &source) { return openSource(source); })) {
+        return Opening::Failed;
+    }
+    if (std::any_of(
+            m_sources.begin(), m_sources.end(), [](const Source &source) { return source.address.multicast; })) {
+        connect(&m_interfaceTimer, &QTimer::timeout, this, &UdpInput::lookAtInterfaces);
+        m_interfaceTimer.start(InterfaceIntervalMs);
+    }
+    return Opening::Opened;
 }
 
 quint16 UdpInput::port(int source) const
@@ -118,27 +149,86 @@ bool UdpInput::bindSocket(Source &source)
     return false;
 }
 
-bool UdpInput::joinGroup(const Source &source)
+bool UdpInput::joinGroup(Source &source)
 {
-    const Address &address = source.address;
-    const QString group = address.group.toString();
-    const QString lanInterface = address.lanInterface.humanReadableName();
+    Address &address = source.address;
+    const QString name = address.lanInterface.name();
+    if (!name.isEmpty()) { // as it is now: it may have got its address since
+        address.lanInterface = QNetworkInterface::interfaceFromName(name);
+    }
+    source.joinedOn = interfaceState(name);
     if (source.socket->joinMulticastGroup(address.group, address.lanInterface)) {
         Q_EMIT message(LogLevel::Info,
-            tr("Start UDP multicast input %1:%2 on interface %3").arg(group).arg(address.port).arg(lanInterface));
+            tr("Start UDP multicast input %1:%2 on interface %3")
+                .arg(address.group.toString())
+                .arg(address.port)
+                .arg(address.lanInterface.humanReadableName()));
         return true;
     }
+    tellWhyNotJoined(address, source.socket->errorString());
+    return false;
+}
+
+void UdpInput::tellWhyNotJoined(const Address &address, const QString &error)
+{
+    const QString group = address.group.toString();
+    const QString lanInterface = address.lanInterface.humanReadableName();
     if (!address.group.isMulticast()) {
         reportFault(tr("%1 is no multicast group.").arg(group));
     } else if (!address.lanInterface.isValid()) {
         reportFault(tr("The network interface for the multicast group %1 is not there.").arg(group));
     } else {
-        reportFault(tr("The multicast group %1 cannot be joined on interface %2: %3")
-                        .arg(group, lanInterface, source.socket->errorString()));
+        reportFault(tr("The multicast group %1 cannot be joined on interface %2: %3").arg(group, lanInterface, error));
     }
     Q_EMIT message(
         LogLevel::Info, tr("Failed to join UDP multicast group %1 on interface %2").arg(group, lanInterface));
-    return false;
+}
+
+void UdpInput::lookAtInterfaces()
+{
+    for (Source &source : m_sources) {
+        if (source.address.multicast) {
+            lookAtInterface(source);
+        }
+    }
+}
+
+// An interface that goes and comes between two looks keeps its memberships, unless it is another one by then.
+void UdpInput::lookAtInterface(Source &source)
+{
+    Address &address = source.address;
+    const QString name = address.lanInterface.name();
+    const QString state = interfaceState(name);
+    if (state.isEmpty()) {
+        loseInterface(source, tr("it is down"));
+        return;
+    }
+    if (state == source.joinedOn && !source.interfaceLost) {
+        return;
+    }
+    source.socket->leaveMulticastGroup(address.group, address.lanInterface); // where the system still knows of it
+    if (!name.isEmpty()) {
+        address.lanInterface = QNetworkInterface::interfaceFromName(name);
+    }
+    if (!source.socket->joinMulticastGroup(address.group, address.lanInterface)) {
+        loseInterface(source, source.socket->errorString());
+        return;
+    }
+    source.joinedOn = state;
+    source.interfaceLost = false;
+    Q_EMIT message(LogLevel::Info,
+        tr("The multicast group %1 has been joined again on interface %2.")
+            .arg(address.group.toString(), address.lanInterface.humanReadableName()));
+}
+
+void UdpInput::loseInterface(Source &source, const QString &reason)
+{
+    if (std::exchange(source.interfaceLost, true)) {
+        return;
+    }
+    Q_EMIT message(LogLevel::Warning,
+        tr("The network interface %1 brings nothing: %2. The multicast group %3 is joined again when it is back.")
+            .arg(source.address.lanInterface.humanReadableName(), reason, source.address.group.toString()));
 }
 
 // Runs when the socket becomes readable. While a drain is to be continued anyway there is nothing to do: a second one
@@ -231,6 +321,7 @@ void UdpInput::warnOfBacklog(Source &source)
 
 void UdpInput::close()
 {
+    m_interfaceTimer.stop();
     Q_EMIT message(LogLevel::Info, tr("Stop UDP input"));
     for (Source &source : m_sources) {
         closeSource(source);

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QHostAddress>
 #include <QNetworkInterface>
+#include <QTimer>
 
 #include <functional>
 #include <vector>
@@ -13,7 +14,8 @@ class Config;
 class InputRecorder;
 class QUdpSocket;
 
-// One or two UDP ports. Every datagram is a message.
+// One or two UDP ports. Every datagram is a message. A multicast group is joined again when its network interface has
+// come back or has changed its address: the system forgets the membership together with the interface.
 class UdpInput final : public Input {
     Q_OBJECT
 
@@ -32,6 +34,9 @@ public:
     // 0.
     quint16 port(int source) const;
 
+    // Otherwise every two seconds, while there is a group.
+    void lookAtInterfaces();
+
     // Milliseconds of a clock that never goes back, from any origin: by it the backlog warning is limited.
     void setMonotonicClock(std::function<qint64()> clock) { m_monotonicClock = std::move(clock); }
 
@@ -48,11 +53,16 @@ private:
         int endpoint = 0;
         bool drainScheduled = false; // continues on the next turn of the event loop
         quint32 drops = 0; // at the last backlog warning
+        QString joinedOn; // the state of its network interface when its group was joined
+        bool interfaceLost = false; // and told so
     };
 
     bool openSource(Source &source);
     bool bindSocket(Source &source);
-    bool joinGroup(const Source &source);
+    bool joinGroup(Source &source);
+    void tellWhyNotJoined(const Address &address, const QString &error);
+    void lookAtInterface(Source &source);
+    void loseInterface(Source &source, const QString &reason);
     void closeSource(Source &source);
     void procReadable(Source &source);
     void drain(Source &source);
@@ -66,4 +76,5 @@ private:
     QByteArray m_receiveBuffer; // reused by every datagram
     std::function<qint64()> m_monotonicClock;
     qint64 m_nextBacklogWarningMs;
+    QTimer m_interfaceTimer{this}; // a child, so that it is on the thread of the input
 };

@@ -1,7 +1,11 @@
+#include "engine/serial_input.h"
 #include "engine_rig.h"
 #include "test_program.h"
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <pty.h>
 #include <unistd.h>
@@ -59,14 +63,35 @@ private Q_SLOTS:
         QCOMPARE(rig.opened.size(), 2);
     }
 
-    void aDeviceThatIsGoneClosesTheInput()
+    // By way of a link, as an adapter is named by its serial number.
+    void aDeviceThatIsPluggedInAgainIsOpened()
     {
+        const QTemporaryDir directory;
+        const QString link = directory.filePath("adapter");
+        QVERIFY(QFile::link(m_device, link));
+        m_device = link;
         EngineRig rig;
         open(rig);
         closeFarEnd();
-        QTRY_COMPARE(rig.closed, QList<QVariantList>({{2ULL}}));
-        QCOMPARE(rig.faults.size(), 1);
-        QCOMPARE(rig.log.filter("W The serial device is gone: ").size(), 1);
+        const auto lines = [&rig](const QString &text) { return rig.log.filter(text).size(); };
+        QTRY_COMPARE(lines("W The serial device is gone: "), 1);
+        QVERIFY(QFile::remove(link));
+        auto *retry = rig.engine.findChild<SerialInput *>()->findChild<QTimer *>();
+        QVERIFY(retry->isActive());
+        retry->setInterval(10);
+        const auto said = rig.log.size();
+        for (int turn = 0; turn < 5; ++turn) { // nothing is said while it is away
+            QTest::qWait(10);
+        }
+        QCOMPARE(rig.log.size(), said);
+
+        init();
+        QVERIFY(QFile::link(m_device, link));
+        QTRY_COMPARE(lines("I The serial device " + link + " is back."), 1);
+        send(plotBlock(1));
+        QTRY_COMPARE(rig.tracks().size(), 1);
+        QCOMPARE(rig.closed.size() + rig.faults.size(), 0);
+        QVERIFY(!retry->isActive());
     }
 
     void whatIsNoLineFails()

@@ -5,6 +5,35 @@
 #include <QThread>
 
 #include <algorithm>
+#include <cstdlib>
+
+#ifdef Q_OS_LINUX
+#include <fcntl.h>
+#include <sched.h>
+#include <unistd.h>
+
+// In its lifetime this thread, and the programs that it runs, see a network without any interface that works.
+class OwnNetwork final {
+public:
+    OwnNetwork() : m_before(open("/proc/thread-self/ns/net", O_RDONLY | O_CLOEXEC)), m_made(unshare(CLONE_NEWNET) == 0)
+    {
+    }
+    ~OwnNetwork()
+    {
+        if (m_made) {
+            setns(m_before, CLONE_NEWNET);
+        }
+        close(m_before);
+    }
+
+    bool made() const { return m_made; }
+    static bool run(const QByteArray &command) { return std::system((command + " 2>/dev/null").constData()) == 0; }
+
+private:
+    int m_before;
+    bool m_made;
+};
+#endif
 
 // The sockets, over the loopback interface.
 class TestDataEngineUdp final : public QObject {
@@ -67,6 +96,63 @@ private Q_SLOTS:
         send(plotBlock(1), rig.port(), QHostAddress("239.255.77.1"));
         QTRY_COMPARE(rig.tracks().size(), 1);
         QCOMPARE(rig.northCrossed.size(), 0);
+    }
+
+    // In a network of its own, with an interface that is taken away, made anew and given another address.
+    void aGroupIsJoinedAgainWhenItsInterfaceIsBack()
+    {
+#ifdef Q_OS_LINUX
+        const OwnNetwork network;
+        if (!network.made() || !OwnNetwork::run("ip link add near type veth peer name far")) {
+            QSKIP("needs the right to make network interfaces");
+        }
+        const auto makeInterface = [](const char *address) {
+            OwnNetwork::run("ip link add near type veth peer name far");
+            return OwnNetwork::run(QByteArray("ip addr add ") + address + "/24 dev near")
+                && OwnNetwork::run("ip link set near up && ip link set far up");
+        };
+        QVERIFY(makeInterface("10.7.7.1"));
+        EngineRig rig;
+        rig.config.inputUdpMulticast1 = true;
+        rig.config.inputUdpMcastAddress1 = QHostAddress("239.255.77.1");
+        rig.config.inputUdpMcastLanInterface1 = QNetworkInterface::interfaceFromName("near");
+        rig.open();
+        QCOMPARE(rig.opened.size(), 1);
+        auto *input = rig.engine.findChild<UdpInput *>();
+        quint8 track = 0;
+        const auto received = [&] {
+            QUdpSocket sender;
+            sender.bind(QHostAddress::AnyIPv4, 0);
+            sender.setMulticastInterface(QNetworkInterface::interfaceFromName("near"));
+            sender.writeDatagram(plotBlock(++track), QHostAddress("239.255.77.1"), rig.port());
+            EngineRig::turnEventLoop();
+            return rig.tracks().size();
+        };
+        QCOMPARE(received(), 1);
+
+        const auto look = [&](int lost, int joined) {
+            for (int time = 0; time < 3; ++time) {
+                input->lookAtInterfaces();
+            }
+            return rig.log.filter("W The network interface near brings nothing").size() == lost
+                && rig.log.filter("I The multicast group 239.255.77.1 has been joined again").size() == joined;
+        };
+        QVERIFY(look(0, 0));
+        QVERIFY(OwnNetwork::run("ip link del near"));
+        QVERIFY(look(1, 0));
+        QVERIFY(makeInterface("10.7.7.1"));
+        QCOMPARE(received(), 1);
+        QVERIFY(look(1, 1));
+        QCOMPARE(received(), 2);
+        QVERIFY(OwnNetwork::run("ip addr flush dev near && ip addr add 10.8.8.1/24 dev near"));
+        QVERIFY(look(1, 2));
+        QCOMPARE(received(), 3);
+        QVERIFY(OwnNetwork::run("ip link set far down")); // the cable
+        QVERIFY(look(2, 2));
+        QVERIFY(OwnNetwork::run("ip link set far up"));
+        QVERIFY(look(2, 3));
+        QCOMPARE(received(), 4);
+#endif
     }
 
     // The second socket fails; the first must not stay bound.
