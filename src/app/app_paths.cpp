@@ -4,19 +4,26 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 namespace {
 
-QString &profileDirectory()
+QString &profileName()
 {
-    static QString directory;
-    return directory;
+    static QString name;
+    return name;
 }
 
 QString lowerCasedApplicationName()
 {
     return QCoreApplication::applicationName().toLower();
+}
+
+QString profileDirectory()
+{
+    const QString &profile = profileName();
+    return profile.isEmpty() ? QString() : QLatin1Char('/') + lowerCasedApplicationName() + QLatin1Char('-') + profile;
 }
 
 QString created(const QString &directory)
@@ -28,7 +35,7 @@ QString created(const QString &directory)
 
 QString locationOf(QStandardPaths::StandardLocation location)
 {
-    const QString &profile = profileDirectory();
+    const QString profile = profileDirectory();
     if (AppPaths::isPortable()) {
         return created(AppPaths::exeDir() + QStringLiteral("/data/") + QCoreApplication::applicationName() + profile);
     }
@@ -106,6 +113,31 @@ QString AppPaths::resolvePath(const QString &path)
 
 void AppPaths::setProfile(const QString &name)
 {
-    profileDirectory() =
-        name.isEmpty() ? QString() : QLatin1Char('/') + lowerCasedApplicationName() + QLatin1Char('-') + name;
+    profileName() = name;
+}
+
+QString AppPaths::profile()
+{
+    return profileName();
+}
+
+bool AppPaths::isProfileName(const QString &name)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\A(?!\\.*\\z)[A-Za-z0-9._-]{1,64}\\z"));
+    return pattern.match(name).hasMatch();
+}
+
+QStringList AppPaths::profiles()
+{
+    QString parent = configDir();
+    parent.chop(profileDirectory().size());
+    const QString prefix = lowerCasedApplicationName() + QLatin1Char('-');
+    QStringList names;
+    for (const QString &directory : QDir(parent).entryList({prefix + QLatin1Char('*')}, QDir::Dirs, QDir::Name)) {
+        const QString name = directory.mid(prefix.size());
+        if (isProfileName(name) && name != QLatin1String("demo")) {
+            names += name;
+        }
+    }
+    return names;
 }

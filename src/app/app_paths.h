@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 // Where the files of this user are. An installation is portable when a directory "data" stands beside the executable;
 // everything is then kept in there. All of it works before there is an application object, once the application's name
@@ -37,5 +38,12 @@ QString resolvePath(const QString &path);
 // From now on data and settings are those of a named profile, in sub-directories of the ordinary ones; an empty name
 // goes back to the ordinary ones. To be called at start-up, before other threads ask for paths.
 void setProfile(const QString &name);
+// Empty: the ordinary ones.
+QString profile();
+
+// Letters, digits, '-', '_' and '.', at most 64, not dots alone: a name that is safe as part of a directory's.
+bool isProfileName(const QString &name);
+// Those that have settings, in order, the demonstration's aside.
+QStringList profiles();
 
 } // namespace AppPaths

@@ -1,6 +1,7 @@
 #include "app/run_config.h"
 
 #include "app/setting.h"
+#include "app/settings_owner.h"
 
 #include <QDir>
 #include <QSettings>
@@ -129,6 +130,14 @@ bool RunConfig::flush()
 {
     m_writeTimer.stop();
     if (!m_waiting) {
+        return true;
+    }
+    if (!SettingsOwner::mayWrite()) {
+        m_waiting = false;
+        if (!std::exchange(m_unsavedTold, true)) {
+            Q_EMIT writeFailed(
+                tr("Changed settings are not saved: another window with the same settings was open first."));
+        }
         return true;
     }
     m_waiting = !m_stored.trySave(m_fileName);

@@ -49,7 +49,8 @@ public:
     // The same for a theme that he chose: all of its look is stored.
     void applyLook(const Config &edited);
 
-    // Writes what waits, at once. False when the file cannot be written: it is tried again with the next change.
+    // Writes what waits, at once; nothing while another process keeps the settings. False when the file cannot be
+    // written: it is tried again with the next change.
     bool flush();
 
 Q_SIGNALS:
@@ -64,5 +65,6 @@ private:
     std::optional<Config> m_aside; // m_live before the first recording
     bool m_themeNamed = false;
     bool m_waiting = false;
+    bool m_unsavedTold = false; // that another process keeps the settings
     QTimer m_writeTimer;
 };

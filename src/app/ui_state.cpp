@@ -1,6 +1,7 @@
 #include "app/ui_state.h"
 
 #include "app/app_paths.h"
+#include "app/settings_owner.h"
 
 #include <QSettings>
 
@@ -15,6 +16,9 @@ QString UiState::filePath()
 
 void UiState::saveValue(const QString &group, const QString &key, const QByteArray &bytes)
 {
+    if (!SettingsOwner::mayWrite()) {
+        return;
+    }
     QSettings settings(filePath(), QSettings::IniFormat);
     settings.beginGroup(group);
     settings.setValue(key, bytes);

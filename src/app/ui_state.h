@@ -8,7 +8,8 @@ namespace UiState {
 
 QString filePath();
 
-// Each call opens and closes the file; what it writes is on disk when it returns.
+// Each call opens and closes the file; what it writes is on disk when it returns. Nothing is written
+// while another process keeps the settings.
 void saveValue(const QString &group, const QString &key, const QByteArray &bytes);
 // Empty when nothing was saved.
 QByteArray value(const QString &group, const QString &key);

@@ -4,12 +4,14 @@
 //   app_child save FILE           saves two versions of the settings in turn for ever, after the line "saving"
 //   app_child paths PROFILE [PATH]...  prints what AppPaths answers, one "name=value" a line, how PATHs are stored and
 //                                      resolved last
+//   app_child own DIRECTORY       keeps the settings in it, after the line "owns" or "is late", until it is killed
 
 #include "app/app_identity.h"
 #include "app/app_log.h"
 #include "app/app_paths.h"
 #include "app/config.h"
 #include "app/crash_handler.h"
+#include "app/settings_owner.h"
 
 #include <QHash>
 
@@ -18,6 +20,7 @@
 #include <cstdlib>
 #include <sys/resource.h>
 #include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -94,6 +97,7 @@ void printPaths(const QStringList &paths)
     print("appDataDir", AppPaths::appDataDir());
     print("configDir", AppPaths::configDir());
     print("crashLogFile", AppPaths::crashLogFile());
+    print("profiles", AppPaths::profiles().join(' '));
     for (const auto &path : paths) {
         print("stored", AppPaths::storePath(path));
         print("resolved", AppPaths::resolvePath(AppPaths::storePath(path)));
@@ -112,6 +116,11 @@ int main(int argc, char *argv[])
         crash(arguments.value(1));
     } else if (command == "save") {
         saveForEver(arguments.value(1));
+    } else if (command == "own") {
+        const SettingsOwner owner(arguments.value(1));
+        std::puts(SettingsOwner::mayWrite() ? "owns" : "is late");
+        std::fflush(stdout);
+        pause();
     } else if (command == "paths") {
         AppPaths::setProfile(arguments.value(1));
         printPaths(arguments.mid(2));

@@ -1,3 +1,4 @@
+#include "app/app_paths.h"
 #include "test_program.h"
 
 #include <QDir>
@@ -64,6 +65,25 @@ private Q_SLOTS:
         QCOMPARE(QDir(answers["configDir"]).exists(), created);
         QCOMPARE(QDir(answers["appDataDir"]).exists(), created);
         QVERIFY(!portable || !QDir(directory + "/home").exists());
+    }
+
+    void profileNamesLeaveNoDirectory()
+    {
+        for (const char *good : {"tower", "TWR-2_north.1", "..a", "a", "-"}) {
+            QVERIFY2(AppPaths::isProfileName(good), good);
+        }
+        for (const QString &bad : {QString(), QString(".."), QString("."), QString("a/b"), QString("../a"),
+                 QString("a b"), QString("t\u00fcrm"), QString("a\n"), QString(65, 'a')}) {
+            QVERIFY2(!AppPaths::isProfileName(bad), qPrintable(bad));
+        }
+        for (const bool portable : {false, true}) {
+            const auto directory = install(portable ? "portable profiles" : "profiles", portable);
+            for (const char *profile : {"tower", "demo", "", "apron"}) {
+                QVERIFY(ask(directory, {"paths", profile}).contains("profiles"));
+            }
+            QCOMPARE(ask(directory, {"paths", "tower"})["profiles"], QString("apron tower"));
+            QCOMPARE(ask(directory, {"paths", ""})["profiles"], QString("apron tower"));
+        }
     }
 
     void storesPathsOfThePortableTreeRelative()
