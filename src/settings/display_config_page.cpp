@@ -41,6 +41,7 @@ DisplayConfigPage::DisplayConfigPage(QWidget *parent)
     addThemeRow();
     addPlanViewRows();
     addWindowRows();
+    addLogFileRows();
     form()->addStretch();
 }
 
@@ -133,6 +134,15 @@ void DisplayConfigPage::addLanguageRow()
     form()->addField(note);
     connect(language, &QComboBox::currentIndexChanged, this,
         [this, language, note] { note->setVisible(language->currentData().toString() != m_languageAtFirst); });
+}
+
+void DisplayConfigPage::addLogFileRows()
+{
+    form()->addHeading(tr("Log file"));
+    QSpinBox *size = addNumber(tr("&New log file after:"), &Config::logFileSize,
+        tr("The messages are kept in files, too. The pane of messages can open their folder."));
+    size->setSpecialValueText(tr("No log file"));
+    addNumber(tr("&Log files kept:"), &Config::logFileCount, tr("The oldest one goes first."));
 }
 
 QString DisplayConfigPage::timeZoneProblem() const

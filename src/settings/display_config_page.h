@@ -23,6 +23,7 @@ private:
     void addPlanViewRows();
     void addWindowRows();
     void addLanguageRow();
+    void addLogFileRows();
     QString timeZoneProblem() const;
 
     CoordinateEdit *m_center = nullptr;

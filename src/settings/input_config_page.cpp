@@ -45,6 +45,8 @@ InputConfigPage::InputConfigPage(QWidget *parent) : ConfigPage(tr("Input"), pare
     addUdpRows();
     addSerialRows();
     addFileRows();
+    form()->addSpacing();
+    addSwitch(tr("Start &input at program start"), &Config::inputAutoStart);
     form()->addStretch();
     connect(m_comm, &QComboBox::currentIndexChanged, this, &InputConfigPage::showChosen);
     showChosen();

@@ -36,6 +36,9 @@ constexpr ActionSpec Specs[] = {
         MenuId::File, ToolBarId::General, false},
     {ActionId::Settings, QT_TRANSLATE_NOOP("Actions", "Settings..."), QT_TRANSLATE_NOOP("Actions", "Settings"),
         "", "F10", "settings", false, MenuId::File, ToolBarId::General, true},
+    {ActionId::NewWindow, QT_TRANSLATE_NOOP("Actions", "New Window With Profile..."), "",
+        QT_TRANSLATE_NOOP("Actions", "Start the program once more, with settings of its own"), "Ctrl+Shift+N",
+        "new-window", false, MenuId::File, ToolBarId::None, false},
     {ActionId::Exit, QT_TRANSLATE_NOOP("Actions", "Exit"), "", "", "", "exit", false,
         MenuId::File, ToolBarId::None, true},
 

@@ -22,6 +22,7 @@ enum class ActionId : std::size_t {
     ReplaySpeed,
     Record,
     Settings,
+    NewWindow,
     Exit,
     ZoomIn,
     ZoomOut,

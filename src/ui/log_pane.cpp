@@ -1,12 +1,16 @@
 #include "ui/log_pane.h"
 
+#include "app/log_file.h"
 #include "widgets/figure_font.h"
 #include "widgets/text_colors.h"
 
 #include <QContextMenuEvent>
+#include <QDesktopServices>
+#include <QFileInfo>
 #include <QMenu>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QUrl>
 
 #include <memory>
 
@@ -98,6 +102,9 @@ void LogPane::contextMenuEvent(QContextMenuEvent *event)
     const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
     menu->addSeparator();
     menu->addAction(tr("Clear"), this, &QPlainTextEdit::clear);
+    QAction *folder = menu->addAction(tr("Open Log Folder"), this,
+        [] { QDesktopServices::openUrl(QUrl::fromLocalFile(LogFile::defaultDirectory())); });
+    folder->setEnabled(QFileInfo(LogFile::defaultDirectory()).isDir());
     menu->exec(event->globalPos());
 }
 

@@ -51,6 +51,7 @@
 namespace {
 
 constexpr int ClockIntervalMs = 500;
+constexpr qint64 OctetsPerMebibyte = 1024 * 1024;
 
 // The settings that an action switches.
 constexpr std::pair<ActionId, bool Config::*> SettingToggles[] = {
@@ -84,6 +85,7 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     if (overrides) {
         m_config.overrideWith(overrides);
     }
+    m_logFile.setLimits(config().logFileSize * OctetsPerMebibyte, config().logFileCount); // before the first line
     makeDisplay();
     makeFurniture();
     makeMessagesDock();
@@ -239,6 +241,10 @@ void MainWindow::showLog(LogLevel level, const QString &text)
     if (!m_logPane->isVisible()) {
         m_statusLine->showLine(level, text);
     }
+    const QString problem = m_logFile.append(level, QDateTime::currentDateTimeUtc(), text);
+    if (!problem.isEmpty()) {
+        showLog(LogLevel::Warning, problem);
+    }
 }
 
 void MainWindow::applyConfig(SettingGroups changed)
@@ -253,6 +259,7 @@ void MainWindow::applyConfig(SettingGroups changed)
         m_readOuts->setTimeZone(config.displayLocalTimeZoneName);
         m_actions->setToolBarText(config.displayToolbarText);
         updateClock();
+        m_logFile.setLimits(config.logFileSize * OctetsPerMebibyte, config.logFileCount);
     }
     for (const auto &[id, visible] : SettingToggles) {
         (*m_actions)[id]->setChecked(config.*visible);

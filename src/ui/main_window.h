@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/log_file.h"
 #include "app/log_level.h"
 #include "app/run_config.h"
 #include "engine/display_snapshot.h"
@@ -71,6 +72,8 @@ public:
 
     const Config &config() const { return m_config.live(); }
     bool inputOpen() const;
+    const InputSession &session() const { return *m_session; }
+    const InputHealth &health() const { return *m_health; }
     // Null before the first.
     QSharedPointer<const DisplaySnapshot> newestSnapshot() const;
     GeoWidget *geoWidget() const { return m_geoWidget; }
@@ -87,7 +90,7 @@ public:
     void setShutdownWaits(int confirmMs, int threadMs);
 
 public Q_SLOTS:
-    // The log: each line goes to the log pane, and to the status bar while the pane is out of sight.
+    // The log: each line goes to the log pane, to the log file, and to the status bar while the pane is out of sight.
     void showLog(LogLevel level, const QString &text);
     void showLogInfo(const QString &text) { showLog(LogLevel::Info, text); }
 
@@ -141,6 +144,8 @@ public Q_SLOTS:
 
     void showConfigWindow();
     void showReplayWindow();
+    // Asks for a profile and starts the program with it.
+    void showProfileWindow();
     void showStatsWindow();
     void showRotationWindow();
     void showSetCenterWindow();
@@ -272,6 +277,7 @@ private:
     StatusReadOuts *m_readOuts = nullptr;
     std::unique_ptr<StatusLine> m_statusLine;
     LogPane *m_logPane = nullptr;
+    LogFile m_logFile;
     QDockWidget *m_messagesDock = nullptr;
     struct {
         StatsWindow *stats = nullptr;

@@ -1,5 +1,6 @@
 // What can be asked of the window, handed on to the part that does it, and what the window shows of the session.
 
+#include "app/app_paths.h"
 #include "assessment_windows/sensor_check.h"
 #include "health/health_dock.h"
 #include "health/input_health.h"
@@ -220,8 +221,10 @@ void MainWindow::updateNotices()
     const QString plots = tr("No tracks. The target reports of %1 are shown as plots.").arg(input);
     const QString open = m_plotSwitch->standsIn() ? plots : waiting;
     m_lists->setEmptyTexts(inputOpen() ? open : idle, inputOpen() ? tr("No alerts.") : idle);
+    const QString profile = AppPaths::profile();
     const QString program = QGuiApplication::applicationDisplayName();
-    setWindowTitle(m_session->replaying() ? tr("%1 - %2").arg(config().inputFileName.fileName(), program) : program);
+    const QString title = profile.isEmpty() ? program : tr("%1 - %2").arg(profile, program);
+    setWindowTitle(m_session->replaying() ? tr("%1 - %2").arg(config().inputFileName.fileName(), title) : title);
 }
 
 // Recordings.

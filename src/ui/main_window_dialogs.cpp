@@ -9,6 +9,7 @@
 #include "inspection/inspection.h"
 #include "orientation/geo_range_ring_map.h"
 #include "plan_view/geo_widget.h"
+#include "profiles/profile_window.h"
 #include "raw_view/stream_windows.h"
 #include "sensors/sensor_info.h"
 #include "sensors/sensor_manager.h"
@@ -55,6 +56,7 @@ void MainWindow::connectDialogActions()
 {
     const auto on = [this](ActionId id, auto slot) { connect((*m_actions)[id], &QAction::triggered, this, slot); };
     on(ActionId::Settings, &MainWindow::showConfigWindow);
+    on(ActionId::NewWindow, &MainWindow::showProfileWindow);
     on(ActionId::Rotate, &MainWindow::showRotationWindow);
     on(ActionId::GoTo, &MainWindow::showSetCenterWindow);
     on(ActionId::RangeRings, &MainWindow::showRangeRingWindow);
@@ -154,6 +156,17 @@ void MainWindow::takeSettings(const Config &edited)
     if (changed & SettingGroup::PlanView) {
         placeDefaultLayout();
     }
+}
+
+void MainWindow::showProfileWindow()
+{
+    auto *window = new ProfileWindow(this);
+    connect(window, &ProfileWindow::profileChosen, this, [this](const QString &profile) {
+        if (!ProfileWindow::startProgram(profile)) {
+            showLog(LogLevel::Warning, tr("No window can be opened with the profile %1.").arg(profile));
+        }
+    });
+    openOver(window);
 }
 
 void MainWindow::showRotationWindow()

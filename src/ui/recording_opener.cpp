@@ -78,6 +78,9 @@ void RecordingOpener::cancel()
 
 void RecordingOpener::showWait(const QString &fileName)
 {
+    if (!m_window) {
+        return;
+    }
     m_wait = new QProgressDialog(
         tr("Looking at %1 ...").arg(QFileInfo(fileName).fileName()), tr("Cancel"), 0, 100, m_window);
     m_wait->setWindowTitle(tr("Open Recording"));

@@ -24,7 +24,8 @@ class RecordingOpener final : public QObject {
     Q_OBJECT
 
 public:
-    // All must outlive this object. The window is the parent of dialogs.
+    // All must outlive this object. The window is the parent of dialogs; without one (null) there are none, and a
+    // question has to be set or taken away.
     RecordingOpener(
         QWidget *window, RunConfig *config, const SensorManager *sensors, InputSession *session, QObject *parent);
     ~RecordingOpener() override;
