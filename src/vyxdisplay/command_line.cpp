@@ -75,9 +75,8 @@ public:
         }
         // A recording that is named by itself tells what it is.
         m_result.sensorAuto = m_result.sensorAuto || (m_recordingAlone && !m_result.sensor);
-        const bool own = m_result.input || m_result.sensor || m_result.sensorAuto || m_result.processor;
-        if (m_error.isEmpty() && m_result.demo && own) {
-            m_error = CommandLine::tr("--demo brings an input, a processor and a sensor of its own");
+        if (m_error.isEmpty()) {
+            m_error = contradiction();
         }
         return m_error;
     }
@@ -85,6 +84,25 @@ public:
     const CommandLine &result() const { return m_result; }
 
 private:
+    // Empty where the options go together.
+    QString contradiction() const
+    {
+        const bool own = m_result.input || m_result.sensor || m_result.sensorAuto || m_result.processor;
+        if (m_result.demo && own) {
+            return CommandLine::tr("--demo brings an input, a processor and a sensor of its own");
+        }
+        if (m_result.demo && !m_result.profile.isEmpty()) {
+            return CommandLine::tr("--demo brings a profile of its own");
+        }
+        if (m_result.headless && !m_result.screenshot.isEmpty()) {
+            return CommandLine::tr("--screenshot needs a window, --headless shows none");
+        }
+        if (m_result.snapshotEvery && (!m_result.headless || m_result.snapshot.isEmpty())) {
+            return CommandLine::tr("--snapshot-every needs --headless and --snapshot");
+        }
+        return {};
+    }
+
     void takeOption(const QString &argument)
     {
         const auto equals = argument.indexOf(QLatin1Char('='));
@@ -125,6 +143,8 @@ private:
             m_result.start = true;
         } else if (m_option == QLatin1String("--exit-at-end")) {
             m_result.exitAtEnd = true;
+        } else if (m_option == QLatin1String("--headless")) {
+            m_result.headless = true;
         } else if (m_option == QLatin1String("--ignore-cartesian")) {
             m_result.ignoreCartesian = true;
         } else if (m_option == QLatin1String("--ignore-wgs84")) {
@@ -163,6 +183,23 @@ private:
         } else if (m_option == QLatin1String("--snapshot")) {
             m_result.snapshot = value();
         } else {
+            return takeServiceOption();
+        }
+        return true;
+    }
+
+    // What runs by itself, or beside another.
+    bool takeServiceOption()
+    {
+        if (m_option == QLatin1String("--profile")) {
+            m_result.profile = parsedValue(parsedProfile).value_or(QString());
+        } else if (m_option == QLatin1String("--snapshot-every")) {
+            m_result.snapshotEvery = parsedValue(parsedSeconds);
+        } else if (m_option == QLatin1String("--control")) {
+            m_result.control = value();
+        } else if (m_option == QLatin1String("--ask")) {
+            takeQuestion();
+        } else {
             return false;
         }
         return true;
@@ -175,6 +212,23 @@ private:
         if (m_error.isEmpty() && !m_result.chooseRecording) {
             m_result.input = parsedValue(text, parsedInput);
         }
+    }
+
+    // PATH COMMAND [PARAMETERS]
+    void takeQuestion()
+    {
+        CommandLine::Question question;
+        question.path = value();
+        const QString command = question.path.isEmpty() || m_arguments.isEmpty() ? QString() : m_arguments.takeFirst();
+        if (command.isEmpty()) {
+            m_error = CommandLine::tr("--ask needs the path of a control socket and a command");
+            return;
+        }
+        if (!m_arguments.isEmpty() && m_arguments.constFirst().startsWith(QLatin1Char('{'))) {
+            question.request = parsedValue(m_arguments.takeFirst(), parsedParameters).value_or(QJsonObject());
+        }
+        question.request.insert("command", command);
+        m_result.ask = question;
     }
 
     void takeSensor()
@@ -273,6 +327,8 @@ QString CommandLine::helpText()
               "  MAP                   open that map (.map, .mapx, .xml) in the map editor\n"
               "  --replay-speed SPEED  of recordings: 0.5x, 1x, 2x, 4x, 8x or Max\n"
               "  --start               open the input at once\n"
+              "  --profile NAME        with settings, layouts, window state and log files of that\n"
+              "                        name: letters, digits and - _ . only\n"
               "  --theme NAME          show that theme in this run: Classic, Night, Dusk, Day\n"
               "                        or one of your own\n"
               "  --size WIDTHxHEIGHT   of the window in this run, pixels\n"
@@ -282,6 +338,16 @@ QString CommandLine::helpText()
               "  --screenshot FILE     at exit, write the window as a PNG picture\n"
               "  --snapshot FILE       at exit, write the newest tracks and alerts, and where\n"
               "                        they stand in the picture, as JSON\n"
+              "  --headless            run without a window, with the input opened at once and\n"
+              "                        again when it fails, until SIGTERM; log on standard error\n"
+              "  --snapshot-every SECONDS\n"
+              "                        with --headless and --snapshot: write it that often, too\n"
+              "  --control PATH        answer requests on that local socket, a JSON object a line\n"
+              "  --ask PATH COMMAND [JSON]\n"
+              "                        put a request to the terminal with that control socket and\n"
+              "                        print its answer; status 1 when it refuses or is not there.\n"
+              "                        COMMAND is status, start, stop, snapshot, screenshot or\n"
+              "                        view, JSON an object of parameters\n"
               "  --help                show this text\n"
               "  --version             show the version\n");
 }

@@ -3,6 +3,7 @@
 #include "app/config.h"
 
 #include <QCoreApplication>
+#include <QJsonObject>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -47,10 +48,20 @@ public:
     // use.
     void applyTo(Config &config) const;
 
+    // Of a running terminal.
+    struct Question {
+        QString path; // of its control socket
+        QJsonObject request;
+    };
+
     bool help = false;
     bool version = false;
     bool start = false; // open the input at once
     bool exitAtEnd = false; // when the input has ended
+    bool headless = false; // no window; the input is opened at once
+    QString profile; // a name that is possible; empty: the ordinary settings
+    QString control; // path of the control socket, or empty
+    std::optional<Question> ask; // and nothing else
     QString replaySpeed; // name of the speed, or empty
     std::optional<QString> demo; // scenario, file or "list"; empty: the one shown first
     std::optional<Input> input;
@@ -67,4 +78,5 @@ public:
     std::optional<std::chrono::milliseconds> exitAfter;
     QString screenshot; // path of the picture to be written at exit, or empty
     QString snapshot; // path of the snapshot to be written at exit, or empty
+    std::optional<std::chrono::milliseconds> snapshotEvery; // and before, without a window
 };

@@ -1,7 +1,9 @@
 #include "vyxdisplay/command_line_values.h"
 
+#include "app/app_paths.h"
 #include "app/uap_profile.h"
 
+#include <QJsonDocument>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -186,6 +188,25 @@ std::optional<std::chrono::milliseconds> CommandLineValues::parsedSeconds(const 
         return std::chrono::milliseconds(qRound64(seconds * 1000.0));
     }
     *error = CommandLine::tr("'%1' is not a number of seconds").arg(text);
+    return {};
+}
+
+std::optional<QString> CommandLineValues::parsedProfile(const QString &text, QString *error)
+{
+    if (AppPaths::isProfileName(text)) {
+        return text;
+    }
+    *error = CommandLine::tr("'%1' is not a name for a profile (letters, digits and - _ . only)").arg(text);
+    return {};
+}
+
+std::optional<QJsonObject> CommandLineValues::parsedParameters(const QString &text, QString *error)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
+    if (document.isObject()) {
+        return document.object();
+    }
+    *error = CommandLine::tr("'%1' is not a JSON object").arg(text);
     return {};
 }
 

@@ -16,6 +16,10 @@ std::optional<CommandLine::Processor> parsedProcessor(const QString &text, QStri
 // The number under which settings know the profile.
 std::optional<int> parsedUap(const QString &text, QString *error);
 std::optional<std::chrono::milliseconds> parsedSeconds(const QString &text, QString *error);
+// A name for a profile.
+std::optional<QString> parsedProfile(const QString &text, QString *error);
+// A JSON object.
+std::optional<QJsonObject> parsedParameters(const QString &text, QString *error);
 // WIDTHxHEIGHT
 std::optional<QSize> parsedSize(const QString &text, QString *error);
 // The name as menus have it.

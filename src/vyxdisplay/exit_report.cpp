@@ -2,7 +2,7 @@
 
 #include "engine/snapshot_json.h"
 #include "ui/main_window.h"
-#include "vyxdisplay/picture_json.h"
+#include "vyxdisplay/window_control.h"
 
 #include <QImageWriter>
 
@@ -47,17 +47,8 @@ void ExitReport::writeScreenshot(const QImage &picture)
 
 void ExitReport::writeSnapshot()
 {
-    const QSharedPointer<const DisplaySnapshot> newest = m_window->newestSnapshot();
-    QJsonObject picture = SnapshotJson::toJson(newest ? *newest : DisplaySnapshot());
-    if (const auto statistics = m_window->engineHost().shared().statistics.read().value) {
-        picture.insert("sources", SnapshotJson::sources(*statistics));
-    }
-    const QJsonObject painted = pictureJson(*m_window->geoWidget());
-    for (auto part = painted.begin(); part != painted.end(); ++part) {
-        picture.insert(part.key(), part.value());
-    }
     QString reason;
-    if (!SnapshotJson::save(picture, m_snapshot, &reason)) {
+    if (!SnapshotJson::save(windowSnapshot(*m_window), m_snapshot, &reason)) {
         failToWrite(m_snapshot, reason);
     }
 }

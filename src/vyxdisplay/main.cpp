@@ -4,8 +4,14 @@
 #include "app/config.h"
 #include "app/crash_handler.h"
 #include "app/languages.h"
+#include "app/settings_owner.h"
+#include "app/start_guard.h"
+#include "control/control_client.h"
+#include "control/control_commands.h"
+#include "control/control_server.h"
 #include "engine/replay_speed.h"
 #include "tile_windows/tile_maps.h"
+#include "ui/input_session.h"
 #include "ui/main_window.h"
 #include "ui/recording_opener.h"
 #include "ui/theme_menu.h"
@@ -13,12 +19,16 @@
 #include "vyxdisplay/demo_traffic.h"
 #include "vyxdisplay/exit_report.h"
 #include "vyxdisplay/first_frame.h"
+#include "vyxdisplay/headless_run.h"
+#include "vyxdisplay/reopening.h"
 #include "vyxdisplay/termination_signals.h"
+#include "vyxdisplay/window_control.h"
 #include "widgets/widget_style.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QIcon>
+#include <QJsonDocument>
 #include <QLoggingCategory>
 #include <QSplashScreen>
 #include <QTimer>
@@ -70,6 +80,11 @@ void showSplash(QSplashScreen &splash)
 // What the command line names holds for every recording of this run.
 void setUpRecordings(const CommandLine &commandLine, MainWindow &window)
 {
+    for (const ReplaySpeed::Speed speed : ReplaySpeed::values()) {
+        if (ReplaySpeed::name(speed) == commandLine.replaySpeed) {
+            window.setReplaySpeed(speed);
+        }
+    }
     window.recordingOpener()->setNamed([commandLine](Config &config) { commandLine.applyTo(config); });
     if (commandLine.exitAtEnd || commandLine.exitAfter) {
         window.recordingOpener()->setSiteQuestion({}); // such runs have no operator
@@ -96,6 +111,50 @@ void openFiles(const CommandLine &commandLine, MainWindow &window)
     }
     if (commandLine.chooseRecording) {
         QTimer::singleShot(0, &window, &MainWindow::openRecordingFile); // its dialog has an event loop of its own
+    }
+}
+
+void tellWhoKeepsSettings(MainWindow &window)
+{
+    if (!SettingsOwner::mayWrite()) {
+        window.showLog(LogLevel::Warning,
+            MainWindow::tr("Another window with these settings is open: changes in this one are not saved. (Other "
+                           "settings: File, New Window With Profile...)"));
+    }
+}
+
+bool startsByItself(const CommandLine &commandLine, const StartGuard &guard, MainWindow &window)
+{
+    if (!commandLine.start && window.config().inputAutoStart && !guard.startsWell()) {
+        window.showLog(LogLevel::Warning,
+            MainWindow::tr("The input is not started by itself: the program has crashed twice within a minute of its "
+                           "start. Press Start to try again."));
+        return false;
+    }
+    return commandLine.demo || commandLine.start || window.config().inputAutoStart;
+}
+
+// At the start of the computer a network or a serial device may come later than the program.
+void keepTrying(Reopening &reopening, MainWindow &window)
+{
+    QObject::connect(&reopening, &Reopening::message, &window, &MainWindow::showLog);
+    QObject::connect(&window, &MainWindow::inputOpened, &reopening, &Reopening::end);
+    QObject::connect(&reopening, &Reopening::due, &window, [&window] {
+        if (window.session().state() == InputSession::State::Closed) {
+            window.openInput();
+        }
+    });
+    reopening.begin();
+}
+
+void offerControl(const CommandLine &commandLine, ControlServer &server, MainWindow &window)
+{
+    if (commandLine.control.isEmpty()) {
+        return;
+    }
+    const QString problem = server.listen(commandLine.control);
+    if (!problem.isEmpty()) {
+        window.showLog(LogLevel::Warning, problem);
     }
 }
 
@@ -145,13 +204,18 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
     if (commandLine.exitAtEnd) {
         report.exitWithInput();
     }
-    for (const ReplaySpeed::Speed speed : ReplaySpeed::values()) {
-        if (ReplaySpeed::name(speed) == commandLine.replaySpeed) {
-            window.setReplaySpeed(speed);
-        }
-    }
     setUpRecordings(commandLine, window);
-    if (demo || commandLine.start) {
+    WindowControl control(&window);
+    const ControlCommands commands(&control);
+    ControlServer server([&commands](const QByteArray &request) { return commands.answer(request); });
+    offerControl(commandLine, server, window);
+    tellWhoKeepsSettings(window);
+    const StartGuard guard;
+    Reopening reopening(&window.session());
+    if (startsByItself(commandLine, guard, window)) {
+        if (window.config().inputAutoStart && !demo && !commandLine.exitAtEnd) {
+            keepTrying(reopening, window);
+        }
         openInput(commandLine, window);
     }
     openFiles(commandLine, window);
@@ -171,6 +235,7 @@ int runApplication(int argc, char *argv[], const CommandLine &commandLine, const
     if (!debugModeMarked()) {
         QLoggingCategory::setFilterRules("default.debug=false");
     }
+    const SettingsOwner owner(AppPaths::configDir());
     Config config;
     config.load(AppPaths::configFile());
     applyWidgetStyle(config.displayStyle);
@@ -194,6 +259,50 @@ int runApplication(int argc, char *argv[], const CommandLine &commandLine, const
     return runWindow(commandLine, themes, demo.get(), splash, clock);
 }
 
+// Without a window. The platform that draws nowhere has what fonts and pictures need.
+int runHeadless(int argc, char *argv[], const CommandLine &commandLine)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    setApplicationIdentity();
+    std::unique_ptr<DemoTraffic> demo;
+    QString error;
+    if (commandLine.demo) {
+        demo = std::make_unique<DemoTraffic>(*commandLine.demo);
+        if (!demo->prepare(&error)) {
+            return complain(error);
+        }
+    }
+    HeadlessRun run(commandLine, demo.get());
+    const ControlCommands commands(&run);
+    ControlServer server([&commands](const QByteArray &request) { return commands.answer(request); });
+    if (!commandLine.control.isEmpty()) {
+        error = server.listen(commandLine.control);
+        if (!error.isEmpty()) {
+            return complain(error);
+        }
+    }
+    const TerminationSignals signalsToEnd;
+    QObject::connect(&signalsToEnd, &TerminationSignals::requested, &run, &HeadlessRun::end);
+    QObject::connect(&run, &HeadlessRun::finished, &application, &QCoreApplication::quit, Qt::QueuedConnection);
+    run.begin();
+    QGuiApplication::exec();
+    return run.succeeded() ? 0 : 1;
+}
+
+int ask(int argc, char *argv[], const CommandLine::Question &question)
+{
+    const QCoreApplication application(argc, argv);
+    QString error;
+    const QByteArray answer = ControlClient::ask(question.path, question.request, &error);
+    if (answer.isEmpty()) {
+        complain(error);
+        return 1;
+    }
+    std::printf("%s\n", answer.constData());
+    return QJsonDocument::fromJson(answer)["ok"].toBool() ? 0 : 1;
+}
+
 int qMain(int argc, char *argv[])
 {
     QElapsedTimer clock;
@@ -207,8 +316,9 @@ int qMain(int argc, char *argv[])
     if (!commandLine) {
         return complain(error);
     }
-    if (commandLine->demo) {
-        AppPaths::setProfile("demo");
+    const QString profile = commandLine->demo ? QStringLiteral("demo") : commandLine->profile;
+    if (!profile.isEmpty()) {
+        AppPaths::setProfile(profile);
         installCrashHandler(AppPaths::crashLogFile());
     }
     if (commandLine->help) {
@@ -220,6 +330,12 @@ int qMain(int argc, char *argv[])
     if (commandLine->demo == "list") {
         const QString scenarios = DemoTraffic::list(&error);
         return scenarios.isEmpty() ? complain(error) : print(scenarios);
+    }
+    if (commandLine->ask) {
+        return ask(argc, argv, *commandLine->ask);
+    }
+    if (commandLine->headless) {
+        return runHeadless(argc, argv, *commandLine);
     }
     if (!screenAvailable(arguments)) {
         return complain(QCoreApplication::translate(

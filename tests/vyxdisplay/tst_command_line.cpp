@@ -151,6 +151,18 @@ private Q_SLOTS:
         QVERIFY(chosen.chooseRecording && !chosen.input);
     }
 
+    void readsWhatRunsByItself()
+    {
+        const auto service = parsed(
+            {"--headless", "--profile=tower", "--control", "/run/c", "--snapshot", "s.json", "--snapshot-every", "10"});
+        QVERIFY(service.headless && service.snapshotEvery == std::chrono::seconds(10));
+        QCOMPARE(service.profile + service.control, QStringLiteral("tower/run/c"));
+        QCOMPARE(parsed({"--ask", "/run/c", "status"}).ask->request, (QJsonObject{{"command", "status"}}));
+        const auto view = parsed({"--ask", "/run/c", "view", R"({"rotation":-5,"command":"stop"})"});
+        QCOMPARE(view.ask->path, QStringLiteral("/run/c"));
+        QCOMPARE(view.ask->request, (QJsonObject{{"command", "view"}, {"rotation", -5}}));
+    }
+
     void demoTakesNoOptionForItsScenario()
     {
         for (const char *scenario : {"--demo busy.json", "--demo=busy.json", "--start --demo busy.json --start"}) {
@@ -180,7 +192,7 @@ private Q_SLOTS:
         row("size beyond any screen", {"--size", "99999x800"}, "'99999x800'");
         row("value for a switch", {"--start=yes"}, "--start");
         for (const auto *option : {"--input", "--sensor", "--processor", "--uap", "--theme", "--size", "--exit-after",
-                 "--screenshot", "--snapshot"}) {
+                 "--screenshot", "--snapshot", "--profile", "--control", "--snapshot-every", "--ask"}) {
             row(qPrintable(QString("%1 at the end").arg(option)), {option}, option);
             row(qPrintable(QString("%1 before an option").arg(option)), {option, "--start"}, option);
             row(qPrintable(QString("%1 empty").arg(option)), {option, ""}, option);
@@ -205,6 +217,13 @@ private Q_SLOTS:
         row("unknown format", {"--processor", "sirm:beast"}, "'beast' is not a format (raw, hdlc, managair)");
         row("unknown profile", {"--uap", "48=1.32"}, "'48=1.32' is not a user application profile (auto, standard,");
         row("demo with a processor", {"--demo", "--processor", "modes"}, "--demo");
+        row("profile outside", {"--profile", "../x"}, "'../x'");
+        row("demo with a profile", {"--demo", "--profile", "x"}, "--demo");
+        row("picture of no window", {"--headless", "--screenshot", "a.png"}, "--screenshot");
+        row("snapshots of a window", {"--snapshot-every", "5", "--snapshot", "a"}, "--headless");
+        row("snapshots into nothing", {"--snapshot-every", "5", "--headless"}, "--snapshot");
+        row("nothing asked", {"--ask", "/run/c"}, "command");
+        row("parameters that are none", {"--ask", "/run/c", "view", "{rotation"}, "JSON");
         row("demo with an input", {"--demo", "--input", "udp:8600"}, "--demo");
     }
 
