@@ -213,7 +213,8 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
     const StartGuard guard;
     Reopening reopening(&window.session());
     if (startsByItself(commandLine, guard, window)) {
-        if (window.config().inputAutoStart && !demo && !commandLine.exitAtEnd) {
+        const bool unattended = window.config().inputAutoStart && !demo && !commandLine.exitAtEnd;
+        if (unattended && window.session().sensor()) { // which does not come by itself
             keepTrying(reopening, window);
         }
         openInput(commandLine, window);
