@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/background_pass.h"
-#include "health/udp_port_users.h"
+#include "input_probe/udp_port_users.h"
 
 #include <QList>
 #include <QObject>

@@ -25,6 +25,7 @@
 #include <QDateTime>
 #include <QDragEnterEvent>
 #include <QGuiApplication>
+#include <QMenu>
 #include <QMimeData>
 #include <QScreen>
 

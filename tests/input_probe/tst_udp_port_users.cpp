@@ -1,4 +1,4 @@
-#include "health/udp_port_users.h"
+#include "input_probe/udp_port_users.h"
 #include "test_program.h"
 
 #include <QTest>
