@@ -41,7 +41,7 @@ public:
     virtual void store(Config *config) const;
 
     // Locks the page, and says why, if it edits what an input is opened with.
-    void setInputRunning(bool running);
+    virtual void setInputRunning(bool running);
 
     // Show puts the setting's value into the field; entered is what stands there, nothing for what cannot be taken.
     template <typename T>

@@ -1,5 +1,6 @@
 #include "settings/config_window.h"
 
+#include "input_probe/found_settings.h"
 #include "settings/display_config_page.h"
 #include "settings/input_config_page.h"
 #include "settings/map_config_page.h"
@@ -30,7 +31,10 @@ ConfigWindow::ConfigWindow(const Config &config, SensorManager *sensors, QWidget
     auto *display = new DisplayConfigPage(this);
     connect(display, &DisplayConfigPage::themeChosen, this, &ConfigWindow::takeTheme);
     addPage(display);
-    addPage(new InputConfigPage(this));
+    m_input = new InputConfigPage(sensors, this);
+    m_input->offerUse();
+    connect(m_input, &InputConfigPage::useWanted, this, &ConfigWindow::takeFound);
+    addPage(m_input);
     addPage(new ProcessorConfigPage(this));
     addPage(new SensorConfigPage(sensors, this));
     addPage(new MapConfigPage(this));
@@ -127,6 +131,26 @@ void ConfigWindow::takeTheme(const Theme &theme)
     for (const Setting &setting : Setting::all()) {
         if (setting.themed()) {
             setting.copy(shown, m_untouched);
+        }
+    }
+}
+
+void ConfigWindow::setEngine(EngineHost *engine)
+{
+    m_input->setEngine(engine);
+}
+
+// The operator sees it on its pages before he applies it.
+void ConfigWindow::takeFound(const InputProposal &found)
+{
+    Config config = entered();
+    applyFound(found, &config);
+    for (ConfigPage *page : std::as_const(m_pages)) {
+        if (qobject_cast<ProcessorConfigPage *>(page)) {
+            page->load(config);
+        } else if (qobject_cast<SensorConfigPage *>(page)) {
+            page->load(config);
+            m_pageList->setCurrentRow(static_cast<int>(m_pages.indexOf(page)));
         }
     }
 }

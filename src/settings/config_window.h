@@ -6,6 +6,9 @@
 #include <functional>
 
 class ConfigPage;
+class EngineHost;
+class InputConfigPage;
+class InputProposal;
 class QLabel;
 class QListWidget;
 class QStackedWidget;
@@ -27,6 +30,8 @@ public:
 
     // Asked before anything is applied; false leaves all as it is, and the window open.
     void setConsent(std::function<bool(const Config &edited)> consent);
+    // Of the program's input, for the page that tells what arrives.
+    void setEngine(EngineHost *engine);
     // Locks the pages of what an input is opened with.
     void setInputRunning(bool running);
     // Shown above the buttons until the next attempt; the window stays open. For a receiver of configApplied().
@@ -44,6 +49,7 @@ private:
     QWidget *makeScrollable(ConfigPage *page);
     void showRefused(qsizetype page);
     void takeTheme(const Theme &theme);
+    void takeFound(const InputProposal &found);
     Config entered() const;
 
     Config m_config;
@@ -51,6 +57,7 @@ private:
     Config m_untouched; // what the fields hold of it
     std::function<bool(const Config &edited)> m_consent;
     QList<ConfigPage *> m_pages;
+    InputConfigPage *m_input = nullptr;
     QListWidget *m_pageList = nullptr;
     QStackedWidget *m_stack = nullptr;
     QLabel *m_saveProblem = nullptr;

@@ -1,6 +1,10 @@
 #include "settings/input_config_page.h"
 
 #include "astfile/rec_file.h"
+#include "engine/engine_host.h"
+#include "probe_view/probe_view.h"
+#include "recognition/input_proposal.h"
+#include "sensors/sensor_manager.h"
 #include "settings/udp_input_fields.h"
 #include "widgets/field_form.h"
 #include "widgets/file_edit.h"
@@ -10,10 +14,14 @@
 #include <QLineEdit>
 #include <QSerialPort>
 #include <QSerialPortInfo>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
 
 using korvane::astfile::RecFile;
 
 namespace {
+
+constexpr int TypingPauseMs = 500;
 
 // Why a file cannot be played; empty when it can.
 QString playingProblem(const QFileInfo &file)
@@ -34,12 +42,15 @@ QString playingProblem(const QFileInfo &file)
 
 } // namespace
 
-InputConfigPage::InputConfigPage(QWidget *parent) : ConfigPage(tr("Input"), parent)
+InputConfigPage::InputConfigPage(const SensorManager *sensors, QWidget *parent, Offer offer)
+    : ConfigPage(tr("Input"), parent), m_offer(offer), m_sensors(sensors), m_probeView(new ProbeView(this))
 {
     using Comm = Config::InputComm;
     Choices<Comm> methods;
     for (const Comm comm : {Comm::Udp, Comm::Serial, Comm::File}) {
-        methods.append({Config::inputMethodName(comm), comm});
+        if (comm != Comm::File || offer == Offer::Everything) {
+            methods.append({Config::inputMethodName(comm), comm});
+        }
     }
     m_comm = addChoice(tr("&Data from:"), &Config::inputComm, methods);
     addUdpRows();
@@ -47,9 +58,35 @@ InputConfigPage::InputConfigPage(QWidget *parent) : ConfigPage(tr("Input"), pare
     addFileRows();
     form()->addSpacing();
     addSwitch(tr("Start &input at program start"), &Config::inputAutoStart);
-    form()->addStretch();
+    layout()->setSpacing(2 * layout()->spacing());
+    layout()->addWidget(m_probeView); // not in the form, which is locked while the input runs
+    static_cast<QVBoxLayout *>(layout())->addStretch(1);
     connect(m_comm, &QComboBox::currentIndexChanged, this, &InputConfigPage::showChosen);
+    connect(&m_devices, &DeviceWatch::changed, this, &InputConfigPage::takeDevices);
+    connectProbe();
     showChosen();
+}
+
+InputConfigPage::~InputConfigPage() = default;
+
+void InputConfigPage::connectProbe()
+{
+    m_listenTimer.setSingleShot(true);
+    m_listenTimer.setInterval(TypingPauseMs);
+    connect(&m_listenTimer, &QTimer::timeout, this, &InputConfigPage::listen);
+    connect(&m_probe, &InputProbe::changed, this, &InputConfigPage::showFound);
+    connect(m_probeView, &ProbeView::useWanted, this, [this] {
+        if (const auto found = proposal()) {
+            Q_EMIT useWanted(*found);
+        }
+    });
+    for (const UdpInputFields *udp : {m_udp1, m_udp2}) {
+        connect(udp, &UdpInputFields::edited, this, &InputConfigPage::listenSoon);
+    }
+    connect(m_enable2, &QCheckBox::toggled, this, &InputConfigPage::listenSoon);
+    for (QWidget *field : std::as_const(m_serialFields)) {
+        connect(static_cast<QComboBox *>(field), &QComboBox::currentTextChanged, this, &InputConfigPage::listenSoon);
+    }
 }
 
 void InputConfigPage::addUdpRows()
@@ -64,6 +101,7 @@ void InputConfigPage::addUdpRows()
                                     &Config::inputUdpMcastLanInterface2},
         true, this);
     connect(m_enable2, &QCheckBox::toggled, m_udp2, &UdpInputFields::setEnabled);
+    connect(m_enable2, &QCheckBox::toggled, m_udp2, &UdpInputFields::setVisible);
     m_udp2->setEnabled(false);
 }
 
@@ -71,10 +109,10 @@ void InputConfigPage::addSerialRows()
 {
     m_serialDevice = new QComboBox;
     m_serialDevice->setEditable(true);
-    const QList<QSerialPortInfo> ports = QSerialPortInfo::availablePorts();
-    for (const QSerialPortInfo &port : ports) {
-        m_serialDevice->addItem(port.portName());
+    for (const QSerialPortInfo &port : QSerialPortInfo::availablePorts()) {
+        m_serialPorts += port.portName();
     }
+    m_serialDevice->addItems(m_serialPorts);
     form()->addField(tr("D&evice:"), m_serialDevice);
     bind<QString>(
         m_serialDevice, &Config::inputSerialDevice,
@@ -131,18 +169,41 @@ void InputConfigPage::showChosen()
     const Config::InputComm comm = chosen();
     m_udp1->setVisible(comm == Config::InputComm::Udp);
     form()->setRowVisible(m_enable2, comm == Config::InputComm::Udp);
-    m_udp2->setVisible(comm == Config::InputComm::Udp);
+    m_udp2->setVisible(comm == Config::InputComm::Udp && m_enable2->isChecked());
     for (QWidget *field : std::as_const(m_serialFields)) {
         form()->setRowVisible(field, comm == Config::InputComm::Serial);
     }
     form()->setRowVisible(m_file, comm == Config::InputComm::File);
     form()->setRowVisible(m_autoRewind, comm == Config::InputComm::File);
+    listenSoon();
+}
+
+void InputConfigPage::setEngine(EngineHost *engine)
+{
+    m_engine = engine;
 }
 
 void InputConfigPage::load(const Config &config)
 {
-    ConfigPage::load(config);
+    m_loaded = config;
+    if (m_offer == Offer::LiveInputs && config.inputComm == Config::InputComm::File) {
+        m_loaded.inputComm = Config::InputComm::Udp;
+    }
+    ConfigPage::load(m_loaded);
     showChosen();
+}
+
+void InputConfigPage::setInputRunning(bool running)
+{
+    ConfigPage::setInputRunning(running);
+    if (running != m_inputRunning) {
+        m_inputRunning = running;
+        m_probe.stop(); // at once: the input may want the same line
+        if (m_isUseOffered) {
+            offerUse();
+        }
+        listenSoon();
+    }
 }
 
 bool InputConfigPage::validate()
@@ -176,4 +237,105 @@ bool InputConfigPage::validateSerial()
 bool InputConfigPage::validateFile()
 {
     return form()->check(m_file, playingProblem(QFileInfo(m_file->path())));
+}
+
+// What has gone stays in its field, and is said to have.
+void InputConfigPage::takeDevices(const DeviceWatch::Devices &devices)
+{
+    m_udp1->setInterfaces(devices.interfaces);
+    m_udp2->setInterfaces(devices.interfaces);
+    if (devices.serialPorts == m_serialPorts) {
+        return;
+    }
+    m_serialPorts = devices.serialPorts;
+    const QString entered = m_serialDevice->currentText();
+    {
+        const QSignalBlocker blocker(m_serialDevice);
+        m_serialDevice->clear();
+        m_serialDevice->addItems(m_serialPorts);
+        m_serialDevice->setCurrentText(entered);
+    }
+    noteMissingDevice();
+    listenSoon();
+}
+
+void InputConfigPage::noteMissingDevice()
+{
+    const QString device = m_serialDevice->currentText().trimmed();
+    const bool there = device.isEmpty() || m_serialPorts.contains(device) || QFileInfo::exists(device);
+    form()->check(m_serialDevice, there ? QString() : tr("%1 is not there now.").arg(device));
+}
+
+void InputConfigPage::showEvent(QShowEvent *event)
+{
+    ConfigPage::showEvent(event);
+    m_devices.start();
+    listen();
+}
+
+void InputConfigPage::hideEvent(QHideEvent *event)
+{
+    ConfigPage::hideEvent(event);
+    m_devices.stop();
+    stopListening();
+}
+
+void InputConfigPage::stopListening()
+{
+    m_listenTimer.stop();
+    m_probe.stop();
+}
+
+bool InputConfigPage::isComplete() const
+{
+    return chosen() == Config::InputComm::Serial
+        ? !m_serialDevice->currentText().trimmed().isEmpty() && m_baudRate->lineEdit()->hasAcceptableInput()
+        : m_udp1->isComplete() && m_udp2->isComplete();
+}
+
+void InputConfigPage::listenSoon()
+{
+    if (isVisible()) {
+        m_listenTimer.start();
+    }
+}
+
+void InputConfigPage::listen()
+{
+    m_listenTimer.stop();
+    Config config = m_loaded;
+    store(&config);
+    m_probeView->setVisible(m_inputRunning || chosen() != Config::InputComm::File);
+    if (m_inputRunning && m_engine) {
+        m_probe.watch(m_engine, config);
+    } else if (!m_inputRunning && chosen() != Config::InputComm::File && isComplete()) {
+        m_probe.listen(config);
+    } else {
+        m_probe.stop();
+        m_probeView->showHint(m_inputRunning ? QString() : tr("Complete the fields above to see what arrives."));
+    }
+}
+
+void InputConfigPage::showFound()
+{
+    m_probeView->showResult(m_probe.result(), m_probe.config());
+    const auto found = proposal();
+    m_probeView->showProposal(found ? &*found : nullptr);
+    Q_EMIT foundChanged();
+}
+
+void InputConfigPage::offerUse()
+{
+    m_isUseOffered = true;
+    m_probeView->offerUse(
+        m_inputRunning ? tr("Stop the input first: its settings are locked while it runs.") : QString());
+}
+
+std::optional<InputProposal> InputConfigPage::proposal() const
+{
+    static const SensorManager none;
+    const ProbeResult &result = m_probe.result();
+    return result.isRecognised()
+        ? std::optional<InputProposal>(std::in_place, result.findings, m_sensors ? *m_sensors : none)
+        : std::nullopt;
 }

@@ -1,6 +1,7 @@
 #include "settings/udp_input_fields.h"
 
 #include "geo/input_validator.h"
+#include "input_probe/device_watch.h"
 #include "settings/config_page.h"
 #include "widgets/field_form.h"
 
@@ -8,26 +9,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
+#include <QSignalBlocker>
 #include <QSpinBox>
-
-namespace {
-
-QString interfaceText(const QNetworkInterface &interface)
-{
-    QStringList addresses;
-    const QList<QNetworkAddressEntry> entries = interface.addressEntries();
-    for (const QNetworkAddressEntry &entry : entries) {
-        if (entry.ip().protocol() == QAbstractSocket::IPv4Protocol) {
-            addresses.append(entry.ip().toString());
-        }
-    }
-    if (addresses.isEmpty()) {
-        return interface.humanReadableName();
-    }
-    return QStringLiteral("%1 (%2)").arg(interface.humanReadableName(), addresses.join(QStringLiteral(", ")));
-}
-
-} // namespace
 
 UdpInputFields::UdpInputFields(const Members &members, bool second, ConfigPage *page)
     : QObject(page), m_form(page->form()), m_multicast(new QCheckBox(second ? tr("M&ulticast") : tr("&Multicast"))),
@@ -37,11 +20,20 @@ UdpInputFields::UdpInputFields(const Members &members, bool second, ConfigPage *
     m_group->setPlaceholderText(QStringLiteral("239.0.0.1"));
     m_group->setToolTip(tr("The multicast group that the sensor sends to, 224.0.0.0 to 239.255.255.255."));
     m_interface->setToolTip(tr("The network interface on which the group is joined."));
-    fillInterfaces();
+    setInterfaces(QNetworkInterface::allInterfaces());
     addRows(second);
     bindTo(page, members);
-    connect(m_multicast, &QCheckBox::toggled, this, &UdpInputFields::updateEnabled);
+    connectFields();
     updateEnabled();
+}
+
+void UdpInputFields::connectFields()
+{
+    connect(m_multicast, &QCheckBox::toggled, this, &UdpInputFields::updateEnabled);
+    connect(m_multicast, &QCheckBox::toggled, this, &UdpInputFields::edited);
+    connect(m_group, &QLineEdit::textChanged, this, &UdpInputFields::edited);
+    connect(m_interface, &QComboBox::currentIndexChanged, this, &UdpInputFields::edited);
+    connect(m_port, &QSpinBox::valueChanged, this, &UdpInputFields::edited);
 }
 
 void UdpInputFields::addRows(bool second)
@@ -61,30 +53,44 @@ void UdpInputFields::bindTo(ConfigPage *page, const Members &members)
         [this] { return group().isNull() ? std::nullopt : std::optional(group()); });
     page->bind<QNetworkInterface>(
         m_interface, members.interface, [this](const QNetworkInterface &interface) { showInterface(interface); },
-        [this] {
-            const QString name = m_interface->currentData().toString();
-            return std::optional(name.isEmpty() ? QNetworkInterface() : QNetworkInterface::interfaceFromName(name));
-        });
+        [this] { return std::optional(m_known.value(m_interface->currentData().toString())); });
 }
 
-void UdpInputFields::fillInterfaces()
+void UdpInputFields::setInterfaces(const QList<QNetworkInterface> &interfaces)
 {
-    m_interface->addItem(tr("Chosen by the system"), QString());
-    const QList<QNetworkInterface> interfaces = QNetworkInterface::allInterfaces();
-    for (const QNetworkInterface &interface : interfaces) {
-        if (interface.flags().testFlag(QNetworkInterface::CanMulticast)) {
-            m_interface->addItem(interfaceText(interface), interface.name());
+    const QString chosen = m_interface->currentData().toString();
+    const QString before = m_interface->currentText();
+    {
+        const QSignalBlocker blocker(m_interface);
+        m_interface->clear();
+        m_interface->addItem(tr("Chosen by the system"), QString());
+        for (const QNetworkInterface &interface : interfaces) {
+            if (interface.flags().testFlag(QNetworkInterface::CanMulticast) || interface.name() == chosen) {
+                addInterface(interface, interfaceText(interface));
+            }
         }
+        if (m_interface->findData(chosen) < 0) {
+            addInterface(m_known[chosen], tr("%1 (not there)").arg(m_known[chosen].humanReadableName()));
+        }
+        m_interface->setCurrentIndex(m_interface->findData(chosen));
     }
+    if (m_interface->currentText() != before) {
+        Q_EMIT edited();
+    }
+}
+
+void UdpInputFields::addInterface(const QNetworkInterface &interface, const QString &text)
+{
+    m_known.insert(interface.name(), interface);
+    m_interface->addItem(text, interface.name());
 }
 
 void UdpInputFields::showInterface(const QNetworkInterface &interface)
 {
-    const QString name = interface.name();
-    if (interface.isValid() && m_interface->findData(name) < 0) {
-        m_interface->addItem(interfaceText(interface), name);
+    if (interface.isValid() && m_interface->findData(interface.name()) < 0) {
+        addInterface(interface, interfaceText(interface));
     }
-    m_interface->setCurrentIndex(interface.isValid() ? m_interface->findData(name) : 0);
+    m_interface->setCurrentIndex(interface.isValid() ? m_interface->findData(interface.name()) : 0);
 }
 
 QHostAddress UdpInputFields::group() const
@@ -94,18 +100,21 @@ QHostAddress UdpInputFields::group() const
     return ipv4 && address.isMulticast() ? address : QHostAddress();
 }
 
+QString UdpInputFields::faultOfGroup() const
+{
+    if (!m_enabled || !m_multicast->isChecked()) {
+        return {};
+    }
+    if (!m_group->hasAcceptableInput()) {
+        return tr("This is no IP address.");
+    }
+    return group().isNull() ? tr("A multicast group lies between 224.0.0.0 and 239.255.255.255.") : QString();
+}
+
 bool UdpInputFields::validate()
 {
     m_form->check(m_port, QString());
-    QString problem;
-    if (!m_enabled || !m_multicast->isChecked()) {
-        problem.clear();
-    } else if (!m_group->hasAcceptableInput()) {
-        problem = tr("This is no IP address.");
-    } else if (group().isNull()) {
-        problem = tr("A multicast group lies between 224.0.0.0 and 239.255.255.255.");
-    }
-    return m_form->check(m_group, problem);
+    return m_form->check(m_group, faultOfGroup());
 }
 
 bool UdpInputFields::validateAgainst(const UdpInputFields &other)

@@ -2,6 +2,7 @@
 
 #include "app/config.h"
 
+#include <QHash>
 #include <QObject>
 
 class ConfigPage;
@@ -26,25 +27,37 @@ public:
     // The page is the parent. The second of two inputs gets mnemonics of its own.
     UdpInputFields(const Members &members, bool second, ConfigPage *page);
 
+    // Offers these; the chosen one stays chosen, though it has gone.
+    void setInterfaces(const QList<QNetworkInterface> &interfaces);
+
     bool validate();
     // Notes under the port that another input listens there already.
     bool validateAgainst(const UdpInputFields &other);
+    // Whether there is anything to listen to, without a note.
+    bool isComplete() const { return faultOfGroup().isEmpty(); }
 
     void setVisible(bool visible);
     void setEnabled(bool enabled);
 
+Q_SIGNALS:
+    // A field holds something else.
+    void edited();
+
 private:
     void addRows(bool second);
     void bindTo(ConfigPage *page, const Members &members);
-    void fillInterfaces();
+    void connectFields();
+    void addInterface(const QNetworkInterface &interface, const QString &text);
     void showInterface(const QNetworkInterface &interface);
     void updateEnabled();
+    QString faultOfGroup() const;
     QHostAddress group() const; // null unless the text is a multicast group
 
     FieldForm *m_form;
     bool m_enabled = true;
     QCheckBox *m_multicast = nullptr;
     QLineEdit *m_group = nullptr;
-    QComboBox *m_interface = nullptr;
+    QComboBox *m_interface = nullptr; // items hold names
+    QHash<QString, QNetworkInterface> m_known; // by name, those that have gone since among them
     QSpinBox *m_port = nullptr;
 };
