@@ -9,13 +9,13 @@
 #include "app/app_identity.h"
 #include "app/app_paths.h"
 #include "app/theme_library.h"
+#include "demonstration/demo_traffic.h"
 #include "display/geo_map_display.h"
 #include "display/geo_track_display.h"
 #include "orientation/geo_range_ring_map.h"
 #include "plan_view/geo_widget.h"
 #include "ui/main_window.h"
 #include "ui/theme_menu.h"
-#include "vyxdisplay/demo_traffic.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

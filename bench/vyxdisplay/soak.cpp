@@ -5,9 +5,9 @@
 
 #include "app/app_identity.h"
 #include "app/app_paths.h"
+#include "demonstration/demo_traffic.h"
 #include "engine/data_engine.h"
 #include "ui/main_window.h"
-#include "vyxdisplay/demo_traffic.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -4,6 +4,7 @@
 #include "app/settings_owner.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <utility>
@@ -28,12 +29,13 @@ void copyLook(const Config &from, Config &to)
     }
 }
 
-// What the file says of the look goes into the look to be stored, but where the operator has just changed it.
-void keepLook(const Config &before, const Config &edited, const Config &file, Config &stored)
+// What the user has changed. The groups that an input is opened with go together, so that two of them are never mixed.
+void takeOver(const Config &before, const Config &edited, Config &target, SettingGroups wholeGroups)
 {
     for (const Setting &setting : Setting::all()) {
-        if (setting.themed() && setting.same(before, edited)) {
-            setting.copy(file, stored);
+        const bool ofTheRun = bool(setting.groups() & RunGroups);
+        if (ofTheRun ? bool(setting.groups() & wholeGroups) : !setting.same(before, edited)) {
+            setting.copy(edited, target);
         }
     }
 }
@@ -43,6 +45,7 @@ void keepLook(const Config &before, const Config &edited, const Config &file, Co
 RunConfig::RunConfig(const QString &fileName, std::chrono::milliseconds writeDelay, QObject *parent)
     : QObject(parent), m_fileName(fileName)
 {
+    m_new = !QFileInfo::exists(fileName);
     m_stored.load(fileName);
     m_live = m_stored;
     m_themeNamed = QSettings(fileName, QSettings::IniFormat).contains(Setting::of(&Config::displayTheme).key());
@@ -70,10 +73,23 @@ void RunConfig::beginWithLook(const Config &look)
 SettingGroups RunConfig::setAside(const Config &proposed, SettingGroups groups)
 {
     const Config before = m_live;
+    if (m_trial) {
+        bringBack();
+    }
     if (!m_aside) {
         m_aside = m_live;
     }
     copyGroups(proposed, m_live, groups);
+    return Config::changedGroups(before, m_live);
+}
+
+SettingGroups RunConfig::beginTrial(const std::function<void(Config &)> &change)
+{
+    const Config before = m_live;
+    bringBack();
+    m_aside = m_live;
+    m_trial = true;
+    change(m_live);
     return Config::changedGroups(before, m_live);
 }
 
@@ -84,6 +100,9 @@ SettingGroups RunConfig::bringBack()
     }
     const Config before = std::exchange(m_live, *m_aside);
     m_aside.reset();
+    if (std::exchange(m_trial, false)) {
+        Q_EMIT trialEnded();
+    }
     return Config::changedGroups(before, m_live);
 }
 
@@ -99,20 +118,22 @@ void RunConfig::applyLook(const Config &edited)
 
 void RunConfig::take(const Config &edited, bool wholeLook)
 {
-    const SettingGroups kept = RunGroups & ~Config::changedGroups(m_live, edited);
-    Config stored = edited;
-    copyGroups(m_stored, stored, kept);
-    if (!wholeLook) {
-        keepLook(m_live, edited, m_stored, stored);
+    const SettingGroups changed = Config::changedGroups(m_live, edited);
+    const SettingGroups stays = m_trial ? SettingGroups() : changed;
+    Config stored = m_stored;
+    takeOver(m_live, edited, stored, stays);
+    if (wholeLook) {
+        copyLook(edited, stored);
     }
     if (m_aside) {
-        copyGroups(edited, *m_aside, Config::changedGroups(m_live, edited));
+        takeOver(m_live, edited, *m_aside, stays);
     }
     m_live = edited;
     if (!Config::changedGroups(m_stored, stored)) {
         return;
     }
     m_stored = stored;
+    m_new = false;
     m_waiting = true;
     if (!m_writeTimer.isActive()) {
         m_writeTimer.start();

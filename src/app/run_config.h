@@ -28,6 +28,8 @@ public:
     // For this run only, to settings of inputs, processor, sensor and look.
     void overrideWith(const std::function<void(Config &)> &change);
 
+    // There was no file, and nothing has been changed since.
+    bool isNew() const { return m_new; }
     // Whether the file says which theme was chosen last.
     bool themeNamed() const { return m_themeNamed; }
     // As if the file had this look. It is written with the first change.
@@ -35,10 +37,15 @@ public:
 
     // Takes over the values of these groups for as long as a recording is played. The groups that changed.
     SettingGroups setAside(const Config &proposed, SettingGroups groups);
-    // Back to what was in force before the first recording, but for groups that the user has edited since. The groups
-    // that changed.
+    // All settings are a trial's, such as a demonstration's, until they are brought back or a recording is played.
+    // Until then nothing of its input, processor and sensor is stored, and of the rest only what the user changes. The
+    // groups that changed.
+    SettingGroups beginTrial(const std::function<void(Config &)> &change);
+    bool onTrial() const { return m_trial; }
+    // Back to what was in force before the first recording, but for groups that the user has edited since, or before
+    // the trial. The groups that changed.
     SettingGroups bringBack();
-    // What is in force while no recording is played.
+    // What is in force while no recording is played and nothing is on trial.
     const Config &own() const { return m_aside ? *m_aside : m_live; }
 
     // Takes over settings that the user edited, beginning from live(). A group that he edited is stored as he saw it:
@@ -55,6 +62,7 @@ public:
 
 Q_SIGNALS:
     void writeFailed(const QString &text);
+    void trialEnded();
 
 private:
     void take(const Config &edited, bool wholeLook);
@@ -62,7 +70,9 @@ private:
     QString m_fileName;
     Config m_stored; // as in the file, or to be
     Config m_live;
-    std::optional<Config> m_aside; // m_live before the first recording
+    std::optional<Config> m_aside; // m_live before the first recording, or the trial
+    bool m_trial = false;
+    bool m_new = false;
     bool m_themeNamed = false;
     bool m_waiting = false;
     bool m_unsavedTold = false; // that another process keeps the settings

@@ -1,13 +1,13 @@
 #include "window_fixture.h"
 
 #include "app/map_places.h"
+#include "demonstration/demo_traffic.h"
 #include "display/geo_map_display.h"
 #include "display/geo_plot_map.h"
 #include "display/geo_track_display.h"
 #include "plan_view/geo_widget.h"
 #include "test_program.h"
 #include "tracking/plot_store.h"
-#include "vyxdisplay/demo_traffic.h"
 #include "vyxdisplay/exit_report.h"
 #include "vyxdisplay/termination_signals.h"
 

@@ -1,4 +1,4 @@
-#include "vyxdisplay/demo_traffic.h"
+#include "demonstration/demo_traffic.h"
 
 #include "app/app_paths.h"
 #include "app/config.h"
@@ -14,6 +14,7 @@
 namespace {
 
 constexpr auto ProgramName = "vyx-traffic";
+constexpr auto DefaultScenario = "demo";
 constexpr auto MapIndex = "demo.idx"; // among the maps that are installed
 constexpr double AerodromeReach = 10.0; // nautical miles
 constexpr int MostRings = 20;
@@ -34,7 +35,7 @@ Config::ProcessorType processorOf(const QJsonObject &source)
 } // namespace
 
 DemoTraffic::DemoTraffic(const QString &scenario, const QString &program, QObject *parent)
-    : QObject(parent), m_scenario(scenario.isEmpty() ? "demo" : scenario), m_program(program)
+    : QObject(parent), m_scenario(scenario.isEmpty() ? DefaultScenario : scenario), m_program(program)
 {
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setStandardOutputFile(QProcess::nullDevice());
@@ -82,10 +83,20 @@ QString DemoTraffic::list(QString *error, const QString &program)
     return QString::fromUtf8(answer(program, {"--list"}, error));
 }
 
+QByteArray DemoTraffic::askForSensor(const QString &scenario, const QString &program, QString *error)
+{
+    return answer(program, {scenario.isEmpty() ? DefaultScenario : scenario, "--sensor-json"}, error);
+}
+
+bool DemoTraffic::takeSensor(const QByteArray &json, QString *error)
+{
+    return readSensor(json, error) && findPort(error);
+}
+
 bool DemoTraffic::prepare(QString *error)
 {
-    const QByteArray json = answer(m_program, {m_scenario, "--sensor-json"}, error);
-    return !json.isNull() && readSensor(json, error) && findPort(error);
+    const QByteArray json = askForSensor(m_scenario, m_program, error);
+    return !json.isNull() && takeSensor(json, error);
 }
 
 bool DemoTraffic::readSensor(const QByteArray &json, QString *error)
@@ -154,6 +165,17 @@ void DemoTraffic::start()
         m_process.start(
             m_program, {m_scenario, "--with-parent", "--wall-clock", "--to", QString("udp:127.0.0.1:%1").arg(m_port)});
     }
+}
+
+void DemoTraffic::endSoon()
+{
+    m_process.disconnect(this);
+    if (m_process.state() == QProcess::NotRunning) {
+        deleteLater();
+        return;
+    }
+    connect(&m_process, &QProcess::finished, this, &QObject::deleteLater);
+    m_process.terminate();
 }
 
 void DemoTraffic::reportEnd(int exitCode, QProcess::ExitStatus status)

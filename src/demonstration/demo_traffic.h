@@ -26,6 +26,10 @@ public:
     // Asks the generator for the scenario's sensor and finds a free port. False, with one line in error, when that
     // fails. Waits for the generator, a moment.
     bool prepare(QString *error);
+    // The two halves of it. The first waits, on any thread: null, with one line in error, when the generator does not
+    // answer.
+    static QByteArray askForSensor(const QString &scenario, const QString &program, QString *error);
+    bool takeSensor(const QByteArray &json, QString *error);
     // Input, sensor, maps and range rings of the demonstration. Only after prepare().
     void applyTo(Config &config) const;
 
@@ -35,6 +39,8 @@ public:
 
     // Sends from now on; a second call does nothing.
     void start();
+    // Ends the traffic without waiting for it; this object deletes itself then.
+    void endSoon();
 
 Q_SIGNALS:
     void message(LogLevel level, const QString &text);
