@@ -176,6 +176,9 @@ constexpr ActionSpec Specs[] = {
         QT_TRANSLATE_NOOP("Actions", "Show what symbols and weather colours mean"), "", "map-key", true, MenuId::Map,
         ToolBarId::None, false},
 
+    {ActionId::GettingStarted, QT_TRANSLATE_NOOP("Actions", "Getting Started..."), "",
+        QT_TRANSLATE_NOOP("Actions", "To a picture step by step: demonstration, recording or live input"), "",
+        "getting-started", false, MenuId::Help, ToolBarId::None, false},
     {ActionId::CheatSheet, QT_TRANSLATE_NOOP("Actions", "Cheat Sheet..."), "",
         QT_TRANSLATE_NOOP("Actions", "Show Cheat Sheet"), "F1", "cheat-sheet", false, MenuId::Help, ToolBarId::None,
         false},

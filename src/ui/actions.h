@@ -45,6 +45,7 @@ enum class ActionId : std::size_t {
     DiagnoseInput,
     SensorManager,
     SensorCheck,
+    GettingStarted,
     CheatSheet,
     WhatsNew,
     About,

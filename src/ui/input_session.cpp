@@ -39,7 +39,9 @@ QString InputSession::notice() const
         break;
     }
     if (!m_sensor) {
-        return tr("No sensor is configured. Choose one in Settings (F10), then press Start.");
+        return tr(
+            "No sensor is configured. Choose one in Settings (F10), then press Start; or let Help, Getting Started, "
+            "lead you.");
     }
     if (!m_fault.isEmpty()) {
         return m_wasOpen ? tr("Input stopped. %1\nThis is the last picture.").arg(m_fault) : m_fault;

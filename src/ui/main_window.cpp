@@ -8,6 +8,7 @@
 #include "display/geo_map_display.h"
 #include "display/geo_track_display.h"
 #include "engine/data_engine.h"
+#include "first_start/first_start.h"
 #include "health/input_health.h"
 #include "inspection/inspection.h"
 #include "lists/list_panes.h"
@@ -98,6 +99,7 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     connectDisplay();
     connectScopeNotices();
     connectHealth();
+    connectFirstStart();
     connectInputActions();
     connectViewActions();
     connectTrackActions();

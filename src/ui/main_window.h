@@ -19,6 +19,7 @@
 
 class Actions;
 class EmptyScope;
+class FirstStart;
 class GeoMapDisplay;
 class GeoTrackDisplay;
 class GeoWidget;
@@ -152,6 +153,7 @@ public Q_SLOTS:
     void showRangeRingWindow();
     void showWeatherIntensityWindow();
     void showTrackLabelFormatWindow();
+    void showGettingStarted();
     void showCheatSheet();
     void showAbout();
     void showChangelog();
@@ -205,6 +207,7 @@ private:
     void connectDisplay();
     void connectScopeNotices();
     void connectHealth();
+    void connectFirstStart();
     void connectInputActions();
     void connectViewActions();
     void connectTrackActions();
@@ -231,6 +234,8 @@ private:
     void refuseRecording(const QString &reason);
     // From the settings window.
     void takeSettings(const Config &edited);
+    // The same, and opens the input with them.
+    void startWith(const Config &edited);
     void editConfig(const std::function<void(Config &)> &change);
     void loadSensorDatabase();
     void loadAircraftDatabase();
@@ -302,6 +307,7 @@ private:
     std::unique_ptr<TileMaps> m_tileMaps;
     std::unique_ptr<ReplayControls> m_replay;
     std::unique_ptr<SensorCheck> m_sensorCheck;
+    std::unique_ptr<FirstStart> m_firstStart;
     QTimer m_clockTimer;
 
     QSize m_sizeOfRun; // empty: as stored

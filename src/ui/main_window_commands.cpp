@@ -2,6 +2,7 @@
 
 #include "app/app_paths.h"
 #include "assessment_windows/sensor_check.h"
+#include "first_start/first_start.h"
 #include "health/health_dock.h"
 #include "health/input_health.h"
 #include "lists/list_panes.h"
@@ -73,7 +74,7 @@ void MainWindow::closeInput()
 
 void MainWindow::stopInput()
 {
-    const bool live = inputOpen() && !m_session->replaying();
+    const bool live = inputOpen() && !m_session->replaying() && !m_config.onTrial();
     const quint64 request = m_session->requestId();
     // While the question stood open the input may have ended, and another may have taken its place.
     if (!live || (m_questions.stop() && request == m_session->requestId())) {
@@ -100,6 +101,7 @@ void MainWindow::showSession()
 {
     m_pump->setInputLive(!m_session->replaying());
     m_sensorCheck->setInput(inputOpen(), m_session->description(), config());
+    m_firstStart->setInput(m_session->state() == InputSession::State::Closed, m_session->replaying());
     updateInputActions();
     tellHealthOfInput();
     updateNotices();

@@ -7,6 +7,7 @@
 #include "display/geo_map_display.h"
 #include "display/geo_track_display.h"
 #include "engine/data_engine.h"
+#include "first_start/first_start.h"
 #include "lists/list_panes.h"
 #include "orientation/geo_sensor_map.h"
 #include "plan_view/geo_widget.h"
@@ -114,6 +115,27 @@ void MainWindow::connectScopeNotices()
     connect(m_pump.get(), &SnapshotPump::snapshotTaken, scope, &EmptyScope::look);
     connect(m_pump.get(), &SnapshotPump::radarPictureTaken, scope, &EmptyScope::noteRadarPicture);
     connect(scope, &EmptyScope::changed, this, &MainWindow::updateNotices);
+}
+
+void MainWindow::connectFirstStart()
+{
+    m_firstStart = std::make_unique<FirstStart>(
+        FirstStart::Window{this, &m_config, m_sensors.get(), &m_host, [this] { return m_questions.stop(); }});
+    FirstStart *start = m_firstStart.get();
+    connect((*m_actions)[ActionId::GettingStarted], &QAction::triggered, start, &FirstStart::show);
+    connect(start, &FirstStart::logMessage, this, &MainWindow::showLog);
+    connect(start, &FirstStart::themeChosen, m_themes, &ThemeMenu::beginOrChoose);
+    connect(start, &FirstStart::recordingWanted, this, &MainWindow::openRecordingFile);
+    connect(start, &FirstStart::inputUnwanted, this, &MainWindow::closeInput);
+    connect(start, &FirstStart::settingsEntered, this, &MainWindow::startWith);
+    connect(start, &FirstStart::demoBegun, this, [this](SettingGroups changed) {
+        takeRunSettings(changed);
+        m_session->restart({});
+    });
+    connect(start, &FirstStart::demoEnded, this, &MainWindow::takeRunSettings);
+    connect(this, &MainWindow::inputOpened, start, &FirstStart::onInputOpened);
+    connect(this, &MainWindow::inputClosed, start, &FirstStart::onInputClosed);
+    connect(this, &MainWindow::inputFailed, start, &FirstStart::onInputClosed);
 }
 
 void MainWindow::connectInputActions()

@@ -3,6 +3,7 @@
 #include "app/app_paths.h"
 #include "assessment_windows/sensor_check.h"
 #include "display/geo_map_display.h"
+#include "first_start/first_start.h"
 #include "help/about_window.h"
 #include "help/changelog_window.h"
 #include "help/cheat_sheet_window.h"
@@ -128,6 +129,7 @@ void MainWindow::showConfigWindow()
 {
     auto *window = new ConfigWindow(m_config.live(), m_sensors.get(), this);
     window->setConsent([this](const Config &edited) { return m_mapWindows->settle(edited); });
+    window->setEngine(&m_host);
     window->setInputRunning(m_session->state() != InputSession::State::Closed);
     connect(m_session.get(), &InputSession::changed, window,
         [this, window] { window->setInputRunning(m_session->state() != InputSession::State::Closed); });
@@ -167,6 +169,15 @@ void MainWindow::showProfileWindow()
         }
     });
     openOver(window);
+}
+
+void MainWindow::startWith(const Config &edited)
+{
+    if (!m_mapWindows->settle(edited)) {
+        return;
+    }
+    takeSettings(edited);
+    m_session->restart({});
 }
 
 void MainWindow::showRotationWindow()
@@ -239,6 +250,11 @@ void MainWindow::showStatsWindow()
 {
     m_pump->publishDropStats(); // otherwise only once a minute
     bringUp(m_windows.stats);
+}
+
+void MainWindow::showGettingStarted()
+{
+    m_firstStart->show();
 }
 
 void MainWindow::showCheatSheet()

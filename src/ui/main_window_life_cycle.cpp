@@ -73,7 +73,9 @@ void MainWindow::saveUiState() const
     UiState::saveValue(group, ArrangementKey, saveState(ArrangementVersion));
     m_lists->save(group);
     UiState::saveValue(group, TrackFormatKey, m_themes->formatToStore());
-    m_home->save(group);
+    if (!m_config.onTrial()) {
+        m_home->save(group);
+    }
 }
 
 void MainWindow::arrangeDocks()

@@ -102,6 +102,20 @@ void ThemeMenu::beginWith(const Theme &theme)
     Q_EMIT changed(Config::changedGroups(before, m_config->live()));
 }
 
+// Nothing is written for his first look around: he has set up nothing yet.
+void ThemeMenu::beginOrChoose(const QString &name)
+{
+    const Theme *theme = m_library.find(name);
+    if (!theme || theme->name() == m_config->live().displayTheme) {
+        return;
+    }
+    if (m_config->isNew()) {
+        beginWith(*theme);
+    } else {
+        choose(name);
+    }
+}
+
 void ThemeMenu::choose(const QString &name)
 {
     const Theme *found = m_library.find(name);

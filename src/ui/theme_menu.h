@@ -30,6 +30,8 @@ public:
     // While the settings file names no theme. Before restoreFormat().
     void beginWith(const Theme &theme);
 
+    // The operator's choice for his first run, or else as choose() takes it; nothing where it is in force already.
+    void beginOrChoose(const QString &name);
     // The operator's choice. One of that name must be there; upper and lower case do not matter.
     void choose(const QString &name);
     void undo();

@@ -358,6 +358,12 @@ QString CommandLine::versionText()
         .arg(QGuiApplication::applicationDisplayName(), QCoreApplication::applicationVersion(), buildRevision());
 }
 
+bool CommandLine::saysWhatToDo() const
+{
+    return start || demo || input || sensor || sensorAuto || processor || exitAtEnd || exitAfter
+        || !screenshot.isEmpty() || !snapshot.isEmpty();
+}
+
 void CommandLine::applyTo(Config &config) const
 {
     if (input) {

@@ -53,6 +53,8 @@ public:
         QString path; // of its control socket
         QJsonObject request;
     };
+    // Somebody has said what is to be seen, or nobody is there to be asked.
+    bool saysWhatToDo() const;
 
     bool help = false;
     bool version = false;

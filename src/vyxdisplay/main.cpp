@@ -27,8 +27,10 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QIcon>
 #include <QJsonDocument>
+#include <QLocale>
 #include <QLoggingCategory>
 #include <QSplashScreen>
 #include <QTimer>
@@ -220,6 +222,9 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
         openInput(commandLine, window);
     }
     openFiles(commandLine, window);
+    if (!commandLine.saysWhatToDo() && !QFileInfo::exists(AppPaths::configFile())) {
+        window.showGettingStarted();
+    }
     if (commandLine.exitAfter) {
         QTimer::singleShot(*commandLine.exitAfter, &window, &MainWindow::requestExit);
     }

@@ -128,6 +128,10 @@ private Q_SLOTS:
         QCOMPARE(parsed({"--theme", "My Night", "--size=1280X720"}).size, QSize(1280, 720));
         QCOMPARE(parsed({"--size=400x300"}).size, QSize(400, 300));
         QCOMPARE(all.screenshot + ' ' + all.snapshot, QStringLiteral("a=b.png c.json"));
+        for (const char *option : {"--start", "--exit-after=2.5", "--screenshot=a.png", "--demo", "--input=udp:9999"}) {
+            QVERIFY2(parsed({option}).saysWhatToDo(), option); // nobody waits for a guide
+        }
+        QVERIFY(!parsed({"--theme=Night", "--size=800x600"}).saysWhatToDo());
         QVERIFY(parsed({"-platform", "offscreen", "--style=fusion", "-reverse", "--start"}).start); // the toolkit's own
     }
 
