@@ -30,7 +30,6 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QJsonDocument>
-#include <QLocale>
 #include <QLoggingCategory>
 #include <QSplashScreen>
 #include <QTimer>
