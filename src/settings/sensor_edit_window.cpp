@@ -52,6 +52,7 @@ void SensorEditWindow::accept()
     names.removeAll(m_originalName);
     m_form->setNamesInUse(names);
     if (!m_form->validate()) {
+        findChild<FieldForm *>()->firstWithNote()->setFocus();
         return;
     }
     m_accepted = m_form->makeSensor();

@@ -1,144 +1,171 @@
 #include "settings/sensor_manager_window.h"
 
 #include "sensors/sensor_manager.h"
-#include "sensors/sensor_type_text.h"
 #include "settings/sensor_edit_window.h"
+#include "settings/sensor_list.h"
+#include "widgets/text_colors.h"
 
 #include <QDir>
-#include <QFileDialog>
+#include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
-#include <QMessageBox>
+#include <QMenu>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QShortcut>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
-namespace {
-
-QString openFailureReason(const QString &fileName)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return file.errorString();
-    }
-    return SensorManagerWindow::tr("It is no JSON list of sensors.");
-}
-
-QString saveFailureReason(const QString &fileName)
-{
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return file.errorString();
-    }
-    file.cancelWriting();
-    return SensorManagerWindow::tr("The device reported an error while writing.");
-}
-
-QTreeWidgetItem *makeItem(const SensorInfo &sensor)
-{
-    auto *item = new QTreeWidgetItem(
-        {sensor.name(), sensorTypeText(sensor.type()), QStringLiteral("%1/%2").arg(sensor.sac()).arg(sensor.sic()),
-            sensor.location().toATCString(GeoCoordinate::HighPrecision),
-            QStringLiteral("%1 %2").arg(sensor.manufacturer(), sensor.model()).trimmed(), sensor.description()});
-    item->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
-    return item;
-}
-
-} // namespace
+#include <algorithm>
 
 SensorManagerWindow::SensorManagerWindow(SensorManager *sensors, const QString &databaseFile, QWidget *parent)
-    : GeometryDialog(QStringLiteral("SensorManagerWindow"), parent), m_sensors(sensors), m_databaseFile(databaseFile),
-      m_fileLabel(new QLabel(this)), m_list(new QTreeWidget(this))
+    : GeometryDialog(QStringLiteral("SensorManagerWindow"), parent), m_sensors(sensors), m_history(sensors),
+      m_databaseFile(databaseFile), m_fileLabel(new QLabel(this)), m_note(new QLabel(this)),
+      m_list(new SensorList(this))
 {
     setWindowTitle(tr("Sensor Manager"));
     m_list->setObjectName(QStringLiteral("sensorList"));
-    m_list->setHeaderLabels(
-        {tr("Name"), tr("Type"), tr("SAC/SIC"), tr("Location"), tr("Manufacturer, model"), tr("Description")});
-    m_list->setRootIsDecorated(false);
-    m_list->setUniformRowHeights(true);
-    m_list->setAlternatingRowColors(true);
-    m_list->setSortingEnabled(true);
-    m_list->sortByColumn(0, Qt::AscendingOrder);
-    buildLayout();
-    connect(m_list, &QTreeWidget::itemSelectionChanged, this, &SensorManagerWindow::updateState);
-    connect(m_list, &QTreeWidget::itemActivated, this, &SensorManagerWindow::editSelected);
-    auto *removeKey = new QShortcut(QKeySequence::Delete, m_list);
-    removeKey->setContext(Qt::WidgetShortcut);
-    connect(removeKey, &QShortcut::activated, this, &SensorManagerWindow::removeSelected);
-    rememberSaved();
-    fillList();
-    selectSensor(m_list->topLevelItemCount() > 0 ? m_list->topLevelItem(0)->text(0) : QString());
-    resize(900, 420);
+    m_list->setAccessibleName(tr("Sensors"));
+    m_list->setToolTip(tr("In the order of the file; drag a sensor, or move it with Alt+Up and Alt+Down."));
+    m_note->setObjectName(QStringLiteral("note"));
+    m_note->setWordWrap(true);
+    auto *panes = new QHBoxLayout;
+    panes->addWidget(m_list, 1);
+    panes->addLayout(makeButtons());
+    auto *notes = new QHBoxLayout;
+    notes->addWidget(m_note, 1);
+    notes->addWidget(m_reloadButton);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_fileLabel);
+    layout->addLayout(notes);
+    layout->addLayout(panes, 1);
+    makeKeys();
+    connect(m_list, &SensorList::itemSelectionChanged, this, &SensorManagerWindow::updateState);
+    connect(m_list, &SensorList::itemActivated, this, &SensorManagerWindow::editSelected);
+    connect(m_list, &SensorList::orderChanged, this, &SensorManagerWindow::takeOrder, Qt::QueuedConnection);
+    showSensors();
+    selectSensor(m_sensors->sensors().isEmpty() ? QString() : m_sensors->sensors().constFirst()->name());
+    m_list->setFocus();
+    resize(fontMetrics().averageCharWidth() * 140, fontMetrics().height() * 26);
 }
 
-QPushButton *SensorManagerWindow::addButton(QLayout *layout, const QString &text)
+QPushButton *SensorManagerWindow::addButton(
+    QVBoxLayout *column, const QString &text, const QString &objectName, void (SensorManagerWindow::*pressed)())
 {
     auto *button = new QPushButton(text, this);
+    button->setObjectName(objectName);
     button->setAutoDefault(false); // the return key edits the selected sensor
-    layout->addWidget(button);
+    column->addWidget(button);
+    connect(button, &QPushButton::clicked, this, [this, pressed] { (this->*pressed)(); });
     return button;
 }
 
-void SensorManagerWindow::buildLayout()
+QVBoxLayout *SensorManagerWindow::makeButtons()
 {
+    using Window = SensorManagerWindow;
     auto *column = new QVBoxLayout;
-    connect(addButton(column, tr("&Add...")), &QPushButton::clicked, this, &SensorManagerWindow::addSensor);
-    m_editButton = addButton(column, tr("&Edit..."));
-    m_duplicateButton = addButton(column, tr("&Duplicate..."));
-    m_removeButton = addButton(column, tr("&Remove"));
+    addButton(column, tr("&Add..."), QStringLiteral("addButton"), &Window::addSensor);
+    m_buttons.edit = addButton(column, tr("&Edit..."), QStringLiteral("editButton"), &Window::editSelected);
+    m_buttons.duplicate =
+        addButton(column, tr("&Duplicate..."), QStringLiteral("duplicateButton"), &Window::duplicateSelected);
+    m_buttons.remove = addButton(column, tr("&Remove"), QStringLiteral("removeButton"), &Window::removeSelected);
+    m_buttons.up = addButton(column, tr("Move U&p"), QStringLiteral("upButton"), &Window::moveUp);
+    m_buttons.down = addButton(column, tr("Move Do&wn"), QStringLiteral("downButton"), &Window::moveDown);
+    m_buttons.undo = addButton(column, tr("U&ndo"), QStringLiteral("undoButton"), &Window::undo);
     column->addSpacing(12);
-    m_useButton = addButton(column, tr("&Use for input"));
-    m_useButton->setObjectName(QStringLiteral("useButton"));
+    m_buttons.use = addButton(column, tr("&Use for input"), QStringLiteral("useButton"), &Window::useSelected);
     column->addStretch(1);
-    connect(addButton(column, tr("&Open...")), &QPushButton::clicked, this, &SensorManagerWindow::openChosenFile);
-    m_saveButton = addButton(column, tr("&Save"));
-    connect(addButton(column, tr("Save &as...")), &QPushButton::clicked, this, &SensorManagerWindow::saveAs);
-    column->addSpacing(12);
-    connect(addButton(column, tr("&Close")), &QPushButton::clicked, this, &SensorManagerWindow::reject);
-    connect(m_editButton, &QPushButton::clicked, this, &SensorManagerWindow::editSelected);
-    connect(m_duplicateButton, &QPushButton::clicked, this, &SensorManagerWindow::duplicateSelected);
-    connect(m_removeButton, &QPushButton::clicked, this, &SensorManagerWindow::removeSelected);
-    connect(m_useButton, &QPushButton::clicked, this, &SensorManagerWindow::useSelected);
-    connect(m_saveButton, &QPushButton::clicked, this, &SensorManagerWindow::save);
-
-    auto *panes = new QHBoxLayout;
-    panes->addWidget(m_list, 1);
-    panes->addLayout(column);
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_fileLabel);
-    layout->addLayout(panes, 1);
+    auto *file = new QPushButton(tr("&File"), this);
+    file->setAutoDefault(false);
+    file->setMenu(makeFileMenu());
+    column->addWidget(file);
+    m_buttons.save = addButton(column, tr("&Save"), QStringLiteral("saveButton"), &Window::saveChanges);
+    addButton(column, tr("&Close"), QStringLiteral("closeButton"), &Window::reject);
+    m_reloadButton = new QPushButton(tr("Re&load"), this);
+    m_reloadButton->setObjectName(QStringLiteral("reloadButton"));
+    m_reloadButton->setAutoDefault(false);
+    connect(m_reloadButton, &QPushButton::clicked, this, &SensorManagerWindow::reload);
+    return column;
 }
 
-void SensorManagerWindow::fillList()
+QMenu *SensorManagerWindow::makeFileMenu()
 {
-    const QString selected = selectedName();
-    m_list->clear();
-    const QStringList names = m_sensors->sensorNames();
-    for (const QString &name : names) {
-        m_list->addTopLevelItem(makeItem(*m_sensors->findSensor(name)));
-    }
-    for (int column = 0; column < m_list->columnCount(); ++column) {
-        m_list->resizeColumnToContents(column);
-    }
-    selectSensor(selected);
+    auto *menu = new QMenu(this);
+    menu->addAction(tr("&Open..."), this, &SensorManagerWindow::openChosenFile);
+    menu->addAction(tr("&Save As..."), this, &SensorManagerWindow::saveAs);
+    menu->addSeparator();
+    menu->addAction(tr("&Import..."), this, &SensorManagerWindow::chooseImport);
+    menu->addAction(tr("&Export..."), this, &SensorManagerWindow::chooseExport);
+    return menu;
+}
+
+void SensorManagerWindow::makeKeys()
+{
+    const auto key = [this](const QKeySequence &keys, void (SensorManagerWindow::*pressed)()) {
+        auto *shortcut = new QShortcut(keys, m_list);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, pressed);
+    };
+    key(QKeySequence::Delete, &SensorManagerWindow::removeSelected);
+    key(QKeySequence(Qt::ALT | Qt::Key_Up), &SensorManagerWindow::moveUp);
+    key(QKeySequence(Qt::ALT | Qt::Key_Down), &SensorManagerWindow::moveDown);
+    key(QKeySequence::Undo, &SensorManagerWindow::undo);
+    key(QKeySequence::Save, &SensorManagerWindow::saveChanges);
+}
+
+void SensorManagerWindow::showSensors()
+{
+    m_list->setSensors(m_sensors->sensors());
     updateState();
+    updateNote();
 }
 
 void SensorManagerWindow::updateState()
 {
-    const QSharedPointer<SensorInfo> selected = m_sensors->findSensor(selectedName());
-    m_editButton->setEnabled(!selected.isNull());
-    m_duplicateButton->setEnabled(!selected.isNull());
-    m_removeButton->setEnabled(!selected.isNull());
-    m_useButton->setEnabled(!selected.isNull() && !m_inputRunning);
-    m_useButton->setToolTip(m_inputRunning ? tr("The input is running: stop it to choose another sensor.") : QString());
-    m_saveButton->setEnabled(m_changed || m_databaseFile.isEmpty());
+    const auto selected = m_list->selectedNames();
+    const bool one = selected.size() == 1;
+    m_buttons.edit->setEnabled(one);
+    m_buttons.duplicate->setEnabled(one);
+    m_buttons.remove->setEnabled(!selected.isEmpty());
+    for (QPushButton *button : {m_buttons.up, m_buttons.down}) {
+        button->setEnabled(one && m_list->inOwnOrder());
+        button->setToolTip(m_list->inOwnOrder() ? QString() : tr("Click the header until the list is not sorted."));
+    }
+    m_buttons.undo->setEnabled(m_history.canUndo());
+    m_buttons.use->setEnabled(one && !m_inputRunning);
+    m_buttons.use->setToolTip(
+        m_inputRunning ? tr("The input is running: stop it to choose another sensor.") : QString());
+    m_buttons.save->setEnabled(hasUnsavedChanges() || m_databaseFile.isEmpty());
     const QString file = m_databaseFile.isEmpty() ? tr("not saved yet") : QDir::toNativeSeparators(m_databaseFile);
-    m_fileLabel->setText(m_changed ? tr("File: %1 (changed)").arg(file) : tr("File: %1").arg(file));
+    m_fileLabel->setText(hasUnsavedChanges() ? tr("File: %1 (changed)").arg(file) : tr("File: %1").arg(file));
+}
+
+// What is most pressing to know of the file.
+void SensorManagerWindow::updateNote()
+{
+    const bool changedOutside = m_sensors->changedOutside(QFileInfo(m_databaseFile));
+    QString note;
+    if (changedOutside) {
+        note = tr("Another program has changed the file since it was read.");
+    } else if (!m_sensors->skipped().isEmpty()) {
+        note = tr("These records of the file could not be read, and will not be in it when it is saved:\n%1")
+                   .arg(shortened(m_sensors->skipped()));
+    } else if (m_sensors->sensors().isEmpty()) {
+        note = tr("No sensors yet. Add one, or import a file.");
+    }
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, warningTextColor(palette()));
+    m_note->setPalette(m_sensors->sensors().isEmpty() ? palette() : colors);
+    m_note->setText(note);
+    m_note->setVisible(!note.isEmpty());
+    m_reloadButton->setVisible(changedOutside);
+}
+
+void SensorManagerWindow::changeEvent(QEvent *event)
+{
+    GeometryDialog::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        updateNote();
+    }
 }
 
 void SensorManagerWindow::setInputRunning(bool running)
@@ -149,54 +176,43 @@ void SensorManagerWindow::setInputRunning(bool running)
 
 QString SensorManagerWindow::selectedName() const
 {
-    const QList<QTreeWidgetItem *> selected = m_list->selectedItems();
-    return selected.isEmpty() ? QString() : selected.first()->text(0);
+    const QStringList selected = m_list->selectedNames();
+    return selected.size() == 1 ? selected.constFirst() : QString();
 }
 
 void SensorManagerWindow::selectSensor(const QString &name)
 {
-    const QList<QTreeWidgetItem *> found = m_list->findItems(name, Qt::MatchExactly | Qt::MatchCaseSensitive, 0);
-    if (!found.isEmpty()) {
-        m_list->setCurrentItem(found.first());
+    m_list->select({name});
+}
+
+void SensorManagerWindow::change(const SensorHistory::Records &records)
+{
+    if (m_history.change(records)) {
+        showSensors();
+        Q_EMIT sensorsChanged();
     }
+}
+
+void SensorManagerWindow::takeOrder(const QStringList &names)
+{
+    SensorHistory::Records records;
+    for (const QString &name : names) {
+        records.append(m_sensors->findSensor(name));
+    }
+    change(records);
 }
 
 void SensorManagerWindow::putSensor(const QSharedPointer<SensorInfo> &sensor, const QString &replacedName)
 {
-    if (!replacedName.isEmpty()) {
-        m_sensors->removeSensor(replacedName);
+    SensorHistory::Records records = m_sensors->sensors();
+    const qsizetype place = records.indexOf(m_sensors->findSensor(replacedName));
+    if (place < 0) {
+        records.append(sensor);
+    } else {
+        records[place] = sensor;
     }
-    m_sensors->addSensor(sensor);
-    markChanged();
+    change(records);
     selectSensor(sensor->name());
-}
-
-void SensorManagerWindow::markChanged()
-{
-    m_changed = true;
-    fillList();
-    Q_EMIT sensorsChanged();
-}
-
-void SensorManagerWindow::rememberSaved()
-{
-    m_changed = false;
-    m_saved.clear();
-    const QStringList names = m_sensors->sensorNames();
-    for (const QString &name : names) {
-        m_saved.append(m_sensors->findSensor(name));
-    }
-}
-
-void SensorManagerWindow::discardChanges()
-{
-    m_sensors->reset();
-    for (const QSharedPointer<SensorInfo> &sensor : std::as_const(m_saved)) {
-        m_sensors->addSensor(sensor);
-    }
-    m_changed = false;
-    fillList();
-    Q_EMIT sensorsChanged();
 }
 
 void SensorManagerWindow::addSensor()
@@ -220,6 +236,16 @@ void SensorManagerWindow::editSelected()
     }
 }
 
+QString SensorManagerWindow::freeName(const QString &wanted, const SensorHistory::Records &taken)
+{
+    QString name = wanted;
+    const auto has = [&name](const QSharedPointer<SensorInfo> &sensor) { return sensor->name() == name; };
+    for (int count = 1; std::any_of(taken.begin(), taken.end(), has); ++count) {
+        name = QStringLiteral("%1_dup%2").arg(wanted).arg(count);
+    }
+    return name;
+}
+
 void SensorManagerWindow::duplicateSelected()
 {
     const QSharedPointer<SensorInfo> sensor = m_sensors->findSensor(selectedName());
@@ -227,11 +253,7 @@ void SensorManagerWindow::duplicateSelected()
     if (!copy) {
         return;
     }
-    QString name;
-    for (int count = 1; name.isEmpty() || m_sensors->hasSensor(name); ++count) {
-        name = QStringLiteral("%1_dup%2").arg(sensor->name()).arg(count);
-    }
-    copy->setName(name);
+    copy->setName(freeName(sensor->name(), m_sensors->sensors()));
     SensorEditWindow window(copy, m_sensors, this);
     window.setOriginalName(QString());
     if (window.exec() == QDialog::Accepted) {
@@ -241,12 +263,36 @@ void SensorManagerWindow::duplicateSelected()
 
 void SensorManagerWindow::removeSelected()
 {
-    const QString name = selectedName();
-    if (name.isEmpty()) {
-        return;
+    SensorHistory::Records records = m_sensors->sensors();
+    const QStringList names = m_list->selectedNames();
+    const auto first = std::find_if(
+        records.begin(), records.end(), [&names](const auto &sensor) { return names.contains(sensor->name()); });
+    const qsizetype place = first - records.begin();
+    records.removeIf([&names](const auto &sensor) { return names.contains(sensor->name()); });
+    change(records);
+    if (!names.isEmpty() && !records.isEmpty()) {
+        selectSensor(records.at(std::min(place, records.size() - 1))->name());
     }
-    m_sensors->removeSensor(name);
-    markChanged();
+}
+
+void SensorManagerWindow::moveSelected(int places)
+{
+    SensorHistory::Records records = m_sensors->sensors();
+    const qsizetype from = records.indexOf(m_sensors->findSensor(selectedName()));
+    const qsizetype to = from + places;
+    if (from >= 0 && to >= 0 && to < records.size() && m_list->inOwnOrder()) {
+        records.move(from, to);
+        change(records);
+    }
+}
+
+void SensorManagerWindow::undo()
+{
+    if (m_history.canUndo()) {
+        m_history.undo();
+        showSensors();
+        Q_EMIT sensorsChanged();
+    }
 }
 
 void SensorManagerWindow::useSelected()
@@ -254,100 +300,5 @@ void SensorManagerWindow::useSelected()
     const QSharedPointer<SensorInfo> sensor = m_sensors->findSensor(selectedName());
     if (sensor) {
         Q_EMIT sensorChosen(sensor);
-    }
-}
-
-void SensorManagerWindow::openChosenFile()
-{
-    if (!settleChanges()) {
-        return;
-    }
-    const QString fileName = QFileDialog::getOpenFileName(
-        this, tr("Open Sensor File"), m_databaseFile, tr("Sensor files (*.json);;All files (*)"));
-    if (!fileName.isEmpty()) {
-        openFile(fileName);
-    }
-}
-
-bool SensorManagerWindow::openFile(const QString &fileName)
-{
-    if (!m_sensors->loadFromJsonFile(QFileInfo(fileName))) {
-        reportFailure(tr("The sensor file could not be opened."), fileName, openFailureReason(fileName));
-        return false;
-    }
-    rememberSaved();
-    setDatabaseFile(fileName);
-    fillList();
-    Q_EMIT sensorsChanged();
-    return true;
-}
-
-bool SensorManagerWindow::save()
-{
-    return m_databaseFile.isEmpty() ? saveAs() : saveFile(m_databaseFile);
-}
-
-bool SensorManagerWindow::saveAs()
-{
-    const QString fileName = QFileDialog::getSaveFileName(
-        this, tr("Save Sensor File"), m_databaseFile, tr("Sensor files (*.json);;All files (*)"));
-    if (fileName.isEmpty()) {
-        return false;
-    }
-    return saveFile(fileName);
-}
-
-bool SensorManagerWindow::saveFile(const QString &fileName)
-{
-    if (!m_sensors->saveToJsonFile(QFileInfo(fileName))) {
-        reportFailure(tr("The sensor file could not be saved."), fileName, saveFailureReason(fileName));
-        return false;
-    }
-    rememberSaved();
-    setDatabaseFile(fileName);
-    updateState();
-    return true;
-}
-
-void SensorManagerWindow::setDatabaseFile(const QString &fileName)
-{
-    if (fileName == m_databaseFile) {
-        return;
-    }
-    m_databaseFile = fileName;
-    Q_EMIT databaseFileChanged(fileName);
-}
-
-bool SensorManagerWindow::settleChanges()
-{
-    if (!m_changed) {
-        return true;
-    }
-    QMessageBox question(QMessageBox::Question, tr("Sensor Manager"), tr("The sensors have been changed."),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
-    question.setInformativeText(tr("Save the changes to the sensor file?"));
-    question.setDefaultButton(QMessageBox::Save);
-    switch (question.exec()) {
-    case QMessageBox::Save:
-        return save();
-    case QMessageBox::Discard:
-        discardChanges();
-        return true;
-    default:
-        return false;
-    }
-}
-
-void SensorManagerWindow::reportFailure(const QString &text, const QString &fileName, const QString &reason)
-{
-    QMessageBox box(QMessageBox::Warning, tr("Sensor Manager"), text, QMessageBox::Ok, this);
-    box.setInformativeText(QStringLiteral("%1\n%2").arg(QDir::toNativeSeparators(fileName), reason));
-    box.exec();
-}
-
-void SensorManagerWindow::reject()
-{
-    if (settleChanges()) {
-        QDialog::reject();
     }
 }

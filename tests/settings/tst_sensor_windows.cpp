@@ -1,13 +1,18 @@
 #include "sensors/sensor_manager.h"
 #include "settings/sensor_edit_window.h"
 #include "settings/sensor_form.h"
+#include "settings/sensor_list.h"
 #include "settings/sensor_manager_window.h"
 #include "test_program.h"
 #include "widgets/field_form.h"
 
+#include <QCompleter>
+#include <QHeaderView>
 #include <QJsonDocument>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -27,9 +32,16 @@ private Q_SLOTS:
     void closingWithChangesAsks();
     void failuresNameFileAndReason();
     void offersEverySensorForInput();
+    void isDrivenByKeys();
+    void importsWhatIsGood();
+    void exportsWhatIsSelected();
+    void saysWhatAFileLoses();
+    void asksBeforeItWritesOverOthers();
+    void completesMakersAndModels();
 
 private:
     void answer(QMessageBox::StandardButton button);
+    QString written(const QString &name, const QByteArray &contents);
 
     QTemporaryDir m_dir;
     QString m_asked; // texts of the last message box
@@ -204,6 +216,165 @@ void TestSensorWindows::offersEverySensorForInput()
         use->click();
         QCOMPARE(chosen.last().first().value<QSharedPointer<SensorInfo>>()->name(), QString::fromLatin1(name));
     }
+}
+
+// A person's way through the list without a mouse, to the file and back.
+void TestSensorWindows::isDrivenByKeys()
+{
+    const QString file = m_dir.filePath(QStringLiteral("keys.json"));
+    SensorManager sensors;
+    for (const char *name : {"R3", "R1", "R2"}) {
+        sensors.addSensor(makeRadar(QString::fromLatin1(name)));
+    }
+    QVERIFY(sensors.saveToJsonFile(QFileInfo(file)));
+    SensorManagerWindow window(&sensors, file);
+    window.show();
+    auto *list = field<SensorList>(window, "sensorList");
+    const auto order = [&sensors] {
+        QStringList names;
+        for (const auto &sensor : sensors.sensors()) {
+            names.append(sensor->name());
+        }
+        return names.join(u' ');
+    };
+    QCOMPARE(window.selectedName(), "R3");
+    QTest::keyClick(list, Qt::Key_Down, Qt::AltModifier);
+    QTest::keyClick(list, Qt::Key_Down, Qt::AltModifier);
+    QTest::keyClick(list, Qt::Key_Down, Qt::AltModifier); // is last already
+    QCOMPARE(order(), "R1 R2 R3");
+    list->select({"R2", "R3"});
+    QTest::keyClick(list, Qt::Key_Delete);
+    QCOMPARE(order(), "R1");
+    QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(order(), "R1 R2 R3");
+    QTest::keyClick(list, Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!window.hasUnsavedChanges());
+    sensors.reset();
+    QVERIFY(sensors.loadFromJsonFile(QFileInfo(file)));
+    QCOMPARE(order(), "R1 R2 R3");
+
+    QVERIFY(window.openFile(file));
+    Q_EMIT list->orderChanged({"R2", "R3", "R1"}); // as after dragging
+    QTRY_COMPARE(order(), "R2 R3 R1");
+    QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY2(order() == "R1 R2 R3" && !window.hasUnsavedChanges(), "undone is unchanged");
+    list->header()->setSortIndicator(0, Qt::DescendingOrder);
+    window.selectSensor("R1");
+    QTest::keyClick(list, Qt::Key_Down, Qt::AltModifier);
+    QCOMPARE(order(), "R1 R2 R3"); // sorted, it has no places to move to
+
+    // Return edits: the name is taken, the reason stands at the field, another name is good.
+    QTimer::singleShot(0, this, [] {
+        auto *dialog = qobject_cast<SensorEditWindow *>(QApplication::activeModalWidget());
+        auto *name = dialog->findChild<QLineEdit *>("sensorName");
+        name->setText("R2");
+        QTest::keyClick(dialog, Qt::Key_Return);
+        QVERIFY(dialog->isVisible() && name->hasFocus());
+        QCOMPARE(dialog->findChild<FieldForm *>()->note(name), "Another sensor is named \"R2\".");
+        name->setText("R0");
+        QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    QTest::keyClick(list, Qt::Key_Return);
+    QCOMPARE(order(), "R0 R2 R3");
+}
+
+QString TestSensorWindows::written(const QString &name, const QByteArray &contents)
+{
+    QFile file(m_dir.filePath(name));
+    file.open(QIODevice::WriteOnly);
+    file.write(contents);
+    return file.fileName();
+}
+
+void TestSensorWindows::importsWhatIsGood()
+{
+    const QByteArray place = R"("location": "395427.35S0062317.08W", )";
+    const QString file = written("import.json",
+        "[{" + place + R"("type": "radar", "name": "R1"}, 7, {)" + place + R"("type": "Radar", "name": "X"},
+        {"type": "radar", "name": "Nowhere", "location": "39"}, {)"
+            + place + R"("type": "radar"}, {)" + place + R"("type": "mlat", "name": "M1", "sac": 300}])");
+    SensorManager sensors;
+    sensors.addSensor(makeRadar(QStringLiteral("R1")));
+    SensorManagerWindow window(&sensors, QString());
+    window.show();
+    answer(QMessageBox::Ok);
+    QVERIFY(window.importFile(file));
+    QCOMPARE(sensors.sensorNames(), QStringList({"M1", "R1", "R1_dup1"}));
+    for (const char *line : {"Record 2: it is no object.", "Record 3: \"X\" has no known type: \"Radar\".",
+             "Record 4: \"Nowhere\" has no valid location: \"39\".", "Record 5: it has no name.", "\"sac\": 300",
+             "\"R1\" is there already: imported as \"R1_dup1\"."}) {
+        QVERIFY2(m_asked.contains(line), qPrintable(m_asked));
+    }
+    field<QPushButton>(window, "undoButton")->click();
+    QCOMPARE(sensors.sensorNames(), QStringList("R1"));
+    answer(QMessageBox::Ok);
+    QVERIFY(!window.importFile(written("broken.json", "[{},\n{]")));
+    QVERIFY2(m_asked.contains("line 2"), qPrintable(m_asked));
+}
+
+void TestSensorWindows::exportsWhatIsSelected()
+{
+    SensorManager sensors;
+    for (const char *name : {"R1", "R2", "R3"}) {
+        sensors.addSensor(makeRadar(QString::fromLatin1(name)));
+    }
+    SensorManagerWindow window(&sensors, QString());
+    const QString file = m_dir.filePath(QStringLiteral("export.json"));
+    SensorManager exported;
+    field<SensorList>(window, "sensorList")->select({"R3", "R2"});
+    QVERIFY(window.exportFile(file) && exported.loadFromJsonFile(QFileInfo(file)));
+    QCOMPARE(exported.sensorNames(), QStringList({"R2", "R3"}));
+    field<SensorList>(window, "sensorList")->select({});
+    QVERIFY(window.exportFile(file) && exported.loadFromJsonFile(QFileInfo(file)));
+    QCOMPARE(exported.sensorNames().size(), 3);
+    QVERIFY(window.databaseFile().isEmpty());
+}
+
+void TestSensorWindows::saysWhatAFileLoses()
+{
+    const QString file = written("skips.json", R"([{"type": "radar", "name": "Nowhere"}])");
+    SensorManager sensors;
+    QVERIFY(sensors.loadFromJsonFile(QFileInfo(file)));
+    const SensorManagerWindow window(&sensors, file);
+    QVERIFY(field<QLabel>(window, "note")->text().contains("Record 1: \"Nowhere\" has no valid location"));
+}
+
+void TestSensorWindows::asksBeforeItWritesOverOthers()
+{
+    const QString file = m_dir.filePath(QStringLiteral("shared.json"));
+    SensorManager sensors;
+    sensors.addSensor(makeRadar(QStringLiteral("R1")));
+    QVERIFY(sensors.saveToJsonFile(QFileInfo(file)));
+    SensorManagerWindow window(&sensors, file);
+    window.show();
+    auto *reload = field<QPushButton>(window, "reloadButton");
+    QVERIFY(!reload->isVisible());
+    SensorManager other;
+    other.addSensor(makeRadar(QStringLiteral("THEIRS")));
+    QVERIFY(other.saveToJsonFile(QFileInfo(file)));
+    window.putSensor(makeRadar(QStringLiteral("R2")));
+    QVERIFY(reload->isVisible());
+    answer(QMessageBox::Cancel);
+    QVERIFY(!window.save() && window.hasUnsavedChanges());
+    QVERIFY(other.loadFromJsonFile(QFileInfo(file)) && other.hasSensor("THEIRS"));
+    answer(QMessageBox::Discard);
+    reload->click();
+    QCOMPARE(sensors.sensorNames(), QStringList("THEIRS"));
+    QVERIFY(!reload->isVisible() && !window.hasUnsavedChanges());
+    window.putSensor(makeRadar(QStringLiteral("R2")));
+    QVERIFY2(window.save(), "its own writing is no change by others");
+}
+
+void TestSensorWindows::completesMakersAndModels()
+{
+    SensorManager sensors;
+    sensors.addSensor(makeRadar(QStringLiteral("R1")));
+    SensorEditWindow window(nullptr, &sensors);
+    auto *model = field<QLineEdit>(window, "sensorModel");
+    QCOMPARE(model->completer()->completionCount(), 0);
+    field<QLineEdit>(window, "sensorManufacturer")->setText("Korvane");
+    model->completer()->setCompletionPrefix("k");
+    QCOMPARE(model->completer()->currentCompletion(), "K 2");
 }
 
 VYX_TEST(TestSensorWindows)
