@@ -258,6 +258,7 @@ void MainWindow::applyConfig(SettingGroups changed)
     }
     if (changed & SettingGroup::General) {
         applyWidgetStyle(config.displayStyle);
+        applyFontScale(config.displayFontScale);
         m_readOuts->setTimeZone(config.displayLocalTimeZoneName);
         m_actions->setToolBarText(config.displayToolbarText);
         updateClock();

@@ -244,6 +244,7 @@ int runApplication(int argc, char *argv[], const CommandLine &commandLine, const
     Config config;
     config.load(AppPaths::configFile());
     applyWidgetStyle(config.displayStyle);
+    applyFontScale(config.displayFontScale);
     Languages::install(config.displayLanguage);
 
     const ThemeLibrary themes;

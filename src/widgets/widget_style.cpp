@@ -4,8 +4,11 @@
 #include "app/theme.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QStyle>
 #include <QStyleFactory>
+
+#include <algorithm>
 
 void applyWidgetStyle(const QString &name)
 {
@@ -19,6 +22,21 @@ void applyWidgetStyle(const QString &name)
     }
     if (QStyle *style = QStyleFactory::create(key)) {
         QApplication::setStyle(style);
+    }
+}
+
+void applyFontScale(int percent)
+{
+    static const QFont first = QApplication::font();
+    const double factor = std::clamp(percent, 100, 200) / 100.0;
+    QFont font = first;
+    if (first.pointSizeF() > 0.0) {
+        font.setPointSizeF(first.pointSizeF() * factor);
+    } else {
+        font.setPixelSize(qRound(first.pixelSize() * factor));
+    }
+    if (font != QApplication::font()) { // costs a new layout of everything
+        QApplication::setFont(font);
     }
 }
 

@@ -7,5 +7,8 @@ class Theme;
 // that of the default setting or else the one that it began with.
 void applyWidgetStyle(const QString &name);
 
+// Makes the text of all windows that much larger than the system has it, 100 to 200 percent.
+void applyFontScale(int percent);
+
 // Gives all windows the colours of the theme, or those of the desktop where it has none.
 void applyWindowColors(const Theme &theme);
