@@ -11,6 +11,13 @@
 
 namespace {
 
+Config loaded(const QString &fileName)
+{
+    Config config;
+    config.load(fileName);
+    return config;
+}
+
 void copyGroups(const Config &from, Config &to, SettingGroups groups)
 {
     for (const Setting &setting : Setting::all()) {
@@ -42,12 +49,19 @@ void takeOver(const Config &before, const Config &edited, Config &target, Settin
 
 } // namespace
 
+void copyChanges(const Config &before, const Config &after, Config &to)
+{
+    for (const Setting &setting : Setting::all()) {
+        if (!setting.same(before, after)) {
+            setting.copy(after, to);
+        }
+    }
+}
+
 RunConfig::RunConfig(const QString &fileName, std::chrono::milliseconds writeDelay, QObject *parent)
-    : QObject(parent), m_fileName(fileName)
+    : QObject(parent), m_fileName(fileName), m_stored(loaded(fileName)), m_live(m_stored), m_lock(m_stored.settingsLock)
 {
     m_new = !QFileInfo::exists(fileName);
-    m_stored.load(fileName);
-    m_live = m_stored;
     m_themeNamed = QSettings(fileName, QSettings::IniFormat).contains(Setting::of(&Config::displayTheme).key());
     m_writeTimer.setSingleShot(true);
     m_writeTimer.setInterval(writeDelay);
@@ -106,31 +120,34 @@ SettingGroups RunConfig::bringBack()
     return Config::changedGroups(before, m_live);
 }
 
-void RunConfig::apply(const Config &edited)
+bool RunConfig::apply(const Config &edited)
 {
-    take(edited, edited.displayTheme != m_live.displayTheme);
+    return take(edited, edited.displayTheme != m_live.displayTheme);
 }
 
-void RunConfig::applyLook(const Config &edited)
+bool RunConfig::applyLook(const Config &edited)
 {
-    take(edited, true);
+    return take(edited, true);
 }
 
-void RunConfig::take(const Config &edited, bool wholeLook)
+bool RunConfig::take(const Config &edited, bool wholeLook)
 {
-    const SettingGroups changed = Config::changedGroups(m_live, edited);
-    const SettingGroups stays = m_trial ? SettingGroups() : changed;
+    if (m_lock.locked()) {
+        const bool operated = SettingsLock::operated(m_live, edited);
+        if (operated) {
+            makeLive(edited);
+        }
+        return operated;
+    }
     Config stored = m_stored;
-    takeOver(m_live, edited, stored, stays);
+    takeOver(m_live, edited, stored, groupsToKeep(edited));
     if (wholeLook) {
         copyLook(edited, stored);
     }
-    if (m_aside) {
-        takeOver(m_live, edited, *m_aside, stays);
-    }
-    m_live = edited;
+    makeLive(edited);
+    m_lock.setStored(edited.settingsLock);
     if (!Config::changedGroups(m_stored, stored)) {
-        return;
+        return true;
     }
     m_stored = stored;
     m_new = false;
@@ -138,13 +155,28 @@ void RunConfig::take(const Config &edited, bool wholeLook)
     if (!m_writeTimer.isActive()) {
         m_writeTimer.start();
     }
+    return true;
 }
 
-void RunConfig::edit(const std::function<void(Config &)> &change)
+// Of a trial's input, processor and sensor nothing is kept.
+SettingGroups RunConfig::groupsToKeep(const Config &edited) const
+{
+    return m_trial ? SettingGroups() : Config::changedGroups(m_live, edited);
+}
+
+void RunConfig::makeLive(const Config &edited)
+{
+    if (m_aside) {
+        takeOver(m_live, edited, *m_aside, groupsToKeep(edited));
+    }
+    m_live = edited;
+}
+
+bool RunConfig::edit(const std::function<void(Config &)> &change)
 {
     Config edited = m_live;
     change(edited);
-    apply(edited);
+    return apply(edited);
 }
 
 bool RunConfig::flush()

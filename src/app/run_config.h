@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/config.h"
+#include "app/settings_lock.h"
 
 #include <QObject>
 #include <QTimer>
@@ -9,9 +10,13 @@
 #include <functional>
 #include <optional>
 
+// Takes over from after what differs from before.
+void copyChanges(const Config &before, const Config &after, Config &to);
+
 // The settings of this run, and the settings file behind them. What the command line sets holds for this run alone: the
 // file keeps the user's own values of input, processor and sensor, each as a group, until he changes one of the group,
-// and his own look, each setting of it until he changes that one, or all of them until he chooses a theme.
+// and his own look, each setting of it until he changes that one, or all of them until he chooses a theme. While
+// settings are locked nothing of what is changed here reaches the file.
 class RunConfig final : public QObject {
     Q_OBJECT
 
@@ -48,13 +53,18 @@ public:
     // What is in force while no recording is played and nothing is on trial.
     const Config &own() const { return m_aside ? *m_aside : m_live; }
 
+    // Whoever has more than a switch to offer asks here first.
+    SettingsLock &lock() { return m_lock; }
+    const SettingsLock &lock() const { return m_lock; }
+
     // Takes over settings that the user edited, beginning from live(). A group that he edited is stored as he saw it:
-    // the run's own values go with his, so that the file never mixes two inputs or two sensors.
-    void apply(const Config &edited);
+    // the run's own values go with his, so that the file never mixes two inputs or two sensors. False, with nothing
+    // changed, where the lock forbids it; what SettingsLock::operated() leaves to the operator then holds for this run.
+    bool apply(const Config &edited);
     // The same for a change of the user's to single keys, wherever he made it.
-    void edit(const std::function<void(Config &)> &change);
+    bool edit(const std::function<void(Config &)> &change);
     // The same for a theme that he chose: all of its look is stored.
-    void applyLook(const Config &edited);
+    bool applyLook(const Config &edited);
 
     // Writes what waits, at once; nothing while another process keeps the settings. False when the file cannot be
     // written: it is tried again with the next change.
@@ -65,7 +75,9 @@ Q_SIGNALS:
     void trialEnded();
 
 private:
-    void take(const Config &edited, bool wholeLook);
+    bool take(const Config &edited, bool wholeLook);
+    SettingGroups groupsToKeep(const Config &edited) const;
+    void makeLive(const Config &edited);
 
     QString m_fileName;
     Config m_stored; // as in the file, or to be
@@ -73,6 +85,7 @@ private:
     std::optional<Config> m_aside; // m_live before the first recording, or the trial
     bool m_trial = false;
     bool m_new = false;
+    SettingsLock m_lock;
     bool m_themeNamed = false;
     bool m_waiting = false;
     bool m_unsavedTold = false; // that another process keeps the settings

@@ -39,6 +39,9 @@ constexpr ActionSpec Specs[] = {
     {ActionId::NewWindow, QT_TRANSLATE_NOOP("Actions", "New Window With Profile..."), "",
         QT_TRANSLATE_NOOP("Actions", "Start the program once more, with settings of its own"), "Ctrl+Shift+N",
         "new-window", false, MenuId::File, ToolBarId::None, false},
+    {ActionId::LockSettings, QT_TRANSLATE_NOOP("Actions", "Lock Settings..."), "",
+        QT_TRANSLATE_NOOP("Actions", "Who does not have the password changes no settings"), "", "lock-settings", false,
+        MenuId::File, ToolBarId::None, false},
     {ActionId::Exit, QT_TRANSLATE_NOOP("Actions", "Exit"), "", "", "", "exit", false,
         MenuId::File, ToolBarId::None, true},
 

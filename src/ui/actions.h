@@ -23,6 +23,7 @@ enum class ActionId : std::size_t {
     Record,
     Settings,
     NewWindow,
+    LockSettings,
     Exit,
     ZoomIn,
     ZoomOut,

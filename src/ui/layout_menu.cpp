@@ -1,6 +1,7 @@
 #include "ui/layout_menu.h"
 
 #include "app/app_paths.h"
+#include "app/settings_lock.h"
 #include "map_windows/layout_save_window.h"
 #include "plan_view/geo_widget.h"
 #include "ui/actions.h"
@@ -26,8 +27,8 @@ QString menuText(const QString &name)
 
 } // namespace
 
-LayoutMenu::LayoutMenu(QWidget *window, Actions *actions, GeoWidget *plan)
-    : m_window(window), m_actions(actions), m_plan(plan)
+LayoutMenu::LayoutMenu(QWidget *window, Actions *actions, GeoWidget *plan, const SettingsLock *lock)
+    : m_window(window), m_actions(actions), m_plan(plan), m_lock(lock)
 {
     connect(&m_layouts, &MapLayout::currentLayoutChanged, plan, &GeoWidget::changeViewPort);
     connect(&m_layouts, &MapLayout::saveViewport, plan, &GeoWidget::saveViewport, Qt::DirectConnection);
@@ -66,7 +67,7 @@ void LayoutMenu::leave()
 
 void LayoutMenu::save()
 {
-    if (!m_layouts.save(layoutFile())) {
+    if (!m_lock->locked() && !m_layouts.save(layoutFile())) {
         Q_EMIT logMessage(
             LogLevel::Warning, tr("Cannot write the layout file %1").arg(QDir::toNativeSeparators(layoutFile())));
     }
@@ -92,8 +93,10 @@ void LayoutMenu::updateMenu()
     connect(group, &QActionGroup::triggered, this, &LayoutMenu::loadLayout);
     for (const QString &name : stored) {
         removal->addAction(menuText(name), this, [this, name] {
-            m_layouts.removeLayout(name);
-            save();
+            m_lock->whenUnlocked([this, name] {
+                m_layouts.removeLayout(name);
+                save();
+            });
         });
     }
     menu->addSeparator();
@@ -107,6 +110,11 @@ void LayoutMenu::loadLayout(QAction *action)
 }
 
 void LayoutMenu::showSaveWindow()
+{
+    m_lock->whenUnlocked([this] { askForName(); });
+}
+
+void LayoutMenu::askForName()
 {
     auto *window = new LayoutSaveWindow(m_layouts.layoutNames(), m_window);
     window->setAttribute(Qt::WA_DeleteOnClose);

@@ -9,6 +9,7 @@ class Actions;
 class GeoWidget;
 class QAction;
 class QWidget;
+class SettingsLock;
 
 // Named views of the plan view: the menu that chooses and removes them, the window that saves one, and their file.
 class LayoutMenu final : public QObject {
@@ -16,7 +17,8 @@ class LayoutMenu final : public QObject {
 
 public:
     // All must outlive this object; the window is the parent of dialogs and menus.
-    LayoutMenu(QWidget *window, Actions *actions, GeoWidget *plan);
+    // While settings are locked, layouts are chosen for this run only.
+    LayoutMenu(QWidget *window, Actions *actions, GeoWidget *plan, const SettingsLock *lock);
 
     // The layout that was current when layouts were last changed or chosen comes back, even if the view was moved after
     // that: the operator chose where to begin. With the built-in one the view stays as it is.
@@ -39,9 +41,11 @@ private:
     // A layout other than the built-in one.
     bool chosen() const;
     void save();
+    void askForName();
 
     QWidget *m_window;
     Actions *m_actions;
     GeoWidget *m_plan;
+    const SettingsLock *m_lock;
     MapLayout m_layouts;
 };

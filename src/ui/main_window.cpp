@@ -19,6 +19,7 @@
 #include "raw_view/stream_windows.h"
 #include "sensors/sensor_info.h"
 #include "sensors/sensor_manager.h"
+#include "settings/lock_commands.h"
 #include "settings/track_label_format_window.h"
 #include "silence/geo_last_place_map.h"
 #include "tile_windows/tile_maps.h"
@@ -165,6 +166,7 @@ void MainWindow::makeFurniture()
     setObjectName("mainWindow");
     setAcceptDrops(true);
     m_actions = new Actions(this);
+    m_lock = std::make_unique<LockCommands>(this, (*m_actions)[ActionId::LockSettings], &m_config);
     m_themes = new ThemeMenu(this, m_actions, &m_config, m_trackDisplay.get());
     m_readOuts = new StatusReadOuts(statusBar(), &m_host.shared().projector);
     m_statusLine = std::make_unique<StatusLine>(statusBar());
@@ -208,8 +210,9 @@ void MainWindow::makeParts()
     m_trackCommands = std::make_unique<TrackCommands>(m_actions, m_geoWidget, m_trackDisplay.get(), m_lists.get());
     makeInspection();
     m_home = std::make_unique<HomeView>(m_geoWidget, &m_host.shared().projector, &m_config.live());
-    m_layoutMenu = std::make_unique<LayoutMenu>(this, m_actions, m_geoWidget);
-    m_mapWindows = std::make_unique<MapWindows>(this, m_actions, m_geoWidget, &m_host.shared().projector);
+    m_layoutMenu = std::make_unique<LayoutMenu>(this, m_actions, m_geoWidget, &m_config.lock());
+    m_mapWindows =
+        std::make_unique<MapWindows>(this, m_actions, m_geoWidget, &m_host.shared().projector, &m_config.lock());
     m_tileMaps = std::make_unique<TileMaps>(this, m_geoWidget, &m_host.shared().projector,
         [this](const std::function<void(Config &)> &change) { editConfig(change); });
     m_replay = std::make_unique<ReplayControls>(this, m_actions, &m_config, m_sensors.get(), &m_host, m_session.get());
@@ -327,6 +330,13 @@ void MainWindow::beginRadarPicture()
 void MainWindow::editConfig(const std::function<void(Config &)> &change)
 {
     const Config before = m_config.live();
-    m_config.edit(change);
+    if (!m_config.edit(change)) {
+        Config edited = before; // the change may refer to what is gone when it comes
+        change(edited);
+        m_config.lock().whenUnlocked([this, before, edited] {
+            editConfig([&before, &edited](Config &config) { copyChanges(before, edited, config); });
+        });
+        return;
+    }
     applyConfig(Config::changedGroups(before, m_config.live()));
 }

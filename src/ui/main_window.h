@@ -28,6 +28,7 @@ class InputHealth;
 class InputSession;
 class Inspection;
 class LayoutMenu;
+class LockCommands;
 class ListPanes;
 class LogPane;
 class MapWindows;
@@ -236,6 +237,7 @@ private:
     void takeSettings(const Config &edited);
     // The same, and opens the input with them.
     void startWith(const Config &edited);
+    // Asks for the password first where settings are locked; then the change comes later or never.
     void editConfig(const std::function<void(Config &)> &change);
     void loadSensorDatabase();
     void loadAircraftDatabase();
@@ -278,6 +280,7 @@ private:
     GeoWidget *m_geoWidget = nullptr;
     ScopeNotice *m_scopeNotice = nullptr;
     Actions *m_actions = nullptr;
+    std::unique_ptr<LockCommands> m_lock;
     ThemeMenu *m_themes = nullptr;
     StatusReadOuts *m_readOuts = nullptr;
     std::unique_ptr<StatusLine> m_statusLine;

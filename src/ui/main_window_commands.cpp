@@ -171,13 +171,13 @@ void MainWindow::cureSource(const SourceHealth &source)
         }
         return;
     case SourceJudgement::Cure::UseSacSic:
-        changeSensor([&statistics](Config &config) {
-            config.sensorSac = statistics.sac;
-            config.sensorSic = statistics.sic;
+        changeSensor([sac = statistics.sac, sic = statistics.sic](Config &config) {
+            config.sensorSac = sac;
+            config.sensorSic = sic;
         });
         return;
     case SourceJudgement::Cure::UseSensorKind:
-        changeSensor([&source](Config &config) { config.sensorType = source.judgement.cureKind; });
+        changeSensor([kind = source.judgement.cureKind](Config &config) { config.sensorType = kind; });
         return;
     case SourceJudgement::Cure::None:
         return;
@@ -186,12 +186,14 @@ void MainWindow::cureSource(const SourceHealth &source)
 
 void MainWindow::changeSensor(const std::function<void(Config &)> &change)
 {
-    editConfig(change);
-    applySensor();
-    if (inputOpen()) {
-        const auto snapshot = m_pump->newest();
-        m_session->restart(m_session->replaying() && snapshot ? snapshot->time : QDateTime());
-    }
+    m_config.lock().whenUnlocked([this, change] {
+        editConfig(change);
+        applySensor();
+        if (inputOpen()) {
+            const auto snapshot = m_pump->newest();
+            m_session->restart(m_session->replaying() && snapshot ? snapshot->time : QDateTime());
+        }
+    });
 }
 
 QString MainWindow::scopeNotice() const
@@ -442,8 +444,6 @@ void MainWindow::connectTileMaps()
 {
     connect(m_tileMaps.get(), &TileMaps::logMessage, this, &MainWindow::showLog);
     connect((*m_actions)[ActionId::ToggleTileMap], &QAction::triggered, m_tileMaps.get(), &TileMaps::show);
-    connect(
-        (*m_actions)[ActionId::TileDownloader], &QAction::triggered, this, &MainWindow::showBingMapsDownloaderWindow);
     connect(m_tileMaps.get(), &TileMaps::changed, this, [this] {
         (*m_actions)[ActionId::ToggleTileMap]->setChecked(m_tileMaps->shown());
         showHealth();

@@ -12,6 +12,8 @@
 #include "orientation/geo_sensor_map.h"
 #include "plan_view/geo_widget.h"
 #include "radar_painting/geo_video_map.h"
+#include "settings/lock_commands.h"
+#include "settings/track_label_format_window.h"
 #include "ui/actions.h"
 #include "ui/empty_scope.h"
 #include "ui/home_view.h"
@@ -33,6 +35,13 @@
 
 void MainWindow::connectThemes()
 {
+    connect(m_lock.get(), &LockCommands::logMessage, this, &MainWindow::showLog);
+    connect(m_lock.get(), &LockCommands::locked, this, [this] {
+        if (m_windows.trackLabelFormat) {
+            m_windows.trackLabelFormat->close();
+        }
+        m_mapWindows->close([] {});
+    });
     connect(m_themes, &ThemeMenu::logMessage, this, &MainWindow::showLog);
     connect(m_themes, &ThemeMenu::changed, this, &MainWindow::applyConfig);
     m_themes->reportProblems();

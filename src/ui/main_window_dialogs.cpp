@@ -15,6 +15,7 @@
 #include "sensors/sensor_info.h"
 #include "sensors/sensor_manager.h"
 #include "settings/config_window.h"
+#include "settings/lock_commands.h"
 #include "settings/sensor_manager_window.h"
 #include "settings/track_label_format_window.h"
 #include "ui/actions.h"
@@ -56,14 +57,19 @@ void bringUp(QDialog *dialog)
 void MainWindow::connectDialogActions()
 {
     const auto on = [this](ActionId id, auto slot) { connect((*m_actions)[id], &QAction::triggered, this, slot); };
-    on(ActionId::Settings, &MainWindow::showConfigWindow);
+    const auto onUnlocked = [this](ActionId id, auto slot) {
+        connect((*m_actions)[id], &QAction::triggered, this,
+            [this, slot] { m_config.lock().whenUnlocked([this, slot] { (this->*slot)(); }); });
+    };
+    onUnlocked(ActionId::Settings, &MainWindow::showConfigWindow);
+    onUnlocked(ActionId::TrackLabelFormat, &MainWindow::showTrackLabelFormatWindow);
+    onUnlocked(ActionId::SensorManager, &MainWindow::launchSensorManager);
+    onUnlocked(ActionId::TileDownloader, &MainWindow::showBingMapsDownloaderWindow);
     on(ActionId::NewWindow, &MainWindow::showProfileWindow);
     on(ActionId::Rotate, &MainWindow::showRotationWindow);
     on(ActionId::GoTo, &MainWindow::showSetCenterWindow);
     on(ActionId::RangeRings, &MainWindow::showRangeRingWindow);
     on(ActionId::WeatherIntensity, &MainWindow::showWeatherIntensityWindow);
-    on(ActionId::TrackLabelFormat, &MainWindow::showTrackLabelFormatWindow);
-    on(ActionId::SensorManager, &MainWindow::launchSensorManager);
     on(ActionId::CheatSheet, &MainWindow::showCheatSheet);
     on(ActionId::WhatsNew, &MainWindow::showChangelog);
     on(ActionId::About, &MainWindow::showAbout);
@@ -134,6 +140,8 @@ void MainWindow::showConfigWindow()
     connect(m_session.get(), &InputSession::changed, window,
         [this, window] { window->setInputRunning(m_session->state() != InputSession::State::Closed); });
     connect(window, &ConfigWindow::configApplied, this, &MainWindow::takeSettings);
+    connect(window, &QDialog::finished, m_lock.get(),
+        [this, before = m_config.live().settingsLock] { m_lock->lockIfNew(before); });
     connect(&m_config, &RunConfig::writeFailed, window, &ConfigWindow::showSaveProblem);
     openOver(window);
 }
@@ -143,7 +151,10 @@ void MainWindow::takeSettings(const Config &edited)
     const SettingGroups changed = Config::changedGroups(m_config.live(), edited);
     const Config before = m_config.live();
     const GeoCoordinate place = m_home->place();
-    m_config.apply(edited);
+    if (!m_config.apply(edited)) {
+        m_config.lock().whenUnlocked([this, edited] { takeSettings(edited); });
+        return;
+    }
     m_config.flush(); // the operator is told while his window is still open
     if (edited.displayTheme != before.displayTheme) {
         m_themes->noteChoice(before);

@@ -2,6 +2,7 @@
 
 #include "app/config.h"
 #include "app/map_places.h"
+#include "app/settings_lock.h"
 #include "display/geo_map_display.h"
 #include "map_editor/map_editor_window.h"
 #include "map_painting/geo_static_map.h"
@@ -27,7 +28,8 @@ void bringUp(QWidget *window)
 
 } // namespace
 
-MapWindows::MapWindows(QWidget *window, const Actions *actions, GeoWidget *plan, Projector *projector)
+MapWindows::MapWindows(
+    QWidget *window, const Actions *actions, GeoWidget *plan, Projector *projector, const SettingsLock *lock)
     : m_window(window), m_plan(plan), m_projector(projector), m_library(new MapLibrary(window))
 {
     new StaticMapFeed(m_library, plan->mapDisplay()->staticMap(), m_library);
@@ -35,9 +37,10 @@ MapWindows::MapWindows(QWidget *window, const Actions *actions, GeoWidget *plan,
         Q_EMIT logMessage(error ? LogLevel::Warning : LogLevel::Info, text);
     });
     connect(m_library, &MapLibrary::mapChanged, this, &MapWindows::announceLoading);
-    connect((*actions)[ActionId::StaticMaps], &QAction::triggered, this, &MapWindows::showMaps);
-    connect(
-        (*actions)[ActionId::StaticMapEditor], &QAction::triggered, this, [this] { showEditor({}, MapFile::Unknown); });
+    connect((*actions)[ActionId::StaticMaps], &QAction::triggered, this,
+        [this, lock] { lock->whenUnlocked([this] { showMaps(); }); });
+    connect((*actions)[ActionId::StaticMapEditor], &QAction::triggered, this,
+        [this, lock] { lock->whenUnlocked([this] { showEditor({}, MapFile::Unknown); }); });
 }
 
 // Left to their parent they would go after the display and the library that they work on.

@@ -18,6 +18,7 @@ class MapLibrary;
 class Projector;
 class StaticMapsWindow;
 class QWidget;
+class SettingsLock;
 
 // The static maps: the library of those that are open, the window that lists them and the editor. GUI thread.
 class MapWindows final : public QObject {
@@ -25,7 +26,9 @@ class MapWindows final : public QObject {
 
 public:
     // All must outlive this object; the plan view has its map by now. The window is the parent of the other two.
-    MapWindows(QWidget *window, const Actions *actions, GeoWidget *plan, Projector *projector);
+    // While settings are locked, their actions ask for the password.
+    MapWindows(
+        QWidget *window, const Actions *actions, GeoWidget *plan, Projector *projector, const SettingsLock *lock);
     ~MapWindows() override;
 
     // Opens index and style sheet. What is open already stays as it is, unsaved changes of the index included.

@@ -57,7 +57,8 @@ void ThemeMenu::fillMenu()
     m_menu->addSeparator();
     QAction *undoing = m_menu->addAction(tr("&Undo Theme"), this, &ThemeMenu::undo);
     undoing->setEnabled(m_before.has_value());
-    m_menu->addAction(tr("&Save as Theme..."), this, &ThemeMenu::askForName);
+    m_menu->addAction(
+        tr("&Save as Theme..."), this, [this] { m_config->lock().whenUnlocked([this] { askForName(); }); });
 }
 
 void ThemeMenu::addThemes()
@@ -123,16 +124,19 @@ void ThemeMenu::choose(const QString &name)
         Q_EMIT logMessage(LogLevel::Warning, tr("There is no theme \"%1\".").arg(name));
         return;
     }
-    const Theme chosen = *found;
-    m_before = lookNow(m_config->live());
-    apply(chosen);
+    m_config->lock().whenUnlocked([this, chosen = *found] {
+        m_before = lookNow(m_config->live());
+        apply(chosen);
+    });
 }
 
 void ThemeMenu::undo()
 {
-    if (m_before) {
-        apply(*std::exchange(m_before, std::nullopt));
-    }
+    m_config->lock().whenUnlocked([this] {
+        if (m_before) {
+            apply(*std::exchange(m_before, std::nullopt));
+        }
+    });
 }
 
 Theme ThemeMenu::lookNow(const Config &config) const

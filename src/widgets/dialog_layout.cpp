@@ -4,6 +4,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int Gap = 8; // pixels above the buttons
@@ -27,4 +29,10 @@ QDialogButtonBox *layOutDialog(QDialog *dialog, QWidget *contents, QDialogButton
     layout->addStretch(1);
     layout->addWidget(box);
     return box;
+}
+
+void growToContents(QDialog *dialog)
+{
+    dialog->layout()->activate();
+    dialog->resize(dialog->width(), std::max(dialog->height(), dialog->layout()->totalHeightForWidth(dialog->width())));
 }
