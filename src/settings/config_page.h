@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QList>
+#include <QSet>
 #include <QSpinBox>
 #include <QWidget>
 
@@ -19,7 +20,8 @@ class QLabel;
 class QLineEdit;
 
 // One page of the settings window. A page binds fields to settings, and touches no other setting of a record. A bound
-// field is named after its setting's key, and takes range and unit from the table of settings.
+// field is named after its setting's key, takes range and unit from the table of settings, and has a label and a tool
+// tip of one sentence; from these come search, marks and defaults.
 class ConfigPage : public QWidget {
     Q_OBJECT
 
@@ -32,9 +34,13 @@ public:
     // The settings that the page edits.
     const QList<const Setting *> &settings() const { return m_settings; }
 
+    // After the last row has been added: from now on the page tells of edits.
+    void finish();
+
     virtual void load(const Config &config);
-    // Only the settings that themes hold; what has been typed into other fields stays.
-    void loadLook(const Config &config);
+    // Only these settings; what has been typed into the fields of others stays.
+    using Which = std::function<bool(const Setting &setting)>;
+    virtual void showSettings(const Config &config, const Which &which);
     // Notes beside the fields what is wrong; true when nothing is.
     virtual bool validate() { return true; }
     // Only after a successful validate().
@@ -42,6 +48,17 @@ public:
 
     // Locks the page, and says why, if it edits what an input is opened with.
     virtual void setInputRunning(bool running);
+
+    // Whether a search for these words, in lower case, finds the row: each of them stands in it, over it, among what
+    // can be chosen there or in the key, or begins a word of the explanation.
+    bool says(const QWidget *field, const QStringList &words) const;
+    // Brings the row into sight by choosing what it belongs to. Where that would change a setting, the field that hides
+    // it by its choice is returned, else the field itself.
+    virtual QWidget *reveal(QWidget *field);
+    // Of the settings with these keys the operator has changed the values.
+    void markChanged(const QSet<QString> &keys);
+    // A search has found these rows, and shows one of them just now.
+    void markFound(const QList<QWidget *> &fields, const QWidget *current);
 
     // Show puts the setting's value into the field; entered is what stands there, nothing for what cannot be taken.
     template <typename T>
@@ -77,13 +94,26 @@ public:
             [field] { return std::optional(static_cast<T>(field->currentData().toInt())); });
     }
 
+Q_SIGNALS:
+    void edited();
+    void menuRequested(QWidget *field, const QPoint &globalPosition);
+
 protected:
+    void paintEvent(QPaintEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
+    // What a row belongs to that its own texts do not say.
+    virtual QString context(const QWidget *) const { return {}; }
+    // The field whose choice shows and hides others.
+    void setChooser(QWidget *field) { m_chooser = field; }
+
     template <typename T>
     using Choices = QList<std::pair<QString, T>>;
 
     // Rows of a label and a new field for the setting.
     QCheckBox *addSwitch(const QString &text, bool Config::*member, const QString &toolTip = {});
-    ColorButton *addColor(const QString &label, const QString &chooserTitle, QColor Config::*member);
+    ColorButton *addColor(
+        const QString &label, const QString &chooserTitle, QColor Config::*member, const QString &toolTip = {});
     QDoubleSpinBox *addNumber(
         const QString &label, double Config::*member, int decimals, double step, const QString &toolTip = {});
     template <typename T>
@@ -119,10 +149,16 @@ private:
     QSpinBox *addSpinBox(const QString &label, const QString &toolTip);
     QComboBox *addComboBox(const QString &label, const QString &toolTip);
     static void giveRange(QSpinBox *field, const Setting &setting);
+    void addRangeToToolTip(QWidget *field, const Setting &setting);
+    void tellOfEdits(QWidget *field);
 
     QString m_title;
     QLabel *m_lock = nullptr;
     FieldForm *m_form = nullptr;
     QList<const Setting *> m_settings;
     QList<Binding> m_bindings;
+    QWidget *m_chooser = nullptr;
+    QSet<QString> m_changed; // keys
+    QList<QWidget *> m_found;
+    const QWidget *m_current = nullptr; // of those found
 };

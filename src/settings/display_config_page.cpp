@@ -2,6 +2,7 @@
 
 #include "app/languages.h"
 #include "app/theme_library.h"
+#include "settings/password_field.h"
 #include "widgets/coordinate_edit.h"
 #include "widgets/field_form.h"
 
@@ -28,7 +29,7 @@ QComboBox *makeTimeZoneBox()
     for (const QByteArray &zone : zones) {
         box->addItem(QString::fromLatin1(zone));
     }
-    box->setToolTip(DisplayConfigPage::tr("Time zone of the clock; %1 is the one of this computer").arg(localZone));
+    box->setToolTip(DisplayConfigPage::tr("Time zone of the clock; %1 is the one of this computer.").arg(localZone));
     return box;
 }
 
@@ -42,6 +43,7 @@ DisplayConfigPage::DisplayConfigPage(QWidget *parent)
     addPlanViewRows();
     addWindowRows();
     addLogFileRows();
+    addLockRow();
     form()->addStretch();
 }
 
@@ -80,7 +82,8 @@ void DisplayConfigPage::addPlanViewRows()
         m_center, &Config::displayCenterCoordinate,
         [this](const GeoCoordinate &center) { m_center->setCoordinate(center); },
         [this] { return std::optional(m_center->coordinate()); });
-    addColor(tr("&Background:"), tr("Background Colour"), &Config::mapBackgroundColor);
+    addColor(tr("&Background:"), tr("Background Colour"), &Config::mapBackgroundColor,
+        tr("Colour of the scope where nothing else is drawn."));
 }
 
 void DisplayConfigPage::addWindowRows()
@@ -94,6 +97,7 @@ void DisplayConfigPage::addWindowRows()
         [this] { return std::optional(m_timeZone->currentText().trimmed()); });
     auto *style = new QComboBox;
     style->addItems(QStyleFactory::keys());
+    style->setToolTip(tr("How buttons, lists and menus of the windows are drawn."));
     form()->addField(tr("St&yle:"), style);
     bind<QString>(
         style, &Config::displayStyle,
@@ -105,7 +109,32 @@ void DisplayConfigPage::addWindowRows()
             style->setCurrentIndex(style->findText(name, Qt::MatchFixedString));
         },
         [style] { return std::optional(style->currentText()); });
-    addSwitch(tr("Te&xt beside the icons of the tool bars"), &Config::displayToolbarText);
+    addNumber(tr("Te&xt size:"), &Config::displayFontScale,
+        tr("How large the text of windows, lists and menus is, beside what the system has."))
+        ->setSingleStep(10);
+    addSwitch(tr("Text beside the &icons of the tool bars"), &Config::displayToolbarText,
+        tr("Off: the tool bars have icons alone and need less room."));
+}
+
+void DisplayConfigPage::addLogFileRows()
+{
+    form()->addHeading(tr("Log file"));
+    addNumber(tr("Be&gin a new file at:"), &Config::logFileSize,
+        tr("How large a file of messages grows; 0 stands for no file."))
+        ->setSpecialValueText(tr("no file"));
+    addNumber(tr("&Files kept:"), &Config::logFileCount,
+        tr("How many files of messages there are at most; the oldest is removed."));
+}
+
+void DisplayConfigPage::addLockRow()
+{
+    form()->addHeading(tr("Lock"));
+    auto *password = new PasswordField;
+    password->setToolTip(tr("With a password settings are locked: who does not have it changes none of them."));
+    form()->addField(tr("&Password for settings:"), password);
+    bind<QString>(
+        password, &Config::settingsLock, [password](const QString &stored) { password->setStored(stored); },
+        [password] { return std::optional(password->stored()); });
 }
 
 void DisplayConfigPage::addLanguageRow()
@@ -134,15 +163,6 @@ void DisplayConfigPage::addLanguageRow()
     form()->addField(note);
     connect(language, &QComboBox::currentIndexChanged, this,
         [this, language, note] { note->setVisible(language->currentData().toString() != m_languageAtFirst); });
-}
-
-void DisplayConfigPage::addLogFileRows()
-{
-    form()->addHeading(tr("Log file"));
-    QSpinBox *size = addNumber(tr("&New log file after:"), &Config::logFileSize,
-        tr("The messages are kept in files, too. The pane of messages can open their folder."));
-    size->setSpecialValueText(tr("No log file"));
-    addNumber(tr("&Log files kept:"), &Config::logFileCount, tr("The oldest one goes first."));
 }
 
 QString DisplayConfigPage::timeZoneProblem() const

@@ -24,6 +24,7 @@ private:
     void addWindowRows();
     void addLanguageRow();
     void addLogFileRows();
+    void addLockRow();
     QString timeZoneProblem() const;
 
     CoordinateEdit *m_center = nullptr;

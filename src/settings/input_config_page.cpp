@@ -52,12 +52,15 @@ InputConfigPage::InputConfigPage(const SensorManager *sensors, QWidget *parent, 
             methods.append({Config::inputMethodName(comm), comm});
         }
     }
-    m_comm = addChoice(tr("&Data from:"), &Config::inputComm, methods);
+    m_comm = addChoice(tr("&Data from:"), &Config::inputComm, methods,
+        tr("How the sensor's messages come in: over a network, a serial line, or from a recording."));
+    setChooser(m_comm);
     addUdpRows();
     addSerialRows();
     addFileRows();
     form()->addSpacing();
-    addSwitch(tr("Start &input at program start"), &Config::inputAutoStart);
+    addSwitch(tr("Start &input at program start"), &Config::inputAutoStart,
+        tr("The input is opened by itself as soon as the program runs."));
     layout()->setSpacing(2 * layout()->spacing());
     layout()->addWidget(m_probeView); // not in the form, which is locked while the input runs
     static_cast<QVBoxLayout *>(layout())->addStretch(1);
@@ -113,6 +116,7 @@ void InputConfigPage::addSerialRows()
         m_serialPorts += port.portName();
     }
     m_serialDevice->addItems(m_serialPorts);
+    m_serialDevice->setToolTip(tr("The serial port that the sensor's line is plugged into."));
     form()->addField(tr("D&evice:"), m_serialDevice);
     bind<QString>(
         m_serialDevice, &Config::inputSerialDevice,
@@ -127,7 +131,7 @@ void InputConfigPage::addSerialRows()
     for (const int rate : {1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200, 230400, 460800, 921600}) {
         m_baudRate->addItem(QString::number(rate));
     }
-    m_baudRate->setToolTip(tr("Bits per second."));
+    m_baudRate->setToolTip(tr("Bits per second, as the sender has it set."));
     form()->addField(tr("&Baud rate:"), m_baudRate);
     bind<int>(
         m_baudRate, &Config::inputSerialBaudRate,
@@ -138,24 +142,29 @@ void InputConfigPage::addSerialRows()
         });
     m_serialFields = {m_serialDevice, m_baudRate,
         addChoice(tr("Da&ta bits:"), &Config::inputSerialDataBits,
-            {{QStringLiteral("5"), 5}, {QStringLiteral("6"), 6}, {QStringLiteral("7"), 7}, {QStringLiteral("8"), 8}}),
+            {{QStringLiteral("5"), 5}, {QStringLiteral("6"), 6}, {QStringLiteral("7"), 7}, {QStringLiteral("8"), 8}},
+            tr("Bits of a character on the line.")),
         addChoice(tr("&Parity:"), &Config::inputSerialParity,
             {{tr("None"), QSerialPort::NoParity}, {tr("Even"), QSerialPort::EvenParity},
                 {tr("Odd"), QSerialPort::OddParity}, {tr("Space"), QSerialPort::SpaceParity},
-                {tr("Mark"), QSerialPort::MarkParity}}),
+                {tr("Mark"), QSerialPort::MarkParity}},
+            tr("The check bit of a character on the line.")),
         addChoice(tr("&Stop bits:"), &Config::inputSerialStopBits,
             {{tr("1"), QSerialPort::OneStop}, {tr("1.5"), QSerialPort::OneAndHalfStop},
-                {tr("2"), QSerialPort::TwoStop}})};
+                {tr("2"), QSerialPort::TwoStop}},
+            tr("How long the line rests between two characters."))};
 }
 
 void InputConfigPage::addFileRows()
 {
     m_file = new FileEdit(tr("Recording File"), RecFile::formatNameFilter(RecFile::formats()));
+    m_file->setToolTip(tr("The recording that is played when the input is started."));
     form()->addField(tr("&File:"), m_file);
     bind<QFileInfo>(
         m_file, &Config::inputFileName, [this](const QFileInfo &file) { m_file->setPath(file.filePath()); },
         [this] { return std::optional(QFileInfo(m_file->path())); });
-    m_autoRewind = addSwitch(tr("Start &again at the end of the file"), &Config::inputFileAutoRewind);
+    m_autoRewind = addSwitch(tr("Start &again at the end of the file"), &Config::inputFileAutoRewind,
+        tr("Plays the recording over and over until it is stopped."));
 }
 
 Config::InputComm InputConfigPage::chosen() const

@@ -19,7 +19,8 @@ private:
     void addRangeRingRows();
     void addOrientationRows();
     void addPlotRows();
-    FileEdit *addFile(const QString &label, const QString &title, const QString &filter, QString Config::*member);
+    FileEdit *addFile(const QString &label, const QString &title, const QString &filter, QString Config::*member,
+        const QString &toolTip);
 
     FileEdit *m_index = nullptr;
     FileEdit *m_styleSheet = nullptr;

@@ -14,6 +14,7 @@ ProcessorConfigPage::ProcessorConfigPage(QWidget *parent) : ConfigPage(tr("Proce
     }
     m_type = addChoice(tr("&Processor:"), &Config::processorType, types,
         tr("What the messages of the input are: it must fit what the sensor sends."));
+    setChooser(m_type);
     addAsterixRows();
     addModeSRows();
     addSirMRows();

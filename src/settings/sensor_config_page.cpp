@@ -13,6 +13,7 @@ SensorConfigPage::SensorConfigPage(SensorManager *sensors, QWidget *parent)
     m_sensorForm = new SensorForm(SensorForm::Use::Configured, form());
     form()->addStretch();
     addSettings(SettingGroup::Sensor);
+    setChooser(m_sensorForm->chooser());
     fillChoice();
     connect(m_choice, &QComboBox::activated, this, &SensorConfigPage::choose);
 }
@@ -20,13 +21,13 @@ SensorConfigPage::SensorConfigPage(SensorManager *sensors, QWidget *parent)
 void SensorConfigPage::fillChoice()
 {
     m_choice->addItem(tr("As entered below"));
-    const QStringList names = m_sensors ? m_sensors->sensorNames() : QStringList();
-    for (const QString &name : names) {
-        m_choice->addItem(name, name);
+    const auto sensors = m_sensors ? m_sensors->sensors() : QList<QSharedPointer<SensorInfo>>();
+    for (const auto &sensor : sensors) {
+        m_choice->addItem(sensor->name(), sensor->name());
     }
-    m_choice->setEnabled(!names.isEmpty());
-    m_choice->setToolTip(
-        names.isEmpty() ? tr("The sensor file holds no sensor.") : tr("Fills the fields below from the sensor file."));
+    m_choice->setEnabled(!sensors.isEmpty());
+    m_choice->setToolTip(sensors.isEmpty() ? tr("The sensor file holds no sensor.")
+                                           : tr("Fills the fields below from the sensor file."));
 }
 
 void SensorConfigPage::choose(int index)
@@ -48,6 +49,23 @@ void SensorConfigPage::load(const Config &config)
     m_sensorForm->setSensor(config.sensor(nullptr).data());
     const int listed = config.sensorType == UnknownSensor ? -1 : m_choice->findData(config.sensorName);
     m_choice->setCurrentIndex(listed > 0 ? listed : 0);
+}
+
+// The fields belong together: the others are put in again as they are.
+void SensorConfigPage::showSettings(const Config &config, const Which &which)
+{
+    Config shown;
+    store(&shown);
+    bool any = false;
+    for (const Setting *setting : settings()) {
+        if (which(*setting)) {
+            setting->copy(config, shown);
+            any = true;
+        }
+    }
+    if (any) {
+        load(shown);
+    }
 }
 
 bool SensorConfigPage::validate()

@@ -14,6 +14,7 @@ public:
     explicit SensorConfigPage(SensorManager *sensors, QWidget *parent = nullptr);
 
     void load(const Config &config) override;
+    void showSettings(const Config &config, const Which &which) override;
     bool validate() override;
     void store(Config *config) const override;
 

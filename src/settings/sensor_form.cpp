@@ -28,34 +28,40 @@ void SensorForm::addRows()
 {
     m_type = makeTypeBox();
     m_type->setObjectName(QStringLiteral("sensorType"));
+    m_type->setToolTip(tr("What kind of sensor it is; the fields below depend on it."));
     m_form->addField(tr("&Type:"), m_type);
-    const auto add = [this](const QString &label, QWidget *field, const QString &objectName) {
-        field->setObjectName(objectName);
-        m_form->addField(label, field);
-        m_baseFields.push_back(field);
-    };
-    add(tr("&Name:"), m_name = new QLineEdit, QStringLiteral("sensorName"));
-    add(tr("&SAC:"), m_sac = new QSpinBox, QStringLiteral("sensorSac"));
-    m_sac->setRange(0, 255);
-    m_sac->setToolTip(tr("System area code, 0 to 255: whose sensor it is, as in its messages."));
-    add(tr("S&IC:"), m_sic = new QSpinBox, QStringLiteral("sensorSic"));
-    m_sic->setRange(0, 255);
-    m_sic->setToolTip(tr("System identification code, 0 to 255: which of the area's sensors it is."));
+    add(tr("&Name:"), m_name = new QLineEdit, QStringLiteral("sensorName"),
+        tr("What the sensor is called on the map and in messages; no two have the same name."));
+    add(tr("&SAC:"), m_sac = new QSpinBox, QStringLiteral("sensorSac"),
+        tr("System area code, 0 to 255: whose sensor it is, as in its messages."));
+    add(tr("S&IC:"), m_sic = new QSpinBox, QStringLiteral("sensorSic"),
+        tr("System identification code, 0 to 255: which of the area's sensors it is."));
+    for (QSpinBox *code : {m_sac, m_sic}) {
+        code->setRange(0, 255);
+    }
     const auto format = m_use == Use::Record ? GeoCoordinate::HighPrecision : GeoCoordinate::NormalPrecision;
-    add(tr("&Location:"), m_location = new CoordinateEdit(format), QStringLiteral("sensorLocation"));
+    add(tr("&Location:"), m_location = new CoordinateEdit(format), QStringLiteral("sensorLocation"),
+        tr("Where the sensor stands (WGS-84), such as 480815N0114712E or 48.1375 11.7867."));
+}
+
+void SensorForm::add(const QString &label, QWidget *field, const QString &objectName, const QString &toolTip)
+{
+    field->setObjectName(objectName);
+    field->setToolTip(toolTip);
+    m_form->addField(label, field);
+    m_baseFields.push_back(field);
 }
 
 void SensorForm::addDetailRows()
 {
-    const auto add = [this](const QString &label, QWidget *field, const QString &objectName) {
-        field->setObjectName(objectName);
-        m_form->addField(label, field);
-        m_baseFields.push_back(field);
-    };
-    add(tr("&Description:"), m_description = new QLineEdit, QStringLiteral("sensorDescription"));
-    add(tr("Manu&facturer:"), m_manufacturer = new QLineEdit, QStringLiteral("sensorManufacturer"));
-    add(tr("&Model:"), m_model = new QLineEdit, QStringLiteral("sensorModel"));
-    add(tr("In service since &year:"), m_commissionYear = new QSpinBox, QStringLiteral("sensorCommissionYear"));
+    add(tr("&Description:"), m_description = new QLineEdit, QStringLiteral("sensorDescription"),
+        tr("Whatever helps to tell the sensor from others."));
+    add(tr("Manu&facturer:"), m_manufacturer = new QLineEdit, QStringLiteral("sensorManufacturer"),
+        tr("Who made the sensor; those of the other records are offered."));
+    add(tr("&Model:"), m_model = new QLineEdit, QStringLiteral("sensorModel"),
+        tr("What the maker calls it; the models of the maker's other records are offered."));
+    add(tr("In service since &year:"), m_commissionYear = new QSpinBox, QStringLiteral("sensorCommissionYear"),
+        tr("The year in which the sensor entered service."));
     m_commissionYear->setRange(0, 9999);
     m_commissionYear->setSpecialValueText(tr("not given"));
     connect(m_manufacturer, &QLineEdit::textChanged, this, &SensorForm::completeModels);
@@ -76,6 +82,11 @@ QComboBox *SensorForm::makeTypeBox()
 SensorType SensorForm::type() const
 {
     return sensorType(m_type->currentData().toUInt());
+}
+
+QWidget *SensorForm::chooser() const
+{
+    return m_type;
 }
 
 void SensorForm::showTypeFields()

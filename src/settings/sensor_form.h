@@ -15,6 +15,7 @@ class FieldForm;
 class QComboBox;
 class QLineEdit;
 class QSpinBox;
+class QWidget;
 class SensorInfo;
 class SensorTypeFields;
 
@@ -42,6 +43,8 @@ public:
     void setManufacturerModels(const QMap<QString, QStringList> &models);
 
     SensorType type() const;
+    // The field that the type is chosen with.
+    QWidget *chooser() const;
     // Notes beside the fields what is wrong; true when nothing is.
     bool validate();
     // A new record of what is entered; null for no sensor. Only after a successful validate().
@@ -50,6 +53,7 @@ public:
 private:
     void addRows();
     void addDetailRows();
+    void add(const QString &label, QWidget *field, const QString &objectName, const QString &toolTip);
     QComboBox *makeTypeBox();
     void showTypeFields();
     void completeModels();

@@ -33,6 +33,13 @@ Box *makeNumber(T Config::*member)
     return box;
 }
 
+// Fields are named after the settings of the sensor that is configured.
+template <typename T>
+QString keyOf(T Config::*member)
+{
+    return Setting::of(member).key();
+}
+
 QSpinBox *makeNumber(int Config::*member)
 {
     return makeNumber<QSpinBox>(member);
@@ -50,13 +57,19 @@ class RadarFields final : public SensorTypeFields {
 public:
     RadarFields(FieldForm *form, bool details) : SensorTypeFields(form)
     {
-        addRow(Text::tr("Antenna &altitude:"), m_altitude, QStringLiteral("radarAntennaAltitude"));
-        addRow(Text::tr("&Rotation period:"), m_period, QStringLiteral("radarRotationPeriod"));
-        addRow(m_primary, QStringLiteral("radarPrimary"));
-        addRow(Text::tr("Coverage, &primary:"), m_coveragePrimary, QStringLiteral("radarCoveragePrimary"));
-        addRow(m_secondary, QStringLiteral("radarSecondary"));
-        addRow(m_modeS, QStringLiteral("radarModeS"));
-        addRow(Text::tr("Coverage, se&condary:"), m_coverageSecondary, QStringLiteral("radarCoverageSecondary"));
+        addRow(Text::tr("Antenna &altitude:"), m_altitude, keyOf(&Config::sensorRadarAntennaAltitude),
+            Text::tr("Height of the antenna above sea level."));
+        addRow(Text::tr("&Rotation period:"), m_period, keyOf(&Config::sensorRadarRotationPeriod),
+            Text::tr("How long the antenna takes for one turn; tracks live by it."));
+        addRow(m_primary, keyOf(&Config::sensorRadarIsPrimary),
+            Text::tr("Detects whatever reflects, with or without a transponder."));
+        addRow(Text::tr("Coverage, &primary:"), m_coveragePrimary, keyOf(&Config::sensorRadarCoveragePrimary),
+            Text::tr("How far the primary radar sees; drawn as a circle."));
+        addRow(m_secondary, keyOf(&Config::sensorRadarIsSecondary), Text::tr("Asks transponders for code and level."));
+        addRow(m_modeS, keyOf(&Config::sensorRadarIsModeS),
+            Text::tr("Asks single aircraft by their address; every Mode S radar is a secondary one."));
+        addRow(Text::tr("Coverage, se&condary:"), m_coverageSecondary, keyOf(&Config::sensorRadarCoverageSecondary),
+            Text::tr("How far the secondary radar sees; drawn as a circle."));
         // A Mode S radar is a secondary one.
         QObject::connect(m_modeS, &QCheckBox::toggled, m_secondary, [this](bool on) {
             m_secondary->setChecked(on || m_secondary->isChecked());
@@ -64,9 +77,9 @@ public:
         });
         if (details) {
             m_slantRange = new QCheckBox(Text::tr("Correct s&lant range"));
-            m_slantRange->setToolTip(Text::tr(
-                "Targets whose height is known are shown at their distance over ground; the others as before."));
-            addRow(m_slantRange, QStringLiteral("radarSlantRange"));
+            addRow(m_slantRange, QStringLiteral("radarSlantRange"),
+                Text::tr(
+                    "Targets whose height is known are shown at their distance over ground; the others as before."));
         }
     }
 
@@ -121,14 +134,17 @@ class AdsbFields final : public SensorTypeFields {
 public:
     AdsbFields(FieldForm *form, bool details) : SensorTypeFields(form)
     {
-        addRow(Text::tr("Co&verage:"), m_coverage, QStringLiteral("adsbCoverage"));
-        addRow(Text::tr("&Update interval:"), m_interval, QStringLiteral("adsbUpdateInterval"));
+        addRow(Text::tr("Co&verage:"), m_coverage, keyOf(&Config::sensorAdsbCoverage),
+            Text::tr("How far the station receives; drawn as a circle."));
+        addRow(Text::tr("&Update interval:"), m_interval, keyOf(&Config::sensorAdsbUpdateInterval),
+            Text::tr("How often an aircraft is reported; tracks live by it."));
         if (!details) {
             return;
         }
         m_versions = new QLineEdit;
         m_versions->setPlaceholderText(Text::tr("such as 0, 1, 2"));
-        addRow(Text::tr("ADS-&B versions:"), m_versions, QStringLiteral("adsbVersions"));
+        addRow(Text::tr("ADS-&B versions:"), m_versions, QStringLiteral("adsbVersions"),
+            Text::tr("The versions of ADS-B that the station receives, with commas between them."));
     }
 
     SensorType type() const override { return AdsbSensor; }
@@ -175,7 +191,8 @@ class MlatFields final : public SensorTypeFields {
 public:
     explicit MlatFields(FieldForm *form) : SensorTypeFields(form)
     {
-        addRow(Text::tr("Co&verage:"), m_coverage, QStringLiteral("mlatCoverage"));
+        addRow(Text::tr("Co&verage:"), m_coverage, keyOf(&Config::sensorMlatCoverage),
+            Text::tr("How far the system locates aircraft; drawn as a circle."));
     }
 
     SensorType type() const override { return MlatSensor; }
@@ -198,8 +215,10 @@ class SdpsFields final : public SensorTypeFields {
 public:
     explicit SdpsFields(FieldForm *form) : SensorTypeFields(form)
     {
-        addRow(Text::tr("Co&verage:"), m_coverage, QStringLiteral("sdpsCoverage"));
-        addRow(Text::tr("&Update interval:"), m_interval, QStringLiteral("sdpsUpdateInterval"));
+        addRow(Text::tr("Co&verage:"), m_coverage, keyOf(&Config::sensorSdpsCoverage),
+            Text::tr("How far the system's tracks reach; drawn as a circle."));
+        addRow(Text::tr("&Update interval:"), m_interval, keyOf(&Config::sensorSdpsUpdateInterval),
+            Text::tr("How often the system sends its tracks; tracks live by it."));
     }
 
     SensorType type() const override { return SdpsSensor; }
@@ -227,18 +246,21 @@ class SmrFields final : public SensorTypeFields {
 public:
     SmrFields(FieldForm *form, bool details) : SensorTypeFields(form)
     {
-        addRow(Text::tr("Antenna &altitude:"), m_altitude, QStringLiteral("smrAntennaAltitude"));
-        addRow(Text::tr("&Rotation period:"), m_period, QStringLiteral("smrRotationPeriod"));
+        addRow(Text::tr("Antenna &altitude:"), m_altitude, keyOf(&Config::sensorSmrAntennaAltitude),
+            Text::tr("Height of the antenna above sea level."));
+        addRow(Text::tr("&Rotation period:"), m_period, keyOf(&Config::sensorSmrRotationPeriod),
+            Text::tr("How long the antenna takes for one turn; tracks live by it."));
         m_coverage->setDecimals(2);
-        addRow(Text::tr("Co&verage:"), m_coverage, QStringLiteral("smrCoverage"));
+        addRow(Text::tr("Co&verage:"), m_coverage, keyOf(&Config::sensorSmrCoverage),
+            Text::tr("How far the radar sees; drawn as a circle."));
         if (!details) {
             return;
         }
         m_acp = new QSpinBox;
         m_acp->setRange(0, std::numeric_limits<int>::max());
         m_acp->setSpecialValueText(Text::tr("not given"));
-        m_acp->setToolTip(Text::tr("Azimuth change pulses per revolution of the antenna"));
-        addRow(Text::tr("Azimuth &pulses:"), m_acp, QStringLiteral("smrAcp"));
+        addRow(Text::tr("Azimuth &pulses:"), m_acp, QStringLiteral("smrAcp"),
+            Text::tr("Azimuth change pulses per revolution of the antenna."));
     }
 
     SensorType type() const override { return SmrSensor; }
@@ -281,15 +303,17 @@ void SensorTypeFields::setVisible(bool visible)
     }
 }
 
-void SensorTypeFields::addRow(const QString &label, QWidget *field, const QString &objectName)
+void SensorTypeFields::addRow(const QString &label, QWidget *field, const QString &objectName, const QString &toolTip)
 {
+    field->setToolTip(toolTip);
     field->setObjectName(objectName);
     m_form->addField(label, field);
     m_fields.push_back(field);
 }
 
-void SensorTypeFields::addRow(QWidget *field, const QString &objectName)
+void SensorTypeFields::addRow(QWidget *field, const QString &objectName, const QString &toolTip)
 {
+    field->setToolTip(toolTip);
     field->setObjectName(objectName);
     m_form->addField(field);
     m_fields.push_back(field);

@@ -31,8 +31,8 @@ public:
 protected:
     explicit SensorTypeFields(FieldForm *form) : m_form(form) { }
     FieldForm *form() const { return m_form; }
-    void addRow(const QString &label, QWidget *field, const QString &objectName);
-    void addRow(QWidget *field, const QString &objectName);
+    void addRow(const QString &label, QWidget *field, const QString &objectName, const QString &toolTip);
+    void addRow(QWidget *field, const QString &objectName, const QString &toolTip);
 
 private:
     FieldForm *m_form;

@@ -45,15 +45,19 @@ TileConfigPage::TileConfigPage(QWidget *parent) : ConfigPage(tr("Map Tiles"), pa
 void TileConfigPage::addLayerRows()
 {
     form()->addHeading(tr("Layers"));
-    addSwitch(tr("Show map &tiles"), &Config::mapTileVisible);
+    addSwitch(tr("Show map &tiles"), &Config::mapTileVisible,
+        tr("Draws maps or pictures of the ground from a service or a file."));
     Choices<TileService> services;
     for (int i = static_cast<int>(TileService::None); i <= static_cast<int>(TileService::Custom); ++i) {
         const auto service = static_cast<TileService>(i);
         services.append({tileServiceName(service), service});
     }
-    m_bottom = addChoice(tr("&Under the static maps:"), &Config::mapTileBottomLayerProvider, services);
-    addSwitch(tr("A second service &over the static maps"), &Config::mapTileTopLayerEnable);
-    addChoice(tr("O&ver the static maps:"), &Config::mapTileTopLayerProvider, services);
+    m_bottom = addChoice(tr("&Under the static maps:"), &Config::mapTileBottomLayerProvider, services,
+        tr("Where the tiles come from that lie at the bottom of the picture."));
+    addSwitch(tr("A second service &over the static maps"), &Config::mapTileTopLayerEnable,
+        tr("For tiles that are transparent apart from names or airspaces."));
+    addChoice(tr("O&ver the static maps:"), &Config::mapTileTopLayerProvider, services,
+        tr("Where the tiles come from that lie over the static maps."));
     addNumber(tr("&Dim the lower tiles:"), &Config::mapTileDimming,
         tr("Towards the background colour, so that traffic stays in front."));
     addNumber(tr("Take out their &colour:"), &Config::mapTileDesaturation, tr("100 % leaves greys."));
@@ -71,6 +75,7 @@ void TileConfigPage::addServiceRows()
     for (const TileService service : ServicesWithSettings) {
         m_shownService->addItem(tileServiceName(service), static_cast<int>(service));
     }
+    m_shownService->setToolTip(tr("The service whose settings stand below; this chooses no service."));
     form()->addField(tr("Settings o&f:"), m_shownService);
     addBingRows();
     addOpenAipRows();
@@ -89,7 +94,8 @@ void TileConfigPage::addBingRows()
     ofService(addChoice<BingTileImagery>(tr("&Imagery:"), &Config::mapBingImagery,
         {{tr("Aerial"), BingTileImagery::Aerial}, {tr("Aerial with labels"), BingTileImagery::AerialLabel},
             {tr("Road"), BingTileImagery::Road}, {tr("Road, light"), BingTileImagery::RoadLite},
-            {tr("Road, grey"), BingTileImagery::RoadGray}, {tr("Road, dark"), BingTileImagery::RoadDark}}));
+            {tr("Road, grey"), BingTileImagery::RoadGray}, {tr("Road, dark"), BingTileImagery::RoadDark}},
+        tr("Which pictures of the service are shown.")));
     ofService(addText(tr("&Language and region:"), &Config::mapBingCulture, tr("Such as en-US or de-DE.")));
     addTileFileRows(&Config::mapBingTileDir, &Config::mapBingSaveTileFiles, &Config::mapBingOfflinePriority,
         &Config::mapBingOfflineOnly);
@@ -113,10 +119,12 @@ void TileConfigPage::addGoogleRows()
             {tr("Terrain"), GoogleTileLayer::Terrain}, {tr("Satellite"), GoogleTileLayer::Satellite},
             {tr("Map with Terrain"), GoogleTileLayer::Standard},
             {tr("Satellite with Road"), GoogleTileLayer::SatelliteHybrid},
-            {tr("Terrain with Road"), GoogleTileLayer::TerrainStandard}}));
+            {tr("Terrain with Road"), GoogleTileLayer::TerrainStandard}},
+        tr("Which maps of the service are shown.")));
     ofService(addText(tr("&Language:"), &Config::mapGoogleHostLanguage, tr("Such as en or de.")));
     ofService(addText(tr("&Country:"), &Config::mapGoogleGeographyLocation, tr("Such as us or de.")));
-    ofService(addSwitch(tr("Tiles of twice the resolution"), &Config::mapGoogleHiDpiTiles));
+    ofService(addSwitch(tr("Tiles of twice the resolution"), &Config::mapGoogleHiDpiTiles,
+        tr("Sharper on fine screens, and four times as much to load.")));
     addTileFileRows(&Config::mapGoogleTileDir, &Config::mapGoogleSaveTileFiles, &Config::mapGoogleOfflinePriority,
         &Config::mapGoogleOfflineOnly);
     addServerRow(&Config::mapGoogleTileServer);
@@ -127,7 +135,8 @@ void TileConfigPage::addTiandituRows()
     m_service = TileService::Tianditu;
     ofService(addChoice<TiandituTileLayer>(tr("&Map:"), &Config::mapTiandituLayer,
         {{tr("Imagery"), TiandituTileLayer::Imagery}, {tr("Vector"), TiandituTileLayer::Vector},
-            {tr("Terrain"), TiandituTileLayer::Terrain}}));
+            {tr("Terrain"), TiandituTileLayer::Terrain}},
+        tr("Which maps of the service are shown.")));
     ofService(addSecret(tr("&Key:"), &Config::mapTiandituApiKey, tr("From your account at the service.")));
     addTileFileRows(&Config::mapTiandituTileDir, &Config::mapTiandituSaveTileFiles, &Config::mapTiandituOfflinePriority,
         &Config::mapTiandituOfflineOnly);
@@ -139,7 +148,8 @@ void TileConfigPage::addFaaRows()
     m_service = TileService::Faa;
     ofService(addChoice<FaaTileChart>(tr("&Chart:"), &Config::mapFaaChart,
         {{tr("VFR sectional"), FaaTileChart::VfrSectional}, {tr("VFR terminal"), FaaTileChart::VfrTerminal},
-            {tr("IFR area, low"), FaaTileChart::IfrAreaLow}, {tr("IFR high"), FaaTileChart::IfrHigh}}));
+            {tr("IFR area, low"), FaaTileChart::IfrAreaLow}, {tr("IFR high"), FaaTileChart::IfrHigh}},
+        tr("Which charts of the service are shown.")));
     addTileFileRows(&Config::mapFaaTileDir, &Config::mapFaaSaveTileFiles, &Config::mapFaaOfflinePriority,
         &Config::mapFaaOfflineOnly);
     addServerRow(&Config::mapFaaTileServer);
@@ -159,7 +169,8 @@ void TileConfigPage::addCustomRows()
            "{quadkey} and {s} (a, b or c).")));
     m_header = ofService(addSecret(
         tr("&Header:"), &Config::mapCustomTileHeader, tr("\"Name: value\", sent with each request, for a key.")));
-    ofService(addNumber(tr("Deepest &level:"), &Config::mapCustomTileMaxLevel));
+    ofService(addNumber(tr("Deepest &level:"), &Config::mapCustomTileMaxLevel,
+        tr("The deepest level that has tiles; closer views enlarge these.")));
 }
 
 void TileConfigPage::addTrialRow()
@@ -216,9 +227,10 @@ QLineEdit *TileConfigPage::addSecret(const QString &label, QString Config::*memb
     return field;
 }
 
-FileEdit *TileConfigPage::addDirectory(const QString &label, QString Config::*member)
+FileEdit *TileConfigPage::addDirectory(const QString &label, QString Config::*member, const QString &toolTip)
 {
     auto *field = new FileEdit(tr("Select Directory"), {});
+    field->setToolTip(toolTip);
     field->setChoosingDirectory(true);
     form()->addField(label, field);
     bind<QString>(
@@ -230,29 +242,34 @@ FileEdit *TileConfigPage::addDirectory(const QString &label, QString Config::*me
 void TileConfigPage::addTileFileRows(
     QString Config::*directory, bool Config::*save, bool Config::*priority, bool Config::*only)
 {
-    ofService(addSwitch(tr("&Keep tiles as files"), save));
-    ofService(addDirectory(tr("Di&rectory of the files:"), directory));
+    ofService(addSwitch(tr("&Keep tiles as files"), save,
+        tr("Writes each tile that is loaded to the directory below, for times without a network.")));
+    ofService(
+        addDirectory(tr("Di&rectory of the files:"), directory, tr("Where tiles are kept for good, a file each.")));
     ofService(addSwitch(tr("Files before requests"), priority, tr("A tile that is there as a file is not requested.")));
     ofService(addSwitch(tr("Files only"), only, tr("The service is not asked.")));
 }
 
 void TileConfigPage::addServerRow(QString Config::*member)
 {
-    auto *field = ofService(addText(tr("&Server instead of the service's own:"), member,
-        tr("Such as https://tiles.example:8443. Empty: the service's own.")));
+    auto *field = ofService(
+        addText(tr("Other &server:"), member, tr("Such as https://tiles.example:8443. Empty: the service's own.")));
     m_servers.append(field);
 }
 
 void TileConfigPage::addNetworkRows()
 {
     form()->addHeading(tr("Network"));
-    addDirectory(tr("Directory of the cac&he:"), &Config::mapTileCacheDir);
-    addSwitch(tr("Use a &proxy"), &Config::mapTileUseProxy);
-    addText(tr("Proxy hos&t:"), &Config::mapTileProxyHostname);
-    addNumber(tr("Proxy &port:"), &Config::mapTileProxyPort);
-    addText(tr("Proxy &user:"), &Config::mapTileProxyUser);
-    addSecret(tr("Proxy pass&word:"), &Config::mapTileProxyPassword);
-    addSwitch(tr("The proxy looks up host &names"), &Config::mapTileProxyHostnameLookup);
+    addDirectory(tr("Directory of the cac&he:"), &Config::mapTileCacheDir,
+        tr("Where tiles are kept that have been loaded, up to a bound."));
+    addSwitch(tr("Use a &proxy"), &Config::mapTileUseProxy, tr("Reaches the services through a SOCKS 5 proxy."));
+    addText(tr("Proxy hos&t:"), &Config::mapTileProxyHostname, tr("Name or address of the proxy."));
+    addNumber(tr("Proxy &port:"), &Config::mapTileProxyPort, tr("The TCP port of the proxy."));
+    addText(tr("Proxy &user:"), &Config::mapTileProxyUser, tr("Empty for a proxy that asks for no name."));
+    addSecret(tr("Proxy pass&word:"), &Config::mapTileProxyPassword,
+        tr("Stands in the settings file as it is entered here."));
+    addSwitch(tr("The proxy looks up host &names"), &Config::mapTileProxyHostnameLookup,
+        tr("Off: this machine looks them up itself."));
 }
 
 void TileConfigPage::load(const Config &config)
@@ -264,6 +281,26 @@ void TileConfigPage::load(const Config &config)
     }
     const int shown = m_shownService->findData(static_cast<int>(settingsOf(config.mapTileBottomLayerProvider)));
     m_shownService->setCurrentIndex(std::max(shown, 0));
+}
+
+QString TileConfigPage::context(const QWidget *field) const
+{
+    for (auto fields = m_serviceFields.cbegin(); fields != m_serviceFields.cend(); ++fields) {
+        if (fields->contains(field)) {
+            return tileServiceName(fields.key());
+        }
+    }
+    return {};
+}
+
+QWidget *TileConfigPage::reveal(QWidget *field)
+{
+    for (auto fields = m_serviceFields.cbegin(); fields != m_serviceFields.cend(); ++fields) {
+        if (fields->contains(field)) {
+            m_shownService->setCurrentIndex(m_shownService->findData(static_cast<int>(fields.key())));
+        }
+    }
+    return field;
 }
 
 void TileConfigPage::showService()

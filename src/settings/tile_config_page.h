@@ -18,6 +18,10 @@ public:
 
     void load(const Config &config) override;
     bool validate() override;
+    QWidget *reveal(QWidget *field) override;
+
+protected:
+    QString context(const QWidget *field) const override;
 
 private:
     void addLayerRows();
@@ -39,7 +43,7 @@ private:
     }
     QLineEdit *addText(const QString &label, QString Config::*member, const QString &toolTip = {});
     QLineEdit *addSecret(const QString &label, QString Config::*member, const QString &toolTip = {});
-    FileEdit *addDirectory(const QString &label, QString Config::*member);
+    FileEdit *addDirectory(const QString &label, QString Config::*member, const QString &toolTip);
     void addTileFileRows(QString Config::*directory, bool Config::*save, bool Config::*priority, bool Config::*only);
     void addServerRow(QString Config::*member);
 

@@ -20,6 +20,8 @@ UdpInputFields::UdpInputFields(const Members &members, bool second, ConfigPage *
     m_group->setPlaceholderText(QStringLiteral("239.0.0.1"));
     m_group->setToolTip(tr("The multicast group that the sensor sends to, 224.0.0.0 to 239.255.255.255."));
     m_interface->setToolTip(tr("The network interface on which the group is joined."));
+    m_port->setToolTip(tr("The UDP port that the sensor sends to."));
+    m_multicast->setToolTip(tr("For a sensor that sends to a group of receivers instead of to this machine alone."));
     setInterfaces(QNetworkInterface::allInterfaces());
     addRows(second);
     bindTo(page, members);

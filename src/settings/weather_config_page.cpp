@@ -14,10 +14,13 @@ WeatherConfigPage::WeatherConfigPage(QWidget *parent) : ConfigPage(tr("Weather")
 void WeatherConfigPage::addPictureRows()
 {
     form()->addHeading(tr("Picture"));
-    addSwitch(tr("Show &weather"), &Config::mapWeatherVisible);
-    addSwitch(tr("&Keep the last picture when an empty one comes"), &Config::mapWeatherIgnoreEmptyPicture);
-    addNumber(tr("Remove a picture a&fter:"), &Config::mapWeatherValidity);
-    addSwitch(tr("&Make vectors as wide as they are apart"), &Config::mapWeatherAutoVectorWidth);
+    addSwitch(tr("Show &weather"), &Config::mapWeatherVisible, tr("Draws the radar's weather pictures (CAT008)."));
+    addSwitch(tr("&Keep the last picture when an empty one comes"), &Config::mapWeatherIgnoreEmptyPicture,
+        tr("For radars that send empty pictures between full ones."));
+    addNumber(tr("Remove a picture a&fter:"), &Config::mapWeatherValidity,
+        tr("How long a picture is shown when no other one follows."));
+    addSwitch(tr("&Make vectors as wide as they are apart"), &Config::mapWeatherAutoVectorWidth,
+        tr("Leaves no gaps between the vectors of a picture, whatever their number."));
     addNumber(tr("&Vector width:"), &Config::mapWeatherVectorWidth, 3, 0.05,
         tr("Also used when a picture has too few vectors to tell."));
 }
@@ -33,6 +36,7 @@ void WeatherConfigPage::addColorRows()
         m_scheme->addItem(scheme.name());
     }
     connect(m_scheme, &QComboBox::currentIndexChanged, this, &WeatherConfigPage::takeScheme);
+    m_scheme->setToolTip(tr("Fills in the colours of all levels; each of them can be changed afterwards."));
     form()->addField(tr("&Scheme:"), m_scheme);
     addLevelRows();
 }
@@ -41,6 +45,7 @@ void WeatherConfigPage::addLevelRows()
 {
     for (int level = 0; level < WeatherColorScheme::Levels; ++level) {
         m_colors.append(new ColorButton(tr("Weather Colour")));
+        m_colors.last()->setToolTip(tr("Colour of weather of this intensity, 0 being the lightest."));
         form()->addField(tr("Level &%1:").arg(level), m_colors.last());
     }
     bind<QList<QColor>>(

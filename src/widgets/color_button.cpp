@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include <utility>
+
 ColorButton::ColorButton(const QString &chooserTitle, QWidget *parent)
     : QToolButton(parent), m_chooserTitle(chooserTitle)
 {
@@ -15,7 +17,7 @@ ColorButton::ColorButton(const QString &chooserTitle, QWidget *parent)
 
 void ColorButton::setColor(const QColor &color)
 {
-    m_color = color;
+    const bool other = color != std::exchange(m_color, color);
     QPixmap swatch(iconSize() * devicePixelRatioF());
     swatch.setDevicePixelRatio(devicePixelRatioF());
     QPainter painter(&swatch);
@@ -26,6 +28,9 @@ void ColorButton::setColor(const QColor &color)
     painter.end();
     setIcon(QIcon(swatch));
     setText(color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb).toUpper());
+    if (other) {
+        Q_EMIT colorChanged(color);
+    }
 }
 
 void ColorButton::choose()

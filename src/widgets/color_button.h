@@ -6,6 +6,7 @@
 // Shows a colour and its code; a click opens the colour chooser.
 class ColorButton final : public QToolButton {
     Q_OBJECT
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged USER true)
 
 public:
     explicit ColorButton(const QString &chooserTitle, QWidget *parent = nullptr);
@@ -16,6 +17,7 @@ public:
     void setAlphaShown(bool shown) { m_alphaShown = shown; }
 
 Q_SIGNALS:
+    void colorChanged(const QColor &color);
     // By the operator.
     void colorChosen(const QColor &color);
 

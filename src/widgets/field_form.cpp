@@ -7,8 +7,23 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPalette>
+#include <QRegularExpression>
 
 namespace {
+
+QString withoutMnemonic(const QString &text)
+{
+    static const QRegularExpression trailing(QStringLiteral("\\s*\\(&.\\)")); // where letters have no keys: "文件(&F)"
+    QString plain = text;
+    plain.remove(trailing).remove(u'&');
+    plain = plain.trimmed();
+    for (const QChar colon : {QChar(u':'), QChar(u'：')}) {
+        if (plain.endsWith(colon)) {
+            plain.chop(1);
+        }
+    }
+    return plain.trimmed();
+}
 
 QColor noteColor(const QPalette &palette)
 {
@@ -27,6 +42,7 @@ FieldForm::FieldForm(QWidget *parent) : QWidget(parent), m_grid(new QGridLayout(
 
 void FieldForm::addHeading(const QString &text)
 {
+    m_heading = text;
     auto *heading = new QLabel(text, this);
     QFont font = heading->font();
     font.setBold(true);
@@ -58,8 +74,15 @@ void FieldForm::place(QWidget *field, QLabel *label)
     note->setFocusPolicy(Qt::NoFocus);
     note->hide();
     m_grid->addWidget(note, m_nextRow++, 1);
-    m_rows.insert(field, Row{label, note});
+    m_rows.insert(field, Row{label, note, m_heading});
     m_order.append(field);
+    if (label) {
+        field->setAccessibleName(withoutMnemonic(label->text()));
+        label->setToolTip(field->toolTip());
+    }
+    if (QWidget *inner = field->focusProxy()) {
+        inner->setAccessibleName(field->accessibleName());
+    }
     if (auto *coordinate = qobject_cast<CoordinateEdit *>(field)) {
         connect(coordinate, &QLineEdit::textChanged, this, [this, coordinate] {
             if (!this->note(coordinate).isEmpty()) {
@@ -88,6 +111,43 @@ void FieldForm::setRowVisible(QWidget *field, bool visible)
     }
     if (row.note) {
         row.note->setVisible(visible && !row.note->text().isEmpty());
+    }
+}
+
+QString FieldForm::title(const QWidget *field) const
+{
+    if (const QLabel *label = m_rows.value(field).label) {
+        return withoutMnemonic(label->text());
+    }
+    const auto *button = qobject_cast<const QAbstractButton *>(field);
+    return button ? withoutMnemonic(button->text()) : QString();
+}
+
+QRect FieldForm::rowRect(const QWidget *field) const
+{
+    const Row row = m_rows.value(field);
+    if (!field->isVisibleTo(this)) {
+        return {};
+    }
+    const QRect whole(0, field->y(), width(), field->height());
+    return row.label ? whole.united(row.label->geometry()) : whole;
+}
+
+QWidget *FieldForm::fieldAt(const QPoint &point) const
+{
+    for (QWidget *field : m_order) {
+        if (rowRect(field).contains(point)) {
+            return field;
+        }
+    }
+    return nullptr;
+}
+
+void FieldForm::setToolTip(QWidget *field, const QString &text)
+{
+    field->setToolTip(text);
+    if (QLabel *label = m_rows.value(field).label) {
+        label->setToolTip(text);
     }
 }
 

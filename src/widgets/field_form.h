@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QHash>
+#include <QList>
+#include <QRect>
+#include <QString>
 #include <QWidget>
 
 class CoordinateEdit;
@@ -8,7 +11,7 @@ class QGridLayout;
 class QLabel;
 
 // Rows of label, field and, under the field, a note in words when what was entered is refused. Mnemonics of the labels
-// lead to their fields.
+// lead to their fields, whose accessible names they are.
 class FieldForm final : public QWidget {
     Q_OBJECT
 
@@ -22,6 +25,19 @@ public:
     void addSpacing();
     void addStretch();
     void setRowVisible(QWidget *field, bool visible);
+
+    // From top to bottom.
+    const QList<QWidget *> &fields() const { return m_order; }
+    // What the row is called, without mnemonic and colon: the label's text or that of a field that names itself.
+    QString title(const QWidget *field) const;
+    // The heading over the row; empty above the first.
+    QString heading(const QWidget *field) const { return m_rows.value(field).heading; }
+    // Of label and field, in coordinates of the form; empty while the row is hidden.
+    QRect rowRect(const QWidget *field) const;
+    // The field of the row that the point is in, or null.
+    QWidget *fieldAt(const QPoint &point) const;
+    // On the label too, so that the whole row answers.
+    void setToolTip(QWidget *field, const QString &text);
 
     // Shows the problem under the field, or removes the note when the problem is empty; true when it is empty.
     bool check(QWidget *field, const QString &problem);
@@ -37,11 +53,13 @@ private:
     struct Row {
         QLabel *label = nullptr;
         QLabel *note = nullptr;
+        QString heading;
     };
     void place(QWidget *field, QLabel *label);
 
     QGridLayout *m_grid = nullptr;
     QHash<const QWidget *, Row> m_rows;
     QList<QWidget *> m_order;
+    QString m_heading; // of the rows that are being added
     int m_nextRow = 0;
 };
