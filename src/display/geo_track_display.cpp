@@ -349,7 +349,11 @@ void GeoTrackDisplay::showVectorTicks(bool visible)
 
 void GeoTrackDisplay::setSelected(unsigned long long id)
 {
+    const bool another = id != m_selectedTrack;
     change(&m_selectedTrack, id);
+    if (another) {
+        Q_EMIT selectedChanged(id);
+    }
 }
 
 void GeoTrackDisplay::setHovered(unsigned long long id)
@@ -357,6 +361,11 @@ void GeoTrackDisplay::setHovered(unsigned long long id)
     if (id != m_hoveredTrack) {
         change(&m_hoveredTrack, id);
     }
+}
+
+void GeoTrackDisplay::takeAlertBoardOf(const GeoTrackDisplay &other)
+{
+    change(&m_alerts, other.m_alerts);
 }
 
 void GeoTrackDisplay::acknowledge(quint64 key)

@@ -88,6 +88,8 @@ public:
 
     // What of the newest snapshot asks for the operator's attention.
     const AlertBoard &alertBoard() const { return m_alerts; }
+    // Of another display on the same picture, where something has been acknowledged.
+    void takeAlertBoardOf(const GeoTrackDisplay &other);
 
     // Of what blinks: the widget's beat says when it is on. Asks for no repaint.
     void setBlinkOn(bool on) { m_blinkOn = on; }
@@ -183,6 +185,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     // A setting changed: paint again.
     void polluted();
+    // 0: none is.
+    void selectedChanged(unsigned long long id);
     // The operator did; what the lists show of it has changed.
     void acknowledged();
     // What the snapshots should carry for the trails: the dots shown, 0 while trails are hidden.

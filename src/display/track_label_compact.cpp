@@ -3,13 +3,10 @@
 #include "tracking/track_snapshot.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
 using tracklabel::appendNumber;
-using tracklabel::ClimbingMark;
-using tracklabel::DescendingMark;
 
 void separate(QString &line)
 {
@@ -45,12 +42,8 @@ void appendLevel(QString &line, const TrackSnapshot &track)
         return;
     }
     line += QLatin1Char('F');
-    appendNumber(line, track.level / 100, 3);
-    if (track.verticalTrend == Track::TrendClimbing) {
-        line += ClimbingMark;
-    } else if (track.verticalTrend == Track::TrendDescending) {
-        line += DescendingMark;
-    }
+    appendNumber(line, tracklabel::shownLevel(track.level), 3);
+    tracklabel::appendTrend(line, track.verticalTrend);
 }
 
 QString motion(const TrackSnapshot &track, const TrackLabelFields &fields)
@@ -66,7 +59,7 @@ QString motion(const TrackSnapshot &track, const TrackLabelFields &fields)
     }
     if (fields.groundSpeed && track.groundSpeedValid) {
         separate(line);
-        appendNumber(line, int(std::lround(track.groundSpeed)), 3);
+        appendNumber(line, tracklabel::shownSpeed(track.groundSpeed), 3);
     }
     return line;
 }
@@ -80,7 +73,7 @@ QString extras(const TrackSnapshot &track, const TrackLabelFields &fields)
     }
     if (fields.heading && track.headingValid) {
         separate(line);
-        appendNumber(line, int(std::lround(track.heading)), 3);
+        appendNumber(line, tracklabel::shownHeading(track.heading), 3);
         line += tracklabel::DegreeSign;
     }
     if (fields.icaoAddr && track.icaoAddrValid) {

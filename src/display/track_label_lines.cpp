@@ -3,8 +3,6 @@
 #include "display/track_label_text.h"
 #include "tracking/track_snapshot.h"
 
-#include <cmath>
-
 namespace {
 
 using tracklabel::appendNumber;
@@ -65,12 +63,8 @@ QString levelLine(const TrackSnapshot &track, const TrackLabelFields &fields)
     QString line;
     if (fields.level) {
         line = QLatin1Char('F');
-        appendValue(line, track.levelValid, track.level / 100);
-        if (track.verticalTrend == Track::TrendClimbing) {
-            line += ClimbingMark;
-        } else if (track.verticalTrend == Track::TrendDescending) {
-            line += DescendingMark;
-        }
+        appendValue(line, track.levelValid, tracklabel::shownLevel(track.level));
+        tracklabel::appendTrend(line, track.verticalTrend);
     }
     if (fields.selectedAltitude) {
         appendBlank(line);
@@ -79,7 +73,7 @@ QString levelLine(const TrackSnapshot &track, const TrackLabelFields &fields)
     }
     if (fields.groundSpeed) {
         appendBlank(line);
-        appendValue(line, track.groundSpeedValid, int(std::lround(track.groundSpeed)));
+        appendValue(line, track.groundSpeedValid, tracklabel::shownSpeed(track.groundSpeed));
     }
     return line;
 }
@@ -96,7 +90,7 @@ QString rateLine(const TrackSnapshot &track, const TrackLabelFields &fields)
     }
     if (fields.heading) {
         appendBlank(line);
-        appendValue(line, track.headingValid, int(std::lround(track.heading)));
+        appendValue(line, track.headingValid, tracklabel::shownHeading(track.heading));
         line += tracklabel::DegreeSign;
     }
     return line;

@@ -18,6 +18,30 @@ int hundreds(int value)
     return int(std::lround(value / 100.0));
 }
 
+int shownLevel(int feet)
+{
+    return feet / 100;
+}
+
+int shownSpeed(double knots)
+{
+    return int(std::lround(knots));
+}
+
+int shownHeading(double degrees)
+{
+    return int(std::lround(degrees));
+}
+
+void appendTrend(QString &line, Track::VerticalTrend trend)
+{
+    if (trend == Track::TrendClimbing) {
+        line += ClimbingMark;
+    } else if (trend == Track::TrendDescending) {
+        line += DescendingMark;
+    }
+}
+
 void appendRate(QString &line, int feetPerMinute)
 {
     const int rate = hundreds(feetPerMinute);

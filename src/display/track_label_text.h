@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tracking/track.h"
+
 #include <QChar>
 #include <QString>
 
@@ -17,6 +19,13 @@ void appendNumber(QString &line, int number, int width);
 
 // Whole hundreds, halves away from zero.
 int hundreds(int value);
+
+// Figures as labels and lists show them, so that the two never disagree: flight level, knots, degrees.
+int shownLevel(int feet);
+int shownSpeed(double knots);
+int shownHeading(double degrees);
+// An arrow where it climbs or descends.
+void appendTrend(QString &line, Track::VerticalTrend trend);
 
 // "+05", "-13" or " 00": hundreds of feet a minute.
 void appendRate(QString &line, int feetPerMinute);

@@ -3,31 +3,31 @@
 #include "app/ui_state.h"
 #include "display/geo_track_display.h"
 #include "lists/alert_list_model.h"
+#include "lists/column_choice.h"
+#include "lists/list_pane.h"
 #include "lists/list_view.h"
 #include "lists/track_list_model.h"
 
 #include <QDockWidget>
-#include <QHeaderView>
-#include <QLabel>
 #include <QMainWindow>
+#include <QMenu>
 #include <QScopedValueRollback>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
 
 namespace {
 constexpr int RefreshIntervalMs = 1000;
-constexpr auto TrackListKey = "trackListHeader";
-constexpr auto AlertListKey = "alertListHeader";
+constexpr auto TrackListKey = "trackListColumns";
+constexpr auto AlertListKey = "alertListColumns";
 } // namespace
 
 ListPanes::ListPanes(QMainWindow *window, GeoTrackDisplay *tracks, NewestSnapshot newest)
     : m_window(window), m_tracks(tracks), m_newest(std::move(newest))
 {
     makeLists();
-    m_trackDock = addDock(tr("Track List"), "trackListDock", m_trackView);
-    m_alertDock = addDock(tr("Alert List"), "alertListDock", m_alertView);
+    m_trackDock = addDock(tr("Track List"), "trackListDock", m_trackPane);
+    m_alertDock = addDock(tr("Alert List"), "alertListDock", m_alertPane);
     connectTrackList();
     connectAlertList();
     connect(m_trackDock, &QDockWidget::visibilityChanged, this, &ListPanes::updateTrackList);
@@ -41,12 +41,12 @@ ListPanes::ListPanes(QMainWindow *window, GeoTrackDisplay *tracks, NewestSnapsho
 void ListPanes::makeLists()
 {
     m_trackModel = new TrackListModel(m_window);
-    m_trackView = new ListView(m_trackModel, m_trackModel->columns(), m_window);
-    m_trackView->setObjectName("trackList");
+    m_trackPane = new ListPane(m_trackModel, "trackList", m_window);
+    m_trackView = m_trackPane->list();
     m_trackView->sortByColumn(TrackListModel::Callsign, Qt::AscendingOrder);
     m_alertModel = new AlertListModel(m_window);
-    m_alertView = new ListView(m_alertModel, m_alertModel->columns(), m_window);
-    m_alertView->setObjectName("alertList");
+    m_alertPane = new ListPane(m_alertModel, "alertList", m_window);
+    m_alertView = m_alertPane->list();
     m_alertView->sortByColumn(AlertListModel::Start, Qt::DescendingOrder);
 }
 
@@ -58,9 +58,9 @@ void ListPanes::connectTrackList()
         [this](int row) { m_tracks->setHovered(row < 0 ? 0 : m_trackModel->trackId(row)); });
     connect(m_trackView, &ListView::rowDoubleClicked, this, activate);
     connect(m_trackView, &ListView::rowConfirmed, this, activate);
-    connect(m_trackView, &ListView::rowMenuRequested, this, [this](int row, const QPoint &globalPosition) {
-        Q_EMIT trackMenuRequested(m_trackModel->trackId(row), 0, globalPosition);
-    });
+    connect(m_trackView, &ListView::menuRequested, this,
+        [this](int row, const QPoint &globalPosition) { requestMenu(m_trackPane, row, globalPosition); });
+    connect(m_trackPane, &ListPane::failed, this, &ListPanes::failed);
 }
 
 void ListPanes::connectAlertList()
@@ -72,31 +72,34 @@ void ListPanes::connectAlertList()
         [this](int row) { Q_EMIT trackActivated(m_alertModel->trackId(row)); });
     connect(m_alertView, &ListView::rowConfirmed, m_tracks,
         [this](int row) { m_tracks->acknowledge(m_alertModel->key(row)); });
-    connect(m_alertView, &ListView::rowMenuRequested, this, [this](int row, const QPoint &globalPosition) {
-        Q_EMIT trackMenuRequested(m_alertModel->trackId(row), m_alertModel->key(row), globalPosition);
-    });
+    connect(m_alertView, &ListView::menuRequested, this,
+        [this](int row, const QPoint &globalPosition) { requestMenu(m_alertPane, row, globalPosition); });
+    connect(m_alertPane, &ListPane::failed, this, &ListPanes::failed);
     connect(m_tracks, &GeoTrackDisplay::acknowledged, this, &ListPanes::updateAlertList);
 }
 
-QDockWidget *ListPanes::addDock(const QString &title, const QString &name, QWidget *list)
+QDockWidget *ListPanes::addDock(const QString &title, const QString &name, ListPane *pane)
 {
-    auto *content = new QWidget(m_window);
-    auto *warning = new QLabel(content);
-    warning->setAlignment(Qt::AlignCenter);
-    warning->setTextFormat(Qt::PlainText);
-    warning->setWordWrap(true);
-    warning->hide();
-    m_warnings.append(warning);
-    auto *layout = new QVBoxLayout(content);
-    layout->setContentsMargins({});
-    layout->setSpacing(0);
-    layout->addWidget(warning);
-    layout->addWidget(list);
     auto *dock = new QDockWidget(title, m_window);
     dock->setObjectName(name); // under which the window's state remembers it
-    dock->setWidget(content);
+    dock->setWidget(pane);
+    pane->list()->setAccessibleName(title);
     m_window->addDockWidget(Qt::RightDockWidgetArea, dock);
     return dock;
+}
+
+void ListPanes::requestMenu(ListPane *pane, int row, const QPoint &globalPosition)
+{
+    auto *menu = new QMenu(pane);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions(pane->actionsFor(row, menu));
+    const bool ofAlerts = pane == m_alertPane;
+    if (row < 0) {
+        menu->popup(globalPosition);
+    } else {
+        const quint64 track = ofAlerts ? m_alertModel->trackId(row) : m_trackModel->trackId(row);
+        Q_EMIT trackMenuRequested(track, ofAlerts ? m_alertModel->key(row) : 0, menu, globalPosition);
+    }
 }
 
 void ListPanes::start()
@@ -110,20 +113,14 @@ void ListPanes::start()
 
 void ListPanes::setEmptyTexts(const QString &tracks, const QString &alerts)
 {
-    m_trackView->setEmptyText(tracks);
-    m_alertView->setEmptyText(alerts);
+    m_trackPane->setEmptyText(tracks);
+    m_alertPane->setEmptyText(alerts);
 }
 
 void ListPanes::setWarning(Urgency urgency, const QString &text)
 {
-    for (QLabel *warning : std::as_const(m_warnings)) {
-        const QString style = urgencyStyle(urgency) + QStringLiteral("; padding: 3px; font-weight: bold");
-        if (warning->styleSheet() != style) { // setting one costs a new layout
-            warning->setStyleSheet(style);
-        }
-        warning->setText(text);
-        warning->setVisible(!text.isEmpty());
-    }
+    m_trackPane->setWarning(urgency, text);
+    m_alertPane->setWarning(urgency, text);
 }
 
 void ListPanes::setAddresses(const korvane::airdb::ICAOAddrDictionary &addresses)
@@ -131,21 +128,31 @@ void ListPanes::setAddresses(const korvane::airdb::ICAOAddrDictionary &addresses
     m_trackModel->setAddresses(addresses);
 }
 
+void ListPanes::setSensorPlace(const GeoCoordinate &place)
+{
+    m_trackModel->setSensorPlace(place);
+}
+
 void ListPanes::restore(const QString &group)
 {
-    m_trackView->horizontalHeader()->restoreState(UiState::value(group, TrackListKey));
-    m_alertView->horizontalHeader()->restoreState(UiState::value(group, AlertListKey));
+    ColumnChoice::fromBytes(UiState::value(group, TrackListKey), *m_trackView);
+    ColumnChoice::fromBytes(UiState::value(group, AlertListKey), *m_alertView);
 }
 
 void ListPanes::save(const QString &group) const
 {
-    UiState::saveValue(group, TrackListKey, m_trackView->horizontalHeader()->saveState());
-    UiState::saveValue(group, AlertListKey, m_alertView->horizontalHeader()->saveState());
+    UiState::saveValue(group, TrackListKey, ColumnChoice::toBytes(*m_trackView));
+    UiState::saveValue(group, AlertListKey, ColumnChoice::toBytes(*m_alertView));
 }
 
-bool ListPanes::outOfSight(const ListView *list) const
+int ListPanes::usefulWidth(int most) const
 {
-    return m_window->isVisible() && !list->isVisible();
+    return m_trackView->widthOfWholeColumns(most);
+}
+
+bool ListPanes::outOfSight(const ListPane *pane) const
+{
+    return m_window->isVisible() && !pane->isVisible();
 }
 
 void ListPanes::refresh()
@@ -157,43 +164,41 @@ void ListPanes::refresh()
 void ListPanes::updateTrackList()
 {
     const auto snapshot = m_newest();
-    const QList<TrackSnapshot> tracks = snapshot ? snapshot->tracks : QList<TrackSnapshot>();
-    m_trackDock->setWindowTitle(tr("Track List - %1").arg(tracks.size()));
-    if (outOfSight(m_trackView)) {
+    m_trackDock->setWindowTitle(tr("Track List - %1").arg(snapshot ? snapshot->tracks.size() : 0));
+    if (outOfSight(m_trackPane)) {
         return;
     }
     const QScopedValueRollback updating(m_updating, true);
-    m_trackModel->setTracks(tracks);
+    m_trackPane->takeChange([this, &snapshot] { m_trackModel->setSnapshot(snapshot); });
     selectTrackInList(m_tracks->selectedTrackId());
 }
 
 void ListPanes::updateAlertList()
 {
     const auto snapshot = m_newest();
-    const QList<AlertSnapshot> alerts = snapshot ? snapshot->alerts : QList<AlertSnapshot>();
     const AlertBoard &board = m_tracks->alertBoard();
     const auto ofTracks = std::count_if(
         board.entries().begin(), board.entries().end(), [](const AlertBoard::Entry &entry) { return entry.ofTrack; });
-    m_alertDock->setWindowTitle(tr("Alert List - %1").arg(alerts.size() + ofTracks));
-    if (outOfSight(m_alertView)) {
+    m_alertDock->setWindowTitle(tr("Alert List - %1").arg((snapshot ? snapshot->alerts.size() : 0) + ofTracks));
+    if (outOfSight(m_alertPane)) {
         return;
     }
     const QScopedValueRollback updating(m_updating, true);
-    m_alertModel->setAlerts(alerts, board);
+    m_alertPane->takeChange([this, &snapshot, &board] { m_alertModel->setSnapshot(snapshot, board); });
     m_alertView->setLitRows(m_alertModel->rowsOf(m_litTrack)); // an alert may have come under the pointer
 }
 
 void ListPanes::clearTrackList()
 {
     const QScopedValueRollback updating(m_updating, true);
-    m_trackModel->clear();
+    m_trackPane->takeChange([this] { m_trackModel->clear(); });
     m_trackDock->setWindowTitle(tr("Track List - %1").arg(0));
 }
 
 void ListPanes::clearAlertList()
 {
     const QScopedValueRollback updating(m_updating, true);
-    m_alertModel->clear();
+    m_alertPane->takeChange([this] { m_alertModel->clear(); });
     m_alertDock->setWindowTitle(tr("Alert List - %1").arg(0));
 }
 

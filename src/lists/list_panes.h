@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/display_snapshot.h"
+#include "geo/geo_coordinate.h"
 #include "widgets/urgency.h"
 
 #include <QObject>
@@ -11,10 +12,12 @@
 
 class AlertListModel;
 class GeoTrackDisplay;
+class ListPane;
 class ListView;
+class QAction;
 class QDockWidget;
-class QLabel;
 class QMainWindow;
+class QMenu;
 class TrackListModel;
 namespace korvane::airdb {
 class ICAOAddrDictionary;
@@ -42,16 +45,22 @@ public:
     void setWarning(Urgency urgency, const QString &text);
     // Where the countries of registration are looked up, from the next tracks on.
     void setAddresses(const korvane::airdb::ICAOAddrDictionary &addresses);
+    // From where distances and bearings count; invalid: there are none.
+    void setSensorPlace(const GeoCoordinate &place);
 
     // The columns, among the window's state.
     void restore(const QString &group);
     void save(const QString &group) const;
+    // As many pixels of those as show whole columns of the track list.
+    int usefulWidth(int most) const;
 
 Q_SIGNALS:
     // The operator wants to see the track.
     void trackActivated(unsigned long long id);
-    // The right button on a row; the key is that of the alert list's row, 0 on the track list.
-    void trackMenuRequested(unsigned long long id, quint64 alert, const QPoint &globalPosition);
+    // The right button on a row; the key is that of the alert list's row, 0 on the track list. The menu has by now what
+    // can be done with the row as a text, and is given up by who does not show it.
+    void trackMenuRequested(unsigned long long id, quint64 alert, QMenu *menu, const QPoint &globalPosition);
+    void failed(const QString &text);
 
 public Q_SLOTS:
     // Both lists at once.
@@ -72,19 +81,21 @@ private:
     void makeLists();
     void connectTrackList();
     void connectAlertList();
-    QDockWidget *addDock(const QString &title, const QString &name, QWidget *list);
-    bool outOfSight(const ListView *list) const;
+    QDockWidget *addDock(const QString &title, const QString &name, ListPane *pane);
+    void requestMenu(ListPane *pane, int row, const QPoint &globalPosition);
+    bool outOfSight(const ListPane *pane) const;
 
     QMainWindow *m_window;
     GeoTrackDisplay *m_tracks;
     NewestSnapshot m_newest;
     TrackListModel *m_trackModel = nullptr; // these six are the window's
     AlertListModel *m_alertModel = nullptr;
-    ListView *m_trackView = nullptr;
-    ListView *m_alertView = nullptr;
+    ListPane *m_trackPane = nullptr;
+    ListPane *m_alertPane = nullptr;
     QDockWidget *m_trackDock = nullptr;
     QDockWidget *m_alertDock = nullptr;
-    QList<QLabel *> m_warnings; // one over each list; the docks'
+    ListView *m_trackView = nullptr; // of the panes
+    ListView *m_alertView = nullptr;
     QTimer m_trackTimer;
     QTimer m_alertTimer;
     unsigned long long m_litTrack = 0;

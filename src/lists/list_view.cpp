@@ -1,7 +1,6 @@
 #include "lists/list_view.h"
 
-#include "lists/list_sort_model.h"
-#include "lists/record_table_model.h"
+#include "lists/list_order.h"
 #include "widgets/figure_font.h"
 #include "widgets/text_colors.h"
 
@@ -9,6 +8,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -21,6 +22,9 @@ constexpr int LitAlpha = 70; // of the selection's colour
 // Keys that move within the list; the window has shortcuts on some of them.
 bool isListKey(const QKeyEvent &event)
 {
+    if (event.matches(QKeySequence::Copy)) {
+        return true;
+    }
     if (event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) {
         return false;
     }
@@ -70,10 +74,18 @@ private:
 
 } // namespace
 
-ListView::ListView(QAbstractItemModel *model, const QList<ListColumn> &columns, QWidget *parent)
-    : QTableView(parent), m_sorted(new ListSortModel(model, this))
+ListView::ListView(ListModel *model, QWidget *parent)
+    : QTableView(parent), m_model(model), m_order(new ListOrder(model, this))
 {
-    setModel(m_sorted);
+    setUpTable();
+    fitColumns();
+    showDefaultColumns();
+    connectRows();
+}
+
+void ListView::setUpTable()
+{
+    setModel(m_order);
     setItemDelegate(new CellDelegate(this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -83,32 +95,111 @@ ListView::ListView(QAbstractItemModel *model, const QList<ListColumn> &columns, 
     setWordWrap(false);
     setCornerButtonEnabled(false);
     setHorizontalScrollMode(ScrollPerPixel);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // columns stay where they are when rows come
     setFrameShape(NoFrame);
     setSortingEnabled(true);
-    verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(QFontMetrics(figureFont()).height() + 4);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(true);
-    fitColumns(columns);
-    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListView::selectedRowChanged);
     setMouseTracking(true);
-    connect(this, &QAbstractItemView::entered, this,
-        [this](const QModelIndex &index) { noteHover(m_sorted->mapToSource(index).row()); });
-    connect(this, &QAbstractItemView::viewportEntered, this, [this] { noteHover(-1); });
-    connect(this, &QAbstractItemView::doubleClicked, this,
-        [this](const QModelIndex &index) { Q_EMIT rowDoubleClicked(m_sorted->mapToSource(index).row()); });
-    connect(m_sorted, &QAbstractItemModel::rowsInserted, viewport(), qOverload<>(&QWidget::update));
-    connect(m_sorted, &QAbstractItemModel::rowsRemoved, viewport(), qOverload<>(&QWidget::update));
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(QFontMetrics(figureFont()).height() + 2);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsMovable(true);
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
 }
 
-void ListView::fitColumns(const QList<ListColumn> &columns)
+void ListView::connectRows()
+{
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (!m_changing) {
+            Q_EMIT selectedRowChanged();
+        }
+    });
+    connect(this, &QAbstractItemView::entered, this, &ListView::noteHover);
+    connect(this, &QAbstractItemView::viewportEntered, this, [this] { noteHover({}); });
+    connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
+        if (const int row = m_order->modelRow(index.row()); row >= 0) {
+            Q_EMIT rowDoubleClicked(row);
+        }
+    });
+    connect(m_order, &QAbstractItemModel::rowsInserted, viewport(), qOverload<>(&QWidget::update));
+    connect(m_order, &QAbstractItemModel::rowsRemoved, viewport(), qOverload<>(&QWidget::update));
+    connect(m_order, &QAbstractItemModel::dataChanged, this, &ListView::leaveEmptyLine);
+}
+
+void ListView::fitColumns()
 {
     const QFontMetrics figures(figureFont());
+    const QList<ListColumn> &columns = m_model->columns();
     for (int column = 0; column < columns.size(); ++column) {
         const int title = horizontalHeader()->sectionSizeHint(column);
         const int content = figures.horizontalAdvance(columns[column].widestText) + 2 * CellPadding + 2;
         horizontalHeader()->resizeSection(column, std::max(title, content));
     }
+}
+
+void ListView::showDefaultColumns()
+{
+    QHeaderView *header = horizontalHeader();
+    const QList<ListColumn> &columns = m_model->columns();
+    for (int column = 0; column < columns.size(); ++column) {
+        header->moveSection(header->visualIndex(column), column);
+        header->setSectionHidden(column, false); // a hidden one has no width to set
+    }
+    fitColumns();
+    for (int column = 0; column < columns.size(); ++column) {
+        header->setSectionHidden(column, !columns[column].shownAtFirst);
+    }
+}
+
+QList<int> ListView::shownColumns() const
+{
+    QList<int> shown;
+    for (int place = 0; place < horizontalHeader()->count(); ++place) {
+        const int column = horizontalHeader()->logicalIndex(place);
+        if (!isColumnHidden(column)) {
+            shown.append(column);
+        }
+    }
+    return shown;
+}
+
+int ListView::widthOfWholeColumns(int most) const
+{
+    const int beside = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    int width = beside;
+    for (const int column : shownColumns()) {
+        // The last one may have been stretched.
+        const int wanted = std::max(horizontalHeader()->sectionSizeHint(column),
+            QFontMetrics(figureFont()).horizontalAdvance(m_model->columns()[column].widestText) + 2 * CellPadding + 2);
+        if (width > beside && width + wanted > most) {
+            break;
+        }
+        width += wanted;
+    }
+    return width;
+}
+
+bool ListView::inUse() const
+{
+    const bool touched = m_sinceTouched.isValid() && m_sinceTouched.elapsed() < RestMs;
+    return touched && (m_pointerInside || (hasFocus() && selectedRow() >= 0));
+}
+
+void ListView::takeChange(const std::function<void()> &change)
+{
+    const QScopedValueRollback changing(m_changing, true);
+    m_order->setHeld(inUse());
+    change();
+    if (!m_order->held()) {
+        m_order->arrange();
+    }
+}
+
+void ListView::arrange()
+{
+    const QScopedValueRollback changing(m_changing, true);
+    m_order->arrange();
 }
 
 void ListView::setEmptyText(const QString &text)
@@ -122,25 +213,25 @@ void ListView::setEmptyText(const QString &text)
 int ListView::selectedRow() const
 {
     const QModelIndexList rows = selectionModel()->selectedRows();
-    return rows.isEmpty() ? -1 : m_sorted->mapToSource(rows.first()).row();
+    return rows.isEmpty() ? -1 : m_order->modelRow(rows.first().row());
 }
 
 void ListView::selectRow(int row)
 {
-    if (row < 0) {
+    const QModelIndex index = row < 0 ? QModelIndex() : m_order->mapFromSource(m_model->index(row, 0));
+    if (!index.isValid()) {
         clearSelection();
         return;
     }
-    const QModelIndex index = m_sorted->mapFromSource(m_sorted->sourceModel()->index(row, 0));
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    scrollTo(index);
+    scrollTo(index.siblingAtColumn(shownColumns().value(0)));
 }
 
 void ListView::setLitRows(const QList<int> &rows)
 {
     QList<QPersistentModelIndex> lit;
     for (const int row : rows) {
-        lit.append(m_sorted->mapFromSource(m_sorted->sourceModel()->index(row, 0)));
+        lit.append(m_order->mapFromSource(m_model->index(row, 0)));
     }
     if (lit != m_lit) {
         m_lit.swap(lit);
@@ -148,28 +239,54 @@ void ListView::setLitRows(const QList<int> &rows)
     }
 }
 
-bool ListView::isLit(const QModelIndex &sortedIndex) const
+bool ListView::isLit(const QModelIndex &index) const
 {
     return std::any_of(m_lit.begin(), m_lit.end(),
-        [&sortedIndex](const QPersistentModelIndex &lit) { return lit.isValid() && lit.row() == sortedIndex.row(); });
+        [&index](const QPersistentModelIndex &lit) { return lit.isValid() && lit.row() == index.row(); });
 }
 
-void ListView::noteHover(int row)
+void ListView::noteHover(const QModelIndex &index)
 {
+    const int row = index.isValid() ? m_order->modelRow(index.row()) : -1;
     if (row != m_hoveredRow) {
         m_hoveredRow = row;
         Q_EMIT hoveredRowChanged(row);
     }
 }
 
+bool ListView::viewportEvent(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Enter:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonPress:
+    case QEvent::Wheel:
+        m_pointerInside = true;
+        m_sinceTouched.start();
+        break;
+    case QEvent::Leave:
+        m_pointerInside = false;
+        break;
+    default:
+        break;
+    }
+    return QTableView::viewportEvent(event);
+}
+
 void ListView::leaveEvent(QEvent *event)
 {
-    noteHover(-1);
+    m_pointerInside = false;
+    noteHover({});
     QTableView::leaveEvent(event);
 }
 
 void ListView::keyPressEvent(QKeyEvent *event)
 {
+    m_sinceTouched.start();
+    if (event->matches(QKeySequence::Copy)) {
+        Q_EMIT copyRequested();
+        return;
+    }
     const bool confirms =
         event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
     if (confirms && event->modifiers() == Qt::NoModifier && selectedRow() >= 0) {
@@ -181,10 +298,13 @@ void ListView::keyPressEvent(QKeyEvent *event)
 
 void ListView::contextMenuEvent(QContextMenuEvent *event)
 {
-    const QModelIndex index = indexAt(viewport()->mapFromGlobal(event->globalPos()));
-    if (index.isValid()) {
-        Q_EMIT rowMenuRequested(m_sorted->mapToSource(index).row(), event->globalPos());
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        const QRect current = visualRect(currentIndex());
+        Q_EMIT menuRequested(selectedRow(), viewport()->mapToGlobal(current.bottomLeft()));
+        return;
     }
+    const QModelIndex index = indexAt(viewport()->mapFromGlobal(event->globalPos()));
+    Q_EMIT menuRequested(index.isValid() ? m_order->modelRow(index.row()) : -1, event->globalPos());
 }
 
 bool ListView::event(QEvent *event)
@@ -200,7 +320,7 @@ bool ListView::event(QEvent *event)
 void ListView::paintEvent(QPaintEvent *event)
 {
     QTableView::paintEvent(event);
-    if (m_sorted->rowCount() > 0 || m_emptyText.isEmpty()) {
+    if (m_order->rowCount() > 0 || m_emptyText.isEmpty()) {
         return;
     }
     QPainter painter(viewport());
@@ -216,4 +336,13 @@ void ListView::rowsAboutToBeRemoved(const QModelIndex &parent, int start, int en
         selectionModel()->clear();
     }
     QTableView::rowsAboutToBeRemoved(parent, start, end);
+}
+
+// The same where a row has left an empty line.
+void ListView::leaveEmptyLine()
+{
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && m_order->modelRow(current.row()) < 0) {
+        selectionModel()->clear();
+    }
 }

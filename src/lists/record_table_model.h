@@ -1,8 +1,8 @@
 #pragma once
 
+#include "lists/list_model.h"
 #include "widgets/figure_font.h"
 
-#include <QAbstractTableModel>
 #include <QFont>
 #include <QHash>
 
@@ -11,28 +11,31 @@
 #include <utility>
 #include <vector>
 
-// One column of a list: texts as they are shown.
-struct ListColumn {
-    QString title;
-    QString explanation; // the header's tool tip; may be empty
-    QString widestText; // that the column's width should hold
-    Qt::Alignment alignment = Qt::AlignLeft;
+// A column of records: what it is called, and what it makes of a record.
+template <typename Record>
+struct RecordColumn {
+    ListColumn column;
+    QString (*text)(const Record &record);
+    std::optional<double> (*number)(const Record &record) = nullptr; // to sort by; null: by the text
 };
 
 // Rows of records that are replaced as a whole once a second. A record keeps its row while its key lasts, so that
 // selection, current row and scroll position of the views stay with it; views are told only of rows that came, went or
-// changed. Record needs operator==; Key is the member that tells one from another.
+// changed. Texts are made when they are asked for. Record needs operator==; Key is the member that tells one from
+// another.
 template <typename Record, auto Key>
-class RecordTableModel : public QAbstractTableModel {
+class RecordTableModel : public ListModel {
     using KeyType = std::decay_t<decltype(std::declval<Record>().*Key)>;
 
 public:
-    // For a proxy: the value to sort by; invalid where the record has none.
-    static constexpr int SortRole = Qt::UserRole;
+    using Column = RecordColumn<Record>;
 
-    RecordTableModel(QList<ListColumn> columns, QObject *parent)
-        : QAbstractTableModel(parent), m_columns(std::move(columns)), m_figures(figureFont())
+    RecordTableModel(const QList<Column> &columns, QObject *parent)
+        : ListModel(parent), m_fields(columns), m_figures(figureFont())
     {
+        for (const Column &field : columns) {
+            m_columns.append(field.column);
+        }
     }
 
     int rowCount(const QModelIndex &parent = {}) const final
@@ -42,12 +45,12 @@ public:
 
     int columnCount(const QModelIndex &parent = {}) const final
     {
-        return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+        return parent.isValid() ? 0 : static_cast<int>(m_fields.size());
     }
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const final
     {
-        if (orientation != Qt::Horizontal || section < 0 || section >= m_columns.size()) {
+        if (orientation != Qt::Horizontal || section < 0 || section >= m_fields.size()) {
             return {};
         }
         switch (role) {
@@ -69,9 +72,7 @@ public:
         }
         switch (role) {
         case Qt::DisplayRole:
-            return text(record(index.row()), index.column());
-        case SortRole:
-            return sortValue(record(index.row()), index.column());
+            return cellText(index.row(), index.column());
         case Qt::FontRole:
             return m_figures;
         case Qt::TextAlignmentRole:
@@ -81,7 +82,13 @@ public:
         }
     }
 
-    const QList<ListColumn> &columns() const { return m_columns; }
+    const QList<ListColumn> &columns() const final { return m_columns; }
+    QString cellText(int row, int column) const final { return m_fields[column].text(record(row)); }
+    bool isNumeric(int column) const final { return m_fields[column].number; }
+    std::optional<double> cellNumber(int row, int column) const final
+    {
+        return isNumeric(column) ? m_fields[column].number(record(row)) : std::nullopt;
+    }
 
     void clear() { replaceRecords({}); }
 
@@ -93,27 +100,12 @@ public:
     }
 
 protected:
-    virtual QString text(const Record &record, int column) const = 0;
-    // Invalid where the record has none.
-    virtual QVariant sortValue(const Record &record, int column) const { return textOrNone(text(record, column)); }
     // Colours, decorations and tool tips.
     virtual QVariant look(const Record &record, int column, int role) const = 0;
 
     static QVariant textOrNone(const QString &text) { return text.isEmpty() ? QVariant() : QVariant(text); }
 
-    // Makes the records of what a snapshot holds. Keys must differ from each other.
-    template <typename Snapshot, typename Make>
-    void showSnapshots(const QList<Snapshot> &snapshots, Make make)
-    {
-        std::vector<Record> records;
-        records.reserve(static_cast<std::size_t>(snapshots.size()));
-        std::transform(snapshots.cbegin(), snapshots.cend(), std::back_inserter(records), make);
-        replaceRecords(std::move(records));
-    }
-
-private:
-    QVariant alignment(int column) const { return QVariant::fromValue(m_columns[column].alignment | Qt::AlignVCenter); }
-
+    // Keys must differ from each other.
     void replaceRecords(std::vector<Record> records)
     {
         QHash<KeyType, std::size_t> incoming;
@@ -126,6 +118,9 @@ private:
         appendRemaining(records, incoming);
         indexRows();
     }
+
+private:
+    QVariant alignment(int column) const { return QVariant::fromValue(m_columns[column].alignment | Qt::AlignVCenter); }
 
     void removeAllBut(const QHash<KeyType, std::size_t> &incoming)
     {
@@ -144,7 +139,7 @@ private:
         }
     }
 
-    // Tells of one span from the first to the last changed row: a proxy sorts once for it, however many rows it holds.
+    // Tells of one span from the first to the last changed row, however many rows it holds.
     void updateRecords(std::vector<Record> &records, QHash<KeyType, std::size_t> &incoming)
     {
         int first = -1;
@@ -187,7 +182,8 @@ private:
         }
     }
 
-    const QList<ListColumn> m_columns;
+    const QList<Column> m_fields;
+    QList<ListColumn> m_columns;
     const QFont m_figures;
     std::vector<Record> m_records;
     QHash<KeyType, int> m_rows;

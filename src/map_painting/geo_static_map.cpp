@@ -133,11 +133,23 @@ void GeoStaticMap::prepare(const MapLibrary::Map &map)
     prepared.token.reset();
     prepared.data = map.data;
     prepared.revision = map.revision;
-    if (shapePointCount(*map.data) > PointsAtOnce) {
+    if (const StaticMapGeometry::Pointer shared = geometryOfOther(map)) {
+        prepared.geometry = shared;
+    } else if (shapePointCount(*map.data) > PointsAtOnce) {
         prepareInBackground(map.id, prepared);
     } else {
         prepared.geometry = StaticMapGeometry::make(map.data, *m_projector, false);
     }
+}
+
+StaticMapGeometry::Pointer GeoStaticMap::geometryOfOther(const MapLibrary::Map &map) const
+{
+    if (!m_other) {
+        return {};
+    }
+    const Prepared prepared = m_other->m_prepared.value(map.id);
+    const bool ready = prepared.data == map.data && prepared.revision == map.revision && !prepared.token;
+    return ready ? prepared.geometry : StaticMapGeometry::Pointer();
 }
 
 void GeoStaticMap::prepareInBackground(quint64 id, Prepared &prepared)

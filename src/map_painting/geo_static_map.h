@@ -11,6 +11,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QPointer>
 #include <QThreadPool>
 
 #include <array>
@@ -40,6 +41,9 @@ public:
     // Where the texts of the last frame stand in a view, which may lie beside it: what can stand elsewhere leaves them
     // free. Those within the view only, pixels.
     QList<QRectF> textPlaces(const GeoView &view) const;
+
+    // What the other layer, of the same library and projector, has brought into the plane is not done once more.
+    void shareGeometryOf(const GeoStaticMap *other) { m_other = other; }
 
     // True while maps are being prepared in the background; polluted() follows each.
     bool preparing() const;
@@ -77,6 +81,7 @@ private:
     };
 
     void prepare(const MapLibrary::Map &map);
+    StaticMapGeometry::Pointer geometryOfOther(const MapLibrary::Map &map) const;
     void prepareInBackground(quint64 id, Prepared &prepared);
     void takeGeometry(quint64 id, const Token &token, const StaticMapGeometry::Pointer &geometry);
     void forgetPainted();
@@ -88,6 +93,7 @@ private:
         const StaticMapGroup &group, double period, const Look &look, StaticMapPainter &elements);
 
     Projector *m_projector;
+    QPointer<const GeoStaticMap> m_other;
     QList<MapLibrary::Map> m_maps;
     QHash<quint64, Prepared> m_prepared;
     MapStyleSheet m_styles;

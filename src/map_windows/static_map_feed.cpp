@@ -12,6 +12,10 @@ StaticMapFeed::StaticMapFeed(MapLibrary *library, GeoStaticMap *layer, QObject *
     connect(library, &MapLibrary::mapsChanged, &m_delay, qOverload<>(&QTimer::start));
     connect(library, &MapLibrary::mapChanged, this, &StaticMapFeed::handOverChanged);
     connect(library, &MapLibrary::styleSheetChanged, this, [this] { m_layer->setStyleSheet(m_library->styleSheet()); });
+    if (!library->maps().isEmpty()) {
+        layer->setStyleSheet(library->styleSheet());
+        m_delay.start();
+    }
 }
 
 void StaticMapFeed::handOver()

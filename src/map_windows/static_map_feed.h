@@ -17,7 +17,7 @@ class StaticMapFeed final : public QObject {
     Q_OBJECT
 
 public:
-    // Both must outlive the feed.
+    // Both must outlive the feed. What the library holds by now is handed over too.
     StaticMapFeed(MapLibrary *library, GeoStaticMap *layer, QObject *parent = nullptr);
 
 private:

@@ -81,6 +81,15 @@ void GeoWeatherMap::setPicture(const WeatherProcessor::Picture &picture)
     Q_EMIT polluted();
 }
 
+void GeoWeatherMap::takePictureOf(const GeoWeatherMap &other)
+{
+    m_picture = other.m_picture;
+    m_pictureTime = other.m_pictureTime;
+    makeShapes();
+    Q_EMIT pictureChanged();
+    Q_EMIT polluted();
+}
+
 void GeoWeatherMap::setLevelVisible(int level, bool visible)
 {
     if (!isLevel(level) || levelVisible(level) == visible) {

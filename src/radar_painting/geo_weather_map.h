@@ -46,6 +46,9 @@ public:
     quint64 emptyPictures() const { return m_emptyPictures; }
     quint64 placelessPictures() const { return m_placelessPictures; }
 
+    // Shows what the other shows, of the same sensor, as long as it does.
+    void takePictureOf(const GeoWeatherMap &other);
+
     // Replaces the steady clock, milliseconds from any start.
     void setClock(std::function<qint64()> clock);
 

@@ -8,6 +8,7 @@ void fill(TrackSnapshot &snapshot, const Track &track)
 {
     snapshot.incarnationId = track.incarnationId();
     snapshot.trackNumber = track.trackNumber();
+    snapshot.sensorTrackNumber = track.otherTrackNumber();
     snapshot.icaoAddr = track.icaoAddr();
     snapshot.icaoAddrValid = track.icaoAddrValid();
     snapshot.icaoAddrString = track.icaoAddrString();

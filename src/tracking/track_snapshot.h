@@ -12,7 +12,8 @@
 // degrees clockwise from north, feet, feet per minute; plane points in metres, x east, y north.
 struct TrackSnapshot {
     quint64 incarnationId = 0;
-    unsigned int trackNumber = 0;
+    unsigned int trackNumber = 0; // the terminal's
+    unsigned int sensorTrackNumber = 0; // the sensor's own; 0: it sends none
     unsigned int icaoAddr = 0;
     bool icaoAddrValid = false;
     QString icaoAddrString;

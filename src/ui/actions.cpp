@@ -1,6 +1,6 @@
 #include "ui/actions.h"
 
-#include "ui/action_icon.h"
+#include "widgets/action_icon.h"
 
 #include <QAction>
 #include <QEvent>
@@ -10,6 +10,9 @@
 #include <QMenuBar>
 #include <QToolBar>
 #include <QToolButton>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -76,11 +79,17 @@ constexpr ActionSpec Specs[] = {
         "", "", "load-layout", false, MenuId::View, ToolBarId::View, false},
     {ActionId::Theme, QT_TRANSLATE_NOOP("Actions", "Theme"), "",
         QT_TRANSLATE_NOOP("Actions", "Colours, fonts and map style of scope and windows"), "", "theme", false,
-        MenuId::View, ToolBarId::None, true},
+        MenuId::View, ToolBarId::View, true},
     {ActionId::FullScreen, QT_TRANSLATE_NOOP("Actions", "Full Screen"), "", "", "Alt+F11", "full-screen", true,
         MenuId::View, ToolBarId::None, true},
+    {ActionId::ShowEdges, QT_TRANSLATE_NOOP("Actions", "Show Bars and Panes"), "",
+        QT_TRANSLATE_NOOP("Actions", "In full screen: all bars and panes over the scope, and away again"), "Ctrl+F11",
+        "show-edges", false, MenuId::View, ToolBarId::None, false},
     {ActionId::ResizeMainWindow, QT_TRANSLATE_NOOP("Actions", "Resize Main Window"), "", "", "", "resize-window",
         false, MenuId::View, ToolBarId::None, false},
+    {ActionId::NewPlanView, QT_TRANSLATE_NOOP("Actions", "New Plan View"), "",
+        QT_TRANSLATE_NOOP("Actions", "The same picture in a window of its own, with its own centre, scale and layers"),
+        "Ctrl+N", "plan-view", false, MenuId::View, ToolBarId::None, true},
 
     {ActionId::Statistics, QT_TRANSLATE_NOOP("Actions", "Statistics..."), "",
         QT_TRANSLATE_NOOP("Actions", "Show Statistics"), "F8", "statistics", false, MenuId::Tools, ToolBarId::None,
@@ -290,9 +299,29 @@ QMenu *Actions::setMenu(ActionId id, QMenu *menu)
     return before;
 }
 
+void Actions::showValue(ActionId id, const QString &value)
+{
+    const ActionSpec &spec =
+        *std::find_if(std::begin(Specs), std::end(Specs), [id](const ActionSpec &one) { return one.id == id; });
+    const QString name = tr(given(spec.iconText) ? spec.iconText : spec.text);
+    QAction *action = (*this)[id];
+    const QString shown = value.isEmpty() ? name : tr("%1: %2").arg(name, value);
+    if (action->iconText() == shown) {
+        return;
+    }
+    action->setIconText(shown);
+    action->setToolTip(value.isEmpty() ? tr(spec.toolTip) : tr("%1: %2").arg(tr(spec.text), value));
+    measureToolBars();
+}
+
 void Actions::setToolBarText(bool wanted)
 {
     m_textWanted = wanted;
+    measureToolBars();
+}
+
+void Actions::measureToolBars()
+{
     m_textWidth = 0;
     for (QToolBar *bar : m_toolBars) {
         bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);

@@ -40,7 +40,9 @@ enum class ActionId : std::size_t {
     LoadLayout,
     Theme,
     FullScreen,
+    ShowEdges,
     ResizeMainWindow,
+    NewPlanView,
     Statistics,
     RawView,
     DiagnoseInput,
@@ -120,6 +122,10 @@ public:
     // null, is left to the caller.
     QMenu *setMenu(ActionId id, QMenu *menu);
 
+    // What the action's menu has chosen now: stands on its tool button and in its tool tip. Empty: nothing in
+    // particular.
+    void showValue(ActionId id, const QString &value);
+
     // Shows the icon texts beside the icons of the tool bars, as long as the window is wide enough for all of them, or
     // the icons alone.
     void setToolBarText(bool wanted);
@@ -130,6 +136,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void measureToolBars();
     void fitToolBars();
     void makeMenus(QMainWindow *window);
     void makeToolBars(QMainWindow *window);

@@ -99,6 +99,7 @@ void LayoutMenu::updateMenu()
             });
         });
     }
+    m_actions->showValue(ActionId::LoadLayout, chosen() ? m_layouts.currentLayoutName() : QString());
     menu->addSeparator();
     menu->addMenu(removal)->setEnabled(!stored.isEmpty());
 }

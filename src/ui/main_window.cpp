@@ -12,11 +12,10 @@
 #include "health/input_health.h"
 #include "inspection/inspection.h"
 #include "lists/list_panes.h"
-#include "orientation/geo_map_key.h"
 #include "plan_view/geo_widget.h"
-#include "radar_painting/geo_video_map.h"
-#include "radar_painting/geo_weather_map.h"
+#include "plan_view/plan_display.h"
 #include "raw_view/stream_windows.h"
+#include "second_view/second_views.h"
 #include "sensors/sensor_info.h"
 #include "sensors/sensor_manager.h"
 #include "settings/lock_commands.h"
@@ -33,7 +32,6 @@
 #include "ui/map_windows.h"
 #include "ui/plot_switch.h"
 #include "ui/replay_controls.h"
-#include "ui/scope_notice.h"
 #include "ui/snapshot_pump.h"
 #include "ui/stats_window.h"
 #include "ui/status_line.h"
@@ -41,7 +39,10 @@
 #include "ui/theme_menu.h"
 #include "ui/track_commands.h"
 #include "ui/weather_intensity_window.h"
+#include "widgets/scope_notice.h"
 #include "widgets/widget_style.h"
+#include "workplace/scope_holder.h"
+#include "workplace/workplace.h"
 
 #include <QAction>
 #include <QDateTime>
@@ -104,9 +105,11 @@ MainWindow::MainWindow(const std::function<void(Config &)> &overrides, QWidget *
     connectInputActions();
     connectViewActions();
     connectTrackActions();
+    connectWorkplace();
     connectMapActions();
     connectMapWindows();
     connectTileMaps();
+    connectSecondViews();
     connectDialogActions();
     connect(m_sensors.get(), &SensorManager::warning, this,
         [this](const QString &text) { showLog(LogLevel::Warning, text); });
@@ -143,21 +146,14 @@ bool MainWindow::isDebugMode()
 
 void MainWindow::makeDisplay()
 {
-    m_mapDisplay = std::make_unique<GeoMapDisplay>(&m_host.shared().projector);
-    m_trackDisplay = std::make_unique<GeoTrackDisplay>();
-    m_mapDisplay->mapKey()->addSymbolSource([this](double devicePixelRatio) {
-        std::vector<GeoMapKey::Symbol> symbols;
-        for (auto &[meaning, picture] : m_trackDisplay->shownSymbols(devicePixelRatio)) {
-            symbols.push_back({meaning, picture});
-        }
-        return symbols;
-    });
-    m_geoWidget = new GeoWidget(this);
+    m_plan = std::make_unique<PlanDisplay>(&m_host.shared().projector, this);
+    m_mapDisplay = m_plan->map();
+    m_trackDisplay = m_plan->tracks();
+    m_geoWidget = m_plan->widget();
     m_geoWidget->setObjectName("geoWidget");
-    m_geoWidget->setMinimumSize(320, 240);
-    m_geoWidget->setMapDisplay(m_mapDisplay.get());
-    m_geoWidget->setTrackDisplay(m_trackDisplay.get());
-    setCentralWidget(m_geoWidget);
+    auto *holder = new ScopeHolder(m_geoWidget, this);
+    setCentralWidget(holder);
+    m_workplace = new Workplace(this, holder, ArrangementVersion);
     m_scopeNotice = new ScopeNotice(m_geoWidget);
 }
 
@@ -167,7 +163,7 @@ void MainWindow::makeFurniture()
     setAcceptDrops(true);
     m_actions = new Actions(this);
     m_lock = std::make_unique<LockCommands>(this, (*m_actions)[ActionId::LockSettings], &m_config);
-    m_themes = new ThemeMenu(this, m_actions, &m_config, m_trackDisplay.get());
+    m_themes = new ThemeMenu(this, m_actions, &m_config, m_trackDisplay);
     m_readOuts = new StatusReadOuts(statusBar(), &m_host.shared().projector);
     m_statusLine = std::make_unique<StatusLine>(statusBar());
     m_windows.stats = new StatsWindow(this);
@@ -202,12 +198,12 @@ void MainWindow::makeMessagesDock()
 void MainWindow::makeParts()
 {
     m_session = std::make_unique<InputSession>(&m_config, &m_host);
-    m_pump = std::make_unique<SnapshotPump>(&m_host.shared(), m_mapDisplay.get(), m_trackDisplay.get());
+    m_pump = std::make_unique<SnapshotPump>(&m_host.shared(), m_plan.get());
     m_emptyScope = std::make_unique<EmptyScope>();
     m_health = std::make_unique<InputHealth>(m_mapDisplay->addLayer<GeoLastPlaceMap>(MapLayer::Plots));
     m_plotSwitch = std::make_unique<PlotSwitch>(m_mapDisplay->plotMap(), (*m_actions)[ActionId::TogglePlots]);
-    m_lists = std::make_unique<ListPanes>(this, m_trackDisplay.get(), [this] { return m_pump->newest(); });
-    m_trackCommands = std::make_unique<TrackCommands>(m_actions, m_geoWidget, m_trackDisplay.get(), m_lists.get());
+    m_lists = std::make_unique<ListPanes>(this, m_trackDisplay, [this] { return m_pump->newest(); });
+    m_trackCommands = std::make_unique<TrackCommands>(m_actions, m_geoWidget, m_trackDisplay, m_lists.get());
     makeInspection();
     m_home = std::make_unique<HomeView>(m_geoWidget, &m_host.shared().projector, &m_config.live());
     m_layoutMenu = std::make_unique<LayoutMenu>(this, m_actions, m_geoWidget, &m_config.lock());
@@ -216,6 +212,8 @@ void MainWindow::makeParts()
     m_tileMaps = std::make_unique<TileMaps>(this, m_geoWidget, &m_host.shared().projector,
         [this](const std::function<void(Config &)> &change) { editConfig(change); });
     m_replay = std::make_unique<ReplayControls>(this, m_actions, &m_config, m_sensors.get(), &m_host, m_session.get());
+    m_views = std::make_unique<SecondViews>(
+        PlanViewWindow::Shared{&m_host.shared().projector, m_mapWindows->library(), m_plan.get()});
 }
 
 void MainWindow::routeLibraryLogs()
@@ -255,14 +253,13 @@ void MainWindow::showLog(LogLevel level, const QString &text)
 void MainWindow::applyConfig(SettingGroups changed)
 {
     const Config &config = m_config.live();
-    m_mapDisplay->applyConfig(config, changed);
-    if (changed & SettingGroup::Tracks) {
-        m_trackDisplay->applyConfig(config);
-    }
+    m_plan->applyConfig(config, changed);
+    m_views->applyConfig(config, changed);
     if (changed & SettingGroup::General) {
         applyWidgetStyle(config.displayStyle);
         applyFontScale(config.displayFontScale);
         m_readOuts->setTimeZone(config.displayLocalTimeZoneName);
+        m_actions->showValue(ActionId::Theme, config.displayTheme);
         m_actions->setToolBarText(config.displayToolbarText);
         updateClock();
         m_logFile.setLimits(config.logFileSize * OctetsPerMebibyte, config.logFileCount);
@@ -293,10 +290,12 @@ void MainWindow::applySensor()
     m_session->setSensor(m_config.live().sensor(nullptr));
     m_sensors->addDetails(m_session->sensor().data());
     placeDefaultLayout();
-    m_mapDisplay->setSensor(m_session->sensor());
+    m_plan->setSensor(m_session->sensor());
+    m_views->setSensor(m_session->sensor());
     m_health->setSensor(m_session->sensor().data());
-    m_trackDisplay->setSensor(m_session->sensor());
-    m_readOuts->setSensorPlace(m_session->sensor() ? m_session->sensor()->location() : GeoCoordinate());
+    const GeoCoordinate place = m_session->sensor() ? m_session->sensor()->location() : GeoCoordinate();
+    m_readOuts->setSensorPlace(place);
+    m_lists->setSensorPlace(place);
     beginRadarPicture();
     updateNotices();
 }
@@ -323,8 +322,8 @@ void MainWindow::beginRadarPicture()
     for (const QString &name : m_sensors->sensorNames()) {
         sensors.append(m_sensors->findSensor(name));
     }
-    m_mapDisplay->videoMap()->setKnownSensors(sensors);
-    m_mapDisplay->weatherMap()->clear();
+    m_plan->beginRadarPicture(sensors);
+    m_views->beginRadarPicture(sensors);
 }
 
 void MainWindow::editConfig(const std::function<void(Config &)> &change)

@@ -32,11 +32,13 @@ class LockCommands;
 class ListPanes;
 class LogPane;
 class MapWindows;
+class PlanDisplay;
 class PlotSwitch;
 class RangeRingWindow;
 class RecordingOpener;
 class ReplayControls;
 class ScopeNotice;
+class SecondViews;
 class SensorCheck;
 class SensorManager;
 class SnapshotPump;
@@ -49,6 +51,7 @@ class TileMaps;
 class TrackCommands;
 class TrackLabelFormatWindow;
 class WeatherIntensityWindow;
+class Workplace;
 struct SourceHealth;
 
 #include <functional>
@@ -83,6 +86,8 @@ public:
     RecordingOpener *recordingOpener() const;
     ThemeMenu *themes() const { return m_themes; }
     TileMaps *tileMaps() const { return m_tileMaps.get(); }
+    // No tile service is asked from now on, whatever the settings say.
+    void barTileServices();
 
     // Replaces the question whether to exit while an input is open; true exits.
     void setExitQuestion(std::function<bool()> question) { m_questions.exit = std::move(question); }
@@ -191,6 +196,8 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    // Raised when docks or tool bars change so that an older arrangement no longer fits.
+    static constexpr int ArrangementVersion = 2;
     enum class Shutdown { NotBegun, Begun, Complete };
 
     // Construction.
@@ -216,6 +223,7 @@ private:
     void connectMapActions();
     void connectMapWindows();
     void connectTileMaps();
+    void connectSecondViews();
     void connectDialogActions();
     void connectStreamWindows();
 
@@ -265,6 +273,7 @@ private:
     void loadUiState(const QSize &size);
     void saveUiState() const;
     void arrangeDocks();
+    void connectWorkplace();
     void closeMapsAndShutDown();
     bool confirm(const QString &title, const QString &text);
     void beginShutdown();
@@ -273,11 +282,13 @@ private:
     RunConfig m_config;
     EngineHost m_host;
     std::unique_ptr<SensorManager> m_sensors;
-    std::unique_ptr<GeoMapDisplay> m_mapDisplay;
-    std::unique_ptr<GeoTrackDisplay> m_trackDisplay;
+    std::unique_ptr<PlanDisplay> m_plan;
+    GeoMapDisplay *m_mapDisplay = nullptr; // these two are the plan's
+    GeoTrackDisplay *m_trackDisplay = nullptr;
 
     // Widgets, and what hangs on them, are the window's children.
     GeoWidget *m_geoWidget = nullptr;
+    Workplace *m_workplace = nullptr;
     ScopeNotice *m_scopeNotice = nullptr;
     Actions *m_actions = nullptr;
     std::unique_ptr<LockCommands> m_lock;
@@ -309,6 +320,7 @@ private:
     std::unique_ptr<MapWindows> m_mapWindows;
     std::unique_ptr<TileMaps> m_tileMaps;
     std::unique_ptr<ReplayControls> m_replay;
+    std::unique_ptr<SecondViews> m_views;
     std::unique_ptr<SensorCheck> m_sensorCheck;
     std::unique_ptr<FirstStart> m_firstStart;
     QTimer m_clockTimer;

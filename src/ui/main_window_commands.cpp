@@ -7,6 +7,7 @@
 #include "health/input_health.h"
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
+#include "second_view/second_views.h"
 #include "tile_windows/tile_maps.h"
 #include "ui/actions.h"
 #include "ui/empty_scope.h"
@@ -17,10 +18,10 @@
 #include "ui/map_windows.h"
 #include "ui/plot_switch.h"
 #include "ui/replay_controls.h"
-#include "ui/scope_notice.h"
 #include "ui/snapshot_pump.h"
 #include "ui/status_line.h"
 #include "ui/status_read_outs.h"
+#include "widgets/scope_notice.h"
 
 #include <QAction>
 #include <QDateTime>
@@ -153,9 +154,11 @@ void MainWindow::showHealth()
     const auto &warning = m_health->notice();
     if (warning) {
         m_scopeNotice->showWarning(warning->urgency, warning->headline, warning->text);
+        m_views->showWarning(warning->urgency, warning->headline, warning->text);
         m_lists->setWarning(warning->urgency, warning->headline);
     } else {
         m_scopeNotice->showText(scopeNotice());
+        m_views->showText(scopeNotice());
         m_lists->setWarning(Urgency::Note, {});
     }
     m_readOuts->showNetsUnheard(m_health->netsUnheard());
@@ -453,6 +456,12 @@ void MainWindow::connectTileMaps()
 void MainWindow::showBingMapsDownloaderWindow()
 {
     m_tileMaps->showDownloadWindow();
+}
+
+void MainWindow::barTileServices()
+{
+    m_tileMaps->barServices();
+    m_views->barTileServices();
 }
 
 void MainWindow::showMapWindow()

@@ -12,6 +12,7 @@
 #include "orientation/geo_sensor_map.h"
 #include "plan_view/geo_widget.h"
 #include "radar_painting/geo_video_map.h"
+#include "second_view/second_views.h"
 #include "settings/lock_commands.h"
 #include "settings/track_label_format_window.h"
 #include "ui/actions.h"
@@ -22,11 +23,12 @@
 #include "ui/map_windows.h"
 #include "ui/plot_switch.h"
 #include "ui/replay_controls.h"
-#include "ui/scope_chip.h"
 #include "ui/snapshot_pump.h"
 #include "ui/stats_window.h"
 #include "ui/status_line.h"
 #include "ui/theme_menu.h"
+#include "ui/track_commands.h"
+#include "widgets/scope_chip.h"
 
 #include <QAction>
 #include <QDockWidget>
@@ -60,7 +62,7 @@ void MainWindow::connectEngine()
     connect(engine, &DataEngine::antennaRotated, m_mapDisplay->sensorMap(), &GeoSensorMap::antennaRotated);
     connect(engine, &DataEngine::antennaNorthCrossed, m_mapDisplay->sensorMap(), &GeoSensorMap::antennaNorthCrossed);
     connect(engine, &DataEngine::pipelineStats, m_windows.stats, &StatsWindow::setPipelineStats);
-    connect(m_trackDisplay.get(), &GeoTrackDisplay::shownTrailDotsChanged, &m_host, &EngineHost::setSnapshotTrailDots);
+    connect(m_trackDisplay, &GeoTrackDisplay::shownTrailDotsChanged, &m_host, &EngineHost::setSnapshotTrailDots);
     m_host.setSnapshotTrailDots(m_trackDisplay->trailVisible() ? m_trackDisplay->trailDots() : 0);
 }
 
@@ -175,9 +177,9 @@ void MainWindow::connectViewActions()
 void MainWindow::connectTrackActions()
 {
     QAction *label = (*m_actions)[ActionId::ToggleTrackLabel];
-    connect(label, &QAction::toggled, m_trackDisplay.get(), &GeoTrackDisplay::showLabel);
+    connect(label, &QAction::toggled, m_trackDisplay, &GeoTrackDisplay::showLabel);
     // The format window switches labels too.
-    connect(m_trackDisplay.get(), &GeoTrackDisplay::polluted, label,
+    connect(m_trackDisplay, &GeoTrackDisplay::polluted, label,
         [this, label] { label->setChecked(m_trackDisplay->labelVisible()); });
     label->setChecked(m_trackDisplay->labelVisible());
     connectLabelActions();
@@ -189,13 +191,14 @@ void MainWindow::connectTrackActions()
         connect(dock->toggleViewAction(), &QAction::toggled, action, &QAction::setChecked);
         action->setChecked(dock->toggleViewAction()->isChecked());
     };
+    connect(m_lists.get(), &ListPanes::failed, this, [this](const QString &text) { showLog(LogLevel::Warning, text); });
     toggleDock(ActionId::ToggleTrackList, m_lists->trackDock());
     toggleDock(ActionId::ToggleAlertList, m_lists->alertDock());
 }
 
 void MainWindow::connectLabelActions()
 {
-    GeoTrackDisplay *tracks = m_trackDisplay.get();
+    GeoTrackDisplay *tracks = m_trackDisplay;
     QAction *reset = (*m_actions)[ActionId::ResetLabel];
     QAction *resetAll = (*m_actions)[ActionId::ResetAllLabels];
     connect(reset, &QAction::triggered, tracks, [tracks] { tracks->resetTrackLabelOffset(tracks->selectedTrackId()); });
@@ -235,4 +238,20 @@ void MainWindow::connectMapWindows()
     connect(maps, &MapWindows::indexChosen, this, [store](const QString &file) { store(&Config::mapIndex, file); });
     connect(maps, &MapWindows::styleSheetChosen, this,
         [store](const QString &file) { store(&Config::mapStyleSheet, file); });
+}
+
+void MainWindow::connectSecondViews()
+{
+    SecondViews *views = m_views.get();
+    connect((*m_actions)[ActionId::NewPlanView], &QAction::triggered, views, &SecondViews::open);
+    connect(m_pump.get(), &SnapshotPump::snapshotTaken, views, [this] { m_views->setSnapshot(m_pump->newest()); });
+    connect(m_pump.get(), &SnapshotPump::weatherTaken, views, &SecondViews::showWeather);
+    connect(m_pump.get(), &SnapshotPump::radialTaken, views, &SecondViews::showRadial);
+    connect(m_host.engine(), &DataEngine::antennaRotated, views, &SecondViews::antennaRotated);
+    connect(m_host.engine(), &DataEngine::antennaNorthCrossed, views, &SecondViews::antennaNorthCrossed);
+    connect(views, &SecondViews::trackSelected, m_trackCommands.get(), &TrackCommands::select);
+    connect(views, &SecondViews::explainRequested, m_trackCommands.get(), &TrackCommands::trackToExplain);
+    connect(views, &SecondViews::acknowledgeRequested, m_trackDisplay, &GeoTrackDisplay::acknowledgeTrack);
+    connect(views, &SecondViews::tileConsentGiven, this,
+        [this] { editConfig([](Config &config) { config.mapTileConsent = true; }); });
 }

@@ -74,8 +74,7 @@ void MainWindow::connectDialogActions()
     on(ActionId::WhatsNew, &MainWindow::showChangelog);
     on(ActionId::About, &MainWindow::showAbout);
     on(ActionId::Statistics, &MainWindow::showStatsWindow);
-    m_sensorCheck =
-        std::make_unique<SensorCheck>(m_mapDisplay.get(), &m_host.shared().projector, m_sensors.get(), this);
+    m_sensorCheck = std::make_unique<SensorCheck>(m_mapDisplay, &m_host.shared().projector, m_sensors.get(), this);
     m_sensorCheck->setSwitchTap([this](const std::shared_ptr<StreamTap> &tap, bool open) {
         open ? m_host.openTap(tap) : m_host.closeTap(tap);
     });
@@ -250,7 +249,7 @@ void MainWindow::showWeatherIntensityWindow()
 void MainWindow::showTrackLabelFormatWindow()
 {
     if (!m_windows.trackLabelFormat) {
-        m_windows.trackLabelFormat = new TrackLabelFormatWindow(m_trackDisplay.get(), this);
+        m_windows.trackLabelFormat = new TrackLabelFormatWindow(m_trackDisplay, this);
         m_windows.trackLabelFormat->setAttribute(Qt::WA_DeleteOnClose);
     }
     m_windows.trackLabelFormat->setGround(m_config.live().mapBackgroundColor);

@@ -3,9 +3,11 @@
 #include "airdb/lib_air_db.h"
 #include "app/app_paths.h"
 #include "app/ui_state.h"
+#include "display/geo_track_display.h"
 #include "engine/data_engine.h"
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
+#include "second_view/second_views.h"
 #include "sensors/sensor_manager.h"
 #include "ui/actions.h"
 #include "ui/home_view.h"
@@ -16,6 +18,8 @@
 #include "ui/replay_controls.h"
 #include "ui/snapshot_pump.h"
 #include "ui/theme_menu.h"
+#include "workplace/alert_indicator.h"
+#include "workplace/workplace.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -27,8 +31,8 @@
 
 namespace {
 
-// Raised when docks or tool bars change so that an older arrangement no longer fits.
-constexpr int ArrangementVersion = 1;
+// What the lists may take of the width at first; the rest is the scope's.
+constexpr double WidestLists = 0.3;
 constexpr auto ArrangementKey = "windowState";
 constexpr auto TrackFormatKey = "trackDisplayFormat";
 
@@ -43,6 +47,10 @@ void MainWindow::loadUi(const QSize &size)
     }
     m_layoutMenu->load();
     m_mapWindows->load(config());
+    m_views->restore();
+    if (!m_views->windows().empty()) {
+        activateWindow(); // the others came later
+    }
     m_geoWidget->setFocus();
 }
 
@@ -60,6 +68,7 @@ void MainWindow::loadUiState(const QSize &size)
     if (!restoreState(UiState::value(group, ArrangementKey), ArrangementVersion)) {
         arrangeDocks();
     }
+    m_workplace->begin();
     m_lists->restore(group);
     m_themes->restoreFormat(UiState::value(group, TrackFormatKey));
 }
@@ -73,7 +82,7 @@ void MainWindow::saveUiState() const
     if (size() != m_sizeOfRun) {
         UiState::saveGeometry(group, saveGeometry());
     }
-    UiState::saveValue(group, ArrangementKey, saveState(ArrangementVersion));
+    UiState::saveValue(group, ArrangementKey, m_workplace->arrangement());
     m_lists->save(group);
     UiState::saveValue(group, TrackFormatKey, m_themes->formatToStore());
     if (!m_config.onTrial()) {
@@ -84,10 +93,39 @@ void MainWindow::saveUiState() const
 void MainWindow::arrangeDocks()
 {
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    splitDockWidget(m_lists->trackDock(), m_lists->alertDock(), Qt::Vertical);
-    resizeDocks({m_lists->trackDock()}, {std::min(520, width() / 3)}, Qt::Horizontal);
-    resizeDocks({m_lists->trackDock(), m_lists->alertDock()}, {3, 1}, Qt::Vertical);
-    resizeDocks({m_messagesDock}, {height() / 9}, Qt::Vertical);
+    QDockWidget *alerts = m_lists->alertDock();
+    splitDockWidget(m_lists->trackDock(), alerts, Qt::Vertical);
+    for (auto *dock : {m_messagesDock, findChild<QDockWidget *>("healthDock")}) {
+        tabifyDockWidget(alerts, dock);
+    }
+    alerts->raise();
+    const int listWidth = m_lists->usefulWidth(static_cast<int>(width() * WidestLists));
+    resizeDocks({m_lists->trackDock()}, {listWidth}, Qt::Horizontal);
+    resizeDocks({m_lists->trackDock(), alerts}, {2, 1}, Qt::Vertical);
+}
+
+// The arrangement is on disk before it goes out of sight: a crash in full screen must not cost it.
+void MainWindow::connectWorkplace()
+{
+    auto *indicator = new AlertIndicator(m_geoWidget);
+    const auto show = [this, indicator] {
+        const auto picture = m_pump->newest();
+        const int asking = static_cast<int>(m_trackDisplay->alertBoard().askingCount());
+        indicator->showAlerts(picture ? picture->alertStatus : std::array<bool, 3>(), asking);
+    };
+    connect(m_pump.get(), &SnapshotPump::snapshotTaken, indicator, show);
+    connect(m_trackDisplay, &GeoTrackDisplay::acknowledged, indicator, show);
+    connect(m_workplace, &Workplace::statusShown, indicator,
+        [this, indicator](bool shown) { indicator->setVisible(m_workplace->active() && !shown); });
+    QAction *edges = (*m_actions)[ActionId::ShowEdges];
+    connect(edges, &QAction::triggered, m_workplace, &Workplace::toggleEdges);
+    edges->setEnabled(false);
+    connect(m_workplace, &Workplace::changed, this, [this, edges](bool active) {
+        edges->setEnabled(active);
+        if (active) {
+            UiState::saveValue(objectName(), ArrangementKey, m_workplace->arrangement());
+        }
+    });
 }
 
 void MainWindow::setShutdownWaits(int confirmMs, int threadMs)
@@ -143,6 +181,7 @@ void MainWindow::beginShutdown()
 {
     Q_EMIT shutdownBegun();
     saveUiState();
+    m_views->closeAll();
     m_config.flush();
     m_shutdown = Shutdown::Begun;
     m_replay->opener()->cancel();

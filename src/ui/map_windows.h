@@ -31,6 +31,8 @@ public:
         QWidget *window, const Actions *actions, GeoWidget *plan, Projector *projector, const SettingsLock *lock);
     ~MapWindows() override;
 
+    MapLibrary *library() const { return m_library; }
+
     // Opens index and style sheet. What is open already stays as it is, unsaved changes of the index included.
     void load(const Config &config);
     // The same once maps have been loaded, and nothing before.

@@ -83,6 +83,7 @@ void ReplayControls::updateSpeedMenu()
     for (QAction *action : (*m_actions)[ActionId::ReplaySpeed]->menu()->actions()) {
         action->setChecked(action->data().toInt() == m_session->replaySpeed());
     }
+    m_actions->showValue(ActionId::ReplaySpeed, ReplaySpeed::name(m_session->replaySpeed()));
 }
 
 void ReplayControls::changeSpeed(QAction *action)

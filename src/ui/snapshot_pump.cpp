@@ -2,8 +2,7 @@
 
 #include "display/geo_map_display.h"
 #include "display/geo_plot_map.h"
-#include "display/geo_track_display.h"
-#include "radar_painting/geo_video_map.h"
+#include "plan_view/plan_display.h"
 #include "radar_painting/geo_weather_map.h"
 
 #include <QDateTime>
@@ -13,8 +12,7 @@ constexpr int PullIntervalMs = 100;
 constexpr int DropStatsIntervalMs = 60000;
 } // namespace
 
-SnapshotPump::SnapshotPump(const EngineHost::Shared *shared, GeoMapDisplay *map, GeoTrackDisplay *tracks)
-    : m_shared(shared), m_map(map), m_tracks(tracks)
+SnapshotPump::SnapshotPump(const EngineHost::Shared *shared, PlanDisplay *plan) : m_shared(shared), m_plan(plan)
 {
     m_pullTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_pullTimer, &QTimer::timeout, this, &SnapshotPump::pull);
@@ -75,8 +73,7 @@ void SnapshotPump::pullDisplay()
         return;
     }
     m_newest = snapshot;
-    m_tracks->setSnapshot(snapshot);
-    m_map->plotMap()->setSnapshot(*snapshot);
+    m_plan->setSnapshot(snapshot);
     Q_EMIT snapshotTaken(*snapshot);
     for (std::size_t i = 0; i < m_alertStatus.size(); ++i) {
         if (m_alertStatus[i] != snapshot->alertStatus[i]) {
@@ -95,17 +92,20 @@ void SnapshotPump::pullStatistics()
 
 void SnapshotPump::showWeather(const WeatherProcessor::Picture &picture)
 {
-    m_map->weatherMap()->setPicture(picture);
+    m_plan->showWeather(picture);
+    Q_EMIT weatherTaken(picture);
 }
 
 void SnapshotPump::showRadial(const VideoProcessor::Radial &radial)
 {
-    m_map->videoMap()->addRadial(radial);
+    m_plan->showRadial(radial);
+    Q_EMIT radialTaken(radial);
 }
 
 void SnapshotPump::publishDropStats()
 {
+    const GeoWeatherMap *weather = m_plan->map()->weatherMap();
     Q_EMIT dropStats({m_displayReader.dropped(), m_videoReader.dropped(), m_weatherReader.dropped(),
-        m_map->weatherMap()->emptyPictures(), m_weatherDelay.milliseconds(), m_videoDelay.milliseconds(),
-        m_map->weatherMap()->placelessPictures(), m_map->plotMap()->lostPlots()});
+        weather->emptyPictures(), m_weatherDelay.milliseconds(), m_videoDelay.milliseconds(),
+        weather->placelessPictures(), m_plan->map()->plotMap()->lostPlots()});
 }

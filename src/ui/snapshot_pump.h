@@ -11,8 +11,7 @@
 #include <QObject>
 #include <QTimer>
 
-class GeoMapDisplay;
-class GeoTrackDisplay;
+class PlanDisplay;
 
 #include <array>
 
@@ -22,8 +21,8 @@ class SnapshotPump final : public QObject {
     Q_OBJECT
 
 public:
-    // All three must outlive the pump.
-    SnapshotPump(const EngineHost::Shared *shared, GeoMapDisplay *map, GeoTrackDisplay *tracks);
+    // Both must outlive the pump.
+    SnapshotPump(const EngineHost::Shared *shared, PlanDisplay *plan);
 
     void start();
     void stop();
@@ -46,6 +45,9 @@ Q_SIGNALS:
     void snapshotTaken(const DisplaySnapshot &snapshot);
     // The same of weather or radar video.
     void radarPictureTaken();
+    // What the plan view has been given of them, for others.
+    void weatherTaken(const WeatherProcessor::Picture &picture);
+    void radialTaken(const VideoProcessor::Radial &radial);
     // What the engine counts of its input; once a second.
     void statisticsTaken(const InputStatistics &statistics);
     // The status of this type differs from that in the snapshot before.
@@ -59,8 +61,7 @@ private:
     void pullStatistics();
 
     const EngineHost::Shared *m_shared;
-    GeoMapDisplay *m_map;
-    GeoTrackDisplay *m_tracks;
+    PlanDisplay *m_plan;
     QTimer m_pullTimer;
     QTimer m_dropStatsTimer;
     SlotReader<DisplaySnapshot> m_displayReader;

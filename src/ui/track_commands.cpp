@@ -4,7 +4,7 @@
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
 #include "ui/actions.h"
-#include "ui/scope_chip.h"
+#include "widgets/scope_chip.h"
 
 #include <QAction>
 #include <QApplication>
@@ -32,7 +32,7 @@ TrackCommands::TrackCommands(Actions *actions, GeoWidget *plan, GeoTrackDisplay 
     connect(plan, &GeoWidget::placeMenuRequested, this, [this](const QPointF &planePoint, const QPoint &place) {
         notePlanMenu(showPlaceMenu(planePoint, place), place);
     });
-    connect(lists, &ListPanes::trackMenuRequested, this, &TrackCommands::showMenu);
+    connect(lists, &ListPanes::trackMenuRequested, this, &TrackCommands::showMenuOfList);
     connect(lists, &ListPanes::trackActivated, this, &TrackCommands::bringIntoView);
     connect((*actions)[ActionId::AcknowledgeAlert], &QAction::triggered, this,
         [this] { m_tracks->acknowledgeTrack(m_tracks->selectedTrackId()); });
@@ -47,6 +47,22 @@ QMenu *TrackCommands::showMenu(unsigned long long track, quint64 alert, const QP
 {
     auto *menu = new QMenu(m_plan);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    fillMenu(menu, track, alert);
+    menu->popup(globalPosition);
+    return menu;
+}
+
+void TrackCommands::showMenuOfList(unsigned long long track, quint64 alert, QMenu *menu, const QPoint &globalPosition)
+{
+    const QList<QAction *> ofRow = menu->actions();
+    fillMenu(menu, track, alert);
+    menu->addSeparator();
+    menu->addActions(ofRow); // moves them to the end
+    menu->popup(globalPosition);
+}
+
+void TrackCommands::fillMenu(QMenu *menu, unsigned long long track, quint64 alert)
+{
     if (m_tracks->hasTrack(track)) {
         addTrackActions(menu, track);
     }
@@ -57,8 +73,6 @@ QMenu *TrackCommands::showMenu(unsigned long long track, quint64 alert, const QP
     one->setEnabled(isAsking(track, alert));
     menu->addAction((*m_actions)[ActionId::AcknowledgeAllAlerts]);
     refresh();
-    menu->popup(globalPosition);
-    return menu;
 }
 
 QMenu *TrackCommands::showPlaceMenu(const QPointF &planePoint, const QPoint &globalPosition)
@@ -94,6 +108,7 @@ void TrackCommands::addTrackActions(QMenu *menu, unsigned long long track)
     QAction *reset =
         menu->addAction(tr("Reset Label"), m_tracks, [this, track] { m_tracks->resetTrackLabelOffset(track); });
     reset->setEnabled(!m_tracks->trackLabelOffsetDefault(track));
+    menu->addAction((*m_actions)[ActionId::TrackLabelFormat]);
     menu->addAction(tr("Explain"), this, [this, track] {
         select(track);
         Q_EMIT trackToExplain();

@@ -24,6 +24,8 @@ public:
     // The key is an alert's on the AlertBoard; 0: all of the track's. The track 0 is none of ours. The menu goes when
     // it is closed.
     QMenu *showMenu(unsigned long long track, quint64 alert, const QPoint &globalPosition);
+    // The same at the head of the menu of a list's row.
+    void showMenuOfList(unsigned long long track, quint64 alert, QMenu *menu, const QPoint &globalPosition);
     // Of a place without a track.
     QMenu *showPlaceMenu(const QPointF &planePoint, const QPoint &globalPosition);
 
@@ -45,6 +47,7 @@ protected:
 
 private:
     bool isAsking(unsigned long long track, quint64 alert) const;
+    void fillMenu(QMenu *menu, unsigned long long track, quint64 alert);
     void addTrackActions(QMenu *menu, unsigned long long track);
     void notePlanMenu(QMenu *menu, const QPoint &globalPosition);
 

@@ -181,10 +181,10 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
         commandLine.applyTo(config);
     });
     if (demo) {
-        window.tileMaps()->barServices();
+        window.barTileServices();
     }
     setUpLook(commandLine, themes, window);
-    FirstFrame firstFrame(window.centralWidget(), clock);
+    FirstFrame firstFrame(window.geoWidget(), clock);
     QObject::connect(&firstFrame, &FirstFrame::painted, &window, [&window](qint64 milliseconds) {
         window.showLog(LogLevel::Debug, MainWindow::tr("First frame after %1 ms").arg(milliseconds));
     });

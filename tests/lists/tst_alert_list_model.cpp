@@ -1,5 +1,5 @@
 #include "lists/alert_list_model.h"
-#include "lists/list_sort_model.h"
+#include "lists/list_order.h"
 #include "test_program.h"
 
 #include <QAbstractItemModelTester>
@@ -21,6 +21,19 @@ AlertSnapshot conflict(unsigned int id, quint64 firstTrack, quint64 secondTrack)
     alert.track2.incarnationId = secondTrack;
     alert.track2.text = "VYX2";
     return alert;
+}
+
+QSharedPointer<const DisplaySnapshot> picture(const QList<AlertSnapshot> &alerts)
+{
+    auto snapshot = QSharedPointer<DisplaySnapshot>::create();
+    snapshot->alerts = alerts;
+    snapshot->time = QDateTime(QDate(2024, 5, 2), QTime(0, 1, 0), Qt::UTC);
+    TrackSnapshot track;
+    track.incarnationId = 8;
+    track.level = 9900;
+    track.levelValid = true;
+    snapshot->tracks.append(track);
+    return snapshot;
 }
 
 } // namespace
@@ -45,23 +58,24 @@ void TestAlertListModel::showsAlerts()
     area.state = Alert::End;
     area.stateString = "End";
     area.endedUnheard = true;
-    model.setAlerts({conflict(1, 7, 8), area});
+    model.setSnapshot(picture({conflict(1, 7, 8), area}));
 
     const auto row = [&model](int number) {
         QStringList texts;
-        for (int column = 0; column < AlertListModel::ColumnCount; ++column) {
+        for (int column = 0; column <= AlertListModel::Level2; ++column) {
             texts.append(model.index(number, column).data().toString());
         }
         return texts;
     };
-    QCOMPARE(row(0), QStringList({"STCA", "VYX1", "VYX2", "", "Active", "23:59:51", ""}));
-    QCOMPARE(row(1), QStringList({"APW", "VYX1", "", "LO-R 16", "End, no data", "23:59:52", "23:59:57"}));
+    QCOMPARE(row(0), QStringList({"STCA", "VYX1", "VYX2", "Active", "23:59:51", "", "", "1:09", "", "099"}));
+    QCOMPARE(
+        row(1), QStringList({"APW", "VYX1", "", "End, no data", "23:59:52", "LO-R 16", "23:59:57", "0:05", "", ""}));
 
-    model.setAlerts({area, conflict(20, 0, 8)}); // the latter starts after midnight
+    model.setSnapshot(picture({area, conflict(20, 0, 8)})); // the latter starts after midnight
     QCOMPARE(model.rowCount(), 2);
     QCOMPARE(model.trackId(0), 7u);
     QCOMPARE(model.trackId(1), 8u);
-    ListSortModel sorted(&model);
+    ListOrder sorted(&model);
     sorted.sort(AlertListModel::Start, Qt::DescendingOrder);
     QCOMPARE(sorted.index(0, AlertListModel::Start).data().toString(), "00:00:10");
 }
@@ -85,7 +99,7 @@ void TestAlertListModel::tellsWhatWasAcknowledged()
     board.take(&picture);
     AlertListModel model;
     const auto shown = [&](int row) {
-        model.setAlerts(picture.alerts, board);
+        model.setSnapshot(QSharedPointer<DisplaySnapshot>::create(picture), board);
         const bool filled = model.index(row, 0).data(Qt::BackgroundRole).isValid();
         return model.index(row, AlertListModel::Type).data().toString() + ' '
             + model.index(row, AlertListModel::State).data().toString() + (filled ? " filled" : "");

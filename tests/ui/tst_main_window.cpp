@@ -12,7 +12,7 @@
 #include "ui/actions.h"
 #include "ui/library_log.h"
 #include "ui/log_pane.h"
-#include "ui/scope_notice.h"
+#include "widgets/scope_notice.h"
 #include "ui/status_read_outs.h"
 
 #include <QAction>

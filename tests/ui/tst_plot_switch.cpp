@@ -7,7 +7,7 @@
 #include "tracking/plot_store.h"
 #include "ui/actions.h"
 #include "ui/plot_switch.h"
-#include "ui/scope_notice.h"
+#include "widgets/scope_notice.h"
 #include "window_fixture.h"
 
 #include <QAction>

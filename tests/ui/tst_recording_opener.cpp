@@ -4,7 +4,7 @@
 #include "test_program.h"
 #include "ui/recording_opener.h"
 #include "ui/replay_window.h"
-#include "ui/scope_notice.h"
+#include "widgets/scope_notice.h"
 #include "widgets/coordinate_edit.h"
 #include "window_fixture.h"
 

@@ -5,7 +5,7 @@
 #include "plan_view/geo_widget.h"
 #include "test_program.h"
 #include "ui/actions.h"
-#include "ui/scope_chip.h"
+#include "widgets/scope_chip.h"
 #include "ui/track_commands.h"
 #include "window_fixture.h"
 

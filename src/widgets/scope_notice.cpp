@@ -1,4 +1,4 @@
-#include "ui/scope_notice.h"
+#include "widgets/scope_notice.h"
 
 #include <QEvent>
 

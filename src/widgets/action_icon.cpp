@@ -1,4 +1,4 @@
-#include "ui/action_icon.h"
+#include "widgets/action_icon.h"
 
 #include <QFile>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "ui/scope_chip.h"
+#include "widgets/scope_chip.h"
 
 #include <QEvent>
 
