@@ -1,31 +1,32 @@
 #include "help/about_window.h"
 
 #include "app/app_identity.h"
-
-#include "airdb/lib_air_db.h"
-#include "asterix/asterix.h"
-#include "modes/lib_mode_s.h"
+#include "help/library_versions.h"
+#include "help/markdown_window.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QDialogButtonBox>
+#include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QSysInfo>
 #include <QVBoxLayout>
 
+namespace {
+
+constexpr auto NoticesFile = ":/THIRD-PARTY-NOTICES.md";
+
+} // namespace
+
 QString AboutWindow::versionText()
 {
-    const QStringList lines{
+    const QStringList program{
         tr("%1 %2").arg(QGuiApplication::applicationDisplayName(), QCoreApplication::applicationVersion()),
         tr("Revision %1").arg(buildRevision()),
-        tr("ASTERIX library %1").arg(QString::fromLatin1(ast_library_version())),
-        tr("Mode S library %1").arg(QString::fromStdString(korvane::modes::LibModeS::version())),
-        tr("Aircraft database library %1").arg(QString::fromLatin1(korvane::airdb::LibAirDB::version())),
-        tr("Qt %1 (built with %2)").arg(QString::fromLatin1(qVersion()), QStringLiteral(QT_VERSION_STR)),
-        tr("%1, %2").arg(QSysInfo::prettyProductName(), QSysInfo::buildAbi()),
     };
-    return lines.join(u'\n');
+    const QString system = tr("%1, %2").arg(QSysInfo::prettyProductName(), QSysInfo::buildAbi());
+    return (program + LibraryVersions::lines() + QStringList{system}).join(u'\n');
 }
 
 AboutWindow::AboutWindow(QWidget *parent) : GeometryDialog(QStringLiteral("AboutWindow"), parent)
@@ -46,6 +47,15 @@ AboutWindow::AboutWindow(QWidget *parent) : GeometryDialog(QStringLiteral("About
     copy->setAutoDefault(false);
     copy->setToolTip(tr("Copy the versions, for a fault report"));
     connect(copy, &QPushButton::clicked, this, [] { QGuiApplication::clipboard()->setText(versionText()); });
+    QPushButton *notices = buttons->addButton(tr("&Third-Party Notices"), QDialogButtonBox::ActionRole);
+    notices->setAutoDefault(false);
+    notices->setVisible(QFile::exists(QString::fromLatin1(NoticesFile)));
+    connect(notices, &QPushButton::clicked, this, [this] {
+        auto *window = new MarkdownWindow(
+            QStringLiteral("NoticesWindow"), tr("Third-Party Notices"), QString::fromLatin1(NoticesFile), this);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->open();
+    });
     connect(buttons, &QDialogButtonBox::rejected, this, &AboutWindow::reject);
     buttons->button(QDialogButtonBox::Close)->setFocus();
 

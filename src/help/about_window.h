@@ -2,7 +2,7 @@
 
 #include "widgets/geometry_dialog.h"
 
-// Name, version, revision, libraries and copyright.
+// Name, version, revision, libraries and copyright, and the notices of what others have made.
 class AboutWindow final : public GeometryDialog {
     Q_OBJECT
 

@@ -1,30 +1,36 @@
 #include "help/changelog_window.h"
 
-#include <QDialogButtonBox>
-#include <QFile>
-#include <QTextBrowser>
-#include <QVBoxLayout>
+#include "app/ui_state.h"
+
+#include <QCoreApplication>
 
 // The file is compiled into a static library, which loads its resources only when asked to.
-static void loadChangelogResource()
+static QString changelogFile()
 {
     Q_INIT_RESOURCE(changelog);
+    return QStringLiteral(":/changelog/CHANGELOG.md");
 }
 
-ChangelogWindow::ChangelogWindow(QWidget *parent) : GeometryDialog(QStringLiteral("ChangelogWindow"), parent)
+namespace {
+
+constexpr auto StateGroup = "ChangelogWindow";
+constexpr auto VersionKey = "versionSeen";
+
+} // namespace
+
+ChangelogWindow::ChangelogWindow(QWidget *parent)
+    : MarkdownWindow(QString::fromLatin1(StateGroup), tr("What's New?"), changelogFile(), parent)
 {
-    loadChangelogResource();
-    setWindowTitle(tr("What's New?"));
-    auto *text = new QTextBrowser(this);
-    text->setOpenExternalLinks(true);
-    QFile file(QStringLiteral(":/changelog/CHANGELOG.md"));
-    if (file.open(QIODevice::ReadOnly)) {
-        text->setMarkdown(QString::fromUtf8(file.readAll()));
+}
+
+bool ChangelogWindow::noteVersion()
+{
+    const QString group = QString::fromLatin1(StateGroup);
+    const QString key = QString::fromLatin1(VersionKey);
+    const QByteArray seen = UiState::value(group, key);
+    const QByteArray version = QCoreApplication::applicationVersion().toUtf8();
+    if (seen != version) {
+        UiState::saveValue(group, key, version);
     }
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, Qt::Horizontal, this);
-    connect(buttons, &QDialogButtonBox::rejected, this, &ChangelogWindow::reject);
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(text, 1);
-    layout->addWidget(buttons);
-    resize(640, 480);
+    return !seen.isEmpty() && seen != version;
 }

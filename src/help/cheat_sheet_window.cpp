@@ -1,139 +1,100 @@
 #include "help/cheat_sheet_window.h"
 
-#include <QAction>
+#include <QClipboard>
 #include <QDialogButtonBox>
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QScrollArea>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QTextBrowser>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 namespace {
 
-struct Row {
-    QString input;
-    QString effect;
-};
-
-QString plainText(const QAction &action)
+QPalette inkOnPaper()
 {
-    QString text = action.text();
-    text.remove(u'&');
-    while (text.endsWith(u'.') || text.endsWith(u' ')) {
-        text.chop(1);
-    }
-    return text;
-}
-
-QList<Row> shortcutRows(const QList<QAction *> &actions)
-{
-    QList<Row> rows;
-    for (const QAction *action : actions) {
-        QStringList keys;
-        const QList<QKeySequence> shortcuts = action->shortcuts();
-        for (const QKeySequence &shortcut : shortcuts) {
-            if (!shortcut.isEmpty()) {
-                keys.append(shortcut.toString(QKeySequence::NativeText));
-            }
-        }
-        if (!keys.isEmpty()) {
-            rows.append({keys.join(CheatSheetWindow::tr(" or ")), plainText(*action)});
-        }
-    }
-    return rows;
-}
-
-QList<Row> mouseRows()
-{
-    return {{CheatSheetWindow::tr("Left click on a symbol or label"), CheatSheetWindow::tr("Select the track")},
-        {CheatSheetWindow::tr("Left click once more"), CheatSheetWindow::tr("Select the next track at this place")},
-        {CheatSheetWindow::tr("Right click on a symbol or label"),
-            CheatSheetWindow::tr("What can be done with the track")},
-        {CheatSheetWindow::tr("Right drag on the map"), CheatSheetWindow::tr("Move the view")},
-        {CheatSheetWindow::tr("Right drag on a label"), CheatSheetWindow::tr("Move the label")},
-        {CheatSheetWindow::tr("Right double-click"), CheatSheetWindow::tr("Bring this point to the centre")},
-        {CheatSheetWindow::tr("Wheel"), CheatSheetWindow::tr("Zoom around the pointer")},
-        {CheatSheetWindow::tr("Alt + wheel"), CheatSheetWindow::tr("Zoom in small steps")},
-        {CheatSheetWindow::tr("Left click with the cross"),
-            CheatSheetWindow::tr("Place the centre of the range rings")}};
-}
-
-QList<Row> viewKeyRows()
-{
-    return {{CheatSheetWindow::tr("F12"), CheatSheetWindow::tr("Rotate clockwise by 1°")},
-        {CheatSheetWindow::tr("F11"), CheatSheetWindow::tr("Rotate counter-clockwise by 1°")},
-        {CheatSheetWindow::tr("Alt + F12"), CheatSheetWindow::tr("Rotate clockwise by 0.1°")},
-        {CheatSheetWindow::tr("Alt + F11"), CheatSheetWindow::tr("Rotate counter-clockwise by 0.1°")}};
-}
-
-QLabel *makeKeyCap(const QString &text)
-{
-    auto *cap = new QLabel(text);
-    cap->setFrameShape(QFrame::StyledPanel);
-    cap->setContentsMargins(6, 2, 6, 2);
-    cap->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
-    QFont font = cap->font();
-    font.setBold(true);
-    cap->setFont(font);
-    return cap;
-}
-
-void addSection(QGridLayout *grid, const QString &title, const QList<Row> &rows)
-{
-    if (rows.isEmpty()) {
-        return;
-    }
-    int at = grid->rowCount();
-    auto *heading = new QLabel(title);
-    QFont font = heading->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.2);
-    heading->setFont(font);
-    heading->setContentsMargins(0, at > 1 ? 12 : 0, 0, 4);
-    grid->addWidget(heading, at++, 0, 1, 2);
-    for (const Row &row : rows) {
-        grid->addWidget(makeKeyCap(row.input), at, 0);
-        grid->addWidget(new QLabel(row.effect), at++, 1);
-    }
-}
-
-QVBoxLayout *makeColumn(QGridLayout *grid)
-{
-    grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(4);
-    grid->setColumnStretch(1, 1);
-    auto *column = new QVBoxLayout;
-    column->addLayout(grid);
-    column->addStretch(1);
-    return column;
+    QPalette colors(Qt::white);
+    colors.setColor(QPalette::AlternateBase, QColor(0xe8, 0xe8, 0xe8));
+    return colors;
 }
 
 } // namespace
 
-CheatSheetWindow::CheatSheetWindow(const QList<QAction *> &actions, QWidget *parent)
-    : GeometryDialog(QStringLiteral("CheatSheetWindow"), parent)
+CheatSheetWindow::CheatSheetWindow(const QMenuBar &menus, QWidget *parent)
+    : GeometryDialog(QStringLiteral("CheatSheetWindow"), parent), m_sheet(menus), m_search(new QLineEdit(this)),
+      m_text(new QTextBrowser(this))
 {
     setWindowTitle(tr("Cheat Sheet"));
-    auto *commands = new QGridLayout;
-    addSection(commands, tr("Commands"), shortcutRows(actions));
-    auto *gestures = new QGridLayout;
-    addSection(gestures, tr("Mouse on the plan view"), mouseRows());
-    addSection(gestures, tr("Keys on the plan view"), viewKeyRows());
-    auto *sheet = new QWidget;
-    auto *columns = new QHBoxLayout(sheet);
-    columns->setSpacing(36);
-    columns->addLayout(makeColumn(commands));
-    columns->addLayout(makeColumn(gestures));
-    columns->addStretch(1);
+    m_search->setObjectName(QStringLiteral("search"));
+    m_search->setPlaceholderText(tr("Search all commands, also those without a key"));
+    m_search->setAccessibleName(tr("Search"));
+    m_search->setClearButtonEnabled(true);
+    m_text->setFrameShape(QFrame::NoFrame);
+    m_text->setAccessibleName(tr("Keys and mouse gestures"));
+    connect(m_search, &QLineEdit::textChanged, this, &CheatSheetWindow::showRows);
 
-    auto *area = new QScrollArea(this);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setWidget(sheet);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, Qt::Horizontal, this);
+    const auto addButton = [this, buttons](const QString &text, void (CheatSheetWindow::*slot)()) {
+        QPushButton *button = buttons->addButton(text, QDialogButtonBox::ActionRole);
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, slot);
+    };
+    addButton(tr("C&opy"), &CheatSheetWindow::copy);
+    addButton(tr("Save as &PDF..."), &CheatSheetWindow::askForPdf);
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::rejected, this, &CheatSheetWindow::reject);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(area, 1);
+    layout->addWidget(m_search);
+    layout->addWidget(m_text, 1);
     layout->addWidget(buttons);
-    resize(sheet->sizeHint() + QSize(48, buttons->sizeHint().height() + 48));
+    showRows();
+    const int line = fontMetrics().height();
+    resize(60 * line, 46 * line);
+}
+
+void CheatSheetWindow::showRows()
+{
+    const QString words = m_search->text();
+    const QList<CheatSheet::Group> groups = m_sheet.groups(words);
+    m_text->setHtml(groups.isEmpty() ? tr("No command and no gesture has these words.").toHtmlEscaped()
+                                     : CheatSheet::html(groups, palette(), words.trimmed().isEmpty()));
+}
+
+void CheatSheetWindow::copy()
+{
+    QGuiApplication::clipboard()->setText(CheatSheet::text(m_sheet.groups(m_search->text())));
+}
+
+void CheatSheetWindow::askForPdf()
+{
+    const QString file = QFileDialog::getSaveFileName(
+        this, tr("Save Cheat Sheet"), QStringLiteral("vyxdisplay-cheat-sheet.pdf"), tr("PDF (*.pdf)"));
+    QString error;
+    if (!file.isEmpty() && !savePdf(file, &error)) {
+        QMessageBox::warning(this, windowTitle(), error);
+    }
+}
+
+bool CheatSheetWindow::savePdf(const QString &file, QString *error) const
+{
+    QSaveFile target(file);
+    if (target.open(QIODevice::WriteOnly)) {
+        QPdfWriter paper(&target);
+        paper.setPageSize(QPageSize(QPageSize::A4));
+        paper.setTitle(windowTitle());
+        QTextDocument document;
+        document.setDefaultFont(QFont(font().family(), 8));
+        document.setHtml(CheatSheet::html(m_sheet.groups(), inkOnPaper(), true));
+        document.print(&paper);
+    }
+    if (!target.commit()) {
+        *error = tr("Cannot write %1: %2").arg(file, target.errorString());
+        return false;
+    }
+    return true;
 }

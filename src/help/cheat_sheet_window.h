@@ -1,17 +1,28 @@
 #pragma once
 
+#include "help/cheat_sheet.h"
 #include "widgets/geometry_dialog.h"
 
-#include <QList>
+class QLineEdit;
+class QTextBrowser;
 
-class QAction;
-
-// Keys and mouse gestures at a glance: the shortcuts of the actions handed in, as they are registered, and the gestures
-// of the plan view.
+// Shows, searches, copies and prints the cheat sheet.
 class CheatSheetWindow final : public GeometryDialog {
     Q_OBJECT
 
 public:
-    // Actions without a shortcut are left out; the order is kept. The actions are read, not kept.
-    explicit CheatSheetWindow(const QList<QAction *> &actions, QWidget *parent = nullptr);
+    // The menus are read, not kept.
+    explicit CheatSheetWindow(const QMenuBar &menus, QWidget *parent = nullptr);
+
+    // For a sheet of paper. False, and error says why, when it cannot be written.
+    bool savePdf(const QString &file, QString *error) const;
+
+private:
+    void showRows();
+    void copy();
+    void askForPdf();
+
+    CheatSheet m_sheet;
+    QLineEdit *m_search = nullptr;
+    QTextBrowser *m_text = nullptr;
 };

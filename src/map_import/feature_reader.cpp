@@ -7,6 +7,11 @@ bool FeatureReader::available()
     return false;
 }
 
+QString FeatureReader::libraryVersion()
+{
+    return {};
+}
+
 bool FeatureReader::read(const QString &, const FeatureReaderOptions &, const MapImport::Progress &, const Sink &,
     MapImport::Report &, QString *error)
 {
@@ -373,6 +378,11 @@ QList<OGRLayerH> chosenLayers(GDALDatasetH dataset, const QStringList &names, QS
 bool FeatureReader::available()
 {
     return true;
+}
+
+QString FeatureReader::libraryVersion()
+{
+    return QString::fromLatin1(GDALVersionInfo("RELEASE_NAME"));
 }
 
 bool FeatureReader::read(const QString &file, const FeatureReaderOptions &options, const MapImport::Progress &progress,

@@ -17,6 +17,7 @@ public:
     using Sink = std::function<void(const ImportFeature &)>;
 
     static bool available();
+    static QString libraryVersion();
     // False with the reason in the error. The progress may be null.
     static bool read(const QString &file, const FeatureReaderOptions &options, const MapImport::Progress &progress,
         const Sink &sink, MapImport::Report &report, QString *error);

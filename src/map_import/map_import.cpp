@@ -41,6 +41,11 @@ bool MapImport::available()
     return FeatureReader::available();
 }
 
+QString MapImport::libraryVersion()
+{
+    return FeatureReader::libraryVersion();
+}
+
 QString MapImport::missingText()
 {
     if (available()) {

@@ -40,6 +40,8 @@ public:
     };
 
     static bool available();
+    // Of the GDAL library that runs with the program; empty without one.
+    static QString libraryVersion();
     // Why not, and what to install; empty when available.
     static QString missingText();
     // For a file dialog, such as "GeoJSON (*.geojson *.json)", with one for all of them first.

@@ -2,6 +2,7 @@
 #include "display/geo_track_display.h"
 #include "orientation/geo_range_ring_map.h"
 #include "plan_view/geo_widget.h"
+#include "plan_view/gestures.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -13,8 +14,6 @@ namespace {
 
 constexpr double WheelFactor = 0.8;
 constexpr double FineWheelFactor = 0.9;
-constexpr double KeyRotation = 1.0; // degrees
-constexpr double FineKeyRotation = 0.1;
 
 // With Alt held some window systems turn the wheel into a horizontal one.
 int wheelDelta(const QWheelEvent &event)
@@ -236,11 +235,9 @@ void GeoWidget::keyPressEvent(QKeyEvent *event)
     if (tool && tool->keyPressed(*event)) {
         return;
     }
-    const double step = event->modifiers().testFlag(Qt::AltModifier) ? FineKeyRotation : KeyRotation;
-    if (event->key() == Qt::Key_F12) {
-        rotate(step);
-    } else if (event->key() == Qt::Key_F11) {
-        rotate(-step);
+    const double turn = Gestures::rotationOf(*event);
+    if (turn != 0.0) {
+        rotate(turn);
     }
     QWidget::keyPressEvent(event);
 }

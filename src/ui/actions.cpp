@@ -194,6 +194,8 @@ constexpr ActionSpec Specs[] = {
     {ActionId::CheatSheet, QT_TRANSLATE_NOOP("Actions", "Cheat Sheet..."), "",
         QT_TRANSLATE_NOOP("Actions", "Show Cheat Sheet"), "F1", "cheat-sheet", false, MenuId::Help, ToolBarId::None,
         false},
+    {ActionId::Contents, QT_TRANSLATE_NOOP("Actions", "Contents..."), "", "", "Shift+F1", "contents", false, MenuId::Help, ToolBarId::None,
+        false},
     {ActionId::WhatsNew, QT_TRANSLATE_NOOP("Actions", "What's New?..."), "", "", "", "whats-new", false,
         MenuId::Help, ToolBarId::None, false},
     {ActionId::About, QT_TRANSLATE_NOOP("Actions", "About..."), QT_TRANSLATE_NOOP("Actions", "About"),

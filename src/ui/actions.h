@@ -50,6 +50,7 @@ enum class ActionId : std::size_t {
     SensorCheck,
     GettingStarted,
     CheatSheet,
+    Contents,
     WhatsNew,
     About,
     ToggleTrackLabel,

@@ -23,6 +23,7 @@ class FirstStart;
 class GeoMapDisplay;
 class GeoTrackDisplay;
 class GeoWidget;
+class Help;
 class HomeView;
 class InputHealth;
 class InputSession;
@@ -161,8 +162,11 @@ public Q_SLOTS:
     void showTrackLabelFormatWindow();
     void showGettingStarted();
     void showCheatSheet();
+    void showHelp();
     void showAbout();
     void showChangelog();
+    // Once after an update; to be called when somebody may be sitting there.
+    void showChangesAfterUpdate();
     void launchSensorManager();
     void showMapWindow();
     void showBingMapsDownloaderWindow();
@@ -294,6 +298,7 @@ private:
     std::unique_ptr<LockCommands> m_lock;
     ThemeMenu *m_themes = nullptr;
     StatusReadOuts *m_readOuts = nullptr;
+    Help *m_help = nullptr;
     std::unique_ptr<StatusLine> m_statusLine;
     LogPane *m_logPane = nullptr;
     LogFile m_logFile;

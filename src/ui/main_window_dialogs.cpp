@@ -7,6 +7,7 @@
 #include "help/about_window.h"
 #include "help/changelog_window.h"
 #include "help/cheat_sheet_window.h"
+#include "help/help.h"
 #include "inspection/inspection.h"
 #include "orientation/geo_range_ring_map.h"
 #include "plan_view/geo_widget.h"
@@ -17,6 +18,7 @@
 #include "settings/config_window.h"
 #include "settings/lock_commands.h"
 #include "settings/sensor_manager_window.h"
+#include "settings/settings_reference.h"
 #include "settings/track_label_format_window.h"
 #include "ui/actions.h"
 #include "ui/home_view.h"
@@ -35,6 +37,7 @@
 
 #include <QAction>
 #include <QDockWidget>
+#include <QMenuBar>
 
 namespace {
 
@@ -71,6 +74,10 @@ void MainWindow::connectDialogActions()
     on(ActionId::RangeRings, &MainWindow::showRangeRingWindow);
     on(ActionId::WeatherIntensity, &MainWindow::showWeatherIntensityWindow);
     on(ActionId::CheatSheet, &MainWindow::showCheatSheet);
+    m_help = new Help(this);
+    m_help->setMadePage(QStringLiteral("settings-reference.md"), &SettingsReference::page);
+    connect(this, &MainWindow::shutdownBegun, m_help, &Help::closeWindow);
+    on(ActionId::Contents, &MainWindow::showHelp);
     on(ActionId::WhatsNew, &MainWindow::showChangelog);
     on(ActionId::About, &MainWindow::showAbout);
     on(ActionId::Statistics, &MainWindow::showStatsWindow);
@@ -269,11 +276,12 @@ void MainWindow::showGettingStarted()
 
 void MainWindow::showCheatSheet()
 {
-    QList<QAction *> actions;
-    for (const ActionSpec &spec : actionTable()) {
-        actions.append((*m_actions)[spec.id]);
-    }
-    openOver(new CheatSheetWindow(actions, this));
+    openOver(new CheatSheetWindow(*menuBar(), this));
+}
+
+void MainWindow::showHelp()
+{
+    m_help->showContents();
 }
 
 void MainWindow::showAbout()
@@ -284,6 +292,16 @@ void MainWindow::showAbout()
 void MainWindow::showChangelog()
 {
     openOver(new ChangelogWindow(this));
+}
+
+void MainWindow::showChangesAfterUpdate()
+{
+    if (ChangelogWindow::noteVersion()) {
+        // In nobody's way: it may be some time until somebody comes who reads it.
+        auto *window = new ChangelogWindow(this);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->show();
+    }
 }
 
 void MainWindow::launchSensorManager()

@@ -170,6 +170,13 @@ void setUpLook(const CommandLine &commandLine, const ThemeLibrary &themes, MainW
     }
 }
 
+// Somebody may be sitting there who wants to read something.
+bool attended(const CommandLine &commandLine)
+{
+    return !commandLine.demo && !commandLine.exitAfter && !commandLine.exitAtEnd && commandLine.screenshot.isEmpty()
+        && commandLine.snapshot.isEmpty();
+}
+
 // From the main window's construction to the end of the event loop.
 int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTraffic *demo, QSplashScreen &splash,
     const QElapsedTimer &clock)
@@ -197,6 +204,9 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
     window.loadUi(commandLine.size);
     splash.finish(&window);
     QApplication::processEvents();
+    if (attended(commandLine)) {
+        window.showChangesAfterUpdate();
+    }
 
     if (demo) {
         QObject::connect(demo, &DemoTraffic::message, &window, &MainWindow::showLog);

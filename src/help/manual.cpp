@@ -1,0 +1,173 @@
+#include "help/manual.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+// The pages are compiled into a static library, which loads its resources only when asked to, and not from within a
+// namespace.
+static void loadManualResource()
+{
+    Q_INIT_RESOURCE(manual);
+}
+
+namespace {
+
+constexpr qsizetype ExcerptLength = 140;
+constexpr qsizetype ExcerptLead = 40; // characters before the word that was looked for
+
+QString readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString withoutMarks(QString line)
+{
+    static const QRegularExpression Picture(QStringLiteral(R"(!\[[^\]]*\]\([^)]*\))"));
+    static const QRegularExpression Link(QStringLiteral(R"(\[([^\]]*)\]\([^)]*\))"));
+    static const QRegularExpression Rule(QStringLiteral(R"(^[\s|:-]+$)"));
+    static const QRegularExpression Item(QStringLiteral(R"(^(\s*[-*]|\s*\d+\.|>)\s+)"));
+    line.remove(Picture).replace(Link, QStringLiteral("\\1")).remove(Rule).remove(Item);
+    line.remove(QStringLiteral("**")).remove(u'`').replace(u'|', u' ');
+    return line.simplified();
+}
+
+Manual::Section sectionOf(const QString &heading)
+{
+    const auto level = static_cast<int>(std::min<qsizetype>(heading.indexOf(u' '), 6));
+    const QString title = withoutMarks(heading.mid(level));
+    return {title, level, Manual::anchorOf(title), {}};
+}
+
+QList<Manual::Section> sectionsOf(const QString &markdown)
+{
+    static const QRegularExpression Heading(QStringLiteral("^#{1,6} "));
+    QList<Manual::Section> sections;
+    bool literal = false;
+    for (const QString &line : markdown.split(u'\n')) {
+        literal = literal != line.startsWith(QLatin1String("```"));
+        if (!literal && Heading.match(line).hasMatch()) {
+            sections.append(sectionOf(line));
+        } else if (!sections.isEmpty()) {
+            const QString text = literal ? line.simplified() : withoutMarks(line);
+            sections.last().text += text.isEmpty() ? text : text + u' ';
+        }
+    }
+    if (sections.isEmpty()) {
+        sections.append(Manual::Section());
+    }
+    return sections;
+}
+
+bool holdsAll(const QString &text, const QStringList &words)
+{
+    return std::all_of(
+        words.begin(), words.end(), [&text](const QString &word) { return text.contains(word, Qt::CaseInsensitive); });
+}
+
+QString excerptOf(const QString &text, const QString &word)
+{
+    const qsizetype at = std::max<qsizetype>(text.indexOf(word, 0, Qt::CaseInsensitive), 0);
+    qsizetype begin = std::max<qsizetype>(at - ExcerptLead, 0);
+    begin = begin == 0 ? 0 : text.indexOf(u' ', begin) + 1;
+    QString excerpt = text.mid(begin, ExcerptLength).trimmed();
+    if (begin > 0) {
+        excerpt.prepend(QStringLiteral("… "));
+    }
+    return begin + ExcerptLength < text.size() ? excerpt + QStringLiteral(" …") : excerpt;
+}
+
+} // namespace
+
+Manual::Manual(const MadePages &made, const QString &folder)
+{
+    loadManualResource();
+    readIndex(folder, made);
+}
+
+void Manual::readIndex(const QString &folder, const MadePages &made)
+{
+    static const QRegularExpression Entry(QStringLiteral(R"(^- \[[^\]]*\]\(([a-z0-9-]+\.md)\))"));
+    const QString index = QString::fromLatin1(IndexPage);
+    QString shown;
+    QString chapter;
+    QList<Page> pages;
+    for (const QString &line : readFile(folder + u'/' + index).split(u'\n')) {
+        if (line.startsWith(QLatin1String("## "))) {
+            chapter = line.mid(3).trimmed();
+        }
+        const QString file = Entry.match(line).captured(1);
+        const QString markdown = file.isEmpty() ? QString() : made.value(file, readFile(folder + u'/' + file));
+        if (!markdown.isEmpty()) {
+            pages.append({file, chapter, markdown, sectionsOf(markdown)});
+        }
+        if (file.isEmpty() || !markdown.isEmpty()) {
+            shown += line + u'\n';
+        }
+    }
+    m_pages.append({index, {}, shown, sectionsOf(shown)});
+    m_pages += pages;
+}
+
+const Manual::Page *Manual::page(const QString &file) const
+{
+    const auto found =
+        std::find_if(m_pages.begin(), m_pages.end(), [&file](const Page &page) { return page.file == file; });
+    return found == m_pages.end() ? nullptr : &*found;
+}
+
+bool Manual::has(const QString &place) const
+{
+    const Page *found = page(place.section(u'#', 0, 0));
+    const QString anchor = place.section(u'#', 1);
+    return found
+        && (anchor.isEmpty()
+            || std::any_of(found->sections.begin(), found->sections.end(),
+                [&](const Section &section) { return section.anchor == anchor; }));
+}
+
+QList<Manual::Hit> Manual::search(const QString &words) const
+{
+    const QStringList wanted = wordsOf(words);
+    QList<Hit> inHeading;
+    QList<Hit> inText;
+    if (wanted.isEmpty()) {
+        return {};
+    }
+    for (const Page &page : m_pages.mid(1)) {
+        for (const Section &section : page.sections) {
+            const bool own = section.level == 1;
+            const QString title = own ? page.title() : tr("%1 › %2").arg(page.title(), section.title);
+            const QString place = own ? page.file : page.file + u'#' + section.anchor;
+            if (holdsAll(section.title, wanted)) {
+                inHeading.append({place, title, excerptOf(section.text, wanted.constFirst())});
+            } else if (holdsAll(title + u' ' + section.text, wanted)) {
+                inText.append({place, title, excerptOf(section.text, wanted.constFirst())});
+            }
+        }
+    }
+    return inHeading + inText;
+}
+
+QStringList Manual::wordsOf(const QString &words)
+{
+    return words.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+}
+
+QString Manual::anchorOf(const QString &heading)
+{
+    QString anchor;
+    for (const QChar character : heading.toLower()) {
+        if (character.isLetterOrNumber()) {
+            anchor += character;
+        } else if (!anchor.isEmpty() && !anchor.endsWith(u'-')) {
+            anchor += u'-';
+        }
+    }
+    if (anchor.endsWith(u'-')) {
+        anchor.chop(1);
+    }
+    return anchor;
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QList>
+#include <QString>
+
+// The manual as it is compiled in: Markdown pages, which the page index.md lists by chapter. A place in it is written
+// as the file of the page, with "#" and the anchor of a section behind it where one is meant: "scope.md#zooming".
+class Manual {
+    Q_DECLARE_TR_FUNCTIONS(Manual)
+
+public:
+    static constexpr auto IndexPage = "index.md";
+
+    struct Section {
+        QString title;
+        int level = 1; // 1: the page's own heading
+        QString anchor;
+        QString text; // without marks, in one line
+    };
+    struct Page {
+        QString file;
+        QString chapter;
+        QString markdown;
+        QList<Section> sections; // the first one is the page's title, with what stands before the next heading
+
+        const QString &title() const { return sections.constFirst().title; }
+    };
+    struct Hit {
+        QString place;
+        QString title; // of the page, and of the section within it
+        QString excerpt;
+    };
+
+    // Pages that are made as the program runs, in Markdown by file.
+    using MadePages = QHash<QString, QString>;
+
+    // Pages that the index lists and that are not there are left out, of the index too.
+    explicit Manual(const MadePages &made = {}, const QString &folder = QStringLiteral(":/manual"));
+
+    // The index first, the others in its order.
+    const QList<Page> &pages() const { return m_pages; }
+    // Null when there is none.
+    const Page *page(const QString &file) const;
+    bool has(const QString &place) const;
+
+    // Sections in which every word stands, upper and lower case alike; those with all of them in the heading first.
+    QList<Hit> search(const QString &words) const;
+    static QStringList wordsOf(const QString &words);
+
+    // The anchor of a heading: small letters and digits with "-" for what is between them.
+    static QString anchorOf(const QString &heading);
+
+private:
+    void readIndex(const QString &folder, const MadePages &made);
+
+    QList<Page> m_pages;
+};

@@ -1,0 +1,157 @@
+#include "help/help_topics.h"
+#include "help/manual.h"
+#include "test_program.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTest>
+
+// The manual as it is written, and how it is read.
+class TestManual : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsThePagesOfTheIndex();
+    void findsSections_data();
+    void findsSections();
+    void linksLeadSomewhere();
+    void hasAPlaceForEveryWindow();
+};
+
+namespace {
+
+void write(const QString &file, const char *text)
+{
+    QFile page(file);
+    QVERIFY(page.open(QIODevice::WriteOnly));
+    page.write(text);
+}
+
+// Pages that are written beside what they are about.
+bool isComing(const Manual &manual, const QString &place)
+{
+    static const QStringList Coming{"first-start.md", "installation.md", "lists-and-views.md", "sensors.md",
+        "settings.md", "unattended.md", "why.md"};
+    const QString file = place.section('#', 0, 0);
+    return Coming.contains(file) && !manual.page(file);
+}
+
+// Classes of windows, panes and pages of settings, as the sources declare them.
+QSet<QString> windowsOfTheProgram()
+{
+    static const QRegularExpression Window(QStringLiteral(
+        R"(class (\w+)(?: final)? : public (?:QDialog|QMainWindow|QDockWidget|GeometryDialog|MarkdownWindow|ConfigPage)\b)"));
+    QSet<QString> classes;
+    QDirIterator files(
+        QStringLiteral(SOURCE_FOLDER "/src"), {"*.h", "*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        if (!file.open(QIODevice::ReadOnly)) {
+            continue;
+        }
+        QRegularExpressionMatchIterator found = Window.globalMatch(QString::fromUtf8(file.readAll()));
+        while (found.hasNext()) {
+            classes.insert(found.next().captured(1));
+        }
+    }
+    // Not opened as they are, or with the help itself.
+    return classes - QSet<QString>{"GeometryDialog", "ConfigPage", "HelpWindow", "MainWindow"};
+}
+
+} // namespace
+
+void TestManual::readsThePagesOfTheIndex()
+{
+    QTemporaryDir folder;
+    write(folder.filePath("index.md"),
+        "# Manual\n\n## First\n\n- [A](a.md)\n- [Gone](gone.md)\n\n## Second\n\n- [B](b.md): x\n");
+    write(folder.filePath("a.md"),
+        "# The **first** page\n\nWords.\n\n```\n# no heading\n```\n\n## Range & `rings`\n\nMore.\n");
+    write(folder.filePath("b.md"), "# Other\n");
+    const Manual manual({}, folder.path());
+    QCOMPARE(manual.pages().size(), 3);
+    QVERIFY(!manual.pages().at(0).markdown.contains("gone.md"));
+    const Manual::Page *page = manual.page("a.md");
+    QVERIFY(page);
+    QCOMPARE(page->chapter, "First");
+    QCOMPARE(page->title(), "The first page");
+    QCOMPARE(page->sections.size(), 2);
+    QCOMPARE(page->sections.at(1).anchor, "range-rings");
+    QCOMPARE(manual.page("b.md")->chapter, "Second");
+    QVERIFY(manual.has("a.md#range-rings"));
+    QVERIFY(!manual.has("a.md#rings"));
+    QVERIFY(!manual.has("gone.md"));
+}
+
+void TestManual::findsSections_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QStringList>("places");
+    QTest::newRow("the heading before the text") << "rose" << QStringList{"a.md#rose", "a.md"};
+    QTest::newRow("every word, upper and lower case alike") << "LINK wind" << QStringList{"a.md#rose"};
+    QTest::newRow("no marks") << "b.md" << QStringList{};
+    QTest::newRow("part of a word") << "ward" << QStringList{"a.md"};
+    QTest::newRow("nothing looked for") << "  " << QStringList{};
+}
+
+void TestManual::findsSections()
+{
+    QFETCH(QString, words);
+    QTemporaryDir folder;
+    write(folder.filePath("index.md"), "# Rose\n\n- [A](a.md)\n");
+    write(folder.filePath("a.md"), "# Scope\n\nA rose and a **ward**robe.\n\n## Rose\n\nThe [link](b.md) of\nwind.\n");
+    QStringList places;
+    for (const Manual::Hit &hit : Manual({}, folder.path()).search(words)) {
+        places.append(hit.place);
+    }
+    QTEST(places, "places");
+}
+
+void TestManual::linksLeadSomewhere()
+{
+    static const QRegularExpression Link(QStringLiteral(R"(\]\(([^)\s]+)\))"));
+    const Manual manual({{"settings-reference.md", "# All Settings\n"}});
+    QVERIFY(manual.pages().size() > 20);
+    QSet<QString> shown;
+    for (const Manual::Page &page : manual.pages()) {
+        QRegularExpressionMatchIterator links = Link.globalMatch(page.markdown);
+        while (links.hasNext()) {
+            const QString target = links.next().captured(1);
+            const QString place = target.startsWith(u'#') ? page.file + target : target;
+            if (target.endsWith(".png")) {
+                QVERIFY2(QImageReader(":/manual/" + target).canRead(), qPrintable(page.file + ": " + target));
+            } else if (!target.contains("://")) {
+                QVERIFY2(manual.has(place) || isComing(manual, place), qPrintable(page.file + ": " + target));
+            }
+            shown.insert(target);
+        }
+    }
+    // What nobody can come to, need not be in the program.
+    QDirIterator files(QStringLiteral(":/manual"), QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString file = files.next().mid(int(qstrlen(":/manual/")));
+        QVERIFY2(file == Manual::IndexPage || shown.contains(file), qPrintable(file));
+    }
+}
+
+void TestManual::hasAPlaceForEveryWindow()
+{
+    const Manual manual({{"settings-reference.md", "# All Settings\n"}});
+    QSet<QString> known;
+    for (const HelpTopic &topic : helpTopics()) {
+        QVERIFY2(manual.has(topic.place) || isComing(manual, topic.place), topic.place);
+        known.insert(topic.subject);
+    }
+    const QSet<QString> windows = windowsOfTheProgram();
+    QVERIFY(windows.contains("RotationWindow"));
+    const QSet<QString> without = windows - known;
+    QVERIFY2(without.isEmpty(), qPrintable(QStringList(without.values()).join(' ')));
+}
+
+VYX_TEST(TestManual)
+#include "tst_manual.moc"
