@@ -360,9 +360,8 @@ QString CommandLine::versionText()
 
 bool CommandLine::saysWhatToDo() const
 {
-    return start || demo || input || sensor || sensorAuto || processor || exitAtEnd || exitAfter
-        || chooseRecording || headless || !map.isEmpty() || !control.isEmpty() || !screenshot.isEmpty()
-        || !snapshot.isEmpty();
+    return start || demo || input || sensor || sensorAuto || processor || exitAtEnd || exitAfter || chooseRecording
+        || headless || !map.isEmpty() || !control.isEmpty() || !screenshot.isEmpty() || !snapshot.isEmpty();
 }
 
 void CommandLine::applyTo(Config &config) const

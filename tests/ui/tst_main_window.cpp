@@ -12,8 +12,8 @@
 #include "ui/actions.h"
 #include "ui/library_log.h"
 #include "ui/log_pane.h"
-#include "widgets/scope_notice.h"
 #include "ui/status_read_outs.h"
+#include "widgets/scope_notice.h"
 
 #include <QAction>
 #include <QDateTime>

@@ -4,8 +4,8 @@
 #include "test_program.h"
 #include "ui/recording_opener.h"
 #include "ui/replay_window.h"
-#include "widgets/scope_notice.h"
 #include "widgets/coordinate_edit.h"
+#include "widgets/scope_notice.h"
 #include "window_fixture.h"
 
 #include <QDoubleSpinBox>

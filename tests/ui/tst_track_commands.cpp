@@ -5,8 +5,8 @@
 #include "plan_view/geo_widget.h"
 #include "test_program.h"
 #include "ui/actions.h"
-#include "widgets/scope_chip.h"
 #include "ui/track_commands.h"
+#include "widgets/scope_chip.h"
 #include "window_fixture.h"
 
 #include <QAction>
