@@ -50,6 +50,14 @@ for program in $(inside dpkg -L vyxdisplay | sed -n 's,^/usr/bin/,,p'); do
         test -f /usr/share/zsh/vendor-completions/_$program"
 done
 
+step "The service"
+inside getent passwd vyxdisplay
+inside systemd-analyze verify /lib/systemd/system/vyxdisplay.service
+inside install -d -o vyxdisplay -g vyxdisplay /var/lib/vyxdisplay
+inside setpriv --reuid vyxdisplay --regid vyxdisplay --init-groups env HOME=/var/lib/vyxdisplay \
+    vyxdisplay --headless --exit-after 5 --snapshot /var/lib/vyxdisplay/snapshot.json
+inside test -s /var/lib/vyxdisplay/snapshot.json
+
 step "The libraries"
 inside sh -c 'apt-get install -y -qq -o Dpkg::Use-Pty=0 --no-install-recommends /packages/libkorvane-dev_*.deb \
     g++ make cmake pkg-config' >/dev/null
