@@ -87,7 +87,8 @@ private:
     // Empty where the options go together.
     QString contradiction() const
     {
-        const bool own = m_result.input || m_result.sensor || m_result.sensorAuto || m_result.processor;
+        const bool ownInput = m_result.input || m_result.chooseRecording;
+        const bool own = ownInput || m_result.sensor || m_result.sensorAuto || m_result.processor;
         if (m_result.demo && own) {
             return CommandLine::tr("--demo brings an input, a processor and a sensor of its own");
         }
@@ -96,6 +97,9 @@ private:
         }
         if (m_result.headless && !m_result.screenshot.isEmpty()) {
             return CommandLine::tr("--screenshot needs a window, --headless shows none");
+        }
+        if (m_result.headless && (m_result.chooseRecording || !m_result.map.isEmpty())) {
+            return CommandLine::tr("a map, and '--input file', need a window, --headless shows none");
         }
         if (m_result.snapshotEvery && (!m_result.headless || m_result.snapshot.isEmpty())) {
             return CommandLine::tr("--snapshot-every needs --headless and --snapshot");

@@ -223,6 +223,9 @@ private Q_SLOTS:
         row("demo with a processor", {"--demo", "--processor", "modes"}, "--demo");
         row("profile outside", {"--profile", "../x"}, "'../x'");
         row("demo with a profile", {"--demo", "--profile", "x"}, "--demo");
+        row("map without a window", {"--headless", "a.map"}, "--headless");
+        row("question without a window", {"--headless", "--input", "file"}, "--headless");
+        row("demo with a question", {"--demo", "--input", "file"}, "--demo");
         row("picture of no window", {"--headless", "--screenshot", "a.png"}, "--screenshot");
         row("snapshots of a window", {"--snapshot-every", "5", "--snapshot", "a"}, "--headless");
         row("snapshots into nothing", {"--snapshot-every", "5", "--headless"}, "--snapshot");
