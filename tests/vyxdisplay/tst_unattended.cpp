@@ -150,10 +150,10 @@ private Q_SLOTS:
         const QByteArray plot = QByteArray::fromHex("30000d9110190a0a0000000001");
         m_sender.writeDatagram(plot, QHostAddress::LocalHost, m_port);
         QTRY_COMPARE(QJsonDocument::fromJson(contents(snapshot))["tracks"].toArray().size(), 1);
+        QTRY_COMPARE(status()["sources"].toArray().first().toObject()["sac"].toInt(), 25); // once a second
         const QJsonObject told = status();
         QCOMPARE(told["tracks"].toInt(), 1);
         QVERIFY(!told["window"].toBool(true) && told["input"]["messages"].toInt() == 1);
-        QTRY_COMPARE(status()["sources"].toArray().first().toObject()["sac"].toInt(), 25);
 
         const auto question = started({"--ask", m_control, "stop"});
         QVERIFY(question->waitForFinished(10000));
@@ -182,7 +182,7 @@ private Q_SLOTS:
             config.inputSerialDevice = "no-such-line";
         });
         const auto service = started({"--headless", "--control", m_control});
-        QTRY_VERIFY_WITH_TIMEOUT(input("notice").contains("no-such-line"), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(input("notice").startsWith("Cannot open serial line no-such-line"), 20000);
         configure([this](Config &config) { config.inputUdpPort1 = m_port; });
         QVERIFY(asked({{"command", "start"}})["ok"].toBool());
         QTRY_COMPARE(state(), QString("open"));
