@@ -3,11 +3,11 @@
 #include "app/app_log.h"
 #include "app/app_paths.h"
 #include "asterix/asterix.h"
+#include "demonstration/demo_traffic.h"
 #include "engine/data_engine.h"
 #include "engine/snapshot_json.h"
 #include "sensors/sensor_info.h"
 #include "ui/library_log.h"
-#include "vyxdisplay/demo_traffic.h"
 #include "vyxdisplay/terminal_status.h"
 
 #include <cstdio>
