@@ -28,6 +28,22 @@ QString InputSession::description() const
         : tr("UDP port %1").arg(config.inputUdpPort1);
 }
 
+QSet<quint16> InputSession::unicastPorts() const
+{
+    const Config &config = m_config->live();
+    QSet<quint16> ports;
+    if (m_state != State::Open || config.inputComm != Config::InputComm::Udp) {
+        return ports;
+    }
+    if (!config.inputUdpMulticast1) {
+        ports.insert(config.inputUdpPort1);
+    }
+    if (config.inputEnable2 && !config.inputUdpMulticast2) {
+        ports.insert(config.inputUdpPort2);
+    }
+    return ports;
+}
+
 QString InputSession::notice() const
 {
     switch (m_state) {

@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QFileInfo>
 #include <QObject>
+#include <QSet>
 #include <QSharedPointer>
 
 class EngineHost;
@@ -42,6 +43,8 @@ public:
 
     // "UDP port 20000".
     QString description() const;
+    // Those on which the open input takes datagrams that are no multicast.
+    QSet<quint16> unicastPorts() const;
     // Why the picture is empty or old; empty while it is neither.
     QString notice() const;
 

@@ -136,16 +136,8 @@ void MainWindow::connectHealth()
 
 void MainWindow::tellHealthOfInput()
 {
-    QSet<quint16> ports;
-    if (inputOpen() && config().inputComm == Config::InputComm::Udp) {
-        if (!config().inputUdpMulticast1) {
-            ports.insert(config().inputUdpPort1);
-        }
-        if (config().inputEnable2 && !config().inputUdpMulticast2) {
-            ports.insert(config().inputUdpPort2);
-        }
-    }
-    m_health->setInput(m_session->description(), inputOpen() && !m_session->paused(), ports);
+    const bool expecting = inputOpen() && !m_session->paused();
+    m_health->setInput(m_session->description(), expecting, m_session->unicastPorts());
 }
 
 // Nothing is said twice: silence goes before what else there would be to say of an open input.

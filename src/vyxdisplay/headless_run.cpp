@@ -216,12 +216,7 @@ QString HeadlessRun::setView(const QJsonObject &)
 void HeadlessRun::showInput()
 {
     const bool open = m_session.state() == InputSession::State::Open;
-    const Config &config = m_config.live();
-    QSet<quint16> ports;
-    if (open && config.inputComm == Config::InputComm::Udp && !config.inputUdpMulticast1) {
-        ports.insert(config.inputUdpPort1);
-    }
-    m_health.setInput(m_session.description(), open, ports);
+    m_health.setInput(m_session.description(), open, m_session.unicastPorts());
     const QString notice = m_session.notice();
     m_service.notify("STATUS="
         + (notice.isEmpty() ? tr("Receiving on %1").arg(m_session.description()) : notice).simplified().toUtf8());

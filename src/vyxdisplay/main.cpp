@@ -159,6 +159,19 @@ void offerControl(const CommandLine &commandLine, ControlServer &server, MainWin
     }
 }
 
+// At once where that was asked for, here or in the settings.
+void startInput(const CommandLine &commandLine, const StartGuard &guard, Reopening &reopening, MainWindow &window)
+{
+    if (!startsByItself(commandLine, guard, window)) {
+        return;
+    }
+    const bool unattended = window.config().inputAutoStart && !commandLine.demo && !commandLine.exitAtEnd;
+    if (unattended && window.session().sensor()) { // which does not come by itself
+        keepTrying(reopening, window);
+    }
+    openInput(commandLine, window);
+}
+
 // The demonstration begins dark, as long as nobody has chosen another theme for it.
 void setUpLook(const CommandLine &commandLine, const ThemeLibrary &themes, MainWindow &window)
 {
@@ -223,13 +236,7 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
     tellWhoKeepsSettings(window);
     const StartGuard guard;
     Reopening reopening(&window.session());
-    if (startsByItself(commandLine, guard, window)) {
-        const bool unattended = window.config().inputAutoStart && !demo && !commandLine.exitAtEnd;
-        if (unattended && window.session().sensor()) { // which does not come by itself
-            keepTrying(reopening, window);
-        }
-        openInput(commandLine, window);
-    }
+    startInput(commandLine, guard, reopening, window);
     openFiles(commandLine, window);
     if (!commandLine.saysWhatToDo() && !QFileInfo::exists(AppPaths::configFile())) {
         window.showGettingStarted();
@@ -281,6 +288,9 @@ int runHeadless(int argc, char *argv[], const CommandLine &commandLine)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     setApplicationIdentity();
+    Config config;
+    config.load(AppPaths::configFile());
+    Languages::install(config.displayLanguage);
     std::unique_ptr<DemoTraffic> demo;
     QString error;
     if (commandLine.demo) {
