@@ -188,8 +188,8 @@ QSharedPointer<Track> TrackManager::createTrack(unsigned int trackNumber)
 
 void TrackManager::registerTrack(const QSharedPointer<Track> &track)
 {
-    if (!track) {
-        return;
+    if (!track || (track->m_indexed && track->m_unindexedCount == m_unindexedCount)) {
+        return; // as nearly all are: nothing about them has changed
     }
     if (track->incarnationId() == 0) {
         track->setIncarnationId(m_nextIncarnationId++);
