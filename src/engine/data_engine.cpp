@@ -78,7 +78,7 @@ void DataEngine::startTimers()
     connect(&m_snapshotTimer, &QTimer::timeout, this, &DataEngine::publishSnapshot);
     connect(&m_secondTimer, &QTimer::timeout, this, [this] { m_logGate.sumUp(); });
     connect(&m_secondTimer, &QTimer::timeout, this, &DataEngine::publishStatistics);
-    connect(&m_secondTimer, &QTimer::timeout, this, [this] { m_archive.readIdentities(); });
+    connect(&m_secondTimer, &QTimer::timeout, this, [this] { m_archive.endSecond(); });
     for (QTimer *timer : {&m_videoTimer, &m_snapshotTimer}) {
         timer->setTimerType(Qt::PreciseTimer);
         timer->start(PublishPeriodMs);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tracking/report_ring.h"
+#include "tracking/kept_report.h"
 
 #include <QPointF>
 

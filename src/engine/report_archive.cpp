@@ -4,27 +4,13 @@
 #include "asterix/record_map.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
-constexpr int MaximumAlertReports = 512; // all that are kept
-
-// Outcomes of records that name nobody.
-bool namesSomebody(ReportOutcome outcome)
-{
-    switch (outcome) {
-    case ReportOutcome::Track: // with the track
-    case ReportOutcome::TrackEnd: // noted when the track went
-    case ReportOutcome::Alert:
-    case ReportOutcome::Weather:
-    case ReportOutcome::Video:
-    case ReportOutcome::SourceStatus:
-    case ReportOutcome::Malformed:
-        return false;
-    default:
-        return true;
-    }
-}
+constexpr int MaximumLooseReports = 4096; // of one kind that are told: all that are kept
+constexpr double SamePlot = 1.0; // metres between a plot and a position of a track
+constexpr std::size_t LatestPositions = 64; // of a track: plots are seen for a few of its reports
 
 void copyCallsign(SeenIdentity &seen, const char *text)
 {
@@ -64,28 +50,52 @@ void ReportArchive::setTracks(const QSharedPointer<TrackManager> &tracks, const 
 void ReportArchive::clear()
 {
     m_directory.clear();
+    m_log.clear();
     m_plots.clear();
     m_alerts.clear();
+    m_weather.clear();
+    m_radials.clear();
     m_dropped.clear();
 }
 
 // Trackers have just read the clock for each report that they look at.
 void ReportArchive::take(const TakenReport &report)
 {
-    if (report.reports) {
-        report.reports->add(
-            report.form, m_clock->lastMs(), report.record ? report.record->uap : nullptr, report.octets, report.size);
+    if (report.newestReport) {
+        m_log.add(*report.newestReport, report.form, m_clock->lastMs(), report.record ? report.record->uap : nullptr,
+            report.octets, report.size);
     }
-    if (report.outcome == ReportOutcome::Track) {
+    if (report.outcome != ReportOutcome::Track) {
+        keepLoose(report);
+    }
+}
+
+void ReportArchive::keepLoose(const TakenReport &report)
+{
+    switch (report.outcome) {
+    case ReportOutcome::Track: // with the track
+    case ReportOutcome::TrackEnd: // noted when the track went
+    case ReportOutcome::SourceStatus:
+    case ReportOutcome::Malformed:
         return;
-    }
-    if (report.outcome == ReportOutcome::Plot) {
-        m_plots.add(report, m_clock->lastMs());
-    } else if (report.outcome == ReportOutcome::Alert) {
-        m_alerts.add(report, m_clock->nowMs());
-    } else if (namesSomebody(report.outcome)) {
+    case ReportOutcome::Plot:
+        return m_plots.add(report, m_clock->lastMs());
+    case ReportOutcome::Alert:
+        return m_alerts.add(report, m_clock->nowMs());
+    case ReportOutcome::Weather:
+        return m_weather.add(report, m_clock->nowMs());
+    case ReportOutcome::Video:
+        return m_radials.take(report, m_clock->nowMs());
+    default:
         m_dropped.add(report, m_clock->nowMs());
     }
+}
+
+void ReportArchive::endSecond()
+{
+    readIdentities();
+    m_log.setTrackCount(m_tracks->trackCount());
+    m_radials.endSecond();
 }
 
 void ReportArchive::readIdentities()
@@ -162,23 +172,64 @@ void ReportArchive::noteEnd(const Track &track)
     m_directory.note(seen);
 }
 
-AskedReports ReportArchive::answer(const ReportQuestion &question) const
+AskedReports ReportArchive::answer(const ReportQuestion &question)
 {
     AskedReports answer{question, false, {}};
     switch (question.about) {
     case ReportQuestion::About::Track:
-        if (Track *track = m_tracks->trackByNumber(question.trackNumber)) {
-            answer.found = track->incarnationId() == question.incarnationId;
-            answer.reports = answer.found ? track->reports().reports() : QList<KeptReport>();
-        }
+        answerTrack(answer);
         return answer;
     case ReportQuestion::About::Place:
-        answer.reports = m_plots.near(question.place, question.radius, ReportRing::MaximumReports);
+        answerPlace(answer);
         break;
     case ReportQuestion::About::Alerts:
-        answer.reports = m_alerts.newest(MaximumAlertReports);
+        answer.reports = m_alerts.newest(MaximumLooseReports);
+        break;
+    case ReportQuestion::About::Weather:
+        answer.reports = m_weather.newest(MaximumLooseReports);
+        break;
+    case ReportQuestion::About::Radial:
+        answer.reports = m_radials.ask(question.radial);
         break;
     }
     answer.found = !answer.reports.isEmpty();
     return answer;
+}
+
+void ReportArchive::answerTrack(AskedReports &answer) const
+{
+    Track *track = m_tracks->trackByNumber(answer.question.trackNumber);
+    answer.found = track && track->incarnationId() == answer.question.incarnationId;
+    if (answer.found) {
+        answer.reports = m_log.reports(track->newestReport());
+    }
+}
+
+// Of plots that belong to a track nothing is kept but what is kept of the track: it was there at that place, and had a
+// report at that time.
+void ReportArchive::answerPlace(AskedReports &answer) const
+{
+    const ReportQuestion &question = answer.question;
+    answer.reports = m_plots.near(question.place, question.radius, ReportLog::MaximumReports);
+    if (!answer.reports.isEmpty() || question.plotMs == 0) {
+        return;
+    }
+    const auto wasThere = [&question](const TrackHistoryElement &element) {
+        const QPointF away = element.carCoordinate() - question.place;
+        return element.carCoordinateValid() && std::hypot(away.x(), away.y()) <= SamePlot;
+    };
+    for (const auto &track : m_tracks->allTracks()) {
+        const auto &history = track->history();
+        const auto end = history.begin() + static_cast<qsizetype>(std::min(history.size(), LatestPositions));
+        if (std::none_of(history.begin(), end, wasThere)) {
+            continue;
+        }
+        for (const KeptReport &report : m_log.reports(track->newestReport())) {
+            if (report.timeMs == question.plotMs) {
+                answer.reports = {report};
+                answer.trackOfPlot = track->incarnationId();
+                return;
+            }
+        }
+    }
 }

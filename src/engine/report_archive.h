@@ -2,9 +2,10 @@
 
 #include "engine/identity_directory.h"
 #include "engine/loose_reports.h"
+#include "engine/radial_watch.h"
 #include "modes/mode_s_decoder.h"
 #include "tracking/report_ledger.h"
-#include "tracking/report_ring.h"
+#include "tracking/report_log.h"
 #include "tracking/track_manager.h"
 
 #include <QSharedPointer>
@@ -13,8 +14,10 @@
 struct ReportQuestion {
     enum class About : quint8 {
         Track, // the reports that it was made of
-        Place, // the plot without a track that is nearest to it
-        Alerts, // those of safety nets
+        Place, // the plot that is nearest to it
+        Alerts, // the reports of safety nets
+        Weather, // the messages that weather pictures are made of
+        Radial, // the video of one direction, from when it is asked for on
     };
 
     quint64 requestId = 0;
@@ -23,12 +26,15 @@ struct ReportQuestion {
     quint64 incarnationId = 0;
     QPointF place = {}; // plane metres
     double radius = 0.0; // metres, from it
+    qint64 plotMs = 0; // when the plot arrived that may be a track's; 0: only plots without a track
+    RadialQuestion radial = {};
 };
 
 struct AskedReports {
     ReportQuestion question;
     bool found = false; // the track lives, or there are reports
     QList<KeptReport> reports; // newest first
+    quint64 trackOfPlot = 0; // incarnation id; 0: the plot belongs to none
 };
 
 // Whom the stream has named and what became of it, as somebody asked for it.
@@ -41,9 +47,8 @@ struct Sightings {
 Q_DECLARE_METATYPE(AskedReports)
 Q_DECLARE_METATYPE(Sightings)
 
-// Remembers of each record what an operator may ask about later: of those that make tracks their octets, with the track
-// itself; of all others who they named and what became of them, and of those that are shown without a track the
-// newest. On the engine's thread.
+// Remembers of each record what an operator may ask about later: the octets of those that make tracks, and the newest
+// of those that are shown without one; of all others who they named and what became of them. On the engine's thread.
 class ReportArchive final : public ReportLedger {
 public:
     ReportArchive();
@@ -57,14 +62,19 @@ public:
 
     // Only copies: who is named in the reports without a track is read later.
     void take(const TakenReport &report) override;
-    // To be called once a second: reads whom the reports since the last call have named.
-    void readIdentities();
+    // To be called once a second: reads whom the reports since the last call have named, and keeps room in step with
+    // the number of tracks.
+    void endSecond();
 
     // Of a track that has another incarnation by now nothing is found.
-    AskedReports answer(const ReportQuestion &question) const;
+    AskedReports answer(const ReportQuestion &question);
     QList<SeenIdentity> find(const IdentityQuery &query);
 
 private:
+    void readIdentities();
+    void keepLoose(const TakenReport &report);
+    void answerTrack(AskedReports &answer) const;
+    void answerPlace(AskedReports &answer) const;
     void noteIdentity(const LooseReport &report, const unsigned char *octets);
     void readFrame(SeenIdentity &seen, const unsigned char *octets, quint32 size);
     void noteEnd(const Track &track);
@@ -72,8 +82,11 @@ private:
     QSharedPointer<TrackManager> m_tracks;
     SharedClock m_clock;
     IdentityDirectory m_directory;
+    ReportLog m_log;
     LooseReports m_plots{768 * 1024, 16384}; // of about half a minute
     LooseReports m_alerts{64 * 1024, 512};
+    LooseReports m_weather{256 * 1024, 4096}; // of the last pictures
+    RadialWatch m_radials;
     LooseReports m_dropped{256 * 1024, 4096}; // until their identities have been read
     korvane::modes::ModeSDecoder m_modesDecoder;
     korvane::modes::ModeSMessage m_modesMessage;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/stream_tap.h"
-#include "tracking/report_ring.h"
+#include "tracking/kept_report.h"
 
 #include <QString>
 

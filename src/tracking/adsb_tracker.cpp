@@ -140,7 +140,6 @@ std::optional<Tracker::Place> AdsbTracker::takePlace(const _ast_datarecord_t &re
 QSharedPointer<Track> AdsbTracker::trackOf(unsigned int address)
 {
     if (const auto known = trackManager().findTrackByICAOAddr(address)) {
-        known->reports().expect();
         return known;
     }
     const auto track = createTrack();

@@ -138,7 +138,7 @@ void RadarTracker::handInSirM(const AleniaSirMRadarDataMessage &data, const Reco
     report.size = static_cast<quint32>(record.octets().size());
     report.sirM = &data;
     report.trackNumber = taken.trackNumber;
-    report.reports = taken.reports;
+    report.newestReport = taken.newestReport;
     report.sensorTrackNumber = taken.identity.number;
     report.place = taken.place;
     ledger()->take(report);

@@ -4,6 +4,13 @@
 #include "modes/mode_s_message.h"
 #include "sirm/alenia_sir_m_radar_message.h"
 
+void ReportLedgers::take(const TakenReport &report)
+{
+    for (ReportLedger *ledger : m_ledgers) {
+        ledger->take(report);
+    }
+}
+
 void ReportLedger::takeRecord(std::uint32_t category, const _ast_datarecord_t &record, ReportOutcome outcome)
 {
     TakenReport report;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tracking/report_link.h"
 #include "tracking/report_outcome.h"
 
 #include <QPointF>
@@ -9,7 +10,6 @@
 #include <vector>
 
 class AleniaSirMRadarMessage;
-class ReportRing;
 struct _ast_datarecord_t;
 namespace korvane::modes {
 class ModeSMessage;
@@ -31,7 +31,7 @@ struct TakenReport {
     const AleniaSirMRadarMessage *sirM = nullptr; // the message that a record of SIR-M belongs to; null otherwise
 
     unsigned int trackNumber = 0; // the system track number of the track that it began, updated or ended; 0: none
-    ReportRing *reports = nullptr; // of that track, where there is room for what it is made of; null: none
+    ReportLink *newestReport = nullptr; // of that track, in what is kept of the stream; null: none
     // What it names its track by, where a tracker has looked.
     unsigned int sensorTrackNumber = 0; // 0: none
     std::optional<unsigned int> address; // 24 bits
@@ -68,12 +68,8 @@ public:
     void add(ReportLedger *ledger) { m_ledgers.push_back(ledger); }
     void remove(ReportLedger *ledger) { std::erase(m_ledgers, ledger); }
 
-    void take(const TakenReport &report) override
-    {
-        for (ReportLedger *ledger : m_ledgers) {
-            ledger->take(report);
-        }
-    }
+    // Not for the compiler to guess that one of them is of this class, within itself again and again.
+    [[gnu::noinline]] void take(const TakenReport &report) override;
 
 private:
     std::vector<ReportLedger *> m_ledgers;

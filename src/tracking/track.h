@@ -1,7 +1,7 @@
 #pragma once
 
 #include "geo/geo_coordinate.h"
-#include "tracking/report_ring.h"
+#include "tracking/report_link.h"
 #include "tracking/track_history_element.h"
 
 #include <QDateTime>
@@ -168,8 +168,8 @@ public:
     // Newest first, at most MaximumHistory.
     const std::deque<TrackHistoryElement> &history() const { return m_history; }
 
-    // What it was made of lately.
-    ReportRing &reports() { return m_reports; }
+    // Of those that it was made of, where they are kept.
+    ReportLink &newestReport() { return m_newestReport; }
 
     // The same for every track: left 13, top -13, 80 wide, 20 high.
     static QRectF rect() { return {13.0, -13.0, 80.0, 20.0}; }
@@ -192,7 +192,7 @@ private:
     void updateModeAString();
 
     quint64 m_incarnationId = 0;
-    ReportRing m_reports; // beside what a report is found by
+    ReportLink m_newestReport = 0; // beside what a report is found by
     Type m_type = Unknown;
     Type m_detectedBy = Unknown;
     unsigned int m_trackNumber = 0;

@@ -65,23 +65,12 @@ void Tracker::handIn(const _ast_datablock_t &block, const _ast_datarecord_t &rec
     if (!m_ledger) {
         return;
     }
-    TakenReport report;
-    report.category = static_cast<quint8>(block.category);
-    report.outcome = taken.outcome;
-    report.octets = record.data;
-    report.size = record.length;
-    report.record = &record;
-    report.trackNumber = taken.trackNumber;
-    report.reports = taken.reports;
-    report.sensorTrackNumber = taken.identity.number;
-    // Value by value: what has just been written in parts is not there yet to be read as a whole.
-    if (taken.identity.address) {
-        report.address.emplace(*taken.identity.address);
-    }
-    if (taken.place) {
-        report.place.emplace(taken.place->x(), taken.place->y());
-    }
-    m_ledger->take(report);
+    // All at once: clearing it first costs more than all the rest. Values that have just been written in parts are not
+    // there yet to be read as a whole.
+    m_ledger->take({TakenReport::Form::Asterix, static_cast<quint8>(block.category), taken.outcome, record.length,
+        record.data, &record, nullptr, nullptr, taken.trackNumber, taken.newestReport, taken.identity.number,
+        taken.identity.address ? std::optional(*taken.identity.address) : std::nullopt,
+        taken.place ? std::optional(QPointF(taken.place->x(), taken.place->y())) : std::nullopt, nullptr, 0});
 }
 
 void Tracker::handIn(const korvane::modes::ModeSMessage &message, const Taken &taken) const
@@ -89,17 +78,9 @@ void Tracker::handIn(const korvane::modes::ModeSMessage &message, const Taken &t
     if (!m_ledger) {
         return;
     }
-    TakenReport report;
-    report.form = TakenReport::Form::ModeS;
-    report.outcome = taken.outcome;
-    report.octets = message.frame().octets;
-    report.size = message.frame().length;
-    report.modeS = &message;
-    report.trackNumber = taken.trackNumber;
-    report.reports = taken.reports;
-    report.address = message.icaoAddr();
-    report.place = taken.place;
-    m_ledger->take(report);
+    const auto &frame = message.frame();
+    m_ledger->take({TakenReport::Form::ModeS, 0, taken.outcome, frame.length, frame.octets, nullptr, &message, nullptr,
+        taken.trackNumber, taken.newestReport, taken.identity.number, message.icaoAddr(), taken.place, nullptr, 0});
 }
 
 void Tracker::refuse(const _ast_datablock_t &block) const
@@ -131,8 +112,7 @@ QSharedPointer<Track> Tracker::createTrack()
 
 QSharedPointer<Track> Tracker::findOrCreate(unsigned int number)
 {
-    if (const auto known = findByNumber(number)) {
-        known->reports().expect();
+    if (auto known = findByNumber(number)) {
         return known;
     }
     const auto track = createTrack();
@@ -167,7 +147,6 @@ QSharedPointer<Track> Tracker::associate(const Identity &identity, const QDateTi
     if (!track) {
         return {};
     }
-    track->reports().expect();
     if (identity.address) {
         track->setIcaoAddr(*identity.address);
     }
@@ -192,7 +171,7 @@ unsigned int Tracker::endTrack(const Identity &identity, const QDateTime &now)
 // A track whose report has no place is shown at its last one.
 Tracker::Taken Tracker::takenBy(Track &track, const Identity &identity, const std::optional<Place> &place)
 {
-    Taken taken{ReportOutcome::Track, track.trackNumber(), identity, {}, &track.reports()};
+    Taken taken{ReportOutcome::Track, track.trackNumber(), identity, {}, &track.newestReport()};
     if (place && place->valid) {
         taken.place = place->plane;
     } else if (place) {

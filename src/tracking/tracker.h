@@ -77,7 +77,7 @@ protected:
         unsigned int trackNumber = 0; // of the system; 0: none
         Identity identity = {};
         std::optional<QPointF> place = {};
-        ReportRing *reports = nullptr; // of the track
+        ReportLink *newestReport = nullptr; // of the track
     };
 
     // Expands every record of a block that the category's disassembler reads and hands it on; the ledger is told what

@@ -45,7 +45,7 @@ struct ArchiveRig {
         report.outcome = outcome;
         report.octets = reinterpret_cast<const unsigned char *>(octets.constData());
         report.size = static_cast<quint32>(octets.size());
-        report.reports = track ? &track->reports() : nullptr;
+        report.newestReport = track ? &track->newestReport() : nullptr;
         report.address = 0x4B1A2C;
         archive.take(report);
     }
@@ -64,6 +64,10 @@ private Q_SLOTS:
     void notesWhoHasNoTrack();
     void readsIdentityOfRecord();
     void keepsPlotsAndAlertsApart();
+    void findsReportOfTracksPlot();
+    void keepsWeather();
+    void keepsRadialsOfAskedDirection_data();
+    void keepsRadialsOfAskedDirection();
     void notesEnds_data();
     void notesEnds();
     void answersThroughTheEngine();
@@ -163,6 +167,86 @@ void TestReportArchive::keepsPlotsAndAlertsApart()
     QCOMPARE(alerts.reports.first().octets, QByteArray("alert"));
     rig.archive.clear();
     QVERIFY(!rig.archive.answer({4, ReportQuestion::About::Alerts}).found);
+}
+
+// By the place that the track had, and the time that the plot came.
+void TestReportArchive::findsReportOfTracksPlot()
+{
+    ArchiveRig rig;
+    const auto track = rig.addTrack(0x4B1A2C);
+    rig.take("first", ReportOutcome::Track, track.data());
+    const qint64 plotMs = rig.nowMs;
+    rig.nowMs += 4000;
+    track->setCarCoordinate({1500.0, 2000.0});
+    track->recordHistory(rig.clock->now());
+    rig.take("second", ReportOutcome::Track, track.data());
+    const auto ask = [&rig](const QPointF &place, qint64 timeMs) {
+        return rig.archive.answer({1, ReportQuestion::About::Place, 0, 0, place, 1.0, timeMs});
+    };
+    const auto answer = ask({1000.0, 2000.0}, plotMs);
+    QCOMPARE(answer.reports.size(), 1);
+    QCOMPARE(answer.reports.first().octets, QByteArray("first"));
+    QCOMPARE(answer.trackOfPlot, track->incarnationId());
+    QVERIFY(!ask({1250.0, 2000.0}, plotMs).found);
+    QVERIFY(!ask({1000.0, 2000.0}, plotMs + 1).found);
+}
+
+void TestReportArchive::keepsWeather()
+{
+    ArchiveRig rig;
+    rig.take("start", ReportOutcome::Weather);
+    rig.take("vectors", ReportOutcome::Weather);
+    const auto answer = rig.archive.answer({1, ReportQuestion::About::Weather});
+    QCOMPARE(answer.reports.size(), 2);
+    QCOMPARE(answer.reports.first().octets, QByteArray("vectors"));
+}
+
+void TestReportArchive::keepsRadialsOfAskedDirection_data()
+{
+    QTest::addColumn<double>("start");
+    QTest::addColumn<double>("end");
+    QTest::addColumn<int>("sic");
+    QTest::addColumn<bool>("kept");
+    QTest::newRow("over the direction") << 359.5 << 0.5 << 11 << true;
+    QTest::newRow("over it, turning the other way") << 0.5 << 359.5 << 11 << true;
+    QTest::newRow("one azimuth, close enough") << 0.0 << 0.0 << 11 << true;
+    QTest::newRow("the one before") << 359.0 << 359.5 << 11 << false;
+    QTest::newRow("the one behind") << 0.5 << 1.0 << 11 << false;
+    QTest::newRow("another radar's") << 359.5 << 0.5 << 12 << false;
+}
+
+void TestReportArchive::keepsRadialsOfAskedDirection()
+{
+    QFETCH(double, start);
+    QFETCH(double, end);
+    QFETCH(int, sic);
+    QFETCH(bool, kept);
+    BlockEncoder encoder(240);
+    encoder.beginBlock();
+    encoder.beginRecord();
+    encoder.set("000", 2);
+    encoder.set("010/SAC", 25);
+    encoder.set("010/SIC", sic);
+    encoder.set("041/STARTAZ", start);
+    encoder.set("041/ENDAZ", end);
+    encoder.endRecord();
+    _ast_datablock_t block;
+    ast_datablock_smart_decode(&block, encoder.block().data(), encoder.block().size());
+    ArchiveRig rig;
+    const auto ask = [&rig] {
+        ReportQuestion question{1, ReportQuestion::About::Radial};
+        question.radial = {25, 11, 0.1, 0.2};
+        return rig.archive.answer(question).reports;
+    };
+    rig.archive.takeRecord(240, block.records.front(), ReportOutcome::Video); // nobody has asked yet
+    QVERIFY(ask().isEmpty());
+    rig.archive.takeRecord(240, block.records.front(), ReportOutcome::Video);
+    QCOMPARE(ask().size(), kept ? 1 : 0);
+    for (int i = 0; i <= RadialWatch::PatienceSeconds; ++i) {
+        rig.archive.endSecond();
+    }
+    rig.archive.takeRecord(240, block.records.front(), ReportOutcome::Video);
+    QVERIFY(ask().isEmpty()); // nobody looks any more
 }
 
 void TestReportArchive::notesEnds_data()
