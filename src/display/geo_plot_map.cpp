@@ -100,6 +100,24 @@ std::size_t GeoPlotMap::shownPlots() const
     return visible() ? count : 0;
 }
 
+std::optional<Plot> GeoPlotMap::plotAt(const QPointF &place, double reach) const
+{
+    const qint64 oldest = m_nowMs - lifeTime();
+    std::optional<Plot> nearest;
+    double least = reach;
+    for (const auto &batch : m_batches) {
+        for (const Plot &plot : batch->plots) {
+            const QPointF away = plot.place - place;
+            const double distance = std::hypot(away.x(), away.y());
+            if (plot.timeMs > oldest && distance <= least) { // of those at one place the newest
+                least = distance;
+                nearest = plot;
+            }
+        }
+    }
+    return visible() ? nearest : std::nullopt;
+}
+
 std::vector<GeoPlotMap::MarkMeaning> GeoPlotMap::shownMarks() const
 {
     std::vector<MarkMeaning> shown;

@@ -11,6 +11,7 @@
 
 #include <bitset>
 #include <deque>
+#include <optional>
 #include <vector>
 
 class SensorInfo;
@@ -38,6 +39,9 @@ public:
     };
     // The marks that the last frame showed, each once, in its pixels; none while the layer is hidden.
     std::vector<MarkMeaning> shownMarks() const;
+
+    // The nearest that is drawn within so many metres of a place, plane metres; nothing where none is.
+    std::optional<Plot> plotAt(const QPointF &place, double reach) const;
 
     // All that have not faded, in view or not; 0 while the layer is hidden.
     std::size_t shownPlots() const;

@@ -20,14 +20,30 @@ QString octal(unsigned code)
     return QString("%1").arg(code, 4, 8, QChar('0'));
 }
 
+ReportField field(const char *key, const char *name, const QString &value, const char *unit, int first, int count)
+{
+    return ReportField{QString::fromLatin1(key), QCoreApplication::translate("ReportView", name), {}, value,
+        QString::fromUtf8(unit), {first, count}};
+}
+
+QList<ReportField> plotFields(const AleniaSirMRadarPlotRecord &record)
+{
+    return {
+        field(
+            "heightValid", QT_TRANSLATE_NOOP("ReportView", "Mode C valid"), flag(record.modeCHeightValid()), "", 8, 1),
+        field("squawkValid", QT_TRANSLATE_NOOP("ReportView", "Mode A valid"), flag(record.modeACodeValid()), "", 9, 1),
+        field("type", QT_TRANSLATE_NOOP("ReportView", "plot type"), number(record.plotType()), "", 13, 2),
+        field("range", QT_TRANSLATE_NOOP("ReportView", "slant range"), number(record.range()), "km", 16, 16),
+        field("azimuth", QT_TRANSLATE_NOOP("ReportView", "azimuth"), number(record.azimuth()), "°", 32, 16),
+        field("squawk", QT_TRANSLATE_NOOP("ReportView", "Mode A code"), octal(record.modeACode()), "", 52, 12),
+        field("height", QT_TRANSLATE_NOOP("ReportView", "Mode C height"), number(record.modeCHeightImperial()), "ft",
+            64, 16),
+    };
+}
+
 // Words are big-endian, of 16 bits but for the coordinates.
 QList<ReportField> trackFields(const AleniaSirMRadarTrackRecord &record)
 {
-    const auto field = [](const char *key, const char *name, const QString &value, const char *unit, int first,
-                           int count) {
-        return ReportField{QString::fromLatin1(key), QCoreApplication::translate("ReportView", name), {}, value,
-            QString::fromLatin1(unit), {first, count}};
-    };
     return {
         field("number", QT_TRANSLATE_NOOP("ReportView", "track number"), number(record.trackNumber()), "", 0, 16),
         field("velocityValid", QT_TRANSLATE_NOOP("ReportView", "velocity valid"), flag(record.velocityValid()), "", 21,
@@ -60,11 +76,14 @@ QList<ReportField> trackFields(const AleniaSirMRadarTrackRecord &record)
 void viewAleniaSirM(const KeptReport &report, ReportView &view)
 {
     view.name = QCoreApplication::translate("ReportView", "Alenia SIR-M record");
-    if (report.octets.size() != static_cast<qsizetype>(AleniaSirMRadarTrackRecord::Size)) {
-        return;
+    const auto *octets = reinterpret_cast<const unsigned char *>(report.octets.constData());
+    if (report.octets.size() == static_cast<qsizetype>(AleniaSirMRadarTrackRecord::Size)) {
+        view.category = ReportView::AleniaSirM;
+        view.name = QCoreApplication::translate("ReportView", "Alenia SIR-M track record");
+        view.fields = trackFields(AleniaSirMRadarTrackRecord::fromOctets(octets));
+    } else if (report.octets.size() == static_cast<qsizetype>(AleniaSirMRadarPlotRecord::Size)) {
+        view.category = ReportView::AleniaSirM;
+        view.name = QCoreApplication::translate("ReportView", "Alenia SIR-M plot record");
+        view.fields = plotFields(AleniaSirMRadarPlotRecord::fromOctets(octets));
     }
-    view.category = ReportView::AleniaSirM;
-    view.name = QCoreApplication::translate("ReportView", "Alenia SIR-M track record");
-    view.fields = trackFields(
-        AleniaSirMRadarTrackRecord::fromOctets(reinterpret_cast<const unsigned char *>(report.octets.constData())));
 }

@@ -1,5 +1,6 @@
 #include "explanation/symbol_explanation.h"
 
+#include "explanation/explained_fields.h"
 #include "explanation/track_value_text.h"
 #include "explanation/value_sources.h"
 
@@ -36,39 +37,6 @@ constexpr AlertSource AlertSources[] = {
     {QT_TRANSLATE_NOOP("SymbolExplanation", "Vertical separation"), "070/CVS"},
 };
 
-ExplainedValue rowOf(const ReportField &field, const QString &name, int report, qint64 ageMs)
-{
-    ExplainedValue row;
-    row.name = name;
-    row.value = field.text();
-    row.item = field.name;
-    row.report = report;
-    row.ageMs = std::max<qint64>(0, ageMs);
-    row.bits = {field.bits};
-    return row;
-}
-
-// All fields of a source that the report has; the first one must be there.
-std::optional<ExplainedValue> plotRow(const ValueSource &source, const ReportView &view, qint64 ageMs)
-{
-    std::optional<ExplainedValue> row;
-    for (const QString &key : QString::fromLatin1(source.keys).split(' ')) {
-        const ReportField *field = view.find(key);
-        if (!field && !row) {
-            return std::nullopt;
-        }
-        if (field && !row) {
-            row = rowOf(*field, trackValueName(source.value), 0, ageMs);
-        } else if (field) {
-            row->value += ", " + field->text();
-            row->item += ", " + field->name.section('/', -1);
-            row->bits.append(field->bits);
-        }
-    }
-    row->rule = *source.rule ? QCoreApplication::translate("TrackExplanation", source.rule) : QString();
-    return row;
-}
-
 QString typeOf(const AlertSnapshot &alert)
 {
     constexpr const char *Names[] = {"", "MSAW", "APW", "STCA"};
@@ -78,7 +46,7 @@ QString typeOf(const AlertSnapshot &alert)
 
 } // namespace
 
-QList<ExplainedValue> explainPlot(const QList<ReportView> &reports, const QDateTime &now)
+QList<ExplainedValue> explainPlot(const QList<ReportView> &reports, const QDateTime &now, const QString &track)
 {
     QList<ExplainedValue> values;
     if (reports.isEmpty()) {
@@ -90,16 +58,18 @@ QList<ExplainedValue> explainPlot(const QList<ReportView> &reports, const QDateT
         if (source.category != view.category || source.value == last) {
             continue;
         }
-        if (const auto row = plotRow(source, view, now.toMSecsSinceEpoch() - view.timeMs)) {
+        if (auto row = explainedFields(trackValueName(source.value), source.keys, view, 0, now)) {
+            row->rule = *source.rule ? QCoreApplication::translate("TrackExplanation", source.rule) : QString();
             values.append(*row);
             last = source.value;
         }
     }
-    ExplainedValue none;
-    none.name = Text::tr("Track");
-    none.value = noValueText();
-    none.rule = Text::tr("the report names no track by number or address");
-    values.append(none);
+    ExplainedValue owner;
+    owner.name = Text::tr("Track");
+    owner.value = track.isEmpty() ? noValueText() : track;
+    owner.rule = track.isEmpty() ? Text::tr("the report names no track by number or address")
+                                 : Text::tr("the report is one of those that this track is made of");
+    values.append(owner);
     return values;
 }
 
@@ -119,9 +89,9 @@ QList<ExplainedValue> explainAlert(const AlertSnapshot &alert, const QList<Repor
     }
     for (const AlertSource &source : AlertSources) {
         for (const QString &key : QString::fromLatin1(source.keys).split(' ')) {
-            if (const ReportField *field = found->find(key)) {
-                values.append(rowOf(*field, Text::tr(source.name), static_cast<int>(found - reports.begin()),
-                    now.toMSecsSinceEpoch() - found->timeMs));
+            const auto number = static_cast<int>(found - reports.begin());
+            if (const auto row = explainedFields(Text::tr(source.name), key, *found, number, now)) {
+                values.append(*row);
                 break;
             }
         }

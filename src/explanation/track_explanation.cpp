@@ -191,7 +191,12 @@ private:
     bool isSet(const ExplainedValue &row, const QString &key) const
     {
         const ReportView *view = reportOf(row);
-        const ReportField *field = view ? view->find(key) : nullptr;
+        return view && isSet(*view, key);
+    }
+
+    static bool isSet(const ReportView &view, const QString &key)
+    {
+        const ReportField *field = view.find(key);
         return field && field->value == "1";
     }
 
@@ -306,6 +311,8 @@ private:
         }
         if (view->category == ReportView::ModeS) {
             row.rule = cprRule(row.report);
+        } else if (isOfRadar(view->category)) {
+            addRule(row, groundRule(*view));
         } else if (view->category == 62 && m_settings.correctLongitudeWrap && row.item.startsWith("I062/105")) {
             addRule(row, Text::tr("180° added to western longitudes, as the settings say"));
         }
@@ -314,6 +321,29 @@ private:
                 m_settings.ignoreWgs84 ? Text::tr("WGS-84 positions are ignored, as the settings say")
                                        : Text::tr("Cartesian positions are ignored, as the settings say"));
         }
+    }
+
+    static bool isOfRadar(int category)
+    {
+        return category == 48 || category == 1 || category == ReportView::AleniaSirM;
+    }
+
+    // How the way to the target became the distance over ground.
+    QString groundRule(const ReportView &view) const
+    {
+        if (!m_settings.correctSlantRange) {
+            return Text::tr("the slant range is taken as the distance over ground");
+        }
+        const bool hasLevel =
+            isSet(view, "heightValid") || ((view.find("090/FL") || view.find("090/HGT")) && !isSet(view, "090/G"));
+        if (hasLevel) {
+            return Text::tr("the slant range is corrected by the level of this report, as the sensor's settings say");
+        }
+        return m_track.levelValid
+            ? Text::tr(
+                "the slant range is corrected by the track's level, as the sensor's settings say; this report has none")
+            : Text::tr(
+                "the slant range is taken as the distance over ground, since no level is known to correct it by");
     }
 
     // Of compact positions: the newest of the other format, if it is near enough in time, makes a pair.

@@ -23,6 +23,7 @@ struct ExplanationSettings {
     bool ignoreWgs84 = false; // positions
     bool ignoreCartesian = false;
     bool correctLongitudeWrap = false;
+    bool correctSlantRange = false; // of the radar
 };
 
 // Every value of the track as the display has it, with the item that it was taken from by the rules of the trackers.

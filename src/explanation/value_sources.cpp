@@ -14,8 +14,7 @@ constexpr int AdsbLife = 4000;
 constexpr int SystemLife = 10000;
 
 // Texts that several sources share.
-constexpr const char *Polar = QT_TRANSLATE_NOOP(
-    "TrackExplanation", "range and azimuth from the sensor; the slant range is taken as the distance over ground");
+constexpr const char *Polar = QT_TRANSLATE_NOOP("TrackExplanation", "range and azimuth from the sensor");
 constexpr const char *RadarXy =
     QT_TRANSLATE_NOOP("TrackExplanation", "x and y from the sensor, since there is no measured range and azimuth");
 constexpr const char *Wgs84 = QT_TRANSLATE_NOOP("TrackExplanation", "WGS-84, as reported");
@@ -90,6 +89,7 @@ constexpr ValueSource Sources[] = {
     {TrackValue::Position, 21, "131/LAT 131/LON", Kept, Wgs84},
     {TrackValue::Position, 21, "130/LAT 130/LON", Kept, NoWgs84HighRes},
     {TrackValue::Position, ModeS, "cprLatitude cprLongitude cprFormat", Kept, ""},
+    {TrackValue::Position, SirM, "range azimuth", Kept, Polar},
     {TrackValue::Position, SirM, "x y", Kept,
         QT_TRANSLATE_NOOP("TrackExplanation", "x and y in kilometres from the sensor")},
 

@@ -13,9 +13,13 @@
 #include "inspection/inspection_pane.h"
 #include "inspection/scope_targets.h"
 #include "plan_view/geo_widget.h"
+#include "sensors/radar_sensor_info.h"
 
+#include <QAction>
+#include <QCursor>
 #include <QDockWidget>
 #include <QMainWindow>
+#include <QMenu>
 
 #include <algorithm>
 
@@ -24,7 +28,7 @@ namespace {
 constexpr int RefreshIntervalMs = 500;
 constexpr QSize FirstSize(1240, 460);
 constexpr double CloseZoom = 100.0; // metres per pixel at which labels have room
-constexpr double ReachPixels = 8.0; // from the pointer to a plot
+constexpr double SamePlace = 1.0; // metres
 
 QList<ReportView> viewsOf(const QList<KeptReport> &reports)
 {
@@ -59,7 +63,7 @@ Inspection::~Inspection() = default;
 void Inspection::makeDock(QMainWindow *window)
 {
     m_pane = new InspectionPane(window);
-    m_dock = new QDockWidget(tr("Track Explanation"), window);
+    m_dock = new QDockWidget(tr("Explanation"), window);
     m_dock->setObjectName("inspectionDock"); // under which the window's state remembers it
     m_dock->setWidget(m_pane);
     window->addDockWidget(Qt::BottomDockWidgetArea, m_dock);
@@ -72,17 +76,20 @@ void Inspection::makeDock(QMainWindow *window)
 void Inspection::refresh()
 {
     noteSelection();
-    if (!m_dock->isVisible() || m_subject == ReportQuestion::About::Place) {
-        return; // a plot was what it is
+    const bool isPast =
+        m_question.about == ReportQuestion::About::Place || m_question.about == ReportQuestion::About::Weather;
+    if (!m_dock->isVisible() || isPast) {
+        return; // it was what it is
     }
-    ReportQuestion question;
-    question.about = m_subject;
-    if (m_subject == ReportQuestion::About::Track) {
+    ReportQuestion question = m_question;
+    if (question.about == ReportQuestion::About::Track) {
         const GeoTrackDisplay *tracks = m_sources.plan->trackDisplay();
         const TrackSnapshot *track = tracks->findTrack(tracks->selectedTrackId());
         if (!track) {
             m_reportsRequest = 0;
-            m_pane->showHint(tr("Select a track to see where its values come from."));
+            m_pane->showHint(
+                tr("Select a track to see where its values come from; or point at a plot, weather or radar "
+                   "video and press Ctrl+E."));
             return;
         }
         question.trackNumber = track->trackNumber;
@@ -103,32 +110,103 @@ void Inspection::noteSelection()
 {
     const quint64 selected = m_sources.plan->trackDisplay()->selectedTrackId();
     if (selected != 0 && selected != m_selectedTrack) {
-        m_subject = ReportQuestion::About::Track;
+        m_question = {};
     }
     m_selectedTrack = selected;
 }
 
 void Inspection::explainSelectedTrack()
 {
-    m_subject = ReportQuestion::About::Track;
+    m_question = {};
     m_dock->show();
     m_dock->raise();
     refresh();
 }
 
-void Inspection::explainPlotAt(const QPointF &planePoint)
+void Inspection::toggle(bool on)
 {
-    noteSelection();
+    if (m_sources.plan->trackDisplay()->selectedTrackId() == 0 && explainPointedAt()) {
+        return;
+    }
+    if (on) {
+        explainSelectedTrack();
+    } else {
+        m_dock->hide();
+    }
+}
+
+bool Inspection::explainPointedAt()
+{
+    const auto place = pointedAt();
+    const PlaceContents contents = place ? contentsAt(*m_sources.plan, *place) : PlaceContents();
+    if (contents.plot) {
+        explainPlot(*contents.plot);
+    } else if (contents.echo) {
+        explainEcho(*contents.echo);
+    } else if (contents.weather) {
+        explainWeather(*contents.weather);
+    }
+    return contents.plot || contents.echo || contents.weather;
+}
+
+// Plane metres; nothing while the pointer is elsewhere.
+std::optional<QPointF> Inspection::pointedAt() const
+{
+    const GeoWidget *plan = m_sources.plan;
+    const QPoint pixel = plan->mapFromGlobal(QCursor::pos());
+    const bool isThere = plan->underMouse() && plan->rect().contains(pixel);
+    return isThere ? std::optional(plan->screenTransform().inverted().map(QPointF(pixel))) : std::nullopt;
+}
+
+void Inspection::addPlaceActions(QMenu *menu, const QPointF &planePoint)
+{
+    const PlaceContents contents = contentsAt(*m_sources.plan, planePoint);
+    QAction *first = menu->actions().value(0);
+    const auto add = [&](const QString &text, const auto &explain) {
+        auto *action = new QAction(text, menu);
+        connect(action, &QAction::triggered, this, explain);
+        menu->insertAction(first, action);
+        return action;
+    };
+    QAction *plot = add(tr("Explain Plot"), [this, plot = contents.plot.value_or(Plot())] { explainPlot(plot); });
+    plot->setEnabled(contents.plot.has_value());
+    if (contents.echo) {
+        add(tr("Explain Radar Video"), [this, echo = *contents.echo] { explainEcho(echo); });
+    }
+    if (contents.weather) {
+        add(tr("Explain Weather"), [this, weather = *contents.weather] { explainWeather(weather); });
+    }
+}
+
+void Inspection::explainPlot(const Plot &plot)
+{
     ReportQuestion question;
     question.about = ReportQuestion::About::Place;
-    question.place = planePoint;
-    question.radius = ReachPixels * m_sources.plan->currentZoom();
+    question.place = plot.place;
+    question.radius = SamePlace;
+    question.plotMs = plot.timeMs;
+    show(question);
+}
+
+void Inspection::explainWeather(const ShownWeather &weather)
+{
+    m_weather = weather;
+    ReportQuestion question;
+    question.about = ReportQuestion::About::Weather;
+    show(question);
+}
+
+void Inspection::explainEcho(const PlaceContents::Echo &echo)
+{
+    m_echo = echo.shown;
+    ReportQuestion question;
+    question.about = ReportQuestion::About::Radial;
+    question.radial = echo.radial;
     show(question);
 }
 
 void Inspection::explainAlertOf(quint64 alert)
 {
-    noteSelection();
     m_alert = alert;
     ReportQuestion question;
     question.about = ReportQuestion::About::Alerts;
@@ -137,7 +215,8 @@ void Inspection::explainAlertOf(quint64 alert)
 
 void Inspection::show(const ReportQuestion &question)
 {
-    m_subject = question.about;
+    noteSelection();
+    m_question = question;
     m_dock->show();
     m_dock->raise();
     ask(question);
@@ -156,6 +235,10 @@ void Inspection::takeReports(const AskedReports &reports)
         return showPlot(reports, *snapshot);
     case ReportQuestion::About::Alerts:
         return showAlert(reports, *snapshot);
+    case ReportQuestion::About::Weather:
+        return showWeather(reports, *snapshot);
+    case ReportQuestion::About::Radial:
+        return showEcho(reports, *snapshot);
     }
 }
 
@@ -173,12 +256,30 @@ void Inspection::showTrack(const AskedReports &reports, const DisplaySnapshot &s
 void Inspection::showPlot(const AskedReports &reports, const DisplaySnapshot &snapshot)
 {
     if (!reports.found) {
-        m_pane->showHint(tr("No plot without a track has been received here lately. What a plot with a track is made "
-                            "of stands with the track: select it."));
+        m_pane->showHint(tr("The report of this plot is kept no more."));
         return;
     }
+    const TrackSnapshot *track = m_sources.plan->trackDisplay()->findTrack(reports.trackOfPlot);
     const auto views = viewsOf(reports.reports);
-    m_pane->explain(tr("Plot"), explainPlot(views, snapshot.time), reports.reports, views, snapshot.time);
+    const auto values = ::explainPlot(views, snapshot.time, track ? trackName(*track) : QString());
+    m_pane->explain(track ? tr("Plot of %1").arg(trackName(*track)) : tr("Plot"), values, reports.reports, views,
+        snapshot.time, track ? QStringList{tr("Its report")} : QStringList());
+}
+
+void Inspection::showWeather(const AskedReports &reports, const DisplaySnapshot &snapshot)
+{
+    const WeatherOrigin origin = originOf(m_weather, reports.reports);
+    const auto views = viewsOf(origin.reports);
+    const auto values = ::explainWeather(m_weather, origin, views, snapshot.time);
+    m_pane->explain(tr("Weather, level %1").arg(m_weather.intensity), values, origin.reports, views, snapshot.time,
+        {tr("Its vectors"), tr("Start of its picture"), tr("End of its picture")});
+}
+
+void Inspection::showEcho(const AskedReports &reports, const DisplaySnapshot &snapshot)
+{
+    const auto views = viewsOf(reports.reports);
+    const auto values = ::explainEcho(m_echo, views, snapshot.time);
+    m_pane->explain(tr("Radar video"), values, reports.reports, views, snapshot.time);
 }
 
 void Inspection::showAlert(const AskedReports &reports, const DisplaySnapshot &snapshot)
@@ -204,8 +305,9 @@ void Inspection::showAlert(const AskedReports &reports, const DisplaySnapshot &s
 ExplanationSettings Inspection::explanationSettings() const
 {
     const Config &config = *m_sources.config;
+    const auto radar = m_sources.sensor().dynamicCast<RadarSensorInfo>();
     return {config.processorAsterixIgnoreWgs84Coordinates, config.processorAsterixIgnoreCartesianCoordinates,
-        config.processorAsterixCorrectLongitudeWrap};
+        config.processorAsterixCorrectLongitudeWrap, radar && radar->slantRangeCorrected()};
 }
 
 void Inspection::showAbsenceWindow()

@@ -3,6 +3,7 @@
 #include "engine/report_archive.h"
 #include "explanation/absence.h"
 #include "explanation/track_explanation.h"
+#include "inspection/place_contents.h"
 
 #include <QObject>
 #include <QPointer>
@@ -19,11 +20,13 @@ class GeoWidget;
 class InspectionPane;
 class QDockWidget;
 class QMainWindow;
+class QMenu;
+class SensorInfo;
 struct DisplaySnapshot;
 
-// Answers two questions of the operator: where do the values of the selected track come from, in a pane, and why is a
-// target not shown, in a window. Asks the engine for what it keeps; answers to older questions are passed over. GUI
-// thread.
+// Answers two questions of the operator: where does what he sees come from, a track, plot, alert, weather or radar
+// video, in a pane; and why is a target not shown, in a window. Asks the engine for what it keeps; answers to older
+// questions are passed over. GUI thread.
 class Inspection final : public QObject {
     Q_OBJECT
 
@@ -34,6 +37,7 @@ public:
         EngineHost *host = nullptr;
         const Config *config = nullptr;
         std::function<QSharedPointer<const DisplaySnapshot>()> newest;
+        std::function<QSharedPointer<SensorInfo>()> sensor; // of the input; null: none
         // What the window knows of the input: whether it is open or paused, and the source that is checked.
         std::function<AbsenceFacts()> inputFacts;
     };
@@ -48,11 +52,14 @@ public:
 public Q_SLOTS:
     // Asks again for what the pane shows, while it is in sight.
     void refresh();
-    // Shows the pane with what the selected track, the plot without a track nearest to the place, plane metres, is made
-    // of; and an alert, by its key on the AlertBoard. Until a track is selected.
+    // Shows the pane with what the selected track is made of, or an alert, by its key on the AlertBoard.
     void explainSelectedTrack();
-    void explainPlotAt(const QPointF &planePoint);
     void explainAlertOf(quint64 alert);
+    // Shows or hides the pane. While no track is selected it shows what the pointer is on, and hides only where that is
+    // nothing.
+    void toggle(bool on);
+    // Puts in front of the menu of a place, plane metres, what there is to explain.
+    void addPlaceActions(QMenu *menu, const QPointF &planePoint);
     void showAbsenceWindow();
 
 Q_SIGNALS:
@@ -67,7 +74,14 @@ private:
     void takeReports(const AskedReports &reports);
     void showTrack(const AskedReports &reports, const DisplaySnapshot &snapshot);
     void showPlot(const AskedReports &reports, const DisplaySnapshot &snapshot);
+    void showWeather(const AskedReports &reports, const DisplaySnapshot &snapshot);
+    void showEcho(const AskedReports &reports, const DisplaySnapshot &snapshot);
     void showAlert(const AskedReports &reports, const DisplaySnapshot &snapshot);
+    void explainPlot(const Plot &plot);
+    void explainWeather(const ShownWeather &weather);
+    void explainEcho(const PlaceContents::Echo &echo);
+    std::optional<QPointF> pointedAt() const;
+    bool explainPointedAt();
     void show(const ReportQuestion &question);
     void noteSelection();
     void lookFor(const QString &text);
@@ -80,7 +94,9 @@ private:
     QDockWidget *m_dock = nullptr; // these two are the window's
     InspectionPane *m_pane = nullptr;
     QPointer<AbsenceWindow> m_absence;
-    ReportQuestion::About m_subject = ReportQuestion::About::Track; // of the pane
+    ReportQuestion m_question; // about the subject of the pane
+    ShownWeather m_weather; // these two as they were drawn when they were asked about
+    ShownEcho m_echo;
     quint64 m_alert = 0; // that is explained
     quint64 m_selectedTrack = 0; // as last seen
     QTimer m_timer;

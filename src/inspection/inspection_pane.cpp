@@ -172,12 +172,13 @@ void InspectionPane::showHint(const QString &text)
 }
 
 void InspectionPane::explain(const QString &name, const QList<ExplainedValue> &values, const QList<KeptReport> &reports,
-    const QList<ReportView> &views, const QDateTime &now)
+    const QList<ReportView> &views, const QDateTime &now, const QStringList &kinds)
 {
     keepChoice(reports);
     m_explained = values;
     m_kept = reports;
     m_views = views;
+    m_kinds = kinds;
     m_title->setText(name);
     QList<QStringList> rows;
     for (const ExplainedValue &value : values) {
@@ -236,14 +237,21 @@ void InspectionPane::showReport(int report)
     m_shown = report;
     const ReportView view = m_views.value(report);
     m_octets->setOctets(view.octets);
-    const QString which = report == 0 ? tr("Newest report") : tr("Report %1 before the newest").arg(report);
-    m_reportTitle->setText(
-        report < 0 ? tr("No report is kept") : tr("%1: %2, %3 octets").arg(which, view.name).arg(view.octets.size()));
+    m_reportTitle->setText(report < 0 ? tr("No report is kept")
+                                      : tr("%1: %2, %3 octets").arg(kindOf(report), view.name).arg(view.octets.size()));
     QList<QStringList> rows;
     for (const ReportField &field : view.fields) {
         rows.append({field.name, field.text(), field.title});
     }
     m_fields->setRows(rows);
+}
+
+QString InspectionPane::kindOf(int report) const
+{
+    if (report < m_kinds.size()) {
+        return m_kinds[report];
+    }
+    return report == 0 ? tr("Newest report") : tr("Report %1 before the newest").arg(report);
 }
 
 void InspectionPane::clearMarks()

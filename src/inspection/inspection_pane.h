@@ -20,10 +20,10 @@ class InspectionPane final : public QWidget {
 public:
     explicit InspectionPane(QWidget *parent = nullptr);
 
-    // What is explained: its name, its values and its reports, newest first. The report that was chosen stays chosen
-    // while it is there.
+    // What is explained: its name, its values and its reports. These are its last ones, newest first, unless it is said
+    // what each of them is. The report that was chosen stays chosen while it is there.
     void explain(const QString &name, const QList<ExplainedValue> &values, const QList<KeptReport> &reports,
-        const QList<ReportView> &views, const QDateTime &now);
+        const QList<ReportView> &views, const QDateTime &now, const QStringList &kinds = {});
     // A sentence in the place of it all.
     void showHint(const QString &text);
 
@@ -47,6 +47,7 @@ private:
     void lightValuesAt(int bit);
     void clearMarks();
     void showReport(int report);
+    QString kindOf(int report) const;
     void copy(const QString &text) const;
     QString allAsJson() const;
 
@@ -62,6 +63,7 @@ private:
     QList<ExplainedValue> m_explained;
     QList<KeptReport> m_kept;
     QList<ReportView> m_views;
+    QStringList m_kinds; // of the reports; empty: the last ones
     std::optional<int> m_chosen; // by the operator; else the newest
     int m_shown = -1; // whose octets and fields are seen
     Place m_pointedPlace = Place::Nowhere; // where the pointer is

@@ -2,6 +2,7 @@
 
 #include "app/config.h"
 #include "geo/projector.h"
+#include "geo/wgs84.h"
 #include "radar_painting/radial_store.h"
 #include "radar_painting/site_offsets.h"
 #include "radar_painting/video_raster.h"
@@ -245,4 +246,42 @@ void GeoVideoMap::paintRadar(QPainter &painter, const GeoView &view, Radar &rada
     const QRectF target(
         (source.topLeft() - seen.topLeft()) / view.devicePixelRatio(), source.size() / view.devicePixelRatio());
     painter.drawImage(target, radar.raster->image(), source);
+}
+
+std::optional<GeoVideoMap::Echo> GeoVideoMap::echoAt(const QPointF &place, double reach) const
+{
+    std::optional<Echo> strongest;
+    for (const auto &[source, radar] : m_radars) {
+        const auto echo = echoOf(source, *radar, place, reach);
+        if (echo && (!strongest || echo->amplitude > strongest->amplitude)) {
+            strongest = echo;
+        }
+    }
+    return visible() ? strongest : std::nullopt;
+}
+
+// A pixel shows the strongest of the cells that it touches, and so does this.
+std::optional<GeoVideoMap::Echo> GeoVideoMap::echoOf(
+    const Source &source, const Radar &radar, const QPointF &place, double reach) const
+{
+    const GeoCoordinate target = m_projector->toWgs84(place);
+    const GeoCoordinate beside = m_projector->toWgs84(place + QPointF(reach, 0.0));
+    if (!target.isValid() || !beside.isValid()) {
+        return std::nullopt;
+    }
+    const double range = radar.place.location.distanceTo(target);
+    const double groundReach = target.distanceTo(beside);
+    RadialStore::Sector sector;
+    sector.azimuth = radar.place.location.azimuthTo(target);
+    sector.halfAngle = range > groundReach ? wgs84::degrees(std::asin(groundReach / range)) : 180.0;
+    sector.firstCell = static_cast<quint64>(std::max(range - groundReach, 0.0) / radar.cellSize);
+    sector.endCell = static_cast<quint64>((range + groundReach) / radar.cellSize) + 1;
+    const auto strongest = radar.store.strongest(sector, m_clock() - m_validity);
+    if (strongest.amplitude <= m_colors.threshold) {
+        return std::nullopt;
+    }
+    const int bins = radar.store.binCount();
+    return Echo{source.first, source.second, (strongest.bin + 0.5) * 360.0 / bins,
+        (static_cast<double>(strongest.cell) + 0.5) * radar.cellSize, strongest.cell, radar.cellSize,
+        strongest.amplitude, m_colors.threshold, bins, m_validity};
 }

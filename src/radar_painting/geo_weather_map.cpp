@@ -7,6 +7,7 @@
 #include "view/steady_clock.h"
 
 #include <QPainter>
+#include <QPolygonF>
 
 #include <algorithm>
 
@@ -136,8 +137,30 @@ void GeoWeatherMap::makeShapes()
     if (!m_picture) {
         return;
     }
-    const double width = m_autoVectorWidth ? touchingWidth(m_picture->vectors, m_vectorWidth) : m_vectorWidth;
-    m_shapes = weatherShapes(*m_projector, m_site, m_picture->vectors, width);
+    m_shapes = weatherShapes(*m_projector, m_site, m_picture->vectors, drawnWidth());
+}
+
+double GeoWeatherMap::drawnWidth() const
+{
+    return m_autoVectorWidth ? touchingWidth(m_picture->vectors, m_vectorWidth) : m_vectorWidth;
+}
+
+std::optional<GeoWeatherMap::Hit> GeoWeatherMap::vectorAt(const QPointF &place) const
+{
+    if (!visible() || !m_picture || m_clock() - m_pictureTime > m_validity) {
+        return std::nullopt;
+    }
+    const auto holds = [this, &place](const WeatherShape &shape) {
+        const QPolygonF outline(QList<QPointF>(shape.corners.begin(), shape.corners.end()));
+        return isLevel(shape.level) && levelColor(shape.level).isValid()
+            && outline.containsPoint(place, Qt::OddEvenFill);
+    };
+    const auto found = std::find_if(m_shapes.rbegin(), m_shapes.rend(), holds);
+    if (found == m_shapes.rend()) {
+        return std::nullopt;
+    }
+    return Hit{m_picture->vectors[found->vector], m_picture->timeOfDay, drawnWidth(), m_autoVectorWidth,
+        !levelVisible(found->level)};
 }
 
 void GeoWeatherMap::dropExpired()

@@ -42,6 +42,17 @@ public:
     // Vectors of the level in the picture that is shown; 0 when it has expired.
     int vectorCount(int level) const;
 
+    // A vector as it is drawn.
+    struct Hit {
+        WeatherProcessor::PolarVector vector;
+        double timeOfDay = -1.0; // of its picture, as there
+        double width = 0.0; // degrees
+        bool widthMeasured = false; // so that neighbours touch; else as configured
+        bool hatched = false; // its level is switched off
+    };
+    // The uppermost that is drawn over a place, plane metres; nothing where none is or the layer is hidden.
+    std::optional<Hit> vectorAt(const QPointF &place) const;
+
     // Pictures that were not taken, since the start: without vectors; and while the sensor was no radar with a place.
     quint64 emptyPictures() const { return m_emptyPictures; }
     quint64 placelessPictures() const { return m_placelessPictures; }
@@ -66,6 +77,7 @@ Q_SIGNALS:
 
 private:
     void setVectorWidth(double width, bool automatic);
+    double drawnWidth() const;
     void makeShapes();
     void dropExpired();
     void render();

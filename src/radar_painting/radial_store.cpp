@@ -150,6 +150,29 @@ void RadialStore::dropOlder(qint64 oldest)
     }
 }
 
+RadialStore::Cell RadialStore::strongest(const Sector &sector, qint64 oldest) const
+{
+    const double perDegree = binCount() / 360.0;
+    const int first = static_cast<int>(std::floor((sector.azimuth - sector.halfAngle) * perDegree));
+    const int last = static_cast<int>(std::floor((sector.azimuth + sector.halfAngle) * perDegree));
+    Cell found;
+    for (int i = 0; i <= std::min(last - first, binCount() - 1); ++i) {
+        const int bin = (first + i + binCount()) % binCount();
+        const Row *there = row(bin);
+        if (!there || there->time <= oldest) {
+            continue;
+        }
+        const quint64 end = std::min(sector.endCell, there->endCell());
+        for (quint64 cell = std::max<quint64>(sector.firstCell, there->startCell); cell < end; ++cell) {
+            const int amplitude = there->amplitudes[static_cast<qsizetype>(cell - there->startCell)];
+            if (amplitude > found.amplitude) {
+                found = {bin, cell, amplitude};
+            }
+        }
+    }
+    return found;
+}
+
 void RadialStore::forgetChanges()
 {
     m_changed.assign(m_changed.size(), false);

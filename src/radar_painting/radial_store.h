@@ -37,6 +37,21 @@ public:
     // One behind the last cell ever stored.
     quint64 endCell() const { return m_endCell; }
 
+    // A piece of the turn, in degrees to either side of an azimuth, and of the cells.
+    struct Sector {
+        double azimuth = 0.0;
+        double halfAngle = 0.0;
+        quint64 firstCell = 0;
+        quint64 endCell = 0;
+    };
+    struct Cell {
+        int bin = 0;
+        quint64 cell = 0;
+        int amplitude = 0; // 0: there is none
+    };
+    // In what came after that time.
+    Cell strongest(const Sector &sector, qint64 oldest) const;
+
     // Since the last forgetChanges().
     bool changed(int bin) const { return m_changed[std::size_t(bin)]; }
     void forgetChanges();

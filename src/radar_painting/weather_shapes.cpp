@@ -18,7 +18,8 @@ class ShapeMaker {
 public:
     ShapeMaker(Projector &projector, const GeoCoordinate &site) : m_projector(projector), m_site(site) { }
 
-    void addPieces(std::vector<WeatherShape> &shapes, const WeatherProcessor::PolarVector &vector, double width) const
+    void addPieces(std::vector<WeatherShape> &shapes, const WeatherProcessor::PolarVector &vector, qsizetype number,
+        double width) const
     {
         const int across = int(std::ceil(width / WidestPiece));
         const int along = int(std::ceil((vector.endRange - vector.startRange) / LongestPiece));
@@ -29,7 +30,7 @@ public:
             const double to = left + width * (i + 1) / across;
             for (int k = 0; k < along; ++k) {
                 const double near = vector.startRange + length * k;
-                shapes.push_back({vector.intensity,
+                shapes.push_back({vector.intensity, number,
                     {plane(near, from), plane(near + length, from), plane(near + length, to), plane(near, to)}});
             }
         }
@@ -66,9 +67,9 @@ std::vector<WeatherShape> weatherShapes(
     }
     shapes.reserve(std::size_t(vectors.size()));
     const ShapeMaker maker(projector, site);
-    for (const WeatherProcessor::PolarVector &vector : vectors) {
-        if (drawable(vector)) {
-            maker.addPieces(shapes, vector, std::min(width, WidestVector));
+    for (qsizetype i = 0; i < vectors.size(); ++i) {
+        if (drawable(vectors[i])) {
+            maker.addPieces(shapes, vectors[i], i, std::min(width, WidestVector));
         }
     }
     std::stable_sort(shapes.begin(), shapes.end(),

@@ -13,6 +13,7 @@ class Projector;
 // A piece of a weather vector: between two ranges and two azimuths.
 struct WeatherShape {
     int level = 0;
+    qsizetype vector = 0; // of the picture, that it is a piece of
     std::array<QPointF, 4> corners; // plane metres, one after the other around the piece
 };
 

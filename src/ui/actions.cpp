@@ -134,7 +134,7 @@ constexpr ActionSpec Specs[] = {
     {ActionId::ToggleAlertList, QT_TRANSLATE_NOOP("Actions", "Toggle Alert List"), "", "", "", "alert-list", true,
         MenuId::Track, ToolBarId::None, false},
     {ActionId::ExplainTrack, QT_TRANSLATE_NOOP("Actions", "Explain Track"), "",
-        QT_TRANSLATE_NOOP("Actions", "Where the values of the selected track come from, with its last reports"),
+        QT_TRANSLATE_NOOP("Actions", "Where the values of the selected track, or what the pointer is on, come from"),
         "Ctrl+E", "explain-track", true, MenuId::Track, ToolBarId::None, true},
     {ActionId::WhyNotShown, QT_TRANSLATE_NOOP("Actions", "Why Is It Not Shown?..."), "",
         QT_TRANSLATE_NOOP("Actions", "Where a target is that cannot be seen"), "Ctrl+F", "why-not-shown", false,

@@ -103,14 +103,17 @@ void MainWindow::makeInspection()
 {
     m_inspection = std::make_unique<Inspection>(this,
         Inspection::Sources{m_geoWidget, &m_host, &m_config.live(), [this] { return m_pump->newest(); },
-            [this] { return inputFacts(); }});
+            [this] { return m_session->sensor(); }, [this] { return inputFacts(); }});
     Inspection *inspection = m_inspection.get();
     QAction *explain = (*m_actions)[ActionId::ExplainTrack];
-    connect(explain, &QAction::triggered, inspection->dock(), &QWidget::setVisible);
+    connect(explain, &QAction::triggered, inspection, [inspection, explain](bool on) {
+        inspection->toggle(on);
+        explain->setChecked(inspection->dock()->isVisible());
+    });
     connect(inspection->dock()->toggleViewAction(), &QAction::toggled, explain, &QAction::setChecked);
     connect((*m_actions)[ActionId::WhyNotShown], &QAction::triggered, inspection, &Inspection::showAbsenceWindow);
     connect(m_trackCommands.get(), &TrackCommands::trackToExplain, inspection, &Inspection::explainSelectedTrack);
-    connect(m_trackCommands.get(), &TrackCommands::plotToExplain, inspection, &Inspection::explainPlotAt);
+    connect(m_trackCommands.get(), &TrackCommands::placeMenuMade, inspection, &Inspection::addPlaceActions);
     connect(m_trackCommands.get(), &TrackCommands::alertToExplain, inspection, &Inspection::explainAlertOf);
     connect(inspection, &Inspection::trackChosen, m_trackCommands.get(), &TrackCommands::select);
     connect(inspection, &Inspection::cureChosen, this, [this](Cure cure) {

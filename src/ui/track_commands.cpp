@@ -79,9 +79,8 @@ QMenu *TrackCommands::showPlaceMenu(const QPointF &planePoint, const QPoint &glo
 {
     auto *menu = new QMenu(m_plan);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction *plot = menu->addAction(tr("Explain Plot"), this, [this, planePoint] { Q_EMIT plotToExplain(planePoint); });
-    plot->setEnabled((*m_actions)[ActionId::TogglePlots]->isChecked());
     menu->addAction((*m_actions)[ActionId::WhyNotShown]);
+    Q_EMIT placeMenuMade(menu, planePoint);
     menu->popup(globalPosition);
     return menu;
 }

@@ -37,10 +37,11 @@ public Q_SLOTS:
     void refresh();
 
 Q_SIGNALS:
-    // The operator wants to know what the selected track, the plot there, plane metres, or the alert is made of.
+    // The operator wants to know what the selected track or the alert is made of.
     void trackToExplain();
-    void plotToExplain(const QPointF &planePoint);
     void alertToExplain(quint64 alert);
+    // Before the menu of a place, plane metres, is shown.
+    void placeMenuMade(QMenu *menu, const QPointF &planePoint);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -119,6 +119,7 @@ private Q_SLOTS:
             before = strength;
         }
         QCOMPARE(scene.shownAt(10.0), 0);
+        QVERIFY(!scene.layer.plotAt({}, 1.0));
         QCOMPARE(scene.painted().ink(), 0);
         QCOMPARE(scene.layer.lostPlots(), 0ULL);
     }
@@ -184,6 +185,8 @@ private Q_SLOTS:
         scene.add(place, Track::Psr, 0.0);
         scene.add({1e7, 0.0}, Track::PsrSsr, 0.0); // far outside
         scene.show(0.0);
+        QCOMPARE(scene.layer.plotAt(place + QPointF(30.0, 40.0), 50.1)->place, place);
+        QVERIFY(!scene.layer.plotAt(place + QPointF(30.0, 40.0), 49.9));
         for (const double rotation : {0.0, 37.0}) {
             const PaintedView view = scene.painted(rotation);
             const QPoint pixel = view.view().toScreen(place).toPoint();

@@ -60,6 +60,7 @@ private Q_SLOTS:
     void explainsCoasting();
     void explainsEmergency();
     void heedsIgnoredPositions();
+    void tellsHowSlantRangeIsCorrected();
     void tellsSensorsOfOneCategoryApart();
     void explainsWithoutReports();
 };
@@ -282,6 +283,27 @@ void TestTrackExplanation::heedsIgnoredPositions()
     const auto value = valueOf(explainTrack({}, views, Now, settings), "Position");
     QCOMPARE(value.item, QString("I020/042/X, Y"));
     QVERIFY(value.rule.contains("ignored"));
+}
+
+void TestTrackExplanation::tellsHowSlantRangeIsCorrected()
+{
+    const auto ruleOf = [](bool corrected, bool reportHasLevel, bool trackHasLevel) {
+        const auto views = viewsOf({keptRecord(48, ago(1), [&](BlockEncoder &e) {
+            e.set("040/RHO", 10);
+            if (reportHasLevel) {
+                e.set("090/FL", 350);
+            }
+        })});
+        TrackSnapshot track;
+        track.levelValid = trackHasLevel;
+        ExplanationSettings settings;
+        settings.correctSlantRange = corrected;
+        return valueOf(explainTrack(track, views, Now, settings), "Position").rule;
+    };
+    QVERIFY(ruleOf(false, true, true).endsWith("taken as the distance over ground"));
+    QVERIFY(ruleOf(true, true, true).contains("by the level of this report"));
+    QVERIFY(ruleOf(true, false, true).contains("by the track's level"));
+    QVERIFY(ruleOf(true, false, false).contains("no level is known"));
 }
 
 void TestTrackExplanation::tellsSensorsOfOneCategoryApart()

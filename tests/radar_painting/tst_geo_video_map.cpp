@@ -168,6 +168,10 @@ void TestGeoVideoMap::echoesLieWhereTheyAre()
         // The echo has the extent of its cell, and a pixel more on each side.
         const double size = std::max(CellSize, metres(cell) * 0.13 * 0.01745) / scale;
         QVERIFY2(view.ink() <= (size + 3.0) * (size + 3.0), qPrintable(QString::number(azimuth)));
+        const auto echo = m_layer->echoAt(place, 1.0);
+        QVERIFY(echo && echo->cell == quint64(cell) && echo->sac == 1 && echo->sic == 2);
+        QVERIFY(std::abs(std::remainder(echo->azimuth - azimuth, 360.0)) < 0.1);
+        QVERIFY(!m_layer->echoAt(plane(Site.atDistanceAndAzimuth(metres(cell) + 5.0 * CellSize, azimuth)), 1.0));
     }
 }
 
@@ -262,6 +266,7 @@ void TestGeoVideoMap::fadesUntilItsValidityEnds()
     QCOMPARE(brightness(190.0), 255);
     m_now += 10000;
     QCOMPARE(brightness(190.0), 0);
+    QVERIFY(!m_layer->echoAt(plane(Site.atDistanceAndAzimuth(20000.0, 190.0)), 1.0));
     m_layer->addRadial(filled(80.0, 100.0));
     QCOMPARE(brightness(90.0), 255);
 }

@@ -117,6 +117,8 @@ void TestGeoWeatherMap::vectorsCoverTheirSectors()
             for (double part : {-0.7, -0.3, 0.0, 0.3, 0.7}) {
                 const bool inside = miles > 60.0 && miles < 120.0 && std::abs(part) < 0.5;
                 QCOMPARE(view.at(pixel(view, miles, azimuth + part * width)) == levelColor(3), inside);
+                const auto place = plane(Site.atDistanceAndAzimuth(miles * 1852.0, azimuth + part * width));
+                QCOMPARE(m_layer->vectorAt(place).has_value(), inside);
             }
         }
     }
@@ -179,6 +181,8 @@ void TestGeoWeatherMap::strongerLevelsLieOnTop()
         return QColor(*std::max_element(
             colors.keyBegin(), colors.keyEnd(), [&](QRgb one, QRgb other) { return colors[one] < colors[other]; }));
     };
+    const QPointF place = plane(Site.atDistanceAndAzimuth(60.0 * 1852.0, 90.0));
+    QCOMPARE(m_layer->vectorAt(place)->vector.intensity, 5);
     for (int level : {5, 2, 0}) {
         QCOMPARE(shown(), levelColor(level));
         m_layer->setLevelVisible(level, false);

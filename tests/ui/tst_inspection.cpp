@@ -1,9 +1,15 @@
+#include "asterix/encoder.h"
+#include "display/geo_map_display.h"
 #include "display/geo_track_display.h"
+#include "display/track_label_lines.h"
 #include "engine/data_engine.h"
+#include "engine/engine_host.h"
 #include "inspection/absence_window.h"
 #include "inspection/inspection_pane.h"
 #include "inspection/report_table.h"
 #include "plan_view/geo_widget.h"
+#include "radar_painting/geo_video_map.h"
+#include "radar_painting/geo_weather_map.h"
 #include "test_program.h"
 #include "ui/actions.h"
 #include "window_fixture.h"
@@ -11,7 +17,10 @@
 #include <QAction>
 #include <QDockWidget>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
+
+#include <array>
 
 // From datagrams to what the operator is told of them, in a whole window.
 class TestInspection : public QObject {
@@ -23,12 +32,20 @@ private Q_SLOTS:
 
     void explainsSelectedTrack();
     void passesOverAnswersToOlderQuestions();
+    void explainsWeatherAtItsPlace();
+    void explainsRadarVideoAtItsPlace();
+    void explainsPlotOfTrack();
     void saysWhereTheMissedAre();
     void curesByTheButton();
 
 private:
     QAction *action(ActionId id) const { return (*m_window->findChild<Actions *>())[id]; }
     void send(const char *hex);
+    void send(int category, const std::function<void(korvane::asterix::BlockEncoder &)> &fill);
+    // Of the sensor's place, by miles east.
+    QPointF placeEast(double miles) const;
+    bool chooseAt(const QPointF &place, const QString &text) const;
+    void sendRadial();
     QString value(const QString &name, int column) const;
     QString sentenceFor(const QString &text) const;
 
@@ -52,6 +69,44 @@ void TestInspection::init()
 void TestInspection::send(const char *hex)
 {
     QUdpSocket().writeDatagram(QByteArray::fromHex(hex), QHostAddress::LocalHost, m_fixture.port);
+}
+
+void TestInspection::send(int category, const std::function<void(korvane::asterix::BlockEncoder &)> &fill)
+{
+    korvane::asterix::BlockEncoder encoder(category);
+    encoder.beginBlock();
+    encoder.beginRecord();
+    encoder.set("010/SAC", 1);
+    encoder.set("010/SIC", 2);
+    fill(encoder);
+    encoder.endRecord();
+    const auto block = encoder.block();
+    QUdpSocket().writeDatagram(reinterpret_cast<const char *>(block.data()), static_cast<qint64>(block.size()),
+        QHostAddress::LocalHost, m_fixture.port);
+}
+
+QPointF TestInspection::placeEast(double miles) const
+{
+    const GeoCoordinate place = GeoCoordinate(48.0, 16.0).atDistanceAndAzimuth(miles * 1852.0, 90.0);
+    return m_window->engineHost().shared().projector.toCartesian(place.latitude(), place.longitude());
+}
+
+// False where the menu of the place has no such entry, or it is switched off.
+bool TestInspection::chooseAt(const QPointF &place, const QString &text) const
+{
+    GeoWidget *plan = m_window->geoWidget();
+    Q_EMIT plan->placeMenuRequested(place, plan->mapToGlobal(QPoint(10, 10)));
+    bool chosen = false;
+    for (QMenu *menu : plan->findChildren<QMenu *>()) {
+        for (QAction *entry : menu->actions()) {
+            if (!chosen && entry->text() == text && entry->isEnabled()) {
+                entry->trigger();
+                chosen = true;
+            }
+        }
+        delete menu;
+    }
+    return chosen;
 }
 
 QString TestInspection::value(const QString &name, int column) const
@@ -109,6 +164,77 @@ void TestInspection::passesOverAnswersToOlderQuestions()
     Q_EMIT m_window->engineHost().engine()->reportsAnswered({{1000000, ReportQuestion::About::Track, 0, id}, true, {}});
     QTest::qWait(20);
     QCOMPARE(reports->rowCount(), 1);
+}
+
+void TestInspection::explainsWeatherAtItsPlace()
+{
+    action(ActionId::ToggleWeatherMap)->trigger();
+    QVERIFY(!chooseAt(placeEast(20.0), "Explain Weather"));
+    send(8, [](auto &e) {
+        e.set("000", 254);
+        e.set("090", 43200.0);
+        e.set("100/F", 7);
+    });
+    send(8, [](auto &e) {
+        e.set("000", 1);
+        e.set("020/I", 4);
+        e.addRepetition("034");
+        e.set("034/STR", 10);
+        e.set("034/ENDR", 30);
+        e.set("034/AZ", 90.0);
+    });
+    send(8, [](auto &e) { e.set("000", 255); });
+    QTRY_VERIFY(m_window->geoWidget()->mapDisplay()->weatherMap()->vectorAt(placeEast(20.0)));
+    QVERIFY(chooseAt(placeEast(20.0), "Explain Weather"));
+    QTRY_COMPARE(value("To range", 1), QString("30.00 NM"));
+    QCOMPARE(value("To range", 2), QString("I008/034[1]/ENDR"));
+    QVERIFY2(value("To range", 4).contains("F = 7"), qPrintable(value("To range", 4)));
+    QCOMPARE(m_window->findChild<ReportTable *>("keptReports")->rowCount(), 3);
+}
+
+void TestInspection::sendRadial()
+{
+    send(240, [](auto &e) {
+        e.set("000", 2);
+        e.set("041/STARTAZ", 89.0);
+        e.set("041/ENDAZ", 91.0);
+        e.set("041/STARTRG", 100);
+        e.set("041/CELLDUR", 1e9); // 150 m
+        e.set("048/RES", 4);
+        std::array<unsigned char, 64> cells;
+        cells.fill(200);
+        e.set("049/NBCELLS", static_cast<double>(cells.size()));
+        e.setExplicit("051", cells);
+    });
+}
+
+// The record comes with the next turn of the antenna; until then there is what is drawn.
+void TestInspection::explainsRadarVideoAtItsPlace()
+{
+    action(ActionId::ToggleVideoMap)->trigger();
+    const double miles = 130.5 * 149.9 / 1852.0; // the middle of a cell
+    sendRadial();
+    QTRY_VERIFY(m_window->geoWidget()->mapDisplay()->videoMap()->echoAt(placeEast(miles), 100.0));
+    QVERIFY(chooseAt(placeEast(miles), "Explain Radar Video"));
+    QTRY_COMPARE(value("Amplitude", 1), QString("200 of 255"));
+    QCOMPARE(value("Amplitude", 2), QString());
+    QVERIFY2(value("Amplitude", 4).contains("waited for"), qPrintable(value("Amplitude", 4)));
+    sendRadial();
+    QTRY_VERIFY(value("Amplitude", 2).startsWith("I240/051, octet "));
+    QCOMPARE(value("Azimuth", 2), QString("I240/041/STARTAZ, ENDAZ"));
+}
+
+void TestInspection::explainsPlotOfTrack()
+{
+    if (!action(ActionId::TogglePlots)->isChecked()) {
+        action(ActionId::TogglePlots)->trigger();
+    }
+    const TrackSnapshot track = m_window->newestSnapshot()->tracks.first();
+    QTRY_VERIFY(chooseAt(track.carCoordinate, "Explain Plot"));
+    QTRY_COMPARE(value("Track", 1), trackName(track));
+    QCOMPARE(value("Position", 2), QString("I048/040/RHO, THETA"));
+    m_tracks->setSelected(track.incarnationId);
+    QTRY_COMPARE(value("Track", 1), QString()); // the track itself
 }
 
 void TestInspection::saysWhereTheMissedAre()
