@@ -28,6 +28,11 @@ HealthDock::HealthDock(const InputHealth *health, QMainWindow *window, QDockWidg
     connect(this, &QDockWidget::visibilityChanged, this, &HealthDock::refresh);
 }
 
+void HealthDock::setDiagnosis(const QStringList &sentences)
+{
+    m_pane->setDiagnosis(sentences);
+}
+
 void HealthDock::bringUp()
 {
     show();

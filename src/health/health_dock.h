@@ -18,6 +18,10 @@ public:
     // Becomes the window's, a tab beside that dock; the health must outlive it.
     HealthDock(const InputHealth *health, QMainWindow *window, QDockWidget *beside);
 
+public Q_SLOTS:
+    // Of the stream as a whole, as HealthPane has it.
+    void setDiagnosis(const QStringList &sentences);
+
 Q_SIGNALS:
     // The operator wants what the judgement of this source proposes.
     void cureRequested(const SourceHealth &source);

@@ -9,19 +9,30 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+namespace {
+constexpr int Margin = 4; // pixels
+constexpr int MostSentences = 3; // the others are in the tooltip: the table needs the room
+} // namespace
+
 HealthPane::HealthPane(const InputHealth *health, QWidget *parent)
     : QWidget(parent), m_health(health), m_model(new SourceTableModel(this)), m_remarks(new QLabel(this)),
-      m_table(new QTableView(this))
+      m_diagnosis(new QLabel(this)), m_table(new QTableView(this))
 {
     makeTable();
     m_remarks->setTextFormat(Qt::PlainText);
     m_remarks->setWordWrap(true);
-    m_remarks->setMargin(4);
+    m_remarks->setMargin(Margin);
+    m_diagnosis->setObjectName("diagnosis");
+    m_diagnosis->setTextFormat(Qt::PlainText);
+    m_diagnosis->setWordWrap(true);
+    m_diagnosis->setMargin(Margin);
+    m_diagnosis->hide();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(m_remarks);
     layout->addWidget(m_table);
+    layout->addWidget(m_diagnosis);
     refresh();
 }
 
@@ -70,6 +81,13 @@ void HealthPane::refresh()
             m_window->setSource(m_model->source(shown));
         }
     }
+}
+
+void HealthPane::setDiagnosis(const QStringList &sentences)
+{
+    m_diagnosis->setText(sentences.mid(0, MostSentences).join('\n'));
+    m_diagnosis->setToolTip(sentences.join('\n'));
+    m_diagnosis->setVisible(!sentences.isEmpty());
 }
 
 void HealthPane::open(int row)

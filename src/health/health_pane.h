@@ -20,6 +20,8 @@ public:
 
     // Shows the sources as the health has them now.
     void refresh();
+    // What was found out about the stream as a whole, a sentence each; none: nothing is remarkable.
+    void setDiagnosis(const QStringList &sentences);
     // A source's own window is open.
     bool isWatched() const { return !m_window.isNull(); }
 
@@ -34,6 +36,7 @@ private:
     const InputHealth *m_health;
     SourceTableModel *m_model;
     QLabel *m_remarks;
+    QLabel *m_diagnosis;
     QTableView *m_table;
     QPointer<SourceWindow> m_window;
 };

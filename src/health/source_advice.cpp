@@ -1,6 +1,8 @@
 #include "health/source_advice.h"
 
+#include "health/record_text.h"
 #include "health/source_judgement.h"
+#include "recognition/report_facts.h"
 #include "sensors/sensor_info.h"
 #include "sensors/sensor_type_text.h"
 #include "tracking/fault_text.h"
@@ -44,6 +46,21 @@ private:
     SourceJudgement &m_judgement;
 };
 
+// Surface movement radars and multilateration send the same category; what radars measure is polar.
+SensorType surfaceKindOf(const SourceStatistics &source)
+{
+    SensorType kind = SmrSensor;
+    for (const ReportExample &example : source.examples) {
+        RecordText::read(source, example, [&](const _ast_datarecord_t &record) {
+            const ReportFacts facts = ReportFacts::of(source.category, record);
+            if (facts.isTarget && !facts.polar) {
+                kind = MlatSensor;
+            }
+        });
+    }
+    return kind;
+}
+
 // Which kind of sensor sends this.
 SensorType kindOf(const SourceStatistics &source)
 {
@@ -60,7 +77,7 @@ SensorType kindOf(const SourceStatistics &source)
     case 48:
         return RadarSensor;
     case 10:
-        return SmrSensor;
+        return surfaceKindOf(source);
     case 20:
         return MlatSensor;
     case 21:

@@ -14,8 +14,9 @@ void bringToFront(QDialog *dialog)
 } // namespace
 
 StreamWindows::StreamWindows(QWidget *window, EngineHost *host, DiagnosisWindow::InputSettings settings)
-    : m_window(window), m_host(host), m_settings(std::move(settings))
+    : m_window(window), m_host(host), m_settings(std::move(settings)), m_standing(host, m_settings)
 {
+    connect(&m_standing, &StandingDiagnosis::found, this, &StreamWindows::diagnosed);
 }
 
 // Before the host goes, which may be earlier than their parent.
@@ -44,6 +45,7 @@ void StreamWindows::showDiagnosis()
 
 void StreamWindows::beginInput()
 {
+    m_standing.beginInput();
     if (m_rawView) {
         m_rawView->clear();
     }

@@ -1,13 +1,15 @@
 #pragma once
 
 #include "raw_view/diagnosis_window.h"
+#include "raw_view/standing_diagnosis.h"
 
 #include <QObject>
 #include <QPointer>
 
 class RawViewWindow;
 
-// The windows on the stream as it comes, made when they are first opened. GUI thread.
+// The windows on the stream as it comes, made when they are first opened, and what is to be said of it elsewhere. GUI
+// thread.
 class StreamWindows final : public QObject {
     Q_OBJECT
 
@@ -20,11 +22,18 @@ public:
     void showDiagnosis();
     // Another input begins.
     void beginInput();
+    // Somebody wants to know what is wrong with the input.
+    void setWatched(bool watched) { m_standing.setWatched(watched); }
+
+Q_SIGNALS:
+    // A sentence each.
+    void diagnosed(const QStringList &sentences);
 
 private:
     QWidget *m_window;
     EngineHost *m_host;
     DiagnosisWindow::InputSettings m_settings;
+    StandingDiagnosis m_standing;
     QPointer<RawViewWindow> m_rawView;
     QPointer<DiagnosisWindow> m_diagnosis;
 };

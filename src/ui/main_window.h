@@ -18,6 +18,7 @@
 #include <QTimer>
 
 class Actions;
+class Cures;
 class EmptyScope;
 class FirstStart;
 class GeoMapDisplay;
@@ -53,7 +54,6 @@ class TrackCommands;
 class TrackLabelFormatWindow;
 class WeatherIntensityWindow;
 class Workplace;
-struct SourceHealth;
 
 #include <functional>
 #include <memory>
@@ -262,8 +262,6 @@ private:
     void updateInputActions();
     void tellHealthOfInput();
     void showHealth();
-    // What was proposed to the operator, and he wants.
-    void cureSource(const SourceHealth &source);
     // Takes effect at once: an open input is opened anew.
     void changeSensor(const std::function<void(Config &)> &change);
     // Why the scope is empty or old, or shows plots; empty when that needs no words.
@@ -316,6 +314,7 @@ private:
     std::unique_ptr<PlotSwitch> m_plotSwitch;
     std::unique_ptr<EmptyScope> m_emptyScope;
     std::unique_ptr<InputHealth> m_health;
+    Cures *m_cures = nullptr; // a child
     std::unique_ptr<ListPanes> m_lists;
     std::unique_ptr<TrackCommands> m_trackCommands;
     std::unique_ptr<Inspection> m_inspection;

@@ -3,6 +3,7 @@
 #include "app/app_paths.h"
 #include "assessment_windows/sensor_check.h"
 #include "first_start/first_start.h"
+#include "health/cures.h"
 #include "health/health_dock.h"
 #include "health/input_health.h"
 #include "lists/list_panes.h"
@@ -131,7 +132,12 @@ void MainWindow::connectHealth()
     health->setPlotsShown(plots->isChecked());
     const auto *dock = new HealthDock(health, this, m_messagesDock);
     m_actions->menu(MenuId::View)->addAction(dock->toggleViewAction());
-    connect(dock, &HealthDock::cureRequested, this, &MainWindow::cureSource);
+    Actions &actions = *m_actions;
+    m_cures = new Cures({actions[ActionId::TogglePlots], actions[ActionId::ToggleTrackLabel], actions[ActionId::Pause],
+                            actions[ActionId::Start], actions[ActionId::Settings],
+                            [this](const std::function<void(Config &)> &change) { changeSensor(change); }},
+        this);
+    connect(dock, &HealthDock::cureRequested, m_cures, &Cures::cureSource);
 }
 
 void MainWindow::tellHealthOfInput()
@@ -154,29 +160,6 @@ void MainWindow::showHealth()
         m_lists->setWarning(Urgency::Note, {});
     }
     m_readOuts->showNetsUnheard(m_health->netsUnheard());
-}
-
-void MainWindow::cureSource(const SourceHealth &source)
-{
-    const SourceStatistics &statistics = source.statistics;
-    switch (source.judgement.cure) {
-    case SourceJudgement::Cure::ShowPlots:
-        if (QAction *plots = (*m_actions)[ActionId::TogglePlots]; !plots->isChecked()) {
-            plots->trigger();
-        }
-        return;
-    case SourceJudgement::Cure::UseSacSic:
-        changeSensor([sac = statistics.sac, sic = statistics.sic](Config &config) {
-            config.sensorSac = sac;
-            config.sensorSic = sic;
-        });
-        return;
-    case SourceJudgement::Cure::UseSensorKind:
-        changeSensor([kind = source.judgement.cureKind](Config &config) { config.sensorType = kind; });
-        return;
-    case SourceJudgement::Cure::None:
-        return;
-    }
 }
 
 void MainWindow::changeSensor(const std::function<void(Config &)> &change)

@@ -4,6 +4,8 @@
 #include "assessment_windows/sensor_check.h"
 #include "display/geo_map_display.h"
 #include "first_start/first_start.h"
+#include "health/cures.h"
+#include "health/health_dock.h"
 #include "help/about_window.h"
 #include "help/changelog_window.h"
 #include "help/cheat_sheet_window.h"
@@ -95,6 +97,9 @@ void MainWindow::connectStreamWindows()
         this, &m_host, [this] { return m_session->state() == InputSession::State::Open ? &m_config.live() : nullptr; });
     StreamWindows *stream = m_streamWindows.get();
     connect(m_session.get(), &InputSession::openingBegun, stream, &StreamWindows::beginInput);
+    auto *health = findChild<HealthDock *>();
+    connect(health, &QDockWidget::visibilityChanged, stream, &StreamWindows::setWatched);
+    connect(stream, &StreamWindows::diagnosed, health, &HealthDock::setDiagnosis);
     connect((*m_actions)[ActionId::RawView], &QAction::triggered, stream, &StreamWindows::showRawView);
     connect((*m_actions)[ActionId::DiagnoseInput], &QAction::triggered, stream, &StreamWindows::showDiagnosis);
 }
@@ -116,16 +121,7 @@ void MainWindow::makeInspection()
     connect(m_trackCommands.get(), &TrackCommands::placeMenuMade, inspection, &Inspection::addPlaceActions);
     connect(m_trackCommands.get(), &TrackCommands::alertToExplain, inspection, &Inspection::explainAlertOf);
     connect(inspection, &Inspection::trackChosen, m_trackCommands.get(), &TrackCommands::select);
-    connect(inspection, &Inspection::cureChosen, this, [this](Cure cure) {
-        constexpr std::pair<Cure, ActionId> Cures[] = {{Cure::ShowLabels, ActionId::ToggleTrackLabel},
-            {Cure::ShowPlots, ActionId::TogglePlots}, {Cure::StartInput, ActionId::Start},
-            {Cure::ResumeInput, ActionId::Pause}, {Cure::OpenSettings, ActionId::Settings}};
-        for (const auto &[which, action] : Cures) {
-            if (which == cure) {
-                (*m_actions)[action]->trigger();
-            }
-        }
-    });
+    connect(inspection, &Inspection::cureChosen, m_cures, &Cures::cureAbsence);
 }
 
 AbsenceFacts MainWindow::inputFacts() const

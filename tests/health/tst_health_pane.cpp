@@ -19,6 +19,7 @@ class TestHealthPane : public QObject {
 
 private Q_SLOTS:
     void showsSourcesAndOpensThem();
+    void saysWhatIsWrongWithTheStream();
     void examples_data();
     void examples();
 };
@@ -92,29 +93,57 @@ void TestHealthPane::showsSourcesAndOpensThem()
     QCOMPARE(window->findChild<QTableWidget *>()->item(1, 1)->text(), QString("50"));
 }
 
+// The worst at least; all of it in the tooltip.
+void TestHealthPane::saysWhatIsWrongWithTheStream()
+{
+    GeoLastPlaceMap layer;
+    InputHealth health(&layer);
+    HealthPane pane(&health);
+    pane.show();
+    const auto *label = pane.findChild<QLabel *>("diagnosis");
+    QVERIFY(!label->isVisible());
+    pane.setDiagnosis({"One.", "Two.", "Three.", "Four."});
+    QVERIFY(label->isVisible());
+    QCOMPARE(label->text(), QString("One.\nTwo.\nThree."));
+    QVERIFY(label->toolTip().endsWith("Four."));
+    pane.setDiagnosis({});
+    QVERIFY(!label->isVisible());
+}
+
 void TestHealthPane::examples_data()
 {
+    QTest::addColumn<TakenReport::Form>("form");
     QTest::addColumn<int>("category");
     QTest::addColumn<QByteArray>("edition");
     QTest::addColumn<ReportExample>("example");
     QTest::addColumn<QString>("text");
-    QTest::newRow("whole") << 48 << QByteArray("1.32") << example(PlotRecord) << "\"RHO\": 30";
-    QTest::newRow("cut off") << 48 << QByteArray("1.32") << example(PlotRecord, 300) << "first 11 of its 300 octets";
-    QTest::newRow("no table that reads") << 99 << QByteArray() << example("80 01") << "no table";
-    QTest::newRow("does not fit its edition") << 48 << QByteArray("1.32") << example("ff ff") << "no table that reads";
+    using Form = TakenReport::Form;
+    QTest::newRow("whole") << Form::Asterix << 48 << QByteArray("1.32") << example(PlotRecord) << "\"RHO\": 30";
+    QTest::newRow("cut off") << Form::Asterix << 48 << QByteArray("1.32") << example(PlotRecord, 300)
+                             << "first 11 of its 300 octets";
+    QTest::newRow("no table that reads") << Form::Asterix << 99 << QByteArray() << example("80 01") << "no table";
+    QTest::newRow("does not fit its edition")
+        << Form::Asterix << 48 << QByteArray("1.32") << example("ff ff") << "no table that reads";
     ReportExample malformed = example("f0 19");
     malformed.fault = "item overruns the record";
     malformed.faultOffset = 1;
-    QTest::newRow("malformed") << 48 << QByteArray("1.32") << malformed << "item overruns the record, at octet 1";
+    QTest::newRow("squitter") << Form::ModeS << 0 << QByteArray() << example("8d4840d6202cc371c32ce0576098")
+                              << "KLM1023";
+    QTest::newRow("radar plot") << Form::AleniaSirM << 0 << QByteArray() << example("0042 0500 4000 0e40 0000 0000")
+                                << "10 km";
+    QTest::newRow("malformed") << Form::Asterix << 48 << QByteArray("1.32") << malformed
+                               << "item overruns the record, at octet 1";
 }
 
 void TestHealthPane::examples()
 {
+    QFETCH(TakenReport::Form, form);
     QFETCH(int, category);
     QFETCH(QByteArray, edition);
     QFETCH(ReportExample, example);
     QFETCH(QString, text);
     SourceStatistics source;
+    source.form = form;
     source.category = static_cast<quint8>(category);
     source.edition = edition;
     const QString decoded = RecordText::decoded(source, example);

@@ -127,6 +127,19 @@ void TestSourceJudgement::sentences_data()
     row("another kind", "The sensor is set to Radar; these are ADS-B reports.",
         {Cure::UseSensorKind, "Set the sensor to ADS-B"},
         [](MadeSource &m) { m.become(ReportOutcome::WrongSensorKind, 100).source.category = 21; });
+    const auto surface = [](MadeSource &m, const QByteArray &record) {
+        m.become(ReportOutcome::WrongSensorKind, 100).source.category = 10;
+        m.source.edition = "1.1";
+        auto &example = m.source.examples[static_cast<std::size_t>(ReportOutcome::WrongSensorKind)];
+        example.octets = QByteArray::fromHex(record);
+        example.size = static_cast<quint32>(example.octets.size());
+    };
+    row("surface movement radar", "The sensor is set to Radar; these are SMR reports.",
+        {Cure::UseSensorKind, "Set the sensor to SMR"},
+        [surface](MadeSource &m) { surface(m, "c4 190c 01 0100 4000"); });
+    row("multilateration on the surface", "The sensor is set to Radar; these are MLAT reports.",
+        {Cure::UseSensorKind, "Set the sensor to MLAT"},
+        [surface](MadeSource &m) { surface(m, "c2 190c 01 0010 0020"); });
     row("no kind sends this", "The sensor is set to Radar, which does not send CAT063.", {},
         [](MadeSource &m) { m.become(ReportOutcome::WrongSensorKind, 100).source.category = 63; });
     row("malformed",

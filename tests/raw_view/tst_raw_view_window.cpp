@@ -3,6 +3,7 @@
 #include "engine/engine_host.h"
 #include "raw_view/diagnosis_window.h"
 #include "raw_view/raw_view_window.h"
+#include "raw_view/standing_diagnosis.h"
 #include "sensors/radar_sensor_info.h"
 #include "test_program.h"
 
@@ -58,6 +59,20 @@ class TestRawViewWindow final : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void theWorstOfTheStreamIsSaidFirst()
+    {
+        using Level = DiagnosisRemark::Level;
+        Diagnosis remarks;
+        for (const auto &[level, sentence] : {std::pair(Level::Fine, "It holds plots."), std::pair(Level::Note, "Odd."),
+                 std::pair(Level::Wrong, "Mixed."), std::pair(Level::Note, "Long.")}) {
+            DiagnosisRemark remark;
+            remark.level = level;
+            remark.sentence = sentence;
+            remarks += remark;
+        }
+        QCOMPARE(StandingDiagnosis::sentencesOf(remarks), QStringList({"Mixed.", "Odd.", "Long."}));
+    }
+
     void listensWhileItIsSeen()
     {
         OpenHost host;
