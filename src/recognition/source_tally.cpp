@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <tuple>
 
 namespace {
@@ -34,6 +35,10 @@ void SourceTally::addRecord(const _ast_datarecord_t &record, int category, std::
     Category &tally = m_categories[category];
     ++tally.counts.records;
     ++tally.editions[korvane::asterix::editionOf(record)];
+    if (const auto callsign = ast_datarecord_get_callsign(record); std::strchr(callsign.text, ' ')) {
+        ++tally.counts.oddIdentifications;
+        tally.counts.oddIdentification = QString::fromLatin1(callsign.text);
+    }
     const ReportFacts facts = ReportFacts::of(category, record);
     if (facts.isTarget) {
         addTarget(tally.counts, facts, timeMs);

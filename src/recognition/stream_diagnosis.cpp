@@ -144,6 +144,23 @@ DiagnosisRemark oddRemark(const SourceFindings &source, const CategoryFindings &
             .arg(number(edition.oddRecords), number(edition.records), subject(source, category), edition.edition));
 }
 
+DiagnosisRemark identificationRemark(const SourceFindings &source, const CategoryFindings &category)
+{
+    return makeRemark(Level::Note, Topic::Edition,
+        Text::tr(
+            "In %1 of %2 records of %3 the aircraft identification cannot be right: its callsigns are not to be relied "
+            "on.")
+            .arg(number(category.oddIdentifications), number(category.records), subject(source, category)),
+        Text::tr("Blanks stand before or between its characters, as in \"%1\".").arg(category.oddIdentification));
+}
+
+// Beyond those that another remark accounts for.
+bool isOdd(const CategoryFindings &category)
+{
+    const EditionFindings &edition = category.editions.first();
+    return (edition.oddRecords - category.oddIdentifications) * OddShare > edition.records;
+}
+
 DiagnosisRemark undecodableRemark(const SourceFindings &source, const CategoryFindings &category)
 {
     const QString who = subject(source, category);
@@ -174,9 +191,11 @@ Diagnosis diagnose(const SourceFindings &source, const CategoryFindings &categor
     }
     if (category.editions.size() > 1 && category.records > 0) {
         remarks += editionRemark(source, category);
-    } else if (!category.editions.isEmpty()
-        && category.editions.first().oddRecords * OddShare > category.editions.first().records) {
+    } else if (!category.editions.isEmpty() && isOdd(category)) {
         remarks += oddRemark(source, category);
+    }
+    if (category.oddIdentifications * OddShare > category.records) {
+        remarks += identificationRemark(source, category);
     }
     for (DiagnosisRemark &remark : remarks) {
         remark.source = source.identified ? source.name() : QString();
@@ -430,7 +449,8 @@ Diagnosis diagnose(const RecordingFindings &recording)
     if (!recording.damage.isEmpty()) {
         remarks.insert(1,
             makeRemark(Level::Wrong, Topic::Damage,
-                Text::tr("The file is damaged, and what follows cannot be played: %1").arg(recording.damage)));
+                Text::tr("The file is damaged, and nothing can be played beyond that place: %1")
+                    .arg(recording.damage)));
     }
     return remarks;
 }

@@ -56,6 +56,9 @@ struct CategoryFindings {
     // Records of which the tracker for this category makes a track: they say who and where.
     qint64 trackable = 0;
     bool multilateration = false; // of category 10, which surface movement radars send as well
+    // Records with blanks before or between the characters of an aircraft identification; the last such.
+    qint64 oddIdentifications = 0;
+    QString oddIdentification;
 
     // The sensor whose tracker reads the category; UnknownSensor for alerts, weather, video and what is not used.
     SensorType sensorType() const;

@@ -37,6 +37,25 @@ QByteArray oldAdsb()
     return QByteArray(reinterpret_cast<const char *>(block.data()), static_cast<qsizetype>(block.size()));
 }
 
+// From 25/11, with the identification "3 KA".
+QByteArray brokenCallsign()
+{
+    constexpr quint64 Blank = 32;
+    quint64 characters = 0;
+    for (const quint64 character : {quint64('3'), Blank, quint64(11), quint64(1), Blank, Blank, Blank, Blank}) {
+        characters = characters << 6 | character;
+    }
+    korvane::asterix::BlockEncoder encoder(48);
+    encoder.beginBlock();
+    encoder.beginRecord();
+    encoder.set("010/SAC", 25);
+    encoder.set("010/SIC", 11);
+    encoder.setRaw("240", characters);
+    encoder.endRecord();
+    const auto block = encoder.block();
+    return QByteArray(reinterpret_cast<const char *>(block.data()), static_cast<qsizetype>(block.size()));
+}
+
 QByteArray beast(int count)
 {
     std::string octets;
@@ -97,6 +116,9 @@ private Q_SLOTS:
             "wrong damage: 1 of 4 blocks of CAT048 from 25/0 cannot be decoded in edition 1.32: damaged on the way, or "
             "of "
             "another edition. The first fault: item runs past the end of the block, at octet 6 of the block.");
+        row("blanks within callsigns", repeated(brokenCallsign(), 3),
+            "note edition: In 3 of 3 records of CAT048 from 25/11 the aircraft identification cannot be right: its "
+            "callsigns are not to be relied on. Blanks stand before or between its characters, as in \"3 KA\".");
         row("edition told by contents", repeated(oldAdsb(), 3),
             "fine edition: CAT021 from 25/11 is of edition 0.26. Of 3 blocks that were looked at: edition 0.26 reads "
             "all, and no other edition reads any; edition 2.7 reads none; ");

@@ -51,9 +51,10 @@ QStringList playing(const RecordingFindings &recording)
 QString summary(const RecordingFindings &recording)
 {
     const StreamFindings &stream = recording.stream;
-    QString text = QStringLiteral("%1, %2 messages, %3 octets")
+    QString text = QStringLiteral("%1, %2 %3, %4 octets")
                        .arg(RecFile::formatName(recording.format))
                        .arg(stream.messages)
+                       .arg(stream.messages == 1 ? "message" : "messages")
                        .arg(stream.octets);
     if (stream.first.isValid()) {
         const QString format = QStringLiteral("yyyy-MM-dd hh:mm:ss");
