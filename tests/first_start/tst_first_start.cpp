@@ -9,6 +9,7 @@
 #include "settings/input_config_page.h"
 #include "test_program.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>

@@ -62,7 +62,7 @@ bool isRecognised(InputProbe &probe, const std::function<void(const QByteArray &
     return probe.result().isRecognised();
 }
 
-std::function<void(const QByteArray &)> sender(QUdpSocket &socket, const QHostAddress &to, quint16 port)
+std::function<void(const QByteArray &)> sendingTo(QUdpSocket &socket, const QHostAddress &to, quint16 port)
 {
     return [&socket, to, port](const QByteArray &message) { socket.writeDatagram(message, to, port); };
 }
@@ -77,7 +77,7 @@ void TestInputProbe::saysWhatArrivesOnAPort()
     probe.listen(unicast(port));
     QVERIFY(ProbeText::sentence(probe.result()).contains(QString::number(port)));
     QUdpSocket socket;
-    QVERIFY(isRecognised(probe, sender(socket, QHostAddress(QHostAddress::LocalHost), port)));
+    QVERIFY(isRecognised(probe, sendingTo(socket, QHostAddress(QHostAddress::LocalHost), port)));
     const QString sentence = ProbeText::sentence(probe.result());
     QVERIFY2(sentence.startsWith("CAT048 from 25/0, ") && sentence.endsWith(" plots a second, no track numbers."),
         qPrintable(sentence));
@@ -124,7 +124,7 @@ void TestInputProbe::joinsAGroupBesideOthers()
     QUdpSocket socket;
     QVERIFY(socket.bind(QHostAddress::AnyIPv4, 0));
     socket.setMulticastInterface(loopback);
-    QVERIFY(isRecognised(probe, sender(socket, group, other.localPort())));
+    QVERIFY(isRecognised(probe, sendingTo(socket, group, other.localPort())));
     QVERIFY2(other.hasPendingDatagrams(), "nothing is taken from whoever listens too");
     QVERIFY(probe.result().endpoint.startsWith("239.77.1.2:"));
 }
@@ -146,7 +146,7 @@ void TestInputProbe::leavesATakenPortAlone()
     QCOMPARE(probe.result().state, ProbeResult::State::Refused);
     QVERIFY(ProbeText::sentence(probe.result()).contains(QString::number(owner.localPort())));
     QUdpSocket socket;
-    sender(socket, QHostAddress(QHostAddress::LocalHost), owner.localPort())("x");
+    sendingTo(socket, QHostAddress(QHostAddress::LocalHost), owner.localPort())("x");
     QVERIFY(owner.waitForReadyRead(WaitMs));
 }
 
@@ -187,7 +187,7 @@ void TestInputProbe::isToldByTheRunningInput()
     probe.watch(&host, config);
     quint64 sent = 0;
     QUdpSocket socket;
-    const auto send = sender(socket, QHostAddress(QHostAddress::LocalHost), config.inputUdpPort1);
+    const auto send = sendingTo(socket, QHostAddress(QHostAddress::LocalHost), config.inputUdpPort1);
     QVERIFY(isRecognised(probe, [&send, &sent](const QByteArray &message) {
         send(message);
         ++sent;
