@@ -43,7 +43,9 @@ WelcomePage::WelcomePage(QWidget *parent) : QWidget(parent), m_theme(new QComboB
         ->setObjectName(QStringLiteral("live"));
     layout->addSpacing(Gap);
     m_theme->setObjectName(QStringLiteral("theme"));
-    m_theme->addItems(ThemeLibrary().names());
+    for (const QString &name : ThemeLibrary().names()) {
+        m_theme->addItem(Theme::shownName(name), name);
+    }
     auto *label = new QLabel(tr("&Theme:"), this);
     label->setBuddy(m_theme);
     auto *look = new QHBoxLayout;
@@ -75,7 +77,7 @@ QPushButton *WelcomePage::addWay(
 
 void WelcomePage::preselectTheme(const QString &name)
 {
-    const int index = m_theme->findText(name);
+    const int index = m_theme->findData(name);
     if (index >= 0) {
         m_theme->setCurrentIndex(index);
     }
@@ -83,5 +85,5 @@ void WelcomePage::preselectTheme(const QString &name)
 
 QString WelcomePage::theme() const
 {
-    return m_theme->currentText();
+    return m_theme->currentData().toString();
 }

@@ -133,7 +133,7 @@ void MainWindow::connectFirstStart()
     m_firstStart = std::make_unique<FirstStart>(
         FirstStart::Window{this, &m_config, m_sensors.get(), &m_host, [this] { return m_questions.stop(); }});
     FirstStart *start = m_firstStart.get();
-    connect((*m_actions)[ActionId::GettingStarted], &QAction::triggered, start, &FirstStart::show);
+    connect((*m_actions)[ActionId::GettingStarted], &QAction::triggered, this, &MainWindow::showGettingStarted);
     connect(start, &FirstStart::logMessage, this, &MainWindow::showLog);
     connect(start, &FirstStart::themeChosen, m_themes, &ThemeMenu::beginOrChoose);
     connect(start, &FirstStart::recordingWanted, this, &MainWindow::openRecordingFile);

@@ -270,7 +270,7 @@ void MainWindow::showStatsWindow()
 
 void MainWindow::showGettingStarted()
 {
-    m_firstStart->show();
+    m_config.lock().whenUnlocked([this] { m_firstStart->show(); });
 }
 
 void MainWindow::showCheatSheet()
