@@ -4,11 +4,11 @@
 #include "app/app_identity.h"
 #include "app/app_paths.h"
 #include "app/theme_library.h"
+#include "demonstration/demo_traffic.h"
 #include "plan_view/geo_widget.h"
 #include "ui/actions.h"
 #include "ui/main_window.h"
 #include "ui/theme_menu.h"
-#include "vyxdisplay/demo_traffic.h"
 
 #include <QAction>
 #include <QApplication>

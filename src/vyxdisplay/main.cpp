@@ -11,6 +11,7 @@
 #include "control/control_server.h"
 #include "demonstration/demo_traffic.h"
 #include "engine/replay_speed.h"
+#include "plan_view/geo_widget.h"
 #include "tile_windows/tile_maps.h"
 #include "ui/input_session.h"
 #include "ui/main_window.h"
