@@ -7,7 +7,8 @@
 
 namespace {
 const auto GeometryKey = QStringLiteral("windowGeometry");
-}
+bool stateFrozen = false;
+} // namespace
 
 QString UiState::filePath()
 {
@@ -16,13 +17,18 @@ QString UiState::filePath()
 
 void UiState::saveValue(const QString &group, const QString &key, const QByteArray &bytes)
 {
-    if (!SettingsOwner::mayWrite()) {
+    if (stateFrozen || !SettingsOwner::mayWrite()) {
         return;
     }
     QSettings settings(filePath(), QSettings::IniFormat);
     settings.beginGroup(group);
     settings.setValue(key, bytes);
     settings.endGroup();
+}
+
+void UiState::setFrozen(bool frozen)
+{
+    stateFrozen = frozen;
 }
 
 QByteArray UiState::value(const QString &group, const QString &key)

@@ -229,6 +229,13 @@ bool InputConfigPage::validate()
     return form()->check(m_comm, tr("Choose where the data comes from."));
 }
 
+QWidget *InputConfigPage::reveal(QWidget *field)
+{
+    QWidget *shown = ConfigPage::reveal(field);
+    const bool ofTheSecond = chosen() == Config::InputComm::Udp && field->objectName().endsWith(u'2');
+    return shown == m_comm && ofTheSecond ? m_enable2 : shown;
+}
+
 bool InputConfigPage::validateUdp()
 {
     const bool firstGood = m_udp1->validate();

@@ -36,6 +36,7 @@ public:
 
     void load(const Config &config) override;
     bool validate() override;
+    QWidget *reveal(QWidget *field) override;
     void setInputRunning(bool running) override;
 
     // Offers to take over what was found.

@@ -1,6 +1,7 @@
 #include "settings/lock_commands.h"
 
 #include "app/run_config.h"
+#include "app/ui_state.h"
 #include "settings/password_window.h"
 #include "settings/unlock_window.h"
 
@@ -14,6 +15,11 @@ LockCommands::LockCommands(QWidget *window, QAction *action, RunConfig *config)
     connect(action, &QAction::triggered, this, &LockCommands::run);
     connect(&lock, &SettingsLock::changed, this, &LockCommands::tell);
     show();
+}
+
+LockCommands::~LockCommands()
+{
+    UiState::setFrozen(false);
 }
 
 void LockCommands::tell()
@@ -71,6 +77,7 @@ void LockCommands::ask(const std::function<void()> &action)
 
 void LockCommands::show()
 {
+    UiState::setFrozen(m_config->lock().locked());
     m_action->setText(m_config->lock().locked() ? tr("Unlock Settings...")
             : m_config->lock().hasPassword()    ? tr("Lock Settings")
                                                 : tr("Lock Settings..."));

@@ -20,6 +20,7 @@ class LockCommands final : public QObject {
 public:
     // All must outlive this object; the window is the parent of the dialogs.
     LockCommands(QWidget *window, QAction *action, RunConfig *config);
+    ~LockCommands() override;
 
     // Whoever has a window open in which the password can be changed locks when it is closed.
     void lockIfNew(const QString &storedBefore);

@@ -55,7 +55,7 @@ QString defaultOf(const Setting &setting, const QWidget &field)
 
 QString explanationOf(const Setting &setting, const QWidget &field)
 {
-    QString text = field.toolTip();
+    QString text = field.toolTip().section(u'\n', 0, 0);
     if (setting.maximum() > setting.minimum()) {
         const auto number = [](double value) { return QString::number(value, 'g', 10); };
         text += u' '

@@ -189,11 +189,12 @@ void MainWindow::showProfileWindow()
 
 void MainWindow::startWith(const Config &edited)
 {
-    if (!m_mapWindows->settle(edited)) {
-        return;
-    }
-    takeSettings(edited);
-    m_session->restart({});
+    m_config.lock().whenUnlocked([this, edited] {
+        if (m_mapWindows->settle(edited)) {
+            takeSettings(edited);
+            m_session->restart({});
+        }
+    });
 }
 
 void MainWindow::showRotationWindow()

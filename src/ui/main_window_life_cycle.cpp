@@ -75,9 +75,6 @@ void MainWindow::loadUiState(const QSize &size)
 
 void MainWindow::saveUiState() const
 {
-    if (m_config.lock().locked()) {
-        return; // the position keeps its set-up
-    }
     const QString group = objectName();
     if (size() != m_sizeOfRun) {
         UiState::saveGeometry(group, saveGeometry());

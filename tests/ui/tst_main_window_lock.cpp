@@ -1,6 +1,7 @@
 #include "window_fixture.h"
 
 #include "app/settings_lock.h"
+#include "app/ui_state.h"
 #include "settings/config_window.h"
 #include "settings/password_window.h"
 #include "settings/sensor_manager_window.h"
@@ -10,6 +11,7 @@
 #include "ui/theme_menu.h"
 
 #include <QAction>
+#include <QDockWidget>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -82,11 +84,14 @@ void TestMainWindowLock::theScopeIsWorkedWithAndNothingIsKept()
     QVERIFY(asked(*window) && window->config().displayTheme == theme);
     delete window->findChild<UnlockWindow *>();
 
+    const QByteArray arrangement = UiState::value("mainWindow", "windowState");
+    window->findChild<QDockWidget *>("messagesDock")->hide();
     action(*window, ActionId::ToggleWeatherMap)->trigger();
     QVERIFY(!asked(*window) && window->config().mapWeatherVisible);
     QVERIFY2(fixture.openInput(*window), "starting and stopping is work with the scope");
     QVERIFY(WindowFixture::close(*window));
     QVERIFY(!onDisk().mapWeatherVisible);
+    QCOMPARE(UiState::value("mainWindow", "windowState"), arrangement);
 }
 
 void TestMainWindowLock::thePasswordOpensTheSettings()
