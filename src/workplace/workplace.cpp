@@ -15,7 +15,8 @@
 
 namespace {
 constexpr int EdgeWidth = 3; // pixels that the pointer is pushed into
-}
+constexpr int SettleMs = 1000; // in which a window gets back its size
+} // namespace
 
 Workplace::Workplace(QMainWindow *window, ScopeHolder *holder, int arrangementVersion)
     : QObject(window), m_window(window), m_holder(holder), m_version(arrangementVersion)
@@ -50,6 +51,7 @@ void Workplace::follow()
 
 void Workplace::enter()
 {
+    m_again.clear();
     m_before = m_window->saveState(m_version);
     collect();
     m_active = true;
@@ -71,7 +73,9 @@ void Workplace::leave()
             }
         }
     }
-    m_window->restoreState(std::exchange(m_before, {}), m_version);
+    m_again = std::exchange(m_before, {});
+    m_window->restoreState(m_again, m_version);
+    QTimer::singleShot(SettleMs, this, [this] { m_again.clear(); });
     m_holder->setSpread(false);
     Q_EMIT statusShown(m_window->statusBar()->isVisible());
     Q_EMIT changed(false);
@@ -217,6 +221,14 @@ bool Workplace::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_window && event->type() == QEvent::WindowStateChange) {
         follow();
+    }
+    if (watched == m_window && event->type() == QEvent::Resize && !m_again.isEmpty()) {
+        // In a window that is still too large the panes got other sizes.
+        QTimer::singleShot(0, this, [this] {
+            if (!m_again.isEmpty()) {
+                m_window->restoreState(std::exchange(m_again, {}), m_version);
+            }
+        });
     }
     if (!m_active || !m_holder) {
         return QObject::eventFilter(watched, event);

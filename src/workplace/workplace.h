@@ -76,6 +76,7 @@ private:
     bool m_active = false;
     bool m_pinned = false; // by the keyboard
     QByteArray m_before; // the window's state, while active
+    QByteArray m_again; // the same, until the window has got back its size
     std::array<QList<Piece>, EdgeCount> m_pieces; // while active
     Edge m_pushed = NoEdge;
     QTimer m_dwell;

@@ -10,7 +10,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <initializer_list>
+#include <algorithm>
 
 namespace {
 
