@@ -20,7 +20,8 @@ constexpr auto ViewsKey = "views";
 constexpr qsizetype MostRestored = 16; // whatever a damaged state says
 } // namespace
 
-SecondViews::SecondViews(const PlanViewWindow::Shared &shared) : m_shared(shared)
+SecondViews::SecondViews(const PlanViewWindow::Shared &shared, MayStore mayStore)
+    : m_shared(shared), m_mayStore(std::move(mayStore))
 {
     GeoTrackDisplay *tracks = shared.main->tracks();
     m_lookDelay.setSingleShot(true);
@@ -113,6 +114,9 @@ void SecondViews::forget(PlanViewWindow *window)
 
 void SecondViews::save() const
 {
+    if (!m_mayStore()) {
+        return;
+    }
     QJsonArray views;
     for (const auto &window : m_windows) {
         views.append(window->state());

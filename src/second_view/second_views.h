@@ -16,7 +16,10 @@ class SecondViews final : public QObject {
     Q_OBJECT
 
 public:
-    explicit SecondViews(const PlanViewWindow::Shared &shared);
+    using MayStore = std::function<bool()>;
+
+    // Asked before what is open is stored: a locked position keeps its set-up.
+    SecondViews(const PlanViewWindow::Shared &shared, MayStore mayStore);
     ~SecondViews() override;
 
     // Looks where the main view looks, with its layers.
@@ -60,6 +63,7 @@ private:
     void forEach(const Notice &notice);
 
     const PlanViewWindow::Shared m_shared;
+    const MayStore m_mayStore;
     std::vector<std::unique_ptr<PlanViewWindow>> m_windows;
     QTimer m_lookDelay; // changes of the look come many at a time
     Config m_config;

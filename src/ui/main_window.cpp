@@ -213,7 +213,8 @@ void MainWindow::makeParts()
         [this](const std::function<void(Config &)> &change) { editConfig(change); });
     m_replay = std::make_unique<ReplayControls>(this, m_actions, &m_config, m_sensors.get(), &m_host, m_session.get());
     m_views = std::make_unique<SecondViews>(
-        PlanViewWindow::Shared{&m_host.shared().projector, m_mapWindows->library(), m_plan.get()});
+        PlanViewWindow::Shared{&m_host.shared().projector, m_mapWindows->library(), m_plan.get()},
+        [this] { return !m_config.lock().locked(); });
 }
 
 void MainWindow::routeLibraryLogs()

@@ -119,7 +119,7 @@ void MainWindow::connectWorkplace()
     edges->setEnabled(false);
     connect(m_workplace, &Workplace::changed, this, [this, edges](bool active) {
         edges->setEnabled(active);
-        if (active) {
+        if (active && !m_config.lock().locked()) {
             UiState::saveValue(objectName(), ArrangementKey, m_workplace->arrangement());
         }
     });
