@@ -24,6 +24,7 @@ constexpr HelpTopic Topics[] = {
     {"MapImportWindow", "maps.md#importing"},
     {"MarkdownWindow", "overview.md"},
     {"PasswordWindow", "settings.md"},
+    {"PlanViewWindow", "lists-and-views.md#further-plan-views"},
     {"ProcessorConfigPage", "formats.md"},
     {"ProfileWindow", "unattended.md"},
     {"RangeRingWindow", "scope.md#range-rings-and-compass-rose"},
