@@ -4,12 +4,10 @@
 #include "app/config.h"
 #include "settings/config_page.h"
 #include "settings/config_window.h"
+#include "widgets/field_form.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
-#include <QLabel>
-#include <QLineEdit>
 #include <QSpinBox>
 
 namespace {
@@ -19,21 +17,6 @@ QString cell(QString text)
 {
     text.replace(u'\n', u' ').replace(u'|', u'/').replace(u'<', QLatin1String("&lt;"));
     return text.trimmed();
-}
-
-QString nameOf(const ConfigPage &page, const QWidget &field)
-{
-    QString name;
-    if (const auto *box = qobject_cast<const QCheckBox *>(&field)) {
-        name = box->text();
-    }
-    for (const QLabel *label : page.findChildren<QLabel *>()) {
-        if (label->buddy() == &field) {
-            name = label->text();
-        }
-    }
-    name.remove(u'&');
-    return cell(name.endsWith(u':') ? name.chopped(1) : name);
 }
 
 // As the field shows it.
@@ -70,10 +53,10 @@ QString pageReference(const ConfigPage &page)
     QString rows;
     for (const Setting *setting : page.settings()) {
         const auto *field = page.findChild<QWidget *>(setting->key());
-        const QString name = field ? nameOf(page, *field) : QString();
+        const QString name = field ? cell(page.form()->title(field)) : QString();
         if (!name.isEmpty()) {
             rows += QStringLiteral("| %1 | %2 | %3 | `%4` |\n")
-                        .arg(name, defaultOf(*setting, *field), explanationOf(*setting, *field), setting->key());
+                        .arg(name, defaultOf(*setting, *field), cell(field->toolTip()), setting->key());
         }
     }
     return rows.isEmpty() ? QString()
