@@ -5,19 +5,25 @@
 #include "app/app_paths.h"
 #include "app/theme_library.h"
 #include "demonstration/demo_traffic.h"
+#include "display/geo_track_display.h"
+#include "engine/display_snapshot.h"
 #include "plan_view/geo_widget.h"
 #include "ui/actions.h"
 #include "ui/main_window.h"
 #include "ui/theme_menu.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QDockWidget>
 #include <QElapsedTimer>
-#include <QFont>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTreeView>
 
 #include <algorithm>
 #include <array>
@@ -41,7 +47,6 @@ struct Sitting {
     const char *theme;
     QSize size;
     int seconds; // of traffic before the first picture
-    double zoom; // metres a pixel; 0: as it comes
     std::vector<Picture> pictures;
 };
 
@@ -82,20 +87,26 @@ std::function<QWidget *(MainWindow &)> scopeWith(std::vector<ActionId> switches)
     };
 }
 
+QWidgetList shownWindows()
+{
+    QWidgetList shown;
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && widget->windowType() != Qt::ToolTip) {
+            shown.append(widget);
+        }
+    }
+    return shown;
+}
+
 // The window that the command opens, of that size where one is given.
 std::function<QWidget *(MainWindow &)> windowOf(ActionId id, const QSize &size = {}, int waitMs = 2500)
 {
     return [id, size, waitMs](MainWindow &window) -> QWidget * {
-        const QWidgetList before = QApplication::topLevelWidgets();
-        const auto isNew = [&before](const QWidget *widget) {
-            return widget->isVisible() && widget->isWindow() && widget->windowType() != Qt::ToolTip;
-        };
-        QList<QWidget *> shownBefore;
-        std::copy_if(before.begin(), before.end(), std::back_inserter(shownBefore), isNew);
+        const QWidgetList before = shownWindows();
         action(window, id)->trigger();
         let(500);
-        for (QWidget *widget : QApplication::topLevelWidgets()) {
-            if (isNew(widget) && !shownBefore.contains(widget)) {
+        for (QWidget *widget : shownWindows()) {
+            if (!before.contains(widget)) {
                 if (!size.isEmpty()) {
                     widget->resize(size);
                 }
@@ -120,14 +131,34 @@ std::function<QWidget *(MainWindow &)> settingsPage(int page)
     };
 }
 
-QWidget *dockNamed(MainWindow &window, const char *name)
+// The pane, out of the window.
+QWidget *pane(MainWindow &window, const char *name, const QSize &size)
 {
-    auto *dock = window.findChild<QWidget *>(QString::fromLatin1(name));
+    auto *dock = window.findChild<QDockWidget *>(QString::fromLatin1(name));
     if (dock) {
+        dock->setFloating(true);
         dock->show();
-        let(2000);
+        dock->resize(size);
+        let(3000);
     }
     return dock;
+}
+
+QWidget *health(MainWindow &window)
+{
+    return pane(window, "healthDock", {900, 260});
+}
+
+// Of the first track that has told its callsign.
+QWidget *explanation(MainWindow &window)
+{
+    for (const TrackSnapshot &track : window.newestSnapshot()->tracks) {
+        if (track.callsignValid && track.levelValid) {
+            window.geoWidget()->trackDisplay()->setSelected(track.incarnationId);
+            break;
+        }
+    }
+    return pane(window, "inspectionDock", {1000, 460});
 }
 
 std::vector<Sitting> sittings()
@@ -135,15 +166,15 @@ std::vector<Sitting> sittings()
     using Id = ActionId;
     const QSize wide(1280, 720);
     return {
-        {"night", "busy", "Night", wide, 60, 0, {{"busy-night", wholeWindow}}},
-        {"dusk", "busy", "Dusk", wide, 60, 0, {{"busy-dusk", wholeWindow}}},
-        {"day", "busy", "Day", wide, 60, 0, {{"busy-day", wholeWindow}}},
-        {"alerts", "alerts", "Night", {1000, 760}, 60, 0, {{"alerts", scope}}},
-        {"weather", "weather", "Night", {1000, 700}, 60, 0,
+        {"night", "busy", "Night", wide, 60, {{"busy-night", wholeWindow}}},
+        {"dusk", "busy", "Dusk", wide, 60, {{"busy-dusk", wholeWindow}}},
+        {"day", "busy", "Day", wide, 60, {{"busy-day", wholeWindow}}},
+        {"alerts", "alerts", "Night", {1000, 760}, 60, {{"alerts", scope}}},
+        {"weather", "weather", "Night", {1000, 700}, 60,
             {{"weather", scopeWith({Id::ToggleWeatherMap, Id::ToggleKey})}}},
-        {"video", "video", "Night", {1000, 700}, 40, 0, {{"video", scopeWith({Id::ToggleVideoMap})}}},
-        {"surface", "smr", "Night", wide, 60, 0, {{"surface", wholeWindow}}},
-        {"windows", "demo", "Night", wide, 75, 0,
+        {"video", "video", "Night", {1000, 700}, 40, {{"video", scopeWith({Id::ToggleVideoMap})}}},
+        {"surface", "smr", "Night", wide, 60, {{"surface", wholeWindow}}},
+        {"windows", "demo", "Night", wide, 75,
             {
                 {"demo", wholeWindow},
                 {"orientation",
@@ -152,7 +183,7 @@ std::vector<Sitting> sittings()
                 {"key", scopeWith({Id::ToggleKey}), QRect(4, -180, 220, 145)},
                 {"label-format", windowOf(Id::TrackLabelFormat)},
                 {"settings-input", settingsPage(1)},
-                {"settings-tracks", settingsPage(6)},
+                {"settings-tracks", settingsPage(8)},
                 {"sensors", windowOf(Id::SensorManager)},
                 {"static-maps", windowOf(Id::StaticMaps, {760, 420})},
                 {"map-editor", windowOf(Id::StaticMapEditor, {760, 520})},
@@ -160,10 +191,12 @@ std::vector<Sitting> sittings()
                 {"raw-view", windowOf(Id::RawView, {900, 560}, 6000)},
                 {"diagnosis", windowOf(Id::DiagnoseInput, {}, 12000)},
                 {"sensor-check", windowOf(Id::SensorCheck)},
+                {"manual", windowOf(Id::Contents, {900, 600})},
                 {"cheat-sheet", windowOf(Id::CheatSheet)},
-                {"health", [](MainWindow &window) { return dockNamed(window, "healthDock"); }},
+                {"health", health},
+                {"explanation", explanation},
             }},
-        {"playback", "", "Night", wide, 20, 0, {{"playback", windowOf(Id::PlaybackWindow, {620, 300}, 6000)}}},
+        {"playback", "", "Night", wide, 20, {{"playback", windowOf(Id::PlaybackWindow, {620, 300}, 6000)}}},
     };
 }
 
@@ -285,6 +318,23 @@ QString recordingOf(const QString &scenario, const QTemporaryDir &folder)
     return file;
 }
 
+// The sensors of some scenarios.
+QString sensorFile(const QTemporaryDir &folder)
+{
+    QJsonArray sensors;
+    for (const char *scenario : {"demo", "adsb", "mlat", "sdps", "smr"}) {
+        QProcess process;
+        process.start(DemoTraffic::findProgram(), {QString::fromLatin1(scenario), "--sensor-json"});
+        process.waitForFinished();
+        sensors.append(QJsonDocument::fromJson(process.readAllStandardOutput()).object());
+    }
+    QFile file(folder.filePath("sensors.json"));
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(QJsonDocument(sensors).toJson());
+    }
+    return file.fileName();
+}
+
 bool sit(const Sitting &sitting, const QDir &folder)
 {
     const ThemeLibrary themes;
@@ -294,17 +344,20 @@ bool sit(const Sitting &sitting, const QDir &folder)
         std::fprintf(stderr, "manual_pictures: %s\n", qPrintable(error));
         return false;
     }
-    MainWindow window([&traffic](Config &config) { traffic.applyTo(config); });
+    const QTemporaryDir files;
+    MainWindow window([&traffic, &files](Config &config) {
+        traffic.applyTo(config);
+        config.sensorDatabase = sensorFile(files);
+    });
     window.themes()->useForThisRun(*themes.find(sitting.theme));
     window.setExitQuestion([] { return true; });
     window.show();
     window.loadUi(sitting.size);
-    const QTemporaryDir recordings;
     if (*sitting.scenario) {
         QObject::connect(&window, &MainWindow::inputOpened, &traffic, &DemoTraffic::start);
         window.openInput();
     } else {
-        window.playRecording(recordingOf("demo", recordings));
+        window.playRecording(recordingOf("demo", files));
     }
     let(sitting.seconds * 1000);
     bool good = true;
