@@ -7,6 +7,7 @@
 
 #include <cstring>
 #include <memory>
+#include <new>
 
 // The last reports of all tracks, one behind the other as they came; each says where the one before it of the same
 // track stands. Writing goes on through memory that nobody has to wait for, whichever track a report belongs to. At the
@@ -31,8 +32,7 @@ public:
             return;
         }
         unsigned char *const to = m_octets.get() + m_end;
-        const Header header{newest, timeMs, uap, static_cast<quint32>(size), form};
-        std::memcpy(to, &header, HeaderSize);
+        new (to) Header{newest, timeMs, uap, static_cast<quint32>(size), form};
         std::memcpy(to + HeaderSize, octets, size);
         newest = m_round << RoundShift | m_end;
         m_end += needed;
