@@ -65,9 +65,9 @@ private:
         if (record.i020.intensity != m_weather.intensity || m_vectors) {
             return;
         }
-        const double unit = std::ldexp(1.0, m_scale - 7);
         for (int i = 0; i < record.i034.count; ++i) {
             const auto &vector = record.i034.vectors[i];
+            const double unit = m_scale ? std::ldexp(1.0, *m_scale - 7) : m_weather.endRange / vector.endRange;
             if (std::abs(vector.startRange * unit - m_weather.startRange) <= SameRange
                 && std::abs(vector.endRange * unit - m_weather.endRange) <= SameRange
                 && vector.azimuth == m_weather.azimuth) {
@@ -88,7 +88,7 @@ private:
     }
 
     const ShownWeather &m_weather;
-    int m_scale = 0;
+    std::optional<int> m_scale; // the picture that told it may be kept no more
     std::optional<KeptReport> m_start; // of a picture of that time
     std::optional<KeptReport> m_vectors;
     int m_element = 0;

@@ -170,6 +170,14 @@ void TestSymbolExplanation::explainsWeatherByItsPicture()
     QCOMPARE(named(values, "Source").value, QString("25, 12"));
     QCOMPARE(named(values, "Time of picture").report, 1);
     QCOMPARE(named(values, "Vectors in picture").report, 2);
+
+    // A radar that scales once and for all did so long ago.
+    auto unscaled = shown;
+    unscaled[2] = kept(8, 20, [](BlockEncoder &e) {
+        e.set("000", 254);
+        e.set("090", 36000.0);
+    });
+    QCOMPARE(originOf(weather, unscaled).element, 2);
 }
 
 void TestSymbolExplanation::explainsWeatherThatIsKeptNoMore()
