@@ -12,22 +12,6 @@
         <translation>Revision %1</translation>
     </message>
     <message>
-        <source>ASTERIX library %1</source>
-        <translation>ASTERIX-Bibliothek %1</translation>
-    </message>
-    <message>
-        <source>Mode S library %1</source>
-        <translation>Mode-S-Bibliothek %1</translation>
-    </message>
-    <message>
-        <source>Aircraft database library %1</source>
-        <translation>Luftfahrzeugdatenbank-Bibliothek %1</translation>
-    </message>
-    <message>
-        <source>Qt %1 (built with %2)</source>
-        <translation>Qt %1 (übersetzt mit %2)</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <translation>%1, %2</translation>
     </message>
@@ -50,6 +34,14 @@
     <message>
         <source>Copy the versions, for a fault report</source>
         <translation>Die Versionen für eine Fehlermeldung kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Third-Party Notices</source>
+        <translation>&amp;Hinweise zu Drittkomponenten</translation>
+    </message>
+    <message>
+        <source>Third-Party Notices</source>
+        <translation>Hinweise zu Drittkomponenten</translation>
     </message>
 </context>
 <context>
@@ -537,10 +529,6 @@
         <translation>Track erklären</translation>
     </message>
     <message>
-        <source>Where the values of the selected track come from, with its last reports</source>
-        <translation>Woher die Werte des gewählten Tracks stammen, mit seinen letzten Meldungen</translation>
-    </message>
-    <message>
         <source>Why Is It Not Shown?...</source>
         <translation>Warum wird es nicht gezeigt?...</translation>
     </message>
@@ -736,12 +724,74 @@
         <source>Track</source>
         <translation>Track</translation>
     </message>
+    <message>
+        <source>New Window With Profile...</source>
+        <translation>Neues Fenster mit Profil...</translation>
+    </message>
+    <message>
+        <source>Start the program once more, with settings of its own</source>
+        <translation>Das Programm noch einmal starten, mit eigenen Einstellungen</translation>
+    </message>
+    <message>
+        <source>Lock Settings...</source>
+        <translation>Einstellungen sperren...</translation>
+    </message>
+    <message>
+        <source>Who does not have the password changes no settings</source>
+        <translation>Wer das Passwort nicht hat, ändert keine Einstellungen</translation>
+    </message>
+    <message>
+        <source>Show Bars and Panes</source>
+        <translation>Leisten und Bereiche zeigen</translation>
+    </message>
+    <message>
+        <source>In full screen: all bars and panes over the scope, and away again</source>
+        <translation>Im Vollbild: alle Leisten und Bereiche über der Anzeige, und wieder weg</translation>
+    </message>
+    <message>
+        <source>New Plan View</source>
+        <translation>Neue Lagedarstellung</translation>
+    </message>
+    <message>
+        <source>The same picture in a window of its own, with its own centre, scale and layers</source>
+        <translation>Dasselbe Bild in einem eigenen Fenster, mit eigener Mitte, eigenem Maßstab und eigenen Ebenen</translation>
+    </message>
+    <message>
+        <source>Getting Started...</source>
+        <translation>Erste Schritte...</translation>
+    </message>
+    <message>
+        <source>To a picture step by step: demonstration, recording or live input</source>
+        <translation>Schritt für Schritt zum Bild: Vorführung, Aufzeichnung oder Live-Eingang</translation>
+    </message>
+    <message>
+        <source>Contents...</source>
+        <translation>Inhalt...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Where the values of the selected track, or what the pointer is on, come from</source>
+        <translation>Woher die Werte des gewählten Tracks oder dessen stammen, worauf der Zeiger steht</translation>
+    </message>
 </context>
 <context>
     <name>AdsbTracker</name>
     <message>
         <source>ADS-B Tracker: %1 positions more than 1,000 km from the sensor were not taken, is its location right?</source>
         <translation>ADS-B-Tracker: %1 Positionen mehr als 1.000 km vom Sensor entfernt wurden nicht übernommen, stimmt dessen Standort?</translation>
+    </message>
+</context>
+<context>
+    <name>AlertIndicator</name>
+    <message numerus="yes">
+        <source>%n to acknowledge</source>
+        <translation>
+            <numerusform>%n zu quittieren</numerusform>
+            <numerusform>%n zu quittieren</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -797,6 +847,50 @@
     <message>
         <source>End UTC</source>
         <translation>Ende UTC</translation>
+    </message>
+    <message>
+        <source>Safety-net alert, emergency or special pulse</source>
+        <translation>Alarm eines Sicherheitsnetzes, Notfall oder Sonderimpuls</translation>
+    </message>
+    <message>
+        <source>Lasts</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Since its begin, or from there to its end; minutes and seconds</source>
+        <translation>Seit dem Beginn, oder von dort bis zum Ende; Minuten und Sekunden</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Flight level of the track</source>
+        <translation>Flugfläche des Tracks</translation>
+    </message>
+    <message>
+        <source>Other Level</source>
+        <translation>Andere Höhe</translation>
+    </message>
+    <message>
+        <source>Flight level of the other track</source>
+        <translation>Flugfläche des anderen Tracks</translation>
+    </message>
+    <message>
+        <source>Sensor No.</source>
+        <translation>Sensor-Nr.</translation>
+    </message>
+    <message>
+        <source>The sensor&apos;s own number of the track</source>
+        <translation>Die Nummer, die der Sensor selbst dem Track gibt</translation>
+    </message>
+    <message>
+        <source>Other Sensor No.</source>
+        <translation>Andere Sensor-Nr.</translation>
+    </message>
+    <message>
+        <source>The sensor&apos;s own number of the other track</source>
+        <translation>Die Nummer, die der Sensor selbst dem anderen Track gibt</translation>
     </message>
 </context>
 <context>
@@ -1207,122 +1301,14 @@
     </message>
 </context>
 <context>
-    <name>CheatSheetWindow</name>
+    <name>CheatSheet</name>
     <message>
         <source> or </source>
         <translation> oder </translation>
     </message>
     <message>
-        <source>Left click on a symbol or label</source>
-        <translation>Linksklick auf ein Symbol oder Label</translation>
-    </message>
-    <message>
-        <source>Select the track</source>
-        <translation>Den Track auswählen</translation>
-    </message>
-    <message>
-        <source>Left click once more</source>
-        <translation>Noch ein Linksklick</translation>
-    </message>
-    <message>
-        <source>Select the next track at this place</source>
-        <translation>Den nächsten Track an dieser Stelle auswählen</translation>
-    </message>
-    <message>
-        <source>Right click on a symbol or label</source>
-        <translation>Rechtsklick auf ein Symbol oder Label</translation>
-    </message>
-    <message>
-        <source>What can be done with the track</source>
-        <translation>Was mit dem Track getan werden kann</translation>
-    </message>
-    <message>
-        <source>Right drag on the map</source>
-        <translation>Rechts ziehen auf der Karte</translation>
-    </message>
-    <message>
-        <source>Move the view</source>
-        <translation>Die Ansicht verschieben</translation>
-    </message>
-    <message>
-        <source>Right drag on a label</source>
-        <translation>Rechts ziehen auf einem Label</translation>
-    </message>
-    <message>
-        <source>Move the label</source>
-        <translation>Das Label verschieben</translation>
-    </message>
-    <message>
-        <source>Right double-click</source>
-        <translation>Rechter Doppelklick</translation>
-    </message>
-    <message>
-        <source>Bring this point to the centre</source>
-        <translation>Diesen Punkt in die Mitte bringen</translation>
-    </message>
-    <message>
-        <source>Wheel</source>
-        <translation>Mausrad</translation>
-    </message>
-    <message>
-        <source>Zoom around the pointer</source>
-        <translation>Um den Zeiger herum zoomen</translation>
-    </message>
-    <message>
-        <source>Alt + wheel</source>
-        <translation>Alt + Mausrad</translation>
-    </message>
-    <message>
-        <source>Zoom in small steps</source>
-        <translation>In kleinen Schritten zoomen</translation>
-    </message>
-    <message>
-        <source>Left click with the cross</source>
-        <translation>Linksklick mit dem Kreuz</translation>
-    </message>
-    <message>
-        <source>Place the centre of the range rings</source>
-        <translation>Die Mitte der Entfernungsringe setzen</translation>
-    </message>
-    <message>
-        <source>F12</source>
-        <translation>F12</translation>
-    </message>
-    <message>
-        <source>Rotate clockwise by 1°</source>
-        <translation>Um 1° im Uhrzeigersinn drehen</translation>
-    </message>
-    <message>
-        <source>F11</source>
-        <translation>F11</translation>
-    </message>
-    <message>
-        <source>Rotate counter-clockwise by 1°</source>
-        <translation>Um 1° gegen den Uhrzeigersinn drehen</translation>
-    </message>
-    <message>
-        <source>Alt + F12</source>
-        <translation>Alt + F12</translation>
-    </message>
-    <message>
-        <source>Rotate clockwise by 0.1°</source>
-        <translation>Um 0,1° im Uhrzeigersinn drehen</translation>
-    </message>
-    <message>
-        <source>Alt + F11</source>
-        <translation>Alt + F11</translation>
-    </message>
-    <message>
-        <source>Rotate counter-clockwise by 0.1°</source>
-        <translation>Um 0,1° gegen den Uhrzeigersinn drehen</translation>
-    </message>
-    <message>
-        <source>Cheat Sheet</source>
-        <translation>Kurzübersicht</translation>
-    </message>
-    <message>
-        <source>Commands</source>
-        <translation>Befehle</translation>
+        <source>Menu %1</source>
+        <translation>Menü %1</translation>
     </message>
     <message>
         <source>Mouse on the plan view</source>
@@ -1331,6 +1317,96 @@
     <message>
         <source>Keys on the plan view</source>
         <translation>Tasten in der Lagedarstellung</translation>
+    </message>
+    <message>
+        <source>Lists</source>
+        <translation>Listen</translation>
+    </message>
+    <message>
+        <source>Double-click</source>
+        <translation>Doppelklick</translation>
+    </message>
+    <message>
+        <source>Bring the track into view</source>
+        <translation>Den Track in den Ausschnitt bringen</translation>
+    </message>
+    <message>
+        <source>Enter or space on a track</source>
+        <translation>Eingabe oder Leertaste auf einem Track</translation>
+    </message>
+    <message>
+        <source>Enter or space on an alert</source>
+        <translation>Eingabe oder Leertaste auf einem Alarm</translation>
+    </message>
+    <message>
+        <source>Acknowledge the alert</source>
+        <translation>Den Alarm quittieren</translation>
+    </message>
+    <message>
+        <source>Right click</source>
+        <translation>Rechtsklick</translation>
+    </message>
+    <message>
+        <source>What can be done with the track</source>
+        <translation>Was mit dem Track getan werden kann</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>In every other window: the page of the manual about it</source>
+        <translation>In jedem anderen Fenster: die Seite des Handbuchs dazu</translation>
+    </message>
+</context>
+<context>
+    <name>CheatSheetWindow</name>
+    <message>
+        <source>Cheat Sheet</source>
+        <translation>Kurzübersicht</translation>
+    </message>
+    <message>
+        <source>Search all commands, also those without a key</source>
+        <translation>Alle Befehle durchsuchen, auch solche ohne Taste</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>Keys and mouse gestures</source>
+        <translation>Tasten und Mausgesten</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Save as &amp;PDF...</source>
+        <translation>Als &amp;PDF speichern...</translation>
+    </message>
+    <message>
+        <source>No command and no gesture has these words.</source>
+        <translation>Kein Befehl und keine Geste enthält diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Save Cheat Sheet</source>
+        <translation>Kurzübersicht speichern</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ColumnChoice</name>
+    <message>
+        <source>Default Columns</source>
+        <translation>Vorgegebene Spalten</translation>
     </message>
 </context>
 <context>
@@ -1396,10 +1472,81 @@
     </message>
 </context>
 <context>
+    <name>ConfigDefaults</name>
+    <message>
+        <source>&amp;Defaults</source>
+        <translation>&amp;Vorgaben</translation>
+    </message>
+    <message>
+        <source>Puts back what the program, or the theme chosen, has by itself.</source>
+        <translation>Stellt wieder her, was das Programm oder das gewählte Design von sich aus hat.</translation>
+    </message>
+    <message>
+        <source>Default of &quot;%1&quot;</source>
+        <translation>Vorgabe von „%1“</translation>
+    </message>
+    <message>
+        <source>Defaults of the Page &quot;%1&quot;</source>
+        <translation>Vorgaben der Seite „%1“</translation>
+    </message>
+</context>
+<context>
     <name>ConfigPage</name>
     <message>
         <source>Locked while the input runs. Stop the input to change it.</source>
         <translation>Gesperrt, solange der Eingang läuft. Zum Ändern den Eingang stoppen.</translation>
+    </message>
+    <message>
+        <source>%1
+%2 to %3, default %4.</source>
+        <translation>%1
+%2 bis %3, Vorgabe %4.</translation>
+    </message>
+    <message>
+        <source>Changed. %1</source>
+        <translation>Geändert. %1</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigSearch</name>
+    <message>
+        <source>Only what is &amp;not default</source>
+        <translation>Nur, was &amp;nicht Vorgabe ist</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>Search in all settings</source>
+        <translation>In allen Einstellungen suchen</translation>
+    </message>
+    <message>
+        <source>Words of names and explanations on all pages; Return goes to the next hit.</source>
+        <translation>Wörter aus Namen und Erklärungen aller Seiten; Eingabe geht zum nächsten Treffer.</translation>
+    </message>
+    <message>
+        <source>Shows what has been set in another way than the program or the theme has it.</source>
+        <translation>Zeigt, was anders eingestellt ist, als das Programm oder das Design es hat.</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hit(s)</source>
+        <translation>
+            <numerusform>%n Treffer</numerusform>
+            <numerusform>%n Treffer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Hit %1 of %2</source>
+        <translation>Treffer %1 von %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there with another choice of &quot;%2&quot;.</source>
+        <translation>„%1“ gibt es bei einer anderen Wahl von „%2“.</translation>
     </message>
 </context>
 <context>
@@ -1411,6 +1558,21 @@
     <message>
         <source>%1. The settings hold until the program ends.</source>
         <translation>%1. Die Einstellungen gelten bis zum Ende des Programms.</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) changed</source>
+        <translation>
+            <numerusform>%n Einstellung geändert</numerusform>
+            <numerusform>%n Einstellungen geändert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1, geändert</translation>
     </message>
 </context>
 <context>
@@ -1426,6 +1588,78 @@
     <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
+    </message>
+</context>
+<context>
+    <name>ControlClient</name>
+    <message>
+        <source>Nobody listens on %1.</source>
+        <translation>Auf %1 hört niemand.</translation>
+    </message>
+    <message>
+        <source>The terminal on %1 does not answer: %2</source>
+        <translation>Das Terminal an %1 antwortet nicht: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ControlCommands</name>
+    <message>
+        <source>The request has no &quot;command&quot;: one of %1.</source>
+        <translation>Die Anfrage hat kein „command“: eines von %1.</translation>
+    </message>
+    <message>
+        <source>The command %1 takes no &quot;%2&quot;.</source>
+        <translation>Der Befehl %1 kennt kein „%2“.</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;: %2.</source>
+        <translation>Es gibt keinen Befehl „%1“: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;path&quot; has to be the absolute path of a file.</source>
+        <translation>„path“ muss der absolute Pfad einer Datei sein.</translation>
+    </message>
+    <message>
+        <source>A request is a JSON object in one line.</source>
+        <translation>Eine Anfrage ist ein JSON-Objekt in einer Zeile.</translation>
+    </message>
+    <message>
+        <source>A request is a JSON object in one line: %1 at octet %2.</source>
+        <translation>Eine Anfrage ist ein JSON-Objekt in einer Zeile: %1 bei Oktett %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has to be a number.</source>
+        <translation>„%1“ muss eine Zahl sein.</translation>
+    </message>
+    <message>
+        <source>There is no window.</source>
+        <translation>Es gibt kein Fenster.</translation>
+    </message>
+</context>
+<context>
+    <name>ControlConnection</name>
+    <message>
+        <source>A request has at most %1 octets.</source>
+        <translation>Eine Anfrage hat höchstens %1 Oktette.</translation>
+    </message>
+</context>
+<context>
+    <name>ControlServer</name>
+    <message>
+        <source>The control socket %1 cannot be made: %2.</source>
+        <translation>Der Steuer-Socket %1 kann nicht angelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is there already, and is no control socket.</source>
+        <translation>%1 gibt es schon und ist kein Steuer-Socket.</translation>
+    </message>
+    <message>
+        <source>Another program listens on the control socket %1.</source>
+        <translation>Am Steuer-Socket %1 hört ein anderes Programm.</translation>
     </message>
 </context>
 <context>
@@ -1491,6 +1725,13 @@
     <message>
         <source>Recording %1 stopped after %2 messages: %3</source>
         <translation>Aufzeichnung %1 nach %2 Nachrichten abgebrochen: %3</translation>
+    </message>
+</context>
+<context>
+    <name>DemoRun</name>
+    <message>
+        <source>The demonstration cannot be shown: %1</source>
+        <translation>Die Vorführung kann nicht gezeigt werden: %1</translation>
     </message>
 </context>
 <context>
@@ -1601,10 +1842,6 @@
 <context>
     <name>DisplayConfigPage</name>
     <message>
-        <source>Time zone of the clock; %1 is the one of this computer</source>
-        <translation>Zeitzone der Uhr; %1 ist die dieses Rechners</translation>
-    </message>
-    <message>
         <source>Display</source>
         <translation>Anzeige</translation>
     </message>
@@ -1649,10 +1886,6 @@
         <translation>&amp;Stil:</translation>
     </message>
     <message>
-        <source>Te&amp;xt beside the icons of the tool bars</source>
-        <translation>&amp;Text neben den Symbolen der Werkzeugleisten</translation>
-    </message>
-    <message>
         <source>The system&apos;s</source>
         <translation>Die des Systems</translation>
     </message>
@@ -1675,6 +1908,149 @@
     <message>
         <source>There is no time zone &quot;%1&quot;.</source>
         <translation>Es gibt keine Zeitzone „%1“.</translation>
+    </message>
+    <message>
+        <source>Time zone of the clock; %1 is the one of this computer.</source>
+        <translation>Zeitzone der Uhr; %1 ist die dieses Rechners.</translation>
+    </message>
+    <message>
+        <source>Colour of the scope where nothing else is drawn.</source>
+        <translation>Farbe der Anzeige, wo sonst nichts gezeichnet ist.</translation>
+    </message>
+    <message>
+        <source>How buttons, lists and menus of the windows are drawn.</source>
+        <translation>Wie Knöpfe, Listen und Menüs der Fenster gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt size:</source>
+        <translation>Te&amp;xtgröße:</translation>
+    </message>
+    <message>
+        <source>How large the text of windows, lists and menus is, beside what the system has.</source>
+        <translation>Wie groß der Text in Fenstern, Listen und Menüs ist, gemessen an dem des Systems.</translation>
+    </message>
+    <message>
+        <source>Text beside the &amp;icons of the tool bars</source>
+        <translation>Text neben den S&amp;ymbolen der Werkzeugleisten</translation>
+    </message>
+    <message>
+        <source>Off: the tool bars have icons alone and need less room.</source>
+        <translation>Aus: die Werkzeugleisten haben nur Symbole und brauchen weniger Platz.</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Protokolldatei</translation>
+    </message>
+    <message>
+        <source>Be&amp;gin a new file at:</source>
+        <translation>Neue Datei &amp;ab:</translation>
+    </message>
+    <message>
+        <source>How large a file of messages grows; 0 stands for no file.</source>
+        <translation>Wie groß eine Datei mit Meldungen wird; 0 steht für keine Datei.</translation>
+    </message>
+    <message>
+        <source>no file</source>
+        <translation>keine Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Files kept:</source>
+        <translation>&amp;Behaltene Dateien:</translation>
+    </message>
+    <message>
+        <source>How many files of messages there are at most; the oldest is removed.</source>
+        <translation>Wie viele Dateien mit Meldungen es höchstens gibt; die älteste wird entfernt.</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Sperre</translation>
+    </message>
+    <message>
+        <source>With a password settings are locked: who does not have it changes none of them.</source>
+        <translation>Mit einem Passwort sind die Einstellungen gesperrt: wer es nicht hat, ändert keine davon.</translation>
+    </message>
+    <message>
+        <source>&amp;Password for settings:</source>
+        <translation>Pass&amp;wort für Einstellungen:</translation>
+    </message>
+</context>
+<context>
+    <name>EchoExplanation</name>
+    <message>
+        <source>Range</source>
+        <translation>Entfernung</translation>
+    </message>
+    <message>
+        <source>cell %1 from the antenna on, each %2 m long</source>
+        <translation>Zelle %1 von der Antenne aus, jede %2 m lang</translation>
+    </message>
+    <message>
+        <source>Azimuth</source>
+        <translation>Azimut</translation>
+    </message>
+    <message>
+        <source>one of %1 directions of a turn; the newest radial over its middle counts</source>
+        <translation>eine von %1 Richtungen eines Umlaufs; der neueste Radial über ihrer Mitte zählt</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>only uncompressed video of 8 bits a cell is drawn</source>
+        <translation>nur unkomprimiertes Video mit 8 Bit je Zelle wird gezeichnet</translation>
+    </message>
+    <message>
+        <source>Cells in radial</source>
+        <translation>Zellen im Radial</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>Tageszeit</translation>
+    </message>
+    <message>
+        <source>Message number</source>
+        <translation>Nachrichtennummer</translation>
+    </message>
+    <message>
+        <source>gaps in it are counted as missing messages</source>
+        <translation>Lücken darin werden als fehlende Nachrichten gezählt</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>drawn around the place of the sensor of that SAC/SIC</source>
+        <translation>um den Standort des Sensors mit diesem SAC/SIC gezeichnet</translation>
+    </message>
+    <message>
+        <source>%1 bits a cell</source>
+        <translation>%1 Bit je Zelle</translation>
+    </message>
+    <message>
+        <source>Amplitude</source>
+        <translation>Amplitude</translation>
+    </message>
+    <message>
+        <source>%1 of 255</source>
+        <translation>%1 von 255</translation>
+    </message>
+    <message>
+        <source>as drawn; the radar&apos;s next radial of this direction is waited for</source>
+        <translation>wie gezeichnet; auf den nächsten Radial des Radars in dieser Richtung wird gewartet</translation>
+    </message>
+    <message>
+        <source>not above the threshold of %1, so it is not drawn</source>
+        <translation>nicht über der Schwelle von %1, daher nicht gezeichnet</translation>
+    </message>
+    <message>
+        <source>above the threshold of %1; fades within %2 s</source>
+        <translation>über der Schwelle von %1; verblasst innerhalb von %2 s</translation>
+    </message>
+    <message>
+        <source>%1, octet %2</source>
+        <translation>%1, Oktett %2</translation>
     </message>
 </context>
 <context>
@@ -1841,6 +2217,45 @@
     </message>
 </context>
 <context>
+    <name>FirstStartGuide</name>
+    <message>
+        <source>Getting Started</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message>
+        <source>What arrives there is told below, before anything is set.</source>
+        <translation>Was dort ankommt, steht unten, bevor etwas eingestellt wird.</translation>
+    </message>
+    <message>
+        <source>Where do the data come from?</source>
+        <translation>Woher kommen die Daten?</translation>
+    </message>
+    <message>
+        <source>Which sensor is it?</source>
+        <translation>Welcher Sensor ist es?</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>S&amp;tart</translation>
+    </message>
+    <message>
+        <source>Nothing was recognised, so the sensor must be described by hand.</source>
+        <translation>Nichts wurde erkannt, der Sensor muss also von Hand beschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Without a sensor nothing can be shown: choose its type.</source>
+        <translation>Ohne Sensor kann nichts gezeigt werden: wählen Sie seinen Typ.</translation>
+    </message>
+</context>
+<context>
     <name>GeoCompassRose</name>
     <message>
         <source>Compass rose</source>
@@ -1953,6 +2368,105 @@
     </message>
 </context>
 <context>
+    <name>Gestures</name>
+    <message>
+        <source>Left click on a symbol or label</source>
+        <translation>Linksklick auf ein Symbol oder Label</translation>
+    </message>
+    <message>
+        <source>Select the track</source>
+        <translation>Den Track auswählen</translation>
+    </message>
+    <message>
+        <source>Left click once more</source>
+        <translation>Noch ein Linksklick</translation>
+    </message>
+    <message>
+        <source>Select the next track at this place</source>
+        <translation>Den nächsten Track an dieser Stelle auswählen</translation>
+    </message>
+    <message>
+        <source>Right click on a symbol or label</source>
+        <translation>Rechtsklick auf ein Symbol oder Label</translation>
+    </message>
+    <message>
+        <source>What can be done with the track</source>
+        <translation>Was mit dem Track getan werden kann</translation>
+    </message>
+    <message>
+        <source>Right click elsewhere</source>
+        <translation>Rechtsklick anderswo</translation>
+    </message>
+    <message>
+        <source>What can be done at this place</source>
+        <translation>Was an dieser Stelle getan werden kann</translation>
+    </message>
+    <message>
+        <source>Right drag on the map</source>
+        <translation>Rechts ziehen auf der Karte</translation>
+    </message>
+    <message>
+        <source>Move the view</source>
+        <translation>Die Ansicht verschieben</translation>
+    </message>
+    <message>
+        <source>Right drag on a label</source>
+        <translation>Rechts ziehen auf einem Label</translation>
+    </message>
+    <message>
+        <source>Move the label</source>
+        <translation>Das Label verschieben</translation>
+    </message>
+    <message>
+        <source>Right double-click</source>
+        <translation>Rechter Doppelklick</translation>
+    </message>
+    <message>
+        <source>Bring this point to the centre</source>
+        <translation>Diesen Punkt in die Mitte bringen</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Mausrad</translation>
+    </message>
+    <message>
+        <source>Zoom around the pointer</source>
+        <translation>Um den Zeiger herum zoomen</translation>
+    </message>
+    <message>
+        <source>Alt + wheel</source>
+        <translation>Alt + Mausrad</translation>
+    </message>
+    <message>
+        <source>Zoom in small steps</source>
+        <translation>In kleinen Schritten zoomen</translation>
+    </message>
+    <message>
+        <source>Left click with the cross</source>
+        <translation>Linksklick mit dem Kreuz</translation>
+    </message>
+    <message>
+        <source>Place the centre of the range rings</source>
+        <translation>Die Mitte der Entfernungsringe setzen</translation>
+    </message>
+    <message>
+        <source>Rotate clockwise by 1°</source>
+        <translation>Um 1° im Uhrzeigersinn drehen</translation>
+    </message>
+    <message>
+        <source>Rotate counter-clockwise by 1°</source>
+        <translation>Um 1° gegen den Uhrzeigersinn drehen</translation>
+    </message>
+    <message>
+        <source>Rotate clockwise by 0.1°</source>
+        <translation>Um 0,1° im Uhrzeigersinn drehen</translation>
+    </message>
+    <message>
+        <source>Rotate counter-clockwise by 0.1°</source>
+        <translation>Um 0,1° gegen den Uhrzeigersinn drehen</translation>
+    </message>
+</context>
+<context>
     <name>GpsFraming</name>
     <message>
         <source>The file ends within a time stamp.</source>
@@ -1991,6 +2505,45 @@
     </message>
 </context>
 <context>
+    <name>HeadlessRun</name>
+    <message>
+        <source>Cannot read the sensor file %1</source>
+        <translation>Die Sensordatei %1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The input is open already.</source>
+        <translation>Der Eingang ist schon geöffnet.</translation>
+    </message>
+    <message>
+        <source>No input is open.</source>
+        <translation>Kein Eingang ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>There is no window.</source>
+        <translation>Es gibt kein Fenster.</translation>
+    </message>
+    <message>
+        <source>Receiving on %1</source>
+        <translation>Empfang auf %1</translation>
+    </message>
+    <message>
+        <source>%1 is written again.</source>
+        <translation>%1 wird wieder geschrieben.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Data engine did not confirm the input close within 10 s, forcing shutdown.</source>
+        <translation>Das Schließen des Eingangs wurde nicht innerhalb von 10 s bestätigt, das Beenden wird erzwungen.</translation>
+    </message>
+    <message>
+        <source>Data processing thread did not stop within 5 s, abandoning it.</source>
+        <translation>Der Verarbeitungs-Thread hielt nicht innerhalb von 5 s an, er wird aufgegeben.</translation>
+    </message>
+</context>
+<context>
     <name>HealthDock</name>
     <message>
         <source>Input Health</source>
@@ -2006,6 +2559,69 @@
     <message>
         <source>How the input does; a click shows its sources.</source>
         <translation>Wie es dem Eingang geht; ein Klick zeigt seine Quellen.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>%1 Manual</source>
+        <translation>%1 Handbuch</translation>
+    </message>
+    <message>
+        <source>◀ Back</source>
+        <translation>◀ Zurück</translation>
+    </message>
+    <message>
+        <source>The page before</source>
+        <translation>Die Seite davor</translation>
+    </message>
+    <message>
+        <source>Forward ▶</source>
+        <translation>Vor ▶</translation>
+    </message>
+    <message>
+        <source>The next page</source>
+        <translation>Die nächste Seite</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>The index page</source>
+        <translation>Die Indexseite</translation>
+    </message>
+    <message>
+        <source>A−</source>
+        <translation>A−</translation>
+    </message>
+    <message>
+        <source>Smaller text</source>
+        <translation>Kleinerer Text</translation>
+    </message>
+    <message>
+        <source>A+</source>
+        <translation>A+</translation>
+    </message>
+    <message>
+        <source>Larger text</source>
+        <translation>Größerer Text</translation>
+    </message>
+    <message>
+        <source>Search all pages (Ctrl+F)</source>
+        <translation>Alle Seiten durchsuchen (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Search all pages</source>
+        <translation>Alle Seiten durchsuchen</translation>
+    </message>
+    <message>
+        <source>What the search has found</source>
+        <translation>Was die Suche gefunden hat</translation>
+    </message>
+    <message>
+        <source>No page has all of these words.</source>
+        <translation>Keine Seite enthält alle diese Wörter.</translation>
     </message>
 </context>
 <context>
@@ -2041,10 +2657,6 @@
     <message>
         <source>D&amp;evice:</source>
         <translation>&amp;Gerät:</translation>
-    </message>
-    <message>
-        <source>Bits per second.</source>
-        <translation>Bits je Sekunde.</translation>
     </message>
     <message>
         <source>&amp;Baud rate:</source>
@@ -2118,6 +2730,58 @@
         <source>Enter a rate in bits per second.</source>
         <translation>Geben Sie eine Rate in Bits je Sekunde ein.</translation>
     </message>
+    <message>
+        <source>How the sensor&apos;s messages come in: over a network, a serial line, or from a recording.</source>
+        <translation>Wie die Nachrichten des Sensors hereinkommen: über ein Netz, eine serielle Leitung oder aus einer Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>Start &amp;input at program start</source>
+        <translation>Eingang beim Programmstart st&amp;arten</translation>
+    </message>
+    <message>
+        <source>The input is opened by itself as soon as the program runs.</source>
+        <translation>Der Eingang wird von selbst geöffnet, sobald das Programm läuft.</translation>
+    </message>
+    <message>
+        <source>The serial port that the sensor&apos;s line is plugged into.</source>
+        <translation>Der serielle Anschluss, an dem die Leitung des Sensors steckt.</translation>
+    </message>
+    <message>
+        <source>Bits per second, as the sender has it set.</source>
+        <translation>Bits je Sekunde, wie beim Sender eingestellt.</translation>
+    </message>
+    <message>
+        <source>Bits of a character on the line.</source>
+        <translation>Bits eines Zeichens auf der Leitung.</translation>
+    </message>
+    <message>
+        <source>The check bit of a character on the line.</source>
+        <translation>Das Prüfbit eines Zeichens auf der Leitung.</translation>
+    </message>
+    <message>
+        <source>How long the line rests between two characters.</source>
+        <translation>Wie lange die Leitung zwischen zwei Zeichen ruht.</translation>
+    </message>
+    <message>
+        <source>The recording that is played when the input is started.</source>
+        <translation>Die Aufzeichnung, die beim Start des Eingangs wiedergegeben wird.</translation>
+    </message>
+    <message>
+        <source>Plays the recording over and over until it is stopped.</source>
+        <translation>Gibt die Aufzeichnung immer wieder wieder, bis sie gestoppt wird.</translation>
+    </message>
+    <message>
+        <source>%1 is not there now.</source>
+        <translation>%1 ist zurzeit nicht da.</translation>
+    </message>
+    <message>
+        <source>Complete the fields above to see what arrives.</source>
+        <translation>Füllen Sie die Felder oben aus, um zu sehen, was ankommt.</translation>
+    </message>
+    <message>
+        <source>Stop the input first: its settings are locked while it runs.</source>
+        <translation>Stoppen Sie zuerst den Eingang: seine Einstellungen sind gesperrt, solange er läuft.</translation>
+    </message>
 </context>
 <context>
     <name>InputHealth</name>
@@ -2180,6 +2844,25 @@
     <message>
         <source>%1 listens on UDP port %2 too: of the two, one alone gets each datagram.</source>
         <translation>%1 hört ebenfalls auf UDP-Port %2: nur einer von beiden bekommt jedes Datagramm.</translation>
+    </message>
+</context>
+<context>
+    <name>InputProbe</name>
+    <message>
+        <source>UDP port %1</source>
+        <translation>UDP-Port %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>UDP port %1 is taken by %2. Only one of two listeners gets what is sent to a port, so it is left alone: end that program, or choose another port.</source>
+        <translation>Den UDP-Port %1 hat %2 belegt. Nur einer von zwei Hörern bekommt, was an einen Port gesendet wird, er wird daher in Ruhe gelassen: beenden Sie jenes Programm oder wählen Sie einen anderen Port.</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>einem anderen Programm</translation>
     </message>
 </context>
 <context>
@@ -2279,10 +2962,6 @@
         <translation>Angehalten. Das Bild wird nicht aktualisiert.</translation>
     </message>
     <message>
-        <source>No sensor is configured. Choose one in Settings (F10), then press Start.</source>
-        <translation>Kein Sensor ist eingerichtet. Wählen Sie einen in den Einstellungen (F10) und drücken Sie dann Start.</translation>
-    </message>
-    <message>
         <source>Input stopped. %1
 This is the last picture.</source>
         <translation>Eingang gestoppt. %1
@@ -2312,21 +2991,13 @@ Dies ist das letzte Bild.</translation>
         <source>Cannot open %1: %2</source>
         <translation>%1 kann nicht geöffnet werden: %2</translation>
     </message>
+    <message>
+        <source>No sensor is configured. Choose one in Settings (F10), then press Start; or let Help, Getting Started, lead you.</source>
+        <translation>Kein Sensor ist eingerichtet. Wählen Sie einen in den Einstellungen (F10) und drücken Sie dann Start; oder lassen Sie sich von Hilfe, Erste Schritte führen.</translation>
+    </message>
 </context>
 <context>
     <name>Inspection</name>
-    <message>
-        <source>Track Explanation</source>
-        <translation>Erklärung des Tracks</translation>
-    </message>
-    <message>
-        <source>Select a track to see where its values come from.</source>
-        <translation>Wählen Sie einen Track, um zu sehen, woher seine Werte stammen.</translation>
-    </message>
-    <message>
-        <source>No plot without a track has been received here lately. What a plot with a track is made of stands with the track: select it.</source>
-        <translation>Hier ist zuletzt kein Plot ohne Track empfangen worden. Woraus ein Plot mit Track besteht, steht beim Track: wählen Sie ihn aus.</translation>
-    </message>
     <message>
         <source>Plot</source>
         <translation>Plot</translation>
@@ -2338,6 +3009,58 @@ Dies ist das letzte Bild.</translation>
     <message>
         <source>Alert %1</source>
         <translation>Alarm %1</translation>
+    </message>
+    <message>
+        <source>Explanation</source>
+        <translation>Erklärung</translation>
+    </message>
+    <message>
+        <source>Select a track to see where its values come from; or point at a plot, weather or radar video and press Ctrl+E.</source>
+        <translation>Wählen Sie einen Track, um zu sehen, woher seine Werte stammen; oder zeigen Sie auf Plot, Wetter oder Radarvideo und drücken Sie Strg+E.</translation>
+    </message>
+    <message>
+        <source>Explain Plot</source>
+        <translation>Plot erklären</translation>
+    </message>
+    <message>
+        <source>Explain Radar Video</source>
+        <translation>Radarvideo erklären</translation>
+    </message>
+    <message>
+        <source>Explain Weather</source>
+        <translation>Wetter erklären</translation>
+    </message>
+    <message>
+        <source>The report of this plot is kept no more.</source>
+        <translation>Die Meldung dieses Plots ist nicht mehr aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Plot of %1</source>
+        <translation>Plot von %1</translation>
+    </message>
+    <message>
+        <source>Its report</source>
+        <translation>Seine Meldung</translation>
+    </message>
+    <message>
+        <source>Weather, level %1</source>
+        <translation>Wetter, Stufe %1</translation>
+    </message>
+    <message>
+        <source>Its vectors</source>
+        <translation>Seine Vektoren</translation>
+    </message>
+    <message>
+        <source>Start of its picture</source>
+        <translation>Beginn seines Bilds</translation>
+    </message>
+    <message>
+        <source>End of its picture</source>
+        <translation>Ende seines Bilds</translation>
+    </message>
+    <message>
+        <source>Radar video</source>
+        <translation>Radarvideo</translation>
     </message>
 </context>
 <context>
@@ -2473,6 +3196,110 @@ Dies ist das letzte Bild.</translation>
     </message>
 </context>
 <context>
+    <name>LibraryVersions</name>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>ASTERIX library</source>
+        <translation>ASTERIX-Bibliothek</translation>
+    </message>
+    <message>
+        <source>Mode S library</source>
+        <translation>Mode-S-Bibliothek</translation>
+    </message>
+    <message>
+        <source>Aircraft database library</source>
+        <translation>Luftfahrzeugdatenbank-Bibliothek</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2)</source>
+        <translation>Qt %1 (übersetzt mit %2)</translation>
+    </message>
+</context>
+<context>
+    <name>ListExport</name>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ListFilter</name>
+    <message>
+        <source>There is no column &quot;%1&quot;. Columns are: %2.</source>
+        <translation>Es gibt keine Spalte „%1“. Spalten sind: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no numbers to compare.</source>
+        <translation>„%1“ enthält keine Zahlen zum Vergleichen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; wants a number, as in %2.</source>
+        <translation>„%1“ verlangt eine Zahl, wie in %2.</translation>
+    </message>
+</context>
+<context>
+    <name>ListPane</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Words that a row must hold, or columns: %1. A text with blanks stands in quotes.</source>
+        <translation>Wörter, die eine Zeile enthalten muss, oder Spalten: %1. Ein Text mit Leerzeichen steht in Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Copy List</source>
+        <translation>Liste kopieren</translation>
+    </message>
+    <message>
+        <source>Export CSV...</source>
+        <translation>CSV exportieren...</translation>
+    </message>
+    <message>
+        <source>List Menu</source>
+        <translation>Listenmenü</translation>
+    </message>
+    <message>
+        <source>Columns, copy, export</source>
+        <translation>Spalten, Kopieren, Exportieren</translation>
+    </message>
+    <message>
+        <source>%1 All rows are shown.</source>
+        <translation>%1 Alle Zeilen werden gezeigt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>The filter lets none of the %1 rows through.</source>
+        <translation>Der Filter lässt keine der %1 Zeilen durch.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Export CSV</source>
+        <translation>CSV exportieren</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>Kommagetrennte Werte (*.csv)</translation>
+    </message>
+</context>
+<context>
     <name>ListPanes</name>
     <message>
         <source>Track List</source>
@@ -2492,6 +3319,55 @@ Dies ist das letzte Bild.</translation>
     </message>
 </context>
 <context>
+    <name>LockCommands</name>
+    <message>
+        <source>The settings are locked.</source>
+        <translation>Die Einstellungen sind gesperrt.</translation>
+    </message>
+    <message>
+        <source>The settings are not locked.</source>
+        <translation>Die Einstellungen sind nicht gesperrt.</translation>
+    </message>
+    <message>
+        <source>Unlock Settings...</source>
+        <translation>Einstellungen entsperren...</translation>
+    </message>
+    <message>
+        <source>Lock Settings</source>
+        <translation>Einstellungen sperren</translation>
+    </message>
+    <message>
+        <source>Lock Settings...</source>
+        <translation>Einstellungen sperren...</translation>
+    </message>
+</context>
+<context>
+    <name>LogFile</name>
+    <message numerus="yes">
+        <source>%n lines are missing here.</source>
+        <translation>
+            <numerusform>Hier fehlt %n Zeile.</numerusform>
+            <numerusform>Hier fehlen %n Zeilen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be written: %2. It goes on when it can.</source>
+        <translation>Die Protokolldatei %1 kann nicht geschrieben werden: %2. Sie wird fortgesetzt, sobald es geht.</translation>
+    </message>
+    <message>
+        <source>Another run of the program writes the log file; this one does not.</source>
+        <translation>Ein anderer Lauf des Programms schreibt die Protokolldatei; dieser nicht.</translation>
+    </message>
+    <message>
+        <source>No log file can be written in %1.</source>
+        <translation>In %1 kann keine Protokolldatei geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be put aside: %2. It goes on when it can.</source>
+        <translation>Die Protokolldatei %1 kann nicht beiseitegelegt werden: %2. Sie wird fortgesetzt, sobald es geht.</translation>
+    </message>
+</context>
+<context>
     <name>LogGate</name>
     <message>
         <source>%1 … %2 more like this</source>
@@ -2503,6 +3379,10 @@ Dies ist das letzte Bild.</translation>
     <message>
         <source>Clear</source>
         <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Open Log Folder</source>
+        <translation>Protokollordner öffnen</translation>
     </message>
 </context>
 <context>
@@ -2608,6 +3488,32 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>First frame after %1 ms</source>
         <translation>Erstes Bild nach %1 ms</translation>
+    </message>
+    <message>
+        <source>No window can be opened with the profile %1.</source>
+        <translation>Mit dem Profil %1 kann kein Fenster geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Another window with these settings is open: changes in this one are not saved. (Other settings: File, New Window With Profile...)</source>
+        <translation>Ein anderes Fenster mit diesen Einstellungen ist offen: Änderungen in diesem werden nicht gespeichert. (Andere Einstellungen: Datei, Neues Fenster mit Profil...)</translation>
+    </message>
+    <message>
+        <source>The input is not started by itself: the program has crashed twice within a minute of its start. Press Start to try again.</source>
+        <translation>Der Eingang wird nicht von selbst gestartet: das Programm ist zweimal innerhalb einer Minute nach dem Start abgestürzt. Drücken Sie Start für einen neuen Versuch.</translation>
+    </message>
+</context>
+<context>
+    <name>Manual</name>
+    <message>
+        <source>%1 › %2</source>
+        <translation>%1 › %2</translation>
+    </message>
+</context>
+<context>
+    <name>ManualView</name>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Handbuchseite</translation>
     </message>
 </context>
 <context>
@@ -2799,6 +3705,98 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>The name of a file is needed.</source>
         <translation>Der Name einer Datei fehlt.</translation>
+    </message>
+    <message>
+        <source>Draws the airspaces, routes and places of the map index under the traffic.</source>
+        <translation>Zeichnet Lufträume, Strecken und Orte des Kartenindex unter den Verkehr.</translation>
+    </message>
+    <message>
+        <source>The list of the maps that are drawn; a new one is made where the file does not exist.</source>
+        <translation>Die Liste der gezeichneten Karten; fehlt die Datei, wird eine neue angelegt.</translation>
+    </message>
+    <message>
+        <source>The colours, lines and fonts that maps are drawn with.</source>
+        <translation>Farben, Linien und Schriften, mit denen Karten gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>How large the symbols of places are drawn.</source>
+        <translation>Wie groß die Symbole von Orten gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>Draws the sensor of the input where it stands, with all that is chosen below.</source>
+        <translation>Zeichnet den Sensor des Eingangs an seinem Standort, mit allem, was unten gewählt ist.</translation>
+    </message>
+    <message>
+        <source>Writes the sensor&apos;s name beside its site.</source>
+        <translation>Schreibt den Namen des Sensors an seinen Standort.</translation>
+    </message>
+    <message>
+        <source>Draws a circle as far out as the sensor covers.</source>
+        <translation>Zeichnet einen Kreis, so weit der Sensor reicht.</translation>
+    </message>
+    <message>
+        <source>Draws where the antenna points, by the sector messages that come in.</source>
+        <translation>Zeichnet, wohin die Antenne zeigt, nach den ankommenden Sektormeldungen.</translation>
+    </message>
+    <message>
+        <source>Draws a line to the north for a moment whenever the antenna passes it.</source>
+        <translation>Zeichnet kurz eine Linie nach Norden, sooft die Antenne dort vorbeikommt.</translation>
+    </message>
+    <message>
+        <source>Colour of the sensor&apos;s symbol, its name and the rim of its coverage.</source>
+        <translation>Farbe des Sensorsymbols, seines Namens und des Rands seiner Abdeckung.</translation>
+    </message>
+    <message>
+        <source>Colour of the line that turns with the antenna.</source>
+        <translation>Farbe der Linie, die sich mit der Antenne dreht.</translation>
+    </message>
+    <message>
+        <source>Colour of the line that flashes when the antenna passes the north.</source>
+        <translation>Farbe der Linie, die aufblitzt, wenn die Antenne durch Norden geht.</translation>
+    </message>
+    <message>
+        <source>Draws circles of equal distance round the sensor or the centre chosen.</source>
+        <translation>Zeichnet Kreise gleicher Entfernung um den Sensor oder die gewählte Mitte.</translation>
+    </message>
+    <message>
+        <source>How many rings are drawn.</source>
+        <translation>Wie viele Ringe gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>From the centre to the first ring, and from each ring to the next.</source>
+        <translation>Von der Mitte zum ersten Ring und von jedem Ring zum nächsten.</translation>
+    </message>
+    <message>
+        <source>Colour of the rings.</source>
+        <translation>Farbe der Ringe.</translation>
+    </message>
+    <message>
+        <source>Writes the distance on each ring, on four bearings.</source>
+        <translation>Schreibt an jeden Ring die Entfernung, in vier Richtungen.</translation>
+    </message>
+    <message>
+        <source>Draws bearings round the rim of the view, which turn with it.</source>
+        <translation>Zeichnet Richtungen um den Rand der Ansicht, die sich mit ihr drehen.</translation>
+    </message>
+    <message>
+        <source>Draws how long some nautical miles are in the view.</source>
+        <translation>Zeichnet, wie lang einige Seemeilen in der Ansicht sind.</translation>
+    </message>
+    <message>
+        <source>Draws what each symbol and colour that is in sight means.</source>
+        <translation>Zeichnet, was jedes sichtbare Symbol und jede sichtbare Farbe bedeutet.</translation>
+    </message>
+    <message>
+        <source>Colour of ring distances, compass rose, scale bar and key.</source>
+        <translation>Farbe von Ringentfernungen, Kompassrose, Maßstabsleiste und Legende.</translation>
+    </message>
+    <message>
+        <source>How long a plot takes to fade away; 0 stands for three revolutions of the antenna.</source>
+        <translation>Wie lange ein Plot zum Verblassen braucht; 0 steht für drei Umläufe der Antenne.</translation>
+    </message>
+    <message>
+        <source>Colour of the marks of plots.</source>
+        <translation>Farbe der Plotmarken.</translation>
     </message>
 </context>
 <context>
@@ -3885,6 +4883,52 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
 </context>
 <context>
+    <name>PasswordField</name>
+    <message>
+        <source>Set...</source>
+        <translation>Setzen...</translation>
+    </message>
+    <message>
+        <source>Change...</source>
+        <translation>Ändern...</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordWindow</name>
+    <message>
+        <source>Lock Settings</source>
+        <translation>Einstellungen sperren</translation>
+    </message>
+    <message>
+        <source>Without the password nobody changes settings, sensors, maps or layouts here. The scope is worked with as before, and what is switched on it holds until the program ends.</source>
+        <translation>Ohne das Passwort ändert hier niemand Einstellungen, Sensoren, Karten oder Layouts. Mit der Anzeige wird gearbeitet wie bisher, und was an ihr eingeschaltet wird, gilt bis zum Ende des Programms.</translation>
+    </message>
+    <message>
+        <source>&amp;New password:</source>
+        <translation>&amp;Neues Passwort:</translation>
+    </message>
+    <message>
+        <source>At least %1 characters.</source>
+        <translation>Mindestens %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>&amp;Again:</source>
+        <translation>&amp;Noch einmal:</translation>
+    </message>
+    <message>
+        <source>The same once more, against slips.</source>
+        <translation>Dasselbe noch einmal, gegen Tippfehler.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Password</source>
+        <translation>Passwort &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>The two are not the same.</source>
+        <translation>Die beiden sind nicht gleich.</translation>
+    </message>
+</context>
+<context>
     <name>PcapWriter</name>
     <message>
         <source>A payload of %1 octets does not fit into a datagram.</source>
@@ -3896,10 +4940,438 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
 </context>
 <context>
+    <name>PlanLayers</name>
+    <message>
+        <source>Maps</source>
+        <translation>Karten</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>Kacheln</translation>
+    </message>
+    <message>
+        <source>Sensor</source>
+        <translation>Sensor</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Wetter</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Plots</source>
+        <translation>Plots</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>Ringe</translation>
+    </message>
+    <message>
+        <source>Compass Rose</source>
+        <translation>Kompassrose</translation>
+    </message>
+    <message>
+        <source>Scale Bar</source>
+        <translation>Maßstabsleiste</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Legende</translation>
+    </message>
+</context>
+<context>
+    <name>PlanViewWindow</name>
+    <message>
+        <source>Plan View %1 - %2</source>
+        <translation>Lagedarstellung %1 - %2</translation>
+    </message>
+    <message>
+        <source>Plan View %1</source>
+        <translation>Lagedarstellung %1</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Rotate Right</source>
+        <translation>Nach rechts drehen</translation>
+    </message>
+    <message>
+        <source>Rotate Left</source>
+        <translation>Nach links drehen</translation>
+    </message>
+    <message>
+        <source>Rotate North Up</source>
+        <translation>Nach Norden ausrichten</translation>
+    </message>
+    <message>
+        <source>View of the Main Window</source>
+        <translation>Ausschnitt des Hauptfensters</translation>
+    </message>
+    <message>
+        <source>Follow Selected Track</source>
+        <translation>Gewähltem Track folgen</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Labels</translation>
+    </message>
+    <message>
+        <source>Position under the pointer</source>
+        <translation>Position unter dem Zeiger</translation>
+    </message>
+    <message>
+        <source>Scale, metres per pixel</source>
+        <translation>Maßstab, Meter je Pixel</translation>
+    </message>
+    <message>
+        <source>SCL %1</source>
+        <translation>MST %1</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Folgen</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Zentrieren</translation>
+    </message>
+    <message>
+        <source>Reset Label</source>
+        <translation>Label zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Explain</source>
+        <translation>Erklären</translation>
+    </message>
+    <message>
+        <source>Acknowledge</source>
+        <translation>Quittieren</translation>
+    </message>
+</context>
+<context>
     <name>PlotSwitch</name>
     <message>
         <source>Plots are shown because %1 brings target reports but no tracks (Map, Toggle Plots).</source>
         <translation>Plots werden gezeigt, weil %1 Zielmeldungen, aber keine Tracks bringt (Karte, Plots ein/aus).</translation>
+    </message>
+</context>
+<context>
+    <name>ProbeText</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>%1 octets/s</source>
+        <translation>%1 Oktette/s</translation>
+    </message>
+    <message>
+        <source>%1 kB/s</source>
+        <translation>%1 kB/s</translation>
+    </message>
+    <message>
+        <source>%1 MB/s</source>
+        <translation>%1 MB/s</translation>
+    </message>
+    <message>
+        <source>%1 datagrams/s</source>
+        <translation>%1 Datagramme/s</translation>
+    </message>
+    <message>
+        <source>%1 messages/s</source>
+        <translation>%1 Nachrichten/s</translation>
+    </message>
+    <message>
+        <source>with track numbers</source>
+        <translation>mit Tracknummern</translation>
+    </message>
+    <message>
+        <source>with aircraft addresses, no track numbers</source>
+        <translation>mit Luftfahrzeugadressen, ohne Tracknummern</translation>
+    </message>
+    <message>
+        <source>no track numbers</source>
+        <translation>keine Tracknummern</translation>
+    </message>
+    <message>
+        <source>%1 messages a second</source>
+        <translation>%1 Nachrichten je Sekunde</translation>
+    </message>
+    <message>
+        <source>no reports of targets</source>
+        <translation>keine Zielmeldungen</translation>
+    </message>
+    <message>
+        <source>%1 plots a second</source>
+        <translation>%1 Plots je Sekunde</translation>
+    </message>
+    <message>
+        <source>%1 reports a second</source>
+        <translation>%1 Meldungen je Sekunde</translation>
+    </message>
+    <message>
+        <source>no positions</source>
+        <translation>keine Positionen</translation>
+    </message>
+    <message>
+        <source>%1 from %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>%1 sources: %2</source>
+        <translation>%1 Quellen: %2</translation>
+    </message>
+    <message>
+        <source>%1 frames a second</source>
+        <translation>%1 Rahmen je Sekunde</translation>
+    </message>
+    <message>
+        <source>%1 aircraft with extended squitters</source>
+        <translation>%1 Luftfahrzeuge mit Extended Squitter</translation>
+    </message>
+    <message>
+        <source>%1 radar %2</source>
+        <translation>%1 Radar %2</translation>
+    </message>
+    <message>
+        <source>%1 track reports a second</source>
+        <translation>%1 Trackmeldungen je Sekunde</translation>
+    </message>
+    <message>
+        <source>%1, in %2</source>
+        <translation>%1, in %2</translation>
+    </message>
+    <message>
+        <source>Data arrive on %1.</source>
+        <translation>Auf %1 kommen Daten an.</translation>
+    </message>
+    <message>
+        <source>Data arrive on %1, but they are no ASTERIX, Mode S or SIR-M data; they begin with %2.</source>
+        <translation>Auf %1 kommen Daten an, aber es sind keine ASTERIX-, Mode-S- oder SIR-M-Daten; sie beginnen mit %2.</translation>
+    </message>
+    <message>
+        <source>Listening on %1. Nothing has arrived yet.</source>
+        <translation>Es wird auf %1 gehört. Noch ist nichts angekommen.</translation>
+    </message>
+    <message>
+        <source>Nothing arrives on %1, for %2 s now.</source>
+        <translation>Auf %1 kommt nichts an, seit %2 s.</translation>
+    </message>
+    <message>
+        <source>The interface %1 is not there any more.</source>
+        <translation>Die Schnittstelle %1 ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>The interface %1 is switched off.</source>
+        <translation>Die Schnittstelle %1 ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>The interface %1 has no link: check its cable.</source>
+        <translation>Die Schnittstelle %1 hat keine Verbindung: prüfen Sie ihr Kabel.</translation>
+    </message>
+    <message>
+        <source>Is the sender running, and does it send to the group %1 and port %2?</source>
+        <translation>Läuft der Sender, und sendet er an die Gruppe %1 und den Port %2?</translation>
+    </message>
+    <message>
+        <source>Is the sender on the network of the interface %1?</source>
+        <translation>Ist der Sender im Netz der Schnittstelle %1?</translation>
+    </message>
+    <message>
+        <source>Choose the interface that the sender&apos;s network is plugged into; the system has chosen one by itself.</source>
+        <translation>Wählen Sie die Schnittstelle, an der das Netz des Senders angeschlossen ist; das System hat selbst eine gewählt.</translation>
+    </message>
+    <message>
+        <source>Does the firewall of this machine let UDP port %1 in?</source>
+        <translation>Lässt die Firewall dieses Rechners den UDP-Port %1 herein?</translation>
+    </message>
+    <message>
+        <source>Do the switches on the way pass the group on (IGMP)?</source>
+        <translation>Geben die Switches unterwegs die Gruppe weiter (IGMP)?</translation>
+    </message>
+    <message>
+        <source>this machine</source>
+        <translation>diesen Rechner</translation>
+    </message>
+    <message>
+        <source>this machine, %1,</source>
+        <translation>diesen Rechner, %1,</translation>
+    </message>
+    <message>
+        <source>Is the sender running, and does it send to %1 and port %2?</source>
+        <translation>Läuft der Sender, und sendet er an %1 und den Port %2?</translation>
+    </message>
+    <message>
+        <source>Is it multicast? Then tick Multicast and enter the group.</source>
+        <translation>Ist es Multicast? Dann setzen Sie das Häkchen bei Multicast und geben Sie die Gruppe ein.</translation>
+    </message>
+    <message>
+        <source>Is the network cable plugged in?</source>
+        <translation>Ist das Netzwerkkabel eingesteckt?</translation>
+    </message>
+    <message>
+        <source>Is the line plugged in at both ends, and is the sender running?</source>
+        <translation>Ist die Leitung an beiden Enden eingesteckt, und läuft der Sender?</translation>
+    </message>
+    <message>
+        <source>Is %1 the right device?</source>
+        <translation>Ist %1 das richtige Gerät?</translation>
+    </message>
+    <message>
+        <source>Does the line need a crossed cable (null modem)?</source>
+        <translation>Braucht die Leitung ein gekreuztes Kabel (Nullmodem)?</translation>
+    </message>
+    <message>
+        <source>Check baud rate, data bits and parity: with wrong ones the octets arrive garbled.</source>
+        <translation>Prüfen Sie Baudrate, Datenbits und Parität: mit falschen kommen die Oktette verstümmelt an.</translation>
+    </message>
+    <message>
+        <source>Does something else send to this port?</source>
+        <translation>Sendet etwas anderes an diesen Port?</translation>
+    </message>
+    <message>
+        <source>Are the data encrypted, or in another format?</source>
+        <translation>Sind die Daten verschlüsselt oder in einem anderen Format?</translation>
+    </message>
+    <message>
+        <source>polar</source>
+        <translation>polar</translation>
+    </message>
+    <message>
+        <source>Cartesian</source>
+        <translation>kartesisch</translation>
+    </message>
+    <message>
+        <source>WGS-84</source>
+        <translation>WGS-84</translation>
+    </message>
+    <message>
+        <source>%1 positions</source>
+        <translation>%1 Positionen</translation>
+    </message>
+    <message>
+        <source>no table for this category</source>
+        <translation>keine Tabelle für diese Kategorie</translation>
+    </message>
+    <message>
+        <source>cannot be decoded</source>
+        <translation>nicht decodierbar</translation>
+    </message>
+    <message>
+        <source>turning once in %1 s</source>
+        <translation>ein Umlauf in %1 s</translation>
+    </message>
+    <message>
+        <source>Receiver</source>
+        <translation>Empfänger</translation>
+    </message>
+    <message>
+        <source>Radar %1</source>
+        <translation>Radar %1</translation>
+    </message>
+    <message>
+        <source>%1 /s</source>
+        <translation>%1 /s</translation>
+    </message>
+    <message>
+        <source>%1 aircraft, %2 positions</source>
+        <translation>%1 Luftfahrzeuge, %2 Positionen</translation>
+    </message>
+    <message>
+        <source>%1 plots, %2 tracks</source>
+        <translation>%1 Plots, %2 Tracks</translation>
+    </message>
+    <message>
+        <source>Opening %1 ...</source>
+        <translation>%1 wird geöffnet ...</translation>
+    </message>
+    <message>
+        <source>The input is paused.</source>
+        <translation>Der Eingang ist angehalten.</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Nothing for %1 s now; before that: %2.</source>
+        <translation>Seit %1 s nichts; davor: %2.</translation>
+    </message>
+    <message>
+        <source>To be shown with the %1, as the sensor &quot;%2&quot; of the sensor file.</source>
+        <translation>Zu zeigen mit: %1, als Sensor „%2“ der Sensordatei.</translation>
+    </message>
+    <message>
+        <source>To be shown with the %1, as %2.</source>
+        <translation>Zu zeigen mit: %1, als %2.</translation>
+    </message>
+    <message>
+        <source>Location: %1.</source>
+        <translation>Standort: %1.</translation>
+    </message>
+    <message>
+        <source>Where it stands is not told by the data: enter its location.</source>
+        <translation>Wo er steht, sagen die Daten nicht: geben Sie seinen Standort ein.</translation>
+    </message>
+    <message>
+        <source>The time of one turn is not found out yet: listen for some turns more, or enter it.</source>
+        <translation>Die Umlaufzeit ist noch nicht ermittelt: hören Sie noch einige Umläufe zu oder geben Sie sie ein.</translation>
+    </message>
+</context>
+<context>
+    <name>ProbeView</name>
+    <message>
+        <source>What arrives, by source</source>
+        <translation>Was ankommt, nach Quelle</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Edition</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>V/S</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>&amp;Use What Was Found</source>
+        <translation>&amp;Gefundenes verwenden</translation>
+    </message>
+    <message>
+        <source>Fills the pages Processor and Sensor; nothing is applied before you say so.</source>
+        <translation>Füllt die Seiten Verarbeitung und Sensor aus; nichts wird angewendet, bevor Sie es sagen.</translation>
     </message>
 </context>
 <context>
@@ -4019,6 +5491,41 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>What the radar&apos;s messages are wrapped in on the line.</source>
         <translation>Worin die Nachrichten des Radars auf der Leitung verpackt sind.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileWindow</name>
+    <message>
+        <source>New Window With Profile</source>
+        <translation>Neues Fenster mit Profil</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>For example approach</source>
+        <translation>Zum Beispiel anflug</translation>
+    </message>
+    <message>
+        <source>A profile has its own settings, layouts and windows. Choose one, or name a new one.</source>
+        <translation>Ein Profil hat eigene Einstellungen, Layouts und Fenster. Wählen Sie eines oder nennen Sie ein neues.</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation>&amp;Profil:</translation>
+    </message>
+    <message>
+        <source>Open &amp;Window</source>
+        <translation>&amp;Fenster öffnen</translation>
+    </message>
+    <message>
+        <source>A name has letters A to Z, digits and the signs - _ . only.</source>
+        <translation>Ein Name besteht nur aus Buchstaben von A bis Z, Ziffern und den Zeichen - _ .</translation>
+    </message>
+    <message>
+        <source>This window has that profile.</source>
+        <translation>Dieses Fenster hat jenes Profil.</translation>
     </message>
 </context>
 <context>
@@ -4340,10 +5847,6 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <translation>Nicht decodiert: %1, bei Oktett %2.</translation>
     </message>
     <message>
-        <source>See the octets.</source>
-        <translation>Siehe die Oktette.</translation>
-    </message>
-    <message>
         <source>Only the first %1 of its %2 octets are kept.</source>
         <translation>Nur die ersten %1 der %2 Oktette sind aufbewahrt.</translation>
     </message>
@@ -4505,6 +6008,13 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>The recording does not tell where %1 stands: it is shown around %2 for now; give its place with --sensor, or as Location in Settings, Sensor.</source>
         <translation>Die Aufzeichnung sagt nicht, wo %1 steht: sie wird vorläufig um %2 gezeigt; geben Sie den Standort mit --sensor oder in den Einstellungen unter Sensor an.</translation>
+    </message>
+</context>
+<context>
+    <name>Reopening</name>
+    <message>
+        <source>The input is opened again in %1 s.</source>
+        <translation>Der Eingang wird in %1 s wieder geöffnet.</translation>
     </message>
 </context>
 <context>
@@ -4961,6 +6471,22 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <source>Alenia SIR-M track record</source>
         <translation>Alenia-SIR-M-Trackdatensatz</translation>
     </message>
+    <message>
+        <source>plot type</source>
+        <translation>Plotart</translation>
+    </message>
+    <message>
+        <source>slant range</source>
+        <translation>Schrägentfernung</translation>
+    </message>
+    <message>
+        <source>azimuth</source>
+        <translation>Azimut</translation>
+    </message>
+    <message>
+        <source>Alenia SIR-M plot record</source>
+        <translation>Alenia-SIR-M-Plotdatensatz</translation>
+    </message>
 </context>
 <context>
     <name>RotationWindow</name>
@@ -4982,6 +6508,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>Cannot write the settings file %1</source>
         <translation>Die Einstellungsdatei %1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Changed settings are not saved: another window with the same settings was open first.</source>
+        <translation>Geänderte Einstellungen werden nicht gespeichert: ein anderes Fenster mit denselben Einstellungen war zuerst offen.</translation>
     </message>
 </context>
 <context>
@@ -5264,32 +6794,37 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <source>Another sensor is named &quot;%1&quot;.</source>
         <translation>Ein anderer Sensor heißt „%1“.</translation>
     </message>
+    <message>
+        <source>What kind of sensor it is; the fields below depend on it.</source>
+        <translation>Welche Art Sensor es ist; die Felder darunter hängen davon ab.</translation>
+    </message>
+    <message>
+        <source>What the sensor is called on the map and in messages; no two have the same name.</source>
+        <translation>Wie der Sensor auf der Karte und in Meldungen heißt; keine zwei heißen gleich.</translation>
+    </message>
+    <message>
+        <source>Where the sensor stands (WGS-84), such as 480815N0114712E or 48.1375 11.7867.</source>
+        <translation>Wo der Sensor steht (WGS-84), etwa 480815N0114712E oder 48.1375 11.7867.</translation>
+    </message>
+    <message>
+        <source>Whatever helps to tell the sensor from others.</source>
+        <translation>Was immer den Sensor von anderen unterscheiden hilft.</translation>
+    </message>
+    <message>
+        <source>Who made the sensor; those of the other records are offered.</source>
+        <translation>Wer den Sensor gebaut hat; die der anderen Datensätze werden angeboten.</translation>
+    </message>
+    <message>
+        <source>What the maker calls it; the models of the maker&apos;s other records are offered.</source>
+        <translation>Wie der Hersteller ihn nennt; die Modelle seiner anderen Datensätze werden angeboten.</translation>
+    </message>
+    <message>
+        <source>The year in which the sensor entered service.</source>
+        <translation>Das Jahr, in dem der Sensor in Betrieb ging.</translation>
+    </message>
 </context>
 <context>
-    <name>SensorManager</name>
-    <message>
-        <source>%1: sensor &quot;%2&quot; has a value that is not valid and takes its default: %3</source>
-        <translation>%1: der Sensor „%2“ hat einen ungültigen Wert und erhält dessen Vorgabe: %3</translation>
-    </message>
-    <message>
-        <source>%1: sensors &quot;%2&quot; and &quot;%3&quot; have the same SAC/SIC, %4/%5</source>
-        <translation>%1: die Sensoren „%2“ und „%3“ haben denselben SAC/SIC, %4/%5</translation>
-    </message>
-</context>
-<context>
-    <name>SensorManagerWindow</name>
-    <message>
-        <source>It is no JSON list of sensors.</source>
-        <translation>Es ist keine JSON-Liste von Sensoren.</translation>
-    </message>
-    <message>
-        <source>The device reported an error while writing.</source>
-        <translation>Das Gerät meldete beim Schreiben einen Fehler.</translation>
-    </message>
-    <message>
-        <source>Sensor Manager</source>
-        <translation>Sensorverwaltung</translation>
-    </message>
+    <name>SensorList</name>
     <message>
         <source>Name</source>
         <translation>Name</translation>
@@ -5313,6 +6848,56 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>Description</source>
         <translation>Beschreibung</translation>
+    </message>
+</context>
+<context>
+    <name>SensorManager</name>
+    <message>
+        <source>%1: sensor &quot;%2&quot; has a value that is not valid and takes its default: %3</source>
+        <translation>%1: der Sensor „%2“ hat einen ungültigen Wert und erhält dessen Vorgabe: %3</translation>
+    </message>
+    <message>
+        <source>%1: sensors &quot;%2&quot; and &quot;%3&quot; have the same SAC/SIC, %4/%5</source>
+        <translation>%1: die Sensoren „%2“ und „%3“ haben denselben SAC/SIC, %4/%5</translation>
+    </message>
+    <message>
+        <source>Record %1: %2</source>
+        <translation>Datensatz %1: %2</translation>
+    </message>
+    <message>
+        <source>it is no object.</source>
+        <translation>es ist kein Objekt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no known type: &quot;%2&quot;.</source>
+        <translation>„%1“ hat keinen bekannten Typ: „%2“.</translation>
+    </message>
+    <message>
+        <source>it has no name.</source>
+        <translation>er hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no valid location: &quot;%2&quot;.</source>
+        <translation>„%1“ hat keinen gültigen Standort: „%2“.</translation>
+    </message>
+    <message>
+        <source>It is no JSON: %1, line %2.</source>
+        <translation>Es ist kein JSON: %1, Zeile %2.</translation>
+    </message>
+    <message>
+        <source>It is no JSON list of sensors.</source>
+        <translation>Es ist keine JSON-Liste von Sensoren.</translation>
+    </message>
+</context>
+<context>
+    <name>SensorManagerWindow</name>
+    <message>
+        <source>The device reported an error while writing.</source>
+        <translation>Das Gerät meldete beim Schreiben einen Fehler.</translation>
+    </message>
+    <message>
+        <source>Sensor Manager</source>
+        <translation>Sensorverwaltung</translation>
     </message>
     <message>
         <source>&amp;Add...</source>
@@ -5341,10 +6926,6 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>&amp;Save</source>
         <translation>&amp;Speichern</translation>
-    </message>
-    <message>
-        <source>Save &amp;as...</source>
-        <translation>Speichern &amp;unter...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -5393,6 +6974,108 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>Save the changes to the sensor file?</source>
         <translation>Änderungen in der Sensordatei speichern?</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiterer</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Import Sensors</source>
+        <translation>Sensoren importieren</translation>
+    </message>
+    <message>
+        <source>The sensor file could not be imported.</source>
+        <translation>Die Sensordatei konnte nicht importiert werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already: imported as &quot;%2&quot;.</source>
+        <translation>„%1“ gibt es schon: als „%2“ importiert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sensor(s) imported.</source>
+        <translation>
+            <numerusform>%n Sensor importiert.</numerusform>
+            <numerusform>%n Sensoren importiert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export Sensors</source>
+        <translation>Sensoren exportieren</translation>
+    </message>
+    <message>
+        <source>The sensors could not be exported.</source>
+        <translation>Die Sensoren konnten nicht exportiert werden.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file since it was read.</source>
+        <translation>Ein anderes Programm hat die Datei geändert, seit sie gelesen wurde.</translation>
+    </message>
+    <message>
+        <source>If it is saved now, the changes of the other program are lost.
+%1</source>
+        <translation>Wird jetzt gespeichert, gehen die Änderungen des anderen Programms verloren.
+%1</translation>
+    </message>
+    <message>
+        <source>Save &amp;Anyway</source>
+        <translation>&amp;Trotzdem speichern</translation>
+    </message>
+    <message>
+        <source>Sensors</source>
+        <translation>Sensoren</translation>
+    </message>
+    <message>
+        <source>In the order of the file; drag a sensor, or move it with Alt+Up and Alt+Down.</source>
+        <translation>In der Reihenfolge der Datei; ziehen Sie einen Sensor oder verschieben Sie ihn mit Alt+Auf und Alt+Ab.</translation>
+    </message>
+    <message>
+        <source>Move U&amp;p</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Nach un&amp;ten</translation>
+    </message>
+    <message>
+        <source>U&amp;ndo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>I&amp;mportieren...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportieren...</translation>
+    </message>
+    <message>
+        <source>Click the header until the list is not sorted.</source>
+        <translation>Klicken Sie auf die Kopfzeile, bis die Liste nicht sortiert ist.</translation>
+    </message>
+    <message>
+        <source>These records of the file could not be read, and will not be in it when it is saved:
+%1</source>
+        <translation>Diese Datensätze der Datei konnten nicht gelesen werden und werden nach dem Speichern nicht mehr darin stehen:
+%1</translation>
+    </message>
+    <message>
+        <source>No sensors yet. Add one, or import a file.</source>
+        <translation>Noch keine Sensoren. Fügen Sie einen hinzu oder importieren Sie eine Datei.</translation>
     </message>
 </context>
 <context>
@@ -5492,12 +7175,68 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <translation>ADS-B-&amp;Versionen:</translation>
     </message>
     <message>
-        <source>Azimuth change pulses per revolution of the antenna</source>
-        <translation>Azimutpulse je Umlauf der Antenne</translation>
-    </message>
-    <message>
         <source>Azimuth &amp;pulses:</source>
         <translation>Azimut&amp;pulse:</translation>
+    </message>
+    <message>
+        <source>Height of the antenna above sea level.</source>
+        <translation>Höhe der Antenne über dem Meeresspiegel.</translation>
+    </message>
+    <message>
+        <source>How long the antenna takes for one turn; tracks live by it.</source>
+        <translation>Wie lange die Antenne für einen Umlauf braucht; danach richtet sich die Lebensdauer der Tracks.</translation>
+    </message>
+    <message>
+        <source>Detects whatever reflects, with or without a transponder.</source>
+        <translation>Erfasst, was reflektiert, mit oder ohne Transponder.</translation>
+    </message>
+    <message>
+        <source>How far the primary radar sees; drawn as a circle.</source>
+        <translation>Wie weit das Primärradar sieht; als Kreis gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Asks transponders for code and level.</source>
+        <translation>Fragt Transponder nach Code und Höhe.</translation>
+    </message>
+    <message>
+        <source>Asks single aircraft by their address; every Mode S radar is a secondary one.</source>
+        <translation>Fragt einzelne Luftfahrzeuge unter ihrer Adresse; jedes Mode-S-Radar ist auch ein Sekundärradar.</translation>
+    </message>
+    <message>
+        <source>How far the secondary radar sees; drawn as a circle.</source>
+        <translation>Wie weit das Sekundärradar sieht; als Kreis gezeichnet.</translation>
+    </message>
+    <message>
+        <source>How far the station receives; drawn as a circle.</source>
+        <translation>Wie weit die Station empfängt; als Kreis gezeichnet.</translation>
+    </message>
+    <message>
+        <source>How often an aircraft is reported; tracks live by it.</source>
+        <translation>Wie oft ein Luftfahrzeug gemeldet wird; danach richtet sich die Lebensdauer der Tracks.</translation>
+    </message>
+    <message>
+        <source>The versions of ADS-B that the station receives, with commas between them.</source>
+        <translation>Die ADS-B-Versionen, die die Station empfängt, durch Kommas getrennt.</translation>
+    </message>
+    <message>
+        <source>How far the system locates aircraft; drawn as a circle.</source>
+        <translation>Wie weit das System Luftfahrzeuge ortet; als Kreis gezeichnet.</translation>
+    </message>
+    <message>
+        <source>How far the system&apos;s tracks reach; drawn as a circle.</source>
+        <translation>Wie weit die Tracks des Systems reichen; als Kreis gezeichnet.</translation>
+    </message>
+    <message>
+        <source>How often the system sends its tracks; tracks live by it.</source>
+        <translation>Wie oft das System seine Tracks sendet; danach richtet sich die Lebensdauer der Tracks.</translation>
+    </message>
+    <message>
+        <source>How far the radar sees; drawn as a circle.</source>
+        <translation>Wie weit das Radar sieht; als Kreis gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Azimuth change pulses per revolution of the antenna.</source>
+        <translation>Azimutpulse je Umlauf der Antenne.</translation>
     </message>
 </context>
 <context>
@@ -5579,12 +7318,16 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <translation>Flusssteuerung</translation>
     </message>
     <message>
-        <source>The serial device is gone: %1</source>
-        <translation>Das serielle Gerät ist verschwunden: %1</translation>
-    </message>
-    <message>
         <source>Close async serial device</source>
         <translation>Serielles Gerät wird geschlossen</translation>
+    </message>
+    <message>
+        <source>The serial device is gone: %1. It is opened again when it is back.</source>
+        <translation>Das serielle Gerät ist verschwunden: %1. Es wird wieder geöffnet, sobald es zurück ist.</translation>
+    </message>
+    <message>
+        <source>The serial device %1 is back.</source>
+        <translation>Das serielle Gerät %1 ist wieder da.</translation>
     </message>
 </context>
 <context>
@@ -5639,6 +7382,45 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source> MiB</source>
         <translation> MiB</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsReference</name>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>From %1 to %2%3.</source>
+        <translation>Von %1 bis %2%3.</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>By itself</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Wirkung</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>All Settings</source>
+        <translation>Alle Einstellungen</translation>
+    </message>
+    <message>
+        <source>The fields of the settings window, page by page. &quot;Key&quot; is the name under which the settings file has a setting. A sensor that is chosen there brings settings of its own.</source>
+        <translation>Die Felder des Einstellungsfensters, Seite für Seite. „Schlüssel“ ist der Name, unter dem die Einstellungsdatei eine Einstellung hat. Ein dort gewählter Sensor bringt eigene Einstellungen mit.</translation>
     </message>
 </context>
 <context>
@@ -6528,8 +8310,16 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <translation>Sie kann nicht wiedergegeben werden: %1</translation>
     </message>
     <message>
-        <source>The file is damaged, and what follows cannot be played: %1</source>
-        <translation>Die Datei ist beschädigt, und was folgt, kann nicht wiedergegeben werden: %1</translation>
+        <source>In %1 of %2 records of %3 the aircraft identification cannot be right: its callsigns are not to be relied on.</source>
+        <translation>In %1 von %2 Datensätzen von %3 kann die Luftfahrzeugkennung nicht stimmen: auf die Rufzeichen ist kein Verlass.</translation>
+    </message>
+    <message>
+        <source>Blanks stand before or between its characters, as in &quot;%1&quot;.</source>
+        <translation>Leerzeichen stehen vor oder zwischen den Zeichen, wie in „%1“.</translation>
+    </message>
+    <message>
+        <source>The file is damaged, and nothing can be played beyond that place: %1</source>
+        <translation>Die Datei ist beschädigt, und jenseits jener Stelle kann nichts wiedergegeben werden: %1</translation>
     </message>
 </context>
 <context>
@@ -6751,6 +8541,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>shown as %1, %2</source>
         <translation>gezeigt als %1, %2</translation>
+    </message>
+    <message>
+        <source>the report is one of those that this track is made of</source>
+        <translation>die Meldung ist eine von denen, aus denen dieser Track besteht</translation>
     </message>
 </context>
 <context>
@@ -7195,10 +8989,6 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <translation>Der Dienst wird nicht gefragt.</translation>
     </message>
     <message>
-        <source>&amp;Server instead of the service&apos;s own:</source>
-        <translation>S&amp;erver statt des vom Dienst vorgegebenen:</translation>
-    </message>
-    <message>
         <source>Such as https://tiles.example:8443. Empty: the service&apos;s own.</source>
         <translation>Etwa https://tiles.example:8443. Leer: der des Dienstes.</translation>
     </message>
@@ -7245,6 +9035,86 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>An address with http:// or https:// and a host.</source>
         <translation>Eine Adresse mit http:// oder https:// und einem Host.</translation>
+    </message>
+    <message>
+        <source>Draws maps or pictures of the ground from a service or a file.</source>
+        <translation>Zeichnet Karten oder Bilder des Bodens von einem Dienst oder aus einer Datei.</translation>
+    </message>
+    <message>
+        <source>Where the tiles come from that lie at the bottom of the picture.</source>
+        <translation>Woher die Kacheln kommen, die im Bild zuunterst liegen.</translation>
+    </message>
+    <message>
+        <source>For tiles that are transparent apart from names or airspaces.</source>
+        <translation>Für Kacheln, die außer Namen oder Lufträumen durchsichtig sind.</translation>
+    </message>
+    <message>
+        <source>Where the tiles come from that lie over the static maps.</source>
+        <translation>Woher die Kacheln kommen, die über den statischen Karten liegen.</translation>
+    </message>
+    <message>
+        <source>The service whose settings stand below; this chooses no service.</source>
+        <translation>Der Dienst, dessen Einstellungen unten stehen; damit wird kein Dienst gewählt.</translation>
+    </message>
+    <message>
+        <source>Which pictures of the service are shown.</source>
+        <translation>Welche Bilder des Dienstes gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Which maps of the service are shown.</source>
+        <translation>Welche Karten des Dienstes gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Sharper on fine screens, and four times as much to load.</source>
+        <translation>Schärfer auf feinen Bildschirmen, und viermal so viel zu laden.</translation>
+    </message>
+    <message>
+        <source>Which charts of the service are shown.</source>
+        <translation>Welche Luftfahrtkarten des Dienstes gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>The deepest level that has tiles; closer views enlarge these.</source>
+        <translation>Die größte Stufe mit Kacheln; nähere Ansichten vergrößern diese.</translation>
+    </message>
+    <message>
+        <source>Writes each tile that is loaded to the directory below, for times without a network.</source>
+        <translation>Schreibt jede geladene Kachel in das Verzeichnis unten, für Zeiten ohne Netz.</translation>
+    </message>
+    <message>
+        <source>Where tiles are kept for good, a file each.</source>
+        <translation>Wo Kacheln auf Dauer aufbewahrt werden, je eine Datei.</translation>
+    </message>
+    <message>
+        <source>Other &amp;server:</source>
+        <translation>Anderer S&amp;erver:</translation>
+    </message>
+    <message>
+        <source>Where tiles are kept that have been loaded, up to a bound.</source>
+        <translation>Wo geladene Kacheln bis zu einer Grenze aufbewahrt werden.</translation>
+    </message>
+    <message>
+        <source>Reaches the services through a SOCKS 5 proxy.</source>
+        <translation>Erreicht die Dienste über einen SOCKS-5-Proxy.</translation>
+    </message>
+    <message>
+        <source>Name or address of the proxy.</source>
+        <translation>Name oder Adresse des Proxys.</translation>
+    </message>
+    <message>
+        <source>The TCP port of the proxy.</source>
+        <translation>Der TCP-Port des Proxys.</translation>
+    </message>
+    <message>
+        <source>Empty for a proxy that asks for no name.</source>
+        <translation>Leer für einen Proxy, der keinen Namen verlangt.</translation>
+    </message>
+    <message>
+        <source>Stands in the settings file as it is entered here.</source>
+        <translation>Steht in der Einstellungsdatei so, wie es hier eingegeben wird.</translation>
+    </message>
+    <message>
+        <source>Off: this machine looks them up itself.</source>
+        <translation>Aus: dieser Rechner löst sie selbst auf.</translation>
     </message>
 </context>
 <context>
@@ -7710,10 +9580,6 @@ Ab jetzt anfragen?</translation>
         <translation>Quittieren</translation>
     </message>
     <message>
-        <source>Explain Plot</source>
-        <translation>Plot erklären</translation>
-    </message>
-    <message>
         <source>Select</source>
         <translation>Auswählen</translation>
     </message>
@@ -7871,6 +9737,50 @@ Ab jetzt anfragen?</translation>
     <message>
         <source>0 % is transparent, 100 % hides what lies under the label.</source>
         <translation>0 % ist durchsichtig, 100 % verdeckt, was unter dem Label liegt.</translation>
+    </message>
+    <message>
+        <source>Colour of tracks that are updated as they should be.</source>
+        <translation>Farbe von Tracks, die wie vorgesehen aktualisiert werden.</translation>
+    </message>
+    <message>
+        <source>Colour of the edge that sets symbols off from whatever lies under them.</source>
+        <translation>Farbe des Rands, der Symbole von dem abhebt, was unter ihnen liegt.</translation>
+    </message>
+    <message>
+        <source>Colour of tracks without a report for too long.</source>
+        <translation>Farbe von Tracks, die zu lange ohne Meldung sind.</translation>
+    </message>
+    <message>
+        <source>Colour of emergencies and of what needs a look but is no alert.</source>
+        <translation>Farbe von Notfällen und von dem, was einen Blick verlangt, aber kein Alarm ist.</translation>
+    </message>
+    <message>
+        <source>Colour of a label&apos;s first line, which says who it is.</source>
+        <translation>Farbe der ersten Zeile eines Labels, die sagt, wer es ist.</translation>
+    </message>
+    <message>
+        <source>Colour of level, speed and all else in a label.</source>
+        <translation>Farbe von Höhe, Geschwindigkeit und allem Übrigen in einem Label.</translation>
+    </message>
+    <message>
+        <source>Colour of the label and the symbol of the track that is selected.</source>
+        <translation>Farbe von Label und Symbol des gewählten Tracks.</translation>
+    </message>
+    <message>
+        <source>Colour of tracks with an alert and of the ground behind the alert&apos;s name.</source>
+        <translation>Farbe von Tracks mit Alarm und des Grundes hinter dem Namen des Alarms.</translation>
+    </message>
+    <message>
+        <source>Colour of the alert&apos;s name in a label.</source>
+        <translation>Farbe des Alarmnamens in einem Label.</translation>
+    </message>
+    <message>
+        <source>Colour of the lines from symbols to their labels.</source>
+        <translation>Farbe der Linien von Symbolen zu ihren Labels.</translation>
+    </message>
+    <message>
+        <source>Colour of the ground behind the text of a label.</source>
+        <translation>Farbe des Grundes hinter dem Text eines Labels.</translation>
     </message>
 </context>
 <context>
@@ -8115,10 +10025,6 @@ Ab jetzt anfragen?</translation>
         <translation>nein</translation>
     </message>
     <message>
-        <source>range and azimuth from the sensor; the slant range is taken as the distance over ground</source>
-        <translation>Entfernung und Azimut vom Sensor; die Schrägentfernung gilt als Entfernung über Grund</translation>
-    </message>
-    <message>
         <source>x and y from the sensor, since there is no measured range and azimuth</source>
         <translation>x und y vom Sensor, da Entfernung und Azimut nicht gemessen sind</translation>
     </message>
@@ -8209,6 +10115,26 @@ Ab jetzt anfragen?</translation>
     <message>
         <source>tentative or coasting as the source says, else confirmed</source>
         <translation>vorläufig oder extrapoliert, wie die Quelle sagt, sonst bestätigt</translation>
+    </message>
+    <message>
+        <source>the slant range is taken as the distance over ground</source>
+        <translation>die Schrägentfernung gilt als Entfernung über Grund</translation>
+    </message>
+    <message>
+        <source>the slant range is corrected by the level of this report, as the sensor&apos;s settings say</source>
+        <translation>die Schrägentfernung ist mit der Höhe dieser Meldung korrigiert, wie beim Sensor eingestellt</translation>
+    </message>
+    <message>
+        <source>the slant range is corrected by the track&apos;s level, as the sensor&apos;s settings say; this report has none</source>
+        <translation>die Schrägentfernung ist mit der Höhe des Tracks korrigiert, wie beim Sensor eingestellt; diese Meldung hat keine</translation>
+    </message>
+    <message>
+        <source>the slant range is taken as the distance over ground, since no level is known to correct it by</source>
+        <translation>die Schrägentfernung gilt als Entfernung über Grund, da keine Höhe zum Korrigieren bekannt ist</translation>
+    </message>
+    <message>
+        <source>range and azimuth from the sensor</source>
+        <translation>Entfernung und Azimut vom Sensor</translation>
     </message>
 </context>
 <context>
@@ -8514,6 +10440,46 @@ Ab jetzt anfragen?</translation>
         <source>Active safety-net alerts, emergencies (HIJ, RDO, EMG) and special pulse (SPI)</source>
         <translation>Aktive Alarme der Sicherheitsnetze, Notfälle (HIJ, RDO, EMG) und Sonderimpuls (SPI)</translation>
     </message>
+    <message>
+        <source>Sel</source>
+        <translation>Gew.</translation>
+    </message>
+    <message>
+        <source>Selected altitude, hundreds of feet</source>
+        <translation>Gewählte Höhe, Hunderte Fuß</translation>
+    </message>
+    <message>
+        <source>Dist</source>
+        <translation>Entf.</translation>
+    </message>
+    <message>
+        <source>Distance from the sensor, nautical miles</source>
+        <translation>Entfernung vom Sensor, Seemeilen</translation>
+    </message>
+    <message>
+        <source>Brg</source>
+        <translation>Peil.</translation>
+    </message>
+    <message>
+        <source>True bearing from the sensor, degrees</source>
+        <translation>Rechtweisende Peilung vom Sensor, Grad</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Alter</translation>
+    </message>
+    <message>
+        <source>Since the last report, seconds</source>
+        <translation>Seit der letzten Meldung, Sekunden</translation>
+    </message>
+    <message>
+        <source>Sensor No.</source>
+        <translation>Sensor-Nr.</translation>
+    </message>
+    <message>
+        <source>The sensor&apos;s own track number</source>
+        <translation>Die Tracknummer des Sensors selbst</translation>
+    </message>
 </context>
 <context>
     <name>TrackSymbols</name>
@@ -8642,6 +10608,18 @@ Ab jetzt anfragen?</translation>
         <source>Stop UDP input</source>
         <translation>UDP-Eingang wird gestoppt</translation>
     </message>
+    <message>
+        <source>it is down</source>
+        <translation>sie ist ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>The multicast group %1 has been joined again on interface %2.</source>
+        <translation>Der Multicast-Gruppe %1 wurde auf der Schnittstelle %2 wieder beigetreten.</translation>
+    </message>
+    <message>
+        <source>The network interface %1 brings nothing: %2. The multicast group %3 is joined again when it is back.</source>
+        <translation>Die Netzwerkschnittstelle %1 liefert nichts: %2. Der Multicast-Gruppe %3 wird wieder beigetreten, sobald sie zurück ist.</translation>
+    </message>
 </context>
 <context>
     <name>UdpInputFields</name>
@@ -8705,6 +10683,18 @@ Ab jetzt anfragen?</translation>
         <source>Both inputs have the same port.</source>
         <translation>Beide Eingänge haben denselben Port.</translation>
     </message>
+    <message>
+        <source>The UDP port that the sensor sends to.</source>
+        <translation>Der UDP-Port, an den der Sensor sendet.</translation>
+    </message>
+    <message>
+        <source>For a sensor that sends to a group of receivers instead of to this machine alone.</source>
+        <translation>Für einen Sensor, der an eine Gruppe von Empfängern sendet statt nur an diesen Rechner.</translation>
+    </message>
+    <message>
+        <source>%1 (not there)</source>
+        <translation>%1 (nicht da)</translation>
+    </message>
 </context>
 <context>
     <name>UdpPortUsers</name>
@@ -8715,6 +10705,36 @@ Ab jetzt anfragen?</translation>
     <message>
         <source>&quot;%1&quot; (process %2, user %3)</source>
         <translation>„%1“ (Prozess %2, Benutzer %3)</translation>
+    </message>
+</context>
+<context>
+    <name>UnlockWindow</name>
+    <message>
+        <source>Unlock Settings</source>
+        <translation>Einstellungen entsperren</translation>
+    </message>
+    <message>
+        <source>The settings of this position are locked.</source>
+        <translation>Die Einstellungen dieses Arbeitsplatzes sind gesperrt.</translation>
+    </message>
+    <message>
+        <source>Opens the settings until they are locked again or the program ends.</source>
+        <translation>Öffnet die Einstellungen, bis sie wieder gesperrt werden oder das Programm endet.</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
+    <message numerus="yes">
+        <source>This is not the password. Try again in %n s.</source>
+        <translation>
+            <numerusform>Das ist nicht das Passwort. Versuchen Sie es in %n s noch einmal.</numerusform>
+            <numerusform>Das ist nicht das Passwort. Versuchen Sie es in %n s noch einmal.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is not the password.</source>
+        <translation>Das ist nicht das Passwort.</translation>
     </message>
 </context>
 <context>
@@ -8782,6 +10802,18 @@ Ab jetzt anfragen?</translation>
     <message>
         <source>O&amp;pacity (0-255):</source>
         <translation>Dec&amp;kkraft (0-255):</translation>
+    </message>
+    <message>
+        <source>Draws the echoes as the radar&apos;s receiver has them (CAT240).</source>
+        <translation>Zeichnet die Echos, wie der Empfänger des Radars sie hat (CAT240).</translation>
+    </message>
+    <message>
+        <source>Colour of echoes just above the threshold; stronger ones go over to the other colour.</source>
+        <translation>Farbe von Echos knapp über der Schwelle; stärkere gehen in die andere Farbe über.</translation>
+    </message>
+    <message>
+        <source>Colour of echoes of full amplitude.</source>
+        <translation>Farbe von Echos voller Amplitude.</translation>
     </message>
 </context>
 <context>
@@ -8883,6 +10915,101 @@ Ab jetzt anfragen?</translation>
         <source>Level &amp;%1:</source>
         <translation>Stufe &amp;%1:</translation>
     </message>
+    <message>
+        <source>Draws the radar&apos;s weather pictures (CAT008).</source>
+        <translation>Zeichnet die Wetterbilder des Radars (CAT008).</translation>
+    </message>
+    <message>
+        <source>For radars that send empty pictures between full ones.</source>
+        <translation>Für Radare, die zwischen vollen Bildern leere senden.</translation>
+    </message>
+    <message>
+        <source>How long a picture is shown when no other one follows.</source>
+        <translation>Wie lange ein Bild gezeigt wird, wenn kein anderes folgt.</translation>
+    </message>
+    <message>
+        <source>Leaves no gaps between the vectors of a picture, whatever their number.</source>
+        <translation>Lässt keine Lücken zwischen den Vektoren eines Bilds, wie viele es auch sind.</translation>
+    </message>
+    <message>
+        <source>Fills in the colours of all levels; each of them can be changed afterwards.</source>
+        <translation>Füllt die Farben aller Stufen aus; jede kann danach geändert werden.</translation>
+    </message>
+    <message>
+        <source>Colour of weather of this intensity, 0 being the lightest.</source>
+        <translation>Farbe von Wetter dieser Intensität; 0 ist die schwächste.</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherExplanation</name>
+    <message>
+        <source>Intensity</source>
+        <translation>Intensität</translation>
+    </message>
+    <message>
+        <source>From range</source>
+        <translation>Von Entfernung</translation>
+    </message>
+    <message>
+        <source>To range</source>
+        <translation>Bis Entfernung</translation>
+    </message>
+    <message>
+        <source>Azimuth</source>
+        <translation>Azimut</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>drawn around the place of the input&apos;s sensor</source>
+        <translation>um den Standort des Eingangssensors gezeichnet</translation>
+    </message>
+    <message>
+        <source>Scaling factor</source>
+        <translation>Skalierungsfaktor</translation>
+    </message>
+    <message>
+        <source>Time of picture</source>
+        <translation>Zeit des Bilds</translation>
+    </message>
+    <message>
+        <source>Vectors in picture</source>
+        <translation>Vektoren im Bild</translation>
+    </message>
+    <message>
+        <source>as its end announces</source>
+        <translation>wie sein Ende angibt</translation>
+    </message>
+    <message>
+        <source>its message is kept no more</source>
+        <translation>seine Nachricht ist nicht mehr aufbewahrt</translation>
+    </message>
+    <message>
+        <source>hatched, since this level is switched off (Weather Intensity)</source>
+        <translation>schraffiert, da diese Stufe ausgeschaltet ist (Wetterintensität)</translation>
+    </message>
+    <message>
+        <source>in the colour of its level, stronger over weaker</source>
+        <translation>in der Farbe seiner Stufe, stärkere über schwächeren</translation>
+    </message>
+    <message>
+        <source>scaled by the factor that an earlier picture began with</source>
+        <translation>skaliert mit dem Faktor, mit dem ein früheres Bild begann</translation>
+    </message>
+    <message>
+        <source>%1 × 2^(F − 7) NM, with the scaling factor F = %2</source>
+        <translation>%1 × 2^(F − 7) NM, mit dem Skalierungsfaktor F = %2</translation>
+    </message>
+    <message>
+        <source>drawn %1° wide, so that neighbours touch</source>
+        <translation>%1° breit gezeichnet, sodass Nachbarn sich berühren</translation>
+    </message>
+    <message>
+        <source>drawn %1° wide, as the settings say</source>
+        <translation>%1° breit gezeichnet, wie eingestellt</translation>
+    </message>
 </context>
 <context>
     <name>WeatherIntensityWindow</name>
@@ -8968,6 +11095,68 @@ Ab jetzt anfragen?</translation>
     <message>
         <source>incomplete</source>
         <translation>unvollständig</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>What do you want to see?</source>
+        <translation>Was möchten Sie sehen?</translation>
+    </message>
+    <message>
+        <source>&amp;Demonstration</source>
+        <translation>&amp;Vorführung</translation>
+    </message>
+    <message>
+        <source>Made-up traffic, to look around. Your settings stay as they are; Stop ends it.</source>
+        <translation>Erdachter Verkehr, um sich umzusehen. Ihre Einstellungen bleiben, wie sie sind; Stopp beendet sie.</translation>
+    </message>
+    <message>
+        <source>Open a &amp;Recording...</source>
+        <translation>&amp;Aufzeichnung öffnen...</translation>
+    </message>
+    <message>
+        <source>A capture or a recorder&apos;s file. What it holds is found out by itself.</source>
+        <translation>Ein Mitschnitt oder die Datei eines Aufzeichners. Was sie enthält, wird von selbst ermittelt.</translation>
+    </message>
+    <message>
+        <source>&amp;Live Input...</source>
+        <translation>&amp;Live-Eingang...</translation>
+    </message>
+    <message>
+        <source>A network or a serial line. You see what arrives before anything is set.</source>
+        <translation>Ein Netz oder eine serielle Leitung. Sie sehen, was ankommt, bevor etwas eingestellt wird.</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Design:</translation>
+    </message>
+    <message>
+        <source>Esc leads to the empty scope. Help, Getting Started... brings this page back.</source>
+        <translation>Esc führt zur leeren Anzeige. Hilfe, Erste Schritte... bringt diese Seite zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>WindowControl</name>
+    <message>
+        <source>&quot;%1&quot; has to lie between %2 and %3.</source>
+        <translation>„%1“ muss zwischen %2 und %3 liegen.</translation>
+    </message>
+    <message>
+        <source>&quot;latitude&quot; and &quot;longitude&quot; belong together.</source>
+        <translation>„latitude“ und „longitude“ gehören zusammen.</translation>
+    </message>
+    <message>
+        <source>The input is open already.</source>
+        <translation>Der Eingang ist schon geöffnet.</translation>
+    </message>
+    <message>
+        <source>No input is open.</source>
+        <translation>Kein Eingang ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,46 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>AlertIndicator</name>
+    <message numerus="yes">
+        <source>%n to acknowledge</source>
+        <translation>
+            <numerusform>%n to acknowledge</numerusform>
+            <numerusform>%n to acknowledge</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ConfigSearch</name>
+    <message numerus="yes">
+        <source>%n hit(s)</source>
+        <translation>
+            <numerusform>%n hit</numerusform>
+            <numerusform>%n hits</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ConfigWindow</name>
+    <message numerus="yes">
+        <source>%n setting(s) changed</source>
+        <translation>
+            <numerusform>%n setting changed</numerusform>
+            <numerusform>%n settings changed</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>LogFile</name>
+    <message numerus="yes">
+        <source>%n lines are missing here.</source>
+        <translation>
+            <numerusform>%n line is missing here.</numerusform>
+            <numerusform>%n lines are missing here.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MapImport</name>
     <message numerus="yes">
         <source>%n feature(s) without a usable shape were left out.</source>
@@ -29,12 +69,39 @@
     </message>
 </context>
 <context>
+    <name>SensorManagerWindow</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sensor(s) imported.</source>
+        <translation>
+            <numerusform>%n sensor imported.</numerusform>
+            <numerusform>%n sensors imported.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>TrackExplanation</name>
     <message numerus="yes">
         <source>in none of the last %n report(s)</source>
         <translation>
             <numerusform>not in the last report</numerusform>
             <numerusform>in none of the last %n reports</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnlockWindow</name>
+    <message numerus="yes">
+        <source>This is not the password. Try again in %n s.</source>
+        <translation>
+            <numerusform>This is not the password. Try again in %n s.</numerusform>
+            <numerusform>This is not the password. Try again in %n s.</numerusform>
         </translation>
     </message>
 </context>

@@ -12,22 +12,6 @@
         <translation>修订版 %1</translation>
     </message>
     <message>
-        <source>ASTERIX library %1</source>
-        <translation>ASTERIX 库 %1</translation>
-    </message>
-    <message>
-        <source>Mode S library %1</source>
-        <translation>S 模式库 %1</translation>
-    </message>
-    <message>
-        <source>Aircraft database library %1</source>
-        <translation>航空器数据库库 %1</translation>
-    </message>
-    <message>
-        <source>Qt %1 (built with %2)</source>
-        <translation>Qt %1（编译时为 %2）</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <translation>%1,%2</translation>
     </message>
@@ -50,6 +34,14 @@
     <message>
         <source>Copy the versions, for a fault report</source>
         <translation>复制版本信息，用于故障报告</translation>
+    </message>
+    <message>
+        <source>&amp;Third-Party Notices</source>
+        <translation>第三方声明(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Third-Party Notices</source>
+        <translation>第三方声明</translation>
     </message>
 </context>
 <context>
@@ -537,10 +529,6 @@
         <translation>解释航迹</translation>
     </message>
     <message>
-        <source>Where the values of the selected track come from, with its last reports</source>
-        <translation>所选航迹各数值的来源及其最近的报告</translation>
-    </message>
-    <message>
         <source>Why Is It Not Shown?...</source>
         <translation>为什么没有显示？...</translation>
     </message>
@@ -736,12 +724,73 @@
         <source>Track</source>
         <translation>航迹</translation>
     </message>
+    <message>
+        <source>New Window With Profile...</source>
+        <translation>用配置文件打开新窗口...</translation>
+    </message>
+    <message>
+        <source>Start the program once more, with settings of its own</source>
+        <translation>再启动一次程序，使用独立的设置</translation>
+    </message>
+    <message>
+        <source>Lock Settings...</source>
+        <translation>锁定设置...</translation>
+    </message>
+    <message>
+        <source>Who does not have the password changes no settings</source>
+        <translation>没有密码者不能更改设置</translation>
+    </message>
+    <message>
+        <source>Show Bars and Panes</source>
+        <translation>显示工具栏和窗格</translation>
+    </message>
+    <message>
+        <source>In full screen: all bars and panes over the scope, and away again</source>
+        <translation>全屏时：在显示区上显示或隐藏所有工具栏和窗格</translation>
+    </message>
+    <message>
+        <source>New Plan View</source>
+        <translation>新建平面视图</translation>
+    </message>
+    <message>
+        <source>The same picture in a window of its own, with its own centre, scale and layers</source>
+        <translation>在单独的窗口中显示同一画面，有独立的中心、比例和图层</translation>
+    </message>
+    <message>
+        <source>Getting Started...</source>
+        <translation>入门...</translation>
+    </message>
+    <message>
+        <source>To a picture step by step: demonstration, recording or live input</source>
+        <translation>逐步得到画面：演示、记录或实时输入</translation>
+    </message>
+    <message>
+        <source>Contents...</source>
+        <translation>内容...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1:%2</translation>
+    </message>
+    <message>
+        <source>Where the values of the selected track, or what the pointer is on, come from</source>
+        <translation>所选航迹或指针所指内容的数值来源</translation>
+    </message>
 </context>
 <context>
     <name>AdsbTracker</name>
     <message>
         <source>ADS-B Tracker: %1 positions more than 1,000 km from the sensor were not taken, is its location right?</source>
         <translation>ADS-B 跟踪器：%1 个位置距传感器超过 1,000 km，未被采用，传感器位置是否正确？</translation>
+    </message>
+</context>
+<context>
+    <name>AlertIndicator</name>
+    <message numerus="yes">
+        <source>%n to acknowledge</source>
+        <translation>
+            <numerusform>%n 个待确认</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -797,6 +846,50 @@
     <message>
         <source>End UTC</source>
         <translation>结束 UTC</translation>
+    </message>
+    <message>
+        <source>Safety-net alert, emergency or special pulse</source>
+        <translation>安全网告警、紧急情况或特殊脉冲</translation>
+    </message>
+    <message>
+        <source>Lasts</source>
+        <translation>持续</translation>
+    </message>
+    <message>
+        <source>Since its begin, or from there to its end; minutes and seconds</source>
+        <translation>自开始起，或从开始到结束；分和秒</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>Flight level of the track</source>
+        <translation>航迹的飞行高度层</translation>
+    </message>
+    <message>
+        <source>Other Level</source>
+        <translation>另一高度</translation>
+    </message>
+    <message>
+        <source>Flight level of the other track</source>
+        <translation>另一航迹的飞行高度层</translation>
+    </message>
+    <message>
+        <source>Sensor No.</source>
+        <translation>传感器号</translation>
+    </message>
+    <message>
+        <source>The sensor&apos;s own number of the track</source>
+        <translation>传感器自身的航迹号</translation>
+    </message>
+    <message>
+        <source>Other Sensor No.</source>
+        <translation>另一传感器号</translation>
+    </message>
+    <message>
+        <source>The sensor&apos;s own number of the other track</source>
+        <translation>传感器自身对另一航迹的编号</translation>
     </message>
 </context>
 <context>
@@ -1207,122 +1300,14 @@
     </message>
 </context>
 <context>
-    <name>CheatSheetWindow</name>
+    <name>CheatSheet</name>
     <message>
         <source> or </source>
         <translation> 或 </translation>
     </message>
     <message>
-        <source>Left click on a symbol or label</source>
-        <translation>左键单击符号或标牌</translation>
-    </message>
-    <message>
-        <source>Select the track</source>
-        <translation>选择航迹</translation>
-    </message>
-    <message>
-        <source>Left click once more</source>
-        <translation>再次左键单击</translation>
-    </message>
-    <message>
-        <source>Select the next track at this place</source>
-        <translation>选择此处的下一条航迹</translation>
-    </message>
-    <message>
-        <source>Right click on a symbol or label</source>
-        <translation>右键单击符号或标牌</translation>
-    </message>
-    <message>
-        <source>What can be done with the track</source>
-        <translation>可对航迹执行的操作</translation>
-    </message>
-    <message>
-        <source>Right drag on the map</source>
-        <translation>在地图上右键拖动</translation>
-    </message>
-    <message>
-        <source>Move the view</source>
-        <translation>移动视图</translation>
-    </message>
-    <message>
-        <source>Right drag on a label</source>
-        <translation>在标牌上右键拖动</translation>
-    </message>
-    <message>
-        <source>Move the label</source>
-        <translation>移动标牌</translation>
-    </message>
-    <message>
-        <source>Right double-click</source>
-        <translation>右键双击</translation>
-    </message>
-    <message>
-        <source>Bring this point to the centre</source>
-        <translation>将该点置于中心</translation>
-    </message>
-    <message>
-        <source>Wheel</source>
-        <translation>滚轮</translation>
-    </message>
-    <message>
-        <source>Zoom around the pointer</source>
-        <translation>以指针为中心缩放</translation>
-    </message>
-    <message>
-        <source>Alt + wheel</source>
-        <translation>Alt + 滚轮</translation>
-    </message>
-    <message>
-        <source>Zoom in small steps</source>
-        <translation>小步缩放</translation>
-    </message>
-    <message>
-        <source>Left click with the cross</source>
-        <translation>用十字光标左键单击</translation>
-    </message>
-    <message>
-        <source>Place the centre of the range rings</source>
-        <translation>放置距离环中心</translation>
-    </message>
-    <message>
-        <source>F12</source>
-        <translation>F12</translation>
-    </message>
-    <message>
-        <source>Rotate clockwise by 1°</source>
-        <translation>顺时针旋转 1°</translation>
-    </message>
-    <message>
-        <source>F11</source>
-        <translation>F11</translation>
-    </message>
-    <message>
-        <source>Rotate counter-clockwise by 1°</source>
-        <translation>逆时针旋转 1°</translation>
-    </message>
-    <message>
-        <source>Alt + F12</source>
-        <translation>Alt + F12</translation>
-    </message>
-    <message>
-        <source>Rotate clockwise by 0.1°</source>
-        <translation>顺时针旋转 0.1°</translation>
-    </message>
-    <message>
-        <source>Alt + F11</source>
-        <translation>Alt + F11</translation>
-    </message>
-    <message>
-        <source>Rotate counter-clockwise by 0.1°</source>
-        <translation>逆时针旋转 0.1°</translation>
-    </message>
-    <message>
-        <source>Cheat Sheet</source>
-        <translation>速查表</translation>
-    </message>
-    <message>
-        <source>Commands</source>
-        <translation>命令</translation>
+        <source>Menu %1</source>
+        <translation>菜单 %1</translation>
     </message>
     <message>
         <source>Mouse on the plan view</source>
@@ -1331,6 +1316,96 @@
     <message>
         <source>Keys on the plan view</source>
         <translation>平面视图上的按键</translation>
+    </message>
+    <message>
+        <source>Lists</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>Double-click</source>
+        <translation>双击</translation>
+    </message>
+    <message>
+        <source>Bring the track into view</source>
+        <translation>将航迹置于视图中</translation>
+    </message>
+    <message>
+        <source>Enter or space on a track</source>
+        <translation>在航迹上按 Enter 或空格</translation>
+    </message>
+    <message>
+        <source>Enter or space on an alert</source>
+        <translation>在告警上按 Enter 或空格</translation>
+    </message>
+    <message>
+        <source>Acknowledge the alert</source>
+        <translation>确认告警</translation>
+    </message>
+    <message>
+        <source>Right click</source>
+        <translation>右键单击</translation>
+    </message>
+    <message>
+        <source>What can be done with the track</source>
+        <translation>可对航迹执行的操作</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>In every other window: the page of the manual about it</source>
+        <translation>在其他任何窗口：手册中关于该窗口的页面</translation>
+    </message>
+</context>
+<context>
+    <name>CheatSheetWindow</name>
+    <message>
+        <source>Cheat Sheet</source>
+        <translation>速查表</translation>
+    </message>
+    <message>
+        <source>Search all commands, also those without a key</source>
+        <translation>搜索所有命令，包括没有快捷键的</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Keys and mouse gestures</source>
+        <translation>按键和鼠标操作</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>复制(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Save as &amp;PDF...</source>
+        <translation>另存为 PDF(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>No command and no gesture has these words.</source>
+        <translation>没有命令或操作包含这些文字。</translation>
+    </message>
+    <message>
+        <source>Save Cheat Sheet</source>
+        <translation>保存速查表</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ColumnChoice</name>
+    <message>
+        <source>Default Columns</source>
+        <translation>默认列</translation>
     </message>
 </context>
 <context>
@@ -1396,10 +1471,80 @@
     </message>
 </context>
 <context>
+    <name>ConfigDefaults</name>
+    <message>
+        <source>&amp;Defaults</source>
+        <translation>默认值(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Puts back what the program, or the theme chosen, has by itself.</source>
+        <translation>恢复程序或所选主题自带的值。</translation>
+    </message>
+    <message>
+        <source>Default of &quot;%1&quot;</source>
+        <translation>“%1”的默认值</translation>
+    </message>
+    <message>
+        <source>Defaults of the Page &quot;%1&quot;</source>
+        <translation>“%1”页的默认值</translation>
+    </message>
+</context>
+<context>
     <name>ConfigPage</name>
     <message>
         <source>Locked while the input runs. Stop the input to change it.</source>
         <translation>输入运行时锁定。要更改请先停止输入。</translation>
+    </message>
+    <message>
+        <source>%1
+%2 to %3, default %4.</source>
+        <translation>%1
+%2 至 %3，默认 %4。</translation>
+    </message>
+    <message>
+        <source>Changed. %1</source>
+        <translation>已更改。%1</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigSearch</name>
+    <message>
+        <source>Only what is &amp;not default</source>
+        <translation>只显示非默认值(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search in all settings</source>
+        <translation>搜索所有设置</translation>
+    </message>
+    <message>
+        <source>Words of names and explanations on all pages; Return goes to the next hit.</source>
+        <translation>所有页面名称和说明中的文字；按回车转到下一个结果。</translation>
+    </message>
+    <message>
+        <source>Shows what has been set in another way than the program or the theme has it.</source>
+        <translation>显示与程序或主题自带值不同的设置。</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>未找到。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hit(s)</source>
+        <translation>
+            <numerusform>%n 个结果</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Hit %1 of %2</source>
+        <translation>第 %1 个结果，共 %2 个</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there with another choice of &quot;%2&quot;.</source>
+        <translation>“%1”在“%2”选其他值时出现。</translation>
     </message>
 </context>
 <context>
@@ -1411,6 +1556,20 @@
     <message>
         <source>%1. The settings hold until the program ends.</source>
         <translation>%1。设置在程序结束前有效。</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) changed</source>
+        <translation>
+            <numerusform>已更改 %n 项设置</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1，已更改</translation>
     </message>
 </context>
 <context>
@@ -1426,6 +1585,78 @@
     <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
+    </message>
+</context>
+<context>
+    <name>ControlClient</name>
+    <message>
+        <source>Nobody listens on %1.</source>
+        <translation>%1 上没有监听者。</translation>
+    </message>
+    <message>
+        <source>The terminal on %1 does not answer: %2</source>
+        <translation>%1 上的终端没有响应：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ControlCommands</name>
+    <message>
+        <source>The request has no &quot;command&quot;: one of %1.</source>
+        <translation>请求中没有“command”：应为 %1 之一。</translation>
+    </message>
+    <message>
+        <source>The command %1 takes no &quot;%2&quot;.</source>
+        <translation>命令 %1 不接受“%2”。</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;: %2.</source>
+        <translation>没有命令“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>&quot;path&quot; has to be the absolute path of a file.</source>
+        <translation>“path”必须是文件的绝对路径。</translation>
+    </message>
+    <message>
+        <source>A request is a JSON object in one line.</source>
+        <translation>请求是单行的 JSON 对象。</translation>
+    </message>
+    <message>
+        <source>A request is a JSON object in one line: %1 at octet %2.</source>
+        <translation>请求是单行的 JSON 对象：%1，在字节 %2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has to be a number.</source>
+        <translation>“%1”必须是数字。</translation>
+    </message>
+    <message>
+        <source>There is no window.</source>
+        <translation>没有窗口。</translation>
+    </message>
+</context>
+<context>
+    <name>ControlConnection</name>
+    <message>
+        <source>A request has at most %1 octets.</source>
+        <translation>请求最多 %1 字节。</translation>
+    </message>
+</context>
+<context>
+    <name>ControlServer</name>
+    <message>
+        <source>The control socket %1 cannot be made: %2.</source>
+        <translation>无法创建控制套接字 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is there already, and is no control socket.</source>
+        <translation>%1 已存在，且不是控制套接字。</translation>
+    </message>
+    <message>
+        <source>Another program listens on the control socket %1.</source>
+        <translation>另一个程序正在监听控制套接字 %1。</translation>
     </message>
 </context>
 <context>
@@ -1491,6 +1722,13 @@
     <message>
         <source>Recording %1 stopped after %2 messages: %3</source>
         <translation>记录 %1 在 %2 条报文后停止：%3</translation>
+    </message>
+</context>
+<context>
+    <name>DemoRun</name>
+    <message>
+        <source>The demonstration cannot be shown: %1</source>
+        <translation>无法显示演示：%1</translation>
     </message>
 </context>
 <context>
@@ -1601,10 +1839,6 @@
 <context>
     <name>DisplayConfigPage</name>
     <message>
-        <source>Time zone of the clock; %1 is the one of this computer</source>
-        <translation>时钟的时区；%1 为本机时区</translation>
-    </message>
-    <message>
         <source>Display</source>
         <translation>显示</translation>
     </message>
@@ -1649,10 +1883,6 @@
         <translation>样式(&amp;Y)：</translation>
     </message>
     <message>
-        <source>Te&amp;xt beside the icons of the tool bars</source>
-        <translation>工具栏图标旁显示文字(&amp;X)</translation>
-    </message>
-    <message>
         <source>The system&apos;s</source>
         <translation>跟随系统</translation>
     </message>
@@ -1675,6 +1905,149 @@
     <message>
         <source>There is no time zone &quot;%1&quot;.</source>
         <translation>没有时区“%1”。</translation>
+    </message>
+    <message>
+        <source>Time zone of the clock; %1 is the one of this computer.</source>
+        <translation>时钟的时区；%1 为本机时区。</translation>
+    </message>
+    <message>
+        <source>Colour of the scope where nothing else is drawn.</source>
+        <translation>显示区没有其他内容处的颜色。</translation>
+    </message>
+    <message>
+        <source>How buttons, lists and menus of the windows are drawn.</source>
+        <translation>窗口中按钮、列表和菜单的绘制方式。</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt size:</source>
+        <translation>文字大小(&amp;X)：</translation>
+    </message>
+    <message>
+        <source>How large the text of windows, lists and menus is, beside what the system has.</source>
+        <translation>窗口、列表和菜单文字相对于系统设置的大小。</translation>
+    </message>
+    <message>
+        <source>Text beside the &amp;icons of the tool bars</source>
+        <translation>工具栏图标旁显示文字(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Off: the tool bars have icons alone and need less room.</source>
+        <translation>关闭：工具栏只有图标，占用空间更少。</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>日志文件</translation>
+    </message>
+    <message>
+        <source>Be&amp;gin a new file at:</source>
+        <translation>新建文件的大小(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>How large a file of messages grows; 0 stands for no file.</source>
+        <translation>消息文件的最大大小；0 表示不写文件。</translation>
+    </message>
+    <message>
+        <source>no file</source>
+        <translation>无文件</translation>
+    </message>
+    <message>
+        <source>&amp;Files kept:</source>
+        <translation>保留的文件数(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>How many files of messages there are at most; the oldest is removed.</source>
+        <translation>消息文件的最大数量；最旧的被删除。</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>锁定</translation>
+    </message>
+    <message>
+        <source>With a password settings are locked: who does not have it changes none of them.</source>
+        <translation>设有密码时设置被锁定：没有密码者不能更改。</translation>
+    </message>
+    <message>
+        <source>&amp;Password for settings:</source>
+        <translation>设置密码(&amp;P)：</translation>
+    </message>
+</context>
+<context>
+    <name>EchoExplanation</name>
+    <message>
+        <source>Range</source>
+        <translation>距离</translation>
+    </message>
+    <message>
+        <source>cell %1 from the antenna on, each %2 m long</source>
+        <translation>从天线起第 %1 个单元，每个长 %2 m</translation>
+    </message>
+    <message>
+        <source>Azimuth</source>
+        <translation>方位</translation>
+    </message>
+    <message>
+        <source>one of %1 directions of a turn; the newest radial over its middle counts</source>
+        <translation>一圈 %1 个方向之一；以覆盖其中心的最新径向线为准</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>only uncompressed video of 8 bits a cell is drawn</source>
+        <translation>只绘制每单元 8 位的未压缩视频</translation>
+    </message>
+    <message>
+        <source>Cells in radial</source>
+        <translation>径向线单元数</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>日时间</translation>
+    </message>
+    <message>
+        <source>Message number</source>
+        <translation>报文编号</translation>
+    </message>
+    <message>
+        <source>gaps in it are counted as missing messages</source>
+        <translation>其中的间断计为缺失报文</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>数据源</translation>
+    </message>
+    <message>
+        <source>drawn around the place of the sensor of that SAC/SIC</source>
+        <translation>以该 SAC/SIC 的传感器位置为中心绘制</translation>
+    </message>
+    <message>
+        <source>%1 bits a cell</source>
+        <translation>每单元 %1 位</translation>
+    </message>
+    <message>
+        <source>Amplitude</source>
+        <translation>幅度</translation>
+    </message>
+    <message>
+        <source>%1 of 255</source>
+        <translation>%1 / 255</translation>
+    </message>
+    <message>
+        <source>as drawn; the radar&apos;s next radial of this direction is waited for</source>
+        <translation>按绘制值；等待雷达在该方向的下一条径向线</translation>
+    </message>
+    <message>
+        <source>not above the threshold of %1, so it is not drawn</source>
+        <translation>未超过门限 %1，因此不绘制</translation>
+    </message>
+    <message>
+        <source>above the threshold of %1; fades within %2 s</source>
+        <translation>超过门限 %1;%2 s 内消退</translation>
+    </message>
+    <message>
+        <source>%1, octet %2</source>
+        <translation>%1，字节 %2</translation>
     </message>
 </context>
 <context>
@@ -1841,6 +2214,45 @@
     </message>
 </context>
 <context>
+    <name>FirstStartGuide</name>
+    <message>
+        <source>Getting Started</source>
+        <translation>入门</translation>
+    </message>
+    <message>
+        <source>What arrives there is told below, before anything is set.</source>
+        <translation>在更改任何设置之前，下方会说明该处收到的内容。</translation>
+    </message>
+    <message>
+        <source>Where do the data come from?</source>
+        <translation>数据来自哪里？</translation>
+    </message>
+    <message>
+        <source>Which sensor is it?</source>
+        <translation>是哪个传感器？</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>上一步(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>下一步(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>启动(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Nothing was recognised, so the sensor must be described by hand.</source>
+        <translation>没有识别出任何内容，因此需要手动描述传感器。</translation>
+    </message>
+    <message>
+        <source>Without a sensor nothing can be shown: choose its type.</source>
+        <translation>没有传感器就无法显示：请选择其类型。</translation>
+    </message>
+</context>
+<context>
     <name>GeoCompassRose</name>
     <message>
         <source>Compass rose</source>
@@ -1953,6 +2365,105 @@
     </message>
 </context>
 <context>
+    <name>Gestures</name>
+    <message>
+        <source>Left click on a symbol or label</source>
+        <translation>左键单击符号或标牌</translation>
+    </message>
+    <message>
+        <source>Select the track</source>
+        <translation>选择航迹</translation>
+    </message>
+    <message>
+        <source>Left click once more</source>
+        <translation>再次左键单击</translation>
+    </message>
+    <message>
+        <source>Select the next track at this place</source>
+        <translation>选择此处的下一条航迹</translation>
+    </message>
+    <message>
+        <source>Right click on a symbol or label</source>
+        <translation>右键单击符号或标牌</translation>
+    </message>
+    <message>
+        <source>What can be done with the track</source>
+        <translation>可对航迹执行的操作</translation>
+    </message>
+    <message>
+        <source>Right click elsewhere</source>
+        <translation>在别处右键单击</translation>
+    </message>
+    <message>
+        <source>What can be done at this place</source>
+        <translation>在此处可执行的操作</translation>
+    </message>
+    <message>
+        <source>Right drag on the map</source>
+        <translation>在地图上右键拖动</translation>
+    </message>
+    <message>
+        <source>Move the view</source>
+        <translation>移动视图</translation>
+    </message>
+    <message>
+        <source>Right drag on a label</source>
+        <translation>在标牌上右键拖动</translation>
+    </message>
+    <message>
+        <source>Move the label</source>
+        <translation>移动标牌</translation>
+    </message>
+    <message>
+        <source>Right double-click</source>
+        <translation>右键双击</translation>
+    </message>
+    <message>
+        <source>Bring this point to the centre</source>
+        <translation>将该点置于中心</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>滚轮</translation>
+    </message>
+    <message>
+        <source>Zoom around the pointer</source>
+        <translation>以指针为中心缩放</translation>
+    </message>
+    <message>
+        <source>Alt + wheel</source>
+        <translation>Alt + 滚轮</translation>
+    </message>
+    <message>
+        <source>Zoom in small steps</source>
+        <translation>小步缩放</translation>
+    </message>
+    <message>
+        <source>Left click with the cross</source>
+        <translation>用十字光标左键单击</translation>
+    </message>
+    <message>
+        <source>Place the centre of the range rings</source>
+        <translation>放置距离环中心</translation>
+    </message>
+    <message>
+        <source>Rotate clockwise by 1°</source>
+        <translation>顺时针旋转 1°</translation>
+    </message>
+    <message>
+        <source>Rotate counter-clockwise by 1°</source>
+        <translation>逆时针旋转 1°</translation>
+    </message>
+    <message>
+        <source>Rotate clockwise by 0.1°</source>
+        <translation>顺时针旋转 0.1°</translation>
+    </message>
+    <message>
+        <source>Rotate counter-clockwise by 0.1°</source>
+        <translation>逆时针旋转 0.1°</translation>
+    </message>
+</context>
+<context>
     <name>GpsFraming</name>
     <message>
         <source>The file ends within a time stamp.</source>
@@ -1991,6 +2502,45 @@
     </message>
 </context>
 <context>
+    <name>HeadlessRun</name>
+    <message>
+        <source>Cannot read the sensor file %1</source>
+        <translation>无法读取传感器文件 %1</translation>
+    </message>
+    <message>
+        <source>The input is open already.</source>
+        <translation>输入已打开。</translation>
+    </message>
+    <message>
+        <source>No input is open.</source>
+        <translation>没有打开输入。</translation>
+    </message>
+    <message>
+        <source>There is no window.</source>
+        <translation>没有窗口。</translation>
+    </message>
+    <message>
+        <source>Receiving on %1</source>
+        <translation>正在 %1 上接收</translation>
+    </message>
+    <message>
+        <source>%1 is written again.</source>
+        <translation>重新写入 %1。</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Data engine did not confirm the input close within 10 s, forcing shutdown.</source>
+        <translation>数据引擎未在 10 s 内确认关闭输入，强制退出。</translation>
+    </message>
+    <message>
+        <source>Data processing thread did not stop within 5 s, abandoning it.</source>
+        <translation>数据处理线程未在 5 s 内停止，放弃等待。</translation>
+    </message>
+</context>
+<context>
     <name>HealthDock</name>
     <message>
         <source>Input Health</source>
@@ -2006,6 +2556,69 @@
     <message>
         <source>How the input does; a click shows its sources.</source>
         <translation>输入的状况；单击显示其数据源。</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>%1 Manual</source>
+        <translation>%1 手册</translation>
+    </message>
+    <message>
+        <source>◀ Back</source>
+        <translation>◀ 后退</translation>
+    </message>
+    <message>
+        <source>The page before</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Forward ▶</source>
+        <translation>前进 ▶</translation>
+    </message>
+    <message>
+        <source>The next page</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>The index page</source>
+        <translation>索引页</translation>
+    </message>
+    <message>
+        <source>A−</source>
+        <translation>A−</translation>
+    </message>
+    <message>
+        <source>Smaller text</source>
+        <translation>缩小文字</translation>
+    </message>
+    <message>
+        <source>A+</source>
+        <translation>A+</translation>
+    </message>
+    <message>
+        <source>Larger text</source>
+        <translation>放大文字</translation>
+    </message>
+    <message>
+        <source>Search all pages (Ctrl+F)</source>
+        <translation>搜索所有页面（Ctrl+F）</translation>
+    </message>
+    <message>
+        <source>Search all pages</source>
+        <translation>搜索所有页面</translation>
+    </message>
+    <message>
+        <source>What the search has found</source>
+        <translation>搜索结果</translation>
+    </message>
+    <message>
+        <source>No page has all of these words.</source>
+        <translation>没有页面包含所有这些文字。</translation>
     </message>
 </context>
 <context>
@@ -2041,10 +2654,6 @@
     <message>
         <source>D&amp;evice:</source>
         <translation>设备(&amp;E)：</translation>
-    </message>
-    <message>
-        <source>Bits per second.</source>
-        <translation>每秒比特数。</translation>
     </message>
     <message>
         <source>&amp;Baud rate:</source>
@@ -2118,6 +2727,58 @@
         <source>Enter a rate in bits per second.</source>
         <translation>请输入每秒比特数。</translation>
     </message>
+    <message>
+        <source>How the sensor&apos;s messages come in: over a network, a serial line, or from a recording.</source>
+        <translation>传感器报文的来源：网络、串口或记录文件。</translation>
+    </message>
+    <message>
+        <source>Start &amp;input at program start</source>
+        <translation>程序启动时启动输入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>The input is opened by itself as soon as the program runs.</source>
+        <translation>程序运行后自动打开输入。</translation>
+    </message>
+    <message>
+        <source>The serial port that the sensor&apos;s line is plugged into.</source>
+        <translation>连接传感器线路的串口。</translation>
+    </message>
+    <message>
+        <source>Bits per second, as the sender has it set.</source>
+        <translation>每秒比特数，与发送方设置一致。</translation>
+    </message>
+    <message>
+        <source>Bits of a character on the line.</source>
+        <translation>线路上每个字符的位数。</translation>
+    </message>
+    <message>
+        <source>The check bit of a character on the line.</source>
+        <translation>线路上每个字符的校验位。</translation>
+    </message>
+    <message>
+        <source>How long the line rests between two characters.</source>
+        <translation>线路在两个字符之间的停顿时间。</translation>
+    </message>
+    <message>
+        <source>The recording that is played when the input is started.</source>
+        <translation>启动输入时回放的记录。</translation>
+    </message>
+    <message>
+        <source>Plays the recording over and over until it is stopped.</source>
+        <translation>反复回放记录，直到停止。</translation>
+    </message>
+    <message>
+        <source>%1 is not there now.</source>
+        <translation>%1 目前不存在。</translation>
+    </message>
+    <message>
+        <source>Complete the fields above to see what arrives.</source>
+        <translation>请填写上面的字段以查看收到的内容。</translation>
+    </message>
+    <message>
+        <source>Stop the input first: its settings are locked while it runs.</source>
+        <translation>请先停止输入：运行时其设置被锁定。</translation>
+    </message>
 </context>
 <context>
     <name>InputHealth</name>
@@ -2180,6 +2841,25 @@
     <message>
         <source>%1 listens on UDP port %2 too: of the two, one alone gets each datagram.</source>
         <translation>%1 也在监听 UDP 端口 %2：每个数据报只有其中一方能收到。</translation>
+    </message>
+</context>
+<context>
+    <name>InputProbe</name>
+    <message>
+        <source>UDP port %1</source>
+        <translation>UDP 端口 %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 和 %2</translation>
+    </message>
+    <message>
+        <source>UDP port %1 is taken by %2. Only one of two listeners gets what is sent to a port, so it is left alone: end that program, or choose another port.</source>
+        <translation>UDP 端口 %1 已被 %2 占用。发送到端口的数据只有其中一个监听者能收到，因此不去干扰它：请结束该程序，或选择其他端口。</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>另一个程序</translation>
     </message>
 </context>
 <context>
@@ -2279,10 +2959,6 @@
         <translation>已暂停。画面不更新。</translation>
     </message>
     <message>
-        <source>No sensor is configured. Choose one in Settings (F10), then press Start.</source>
-        <translation>未配置传感器。请在“设置”（F10）中选择，然后按“启动”。</translation>
-    </message>
-    <message>
         <source>Input stopped. %1
 This is the last picture.</source>
         <translation>输入已停止。%1
@@ -2312,21 +2988,13 @@ This is the last picture.</source>
         <source>Cannot open %1: %2</source>
         <translation>无法打开 %1：%2</translation>
     </message>
+    <message>
+        <source>No sensor is configured. Choose one in Settings (F10), then press Start; or let Help, Getting Started, lead you.</source>
+        <translation>未配置传感器。请在“设置”（F10）中选择，然后按“启动”；或使用“帮助”→“入门”的引导。</translation>
+    </message>
 </context>
 <context>
     <name>Inspection</name>
-    <message>
-        <source>Track Explanation</source>
-        <translation>航迹解释</translation>
-    </message>
-    <message>
-        <source>Select a track to see where its values come from.</source>
-        <translation>选择一条航迹以查看其数值来源。</translation>
-    </message>
-    <message>
-        <source>No plot without a track has been received here lately. What a plot with a track is made of stands with the track: select it.</source>
-        <translation>此处最近没有收到无航迹的点迹。有航迹的点迹的构成见其航迹：请选择该航迹。</translation>
-    </message>
     <message>
         <source>Plot</source>
         <translation>点迹</translation>
@@ -2338,6 +3006,58 @@ This is the last picture.</source>
     <message>
         <source>Alert %1</source>
         <translation>告警 %1</translation>
+    </message>
+    <message>
+        <source>Explanation</source>
+        <translation>解释</translation>
+    </message>
+    <message>
+        <source>Select a track to see where its values come from; or point at a plot, weather or radar video and press Ctrl+E.</source>
+        <translation>选择一条航迹以查看其数值来源；或指向点迹、气象或雷达视频并按 Ctrl+E。</translation>
+    </message>
+    <message>
+        <source>Explain Plot</source>
+        <translation>解释点迹</translation>
+    </message>
+    <message>
+        <source>Explain Radar Video</source>
+        <translation>解释雷达视频</translation>
+    </message>
+    <message>
+        <source>Explain Weather</source>
+        <translation>解释气象</translation>
+    </message>
+    <message>
+        <source>The report of this plot is kept no more.</source>
+        <translation>该点迹的报告已不再保留。</translation>
+    </message>
+    <message>
+        <source>Plot of %1</source>
+        <translation>%1 的点迹</translation>
+    </message>
+    <message>
+        <source>Its report</source>
+        <translation>其报告</translation>
+    </message>
+    <message>
+        <source>Weather, level %1</source>
+        <translation>气象，等级 %1</translation>
+    </message>
+    <message>
+        <source>Its vectors</source>
+        <translation>其矢量</translation>
+    </message>
+    <message>
+        <source>Start of its picture</source>
+        <translation>其图像的开始</translation>
+    </message>
+    <message>
+        <source>End of its picture</source>
+        <translation>其图像的结束</translation>
+    </message>
+    <message>
+        <source>Radar video</source>
+        <translation>雷达视频</translation>
     </message>
 </context>
 <context>
@@ -2473,6 +3193,110 @@ This is the last picture.</source>
     </message>
 </context>
 <context>
+    <name>LibraryVersions</name>
+    <message>
+        <source>%1 is missing</source>
+        <translation>缺少 %1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>ASTERIX library</source>
+        <translation>ASTERIX 库</translation>
+    </message>
+    <message>
+        <source>Mode S library</source>
+        <translation>S 模式库</translation>
+    </message>
+    <message>
+        <source>Aircraft database library</source>
+        <translation>航空器数据库库</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2)</source>
+        <translation>Qt %1（编译时为 %2）</translation>
+    </message>
+</context>
+<context>
+    <name>ListExport</name>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ListFilter</name>
+    <message>
+        <source>There is no column &quot;%1&quot;. Columns are: %2.</source>
+        <translation>没有列“%1”。可用的列：%2。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no numbers to compare.</source>
+        <translation>“%1”中没有可比较的数字。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; wants a number, as in %2.</source>
+        <translation>“%1”需要数字，例如 %2。</translation>
+    </message>
+</context>
+<context>
+    <name>ListPane</name>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>Words that a row must hold, or columns: %1. A text with blanks stands in quotes.</source>
+        <translation>行必须包含的文字，或列：%1。含空格的文字用引号括起。</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Copy List</source>
+        <translation>复制列表</translation>
+    </message>
+    <message>
+        <source>Export CSV...</source>
+        <translation>导出 CSV...</translation>
+    </message>
+    <message>
+        <source>List Menu</source>
+        <translation>列表菜单</translation>
+    </message>
+    <message>
+        <source>Columns, copy, export</source>
+        <translation>列、复制、导出</translation>
+    </message>
+    <message>
+        <source>%1 All rows are shown.</source>
+        <translation>%1 显示所有行。</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 中的 %1</translation>
+    </message>
+    <message>
+        <source>The filter lets none of the %1 rows through.</source>
+        <translation>筛选后 %1 行中没有一行符合。</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Export CSV</source>
+        <translation>导出 CSV</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>逗号分隔值 (*.csv)</translation>
+    </message>
+</context>
+<context>
     <name>ListPanes</name>
     <message>
         <source>Track List</source>
@@ -2492,6 +3316,54 @@ This is the last picture.</source>
     </message>
 </context>
 <context>
+    <name>LockCommands</name>
+    <message>
+        <source>The settings are locked.</source>
+        <translation>设置已锁定。</translation>
+    </message>
+    <message>
+        <source>The settings are not locked.</source>
+        <translation>设置未锁定。</translation>
+    </message>
+    <message>
+        <source>Unlock Settings...</source>
+        <translation>解锁设置...</translation>
+    </message>
+    <message>
+        <source>Lock Settings</source>
+        <translation>锁定设置</translation>
+    </message>
+    <message>
+        <source>Lock Settings...</source>
+        <translation>锁定设置...</translation>
+    </message>
+</context>
+<context>
+    <name>LogFile</name>
+    <message numerus="yes">
+        <source>%n lines are missing here.</source>
+        <translation>
+            <numerusform>此处缺少 %n 行。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be written: %2. It goes on when it can.</source>
+        <translation>无法写入日志文件 %1：%2。可写时将继续。</translation>
+    </message>
+    <message>
+        <source>Another run of the program writes the log file; this one does not.</source>
+        <translation>程序的另一个实例正在写日志文件；本实例不写。</translation>
+    </message>
+    <message>
+        <source>No log file can be written in %1.</source>
+        <translation>无法在 %1 中写入日志文件。</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be put aside: %2. It goes on when it can.</source>
+        <translation>无法归档日志文件 %1：%2。可行时将继续。</translation>
+    </message>
+</context>
+<context>
     <name>LogGate</name>
     <message>
         <source>%1 … %2 more like this</source>
@@ -2503,6 +3375,10 @@ This is the last picture.</source>
     <message>
         <source>Clear</source>
         <translation>清除</translation>
+    </message>
+    <message>
+        <source>Open Log Folder</source>
+        <translation>打开日志文件夹</translation>
     </message>
 </context>
 <context>
@@ -2608,6 +3484,32 @@ More: View, Input Health.</source>
     <message>
         <source>First frame after %1 ms</source>
         <translation>%1 ms 后显示第一帧</translation>
+    </message>
+    <message>
+        <source>No window can be opened with the profile %1.</source>
+        <translation>无法用配置文件 %1 打开窗口。</translation>
+    </message>
+    <message>
+        <source>Another window with these settings is open: changes in this one are not saved. (Other settings: File, New Window With Profile...)</source>
+        <translation>已有另一个窗口使用这些设置：此窗口中的更改不会保存。（使用其他设置：文件 → 用配置文件打开新窗口...）</translation>
+    </message>
+    <message>
+        <source>The input is not started by itself: the program has crashed twice within a minute of its start. Press Start to try again.</source>
+        <translation>未自动启动输入：程序两次在启动后一分钟内崩溃。按“启动”重试。</translation>
+    </message>
+</context>
+<context>
+    <name>Manual</name>
+    <message>
+        <source>%1 › %2</source>
+        <translation>%1 › %2</translation>
+    </message>
+</context>
+<context>
+    <name>ManualView</name>
+    <message>
+        <source>Page of the manual</source>
+        <translation>手册页面</translation>
     </message>
 </context>
 <context>
@@ -2799,6 +3701,98 @@ More: View, Input Health.</source>
     <message>
         <source>The name of a file is needed.</source>
         <translation>需要文件名。</translation>
+    </message>
+    <message>
+        <source>Draws the airspaces, routes and places of the map index under the traffic.</source>
+        <translation>在交通目标之下绘制地图索引中的空域、航路和地点。</translation>
+    </message>
+    <message>
+        <source>The list of the maps that are drawn; a new one is made where the file does not exist.</source>
+        <translation>所绘制地图的列表；文件不存在时新建。</translation>
+    </message>
+    <message>
+        <source>The colours, lines and fonts that maps are drawn with.</source>
+        <translation>绘制地图所用的颜色、线条和字体。</translation>
+    </message>
+    <message>
+        <source>How large the symbols of places are drawn.</source>
+        <translation>地点符号的绘制大小。</translation>
+    </message>
+    <message>
+        <source>Draws the sensor of the input where it stands, with all that is chosen below.</source>
+        <translation>在其位置绘制输入的传感器及下面所选的内容。</translation>
+    </message>
+    <message>
+        <source>Writes the sensor&apos;s name beside its site.</source>
+        <translation>在站址旁显示传感器名称。</translation>
+    </message>
+    <message>
+        <source>Draws a circle as far out as the sensor covers.</source>
+        <translation>以圆表示传感器的覆盖距离。</translation>
+    </message>
+    <message>
+        <source>Draws where the antenna points, by the sector messages that come in.</source>
+        <translation>按收到的扇区报文绘制天线指向。</translation>
+    </message>
+    <message>
+        <source>Draws a line to the north for a moment whenever the antenna passes it.</source>
+        <translation>天线每次经过正北时短暂绘制一条指北线。</translation>
+    </message>
+    <message>
+        <source>Colour of the sensor&apos;s symbol, its name and the rim of its coverage.</source>
+        <translation>传感器符号、名称和覆盖边缘的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of the line that turns with the antenna.</source>
+        <translation>随天线旋转的线的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of the line that flashes when the antenna passes the north.</source>
+        <translation>天线过正北时闪现的线的颜色。</translation>
+    </message>
+    <message>
+        <source>Draws circles of equal distance round the sensor or the centre chosen.</source>
+        <translation>以传感器或所选中心绘制等距圆。</translation>
+    </message>
+    <message>
+        <source>How many rings are drawn.</source>
+        <translation>绘制的环数。</translation>
+    </message>
+    <message>
+        <source>From the centre to the first ring, and from each ring to the next.</source>
+        <translation>从中心到第一环，以及环与环之间的距离。</translation>
+    </message>
+    <message>
+        <source>Colour of the rings.</source>
+        <translation>距离环的颜色。</translation>
+    </message>
+    <message>
+        <source>Writes the distance on each ring, on four bearings.</source>
+        <translation>在四个方位标出每个环的距离。</translation>
+    </message>
+    <message>
+        <source>Draws bearings round the rim of the view, which turn with it.</source>
+        <translation>在视图边缘绘制随视图旋转的方位。</translation>
+    </message>
+    <message>
+        <source>Draws how long some nautical miles are in the view.</source>
+        <translation>绘制视图中若干海里的长度。</translation>
+    </message>
+    <message>
+        <source>Draws what each symbol and colour that is in sight means.</source>
+        <translation>绘制可见的各符号和颜色的含义。</translation>
+    </message>
+    <message>
+        <source>Colour of ring distances, compass rose, scale bar and key.</source>
+        <translation>距离环数值、罗经圈、比例尺和图例的颜色。</translation>
+    </message>
+    <message>
+        <source>How long a plot takes to fade away; 0 stands for three revolutions of the antenna.</source>
+        <translation>点迹消退所需时间；0 表示天线三圈。</translation>
+    </message>
+    <message>
+        <source>Colour of the marks of plots.</source>
+        <translation>点迹标记的颜色。</translation>
     </message>
 </context>
 <context>
@@ -3883,6 +4877,52 @@ More: View, Input Health.</source>
     </message>
 </context>
 <context>
+    <name>PasswordField</name>
+    <message>
+        <source>Set...</source>
+        <translation>设置...</translation>
+    </message>
+    <message>
+        <source>Change...</source>
+        <translation>更改...</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordWindow</name>
+    <message>
+        <source>Lock Settings</source>
+        <translation>锁定设置</translation>
+    </message>
+    <message>
+        <source>Without the password nobody changes settings, sensors, maps or layouts here. The scope is worked with as before, and what is switched on it holds until the program ends.</source>
+        <translation>没有密码者不能在此更改设置、传感器、地图或布局。显示区照常使用，其上的开关在程序结束前有效。</translation>
+    </message>
+    <message>
+        <source>&amp;New password:</source>
+        <translation>新密码(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>At least %1 characters.</source>
+        <translation>至少 %1 个字符。</translation>
+    </message>
+    <message>
+        <source>&amp;Again:</source>
+        <translation>再次输入(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>The same once more, against slips.</source>
+        <translation>再输入一次，以防输错。</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Password</source>
+        <translation>删除密码(&amp;R)</translation>
+    </message>
+    <message>
+        <source>The two are not the same.</source>
+        <translation>两次输入不一致。</translation>
+    </message>
+</context>
+<context>
     <name>PcapWriter</name>
     <message>
         <source>A payload of %1 octets does not fit into a datagram.</source>
@@ -3894,10 +4934,438 @@ More: View, Input Health.</source>
     </message>
 </context>
 <context>
+    <name>PlanLayers</name>
+    <message>
+        <source>Maps</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>瓦片</translation>
+    </message>
+    <message>
+        <source>Sensor</source>
+        <translation>传感器</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>气象</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Plots</source>
+        <translation>点迹</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>距离环</translation>
+    </message>
+    <message>
+        <source>Compass Rose</source>
+        <translation>罗经圈</translation>
+    </message>
+    <message>
+        <source>Scale Bar</source>
+        <translation>比例尺</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>图例</translation>
+    </message>
+</context>
+<context>
+    <name>PlanViewWindow</name>
+    <message>
+        <source>Plan View %1 - %2</source>
+        <translation>平面视图 %1 - %2</translation>
+    </message>
+    <message>
+        <source>Plan View %1</source>
+        <translation>平面视图 %1</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>视图</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Rotate Right</source>
+        <translation>向右旋转</translation>
+    </message>
+    <message>
+        <source>Rotate Left</source>
+        <translation>向左旋转</translation>
+    </message>
+    <message>
+        <source>Rotate North Up</source>
+        <translation>旋转至正北向上</translation>
+    </message>
+    <message>
+        <source>View of the Main Window</source>
+        <translation>主窗口的视图</translation>
+    </message>
+    <message>
+        <source>Follow Selected Track</source>
+        <translation>跟随所选航迹</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>标牌</translation>
+    </message>
+    <message>
+        <source>Position under the pointer</source>
+        <translation>指针处位置</translation>
+    </message>
+    <message>
+        <source>Scale, metres per pixel</source>
+        <translation>比例，米/像素</translation>
+    </message>
+    <message>
+        <source>SCL %1</source>
+        <translation>比例 %1</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>跟随</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>居中</translation>
+    </message>
+    <message>
+        <source>Reset Label</source>
+        <translation>复位标牌</translation>
+    </message>
+    <message>
+        <source>Explain</source>
+        <translation>解释</translation>
+    </message>
+    <message>
+        <source>Acknowledge</source>
+        <translation>确认</translation>
+    </message>
+</context>
+<context>
     <name>PlotSwitch</name>
     <message>
         <source>Plots are shown because %1 brings target reports but no tracks (Map, Toggle Plots).</source>
         <translation>因为 %1 提供目标报告而没有航迹，所以显示点迹（地图 → 开/关点迹）。</translation>
+    </message>
+</context>
+<context>
+    <name>ProbeText</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 和 %2</translation>
+    </message>
+    <message>
+        <source>%1 octets/s</source>
+        <translation>%1 字节/s</translation>
+    </message>
+    <message>
+        <source>%1 kB/s</source>
+        <translation>%1 kB/s</translation>
+    </message>
+    <message>
+        <source>%1 MB/s</source>
+        <translation>%1 MB/s</translation>
+    </message>
+    <message>
+        <source>%1 datagrams/s</source>
+        <translation>%1 数据报/s</translation>
+    </message>
+    <message>
+        <source>%1 messages/s</source>
+        <translation>%1 报文/s</translation>
+    </message>
+    <message>
+        <source>with track numbers</source>
+        <translation>有航迹号</translation>
+    </message>
+    <message>
+        <source>with aircraft addresses, no track numbers</source>
+        <translation>有航空器地址，无航迹号</translation>
+    </message>
+    <message>
+        <source>no track numbers</source>
+        <translation>无航迹号</translation>
+    </message>
+    <message>
+        <source>%1 messages a second</source>
+        <translation>每秒 %1 条报文</translation>
+    </message>
+    <message>
+        <source>no reports of targets</source>
+        <translation>无目标报告</translation>
+    </message>
+    <message>
+        <source>%1 plots a second</source>
+        <translation>每秒 %1 个点迹</translation>
+    </message>
+    <message>
+        <source>%1 reports a second</source>
+        <translation>每秒 %1 个报告</translation>
+    </message>
+    <message>
+        <source>no positions</source>
+        <translation>无位置</translation>
+    </message>
+    <message>
+        <source>%1 from %2</source>
+        <translation>%1，来自 %2</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>另外 %1 个</translation>
+    </message>
+    <message>
+        <source>%1 sources: %2</source>
+        <translation>%1 个数据源：%2</translation>
+    </message>
+    <message>
+        <source>%1 frames a second</source>
+        <translation>每秒 %1 帧</translation>
+    </message>
+    <message>
+        <source>%1 aircraft with extended squitters</source>
+        <translation>%1 架有扩展间歇信号的航空器</translation>
+    </message>
+    <message>
+        <source>%1 radar %2</source>
+        <translation>%1 雷达 %2</translation>
+    </message>
+    <message>
+        <source>%1 track reports a second</source>
+        <translation>每秒 %1 个航迹报告</translation>
+    </message>
+    <message>
+        <source>%1, in %2</source>
+        <translation>%1，封装于 %2</translation>
+    </message>
+    <message>
+        <source>Data arrive on %1.</source>
+        <translation>%1 上有数据到达。</translation>
+    </message>
+    <message>
+        <source>Data arrive on %1, but they are no ASTERIX, Mode S or SIR-M data; they begin with %2.</source>
+        <translation>%1 上有数据到达，但不是 ASTERIX、S 模式或 SIR-M 数据；它们以 %2 开头。</translation>
+    </message>
+    <message>
+        <source>Listening on %1. Nothing has arrived yet.</source>
+        <translation>正在监听 %1。尚未收到数据。</translation>
+    </message>
+    <message>
+        <source>Nothing arrives on %1, for %2 s now.</source>
+        <translation>%1 上已有 %2 s 没有收到数据。</translation>
+    </message>
+    <message>
+        <source>The interface %1 is not there any more.</source>
+        <translation>接口 %1 已不存在。</translation>
+    </message>
+    <message>
+        <source>The interface %1 is switched off.</source>
+        <translation>接口 %1 已关闭。</translation>
+    </message>
+    <message>
+        <source>The interface %1 has no link: check its cable.</source>
+        <translation>接口 %1 没有链路：请检查网线。</translation>
+    </message>
+    <message>
+        <source>Is the sender running, and does it send to the group %1 and port %2?</source>
+        <translation>发送方是否在运行，并且发送到组 %1 和端口 %2?</translation>
+    </message>
+    <message>
+        <source>Is the sender on the network of the interface %1?</source>
+        <translation>发送方是否在接口 %1 所在的网络上？</translation>
+    </message>
+    <message>
+        <source>Choose the interface that the sender&apos;s network is plugged into; the system has chosen one by itself.</source>
+        <translation>请选择连接发送方网络的接口；目前由系统自行选择。</translation>
+    </message>
+    <message>
+        <source>Does the firewall of this machine let UDP port %1 in?</source>
+        <translation>本机防火墙是否允许 UDP 端口 %1?</translation>
+    </message>
+    <message>
+        <source>Do the switches on the way pass the group on (IGMP)?</source>
+        <translation>途中的交换机是否转发该组（IGMP）?</translation>
+    </message>
+    <message>
+        <source>this machine</source>
+        <translation>本机</translation>
+    </message>
+    <message>
+        <source>this machine, %1,</source>
+        <translation>本机 %1</translation>
+    </message>
+    <message>
+        <source>Is the sender running, and does it send to %1 and port %2?</source>
+        <translation>发送方是否在运行，并且发送到 %1 和端口 %2?</translation>
+    </message>
+    <message>
+        <source>Is it multicast? Then tick Multicast and enter the group.</source>
+        <translation>是否为组播？若是，请勾选“组播”并输入组地址。</translation>
+    </message>
+    <message>
+        <source>Is the network cable plugged in?</source>
+        <translation>网线是否已插好？</translation>
+    </message>
+    <message>
+        <source>Is the line plugged in at both ends, and is the sender running?</source>
+        <translation>线路两端是否已插好，发送方是否在运行？</translation>
+    </message>
+    <message>
+        <source>Is %1 the right device?</source>
+        <translation>%1 是否为正确的设备？</translation>
+    </message>
+    <message>
+        <source>Does the line need a crossed cable (null modem)?</source>
+        <translation>线路是否需要交叉线（零调制解调器）?</translation>
+    </message>
+    <message>
+        <source>Check baud rate, data bits and parity: with wrong ones the octets arrive garbled.</source>
+        <translation>请检查波特率、数据位和校验：设置错误时收到的字节会混乱。</translation>
+    </message>
+    <message>
+        <source>Does something else send to this port?</source>
+        <translation>是否有其他程序发送到此端口？</translation>
+    </message>
+    <message>
+        <source>Are the data encrypted, or in another format?</source>
+        <translation>数据是否加密，或为其他格式？</translation>
+    </message>
+    <message>
+        <source>polar</source>
+        <translation>极坐标</translation>
+    </message>
+    <message>
+        <source>Cartesian</source>
+        <translation>直角坐标</translation>
+    </message>
+    <message>
+        <source>WGS-84</source>
+        <translation>WGS-84</translation>
+    </message>
+    <message>
+        <source>%1 positions</source>
+        <translation>%1 个位置</translation>
+    </message>
+    <message>
+        <source>no table for this category</source>
+        <translation>没有该类别的定义表</translation>
+    </message>
+    <message>
+        <source>cannot be decoded</source>
+        <translation>无法解码</translation>
+    </message>
+    <message>
+        <source>turning once in %1 s</source>
+        <translation>每圈 %1 s</translation>
+    </message>
+    <message>
+        <source>Receiver</source>
+        <translation>接收机</translation>
+    </message>
+    <message>
+        <source>Radar %1</source>
+        <translation>雷达 %1</translation>
+    </message>
+    <message>
+        <source>%1 /s</source>
+        <translation>%1 /s</translation>
+    </message>
+    <message>
+        <source>%1 aircraft, %2 positions</source>
+        <translation>%1 架航空器，%2 个位置</translation>
+    </message>
+    <message>
+        <source>%1 plots, %2 tracks</source>
+        <translation>%1 个点迹，%2 条航迹</translation>
+    </message>
+    <message>
+        <source>Opening %1 ...</source>
+        <translation>正在打开 %1 ...</translation>
+    </message>
+    <message>
+        <source>The input is paused.</source>
+        <translation>输入已暂停。</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>Nothing for %1 s now; before that: %2.</source>
+        <translation>已有 %1 s 没有数据；之前：%2。</translation>
+    </message>
+    <message>
+        <source>To be shown with the %1, as the sensor &quot;%2&quot; of the sensor file.</source>
+        <translation>将用 %1 显示，采用传感器文件中的传感器“%2”。</translation>
+    </message>
+    <message>
+        <source>To be shown with the %1, as %2.</source>
+        <translation>将用 %1 显示，作为 %2。</translation>
+    </message>
+    <message>
+        <source>Location: %1.</source>
+        <translation>位置：%1。</translation>
+    </message>
+    <message>
+        <source>Where it stands is not told by the data: enter its location.</source>
+        <translation>数据未说明其位置：请输入位置。</translation>
+    </message>
+    <message>
+        <source>The time of one turn is not found out yet: listen for some turns more, or enter it.</source>
+        <translation>尚未得出旋转周期：请再监听几圈，或直接输入。</translation>
+    </message>
+</context>
+<context>
+    <name>ProbeView</name>
+    <message>
+        <source>What arrives, by source</source>
+        <translation>按数据源列出收到的内容</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>数据源</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Edition</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>升降率</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>&amp;Use What Was Found</source>
+        <translation>采用识别结果(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Fills the pages Processor and Sensor; nothing is applied before you say so.</source>
+        <translation>填写“处理器”和“传感器”页；在您确认之前不会应用。</translation>
     </message>
 </context>
 <context>
@@ -4017,6 +5485,41 @@ More: View, Input Health.</source>
     <message>
         <source>What the radar&apos;s messages are wrapped in on the line.</source>
         <translation>雷达报文在线路上的封装方式。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileWindow</name>
+    <message>
+        <source>New Window With Profile</source>
+        <translation>用配置文件打开新窗口</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>配置文件</translation>
+    </message>
+    <message>
+        <source>For example approach</source>
+        <translation>例如 approach</translation>
+    </message>
+    <message>
+        <source>A profile has its own settings, layouts and windows. Choose one, or name a new one.</source>
+        <translation>配置文件有独立的设置、布局和窗口。请选择一个，或为新的命名。</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <translation>配置文件(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>Open &amp;Window</source>
+        <translation>打开窗口(&amp;W)</translation>
+    </message>
+    <message>
+        <source>A name has letters A to Z, digits and the signs - _ . only.</source>
+        <translation>名称只能包含字母 A 到 Z、数字以及符号 - _ .</translation>
+    </message>
+    <message>
+        <source>This window has that profile.</source>
+        <translation>此窗口正使用该配置文件。</translation>
     </message>
 </context>
 <context>
@@ -4338,10 +5841,6 @@ More: View, Input Health.</source>
         <translation>未解码：%1，在字节 %2。</translation>
     </message>
     <message>
-        <source>See the octets.</source>
-        <translation>请看字节。</translation>
-    </message>
-    <message>
         <source>Only the first %1 of its %2 octets are kept.</source>
         <translation>%2 字节中只保留了前 %1 个。</translation>
     </message>
@@ -4503,6 +6002,13 @@ More: View, Input Health.</source>
     <message>
         <source>The recording does not tell where %1 stands: it is shown around %2 for now; give its place with --sensor, or as Location in Settings, Sensor.</source>
         <translation>记录未说明 %1 的位置：暂以 %2 为中心显示；请用 --sensor 或在“设置”→“传感器”中给出其位置。</translation>
+    </message>
+</context>
+<context>
+    <name>Reopening</name>
+    <message>
+        <source>The input is opened again in %1 s.</source>
+        <translation>%1 s 后重新打开输入。</translation>
     </message>
 </context>
 <context>
@@ -4958,6 +6464,22 @@ More: View, Input Health.</source>
         <source>Alenia SIR-M track record</source>
         <translation>Alenia SIR-M 航迹记录</translation>
     </message>
+    <message>
+        <source>plot type</source>
+        <translation>点迹类型</translation>
+    </message>
+    <message>
+        <source>slant range</source>
+        <translation>斜距</translation>
+    </message>
+    <message>
+        <source>azimuth</source>
+        <translation>方位</translation>
+    </message>
+    <message>
+        <source>Alenia SIR-M plot record</source>
+        <translation>Alenia SIR-M 点迹记录</translation>
+    </message>
 </context>
 <context>
     <name>RotationWindow</name>
@@ -4979,6 +6501,10 @@ More: View, Input Health.</source>
     <message>
         <source>Cannot write the settings file %1</source>
         <translation>无法写入设置文件 %1</translation>
+    </message>
+    <message>
+        <source>Changed settings are not saved: another window with the same settings was open first.</source>
+        <translation>更改的设置不会保存：另一个使用相同设置的窗口先打开。</translation>
     </message>
 </context>
 <context>
@@ -5261,32 +6787,37 @@ More: View, Input Health.</source>
         <source>Another sensor is named &quot;%1&quot;.</source>
         <translation>另一传感器已命名为“%1”。</translation>
     </message>
+    <message>
+        <source>What kind of sensor it is; the fields below depend on it.</source>
+        <translation>传感器的类型；下面的字段由此决定。</translation>
+    </message>
+    <message>
+        <source>What the sensor is called on the map and in messages; no two have the same name.</source>
+        <translation>传感器在地图和消息中的名称；不得重名。</translation>
+    </message>
+    <message>
+        <source>Where the sensor stands (WGS-84), such as 480815N0114712E or 48.1375 11.7867.</source>
+        <translation>传感器的位置（WGS-84），例如 480815N0114712E 或 48.1375 11.7867。</translation>
+    </message>
+    <message>
+        <source>Whatever helps to tell the sensor from others.</source>
+        <translation>有助于区分传感器的任何说明。</translation>
+    </message>
+    <message>
+        <source>Who made the sensor; those of the other records are offered.</source>
+        <translation>传感器的制造商；可从其他记录中选择。</translation>
+    </message>
+    <message>
+        <source>What the maker calls it; the models of the maker&apos;s other records are offered.</source>
+        <translation>制造商的型号；可从该制造商的其他记录中选择。</translation>
+    </message>
+    <message>
+        <source>The year in which the sensor entered service.</source>
+        <translation>传感器投入使用的年份。</translation>
+    </message>
 </context>
 <context>
-    <name>SensorManager</name>
-    <message>
-        <source>%1: sensor &quot;%2&quot; has a value that is not valid and takes its default: %3</source>
-        <translation>%1：传感器“%2”的某个值无效，改用默认值：%3</translation>
-    </message>
-    <message>
-        <source>%1: sensors &quot;%2&quot; and &quot;%3&quot; have the same SAC/SIC, %4/%5</source>
-        <translation>%1：传感器“%2”和“%3”的 SAC/SIC 相同，为 %4/%5</translation>
-    </message>
-</context>
-<context>
-    <name>SensorManagerWindow</name>
-    <message>
-        <source>It is no JSON list of sensors.</source>
-        <translation>不是传感器的 JSON 列表。</translation>
-    </message>
-    <message>
-        <source>The device reported an error while writing.</source>
-        <translation>写入时设备报告错误。</translation>
-    </message>
-    <message>
-        <source>Sensor Manager</source>
-        <translation>传感器管理器</translation>
-    </message>
+    <name>SensorList</name>
     <message>
         <source>Name</source>
         <translation>名称</translation>
@@ -5310,6 +6841,56 @@ More: View, Input Health.</source>
     <message>
         <source>Description</source>
         <translation>说明</translation>
+    </message>
+</context>
+<context>
+    <name>SensorManager</name>
+    <message>
+        <source>%1: sensor &quot;%2&quot; has a value that is not valid and takes its default: %3</source>
+        <translation>%1：传感器“%2”的某个值无效，改用默认值：%3</translation>
+    </message>
+    <message>
+        <source>%1: sensors &quot;%2&quot; and &quot;%3&quot; have the same SAC/SIC, %4/%5</source>
+        <translation>%1：传感器“%2”和“%3”的 SAC/SIC 相同，为 %4/%5</translation>
+    </message>
+    <message>
+        <source>Record %1: %2</source>
+        <translation>记录 %1：%2</translation>
+    </message>
+    <message>
+        <source>it is no object.</source>
+        <translation>不是对象。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no known type: &quot;%2&quot;.</source>
+        <translation>“%1”的类型未知：“%2”。</translation>
+    </message>
+    <message>
+        <source>it has no name.</source>
+        <translation>没有名称。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no valid location: &quot;%2&quot;.</source>
+        <translation>“%1”的位置无效：“%2”。</translation>
+    </message>
+    <message>
+        <source>It is no JSON: %1, line %2.</source>
+        <translation>不是 JSON：%1，第 %2 行。</translation>
+    </message>
+    <message>
+        <source>It is no JSON list of sensors.</source>
+        <translation>不是传感器的 JSON 列表。</translation>
+    </message>
+</context>
+<context>
+    <name>SensorManagerWindow</name>
+    <message>
+        <source>The device reported an error while writing.</source>
+        <translation>写入时设备报告错误。</translation>
+    </message>
+    <message>
+        <source>Sensor Manager</source>
+        <translation>传感器管理器</translation>
     </message>
     <message>
         <source>&amp;Add...</source>
@@ -5338,10 +6919,6 @@ More: View, Input Health.</source>
     <message>
         <source>&amp;Save</source>
         <translation>保存(&amp;S)</translation>
-    </message>
-    <message>
-        <source>Save &amp;as...</source>
-        <translation>另存为(&amp;A)...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -5390,6 +6967,106 @@ More: View, Input Health.</source>
     <message>
         <source>Save the changes to the sensor file?</source>
         <translation>将更改保存到传感器文件吗？</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>以及另外 %n 个</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Import Sensors</source>
+        <translation>导入传感器</translation>
+    </message>
+    <message>
+        <source>The sensor file could not be imported.</source>
+        <translation>无法导入传感器文件。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already: imported as &quot;%2&quot;.</source>
+        <translation>已有“%1”：导入为“%2”。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sensor(s) imported.</source>
+        <translation>
+            <numerusform>已导入 %n 个传感器。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export Sensors</source>
+        <translation>导出传感器</translation>
+    </message>
+    <message>
+        <source>The sensors could not be exported.</source>
+        <translation>无法导出传感器。</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file since it was read.</source>
+        <translation>文件读取之后已被其他程序更改。</translation>
+    </message>
+    <message>
+        <source>If it is saved now, the changes of the other program are lost.
+%1</source>
+        <translation>若现在保存，其他程序所做的更改将丢失。
+%1</translation>
+    </message>
+    <message>
+        <source>Save &amp;Anyway</source>
+        <translation>仍然保存(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Sensors</source>
+        <translation>传感器</translation>
+    </message>
+    <message>
+        <source>In the order of the file; drag a sensor, or move it with Alt+Up and Alt+Down.</source>
+        <translation>按文件中的顺序；可拖动传感器，或用 Alt+Up 和 Alt+Down 移动。</translation>
+    </message>
+    <message>
+        <source>Move U&amp;p</source>
+        <translation>上移(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>下移(&amp;W)</translation>
+    </message>
+    <message>
+        <source>U&amp;ndo</source>
+        <translation>撤销(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>重新加载(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>另存为(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>导入(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>导出(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Click the header until the list is not sorted.</source>
+        <translation>单击表头，直到列表不再排序。</translation>
+    </message>
+    <message>
+        <source>These records of the file could not be read, and will not be in it when it is saved:
+%1</source>
+        <translation>文件中的以下记录无法读取，保存后将不再包含在文件中：
+%1</translation>
+    </message>
+    <message>
+        <source>No sensors yet. Add one, or import a file.</source>
+        <translation>尚无传感器。请添加，或导入文件。</translation>
     </message>
 </context>
 <context>
@@ -5489,12 +7166,68 @@ More: View, Input Health.</source>
         <translation>ADS-B 版本(&amp;B)：</translation>
     </message>
     <message>
-        <source>Azimuth change pulses per revolution of the antenna</source>
-        <translation>天线每圈的方位增量脉冲数</translation>
-    </message>
-    <message>
         <source>Azimuth &amp;pulses:</source>
         <translation>方位脉冲(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>Height of the antenna above sea level.</source>
+        <translation>天线海拔高度。</translation>
+    </message>
+    <message>
+        <source>How long the antenna takes for one turn; tracks live by it.</source>
+        <translation>天线旋转一圈的时间；航迹的存续以此为准。</translation>
+    </message>
+    <message>
+        <source>Detects whatever reflects, with or without a transponder.</source>
+        <translation>探测任何反射体，无论有无应答机。</translation>
+    </message>
+    <message>
+        <source>How far the primary radar sees; drawn as a circle.</source>
+        <translation>一次雷达的作用距离；以圆表示。</translation>
+    </message>
+    <message>
+        <source>Asks transponders for code and level.</source>
+        <translation>向应答机询问编码和高度。</translation>
+    </message>
+    <message>
+        <source>Asks single aircraft by their address; every Mode S radar is a secondary one.</source>
+        <translation>按地址询问单架航空器；每部 S 模式雷达都是二次雷达。</translation>
+    </message>
+    <message>
+        <source>How far the secondary radar sees; drawn as a circle.</source>
+        <translation>二次雷达的作用距离；以圆表示。</translation>
+    </message>
+    <message>
+        <source>How far the station receives; drawn as a circle.</source>
+        <translation>地面站的接收距离；以圆表示。</translation>
+    </message>
+    <message>
+        <source>How often an aircraft is reported; tracks live by it.</source>
+        <translation>航空器报告的间隔；航迹的存续以此为准。</translation>
+    </message>
+    <message>
+        <source>The versions of ADS-B that the station receives, with commas between them.</source>
+        <translation>地面站接收的 ADS-B 版本，以逗号分隔。</translation>
+    </message>
+    <message>
+        <source>How far the system locates aircraft; drawn as a circle.</source>
+        <translation>系统定位航空器的距离；以圆表示。</translation>
+    </message>
+    <message>
+        <source>How far the system&apos;s tracks reach; drawn as a circle.</source>
+        <translation>系统航迹的覆盖距离；以圆表示。</translation>
+    </message>
+    <message>
+        <source>How often the system sends its tracks; tracks live by it.</source>
+        <translation>系统发送航迹的间隔；航迹的存续以此为准。</translation>
+    </message>
+    <message>
+        <source>How far the radar sees; drawn as a circle.</source>
+        <translation>雷达的作用距离；以圆表示。</translation>
+    </message>
+    <message>
+        <source>Azimuth change pulses per revolution of the antenna.</source>
+        <translation>天线每圈的方位增量脉冲数。</translation>
     </message>
 </context>
 <context>
@@ -5576,12 +7309,16 @@ More: View, Input Health.</source>
         <translation>流控制</translation>
     </message>
     <message>
-        <source>The serial device is gone: %1</source>
-        <translation>串口设备已断开：%1</translation>
-    </message>
-    <message>
         <source>Close async serial device</source>
         <translation>关闭异步串口设备</translation>
+    </message>
+    <message>
+        <source>The serial device is gone: %1. It is opened again when it is back.</source>
+        <translation>串口设备已断开：%1。恢复后将重新打开。</translation>
+    </message>
+    <message>
+        <source>The serial device %1 is back.</source>
+        <translation>串口设备 %1 已恢复。</translation>
     </message>
 </context>
 <context>
@@ -5636,6 +7373,45 @@ More: View, Input Health.</source>
     <message>
         <source> MiB</source>
         <translation> MiB</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsReference</name>
+    <message>
+        <source>on</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>From %1 to %2%3.</source>
+        <translation>从 %1 到 %2%3。</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置项</translation>
+    </message>
+    <message>
+        <source>By itself</source>
+        <translation>默认值</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>作用</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>图例</translation>
+    </message>
+    <message>
+        <source>All Settings</source>
+        <translation>所有设置</translation>
+    </message>
+    <message>
+        <source>The fields of the settings window, page by page. &quot;Key&quot; is the name under which the settings file has a setting. A sensor that is chosen there brings settings of its own.</source>
+        <translation>设置窗口中的各字段，逐页列出。“键”是设置文件中该设置的名称。在该处选择的传感器带有自己的设置。</translation>
     </message>
 </context>
 <context>
@@ -6525,8 +8301,16 @@ More: View, Input Health.</source>
         <translation>无法回放：%1</translation>
     </message>
     <message>
-        <source>The file is damaged, and what follows cannot be played: %1</source>
-        <translation>文件已损坏，其后内容无法回放：%1</translation>
+        <source>In %1 of %2 records of %3 the aircraft identification cannot be right: its callsigns are not to be relied on.</source>
+        <translation>%3 的 %2 条记录中有 %1 条的航空器识别不可能正确：其呼号不可信。</translation>
+    </message>
+    <message>
+        <source>Blanks stand before or between its characters, as in &quot;%1&quot;.</source>
+        <translation>字符之前或之间有空格，例如“%1”。</translation>
+    </message>
+    <message>
+        <source>The file is damaged, and nothing can be played beyond that place: %1</source>
+        <translation>文件已损坏，该处之后无法回放：%1</translation>
     </message>
 </context>
 <context>
@@ -6748,6 +8532,10 @@ More: View, Input Health.</source>
     <message>
         <source>shown as %1, %2</source>
         <translation>显示为 %1，%2</translation>
+    </message>
+    <message>
+        <source>the report is one of those that this track is made of</source>
+        <translation>该报告是构成此航迹的报告之一</translation>
     </message>
 </context>
 <context>
@@ -7192,10 +8980,6 @@ More: View, Input Health.</source>
         <translation>不向服务发出请求。</translation>
     </message>
     <message>
-        <source>&amp;Server instead of the service&apos;s own:</source>
-        <translation>替代服务自身的服务器(&amp;S)：</translation>
-    </message>
-    <message>
         <source>Such as https://tiles.example:8443. Empty: the service&apos;s own.</source>
         <translation>例如 https://tiles.example:8443。留空：使用服务自身的。</translation>
     </message>
@@ -7242,6 +9026,86 @@ More: View, Input Health.</source>
     <message>
         <source>An address with http:// or https:// and a host.</source>
         <translation>以 http:// 或 https:// 开头并含主机的地址。</translation>
+    </message>
+    <message>
+        <source>Draws maps or pictures of the ground from a service or a file.</source>
+        <translation>绘制来自服务或文件的地图或地面影像。</translation>
+    </message>
+    <message>
+        <source>Where the tiles come from that lie at the bottom of the picture.</source>
+        <translation>画面最底层瓦片的来源。</translation>
+    </message>
+    <message>
+        <source>For tiles that are transparent apart from names or airspaces.</source>
+        <translation>用于除名称或空域外均透明的瓦片。</translation>
+    </message>
+    <message>
+        <source>Where the tiles come from that lie over the static maps.</source>
+        <translation>静态地图之上瓦片的来源。</translation>
+    </message>
+    <message>
+        <source>The service whose settings stand below; this chooses no service.</source>
+        <translation>下面显示其设置的服务；这并不选用该服务。</translation>
+    </message>
+    <message>
+        <source>Which pictures of the service are shown.</source>
+        <translation>显示该服务的哪种影像。</translation>
+    </message>
+    <message>
+        <source>Which maps of the service are shown.</source>
+        <translation>显示该服务的哪种地图。</translation>
+    </message>
+    <message>
+        <source>Sharper on fine screens, and four times as much to load.</source>
+        <translation>在高分辨率屏幕上更清晰，但下载量为四倍。</translation>
+    </message>
+    <message>
+        <source>Which charts of the service are shown.</source>
+        <translation>显示该服务的哪种航图。</translation>
+    </message>
+    <message>
+        <source>The deepest level that has tiles; closer views enlarge these.</source>
+        <translation>有瓦片的最深级别；更近的视图放大这些瓦片。</translation>
+    </message>
+    <message>
+        <source>Writes each tile that is loaded to the directory below, for times without a network.</source>
+        <translation>将每个下载的瓦片写入下面的目录，供无网络时使用。</translation>
+    </message>
+    <message>
+        <source>Where tiles are kept for good, a file each.</source>
+        <translation>永久保存瓦片的位置，每个瓦片一个文件。</translation>
+    </message>
+    <message>
+        <source>Other &amp;server:</source>
+        <translation>其他服务器(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>Where tiles are kept that have been loaded, up to a bound.</source>
+        <translation>在限额内保存已下载瓦片的位置。</translation>
+    </message>
+    <message>
+        <source>Reaches the services through a SOCKS 5 proxy.</source>
+        <translation>通过 SOCKS 5 代理访问服务。</translation>
+    </message>
+    <message>
+        <source>Name or address of the proxy.</source>
+        <translation>代理的名称或地址。</translation>
+    </message>
+    <message>
+        <source>The TCP port of the proxy.</source>
+        <translation>代理的 TCP 端口。</translation>
+    </message>
+    <message>
+        <source>Empty for a proxy that asks for no name.</source>
+        <translation>代理不要求用户名时留空。</translation>
+    </message>
+    <message>
+        <source>Stands in the settings file as it is entered here.</source>
+        <translation>按此处输入的内容保存在设置文件中。</translation>
+    </message>
+    <message>
+        <source>Off: this machine looks them up itself.</source>
+        <translation>关闭：由本机自行解析。</translation>
     </message>
 </context>
 <context>
@@ -7707,10 +9571,6 @@ Ask it from now on?</source>
         <translation>确认</translation>
     </message>
     <message>
-        <source>Explain Plot</source>
-        <translation>解释点迹</translation>
-    </message>
-    <message>
         <source>Select</source>
         <translation>选择</translation>
     </message>
@@ -7868,6 +9728,50 @@ Ask it from now on?</source>
     <message>
         <source>0 % is transparent, 100 % hides what lies under the label.</source>
         <translation>0 % 为透明，100 % 完全遮住标牌下的内容。</translation>
+    </message>
+    <message>
+        <source>Colour of tracks that are updated as they should be.</source>
+        <translation>正常更新的航迹的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of the edge that sets symbols off from whatever lies under them.</source>
+        <translation>使符号与其下内容区分开的描边颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of tracks without a report for too long.</source>
+        <translation>过久没有报告的航迹的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of emergencies and of what needs a look but is no alert.</source>
+        <translation>紧急情况以及需要注意但不属告警者的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of a label&apos;s first line, which says who it is.</source>
+        <translation>标牌首行（识别）的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of level, speed and all else in a label.</source>
+        <translation>标牌中高度、速度及其他内容的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of the label and the symbol of the track that is selected.</source>
+        <translation>所选航迹的标牌和符号颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of tracks with an alert and of the ground behind the alert&apos;s name.</source>
+        <translation>有告警的航迹以及告警名称底色的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of the alert&apos;s name in a label.</source>
+        <translation>标牌中告警名称的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of the lines from symbols to their labels.</source>
+        <translation>符号到标牌引线的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of the ground behind the text of a label.</source>
+        <translation>标牌文字的底色。</translation>
     </message>
 </context>
 <context>
@@ -8111,10 +10015,6 @@ Ask it from now on?</source>
         <translation>否</translation>
     </message>
     <message>
-        <source>range and azimuth from the sensor; the slant range is taken as the distance over ground</source>
-        <translation>相对传感器的距离和方位；斜距视作地面距离</translation>
-    </message>
-    <message>
         <source>x and y from the sensor, since there is no measured range and azimuth</source>
         <translation>相对传感器的 x 和 y，因为没有测得距离和方位</translation>
     </message>
@@ -8205,6 +10105,26 @@ Ask it from now on?</source>
     <message>
         <source>tentative or coasting as the source says, else confirmed</source>
         <translation>按数据源所述为试探或外推，否则为确认</translation>
+    </message>
+    <message>
+        <source>the slant range is taken as the distance over ground</source>
+        <translation>斜距视作地面距离</translation>
+    </message>
+    <message>
+        <source>the slant range is corrected by the level of this report, as the sensor&apos;s settings say</source>
+        <translation>斜距已按传感器设置用本报告的高度修正</translation>
+    </message>
+    <message>
+        <source>the slant range is corrected by the track&apos;s level, as the sensor&apos;s settings say; this report has none</source>
+        <translation>斜距已按传感器设置用航迹的高度修正；本报告没有高度</translation>
+    </message>
+    <message>
+        <source>the slant range is taken as the distance over ground, since no level is known to correct it by</source>
+        <translation>斜距视作地面距离，因为没有可用于修正的高度</translation>
+    </message>
+    <message>
+        <source>range and azimuth from the sensor</source>
+        <translation>相对传感器的距离和方位</translation>
     </message>
 </context>
 <context>
@@ -8510,6 +10430,46 @@ Ask it from now on?</source>
         <source>Active safety-net alerts, emergencies (HIJ, RDO, EMG) and special pulse (SPI)</source>
         <translation>有效的安全网告警、紧急情况（HIJ、RDO、EMG）和特殊脉冲（SPI）</translation>
     </message>
+    <message>
+        <source>Sel</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Selected altitude, hundreds of feet</source>
+        <translation>选择高度，百英尺</translation>
+    </message>
+    <message>
+        <source>Dist</source>
+        <translation>距离</translation>
+    </message>
+    <message>
+        <source>Distance from the sensor, nautical miles</source>
+        <translation>距传感器的距离，海里</translation>
+    </message>
+    <message>
+        <source>Brg</source>
+        <translation>方位</translation>
+    </message>
+    <message>
+        <source>True bearing from the sensor, degrees</source>
+        <translation>相对传感器的真方位，度</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>时龄</translation>
+    </message>
+    <message>
+        <source>Since the last report, seconds</source>
+        <translation>距上次报告的时间，秒</translation>
+    </message>
+    <message>
+        <source>Sensor No.</source>
+        <translation>传感器号</translation>
+    </message>
+    <message>
+        <source>The sensor&apos;s own track number</source>
+        <translation>传感器自身的航迹号</translation>
+    </message>
 </context>
 <context>
     <name>TrackSymbols</name>
@@ -8638,6 +10598,18 @@ Ask it from now on?</source>
         <source>Stop UDP input</source>
         <translation>停止 UDP 输入</translation>
     </message>
+    <message>
+        <source>it is down</source>
+        <translation>接口已关闭</translation>
+    </message>
+    <message>
+        <source>The multicast group %1 has been joined again on interface %2.</source>
+        <translation>已在接口 %2 上重新加入组播组 %1。</translation>
+    </message>
+    <message>
+        <source>The network interface %1 brings nothing: %2. The multicast group %3 is joined again when it is back.</source>
+        <translation>网络接口 %1 没有数据：%2。恢复后将重新加入组播组 %3。</translation>
+    </message>
 </context>
 <context>
     <name>UdpInputFields</name>
@@ -8701,6 +10673,18 @@ Ask it from now on?</source>
         <source>Both inputs have the same port.</source>
         <translation>两路输入的端口相同。</translation>
     </message>
+    <message>
+        <source>The UDP port that the sensor sends to.</source>
+        <translation>传感器发送到的 UDP 端口。</translation>
+    </message>
+    <message>
+        <source>For a sensor that sends to a group of receivers instead of to this machine alone.</source>
+        <translation>用于向一组接收者而非仅向本机发送的传感器。</translation>
+    </message>
+    <message>
+        <source>%1 (not there)</source>
+        <translation>%1（不存在）</translation>
+    </message>
 </context>
 <context>
     <name>UdpPortUsers</name>
@@ -8711,6 +10695,35 @@ Ask it from now on?</source>
     <message>
         <source>&quot;%1&quot; (process %2, user %3)</source>
         <translation>“%1”（进程 %2，用户 %3）</translation>
+    </message>
+</context>
+<context>
+    <name>UnlockWindow</name>
+    <message>
+        <source>Unlock Settings</source>
+        <translation>解锁设置</translation>
+    </message>
+    <message>
+        <source>The settings of this position are locked.</source>
+        <translation>此席位的设置已锁定。</translation>
+    </message>
+    <message>
+        <source>Opens the settings until they are locked again or the program ends.</source>
+        <translation>解锁设置，直到再次锁定或程序结束。</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>密码(&amp;P)：</translation>
+    </message>
+    <message numerus="yes">
+        <source>This is not the password. Try again in %n s.</source>
+        <translation>
+            <numerusform>密码不正确。请在 %n s 后重试。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is not the password.</source>
+        <translation>密码不正确。</translation>
     </message>
 </context>
 <context>
@@ -8778,6 +10791,18 @@ Ask it from now on?</source>
     <message>
         <source>O&amp;pacity (0-255):</source>
         <translation>不透明度（0-255）(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>Draws the echoes as the radar&apos;s receiver has them (CAT240).</source>
+        <translation>按雷达接收机的原始回波绘制（CAT240）。</translation>
+    </message>
+    <message>
+        <source>Colour of echoes just above the threshold; stronger ones go over to the other colour.</source>
+        <translation>刚超过门限的回波颜色；越强越接近另一颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of echoes of full amplitude.</source>
+        <translation>满幅回波的颜色。</translation>
     </message>
 </context>
 <context>
@@ -8879,6 +10904,101 @@ Ask it from now on?</source>
         <source>Level &amp;%1:</source>
         <translation>等级 &amp;%1：</translation>
     </message>
+    <message>
+        <source>Draws the radar&apos;s weather pictures (CAT008).</source>
+        <translation>绘制雷达的气象图（CAT008）。</translation>
+    </message>
+    <message>
+        <source>For radars that send empty pictures between full ones.</source>
+        <translation>用于在完整图像之间发送空图像的雷达。</translation>
+    </message>
+    <message>
+        <source>How long a picture is shown when no other one follows.</source>
+        <translation>没有后续图像时一幅图像的显示时间。</translation>
+    </message>
+    <message>
+        <source>Leaves no gaps between the vectors of a picture, whatever their number.</source>
+        <translation>无论图像有多少矢量，矢量之间均不留空隙。</translation>
+    </message>
+    <message>
+        <source>Fills in the colours of all levels; each of them can be changed afterwards.</source>
+        <translation>填写所有等级的颜色；之后均可单独更改。</translation>
+    </message>
+    <message>
+        <source>Colour of weather of this intensity, 0 being the lightest.</source>
+        <translation>该强度气象的颜色；0 为最弱。</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherExplanation</name>
+    <message>
+        <source>Intensity</source>
+        <translation>强度</translation>
+    </message>
+    <message>
+        <source>From range</source>
+        <translation>起始距离</translation>
+    </message>
+    <message>
+        <source>To range</source>
+        <translation>终止距离</translation>
+    </message>
+    <message>
+        <source>Azimuth</source>
+        <translation>方位</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>数据源</translation>
+    </message>
+    <message>
+        <source>drawn around the place of the input&apos;s sensor</source>
+        <translation>以输入传感器的位置为中心绘制</translation>
+    </message>
+    <message>
+        <source>Scaling factor</source>
+        <translation>比例因子</translation>
+    </message>
+    <message>
+        <source>Time of picture</source>
+        <translation>图像时间</translation>
+    </message>
+    <message>
+        <source>Vectors in picture</source>
+        <translation>图像矢量数</translation>
+    </message>
+    <message>
+        <source>as its end announces</source>
+        <translation>按其结束报文所述</translation>
+    </message>
+    <message>
+        <source>its message is kept no more</source>
+        <translation>其报文已不再保留</translation>
+    </message>
+    <message>
+        <source>hatched, since this level is switched off (Weather Intensity)</source>
+        <translation>以阴影线绘制，因为该等级已关闭（“气象强度”）</translation>
+    </message>
+    <message>
+        <source>in the colour of its level, stronger over weaker</source>
+        <translation>按其等级的颜色，强的覆盖弱的</translation>
+    </message>
+    <message>
+        <source>scaled by the factor that an earlier picture began with</source>
+        <translation>按较早图像开始时的因子缩放</translation>
+    </message>
+    <message>
+        <source>%1 × 2^(F − 7) NM, with the scaling factor F = %2</source>
+        <translation>%1 × 2^(F − 7) NM，比例因子 F = %2</translation>
+    </message>
+    <message>
+        <source>drawn %1° wide, so that neighbours touch</source>
+        <translation>绘制宽度 %1°，使相邻者相接</translation>
+    </message>
+    <message>
+        <source>drawn %1° wide, as the settings say</source>
+        <translation>按设置绘制宽度 %1°</translation>
+    </message>
 </context>
 <context>
     <name>WeatherIntensityWindow</name>
@@ -8964,6 +11084,68 @@ Ask it from now on?</source>
     <message>
         <source>incomplete</source>
         <translation>不完整</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>What do you want to see?</source>
+        <translation>您想查看什么？</translation>
+    </message>
+    <message>
+        <source>&amp;Demonstration</source>
+        <translation>演示(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Made-up traffic, to look around. Your settings stay as they are; Stop ends it.</source>
+        <translation>模拟交通，用于熟悉程序。您的设置保持不变；“停止”即可结束。</translation>
+    </message>
+    <message>
+        <source>Open a &amp;Recording...</source>
+        <translation>打开记录(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>A capture or a recorder&apos;s file. What it holds is found out by itself.</source>
+        <translation>抓包或记录仪文件。其内容会自动识别。</translation>
+    </message>
+    <message>
+        <source>&amp;Live Input...</source>
+        <translation>实时输入(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>A network or a serial line. You see what arrives before anything is set.</source>
+        <translation>网络或串口。在更改任何设置之前即可看到收到的内容。</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>主题(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Esc leads to the empty scope. Help, Getting Started... brings this page back.</source>
+        <translation>按 Esc 进入空白显示。“帮助”→“入门...”可返回此页。</translation>
+    </message>
+</context>
+<context>
+    <name>WindowControl</name>
+    <message>
+        <source>&quot;%1&quot; has to lie between %2 and %3.</source>
+        <translation>“%1”必须在 %2 与 %3 之间。</translation>
+    </message>
+    <message>
+        <source>&quot;latitude&quot; and &quot;longitude&quot; belong together.</source>
+        <translation>“latitude”与“longitude”必须同时给出。</translation>
+    </message>
+    <message>
+        <source>The input is open already.</source>
+        <translation>输入已打开。</translation>
+    </message>
+    <message>
+        <source>No input is open.</source>
+        <translation>没有打开输入。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 <context>
