@@ -23,7 +23,6 @@ constexpr HelpTopic Topics[] = {
     {"MapEditorWindow", "map-editor.md"},
     {"MapImportWindow", "maps.md#importing"},
     {"MarkdownWindow", "overview.md"},
-    {"PasswordWindow", "settings.md"},
     {"PasswordWindow", "settings.md#locking-the-settings"},
     {"PlanViewWindow", "lists-and-views.md#further-plan-views"},
     {"ProcessorConfigPage", "formats.md"},

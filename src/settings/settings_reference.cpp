@@ -36,18 +36,6 @@ QString defaultOf(const Setting &setting, const QWidget &field)
     return cell(text.replace(AppPaths::appDataDir(), QLatin1String("…")));
 }
 
-QString explanationOf(const Setting &setting, const QWidget &field)
-{
-    QString text = field.toolTip().section(u'\n', 0, 0);
-    if (setting.maximum() > setting.minimum()) {
-        const auto number = [](double value) { return QString::number(value, 'g', 10); };
-        text += u' '
-            + SettingsReference::tr("From %1 to %2%3.")
-                  .arg(number(setting.minimum()), number(setting.maximum()), setting.unitSuffix());
-    }
-    return cell(text);
-}
-
 QString pageReference(const ConfigPage &page)
 {
     QString rows;
