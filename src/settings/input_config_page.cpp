@@ -58,9 +58,11 @@ InputConfigPage::InputConfigPage(const SensorManager *sensors, QWidget *parent, 
     addUdpRows();
     addSerialRows();
     addFileRows();
-    form()->addSpacing();
-    addSwitch(tr("Start &input at program start"), &Config::inputAutoStart,
-        tr("The input is opened by itself as soon as the program runs."));
+    if (offer == Offer::Everything) {
+        form()->addSpacing();
+        addSwitch(tr("Start &input at program start"), &Config::inputAutoStart,
+            tr("The input is opened by itself as soon as the program runs."));
+    }
     layout()->setSpacing(2 * layout()->spacing());
     layout()->addWidget(m_probeView); // not in the form, which is locked while the input runs
     static_cast<QVBoxLayout *>(layout())->addStretch(1);
