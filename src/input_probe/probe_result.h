@@ -31,5 +31,7 @@ struct ProbeResult {
     StreamFindings findings; // of the last minute or two; without a kind while nothing could be made out
     Diagnosis troubles; // of the findings: what is wrong
 
+    // The engine's counts come later than what is analysed.
+    bool hasArrived() const { return messages > 0 || findings.messages > 0; }
     bool isRecognised() const { return findings.kind.has_value(); }
 };

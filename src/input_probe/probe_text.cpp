@@ -348,7 +348,7 @@ QString ProbeText::sentence(const ProbeResult &result)
     if (result.paused) {
         return Text::tr("The input is paused.");
     }
-    if (result.messages == 0) {
+    if (!result.hasArrived()) {
         return silenceText(result);
     }
     if (!result.isRecognised()) {
@@ -378,7 +378,7 @@ QStringList ProbeText::advice(const ProbeResult &result, const Config &config)
         return {};
     }
     QStringList lines;
-    if (result.messages == 0) {
+    if (!result.hasArrived()) {
         lines = silenceAdvice(result, config);
     } else if (!result.isRecognised() && result.findings.messages > 0) {
         lines = unknownAdvice(result);
