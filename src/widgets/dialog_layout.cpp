@@ -34,5 +34,8 @@ QDialogButtonBox *layOutDialog(QDialog *dialog, QWidget *contents, QDialogButton
 void growToContents(QDialog *dialog)
 {
     dialog->layout()->activate();
-    dialog->resize(dialog->width(), std::max(dialog->height(), dialog->layout()->totalHeightForWidth(dialog->width())));
+    // Before it is shown it has no size of its own.
+    const QSize size =
+        dialog->isVisible() ? dialog->size() : QSize(std::max(dialog->minimumWidth(), dialog->sizeHint().width()), 0);
+    dialog->resize(size.width(), std::max(size.height(), dialog->layout()->totalHeightForWidth(size.width())));
 }
