@@ -255,6 +255,12 @@ bool ListOrder::hasChildren(const QModelIndex &parent) const
     return rowCount(parent) > 0;
 }
 
+QVariant ListOrder::data(const QModelIndex &index, int role) const
+{
+    const QModelIndex source = mapToSource(index);
+    return source.isValid() ? m_model->data(source, role) : QVariant();
+}
+
 // The base class would ask by way of the first row, which may be an empty line.
 QVariant ListOrder::headerData(int section, Qt::Orientation orientation, int role) const
 {

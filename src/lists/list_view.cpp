@@ -257,7 +257,9 @@ void ListView::noteHover(const QModelIndex &index)
 bool ListView::viewportEvent(QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::Enter:
+    case QEvent::Enter: // which need not be a move: the list may have come under the pointer
+        m_pointerInside = true;
+        break;
     case QEvent::MouseMove:
     case QEvent::MouseButtonPress:
     case QEvent::Wheel:

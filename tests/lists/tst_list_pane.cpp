@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -61,6 +62,7 @@ private:
 void TestListPane::init()
 {
     m_pane.reset();
+    QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight()); // off the list
     m_model = std::make_unique<TrackListModel>();
     m_pane = std::make_unique<ListPane>(m_model.get(), "trackList");
     m_pane->resize(500, 400);
