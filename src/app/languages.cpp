@@ -1,5 +1,6 @@
 #include "app/languages.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -46,14 +47,9 @@ QList<Languages::Language> Languages::available()
     return languages;
 }
 
-QString Languages::systemLanguage()
-{
-    return QLocale::system().name();
-}
-
 void Languages::install(const QString &code)
 {
-    const QString language = code.isEmpty() ? systemLanguage() : code;
+    const QString language = code.isEmpty() ? QLocale::system().name() : code;
     const QString toolkit = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     installFirst("qtbase_" + language, {QString(), toolkit, ResourceFolder});
     installFirst("qt_" + language, {QString()});

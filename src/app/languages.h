@@ -1,14 +1,11 @@
 #pragma once
 
-#include <QCoreApplication>
 #include <QList>
 #include <QString>
 
 // The languages that the program speaks. English is the language of the sources; each of the others is a file
 // "vyxdisplay_<code>.qm", in the working directory or among the resources.
 class Languages {
-    Q_DECLARE_TR_FUNCTIONS(Languages)
-
 public:
     struct Language {
         QString code; // "de", "zh_CN", as the setting displayLanguage holds it
@@ -17,8 +14,6 @@ public:
 
     // English first, then by their codes.
     static QList<Language> available();
-    // Of this computer, "de_AT" for example.
-    static QString systemLanguage();
 
     // Installs the texts of the chosen language, this program's and the toolkit's, into the application object; an
     // empty code stands for the system's language. What is not translated stays English. Called once, before the first
