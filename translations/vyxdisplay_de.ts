@@ -2235,7 +2235,7 @@
         <translation>Welcher Sensor ist es?</translation>
     </message>
     <message>
-        <source>&amp;Back</source>
+        <source>Bac&amp;k</source>
         <translation>&amp;Zurück</translation>
     </message>
     <message>
@@ -2243,8 +2243,8 @@
         <translation>&amp;Weiter</translation>
     </message>
     <message>
-        <source>&amp;Start</source>
-        <translation>S&amp;tart</translation>
+        <source>Start</source>
+        <translation>Starten</translation>
     </message>
     <message>
         <source>Nothing was recognised, so the sensor must be described by hand.</source>

@@ -2232,7 +2232,7 @@
         <translation>是哪个传感器？</translation>
     </message>
     <message>
-        <source>&amp;Back</source>
+        <source>Bac&amp;k</source>
         <translation>上一步(&amp;B)</translation>
     </message>
     <message>
@@ -2240,8 +2240,8 @@
         <translation>下一步(&amp;N)</translation>
     </message>
     <message>
-        <source>&amp;Start</source>
-        <translation>启动(&amp;S)</translation>
+        <source>Start</source>
+        <translation>启动</translation>
     </message>
     <message>
         <source>Nothing was recognised, so the sensor must be described by hand.</source>

@@ -13,6 +13,7 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -59,17 +60,23 @@ FirstStartGuide::FirstStartGuide(Settings settings, SensorManager *sensors, Engi
     resize(UsualSize);
 }
 
+// Beside the box, which shows all its buttons whenever it gets another one.
 void FirstStartGuide::makeButtons()
 {
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, Qt::Horizontal, this);
-    m_back = buttons->addButton(tr("&Back"), QDialogButtonBox::ActionRole);
+    m_back = new QPushButton(tr("Bac&k"), this);
     m_back->setObjectName(QStringLiteral("back"));
-    m_next = buttons->addButton(tr("&Next"), QDialogButtonBox::ActionRole);
+    m_next = new QPushButton(tr("&Next"), this);
     m_next->setObjectName(QStringLiteral("next"));
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, Qt::Horizontal, this);
     connect(m_back, &QPushButton::clicked, this, &FirstStartGuide::goBack);
     connect(m_next, &QPushButton::clicked, this, &FirstStartGuide::advance);
     connect(buttons, &QDialogButtonBox::rejected, this, &FirstStartGuide::reject);
-    layout()->addWidget(buttons);
+    auto *row = new QHBoxLayout;
+    row->addStretch(1);
+    row->addWidget(m_back);
+    row->addWidget(m_next);
+    row->addWidget(buttons);
+    static_cast<QVBoxLayout *>(layout())->addLayout(row);
 }
 
 void FirstStartGuide::connectWelcome()
@@ -132,7 +139,8 @@ void FirstStartGuide::goTo(Step step)
     m_problem->hide();
     m_back->setVisible(step != Welcome);
     m_next->setVisible(step != Welcome);
-    m_next->setText(step == Sensor ? tr("&Start") : tr("&Next"));
+    // Every letter of it leads to a field of that step; Enter does it.
+    m_next->setText(step == Sensor ? tr("Start") : tr("&Next"));
     m_next->setDefault(step != Welcome);
 }
 
