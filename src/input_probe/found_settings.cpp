@@ -27,6 +27,16 @@ void keepSensor(const Config &before, Config *config)
     }
 }
 
+// No kind of detection has been reported yet, but a radar has one.
+void keepKinds(const Config &before, Config *config)
+{
+    if (!config->sensorRadarIsPrimary && !config->sensorRadarIsSecondary && !config->sensorRadarIsModeS) {
+        config->sensorRadarIsPrimary = before.sensorRadarIsPrimary;
+        config->sensorRadarIsSecondary = before.sensorRadarIsSecondary;
+        config->sensorRadarIsModeS = before.sensorRadarIsModeS;
+    }
+}
+
 } // namespace
 
 void applyFound(const InputProposal &found, Config *config)
@@ -36,6 +46,7 @@ void applyFound(const InputProposal &found, Config *config)
     if (found.rotationPeriodMissing()) {
         config->sensorRadarRotationPeriod = before.sensorRadarRotationPeriod;
     }
+    keepKinds(before, config);
     if (!found.isFromSensorFile() && isSameSensor(before, *config)) {
         keepSensor(before, config);
     }
