@@ -177,7 +177,7 @@ QString SensorManager::problemOfFile(const QString &fileName)
 bool SensorManager::changedOutside(const QFileInfo &file) const
 {
     QFile device(file.filePath());
-    return file.absoluteFilePath() == m_known.path && device.open(QIODevice::ReadOnly)
+    return !m_known.path.isEmpty() && file.absoluteFilePath() == m_known.path && device.open(QIODevice::ReadOnly)
         && digestOf(device.readAll()) != m_known.digest;
 }
 

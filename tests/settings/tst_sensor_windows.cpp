@@ -229,6 +229,7 @@ void TestSensorWindows::isDrivenByKeys()
     QVERIFY(sensors.saveToJsonFile(QFileInfo(file)));
     SensorManagerWindow window(&sensors, file);
     window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
     auto *list = field<SensorList>(window, "sensorList");
     const auto order = [&sensors] {
         QStringList names;
