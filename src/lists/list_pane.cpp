@@ -79,9 +79,9 @@ void ListPane::makeMenu()
     m_menuButton->setAccessibleName(tr("List Menu"));
     m_menuButton->setToolTip(tr("Columns, copy, export"));
     m_menuButton->setAutoRaise(true);
-    m_menuButton->setPopupMode(QToolButton::InstantPopup);
-    m_menuButton->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none }"));
-    m_menuButton->setMenu(menu);
+    // Set as the button's own it would bring a mark that there is no room for.
+    connect(m_menuButton, &QToolButton::clicked, menu,
+        [this, menu] { menu->popup(m_menuButton->mapToGlobal(m_menuButton->rect().bottomLeft())); });
     QHeaderView *header = m_list->horizontalHeader();
     connect(header, &QWidget::customContextMenuRequested, this, [this, header](const QPoint &position) {
         auto *choice = new QMenu(this);

@@ -150,6 +150,12 @@ int ListPanes::usefulWidth(int most) const
     return m_trackView->widthOfWholeColumns(most);
 }
 
+void ListPanes::widenToWholeColumns()
+{
+    m_trackView->widenToWholeColumns();
+    m_alertView->widenToWholeColumns();
+}
+
 bool ListPanes::outOfSight(const ListPane *pane) const
 {
     return m_window->isVisible() && !pane->isVisible();

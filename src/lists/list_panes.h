@@ -53,6 +53,8 @@ public:
     void save(const QString &group) const;
     // As many pixels of those as show whole columns of the track list.
     int usefulWidth(int most) const;
+    // No column is cut by the edge of its pane as it is now.
+    void widenToWholeColumns();
 
 Q_SIGNALS:
     // The operator wants to see the track.

@@ -180,6 +180,22 @@ int ListView::widthOfWholeColumns(int most) const
     return width;
 }
 
+void ListView::widenToWholeColumns()
+{
+    int last = -1;
+    int right = 0;
+    for (const int column : shownColumns()) {
+        if (right + columnWidth(column) > viewport()->width()) {
+            break;
+        }
+        right += columnWidth(column);
+        last = column;
+    }
+    if (last >= 0) {
+        setColumnWidth(last, columnWidth(last) + viewport()->width() - right);
+    }
+}
+
 bool ListView::inUse() const
 {
     const bool touched = m_sinceTouched.isValid() && m_sinceTouched.elapsed() < RestMs;

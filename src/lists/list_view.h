@@ -34,6 +34,8 @@ public:
     QList<int> shownColumns() const;
     // The first columns that fit into so many pixels, with what stands beside them; at least one.
     int widthOfWholeColumns(int most) const;
+    // The last column that is whole in the view as it is now takes what is left of its width.
+    void widenToWholeColumns();
     // As the model has them.
     void showDefaultColumns();
 

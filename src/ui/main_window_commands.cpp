@@ -6,6 +6,7 @@
 #include "health/cures.h"
 #include "health/health_dock.h"
 #include "health/input_health.h"
+#include "inspection/inspection.h"
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
 #include "second_view/second_views.h"
@@ -138,6 +139,7 @@ void MainWindow::connectHealth()
                             [this](const std::function<void(Config &)> &change) { changeSensor(change); }},
         this);
     connect(dock, &HealthDock::cureRequested, m_cures, &Cures::cureSource);
+    connect(m_inspection.get(), &Inspection::cureChosen, m_cures, &Cures::cureAbsence);
 }
 
 void MainWindow::tellHealthOfInput()

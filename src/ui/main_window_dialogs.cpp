@@ -4,7 +4,6 @@
 #include "assessment_windows/sensor_check.h"
 #include "display/geo_map_display.h"
 #include "first_start/first_start.h"
-#include "health/cures.h"
 #include "health/health_dock.h"
 #include "help/about_window.h"
 #include "help/changelog_window.h"
@@ -121,7 +120,6 @@ void MainWindow::makeInspection()
     connect(m_trackCommands.get(), &TrackCommands::placeMenuMade, inspection, &Inspection::addPlaceActions);
     connect(m_trackCommands.get(), &TrackCommands::alertToExplain, inspection, &Inspection::explainAlertOf);
     connect(inspection, &Inspection::trackChosen, m_trackCommands.get(), &TrackCommands::select);
-    connect(inspection, &Inspection::cureChosen, m_cures, &Cures::cureAbsence);
 }
 
 AbsenceFacts MainWindow::inputFacts() const

@@ -99,6 +99,7 @@ void MainWindow::arrangeDocks()
     const int listWidth = m_lists->usefulWidth(static_cast<int>(width() * WidestLists));
     resizeDocks({m_lists->trackDock()}, {listWidth}, Qt::Horizontal);
     resizeDocks({m_lists->trackDock(), alerts}, {2, 1}, Qt::Vertical);
+    QTimer::singleShot(0, m_lists.get(), &ListPanes::widenToWholeColumns); // when the panes have their sizes
 }
 
 // The arrangement is on disk before it goes out of sight: a crash in full screen must not cost it.
