@@ -103,13 +103,13 @@ void addRegister(ReportView &view, int firstBit)
     }
 }
 
-// Aircraft addresses, the only codes of 24 bits, as everybody writes them.
+// Aircraft addresses, the only numbers of 24 bits beside a count of video cells, as everybody writes them.
 QString valueOf(const FieldPlace &place)
 {
     const QString value = QString::fromStdString(place.value);
     bool isNumber = false;
     const uint number = value.toUInt(&isNumber);
-    const bool isAddress = place.bits == 24 && place.unit.empty() && isNumber;
+    const bool isAddress = place.bits == 24 && place.unit.empty() && isNumber && place.path != "049/NBCELLS";
     return isAddress ? QString("%1").arg(number, 6, 16, QChar('0')).toUpper() : value;
 }
 
