@@ -65,13 +65,20 @@ public:
         add(echoText(QT_TRANSLATE_NOOP("EchoExplanation", "Time of day")), "140", {}, {});
         add(echoText(QT_TRANSLATE_NOOP("EchoExplanation", "Message number")), "020", {},
             echoText(QT_TRANSLATE_NOOP("EchoExplanation", "gaps in it are counted as missing messages")));
-        add(echoText(QT_TRANSLATE_NOOP("EchoExplanation", "Source")), "010/SAC 010/SIC", {},
+        add(echoText(QT_TRANSLATE_NOOP("EchoExplanation", "Source")), "010/SAC 010/SIC", sourceText(),
             echoText(QT_TRANSLATE_NOOP("EchoExplanation", "drawn around the place of the sensor of that SAC/SIC")));
         return m_values;
     }
 
 private:
     const ReportView *view() const { return m_report < m_reports.size() ? &m_reports[m_report] : nullptr; }
+
+    QString sourceText() const
+    {
+        const ReportField *sac = view() ? view()->find("010/SAC") : nullptr;
+        const ReportField *sic = view() ? view()->find("010/SIC") : nullptr;
+        return sac && sic ? sac->value + '/' + sic->value : QString();
+    }
 
     QString bitsText() const
     {

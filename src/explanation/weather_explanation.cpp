@@ -113,7 +113,8 @@ public:
             miles(m_weather.endRange), rangeRule(m_element + "ENDR"));
         add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "Azimuth")), m_element + "AZ", VectorReport,
             QString("%1°").arg(m_weather.azimuth, 0, 'f', 2), widthRule());
-        add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "Source")), "010/SAC 010/SIC", VectorReport, {},
+        add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "Source")), "010/SAC 010/SIC", VectorReport,
+            sourceText(),
             weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "drawn around the place of the input's sensor")));
         add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "Scaling factor")), "100/F", StartReport, {}, {});
         add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "Time of picture")), "090", StartReport, timeText(),
@@ -145,6 +146,15 @@ private:
     }
 
     static QString miles(double range) { return QString("%1 NM").arg(range, 0, 'f', 2); }
+
+    QString sourceText() const
+    {
+        const auto code = [this](const char *key) {
+            const ReportField *field = m_views.isEmpty() ? nullptr : m_views[VectorReport].find(key);
+            return field ? field->value : QString();
+        };
+        return code("010/SAC").isEmpty() ? QString() : code("010/SAC") + '/' + code("010/SIC");
+    }
 
     QString timeText() const
     {

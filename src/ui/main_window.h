@@ -18,7 +18,6 @@
 #include <QTimer>
 
 class Actions;
-class Cures;
 class EmptyScope;
 class FirstStart;
 class GeoMapDisplay;
@@ -314,7 +313,6 @@ private:
     std::unique_ptr<PlotSwitch> m_plotSwitch;
     std::unique_ptr<EmptyScope> m_emptyScope;
     std::unique_ptr<InputHealth> m_health;
-    Cures *m_cures = nullptr; // a child
     std::unique_ptr<ListPanes> m_lists;
     std::unique_ptr<TrackCommands> m_trackCommands;
     std::unique_ptr<Inspection> m_inspection;

@@ -134,12 +134,14 @@ void MainWindow::connectHealth()
     const auto *dock = new HealthDock(health, this, m_messagesDock);
     m_actions->menu(MenuId::View)->addAction(dock->toggleViewAction());
     Actions &actions = *m_actions;
-    m_cures = new Cures({actions[ActionId::TogglePlots], actions[ActionId::ToggleTrackLabel], actions[ActionId::Pause],
-                            actions[ActionId::Start], actions[ActionId::Settings],
-                            [this](const std::function<void(Config &)> &change) { changeSensor(change); }},
+    auto *cures = new Cures({actions[ActionId::TogglePlots], actions[ActionId::ToggleTrackLabel],
+                                actions[ActionId::Pause], actions[ActionId::Start], actions[ActionId::Settings],
+                                [this](const std::function<void(Config &)> &change) { changeSensor(change); }},
         this);
     connect(dock, &HealthDock::cureRequested, m_cures, &Cures::cureSource);
     connect(m_inspection.get(), &Inspection::cureChosen, m_cures, &Cures::cureAbsence);
+    connect(dock, &HealthDock::cureRequested, cures, &Cures::cureSource);
+    connect(m_inspection.get(), &Inspection::cureChosen, cures, &Cures::cureAbsence);
 }
 
 void MainWindow::tellHealthOfInput()

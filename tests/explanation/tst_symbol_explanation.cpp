@@ -167,7 +167,7 @@ void TestSymbolExplanation::explainsWeatherByItsPicture()
     QCOMPARE(*from.ageMs, 20000LL);
     QCOMPARE(from.bits.size(), 1);
     QCOMPARE(named(values, "Intensity").item, QString("I008/020/I"));
-    QCOMPARE(named(values, "Source").value, QString("25, 12"));
+    QCOMPARE(named(values, "Source").value, QString("25/12"));
     QCOMPARE(named(values, "Time of picture").report, 1);
     QCOMPARE(named(values, "Vectors in picture").report, 2);
 
