@@ -138,8 +138,6 @@ void MainWindow::connectHealth()
                                 actions[ActionId::Pause], actions[ActionId::Start], actions[ActionId::Settings],
                                 [this](const std::function<void(Config &)> &change) { changeSensor(change); }},
         this);
-    connect(dock, &HealthDock::cureRequested, m_cures, &Cures::cureSource);
-    connect(m_inspection.get(), &Inspection::cureChosen, m_cures, &Cures::cureAbsence);
     connect(dock, &HealthDock::cureRequested, cures, &Cures::cureSource);
     connect(m_inspection.get(), &Inspection::cureChosen, cures, &Cures::cureAbsence);
 }

@@ -12,10 +12,7 @@
 #include "demonstration/demo_traffic.h"
 #include "engine/replay_speed.h"
 #include "plan_view/geo_widget.h"
-<<<<<<< HEAD
 #include "tile_windows/tile_maps.h"
-=======
->>>>>>> c8ae4cd (vyxdisplay: include what the first frame is watched on)
 #include "ui/input_session.h"
 #include "ui/main_window.h"
 #include "ui/recording_opener.h"
