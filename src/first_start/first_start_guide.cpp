@@ -16,13 +16,14 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr QSize UsualSize(720, 600);
+constexpr QSize UsualSize(38, 32); // lines of text
 constexpr double StepHeadingScale = 1.3; // of the interface's font
 
 QLabel *makeNote(QWidget *parent)
@@ -30,6 +31,16 @@ QLabel *makeNote(QWidget *parent)
     auto *note = new QLabel(parent);
     note->setWordWrap(true);
     return note;
+}
+
+// Large text may need more room than there is.
+QScrollArea *makeScrollable(QWidget *page, QWidget *parent)
+{
+    auto *area = new QScrollArea(parent);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(page);
+    return area;
 }
 
 } // namespace
@@ -48,7 +59,7 @@ FirstStartGuide::FirstStartGuide(Settings settings, SensorManager *sensors, Engi
     m_problem->hide();
     auto *note = makeNote(this);
     note->setText(tr("What arrives there is told below, before anything is set."));
-    m_steps->addWidget(m_welcome);
+    m_steps->addWidget(makeScrollable(m_welcome, this));
     m_steps->addWidget(makeStep(tr("Where do the data come from?"), note, m_input));
     m_steps->addWidget(makeStep(tr("Which sensor is it?"), m_found, m_sensor));
     auto *layout = new QVBoxLayout(this);
@@ -57,7 +68,8 @@ FirstStartGuide::FirstStartGuide(Settings settings, SensorManager *sensors, Engi
     makeButtons();
     connectWelcome();
     goTo(Welcome);
-    resize(UsualSize);
+    const QSize wanted = UsualSize * fontMetrics().height();
+    resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
 }
 
 // Beside the box, which shows all its buttons whenever it gets another one.
@@ -106,14 +118,10 @@ QWidget *FirstStartGuide::makeStep(const QString &heading, QWidget *note, QWidge
     QFont large = title->font();
     large.setPointSizeF(large.pointSizeF() * StepHeadingScale);
     title->setFont(large);
-    auto *area = new QScrollArea(step);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setWidget(page);
     auto *layout = new QVBoxLayout(step);
     layout->addWidget(title);
     layout->addWidget(note);
-    layout->addWidget(area, 1);
+    layout->addWidget(makeScrollable(page, step), 1);
     return step;
 }
 
