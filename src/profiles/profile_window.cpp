@@ -9,6 +9,11 @@
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QTimer>
+
+namespace {
+constexpr int NameLength = 32; // characters shown
+}
 
 ProfileWindow::ProfileWindow(QWidget *parent)
     : GeometryDialog(QStringLiteral("ProfileWindow"), parent), m_form(new FieldForm(this)), m_name(new QComboBox)
@@ -19,6 +24,7 @@ ProfileWindow::ProfileWindow(QWidget *parent)
     m_name->setAccessibleName(tr("Profile"));
     m_name->setEditable(true);
     m_name->setInsertPolicy(QComboBox::NoInsert);
+    m_name->setMinimumContentsLength(NameLength);
     QStringList others = AppPaths::profiles();
     others.removeAll(AppPaths::profile());
     m_name->addItems(others);
@@ -47,6 +53,7 @@ void ProfileWindow::accept()
 {
     const QString name = m_name->currentText().trimmed();
     if (!m_form->check(m_name, problem(name))) {
+        QTimer::singleShot(0, this, &QWidget::adjustSize); // there is room for the note when it is laid out
         return;
     }
     Q_EMIT profileChosen(name);

@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+
 class TestProfileWindow final : public QObject {
     Q_OBJECT
 
@@ -51,10 +53,10 @@ private Q_SLOTS:
             QTest::keyClick(name, Qt::Key_Return);
             QVERIFY2(window.isVisible(), typed);
             const auto labels = window.findChildren<QLabel *>();
-            QVERIFY2(
-                std::any_of(labels.begin(), labels.end(),
-                    [problem](const QLabel *label) { return label->isVisible() && label->text().startsWith(problem); }),
-                typed);
+            const auto note = std::find_if(labels.begin(), labels.end(),
+                [problem](const QLabel *label) { return label->isVisible() && label->text().startsWith(problem); });
+            QVERIFY2(note != labels.end(), typed);
+            QTRY_VERIFY2((*note)->height() >= (*note)->heightForWidth((*note)->width()), typed); // nothing is cut off
         }
         name->lineEdit()->selectAll();
         QTest::keyClicks(name, "apron-2");
