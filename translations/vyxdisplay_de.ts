@@ -2236,6 +2236,7 @@
     </message>
     <message>
         <source>Bac&amp;k</source>
+        <source>&amp;Back</source>
         <translation>&amp;Zurück</translation>
     </message>
     <message>
@@ -2245,6 +2246,8 @@
     <message>
         <source>Start</source>
         <translation>Starten</translation>
+        <source>&amp;Start</source>
+        <translation>S&amp;tart</translation>
     </message>
     <message>
         <source>Nothing was recognised, so the sensor must be described by hand.</source>

@@ -2233,6 +2233,7 @@
     </message>
     <message>
         <source>Bac&amp;k</source>
+        <source>&amp;Back</source>
         <translation>上一步(&amp;B)</translation>
     </message>
     <message>
@@ -2242,6 +2243,8 @@
     <message>
         <source>Start</source>
         <translation>启动</translation>
+        <source>&amp;Start</source>
+        <translation>启动(&amp;S)</translation>
     </message>
     <message>
         <source>Nothing was recognised, so the sensor must be described by hand.</source>
