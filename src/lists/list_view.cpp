@@ -19,6 +19,11 @@ namespace {
 constexpr int CellPadding = 6;
 constexpr int LitAlpha = 70; // of the selection's colour
 
+int rowHeightOfFigures()
+{
+    return QFontMetrics(figureFont()).height() + 2;
+}
+
 // Keys that move within the list; the window has shortcuts on some of them.
 bool isListKey(const QKeyEvent &event)
 {
@@ -101,11 +106,26 @@ void ListView::setUpTable()
     setMouseTracking(true);
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(1);
-    verticalHeader()->setDefaultSectionSize(QFontMetrics(figureFont()).height() + 2);
+    verticalHeader()->setDefaultSectionSize(rowHeightOfFigures());
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsMovable(true);
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
+}
+
+// The operator's widths of columns grow with the text.
+void ListView::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    const int height = rowHeightOfFigures();
+    const int before = verticalHeader()->defaultSectionSize();
+    if (event->type() != QEvent::FontChange || height == before) {
+        return;
+    }
+    verticalHeader()->setDefaultSectionSize(height);
+    for (const int column : shownColumns()) {
+        horizontalHeader()->resizeSection(column, horizontalHeader()->sectionSize(column) * height / before);
+    }
 }
 
 void ListView::connectRows()

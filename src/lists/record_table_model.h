@@ -30,8 +30,7 @@ class RecordTableModel : public ListModel {
 public:
     using Column = RecordColumn<Record>;
 
-    RecordTableModel(const QList<Column> &columns, QObject *parent)
-        : ListModel(parent), m_fields(columns), m_figures(figureFont())
+    RecordTableModel(const QList<Column> &columns, QObject *parent) : ListModel(parent), m_fields(columns)
     {
         for (const Column &field : columns) {
             m_columns.append(field.column);
@@ -74,7 +73,7 @@ public:
         case Qt::DisplayRole:
             return cellText(index.row(), index.column());
         case Qt::FontRole:
-            return m_figures;
+            return figureFont();
         case Qt::TextAlignmentRole:
             return alignment(index.column());
         default:
@@ -184,7 +183,6 @@ private:
 
     const QList<Column> m_fields;
     QList<ListColumn> m_columns;
-    const QFont m_figures;
     std::vector<Record> m_records;
     QHash<KeyType, int> m_rows;
 };

@@ -33,7 +33,7 @@ static_assert(std::size(Columns) == RawRecordModel::ColumnCount);
 
 } // namespace
 
-RawRecordModel::RawRecordModel(QObject *parent) : QAbstractTableModel(parent), m_figures(figureFont()) { }
+RawRecordModel::RawRecordModel(QObject *parent) : QAbstractTableModel(parent) { }
 
 int RawRecordModel::rowCount(const QModelIndex &parent) const
 {
@@ -76,7 +76,7 @@ QVariant RawRecordModel::look(const RawRecord &record, int column, int role) con
     case Qt::DisplayRole:
         return text(record, column);
     case Qt::FontRole:
-        return m_figures;
+        return figureFont();
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Columns[column].alignment | Qt::AlignVCenter);
     case Qt::ForegroundRole:

@@ -52,5 +52,4 @@ private:
     std::size_t m_octets = 0; // of all that are held
     std::deque<quint64> m_rows; // numbers of the listed ones
     quint64 m_nextNumber = 1;
-    const QFont m_figures;
 };

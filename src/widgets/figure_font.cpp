@@ -3,11 +3,22 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 
-QFont figureFont()
+namespace {
+
+QFont figureFace()
 {
     const QString preferred = "Cascadia Code";
-    QFont font =
-        QFontDatabase::hasFamily(preferred) ? QFont(preferred) : QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPointSizeF(QGuiApplication::font().pointSizeF());
+    return QFontDatabase::hasFamily(preferred) ? QFont(preferred) : QFontDatabase::systemFont(QFontDatabase::FixedFont);
+}
+
+} // namespace
+
+QFont figureFont()
+{
+    static QFont font = figureFace();
+    const qreal size = QGuiApplication::font().pointSizeF();
+    if (size > 0.0 && font.pointSizeF() != size) {
+        font.setPointSizeF(size);
+    }
     return font;
 }

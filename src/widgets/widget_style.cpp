@@ -7,8 +7,11 @@
 #include <QFont>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QWidget>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 void applyWidgetStyle(const QString &name)
 {
@@ -25,6 +28,24 @@ void applyWidgetStyle(const QString &name)
     }
 }
 
+namespace {
+
+// Those that have a size of their own do not follow the application's font.
+std::vector<std::pair<QWidget *, QFont>> ownSizes()
+{
+    std::vector<std::pair<QWidget *, QFont>> own;
+    for (QWidget *widget : QApplication::allWidgets()) {
+        const QFont font = widget->font();
+        if (widget->testAttribute(Qt::WA_SetFont) && (font.resolveMask() & QFont::SizeResolved)
+            && font.pointSizeF() > 0.0) {
+            own.emplace_back(widget, font);
+        }
+    }
+    return own;
+}
+
+} // namespace
+
 void applyFontScale(int percent)
 {
     static const QFont first = QApplication::font();
@@ -35,8 +56,17 @@ void applyFontScale(int percent)
     } else {
         font.setPixelSize(qRound(first.pixelSize() * factor));
     }
-    if (font != QApplication::font()) { // costs a new layout of everything
-        QApplication::setFont(font);
+    if (font == QApplication::font()) {
+        return; // changing it costs a new layout of everything
+    }
+    const double change = font.pointSizeF() / QApplication::font().pointSizeF();
+    auto own = ownSizes();
+    QApplication::setFont(font);
+    for (auto &[widget, ownFont] : own) {
+        if (change > 0.0) {
+            ownFont.setPointSizeF(ownFont.pointSizeF() * change);
+            widget->setFont(ownFont);
+        }
     }
 }
 

@@ -1,5 +1,6 @@
 #include "window_fixture.h"
 
+#include "lists/list_view.h"
 #include "plan_view/geo_widget.h"
 #include "sensors/radar_sensor_info.h"
 #include "settings/config_page.h"
@@ -14,9 +15,11 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineF>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QStyle>
 #include <QStyleFactory>
 
@@ -29,6 +32,7 @@ private Q_SLOTS:
     void aSensorIsShownWhereItStands();
     void sensorsAreLookedAfterWhileTheInputRuns();
     void styleAppliesAtOnce();
+    void textGrowsAtOnce();
     void saysThatNothingIsSaved();
 };
 
@@ -116,6 +120,26 @@ void TestMainWindowSettings::styleAppliesAtOnce()
         QCOMPARE(QApplication::style()->name().toLower(), style.toLower());
     }
     QApplication::setStyle(before);
+    QVERIFY(WindowFixture::close(*window));
+}
+
+void TestMainWindowSettings::textGrowsAtOnce()
+{
+    WindowFixture fixture;
+    const auto window = fixture.makeWindow();
+    const auto *log = window->findChild<LogPane *>(); // has a face of its own
+    const auto *list = window->findChild<ListView *>();
+    const double size = log->font().pointSizeF();
+    const int row = list->verticalHeader()->defaultSectionSize();
+    for (const int percent : {200, 100}) {
+        ConfigWindow *settings = opened(*window);
+        settings->findChild<QSpinBox *>("displayFontScale")->setValue(percent);
+        settings->accept();
+        QCOMPARE(log->font().pointSizeF(), size * percent / 100.0);
+        QVERIFY(percent == 100 ? list->verticalHeader()->defaultSectionSize() == row
+                               : list->verticalHeader()->defaultSectionSize() > 1.7 * row);
+        QTRY_VERIFY(!window->findChild<ConfigWindow *>());
+    }
     QVERIFY(WindowFixture::close(*window));
 }
 
