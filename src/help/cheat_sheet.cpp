@@ -84,12 +84,13 @@ bool matches(const CheatSheet::Row &row, const QString &title, const QStringList
         words.begin(), words.end(), [&text](const QString &word) { return text.contains(word, Qt::CaseInsensitive); });
 }
 
+// As wide as there is room: by itself a table would be as narrow as its words allow.
 QString groupHtml(const CheatSheet::Group &group, const QPalette &colors)
 {
-    QString html =
-        QStringLiteral("<h3>%1</h3><table cellpadding=\"3\" cellspacing=\"2\">").arg(group.title.toHtmlEscaped());
+    QString html = QStringLiteral("<h3>%1</h3><table width=\"100%\" cellpadding=\"3\" cellspacing=\"2\">")
+                       .arg(group.title.toHtmlEscaped());
     for (const CheatSheet::Row &row : group.rows) {
-        html += QStringLiteral("<tr><td bgcolor=\"%1\"><b>%2</b></td><td>&nbsp;%3</td></tr>")
+        html += QStringLiteral("<tr><td width=\"45%\" bgcolor=\"%1\"><b>%2</b></td><td>%3</td></tr>")
                     .arg(colors.color(QPalette::AlternateBase).name(), row.input.toHtmlEscaped(),
                         row.effect.toHtmlEscaped());
     }
@@ -141,7 +142,8 @@ QString CheatSheet::html(const QList<Group> &groups, const QPalette &colors, boo
     if (columns[1].isEmpty()) {
         return columns[0];
     }
-    return QStringLiteral("<table cellspacing=\"12\"><tr><td>%1</td><td>%2</td></tr></table>")
+    return QStringLiteral(
+        "<table width=\"100%\" cellspacing=\"12\"><tr><td width=\"50%\">%1</td><td>%2</td></tr></table>")
         .arg(columns[0], columns[1]);
 }
 
