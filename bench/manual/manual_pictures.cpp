@@ -3,6 +3,7 @@
 
 #include "app/app_identity.h"
 #include "app/app_paths.h"
+#include "app/map_places.h"
 #include "app/theme_library.h"
 #include "demonstration/demo_traffic.h"
 #include "display/geo_track_display.h"
@@ -11,10 +12,12 @@
 #include "ui/actions.h"
 #include "ui/main_window.h"
 #include "ui/theme_menu.h"
+#include "widgets/file_edit.h"
 
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QDockWidget>
 #include <QElapsedTimer>
@@ -23,7 +26,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QTreeView>
 
 #include <algorithm>
 #include <array>
@@ -74,9 +79,15 @@ QWidget *scope(MainWindow &window)
     return window.geoWidget();
 }
 
-std::function<QWidget *(MainWindow &)> scopeWith(std::vector<ActionId> switches)
+// Around the middle, metres a pixel; 0: as it is.
+std::function<QWidget *(MainWindow &)> scopeWith(std::vector<ActionId> switches, double zoom = 0.0)
 {
-    return [switches](MainWindow &window) {
+    return [switches, zoom](MainWindow &window) {
+        GeoWidget *plan = window.geoWidget();
+        const QPointF middle = plan->screenTransform().inverted().map(QPointF(plan->rect().center()));
+        if (zoom > 0.0) {
+            plan->setView(middle.x(), middle.y(), zoom);
+        }
         for (const ActionId id : switches) {
             if (!action(window, id)->isChecked()) {
                 action(window, id)->trigger();
@@ -98,24 +109,63 @@ QWidgetList shownWindows()
     return shown;
 }
 
-// The window that the command opens, of that size where one is given.
+// The window that comes up, of that size where one is given.
+QWidget *opened(const std::function<void()> &open, const QSize &size, int waitMs)
+{
+    const QWidgetList before = shownWindows();
+    open();
+    let(500);
+    for (QWidget *widget : shownWindows()) {
+        if (!before.contains(widget)) {
+            if (!size.isEmpty()) {
+                widget->resize(size);
+            }
+            let(waitMs);
+            return widget;
+        }
+    }
+    return nullptr;
+}
+
 std::function<QWidget *(MainWindow &)> windowOf(ActionId id, const QSize &size = {}, int waitMs = 2500)
 {
-    return [id, size, waitMs](MainWindow &window) -> QWidget * {
-        const QWidgetList before = shownWindows();
-        action(window, id)->trigger();
-        let(500);
-        for (QWidget *widget : shownWindows()) {
-            if (!before.contains(widget)) {
-                if (!size.isEmpty()) {
-                    widget->resize(size);
-                }
-                let(waitMs);
-                return widget;
-            }
-        }
-        return nullptr;
-    };
+    return [id, size, waitMs](
+               MainWindow &window) { return opened([&window, id] { action(window, id)->trigger(); }, size, waitMs); };
+}
+
+QWidget *mapEditor(MainWindow &window)
+{
+    const QString map = MapPlaces::resolve("demo-airspace.xml");
+    QWidget *editor = opened([&] { window.launchStaticMapEditor(map, MapFile::Xml); }, {860, 560}, 2000);
+    if (auto *tree = editor ? editor->findChild<QTreeView *>() : nullptr) {
+        const QModelIndex group = tree->model()->index(0, 0);
+        tree->expand(group);
+        tree->setCurrentIndex(tree->model()->index(0, 0, group));
+        let(1000);
+    }
+    return editor;
+}
+
+QString recordingOf(const QString &scenario, int seconds, const QTemporaryDir &folder)
+{
+    const QString file = folder.filePath(scenario + ".pcap");
+    QProcess::execute(
+        DemoTraffic::findProgram(), {scenario, "--duration", QString::number(seconds), "--fast", "--pcap", file});
+    return file;
+}
+
+QWidget *sensorCheck(MainWindow &window)
+{
+    const QTemporaryDir files;
+    QWidget *check = windowOf(ActionId::SensorCheck)(window);
+    if (check) {
+        auto *source = check->findChild<QComboBox *>("source");
+        source->setCurrentIndex(source->count() - 1); // a recording
+        check->findChild<FileEdit *>("file")->setPath(recordingOf("check", 1800, files));
+        check->findChild<QPushButton *>("start")->click();
+        let(20000);
+    }
+    return check;
 }
 
 // The page of the settings window with that number.
@@ -165,14 +215,15 @@ std::vector<Sitting> sittings()
 {
     using Id = ActionId;
     const QSize wide(1280, 720);
+    const QSize crowded(1230, 692); // costs more octets
     return {
-        {"night", "busy", "Night", wide, 60, {{"busy-night", wholeWindow}}},
-        {"dusk", "busy", "Dusk", wide, 60, {{"busy-dusk", wholeWindow}}},
-        {"day", "busy", "Day", wide, 60, {{"busy-day", wholeWindow}}},
+        {"night", "busy", "Night", crowded, 60, {{"busy-night", wholeWindow}}},
+        {"dusk", "busy", "Dusk", crowded, 60, {{"busy-dusk", wholeWindow}}},
+        {"day", "busy", "Day", crowded, 60, {{"busy-day", wholeWindow}}},
         {"alerts", "alerts", "Night", {1000, 760}, 60, {{"alerts", scope}}},
         {"weather", "weather", "Night", {1000, 700}, 60,
-            {{"weather", scopeWith({Id::ToggleWeatherMap, Id::ToggleKey})}}},
-        {"video", "video", "Night", {1000, 700}, 40, {{"video", scopeWith({Id::ToggleVideoMap})}}},
+            {{"weather", scopeWith({Id::ToggleWeatherMap, Id::ToggleKey}, 400.0)}}},
+        {"video", "video", "Night", {1000, 700}, 40, {{"video", scopeWith({Id::ToggleVideoMap}, 130.0)}}},
         {"surface", "smr", "Night", wide, 60, {{"surface", wholeWindow}}},
         {"windows", "demo", "Night", wide, 75,
             {
@@ -186,17 +237,17 @@ std::vector<Sitting> sittings()
                 {"settings-tracks", settingsPage(8)},
                 {"sensors", windowOf(Id::SensorManager)},
                 {"static-maps", windowOf(Id::StaticMaps, {760, 420})},
-                {"map-editor", windowOf(Id::StaticMapEditor, {760, 520})},
+                {"map-editor", mapEditor},
                 {"statistics", windowOf(Id::Statistics, {}, 11000)},
                 {"raw-view", windowOf(Id::RawView, {900, 560}, 6000)},
                 {"diagnosis", windowOf(Id::DiagnoseInput, {}, 12000)},
-                {"sensor-check", windowOf(Id::SensorCheck)},
+                {"sensor-check", sensorCheck},
                 {"manual", windowOf(Id::Contents, {900, 600})},
                 {"cheat-sheet", windowOf(Id::CheatSheet)},
                 {"health", health},
                 {"explanation", explanation},
             }},
-        {"playback", "", "Night", wide, 20, {{"playback", windowOf(Id::PlaybackWindow, {620, 300}, 6000)}}},
+        {"playback", "", "Night", wide, 20, {{"playback", windowOf(Id::PlaybackWindow, {620, 220}, 6000)}}},
     };
 }
 
@@ -311,13 +362,6 @@ bool write(QWidget *widget, const Picture &picture, const QDir &folder)
     return written;
 }
 
-QString recordingOf(const QString &scenario, const QTemporaryDir &folder)
-{
-    const QString file = folder.filePath("demonstration.pcap");
-    QProcess::execute(DemoTraffic::findProgram(), {scenario, "--duration", "600", "--fast", "--pcap", file});
-    return file;
-}
-
 // The sensors of some scenarios.
 QString sensorFile(const QTemporaryDir &folder)
 {
@@ -357,7 +401,7 @@ bool sit(const Sitting &sitting, const QDir &folder)
         QObject::connect(&window, &MainWindow::inputOpened, &traffic, &DemoTraffic::start);
         window.openInput();
     } else {
-        window.playRecording(recordingOf("demo", files));
+        window.playRecording(recordingOf("demo", 600, files));
     }
     let(sitting.seconds * 1000);
     bool good = true;
