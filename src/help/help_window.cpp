@@ -169,7 +169,7 @@ void HelpWindow::makeContents()
 void HelpWindow::search(const QString &words)
 {
     m_hits->clear();
-    const QStringList wanted = Manual::wordsOf(words);
+    const QList<QRegularExpression> wanted = Manual::patternsOf(words);
     m_view->highlight(wanted);
     m_navigation->setCurrentWidget(wanted.isEmpty() ? static_cast<QWidget *>(m_contents) : m_hits);
     for (const Manual::Hit &hit : m_manual.search(words)) {

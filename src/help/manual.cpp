@@ -1,7 +1,6 @@
 #include "help/manual.h"
 
 #include <QFile>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -61,15 +60,15 @@ QList<Manual::Section> sectionsOf(const QString &markdown)
     return sections;
 }
 
-bool holdsAll(const QString &text, const QStringList &words)
+bool holdsAll(const QString &text, const QList<QRegularExpression> &words)
 {
     return std::all_of(
-        words.begin(), words.end(), [&text](const QString &word) { return text.contains(word, Qt::CaseInsensitive); });
+        words.begin(), words.end(), [&text](const QRegularExpression &word) { return text.contains(word); });
 }
 
-QString excerptOf(const QString &text, const QString &word)
+QString excerptOf(const QString &text, const QRegularExpression &word)
 {
-    const qsizetype at = std::max<qsizetype>(text.indexOf(word, 0, Qt::CaseInsensitive), 0);
+    const qsizetype at = std::max<qsizetype>(text.indexOf(word), 0);
     qsizetype begin = std::max<qsizetype>(at - ExcerptLead, 0);
     begin = begin == 0 ? 0 : text.indexOf(u' ', begin) + 1;
     QString excerpt = text.mid(begin, ExcerptLength).trimmed();
@@ -130,7 +129,7 @@ bool Manual::has(const QString &place) const
 
 QList<Manual::Hit> Manual::search(const QString &words) const
 {
-    const QStringList wanted = wordsOf(words);
+    const QList<QRegularExpression> wanted = patternsOf(words);
     QList<Hit> inHeading;
     QList<Hit> inText;
     if (wanted.isEmpty()) {
@@ -151,9 +150,14 @@ QList<Manual::Hit> Manual::search(const QString &words) const
     return inHeading + inText;
 }
 
-QStringList Manual::wordsOf(const QString &words)
+QList<QRegularExpression> Manual::patternsOf(const QString &words)
 {
-    return words.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+    QList<QRegularExpression> patterns;
+    for (const QString &word : words.simplified().split(u' ', Qt::SkipEmptyParts)) {
+        patterns.append(QRegularExpression(QStringLiteral("(?<!\\w)") + QRegularExpression::escape(word),
+            QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption));
+    }
+    return patterns;
 }
 
 QString Manual::anchorOf(const QString &heading)

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QList>
+#include <QRegularExpression>
 #include <QString>
 
 // The manual as it is compiled in: Markdown pages, which the page index.md lists by chapter. A place in it is written
@@ -45,9 +46,11 @@ public:
     const Page *page(const QString &file) const;
     bool has(const QString &place) const;
 
-    // Sections in which every word stands, upper and lower case alike; those with all of them in the heading first.
+    // Sections in which every word stands, or begins another one, upper and lower case alike; those with all of them in
+    // the heading first.
     QList<Hit> search(const QString &words) const;
-    static QStringList wordsOf(const QString &words);
+    // What finds each of them.
+    static QList<QRegularExpression> patternsOf(const QString &words);
 
     // The anchor of a heading: small letters and digits with "-" for what is between them.
     static QString anchorOf(const QString &heading);

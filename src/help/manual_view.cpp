@@ -128,7 +128,7 @@ void ManualView::drawTables()
     }
 }
 
-void ManualView::highlight(const QStringList &words)
+void ManualView::highlight(const QList<QRegularExpression> &words)
 {
     m_words = words;
     markWords();
@@ -137,7 +137,7 @@ void ManualView::highlight(const QStringList &words)
 void ManualView::markWords()
 {
     QList<QTextEdit::ExtraSelection> marks;
-    for (const QString &word : std::as_const(m_words)) {
+    for (const QRegularExpression &word : std::as_const(m_words)) {
         QTextCursor found(document());
         while (!(found = document()->find(word, found)).isNull()) {
             QTextEdit::ExtraSelection mark;

@@ -19,8 +19,8 @@ public:
     // As showPlace() takes it.
     QString place() const { return placeOf(source()); }
     static QString placeOf(const QUrl &url);
-    // Marks every place of these words, on this page and on those that are shown afterwards.
-    void highlight(const QStringList &words);
+    // Marks every place of what these find, on this page and on those that are shown afterwards.
+    void highlight(const QList<QRegularExpression> &words);
 
     QVariant loadResource(int type, const QUrl &name) override;
 
@@ -38,7 +38,7 @@ private:
     int textWidth() const;
 
     const Manual *m_manual;
-    QStringList m_words;
+    QList<QRegularExpression> m_words;
     QTimer m_relay;
     int m_laidWidth = 0;
 };

@@ -86,7 +86,8 @@ void TestManual::findsSections_data()
     QTest::newRow("the heading before the text") << "rose" << QStringList{"a.md#rose", "a.md"};
     QTest::newRow("every word, upper and lower case alike") << "LINK wind" << QStringList{"a.md#rose"};
     QTest::newRow("no marks") << "b.md" << QStringList{};
-    QTest::newRow("part of a word") << "ward" << QStringList{"a.md"};
+    QTest::newRow("how a word begins") << "ward" << QStringList{"a.md"};
+    QTest::newRow("not how it ends") << "robe" << QStringList{};
     QTest::newRow("nothing looked for") << "  " << QStringList{};
 }
 
