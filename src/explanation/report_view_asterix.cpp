@@ -103,10 +103,19 @@ void addRegister(ReportView &view, int firstBit)
     }
 }
 
+QString shortened(const QString &number, int digits)
+{
+    bool isNumber = false;
+    const double value = number.toDouble(&isNumber);
+    return isNumber ? QString::number(value, 'g', digits) : number;
+}
+
 // Aircraft addresses, the only numbers of 24 bits beside a count of video cells, as everybody writes them.
 QString valueOf(const FieldPlace &place)
 {
-    const QString value = QString::fromStdString(place.value);
+    constexpr int Digits = 10; // a double has more, but no sensor
+    const QString exact = QString::fromStdString(place.value);
+    const QString value = exact.size() > Digits && exact.contains('.') ? shortened(exact, Digits) : exact;
     bool isNumber = false;
     const uint number = value.toUInt(&isNumber);
     const bool isAddress = place.bits == 24 && place.unit.empty() && isNumber && place.path != "049/NBCELLS";

@@ -32,6 +32,7 @@ QString longestValueName()
 constexpr int Margin = 4;
 
 // Pixels, at first.
+constexpr int RuleLines = 2; // that the longest rule takes
 constexpr int ValuesWidth = 760;
 constexpr int ReportWidth = 470;
 constexpr int ReportListWidth = 180;
@@ -84,9 +85,16 @@ QWidget *InspectionPane::makeExplanation()
     m_values->setObjectName("explainedValues");
     m_values->setSelectionMode(QAbstractItemView::NoSelection);
     connect(m_values, &ReportTable::rowHovered, this, [this](int row) { pointAt(Place::Values, row); });
+    m_rule = new QLabel(this);
+    m_rule->setObjectName("rule");
+    m_rule->setTextFormat(Qt::PlainText);
+    m_rule->setWordWrap(true);
+    m_rule->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_rule->setMinimumHeight(RuleLines * m_rule->fontMetrics().lineSpacing()); // nothing jumps
     auto *left = column({}, this);
     static_cast<QVBoxLayout *>(left->layout())->addLayout(head);
     left->layout()->addWidget(m_values);
+    left->layout()->addWidget(m_rule);
     auto *splitter = new QSplitter(Qt::Horizontal, this);
     splitter->addWidget(left);
     splitter->addWidget(makeReportSide());
@@ -259,6 +267,7 @@ void InspectionPane::clearMarks()
     m_octets->setMarks({});
     m_values->setLitRows({});
     m_fields->setLitRows({});
+    m_rule->clear();
     showReport(shownReport());
 }
 
@@ -289,6 +298,7 @@ void InspectionPane::markPointed()
 void InspectionPane::markValue(int row)
 {
     const ExplainedValue value = m_explained.value(row);
+    m_rule->setText(value.rule);
     if (value.report < 0) {
         return;
     }

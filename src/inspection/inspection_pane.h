@@ -55,6 +55,7 @@ private:
     QLabel *m_hint = nullptr;
     QLabel *m_title = nullptr;
     QLabel *m_reportTitle = nullptr;
+    QLabel *m_rule = nullptr; // of the value that is pointed at, in full
     ReportTable *m_values = nullptr;
     ReportTable *m_reports = nullptr;
     ReportTable *m_fields = nullptr;

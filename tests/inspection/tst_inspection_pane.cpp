@@ -102,6 +102,10 @@ void TestInspectionPane::marksBitsOfPointedValue()
     Q_EMIT rig.values->rowHovered(rig.rowOf(rig.values, "Level"));
     QCOMPARE(rig.octets->marks(), QList<BitRange>({{10, 14}}));
     QVERIFY(isLit(rig.fields, rig.rowOf(rig.fields, "I048/090/FL")));
+    const auto *rule = rig.pane.findChild<QLabel *>("rule");
+    Q_EMIT rig.values->rowHovered(rig.rowOf(rig.values, "State"));
+    QCOMPARE(rule->text(), rig.values->item(rig.rowOf(rig.values, "State"), 4)->text());
+    QVERIFY(!rule->text().isEmpty());
 
     // The call sign is the older report's: that one is shown while it is pointed at.
     Q_EMIT rig.values->rowHovered(rig.rowOf(rig.values, "Callsign"));
