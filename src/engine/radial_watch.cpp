@@ -23,7 +23,8 @@ bool covers(const _ast_item_video_header_t &header, const RadialQuestion &questi
         start = header.endAzimuth;
         width = 360.0 - width;
     }
-    return wrappedAzimuth(question.azimuth - start + question.reach) <= width + 2.0 * question.reach;
+    const double reach = width < 2.0 * question.reach ? question.reach : 0.0;
+    return wrappedAzimuth(question.azimuth - start + reach) <= width + 2.0 * reach;
 }
 
 } // namespace

@@ -11,7 +11,7 @@ struct RadialQuestion {
     quint8 sac = 0; // 0/0: whoever sends no source
     quint8 sic = 0;
     double azimuth = 0.0; // degrees clockwise from north
-    double reach = 0.0; // degrees to either side, for radials that state no width
+    double reach = 0.0; // degrees to either side, for radials that are narrower than that or state no width
 
     bool operator==(const RadialQuestion &other) const = default;
 };

@@ -112,18 +112,18 @@ QWidget *InspectionPane::makeReportSide()
     m_reportTitle->setTextFormat(Qt::PlainText);
     m_octets = new OctetView(this);
     connect(m_octets, &OctetView::bitHovered, this, [this](int bit) { pointAt(Place::Octets, bit); });
-    auto *scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setWidget(m_octets);
+    m_octetScroll = new QScrollArea(this);
+    m_octetScroll->setWidgetResizable(true);
+    m_octetScroll->setFrameShape(QFrame::NoFrame);
+    m_octetScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_octetScroll->setWidget(m_octets);
     m_fields =
         new ReportTable({tr("Item"), tr("Value"), tr("Meaning")}, {"I048/070/MODE3A", "359.1234567 °", ""}, this);
     m_fields->setObjectName("reportFields");
     m_fields->setSelectionMode(QAbstractItemView::NoSelection);
     connect(m_fields, &ReportTable::rowHovered, this, [this](int row) { pointAt(Place::Fields, row); });
     auto *report = new QSplitter(Qt::Vertical, this);
-    report->addWidget(column({m_reportTitle, scroll}, this));
+    report->addWidget(column({m_reportTitle, m_octetScroll}, this));
     report->addWidget(m_fields);
     auto *side = new QSplitter(Qt::Horizontal, this);
     side->addWidget(m_reports);
@@ -271,6 +271,16 @@ void InspectionPane::clearMarks()
     showReport(shownReport());
 }
 
+// In sight, wherever they stand among the octets: the pointer is elsewhere.
+void InspectionPane::markBits(const QList<BitRange> &bits)
+{
+    m_octets->setMarks(bits);
+    if (!bits.isEmpty()) {
+        const QPoint place = m_octets->placeOfBit(bits.first().first).center().toPoint();
+        m_octetScroll->ensureVisible(place.x(), place.y());
+    }
+}
+
 void InspectionPane::pointAt(Place place, int index)
 {
     m_pointedPlace = index < 0 ? Place::Nowhere : place;
@@ -303,7 +313,7 @@ void InspectionPane::markValue(int row)
         return;
     }
     showReport(value.report);
-    m_octets->setMarks(value.bits);
+    markBits(value.bits);
     QList<int> lit;
     for (const BitRange &bits : value.bits) {
         lit.append(m_views[value.report].fieldAt(bits.first));
@@ -315,7 +325,7 @@ void InspectionPane::markField(int row)
 {
     const ReportView view = m_views.value(m_shown);
     if (row < view.fields.size()) {
-        m_octets->setMarks({view.fields[row].bits});
+        markBits({view.fields[row].bits});
         lightValuesAt(view.fields[row].bits.first);
     }
 }

@@ -9,6 +9,7 @@
 class OctetView;
 class QLabel;
 class QMenu;
+class QScrollArea;
 class QStackedWidget;
 class ReportTable;
 
@@ -46,6 +47,7 @@ private:
     void markBit(int bit);
     void lightValuesAt(int bit);
     void clearMarks();
+    void markBits(const QList<BitRange> &bits);
     void showReport(int report);
     QString kindOf(int report) const;
     void copy(const QString &text) const;
@@ -60,6 +62,7 @@ private:
     ReportTable *m_reports = nullptr;
     ReportTable *m_fields = nullptr;
     OctetView *m_octets = nullptr;
+    QScrollArea *m_octetScroll = nullptr;
 
     QList<ExplainedValue> m_explained;
     QList<KeptReport> m_kept;
