@@ -3,6 +3,9 @@
 #include "explanation/explained_fields.h"
 
 #include <QCoreApplication>
+#include <QTime>
+
+#include <cmath>
 
 #include <optional>
 
@@ -62,7 +65,7 @@ public:
         add(echoText(QT_TRANSLATE_NOOP("EchoExplanation", "Resolution")), "048/RES 048/C", bitsText(),
             echoText(QT_TRANSLATE_NOOP("EchoExplanation", "only uncompressed video of 8 bits a cell is drawn")));
         add(echoText(QT_TRANSLATE_NOOP("EchoExplanation", "Cells in radial")), "049/NBCELLS", {}, {});
-        add(echoText(QT_TRANSLATE_NOOP("EchoExplanation", "Time of day")), "140", {}, {});
+        add(echoText(QT_TRANSLATE_NOOP("EchoExplanation", "Time of day")), "140", timeText(), {});
         add(echoText(QT_TRANSLATE_NOOP("EchoExplanation", "Message number")), "020", {},
             echoText(QT_TRANSLATE_NOOP("EchoExplanation", "gaps in it are counted as missing messages")));
         add(echoText(QT_TRANSLATE_NOOP("EchoExplanation", "Source")), "010/SAC 010/SIC", sourceText(),
@@ -78,6 +81,13 @@ private:
         const ReportField *sac = view() ? view()->find("010/SAC") : nullptr;
         const ReportField *sic = view() ? view()->find("010/SIC") : nullptr;
         return sac && sic ? sac->value + '/' + sic->value : QString();
+    }
+
+    QString timeText() const
+    {
+        const ReportField *time = view() ? view()->find("140") : nullptr;
+        const int ms = time ? static_cast<int>(std::lround(time->value.toDouble() * 1000.0)) : 0;
+        return time ? QTime::fromMSecsSinceStartOfDay(ms).toString("HH:mm:ss.zzz") : QString();
     }
 
     QString bitsText() const

@@ -75,6 +75,7 @@ KeptReport radial(double secondsAgo, int startCell, const QByteArray &cells)
         e.set("041/CELLDUR", 400000000);
         e.set("048/RES", 4);
         e.set("049/NBCELLS", static_cast<double>(cells.size()));
+        e.set("140", 36000.5);
         for (qsizetype i = 0; i < cells.size(); i += 4) {
             e.setRaw("050", cells.mid(i, 4).toHex().toULongLong(nullptr, 16));
         }
@@ -216,6 +217,7 @@ void TestSymbolExplanation::explainsEchoByItsCell()
     QCOMPARE(reports[1].octets[amplitude.bits.first().first / 8], 'F');
     QCOMPARE(named(values, "Azimuth").item, QString("I240/041/STARTAZ, ENDAZ"));
     QCOMPARE(named(values, "Cells in radial").value, QString("8"));
+    QCOMPARE(named(values, "Time of day").value, QString("10:00:00.500"));
     echo.threshold = 'F';
     QVERIFY(named(explainEcho(echo, allViewed(reports), SymbolNow), "Amplitude").rule.contains("not drawn"));
 }
