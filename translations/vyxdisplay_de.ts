@@ -1475,7 +1475,7 @@
     <name>ConfigDefaults</name>
     <message>
         <source>&amp;Defaults</source>
-        <translation>&amp;Vorgaben</translation>
+        <translation>Zur&amp;ücksetzen</translation>
     </message>
     <message>
         <source>Puts back what the program, or the theme chosen, has by itself.</source>
@@ -1511,7 +1511,7 @@
     <name>ConfigSearch</name>
     <message>
         <source>Only what is &amp;not default</source>
-        <translation>Nur, was &amp;nicht Vorgabe ist</translation>
+        <translation>Nur Abwei&amp;chungen von der Vorgabe</translation>
     </message>
     <message>
         <source>Search</source>
@@ -2235,19 +2235,8 @@
         <translation>Welcher Sensor ist es?</translation>
     </message>
     <message>
-        <source>Bac&amp;k</source>
-        <source>&amp;Back</source>
-        <translation>&amp;Zurück</translation>
-    </message>
-    <message>
         <source>&amp;Next</source>
         <translation>&amp;Weiter</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>Starten</translation>
-        <source>&amp;Start</source>
-        <translation>S&amp;tart</translation>
     </message>
     <message>
         <source>Nothing was recognised, so the sensor must be described by hand.</source>
@@ -2256,6 +2245,14 @@
     <message>
         <source>Without a sensor nothing can be shown: choose its type.</source>
         <translation>Ohne Sensor kann nichts gezeigt werden: wählen Sie seinen Typ.</translation>
+    </message>
+    <message>
+        <source>Bac&amp;k</source>
+        <translation>Zurü&amp;ck</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
     </message>
 </context>
 <context>
@@ -2861,11 +2858,11 @@
     </message>
     <message>
         <source>UDP port %1 is taken by %2. Only one of two listeners gets what is sent to a port, so it is left alone: end that program, or choose another port.</source>
-        <translation>Den UDP-Port %1 hat %2 belegt. Nur einer von zwei Hörern bekommt, was an einen Port gesendet wird, er wird daher in Ruhe gelassen: beenden Sie jenes Programm oder wählen Sie einen anderen Port.</translation>
+        <translation>Der UDP-Port %1 ist belegt (%2). Nur einer von zwei Hörern bekommt, was an einen Port gesendet wird, er wird daher in Ruhe gelassen: beenden Sie jenes Programm oder wählen Sie einen anderen Port.</translation>
     </message>
     <message>
         <source>another program</source>
-        <translation>einem anderen Programm</translation>
+        <translation>ein anderes Programm</translation>
     </message>
 </context>
 <context>
@@ -4916,7 +4913,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Again:</source>
-        <translation>&amp;Noch einmal:</translation>
+        <translation>N&amp;och einmal:</translation>
     </message>
     <message>
         <source>The same once more, against slips.</source>
@@ -5370,7 +5367,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Use What Was Found</source>
-        <translation>&amp;Gefundenes verwenden</translation>
+        <translation>Ge&amp;fundenes verwenden</translation>
     </message>
     <message>
         <source>Fills the pages Processor and Sensor; nothing is applied before you say so.</source>
@@ -7398,10 +7395,6 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <translation>aus</translation>
     </message>
     <message>
-        <source>From %1 to %2%3.</source>
-        <translation>Von %1 bis %2%3.</translation>
-    </message>
-    <message>
         <source>Setting</source>
         <translation>Einstellung</translation>
     </message>
@@ -8797,7 +8790,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Imagery:</source>
-        <translation>B&amp;ildart:</translation>
+        <translation>Bi&amp;ldart:</translation>
     </message>
     <message>
         <source>Aerial</source>
@@ -8825,7 +8818,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Language and region:</source>
-        <translation>Spra&amp;che und Region:</translation>
+        <translation>Sprache und Reg&amp;ion:</translation>
     </message>
     <message>
         <source>Such as en-US or de-DE.</source>
@@ -8869,7 +8862,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation>Spra&amp;che:</translation>
+        <translation>Anze&amp;igesprache:</translation>
     </message>
     <message>
         <source>Such as en or de.</source>
@@ -8929,7 +8922,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;File of tiles:</source>
-        <translation>Ka&amp;cheldatei:</translation>
+        <translation>Kacheldate&amp;i:</translation>
     </message>
     <message>
         <source>&amp;Address:</source>
@@ -8941,7 +8934,7 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     </message>
     <message>
         <source>&amp;Header:</source>
-        <translation>Kopfze&amp;ile:</translation>
+        <translation>Kopf&amp;zeile:</translation>
     </message>
     <message>
         <source>&quot;Name: value&quot;, sent with each request, for a key.</source>

@@ -1474,7 +1474,7 @@
     <name>ConfigDefaults</name>
     <message>
         <source>&amp;Defaults</source>
-        <translation>默认值(&amp;D)</translation>
+        <translation>默认值(&amp;Z)</translation>
     </message>
     <message>
         <source>Puts back what the program, or the theme chosen, has by itself.</source>
@@ -1510,7 +1510,7 @@
     <name>ConfigSearch</name>
     <message>
         <source>Only what is &amp;not default</source>
-        <translation>只显示非默认值(&amp;N)</translation>
+        <translation>只显示非默认值(&amp;Q)</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1940,7 +1940,7 @@
     </message>
     <message>
         <source>Be&amp;gin a new file at:</source>
-        <translation>新建文件的大小(&amp;G)：</translation>
+        <translation>新建文件的大小(&amp;A)：</translation>
     </message>
     <message>
         <source>How large a file of messages grows; 0 stands for no file.</source>
@@ -2232,19 +2232,8 @@
         <translation>是哪个传感器？</translation>
     </message>
     <message>
-        <source>Bac&amp;k</source>
-        <source>&amp;Back</source>
-        <translation>上一步(&amp;B)</translation>
-    </message>
-    <message>
         <source>&amp;Next</source>
         <translation>下一步(&amp;N)</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>启动</translation>
-        <source>&amp;Start</source>
-        <translation>启动(&amp;S)</translation>
     </message>
     <message>
         <source>Nothing was recognised, so the sensor must be described by hand.</source>
@@ -2253,6 +2242,14 @@
     <message>
         <source>Without a sensor nothing can be shown: choose its type.</source>
         <translation>没有传感器就无法显示：请选择其类型。</translation>
+    </message>
+    <message>
+        <source>Bac&amp;k</source>
+        <translation>上一步(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>启动</translation>
     </message>
 </context>
 <context>
@@ -2736,7 +2733,7 @@
     </message>
     <message>
         <source>Start &amp;input at program start</source>
-        <translation>程序启动时启动输入(&amp;I)</translation>
+        <translation>程序启动时启动输入(&amp;W)</translation>
     </message>
     <message>
         <source>The input is opened by itself as soon as the program runs.</source>
@@ -3555,7 +3552,7 @@ More: View, Input Health.</source>
     </message>
     <message>
         <source>Symbol si&amp;ze:</source>
-        <translation>符号大小(&amp;Z)：</translation>
+        <translation>符号大小(&amp;W)：</translation>
     </message>
     <message>
         <source>Smooth scaled p&amp;ictures</source>
@@ -7389,10 +7386,6 @@ More: View, Input Health.</source>
         <translation>关</translation>
     </message>
     <message>
-        <source>From %1 to %2%3.</source>
-        <translation>从 %1 到 %2%3。</translation>
-    </message>
-    <message>
         <source>Setting</source>
         <translation>设置项</translation>
     </message>
@@ -9008,7 +9001,7 @@ More: View, Input Health.</source>
     </message>
     <message>
         <source>Proxy &amp;user:</source>
-        <translation>代理用户(&amp;Q)：</translation>
+        <translation>代理用户(&amp;B)：</translation>
     </message>
     <message>
         <source>Proxy pass&amp;word:</source>

@@ -76,6 +76,8 @@ ConfigWindow::ConfigWindow(const Config &config, SensorManager *sensors, QWidget
     m_pageList->setFocus();
     markChanges();
     fitPageList();
+    resize(std::max(fontMetrics().averageCharWidth() * UsualColumns, widthOfAllPages()),
+        fontMetrics().height() * UsualLines);
 }
 
 void ConfigWindow::addPages(SensorManager *sensors)
@@ -133,7 +135,18 @@ void ConfigWindow::layOut()
     layout->addLayout(panes, 1);
     layout->addWidget(m_saveProblem);
     layout->addLayout(foot);
-    resize(fontMetrics().averageCharWidth() * UsualColumns, fontMetrics().height() * UsualLines);
+}
+
+// At which no page has to be scrolled sideways, as far as the screen is that wide.
+int ConfigWindow::widthOfAllPages() const
+{
+    int widest = 0;
+    for (const ConfigPage *page : m_pages) {
+        widest = std::max(widest, page->minimumSizeHint().width());
+    }
+    const int around = m_pageList->width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent)
+        + 6 * style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+    return std::min(widest + around, screen()->availableGeometry().width());
 }
 
 QDialogButtonBox *ConfigWindow::makeButtons()

@@ -63,6 +63,7 @@ private:
     void markChanges();
     void labelPages();
     void fitPageList();
+    int widthOfAllPages() const;
     void showRefused(qsizetype page);
     void takeTheme(const Theme &theme);
     void takeFound(const InputProposal &found);

@@ -260,7 +260,7 @@ void MainWindow::applyConfig(SettingGroups changed)
         applyWidgetStyle(config.displayStyle);
         applyFontScale(config.displayFontScale);
         m_readOuts->setTimeZone(config.displayLocalTimeZoneName);
-        m_actions->showValue(ActionId::Theme, config.displayTheme);
+        m_actions->showValue(ActionId::Theme, Theme::shownName(config.displayTheme));
         m_actions->setToolBarText(config.displayToolbarText);
         updateClock();
         m_logFile.setLimits(config.logFileSize * OctetsPerMebibyte, config.logFileCount);
