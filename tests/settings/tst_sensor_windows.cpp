@@ -265,17 +265,21 @@ void TestSensorWindows::isDrivenByKeys()
     QCOMPARE(order(), "R1 R2 R3"); // sorted, it has no places to move to
 
     // Return edits: the name is taken, the reason stands at the field, another name is good.
-    QTimer::singleShot(0, this, [] {
+    QString reason;
+    QTimer::singleShot(0, this, [&reason] {
         auto *dialog = qobject_cast<SensorEditWindow *>(QApplication::activeModalWidget());
         auto *name = dialog->findChild<QLineEdit *>("sensorName");
         name->setText("R2");
         QTest::keyClick(dialog, Qt::Key_Return);
-        QVERIFY(dialog->isVisible() && name->hasFocus());
-        QCOMPARE(dialog->findChild<FieldForm *>()->note(name), "Another sensor is named \"R2\".");
+        if (dialog->isVisible() && dialog->focusWidget() == name) {
+            reason = dialog->findChild<FieldForm *>()->note(name);
+        }
         name->setText("R0");
         QTest::keyClick(dialog, Qt::Key_Return);
+        dialog->close(); // whatever became of it
     });
     QTest::keyClick(list, Qt::Key_Return);
+    QCOMPARE(reason, "Another sensor is named \"R2\".");
     QCOMPARE(order(), "R0 R2 R3");
 }
 
