@@ -98,7 +98,7 @@ void ListOrder::letGo(int first, int last)
         }
     }
     if (!m_held) {
-        removeRows(leaving);
+        dropRows(leaving);
         return;
     }
     for (std::size_t row = 0; row < m_rows.size(); ++row) {
@@ -117,7 +117,7 @@ void ListOrder::renumberAfterRemoval(int first, int last)
     }
 }
 
-void ListOrder::removeRows(const std::vector<bool> &leaving)
+void ListOrder::dropRows(const std::vector<bool> &leaving)
 {
     for (int last = rowCount() - 1; last >= 0; --last) {
         if (!leaving[static_cast<std::size_t>(last)]) {
@@ -165,7 +165,7 @@ void ListOrder::dropUnwanted()
     for (std::size_t row = 0; row < m_rows.size(); ++row) {
         leaving[row] = m_rows[row] < 0 || !accepts(m_rows[row]);
     }
-    removeRows(leaving);
+    dropRows(leaving);
 }
 
 std::vector<int> ListOrder::orderedRows() const

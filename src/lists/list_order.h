@@ -48,7 +48,7 @@ private:
     void letGo(int first, int last);
     void renumberAfterRemoval(int first, int last);
     // Without a place of its own any longer: by the model's leave, or by the filter's.
-    void removeRows(const std::vector<bool> &leaving);
+    void dropRows(const std::vector<bool> &leaving);
     void dropUnwanted();
     void appendRows(const std::vector<int> &modelRows);
     void putInOrder();
