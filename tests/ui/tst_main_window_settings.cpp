@@ -136,8 +136,8 @@ void TestMainWindowSettings::textGrowsAtOnce()
         settings->findChild<QSpinBox *>("displayFontScale")->setValue(percent);
         settings->accept();
         QCOMPARE(log->font().pointSizeF(), size * percent / 100.0);
-        QVERIFY(percent == 100 ? list->verticalHeader()->defaultSectionSize() == row
-                               : list->verticalHeader()->defaultSectionSize() > 1.7 * row);
+        const auto rowIs = [&](double times) { return list->verticalHeader()->defaultSectionSize() >= times * row; };
+        QTRY_COMPARE(rowIs(1.7), percent == 200); // the toolkit tells the other widgets a little later
         QTRY_VERIFY(!window->findChild<ConfigWindow *>());
     }
     QVERIFY(WindowFixture::close(*window));
