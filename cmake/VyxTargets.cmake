@@ -1,9 +1,11 @@
-# vyx_folder_library(<folder> LINKS <targets> [PCH core|widgets] [MOC])
+# vyx_folder_library(<folder> LINKS <targets> [PCH core|widgets] [MOC] [UNITY])
 #
 # One library per folder of src/, made of every source file in it but a main.cpp. Its headers are included as
 # "folder/header.h" and are visible to those targets alone that link it: the include path holds a link to this folder
 # and to no other, so an include of a higher floor, or of a folder that is not linked, does not compile.
 # MOC: the folder has classes with Q_OBJECT, Q_GADGET or Q_NAMESPACE, or resources.
+# UNITY: its sources are compiled several at a time where VYX_UNITY is on. Only for folders that need no widgets: ./test
+# builds those that way, and so finds names that clash; in the others only a release would.
 function(vyx_folder_library folder)
     cmake_parse_arguments(ARG "MOC;UNITY" "PCH" "LINKS" ${ARGN})
     set(target vyx_${folder})
