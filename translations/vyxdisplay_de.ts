@@ -2562,6 +2562,13 @@
     </message>
 </context>
 <context>
+    <name>HealthPane</name>
+    <message>
+        <source>Sources</source>
+        <translation>Quellen</translation>
+    </message>
+</context>
+<context>
     <name>HelpWindow</name>
     <message>
         <source>%1 Manual</source>
@@ -3140,6 +3147,18 @@ Dies ist das letzte Bild.</translation>
     <message>
         <source>%1: %2, %3 octets</source>
         <translation>%1: %2, %3 Oktette</translation>
+    </message>
+    <message>
+        <source>Values shown</source>
+        <translation>Gezeigte Werte</translation>
+    </message>
+    <message>
+        <source>Last reports</source>
+        <translation>Letzte Meldungen</translation>
+    </message>
+    <message>
+        <source>Items of the report</source>
+        <translation>Elemente der Meldung</translation>
     </message>
 </context>
 <context>
@@ -4045,6 +4064,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <source>There are no coordinates to paste.</source>
         <translation>Es gibt keine Koordinaten zum Einfügen.</translation>
     </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
 </context>
 <context>
     <name>MapEditorProgress</name>
@@ -4147,6 +4170,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <source>Name of the class:</source>
         <translation>Name der Klasse:</translation>
     </message>
+    <message>
+        <source>Style classes</source>
+        <translation>Stilklassen</translation>
+    </message>
 </context>
 <context>
     <name>MapEditorStyles</name>
@@ -4219,6 +4246,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>Open a map, or add a group.</source>
         <translation>Öffnen Sie eine Karte oder fügen Sie eine Gruppe hinzu.</translation>
+    </message>
+    <message>
+        <source>Elements of the map</source>
+        <translation>Elemente der Karte</translation>
     </message>
 </context>
 <context>
@@ -5792,6 +5823,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <source>%1 cannot be written: %2</source>
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
+    <message>
+        <source>Records</source>
+        <translation>Datensätze</translation>
+    </message>
 </context>
 <context>
     <name>RecFile</name>
@@ -5868,6 +5903,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>Meaning</source>
         <translation>Bedeutung</translation>
+    </message>
+    <message>
+        <source>Items of the record</source>
+        <translation>Elemente des Datensatzes</translation>
     </message>
 </context>
 <context>
@@ -7947,6 +7986,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>The file could not be converted.</source>
         <translation>Die Datei konnte nicht umgewandelt werden.</translation>
+    </message>
+    <message>
+        <source>Maps</source>
+        <translation>Karten</translation>
     </message>
 </context>
 <context>

@@ -2559,6 +2559,13 @@
     </message>
 </context>
 <context>
+    <name>HealthPane</name>
+    <message>
+        <source>Sources</source>
+        <translation>数据源</translation>
+    </message>
+</context>
+<context>
     <name>HelpWindow</name>
     <message>
         <source>%1 Manual</source>
@@ -3137,6 +3144,18 @@ This is the last picture.</source>
     <message>
         <source>%1: %2, %3 octets</source>
         <translation>%1：%2，%3 字节</translation>
+    </message>
+    <message>
+        <source>Values shown</source>
+        <translation>显示的值</translation>
+    </message>
+    <message>
+        <source>Last reports</source>
+        <translation>最近的报告</translation>
+    </message>
+    <message>
+        <source>Items of the report</source>
+        <translation>报告的数据项</translation>
     </message>
 </context>
 <context>
@@ -4041,6 +4060,10 @@ More: View, Input Health.</source>
         <source>There are no coordinates to paste.</source>
         <translation>没有可粘贴的坐标。</translation>
     </message>
+    <message>
+        <source>Points</source>
+        <translation>点</translation>
+    </message>
 </context>
 <context>
     <name>MapEditorProgress</name>
@@ -4143,6 +4166,10 @@ More: View, Input Health.</source>
         <source>Name of the class:</source>
         <translation>类名称：</translation>
     </message>
+    <message>
+        <source>Style classes</source>
+        <translation>样式类</translation>
+    </message>
 </context>
 <context>
     <name>MapEditorStyles</name>
@@ -4215,6 +4242,10 @@ More: View, Input Health.</source>
     <message>
         <source>Open a map, or add a group.</source>
         <translation>打开地图或添加组。</translation>
+    </message>
+    <message>
+        <source>Elements of the map</source>
+        <translation>地图元素</translation>
     </message>
 </context>
 <context>
@@ -5786,6 +5817,10 @@ More: View, Input Health.</source>
         <source>%1 cannot be written: %2</source>
         <translation>无法写入 %1：%2</translation>
     </message>
+    <message>
+        <source>Records</source>
+        <translation>记录</translation>
+    </message>
 </context>
 <context>
     <name>RecFile</name>
@@ -5862,6 +5897,10 @@ More: View, Input Health.</source>
     <message>
         <source>Meaning</source>
         <translation>含义</translation>
+    </message>
+    <message>
+        <source>Items of the record</source>
+        <translation>记录的数据项</translation>
     </message>
 </context>
 <context>
@@ -7938,6 +7977,10 @@ More: View, Input Health.</source>
     <message>
         <source>The file could not be converted.</source>
         <translation>无法转换该文件。</translation>
+    </message>
+    <message>
+        <source>Maps</source>
+        <translation>地图</translation>
     </message>
 </context>
 <context>

@@ -95,7 +95,9 @@ void SensorCheckWindow::makeSourceRow(QVBoxLayout *layout)
     m_status->setObjectName(QStringLiteral("status"));
     m_status->setWordWrap(true);
     auto *second = new QHBoxLayout;
-    second->addWidget(new QLabel(tr("Radar:")));
+    auto *radarLabel = new QLabel(tr("Radar:"));
+    radarLabel->setBuddy(m_radar);
+    second->addWidget(radarLabel);
     second->addWidget(m_radar);
     second->addWidget(m_status, 1);
     layout->addLayout(second);

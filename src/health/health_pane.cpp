@@ -39,6 +39,7 @@ HealthPane::HealthPane(const InputHealth *health, QWidget *parent)
 void HealthPane::makeTable()
 {
     m_table->setObjectName("sources");
+    m_table->setAccessibleName(tr("Sources"));
     m_table->setModel(m_model);
     m_table->setItemDelegateForColumn(SourceTableModel::Curve, new RateCurveDelegate(m_table));
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);

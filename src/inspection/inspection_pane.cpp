@@ -83,6 +83,7 @@ QWidget *InspectionPane::makeExplanation()
     m_values = new ReportTable({tr("Value"), tr("Shown"), tr("From"), tr("Age"), tr("Rule")},
         {longestValueName(), "595959.99N1791717.00E", "I048/040/RHO, THETA", "99.9 s", ""}, this);
     m_values->setObjectName("explainedValues");
+    m_values->setAccessibleName(tr("Values shown"));
     m_values->setSelectionMode(QAbstractItemView::NoSelection);
     connect(m_values, &ReportTable::rowHovered, this, [this](int row) { pointAt(Place::Values, row); });
     m_rule = new QLabel(this);
@@ -107,6 +108,7 @@ QWidget *InspectionPane::makeReportSide()
 {
     m_reports = new ReportTable({tr("Arrived"), tr("Age"), tr("Report")}, {"23:59:59.999", "99.9 s", "CAT048"}, this);
     m_reports->setObjectName("keptReports");
+    m_reports->setAccessibleName(tr("Last reports"));
     connect(m_reports, &QTableWidget::currentCellChanged, this, [this](int row) { chooseReport(row); });
     m_reportTitle = new QLabel(this);
     m_reportTitle->setTextFormat(Qt::PlainText);
@@ -120,6 +122,7 @@ QWidget *InspectionPane::makeReportSide()
     m_fields =
         new ReportTable({tr("Item"), tr("Value"), tr("Meaning")}, {"I048/070/MODE3A", "359.1234567 °", ""}, this);
     m_fields->setObjectName("reportFields");
+    m_fields->setAccessibleName(tr("Items of the report"));
     m_fields->setSelectionMode(QAbstractItemView::NoSelection);
     connect(m_fields, &ReportTable::rowHovered, this, [this](int row) { pointAt(Place::Fields, row); });
     auto *report = new QSplitter(Qt::Vertical, this);

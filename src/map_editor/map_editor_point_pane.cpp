@@ -55,6 +55,7 @@ MapEditorPointPane::MapEditorPointPane(MapEditorDocument *document, QWidget *par
       m_table(new QTableView(this))
 {
     m_table->setObjectName(QStringLiteral("pointTable"));
+    m_table->setAccessibleName(tr("Points"));
     m_table->setModel(m_model);
     m_table->setItemDelegate(new PointDelegate(m_table));
     m_table->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));

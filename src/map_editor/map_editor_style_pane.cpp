@@ -42,6 +42,7 @@ MapEditorStylePane::MapEditorStylePane(MapEditorDocument *document, QWidget *par
 void MapEditorStylePane::buildForm()
 {
     m_list->setObjectName(QStringLiteral("styleClasses"));
+    m_list->setAccessibleName(tr("Style classes"));
     m_line->addItem(tr("solid"), static_cast<int>(Qt::SolidLine));
     m_line->addItem(tr("dashed"), static_cast<int>(Qt::DashLine));
     m_line->addItem(tr("dotted"), static_cast<int>(Qt::DotLine));

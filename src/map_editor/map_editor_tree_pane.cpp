@@ -27,8 +27,10 @@ MapEditorTreePane::MapEditorTreePane(MapEditorDocument *document, QWidget *paren
     m_filtered->setRecursiveFilteringEnabled(true);
     m_filter->setPlaceholderText(tr("Filter"));
     m_filter->setClearButtonEnabled(true);
+    m_filter->setAccessibleName(m_filter->placeholderText());
     m_filter->setObjectName(QStringLiteral("treeFilter"));
     m_view->setObjectName(QStringLiteral("mapTree"));
+    m_view->setAccessibleName(tr("Elements of the map"));
     m_view->setModel(m_filtered);
     m_view->setUniformRowHeights(true);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);

@@ -62,6 +62,7 @@ void StaticMapsWindow::makeTable()
 {
     m_table = new QTableView(this);
     m_table->setObjectName(QStringLiteral("mapTable"));
+    m_table->setAccessibleName(tr("Maps"));
     m_table->setModel(m_model);
     m_table->setItemDelegate(new StaticMapsDelegate(m_table));
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);

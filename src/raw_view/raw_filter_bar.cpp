@@ -27,6 +27,7 @@ RawFilterBar::RawFilterBar(QWidget *parent) : QWidget(parent)
     m_identity->setObjectName("identity");
     m_identity->setPlaceholderText(tr("Call sign, code, address, #track"));
     m_identity->setClearButtonEnabled(true);
+    m_identity->setAccessibleName(m_identity->placeholderText());
     layout->addWidget(m_identity, 1);
     connect(m_identity, &QLineEdit::textChanged, this, [this] { Q_EMIT filterChanged(filter()); });
 }

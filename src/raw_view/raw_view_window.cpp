@@ -127,6 +127,7 @@ QWidget *RawViewWindow::makeBar()
     m_searchText->setObjectName("searchText");
     m_searchText->setPlaceholderText(tr("Find a value, an item, a reason"));
     m_searchText->setClearButtonEnabled(true);
+    m_searchText->setAccessibleName(m_searchText->placeholderText());
     auto *back = addButton("findPrevious", tr("Find Pre&vious"), tr("The next older record with that text"));
     auto *forth = addButton("findNext", tr("Find &Next"), tr("The next newer record with that text"));
     auto *save = addButton("export", tr("&Export..."), tr("Save the listed records to a file"));
@@ -154,6 +155,7 @@ void RawViewWindow::makeList()
 {
     m_list = new QTableView(this);
     m_list->setObjectName("records");
+    m_list->setAccessibleName(tr("Records"));
     m_list->setModel(&m_model);
     m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_list->setSelectionMode(QAbstractItemView::SingleSelection);

@@ -43,6 +43,7 @@ BitRange united(const BitRange &a, const BitRange &b)
 RecordTree::RecordTree(QWidget *parent) : QTreeWidget(parent)
 {
     setObjectName("recordTree");
+    setAccessibleName(tr("Items of the record"));
     setHeaderLabels({tr("Item"), tr("Value"), tr("Meaning")});
     setFrameShape(NoFrame);
     setUniformRowHeights(true);

@@ -15,6 +15,7 @@ FileEdit::FileEdit(const QString &title, const QString &filter, QWidget *parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_edit, 1);
     row->addWidget(button);
+    m_edit->setAccessibleName(title); // until somebody names it better
     setFocusProxy(m_edit);
     connect(button, &QPushButton::clicked, this, &FileEdit::browse);
 }
