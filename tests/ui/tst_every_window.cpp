@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QFile>
+#include <QMenu>
 #include <QNetworkDatagram>
 #include <QSet>
 #include <QTimer>
