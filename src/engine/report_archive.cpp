@@ -10,6 +10,9 @@ namespace {
 
 constexpr int MaximumLooseReports = 4096; // of one kind that are told: all that are kept
 constexpr double SamePlot = 1.0; // metres between a plot and a position of a track
+// Between the stamps of a plot and of the report that it is of: the clock goes on while the report is read. Shorter
+// than two reports of a track follow each other.
+constexpr qint64 ReadingMs = 50;
 constexpr std::size_t LatestPositions = 64; // of a track: plots are seen for a few of its reports
 
 void copyCallsign(SeenIdentity &seen, const char *text)
@@ -224,12 +227,13 @@ void ReportArchive::answerPlace(AskedReports &answer) const
         if (std::none_of(history.begin(), end, wasThere)) {
             continue;
         }
-        for (const KeptReport &report : m_log.reports(track->newestReport())) {
-            if (report.timeMs == question.plotMs) {
-                answer.reports = {report};
-                answer.trackOfPlot = track->incarnationId();
-                return;
-            }
+        const auto reports = m_log.reports(track->newestReport());
+        const auto sinceWhen = std::find_if(reports.rbegin(), reports.rend(),
+            [&question](const KeptReport &report) { return report.timeMs >= question.plotMs; });
+        if (sinceWhen != reports.rend() && sinceWhen->timeMs <= question.plotMs + ReadingMs) {
+            answer.reports = {*sinceWhen};
+            answer.trackOfPlot = track->incarnationId();
+            return;
         }
     }
 }

@@ -174,8 +174,9 @@ void TestReportArchive::findsReportOfTracksPlot()
 {
     ArchiveRig rig;
     const auto track = rig.addTrack(0x4B1A2C);
-    rig.take("first", ReportOutcome::Track, track.data());
     const qint64 plotMs = rig.nowMs;
+    rig.nowMs += 1; // the report is read on
+    rig.take("first", ReportOutcome::Track, track.data());
     rig.nowMs += 4000;
     track->setCarCoordinate({1500.0, 2000.0});
     track->recordHistory(rig.clock->now());
@@ -188,7 +189,8 @@ void TestReportArchive::findsReportOfTracksPlot()
     QCOMPARE(answer.reports.first().octets, QByteArray("first"));
     QCOMPARE(answer.trackOfPlot, track->incarnationId());
     QVERIFY(!ask({1250.0, 2000.0}, plotMs).found);
-    QVERIFY(!ask({1000.0, 2000.0}, plotMs + 1).found);
+    QVERIFY(!ask({1000.0, 2000.0}, plotMs + 2).found);
+    QVERIFY(!ask({1000.0, 2000.0}, plotMs - 1000).found);
 }
 
 void TestReportArchive::keepsWeather()
