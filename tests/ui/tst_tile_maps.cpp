@@ -107,11 +107,17 @@ void TestTileMaps::switchesTilesOffAndOn()
     QTRY_VERIFY(showsTiles(*window));
     toggle(*window)->trigger();
     QTRY_VERIFY(!showsTiles(*window));
+    const auto nothingComes = [this] {
+        const auto before = m_server->count();
+        QTest::qWait(100);
+        return m_server->count() == before;
+    };
+    QTRY_VERIFY(nothingComes()); // what was on its way has come
     m_server->forgetRequests();
     window->geoWidget()->zoomIn();
     window->geoWidget()->zoomIn();
     window->geoWidget()->zoomIn();
-    QTest::qWait(100);
+    QVERIFY(nothingComes());
     QCOMPARE(m_server->count(), 0);
     toggle(*window)->trigger();
     QTRY_VERIFY(showsTiles(*window));
