@@ -3,6 +3,7 @@
 #include "app/config.h"
 #include "app/setting.h"
 #include "config_defaults.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QProcess>
@@ -89,12 +90,6 @@ Texts otherTexts()
     return texts;
 }
 
-QByteArray bytesOf(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 class TestConfig : public QObject {
@@ -138,10 +133,7 @@ private Q_SLOTS:
         config.load(path("other.conf"));
         config.load(path("no such file"));
         for (const char *content : {"[General]\nsomebodyElse=1\n[inputComm]\ninputComm=2\n", "\x02\x01\n]]==\n"}) {
-            QFile file(path("lacking.conf"));
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) > 0);
-            file.close();
-            config.load(file.fileName());
+            config.load(writtenTo(path("lacking.conf"), content));
         }
         config.save(path("kept.conf"));
         QCOMPARE(textsOf(path("kept.conf")), otherTexts());
@@ -242,7 +234,7 @@ private Q_SLOTS:
         version.save(path("first.conf"));
         version.sensorName = QString(50000, QLatin1Char('x'));
         version.save(path("second.conf"));
-        const QList<QByteArray> versions{bytesOf(path("first.conf")), bytesOf(path("second.conf"))};
+        const QList<QByteArray> versions{contentsOf(path("first.conf")), contentsOf(path("second.conf"))};
         QVERIFY(versions.at(0) != versions.at(1));
 
         const auto fileName = path("killed.conf");
@@ -255,7 +247,7 @@ private Q_SLOTS:
             QThread::usleep(static_cast<unsigned long>(random.bounded(LongestLife)));
             child.kill();
             QVERIFY(child.waitForFinished());
-            QVERIFY2(versions.contains(bytesOf(fileName)), qPrintable(QString::number(kill)));
+            QVERIFY2(versions.contains(contentsOf(fileName)), qPrintable(QString::number(kill)));
         }
     }
 

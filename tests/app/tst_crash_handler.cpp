@@ -1,5 +1,6 @@
 #include "app/app_identity.h"
 #include "app/crash_log_writer.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QDateTime>
@@ -15,8 +16,7 @@ namespace {
 
 QString textOf(const QString &fileName)
 {
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(contentsOf(fileName));
 }
 
 // Patterns are those of whole lines. A line at a time: an expression checks its whole subject anew for every match.

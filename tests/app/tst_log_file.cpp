@@ -1,4 +1,5 @@
 #include "app/log_file.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QDir>
@@ -31,8 +32,8 @@ private:
 
     QString text(int age = 0) const
     {
-        QFile file(m_directory + "/vyxdisplay.log" + (age > 0 ? QString(".%1").arg(age) : QString()));
-        return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+        const QString number = age > 0 ? QString(".%1").arg(age) : QString();
+        return QString::fromUtf8(contentsOf(m_directory + "/vyxdisplay.log" + number));
     }
 
 private Q_SLOTS:

@@ -1,5 +1,6 @@
 #include "app/setting.h"
 #include "app/theme_library.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QDir>
@@ -40,8 +41,7 @@ QStringList changedKeys(const Config &a, const Config &b)
 
 void TestThemeLibrary::write(const QString &name, const QByteArray &bytes) const
 {
-    QFile file(m_directory.filePath(name));
-    QVERIFY(file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size());
+    writtenTo(m_directory.filePath(name), bytes);
 }
 
 // From whatever theme to whatever other: nothing of the former look is left, nothing else is touched.

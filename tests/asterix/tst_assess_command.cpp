@@ -1,7 +1,7 @@
+#include "test_files.h"
 #include "test_program.h"
 #include "vyx-asterix/assess_command.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -13,44 +13,6 @@ class TestAssessCommand : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsArguments_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("error"); // how it begins; empty: none
-
-        QTest::newRow("whole") << QStringList{"assess", "--sensor", "25/11", "--site", "-40.5,116.25,45", "--json",
-            "--report", "a.pdf", "f.pcap"}
-                               << QString();
-        QTest::newRow("site without height")
-            << QStringList{"assess", "--sensor", "25/11", "--site", "40,-116", "f"} << QString();
-        QTest::newRow("no source") << QStringList{"assess", "--sensor", "25", "f"} << "--sensor takes SAC/SIC";
-        QTest::newRow("no such source") << QStringList{"assess", "--sensor", "25/256", "f"} << "--sensor takes SAC/SIC";
-        QTest::newRow("no place") << QStringList{"assess", "--sensor", "25/11", "--site", "91,1", "f"}
-                                  << "--site takes";
-        QTest::newRow("whose place") << QStringList{"assess", "--site", "40,116", "f"} << "--site needs one --sensor";
-        QTest::newRow("of another command") << QStringList{"stat", "--json", "f"} << "unknown option";
-        QTest::newRow("of the others") << QStringList{"assess", "--uap", "48=1.32", "f"} << "unknown option";
-    }
-
-    void readsArguments()
-    {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, error);
-        std::vector<std::string> strings;
-        for (const QString &argument : arguments) {
-            strings.push_back(argument.toStdString());
-        }
-        CommandLine line;
-        std::string found;
-        QCOMPARE(CommandLine::parse(strings, line, found), error.isEmpty());
-        QVERIFY2(QString::fromStdString(found).startsWith(error), found.c_str());
-        if (qstrcmp(QTest::currentDataTag(), "whole") == 0) {
-            QCOMPARE(line.assess.sensors, std::vector<int>{25 * 256 + 11});
-            QVERIFY(line.assess.site[0] == -40.5 && line.assess.site[1] == 116.25 && line.assess.site[2] == 45.0);
-            QVERIFY(line.isJson && line.assess.reportName == "a.pdf" && line.fileName == "f.pcap");
-        }
-    }
-
     void tellsOfRecording_data()
     {
         QTest::addColumn<QByteArray>("contents");
@@ -72,11 +34,8 @@ private Q_SLOTS:
         QFETCH(int, status);
         QFETCH(int, sensors);
         const QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("f.ast")));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size());
-        file.close();
         CommandLine line;
-        line.fileName = file.fileName().toStdString();
+        line.fileName = writtenTo(folder.filePath("f.ast"), contents).toStdString();
         line.isJson = true;
         QByteArray out;
         QByteArray err;

@@ -1,10 +1,10 @@
 #include "asterix/asterix.h"
 #include "example/nearest_plot.h"
 #include "octets.h"
+#include "test_files.h"
 #include "test_program.h"
 #include "typed_twins.h"
 
-#include <QFile>
 #include <QTest>
 
 #include <utility>
@@ -331,12 +331,7 @@ private Q_SLOTS:
         const Octets octets = Octets::block(48, "10 1E004000  11 40 00804000 599631CB3820");
         QCOMPARE(nearestPlot(octets.data(), octets.size()), std::string("VYX123"));
         QCOMPARE(nearestPlot(octets.data(), 4), std::string("block runs past the end of the data"));
-        // What the README shows is what was compiled here.
-        QFile readme(ASTERIX_FOLDER "/README.md");
-        QFile example(ASTERIX_FOLDER "/example/nearest_plot.cpp");
-        QVERIFY(readme.open(QIODevice::ReadOnly) && example.open(QIODevice::ReadOnly));
-        const QByteArray code = example.readAll();
-        QVERIFY(readme.readAll().contains(code.mid(code.indexOf("std::string nearestPlot"))));
+        QVERIFY(readmeShows(ASTERIX_FOLDER, "nearest_plot.cpp", "std::string nearestPlot"));
     }
 };
 

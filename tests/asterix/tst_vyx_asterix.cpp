@@ -1,6 +1,7 @@
 #include "adsb_blocks.h"
 #include "astfile/pcap_writer.h"
 #include "octets.h"
+#include "test_files.h"
 #include "test_program.h"
 #include "vyx-asterix/command_line.h"
 #include "vyx-asterix/doctor_command.h"
@@ -55,15 +56,7 @@ class TestVyxAsterix : public QObject {
 private:
     QTemporaryDir m_folder;
 
-    QString write(const QByteArray &contents)
-    {
-        const QString name = m_folder.filePath("input");
-        QFile file(name);
-        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
-            return {};
-        }
-        return name;
-    }
+    QString write(const QByteArray &contents) { return writtenTo(m_folder.filePath("input"), contents); }
 
     QString writeCapture(const QList<QByteArray> &datagrams)
     {
@@ -96,6 +89,9 @@ private Q_SLOTS:
         good({"decode", "--expand", "FILE"}, Verb::Decode);
         good({"encode", "-", "-o", "OUT"}, Verb::Encode);
         good({"doctor", "FILE", "--json"}, Verb::Doctor);
+        good({"assess", "--sensor", "25/11", "--site", "-40.5,116.25,45", "--json", "--report", "a.pdf", "f.pcap"},
+            Verb::Assess);
+        good({"assess", "--sensor", "25/11", "--site", "40,-116", "FILE"}, Verb::Assess);
         bad({}, "decode, encode, stat, doctor or assess");
         bad({"decode", "A", "B"}, "one argument too many");
         bad({"decode", "--uap"}, "needs a value");
@@ -106,6 +102,11 @@ private Q_SLOTS:
         bad({"stat", "--expand", "FILE"}, "unknown option");
         bad({"stat", "--json", "FILE"}, "unknown option");
         bad({"doctor", "--uap", "48=1.32", "FILE"}, "unknown option");
+        bad({"assess", "--uap", "48=1.32", "FILE"}, "unknown option");
+        bad({"assess", "--sensor", "25", "FILE"}, "--sensor takes SAC/SIC");
+        bad({"assess", "--sensor", "25/256", "FILE"}, "--sensor takes SAC/SIC");
+        bad({"assess", "--sensor", "25/11", "--site", "91,1", "FILE"}, "--site takes");
+        bad({"assess", "--site", "40,116", "FILE"}, "--site needs one --sensor");
     }
 
     void readsArguments()
@@ -125,6 +126,11 @@ private Q_SLOTS:
         QCOMPARE(line.isExpanding, isGood && arguments.contains("--expand"));
         QCOMPARE(
             line.editions.size(), isGood ? static_cast<std::size_t>(arguments.count("--uap")) : line.editions.size());
+        if (isGood && arguments.contains("--report")) {
+            QCOMPARE(line.assess.sensors, std::vector<int>{25 * 256 + 11});
+            QVERIFY(line.assess.site[0] == -40.5 && line.assess.site[1] == 116.25 && line.assess.site[2] == 45.0);
+            QVERIFY(line.isJson && line.assess.reportName == "a.pdf" && line.fileName == "f.pcap");
+        }
     }
 
     void saysWhatIsWrong()

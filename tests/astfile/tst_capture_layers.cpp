@@ -1,4 +1,5 @@
 #include "astfile/file_reader.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QTemporaryDir>
@@ -83,12 +84,10 @@ private:
             octets += little32(seconds) + little32(0) + size + size + frame;
             seconds += secondsApart;
         }
-        QFile file(m_dir.filePath(QStringLiteral("frames.pcap")));
-        const bool written = file.open(QIODevice::WriteOnly) && file.write(octets) == octets.size();
-        file.close();
+        const QString path = writtenTo(m_dir.filePath("frames.pcap"), octets);
         const auto reader = FileReader::create(RecFile::Pcap);
         QByteArrayList result;
-        if (!written || !reader->open(file.fileName(), RecFile::Pcap)) {
+        if (!reader->open(path, RecFile::Pcap)) {
             return {"not opened"};
         }
         for (DataPacket packet = reader->read(); packet.kind != DataPacket::End; packet = reader->read()) {

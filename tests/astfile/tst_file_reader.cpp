@@ -1,7 +1,9 @@
 #include "astfile/file_reader.h"
 #include "astfile/pcap_writer.h"
 #include "astfile/rec_file.h"
+#include "test_files.h"
 #include "test_program.h"
+#include "written_capture.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -15,25 +17,12 @@ class TestFileReader final : public QObject {
 private:
     QTemporaryDir m_dir;
 
-    QString write(const QString &name, const QByteArray &octets)
-    {
-        const QString path = m_dir.filePath(name);
-        QFile file(path);
-        return file.open(QIODevice::WriteOnly) && file.write(octets) == octets.size() ? path : QString();
-    }
+    QString write(const QString &name, const QByteArray &octets) { return writtenTo(m_dir.filePath(name), octets); }
 
     // Three datagrams, 10 ms apart.
     QByteArray capture()
     {
-        const QString path = m_dir.filePath(QStringLiteral("whole.pcap"));
-        PcapWriter writer;
-        bool written = writer.open(path);
-        for (int i = 0; i < 3; ++i) {
-            const QDateTime time = QDateTime::fromMSecsSinceEpoch(1700000000000 + i * 10, Qt::UTC);
-            written = written && writer.write(time, {}, {}, QByteArray(4, static_cast<char>('a' + i)));
-        }
-        QFile file(path);
-        return written && writer.close() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return contentsOf(writtenCapture(m_dir.filePath("whole.pcap"), {{0, "aaaa"}, {10, "bbbb"}, {20, "cccc"}}));
     }
 
     // "data", "end" or "error", in the order read, until the first end.

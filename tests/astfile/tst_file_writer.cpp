@@ -2,6 +2,7 @@
 #include "recording_files.h"
 
 #include "astfile/file_writer.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QTest>
@@ -41,10 +42,7 @@ private Q_SLOTS:
         QVERIFY(writer->write(time.addMSecs(15), {}, {}, QByteArray::fromHex("220004ddee")));
         QVERIFY(writer->flush());
         QCOMPARE(QFileInfo(path).size(), writer->octetsWritten());
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray octets = file.readAll();
-        QCOMPARE(m_files.steps(*m_files.open(m_files.write("copy" + name, octets))), steps);
+        QCOMPARE(m_files.steps(*m_files.open(m_files.write("copy" + name, contentsOf(path)))), steps);
         QVERIFY(writer->close());
     }
 
@@ -91,12 +89,7 @@ private Q_SLOTS:
         const QByteArray block = QByteArray::fromHex("220004aa 000000000000 384100 cd");
         QCOMPARE(busiestMinute(m_files.write("e.gps", header + block + block)), "08:00: 2 messages");
         QVERIFY(busiestMinute(m_files.write("e.gps", header + block + "xx")).startsWith("octet 2214: "));
-        QFile readme(QStringLiteral(ASTFILE_FOLDER "/README.md"));
-        QFile source(QStringLiteral(ASTFILE_FOLDER "/example/busiest_minute.cpp"));
-        QVERIFY(readme.open(QIODevice::ReadOnly) && source.open(QIODevice::ReadOnly));
-        const QByteArray code = source.readAll();
-        const QByteArray shown = code.mid(code.indexOf("QString busiestMinute"));
-        QVERIFY(shown.size() > 100 && readme.readAll().contains("```cpp\n" + shown + "```"));
+        QVERIFY(readmeShows(ASTFILE_FOLDER, "busiest_minute.cpp", "QString busiestMinute"));
     }
 };
 

@@ -1,5 +1,6 @@
 #include "astfile/file_reader.h"
 #include "astfile/pcap_writer.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QTemporaryDir>
@@ -20,10 +21,8 @@ private:
     {
         const QString path = m_dir.filePath(QStringLiteral("one.pcap"));
         PcapWriter writer;
-        QFile file(path);
-        const bool done = writer.open(path, linkType) && writer.write(m_time, Source, Group, payload) && writer.close()
-            && file.open(QIODevice::ReadOnly);
-        return done ? file.readAll() : QByteArray();
+        const bool done = writer.open(path, linkType) && writer.write(m_time, Source, Group, payload) && writer.close();
+        return done ? contentsOf(path) : QByteArray();
     }
 
 private Q_SLOTS:

@@ -2,6 +2,7 @@
 #include "control/control_commands.h"
 #include "control/control_server.h"
 #include "control/control_target.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QFile>
@@ -148,9 +149,7 @@ private Q_SLOTS:
         const QString file = m_directory.filePath("picture.json");
         const auto client = connected();
         QVERIFY(asked(*client, quoted("{'command':'snapshot','path':'" + file.toUtf8() + "'}"))["ok"].toBool());
-        QFile written(file);
-        QVERIFY(written.open(QFile::ReadOnly));
-        QVERIFY(QJsonDocument::fromJson(written.readAll()).object()["tracks"].isArray());
+        QVERIFY(QJsonDocument::fromJson(contentsOf(file)).object()["tracks"].isArray());
     }
 
     void onlyADeadSocketIsReplaced()

@@ -56,6 +56,14 @@ public:
         engine.openInput(config, sensor, start, requestId);
     }
 
+    void openRecording(
+        const QString &path, const QDateTime &start = {}, const QSharedPointer<SensorInfo> &sensor = radar())
+    {
+        config.inputComm = Config::InputComm::File;
+        config.inputFileName = QFileInfo(path);
+        open(1, sensor, start);
+    }
+
     // Taken now.
     QSharedPointer<const DisplaySnapshot> snapshot()
     {

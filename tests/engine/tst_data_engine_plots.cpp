@@ -1,7 +1,7 @@
 #include "engine_rig.h"
 
-#include "astfile/pcap_writer.h"
 #include "test_program.h"
+#include "written_capture.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -55,20 +55,13 @@ private Q_SLOTS:
     void aRecordingsJumpLeavesNone()
     {
         const QTemporaryDir dir;
-        const QDateTime begin({2024, 5, 1}, {12, 0}, Qt::UTC);
-        korvane::astfile::PcapWriter writer;
-        QVERIFY(writer.open(dir.filePath("plots.pcap")));
-        for (int second = 0; second < 3; ++second) {
-            QVERIFY(writer.write(begin.addSecs(second), {}, {}, plotBlock(NoNumber)));
-        }
-        QVERIFY(writer.close());
+        const QByteArray plot = plotBlock(NoNumber);
+        const QString path = writtenCapture(dir.filePath("plots.pcap"), {{0, plot}, {1000, plot}, {2000, plot}});
         EngineRig rig;
-        rig.config.inputComm = Config::InputComm::File;
-        rig.config.inputFileName = QFileInfo(dir.filePath("plots.pcap"));
         rig.engine.setReplaySpeed(ReplaySpeed::Max);
-        rig.open();
+        rig.openRecording(path);
         QTRY_COMPARE(rig.closed.size(), 1);
-        const qint64 beginMs = begin.toMSecsSinceEpoch();
+        const qint64 beginMs = captureBegin().toMSecsSinceEpoch();
         const PlotHistory played = rig.snapshot()->plots;
         QCOMPARE(times(played), QList<qint64>({beginMs, beginMs + 1000, beginMs + 2000}));
 

@@ -85,9 +85,7 @@ private Q_SLOTS:
         EngineRig replay;
         replay.engine.setSnapshotTrailDots(10);
         replay.engine.setReplaySpeed(ReplaySpeed::Max);
-        replay.config.inputComm = Config::InputComm::File;
-        replay.config.inputFileName = QFileInfo(path);
-        replay.open();
+        replay.openRecording(path);
         QTRY_COMPARE(replay.closed.size(), 1);
         QCOMPARE(live.tracks().size(), 40);
         QCOMPARE(described(replay.tracks()), described(live.tracks()));

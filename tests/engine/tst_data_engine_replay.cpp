@@ -1,49 +1,32 @@
 #include "engine_rig.h"
 
-#include "astfile/pcap_writer.h"
+#include "test_files.h"
 #include "test_program.h"
+#include "written_capture.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <sys/stat.h>
 
-using korvane::astfile::PcapWriter;
-
 // Playing recordings. Times in a recording are milliseconds after its beginning.
 class TestDataEngineReplay final : public QObject {
     Q_OBJECT
 
 private:
-    const QDateTime m_begin = QDateTime({2024, 5, 1}, {12, 0}, Qt::UTC);
     QTemporaryDir m_dir;
 
     // A capture with plot i+1 (and so track i+1) at the i-th time.
     QString capture(const QList<int> &times)
     {
-        const QString path = m_dir.filePath("times.pcap");
-        PcapWriter writer;
-        bool written = writer.open(path);
-        quint8 number = 0;
+        QList<std::pair<qint64, QByteArray>> plots;
         for (const int time : times) {
-            written = written && writer.write(m_begin.addMSecs(time), {}, {}, plotBlock(++number));
+            plots.append({time, plotBlock(static_cast<quint8>(plots.size() + 1))});
         }
-        return written && writer.close() ? path : QString();
+        return writtenCapture(m_dir.filePath("times.pcap"), plots);
     }
 
-    QString file(const QString &name, const QByteArray &octets)
-    {
-        QFile output(m_dir.filePath(name));
-        return output.open(QIODevice::WriteOnly) && output.write(octets) == octets.size() ? output.fileName()
-                                                                                          : QString();
-    }
-
-    void open(EngineRig &rig, const QString &path, const QDateTime &start = {})
-    {
-        rig.config.inputComm = Config::InputComm::File;
-        rig.config.inputFileName = QFileInfo(path);
-        rig.open(1, EngineRig::radar(), start);
-    }
+    QString file(const QString &name, const QByteArray &octets) { return writtenTo(m_dir.filePath(name), octets); }
 
 private Q_SLOTS:
     void delayFollowsTheSpeed()
@@ -66,21 +49,21 @@ private Q_SLOTS:
         rig.engine.setReplaySpeed(ReplaySpeed::Max);
         QSignalSpy progress(&rig.engine, &DataEngine::replayProgress);
         const QString path = capture({0, 3600000, 7200000});
-        open(rig, path);
+        rig.openRecording(path);
         QCOMPARE(rig.opened.size(), 1);
         QCOMPARE(rig.log, QStringList({"I Open recording file: " + path, "I Replay start from 2024-05-01 12:00:00"}));
         QTRY_COMPARE(rig.closed.size(), 1);
         QCOMPARE(rig.log.last(), QStringLiteral("I Reach end of recording file."));
         QCOMPARE(rig.tracks().size(), 1); // an hour apart: the first two are long gone when the third comes
         QCOMPARE(rig.engine.messagesReceived(), 3ULL);
-        QCOMPARE(progress, QList<QVariantList>({{m_begin}})); // the other two came within 200 ms
+        QCOMPARE(progress, QList<QVariantList>({{captureBegin()}})); // the other two came within 200 ms
     }
 
     void pauseHoldsThePosition()
     {
         EngineRig rig;
         rig.engine.setReplaySpeed(ReplaySpeed::Max);
-        open(rig, capture({0, 1, 2}));
+        rig.openRecording(capture({0, 1, 2}));
         rig.engine.pauseInput(true);
         EngineRig::turnEventLoop();
         QCOMPARE(rig.tracks().size(), 0);
@@ -110,7 +93,7 @@ private Q_SLOTS:
         QFETCH(QStringList, log);
         EngineRig rig;
         rig.engine.setReplaySpeed(ReplaySpeed::Max);
-        open(rig, capture({0, 2000, 4000}), m_begin.addMSecs(start));
+        rig.openRecording(capture({0, 2000, 4000}), captureBegin().addMSecs(start));
         log.first() =
             start < 0 ? QStringLiteral("I Replay start time: 2024-05-01 11:00:00") : log.first().arg(start / 1000);
         QTRY_COMPARE(rig.closed.size(), 1);
@@ -123,7 +106,7 @@ private Q_SLOTS:
         EngineRig rig;
         rig.config.inputFileAutoRewind = true;
         rig.engine.setReplaySpeed(ReplaySpeed::Max);
-        open(rig, capture({0, 1, 2}), m_begin.addMSecs(1));
+        rig.openRecording(capture({0, 1, 2}), captureBegin().addMSecs(1));
         QTRY_VERIFY(rig.log.count("I Reach end of recording file, restarting replay.") >= 3);
         QVERIFY(rig.engine.messagesReceived() >= 6);
         // The first packet stays out every time, and what the run before has left is gone.
@@ -145,7 +128,7 @@ private Q_SLOTS:
         for (const QList<int> &times : {QList<int>{}, QList<int>{0, 1}}) { // all before the start time
             EngineRig rig;
             rig.config.inputFileAutoRewind = true;
-            open(rig, capture(times), m_begin.addMSecs(5000));
+            rig.openRecording(capture(times), captureBegin().addMSecs(5000));
             QTRY_COMPARE(rig.closed.size(), 1);
             QCOMPARE(rig.log.last(), QStringLiteral("W Recording file contains no replayable data."));
             QCOMPARE(rig.engine.messagesReceived(), 0ULL);
@@ -159,7 +142,7 @@ private Q_SLOTS:
         EngineRig rig;
         for (int i = 0; i < 4; ++i) {
             rig.engine.closeInput();
-            open(rig, capture({0, 50, 30, 130}));
+            rig.openRecording(capture({0, 50, 30, 130}));
         }
         QElapsedTimer timer;
         timer.start();
@@ -181,10 +164,10 @@ private Q_SLOTS:
             {"pipe.pcap", {}, "W " + m_dir.filePath("pipe.pcap") + " is no file."},
             {"text.pcap", {}, "W Failed to open recording file: " + m_dir.filePath("text.pcap")},
             {"short.ast", {}, "W The file ends within a data block's header. (at octet 0)"},
-            {"raw.ast", m_begin, "W The recording contains no timestamp, its start time cannot be sought."}};
+            {"raw.ast", captureBegin(), "W The recording contains no timestamp, its start time cannot be sought."}};
         for (const auto &[name, start, line] : rows) {
             EngineRig rig;
-            open(rig, m_dir.filePath(name), start);
+            rig.openRecording(m_dir.filePath(name), start);
             QCOMPARE(rig.failed.size(), 1);
             QVERIFY2(rig.log.contains(line), qPrintable(rig.log.join('\n')));
             QCOMPARE(rig.faults.size(), 1);
@@ -201,7 +184,7 @@ private Q_SLOTS:
             EngineRig rig;
             rig.engine.setReplaySpeed(ReplaySpeed::Max);
             QVERIFY(QFile::copy(path, m_dir.filePath(name)));
-            open(rig, m_dir.filePath(name));
+            rig.openRecording(m_dir.filePath(name));
             QTRY_COMPARE(rig.closed.size(), 1);
             QCOMPARE(rig.tracks().size(), 3);
         }
@@ -210,7 +193,8 @@ private Q_SLOTS:
     void rawRecordingsPlayWithoutTimesUpToAFault()
     {
         EngineRig rig;
-        open(rig, file("fault.ast", plotBlock(1) + northMarkerBlock() + QByteArray::fromHex("300002") + plotBlock(2)));
+        rig.openRecording(
+            file("fault.ast", plotBlock(1) + northMarkerBlock() + QByteArray::fromHex("300002") + plotBlock(2)));
         QTRY_COMPARE(rig.closed.size(), 1);
         QCOMPARE(rig.log.mid(1),
             QStringList({"I Recording file contains no timestamp, replay from the beginning.",

@@ -1,40 +1,27 @@
 #include "engine_rig.h"
 
-#include "astfile/pcap_writer.h"
+#include "test_files.h"
 #include "test_program.h"
+#include "written_capture.h"
 
 #include <QTemporaryDir>
 #include <QTest>
-
-using korvane::astfile::PcapWriter;
 
 // Which time it is in the picture, and what ages by it.
 class TestDataEngineTime final : public QObject {
     Q_OBJECT
 
 private:
-    const QDateTime m_begin = QDateTime({2024, 5, 1}, {12, 0}, Qt::UTC);
     QTemporaryDir m_dir;
 
-    using Message = std::pair<int, QByteArray>; // milliseconds after the beginning
+    using Message = std::pair<qint64, QByteArray>; // milliseconds after the beginning
 
-    QString capture(const QList<Message> &messages)
-    {
-        const QString path = m_dir.filePath("time.pcap");
-        PcapWriter writer;
-        bool written = writer.open(path);
-        for (const auto &[time, data] : messages) {
-            written = written && writer.write(m_begin.addMSecs(time), {}, {}, data);
-        }
-        return written && writer.close() ? path : QString();
-    }
+    QString capture(const QList<Message> &messages) { return writtenCapture(m_dir.filePath("time.pcap"), messages); }
 
     // A radar that turns once a second: tracks coast after 1.25 s and end after 3 s.
     void open(EngineRig &rig, const QString &path, const QDateTime &start = {})
     {
-        rig.config.inputComm = Config::InputComm::File;
-        rig.config.inputFileName = QFileInfo(path);
-        rig.open(1, EngineRig::radar(1.0), start);
+        rig.openRecording(path, start, EngineRig::radar(1.0));
     }
 
     // "place state" of each track; coasting is state 2.
@@ -67,14 +54,14 @@ private Q_SLOTS:
         for (const auto &[speed, start] : plays) {
             EngineRig rig;
             rig.engine.setReplaySpeed(speed);
-            open(rig, path, start > 0 ? m_begin.addMSecs(start) : QDateTime());
+            open(rig, path, start > 0 ? captureBegin().addMSecs(start) : QDateTime());
             QTRY_COMPARE(rig.closed.size(), 1);
             const QStringList tracks = described(rig.tracks());
             first = first.isEmpty() ? tracks : first;
             QVERIFY(tracks.filter(" 2").size() >= 2); // that coast
             QCOMPARE(tracks.size(), 21);
             QCOMPARE(tracks, first);
-            QCOMPARE(rig.snapshot()->time, m_begin.addMSecs(messages.last().first));
+            QCOMPARE(rig.snapshot()->time, captureBegin().addMSecs(messages.last().first));
             QVERIFY(rig.snapshot()->recordedTime);
         }
     }
@@ -85,14 +72,14 @@ private Q_SLOTS:
         rig.engine.setReplaySpeed(ReplaySpeed::Octuple);
         open(rig, capture({{0, plotBlock(1)}, {3'600'000, plotBlock(2, 500)}}));
         QTRY_COMPARE(rig.tracks().size(), 1);
-        QTRY_VERIFY(rig.snapshot()->time >= m_begin.addMSecs(800)); // after a tenth of a second
+        QTRY_VERIFY(rig.snapshot()->time >= captureBegin().addMSecs(800)); // after a tenth of a second
         rig.engine.pauseInput(true);
         const QDateTime paused = rig.snapshot()->time;
         QTest::qWait(50);
         QCOMPARE(rig.snapshot()->time, paused);
         rig.engine.pauseInput(false);
         QTRY_COMPARE(rig.tracks().size(), 0); // at 3 s
-        QVERIFY(rig.snapshot()->time < m_begin.addMSecs(60'000));
+        QVERIFY(rig.snapshot()->time < captureBegin().addMSecs(60'000));
     }
 
     void alertsCarryTheDaysTimes()
@@ -104,8 +91,8 @@ private Q_SLOTS:
         QTRY_COMPARE(rig.closed.size(), 1);
         const auto alerts = rig.snapshot()->alerts;
         QCOMPARE(alerts.size(), 1);
-        QCOMPARE(alerts.first().startTime, m_begin.addMSecs(500));
-        QCOMPARE(alerts.first().endTime, m_begin.addMSecs(9000)); // without a refresh for 8 s
+        QCOMPARE(alerts.first().startTime, captureBegin().addMSecs(500));
+        QCOMPARE(alerts.first().endTime, captureBegin().addMSecs(9000)); // without a refresh for 8 s
     }
 
     // Nobody can tell an aircraft that is gone from a picture that is not kept up.
@@ -142,12 +129,9 @@ private Q_SLOTS:
                 octets += static_cast<char>(time >> shift);
             }
         }
-        QFile file(m_dir.filePath("two.ast"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(octets) == octets.size());
-        file.close();
         EngineRig rig;
         rig.engine.setReplaySpeed(ReplaySpeed::Octuple);
-        open(rig, file.fileName());
+        open(rig, writtenTo(m_dir.filePath("two.ast"), octets));
         QTRY_COMPARE_WITH_TIMEOUT(rig.closed.size(), 1, 4000); // takes 0.4 s
         QCOMPARE(rig.engine.messagesReceived(), 100ULL);
     }

@@ -1,4 +1,5 @@
 #include "engine/snapshot_json.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QJsonArray>
@@ -83,9 +84,7 @@ private Q_SLOTS:
         alert.stateString = "Active";
         alert.track1.otherTrackNumber = 5;
         QVERIFY(SnapshotJson::save(SnapshotJson::toJson({{later, fullTrack()}, {alert}, {false, true, false}}), path));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QJsonObject root = QJsonDocument::fromJson(file.readAll()).object();
+        const QJsonObject root = QJsonDocument::fromJson(contentsOf(path)).object();
         QVERIFY(!SnapshotJson::save({}, dir.filePath("no/such/folder.json")));
         QCOMPARE(root.keys(), QStringList({"alertStatus", "alerts", "recordedTime", "time", "tracks"}));
         QCOMPARE(root["alertStatus"].toObject(), json(R"({"MSAW": false, "APW": true, "STCA": false})"));

@@ -3,11 +3,11 @@
 #include "help/changelog_window.h"
 #include "help/cheat_sheet_window.h"
 #include "help/help_window.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QAction>
 #include <QClipboard>
-#include <QFile>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QListWidget>
@@ -193,9 +193,7 @@ void TestHelpWindow::cheatSheetIsPrinted()
     QString error;
     const QString file = m_home->filePath("sheet.pdf");
     QVERIFY2(window.savePdf(file, &error), qPrintable(error));
-    QFile pdf(file);
-    QVERIFY(pdf.open(QIODevice::ReadOnly));
-    QVERIFY(pdf.readAll().startsWith("%PDF"));
+    QVERIFY(contentsOf(file).startsWith("%PDF"));
     QVERIFY(!window.savePdf("/no/such/folder/sheet.pdf", &error));
     QVERIFY(error.contains("/no/such/folder"));
 }

@@ -5,6 +5,7 @@
 #include "lists/list_pane.h"
 #include "lists/list_view.h"
 #include "lists/track_list_model.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QClipboard>
@@ -241,9 +242,7 @@ void TestListPane::copiesAndExports()
     QTemporaryDir directory;
     const QString file = directory.filePath("list.csv");
     QCOMPARE(ListExport::saveCsv(*m_list, file), "");
-    QFile written(file);
-    QVERIFY(written.open(QIODevice::ReadOnly));
-    QCOMPARE(QString::fromUtf8(written.readAll()),
+    QCOMPARE(QString::fromUtf8(contentsOf(file)),
         QString::fromUtf8("Callsign,Level\r\n\"A,1\",010\r\n\"B\"\"2\",020\r\nÜ,\r\n"));
     QVERIFY(ListExport::saveCsv(*m_list, directory.filePath("no/such/list.csv")).contains("list.csv"));
 }

@@ -4,6 +4,7 @@
 #include "map_editor/map_editor_geometry.h"
 #include "map_editor/map_editor_point_model.h"
 #include "map_editor/map_editor_tree_model.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QAbstractItemModelTester>
@@ -54,18 +55,6 @@ MapData sampleMap()
     map.name = QStringLiteral("Sample");
     map.groups = {routes, fixes};
     return map;
-}
-
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
-void write(const QString &path, const QByteArray &octets)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(octets) == octets.size());
 }
 
 bool idle(const MapEditorDocument &document)
@@ -340,13 +329,13 @@ void TestMapEditorDocument::savesWithBackup()
     QVERIFY(saves(document, path, format));
     QVERIFY(!QFile::exists(path + ".bak"));
     for (const char *title : {"second", "third"}) {
-        const QByteArray former = contents(path);
+        const QByteArray former = contentsOf(path);
         MapData meta;
         meta.title = QString::fromLatin1(title);
         document.setMeta(meta);
         QVERIFY(saves(document, path, format));
-        QCOMPARE(contents(path + ".bak"), former);
-        QVERIFY(contents(path) != former);
+        QCOMPARE(contentsOf(path + ".bak"), former);
+        QVERIFY(contentsOf(path) != former);
     }
     MapEditorDocument again;
     QString error;
@@ -364,7 +353,7 @@ void TestMapEditorDocument::failuresLoseNothing()
     document.store().reset(sampleMap());
     QVERIFY(saves(document, path, MapFile::Map));
     document.setGroupName(0, QStringLiteral("changed"));
-    const QByteArray onDisk = contents(path);
+    const QByteArray onDisk = contentsOf(path);
     // No backup can take the place of a folder that is not empty.
     QVERIFY(QDir(dir.path()).mkpath("m.map.bak/full"));
     QString error;
@@ -373,13 +362,13 @@ void TestMapEditorDocument::failuresLoseNothing()
     QVERIFY(!saves(document, dir.filePath("none/m.map"), MapFile::Map, &error));
     QVERIFY(error.contains("none/m.map"));
     QVERIFY(!saves(document, dir.filePath("m.mapx"), MapFile::Legacy, &error));
-    write(dir.filePath("bad.xml"), "<map><data><group");
+    writtenTo(dir.filePath("bad.xml"), "<map><data><group");
     for (const char *name : {"bad.xml", "none.map", "m.txt"}) {
         error.clear();
         QVERIFY(!opens(document, dir.filePath(name), &error));
         QVERIFY(!error.isEmpty());
     }
-    QCOMPARE(contents(path), onDisk);
+    QCOMPARE(contentsOf(path), onDisk);
     QVERIFY(document.isModified() && document.undoStack().canUndo());
     QCOMPARE(document.path(), path);
     QCOMPARE(document.store().map().groups[0].name, QStringLiteral("changed"));
@@ -389,7 +378,7 @@ void TestMapEditorDocument::legacyIsSavedAsAnotherFormat()
 {
     const QTemporaryDir dir;
     const QByteArray legacy = R"(<airport><line class="route"><point lat="48" lon="16"/></line></airport>)";
-    write(dir.filePath("old.mapx"), legacy);
+    writtenTo(dir.filePath("old.mapx"), legacy);
     MapEditorDocument document;
     QVERIFY(opens(document, dir.filePath("old.mapx")));
     QString error;
@@ -397,13 +386,13 @@ void TestMapEditorDocument::legacyIsSavedAsAnotherFormat()
     QVERIFY(!saves(document, dir.filePath("old.mapx"), MapFile::Legacy, &error) && !error.isEmpty());
     QVERIFY(saves(document, dir.filePath("new.xml"), MapFile::Xml, &error));
     QVERIFY(document.canSave());
-    QCOMPARE(contents(dir.filePath("old.mapx")), legacy);
+    QCOMPARE(contentsOf(dir.filePath("old.mapx")), legacy);
 }
 
 void TestMapEditorDocument::namesTheFilesOfImages()
 {
     const QTemporaryDir dir;
-    write(dir.filePath("m-1.png"), "taken");
+    writtenTo(dir.filePath("m-1.png"), "taken");
     MapData map = sampleMap();
     map.groups[1].images[0].file.clear();
     MapEditorDocument document;
@@ -413,7 +402,7 @@ void TestMapEditorDocument::namesTheFilesOfImages()
     }
     QCOMPARE(document.store().map().groups[1].images[0].file, QStringLiteral("m-2.png"));
     QCOMPARE(QDir(dir.path()).entryList({"*.png"}, QDir::Files), QStringList({"m-1.png", "m-2.png"}));
-    QCOMPARE(contents(dir.filePath("m-1.png")), QByteArray("taken"));
+    QCOMPARE(contentsOf(dir.filePath("m-1.png")), QByteArray("taken"));
 }
 
 // Not as it is when a worker gets to it.
@@ -457,13 +446,13 @@ void TestMapEditorDocument::savesStylesWithBackup()
     document.putStyle(defaultStyleClass(QStringLiteral("route")));
     QVERIFY(!document.styles().save(QString(), &error) && !error.isEmpty());
     QVERIFY(document.styles().save(path, &error));
-    const QByteArray former = contents(path);
+    const QByteArray former = contentsOf(path);
     MapStyleClass style = document.styles().sheet().style(QStringLiteral("route"));
     style.pen.setWidth(3);
     document.putStyle(style);
     QVERIFY(document.styles().isModified());
     QVERIFY(document.styles().save(path, &error));
-    QCOMPARE(contents(path + ".bak"), former);
+    QCOMPARE(contentsOf(path + ".bak"), former);
     MapStyleSheet read;
     QVERIFY(read.load(path, &error));
     QCOMPARE(read.style(QStringLiteral("route")).pen.width(), 3);

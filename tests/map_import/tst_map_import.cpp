@@ -1,8 +1,8 @@
 #include "map_import/map_import.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QDataStream>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -18,8 +18,7 @@ private:
 
     QString written(const QString &name, const QByteArray &contents)
     {
-        QFile file(m_folder.filePath(name));
-        return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() ? file.fileName() : QString();
+        return writtenTo(m_folder.filePath(name), contents);
     }
 
     MapData read(const QString &file, const MapImport::Options &options = {})

@@ -3,6 +3,7 @@
 
 #include "maps/map_index.h"
 #include "maps/map_style_sheet.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QHash>
@@ -41,8 +42,7 @@ private:
 
     QString written(const QString &name, const QByteArray &contents)
     {
-        QFile file(m_folder.filePath(name));
-        return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() ? file.fileName() : QString();
+        return writtenTo(m_folder.filePath(name), contents);
     }
 
     static MapData readMap(const QString &name, MapFile::Format format)

@@ -9,6 +9,7 @@
 #include "map_windows/map_import_window.h"
 #include "map_windows/static_maps_model.h"
 #include "maps/map_library.h"
+#include "test_files.h"
 #include "test_program.h"
 #include "widgets/file_edit.h"
 
@@ -93,9 +94,7 @@ void TestStaticMapsWindow::cleanup()
 
 void TestStaticMapsWindow::write(const QString &name, const QByteArray &contents) const
 {
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(contents);
+    writtenTo(path(name), contents);
 }
 
 void TestStaticMapsWindow::writeMap(const QString &name, const QByteArray &points) const

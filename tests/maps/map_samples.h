@@ -1,24 +1,10 @@
 #pragma once
 
 #include "maps/map_file.h"
+#include "test_files.h"
 
 #include <QRandomGenerator>
 #include <QTest>
-
-inline QString writtenTo(const QString &path, const QByteArray &contents)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
-        qFatal("no test file");
-    }
-    return path;
-}
-
-inline QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 inline MapData readMap(const QString &path, MapFile::Format format, QString *error = nullptr)
 {

@@ -1,8 +1,8 @@
 #include "modes/encoder.h"
+#include "test_files.h"
 #include "test_program.h"
 #include "vyx-modes/decode_command.h"
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -21,13 +21,9 @@ private:
 
     int decode(const QByteArray &contents, CommandLine line = {})
     {
-        QFile file(m_folder.filePath("input"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
-            return -1;
-        }
-        file.close();
+        const QString input = writtenTo(m_folder.filePath("input"), contents);
         if (line.fileName.empty()) {
-            line.fileName = file.fileName().toStdString();
+            line.fileName = input.toStdString();
         }
         m_out.clear();
         m_err.clear();

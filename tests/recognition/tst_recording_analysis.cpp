@@ -1,7 +1,8 @@
 #include "encoded_report.h"
+#include "test_files.h"
 #include "test_program.h"
+#include "written_capture.h"
 
-#include "astfile/pcap_writer.h"
 #include "engine/recording_scan.h"
 #include "recognition/recording_analysis.h"
 
@@ -15,7 +16,6 @@
 
 #include <memory>
 
-using korvane::astfile::PcapWriter;
 using korvane::astfile::RecFile;
 using korvane::astfile::RecordingIndex;
 
@@ -25,22 +25,15 @@ class TestRecordingAnalysis final : public QObject {
 private:
     QTemporaryDir m_dir;
 
-    QString write(const QString &name, const QByteArray &octets)
-    {
-        QFile file(m_dir.filePath(name));
-        return file.open(QIODevice::WriteOnly) && file.write(octets) == octets.size() ? file.fileName() : QString();
-    }
+    QString write(const QString &name, const QByteArray &octets) { return writtenTo(m_dir.filePath(name), octets); }
 
     QString capture(const QString &name, const QByteArray &message, int count)
     {
-        const QString path = m_dir.filePath(name);
-        PcapWriter writer;
-        bool written = writer.open(path);
-        const QDateTime begin({2024, 5, 1}, {12, 0}, Qt::UTC);
+        QList<std::pair<qint64, QByteArray>> messages;
         for (int i = 0; i < count; ++i) {
-            written = written && writer.write(begin.addMSecs(100 * i), {}, {}, message);
+            messages.append({100 * i, message});
         }
-        return written && writer.close() ? path : QString();
+        return writtenCapture(m_dir.filePath(name), messages);
     }
 
 private Q_SLOTS:
@@ -52,7 +45,7 @@ private Q_SLOTS:
         QCOMPARE(int(found.format), int(RecFile::Pcap));
         QVERIFY(found.whole && found.damage.isEmpty());
         QCOMPARE(found.stream.sources.value(0).trackable(RadarSensor), 50);
-        QCOMPARE(found.stream.first, QDateTime({2024, 5, 1}, {12, 0}, Qt::UTC));
+        QCOMPARE(found.stream.first, captureBegin());
         QCOMPARE(found.stream.first.msecsTo(found.stream.last), 4900);
 
         const RecordingFindings cut = analyseRecording(write("cut.ast", plot.repeated(9).chopped(1)));

@@ -1,4 +1,5 @@
 #include "recorded_stream.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include "modes/encoder.h"
@@ -201,10 +202,8 @@ private Q_SLOTS:
     void ofRecordings()
     {
         QTemporaryDir folder;
-        QFile file(folder.filePath("cut.ast"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(plot().repeated(5).chopped(2)) > 0);
-        file.close();
-        const Diagnosis cut = diagnose(analyseRecording(file.fileName()));
+        const QString damaged = writtenTo(folder.filePath("cut.ast"), plot().repeated(5).chopped(2));
+        const Diagnosis cut = diagnose(analyseRecording(damaged));
         QVERIFY2(cut.size() == 2 && cut.last().sentence.startsWith("The file is damaged"), qPrintable(textOf(cut)));
         QVERIFY(isAnyWrong(cut));
         const Diagnosis none = diagnose(analyseRecording(folder.filePath("none.pcap")));

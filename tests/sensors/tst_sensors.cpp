@@ -2,6 +2,7 @@
 #include "sensors/radar_sensor_info.h"
 #include "sensors/sensor_manager.h"
 #include "sensors/smr_sensor_info.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <QJsonArray>
@@ -22,13 +23,6 @@ QJsonObject parsed(const char *json)
 QJsonObject sensorObject(const QString &type, const QString &name = QStringLiteral("R1"))
 {
     return {{QStringLiteral("type"), type}, {QStringLiteral("name"), name}, {QStringLiteral("location"), Location}};
-}
-
-void write(const QString &path, const QByteArray &text)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
 }
 
 } // namespace
@@ -186,7 +180,7 @@ private Q_SLOTS:
         const QString path = directory.filePath(QStringLiteral("sensors.json"));
         const QJsonArray elements{sensor("a", 25, 3), sensor("b", 25, 4), sensor("c", 25, 3), sensor("d", 0, 0),
             sensor("e", 0, 0), sensor("f", 300, 7)};
-        write(path, QJsonDocument(elements).toJson());
+        writtenTo(path, QJsonDocument(elements).toJson());
         SensorManager manager;
         QStringList warnings;
         connect(&manager, &SensorManager::warning, this, [&warnings](const QString &text) { warnings += text; });
@@ -218,12 +212,12 @@ private Q_SLOTS:
         const QString radar = QStringLiteral("radar");
         const QJsonArray elements{sensorObject(radar), sensorObject(radar), 5, sensorObject(QStringLiteral("lidar")),
             sensorObject(radar), sensorObject(radar, QString()), sensorObject(radar, QStringLiteral("a"))};
-        write(path, QJsonDocument(elements).toJson());
+        writtenTo(path, QJsonDocument(elements).toJson());
         SensorManager manager;
         manager.addSensor(SensorInfo::create(sensorObject(radar, QStringLiteral("before"))));
         QVERIFY(manager.loadFromJsonFile(QFileInfo(path)));
         for (const char *text : {R"({"type":"radar"})", R"([{"type":"radar"})", ""}) { // these change nothing
-            write(path, text);
+            writtenTo(path, text);
             QVERIFY(!manager.loadFromJsonFile(QFileInfo(path)));
         }
         QVERIFY(!manager.loadFromJsonFile(QFileInfo(path + "missing")));

@@ -3,6 +3,7 @@
 #include "settings/sensor_form.h"
 #include "settings/sensor_list.h"
 #include "settings/sensor_manager_window.h"
+#include "test_files.h"
 #include "test_program.h"
 #include "widgets/field_form.h"
 
@@ -183,10 +184,7 @@ void TestSensorWindows::closingWithChangesAsks()
 
 void TestSensorWindows::failuresNameFileAndReason()
 {
-    QFile text(m_dir.filePath(QStringLiteral("text.json")));
-    QVERIFY(text.open(QIODevice::WriteOnly));
-    text.write("{}");
-    text.close();
+    written("text.json", "{}");
     SensorManager sensors;
     sensors.addSensor(makeRadar(QStringLiteral("R1")));
     SensorManagerWindow window(&sensors, QString());
@@ -285,10 +283,7 @@ void TestSensorWindows::isDrivenByKeys()
 
 QString TestSensorWindows::written(const QString &name, const QByteArray &contents)
 {
-    QFile file(m_dir.filePath(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(contents);
-    return file.fileName();
+    return writtenTo(m_dir.filePath(name), contents);
 }
 
 void TestSensorWindows::importsWhatIsGood()

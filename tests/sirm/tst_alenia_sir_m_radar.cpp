@@ -3,11 +3,11 @@
 #include "example/nearest_track.h"
 #include "sirm/alenia_sir_m_radar_decoder.h"
 #include "sirm/alenia_sir_m_radar_encoder.h"
+#include "test_files.h"
 #include "test_program.h"
 
 #include <cmath>
 #include <limits>
-#include <QFile>
 #include <QTest>
 
 namespace {
@@ -241,11 +241,7 @@ private Q_SLOTS:
         const auto octets = AleniaSirMRadarEncoder::encode(message);
         QCOMPARE(nearestTrack(octets.data(), octets.size()), std::string("track 40"));
         QCOMPARE(nearestTrack(octets.data(), 5), std::string("message header is cut short"));
-        QFile readme(SIRM_FOLDER "/README.md");
-        QFile example(SIRM_FOLDER "/example/nearest_track.cpp");
-        QVERIFY(readme.open(QIODevice::ReadOnly) && example.open(QIODevice::ReadOnly));
-        const QByteArray code = example.readAll();
-        QVERIFY(readme.readAll().contains(code.mid(code.indexOf("std::string nearestTrack"))));
+        QVERIFY(readmeShows(SIRM_FOLDER, "nearest_track.cpp", "std::string nearestTrack"));
     }
 };
 

@@ -1,5 +1,6 @@
 #include "app/config.h"
 #include "static_map_scene.h"
+#include "test_files.h"
 #include "test_program.h"
 #include "tile_scene.h"
 #include "tiles/mb_tiles_reader.h"
@@ -70,11 +71,7 @@ private:
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
-    QString written(const QString &name, const QByteArray &contents)
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() ? file.fileName() : QString();
-    }
+    QString written(const QString &name, const QByteArray &contents) { return writtenTo(path(name), contents); }
 
     bool writeMap(const QString &name, const MapData &map) const
     {
@@ -225,8 +222,7 @@ void TestMapTiles::wholeFileOrNone()
     m_cancelled = false;
     QCOMPARE(status, 1);
     QCOMPARE(m_err.value(0), "cancelled");
-    QFile file(path("c.mbtiles"));
-    QVERIFY(file.open(QIODevice::ReadOnly) && file.readAll() == before);
+    QCOMPARE(contentsOf(path("c.mbtiles")), before);
     QVERIFY(!QFile::exists(MbTilesWriter::unfinishedPath(path("c.mbtiles"))));
 }
 

@@ -1,5 +1,6 @@
 #include "played_scenario.h"
 
+#include "test_files.h"
 #include "test_program.h"
 #include "traffic/command_line.h"
 #include "traffic/earth.h"
@@ -8,7 +9,6 @@
 #include "traffic/traffic_run.h"
 
 #include <QCryptographicHash>
-#include <QFile>
 #include <QNetworkDatagram>
 #include <QNetworkInterface>
 #include <QTemporaryDir>
@@ -25,12 +25,6 @@ const std::atomic<bool> NeverStop{false};
 Scenario demo()
 {
     return *ScenarioReader().read(QStringLiteral("demo"));
-}
-
-QByteArray contents(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 // Runs vyx-traffic with the arguments; the text is its last line.
@@ -69,7 +63,7 @@ private Q_SLOTS:
         const auto written = [&](const QString &more) {
             const QString file = folder.filePath("a");
             const bool done = run(QString("--pcap %1.pcap --ast %1.ast --duration 40").arg(file) + more, text);
-            return done ? contents(file + ".pcap") + contents(file + ".ast") : QByteArray();
+            return done ? contentsOf(file + ".pcap") + contentsOf(file + ".ast") : QByteArray();
         };
         const QByteArray first = written("");
         QVERIFY2(first.size() > 20000, qPrintable(text));

@@ -1,9 +1,9 @@
-#include "astfile/pcap_writer.h"
 #include "engine/data_engine.h"
 #include "test_program.h"
 #include "ui/replay_window.h"
 #include "ui/status_read_outs.h"
 #include "window_fixture.h"
+#include "written_capture.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -17,8 +17,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
-
-using korvane::astfile::PcapWriter;
 
 // A recording on its way through the window: opened, played, moved about in, left again.
 class TestMainWindowReplay final : public QObject {
@@ -55,7 +53,7 @@ private Q_SLOTS:
         QTRY_VERIFY2(clock().startsWith("REC UTC 12:00:"), qPrintable(clock()));
 
         auto *time = child<QDateTimeEdit>("jumpTime");
-        time->setDateTime(m_begin.addSecs(5400)); // between two packets
+        time->setDateTime(captureBegin().addSecs(5400)); // between two packets
         child<QPushButton>("jump")->click();
         QTRY_COMPARE(text("positionTime"), QString("2024-05-01 14:00:00"));
         QVERIFY(text("elapsed").startsWith("2:00:00") || text("elapsed").startsWith("02:00:00"));
@@ -80,7 +78,7 @@ private Q_SLOTS:
         m_window->setStopQuestion([] { return false; }); // a recording stops without a question
         for (const bool byWindow : {true, false}) {
             play(recording("stopped.pcap", {0, 3600000, 7200000}));
-            child<QDateTimeEdit>("jumpTime")->setDateTime(m_begin.addSecs(5400));
+            child<QDateTimeEdit>("jumpTime")->setDateTime(captureBegin().addSecs(5400));
             QTRY_COMPARE(text("lastTime"), QString("2024-05-01 14:00:00"));
             child<QPushButton>("jump")->click();
             byWindow ? child<QPushButton>("stop")->click() : action("Stop")->trigger();
@@ -164,9 +162,7 @@ private:
     // Plots of as many aircraft, a packet each, milliseconds after the beginning.
     QString recording(const QString &name, const QList<int> &times)
     {
-        const QString path = m_directory.filePath(name);
-        PcapWriter writer;
-        bool written = writer.open(path);
+        QList<std::pair<qint64, QByteArray>> plots;
         quint8 number = 0;
         for (const int time : times) {
             QByteArray plot = QByteArray::fromHex("30000d9110"
@@ -176,9 +172,9 @@ private:
                                                   "00")
                 + static_cast<char>(++number);
             plot[9] = static_cast<char>(number * 20);
-            written = written && writer.write(m_begin.addMSecs(time), {}, {}, plot);
+            plots.append({time, plot});
         }
-        return written && writer.close() ? path : QString();
+        return writtenCapture(m_directory.filePath(name), plots);
     }
 
     bool drop(const QString &path)
@@ -200,7 +196,6 @@ private:
         QTRY_VERIFY(m_window->inputOpen());
     }
 
-    const QDateTime m_begin = QDateTime({2024, 5, 1}, {12, 0}, Qt::UTC);
     WindowFixture m_fixture;
     QTemporaryDir m_directory;
     std::unique_ptr<MainWindow> m_window;

@@ -9,6 +9,7 @@
 #include "sensors/radar_sensor_info.h"
 #include "settings/config_window.h"
 #include "settings/sensor_manager_window.h"
+#include "test_files.h"
 #include "test_program.h"
 #include "ui/actions.h"
 #include "ui/log_pane.h"
@@ -149,11 +150,8 @@ void TestMapLayouts::menuFollowsTheLayouts()
 void TestMapLayouts::mapsAreLoadedAndToggled()
 {
     const QTemporaryDir maps;
-    const auto write = [&maps](const char *name, const QByteArray &contents) {
-        QFile file(maps.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(contents);
-    };
+    const auto write = [&maps](
+                           const char *name, const QByteArray &contents) { writtenTo(maps.filePath(name), contents); };
     write("good.xml", "<map><data><group class='land'/></data></map>");
     write("bad.xml", "<map><data");
     write("map.idx", "<index><file>bad.xml</file><file>good.xml</file></index>");

@@ -1,4 +1,3 @@
-#include "astfile/pcap_writer.h"
 #include "display/geo_map_display.h"
 #include "display/geo_plot_map.h"
 #include "engine/display_snapshot.h"
@@ -9,6 +8,7 @@
 #include "ui/plot_switch.h"
 #include "widgets/scope_notice.h"
 #include "window_fixture.h"
+#include "written_capture.h"
 
 #include <QAction>
 #include <QTest>
@@ -141,17 +141,15 @@ void TestPlotSwitch::operatorDecides()
 void TestPlotSwitch::recordingOfPlotsIsSeen()
 {
     const QTemporaryDir dir;
-    korvane::astfile::PcapWriter writer;
-    QVERIFY(writer.open(dir.filePath("plots.pcap")));
-    const QDateTime begin({2024, 5, 1}, {12, 0}, Qt::UTC);
+    QList<std::pair<qint64, QByteArray>> plots;
     for (int i = 0; i < 60; ++i) {
-        QVERIFY(writer.write(begin.addMSecs(i * 100), {}, {}, secondaryPlot(i)));
+        plots.append({i * 100, secondaryPlot(i)});
     }
-    QVERIFY(writer.close());
+    const QString path = writtenCapture(dir.filePath("plots.pcap"), plots);
     const WindowFixture fixture;
-    const auto window = WindowFixture::makeWindow([&dir](Config &config) {
+    const auto window = WindowFixture::makeWindow([&path](Config &config) {
         config.inputComm = Config::InputComm::File;
-        config.inputFileName = QFileInfo(dir.filePath("plots.pcap"));
+        config.inputFileName = QFileInfo(path);
     });
     const GeoPlotMap *layer = window->geoWidget()->mapDisplay()->plotMap();
     QAction *action = (*window->findChild<Actions *>())[ActionId::TogglePlots];

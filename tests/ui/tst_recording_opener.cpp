@@ -1,4 +1,3 @@
-#include "astfile/pcap_writer.h"
 #include "recognition/input_proposal.h"
 #include "settings/sensor_site_window.h"
 #include "test_program.h"
@@ -7,13 +6,12 @@
 #include "widgets/coordinate_edit.h"
 #include "widgets/scope_notice.h"
 #include "window_fixture.h"
+#include "written_capture.h"
 
 #include <QDoubleSpinBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
-
-using korvane::astfile::PcapWriter;
 
 // A recording is opened as what it holds, whatever the terminal is set to.
 class TestRecordingOpener final : public QObject {
@@ -187,14 +185,8 @@ private:
 
     QString capture(const QString &name, const QByteArray &message)
     {
-        const QString path = m_directory.filePath(name);
-        PcapWriter writer;
-        bool written = writer.open(path);
-        const QDateTime begin({2024, 5, 1}, {12, 0}, Qt::UTC);
-        for (int i = 0; i < 5; ++i) {
-            written = written && writer.write(begin.addMSecs(20 * i), {}, {}, message);
-        }
-        return written && writer.close() ? path : QString();
+        return writtenCapture(
+            m_directory.filePath(name), {{0, message}, {20, message}, {40, message}, {60, message}, {80, message}});
     }
 
     WindowFixture m_fixture;

@@ -1,6 +1,7 @@
 #include "app/run_config.h"
 #include "app/theme.h"
 #include "sensors/radar_sensor_info.h"
+#include "test_files.h"
 #include "test_program.h"
 #include "vyxdisplay/command_line.h"
 
@@ -53,8 +54,7 @@ void TestRunConfig::init()
 
 QByteArray TestRunConfig::written() const
 {
-    QFile settings(file());
-    return settings.open(QFile::ReadOnly) ? settings.readAll() : QByteArray();
+    return contentsOf(file());
 }
 
 Config TestRunConfig::stored() const

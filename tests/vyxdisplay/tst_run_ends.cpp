@@ -6,6 +6,7 @@
 #include "display/geo_plot_map.h"
 #include "display/geo_track_display.h"
 #include "plan_view/geo_widget.h"
+#include "test_files.h"
 #include "test_program.h"
 #include "tracking/plot_store.h"
 #include "vyxdisplay/exit_report.h"
@@ -47,11 +48,7 @@ public:
         ::close(m_before);
     }
 
-    QString text() const
-    {
-        QFile file(m_fileName);
-        return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-    }
+    QString text() const { return QString::fromUtf8(contentsOf(m_fileName)); }
 
 private:
     QString m_fileName;
@@ -165,9 +162,7 @@ void TestRunEnds::reportIsWrittenAtTheEnd()
     QVERIFY(report.succeeded());
     QVERIFY(!unwritable.succeeded());
     QCOMPARE(QImage(screenshot).size(), window->size());
-    QFile file(snapshot);
-    QVERIFY(file.open(QFile::ReadOnly));
-    QVERIFY(QJsonDocument::fromJson(file.readAll()).object()["tracks"].isArray());
+    QVERIFY(QJsonDocument::fromJson(contentsOf(snapshot)).object()["tracks"].isArray());
 }
 
 void TestRunEnds::reportSaysWhereTracksStandInThePicture()
@@ -212,9 +207,7 @@ void TestRunEnds::reportSaysWhereTracksStandInThePicture()
             painted |= picture.pixelColor(x, y) == QColor(Qt::magenta) ? QRect(x, y, 1, 1) : QRect();
         }
     }
-    QFile file(snapshot);
-    QVERIFY(file.open(QFile::ReadOnly));
-    const QJsonObject root = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonObject root = QJsonDocument::fromJson(contentsOf(snapshot)).object();
     QCOMPARE(root["labels"].toArray().size(), 1);
     QCOMPARE(root["symbols"].toArray().size(), 1);
     QCOMPARE(root["plots"].toInt(), 2);

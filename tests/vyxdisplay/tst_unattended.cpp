@@ -4,6 +4,7 @@
 #include "app/run_config.h"
 #include "control/control_client.h"
 #include "engine/engine_host.h"
+#include "test_files.h"
 #include "test_program.h"
 #include "ui/input_session.h"
 #include "vyxdisplay/reopening.h"
@@ -113,12 +114,6 @@ private:
         config.save(AppPaths::configFile());
     }
 
-    static QByteArray contents(const QString &fileName)
-    {
-        QFile file(fileName);
-        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
 private Q_SLOTS:
     void initTestCase()
     {
@@ -149,7 +144,7 @@ private Q_SLOTS:
 
         const QByteArray plot = QByteArray::fromHex("30000d9110190a0a0000000001");
         m_sender.writeDatagram(plot, QHostAddress::LocalHost, m_port);
-        QTRY_COMPARE(QJsonDocument::fromJson(contents(snapshot))["tracks"].toArray().size(), 1);
+        QTRY_COMPARE(QJsonDocument::fromJson(contentsOf(snapshot))["tracks"].toArray().size(), 1);
         QTRY_COMPARE(status()["sources"].toArray().first().toObject()["sac"].toInt(), 25); // once a second
         const QJsonObject told = status();
         QCOMPARE(told["tracks"].toInt(), 1);
@@ -171,7 +166,7 @@ private Q_SLOTS:
         QVERIFY(manager.hears("\nSTOPPING=1\n"));
         const QByteArray errors = service->readAllStandardError();
         QVERIFY2(errors.contains("<6>Start UDP input :"), errors.constData());
-        QVERIFY(contents(AppPaths::appDataDir() + "/logs/vyxdisplay.log").contains("Z [INFO    ] Start UDP input :"));
+        QVERIFY(contentsOf(AppPaths::appDataDir() + "/logs/vyxdisplay.log").contains("Z [INFO    ] Start UDP input :"));
         QVERIFY(!QFile::exists(m_control));
     }
 
@@ -253,7 +248,7 @@ private Q_SLOTS:
         const QDir settings(AppPaths::configDir());
         QVERIFY(settings.path().endsWith("vyxdisplay-tower"));
         QVERIFY(settings.exists("vyxdisplay_uistate.conf"));
-        QVERIFY(contents(AppPaths::appDataDir() + "/logs/vyxdisplay.log").contains("Start UDP input"));
+        QVERIFY(contentsOf(AppPaths::appDataDir() + "/logs/vyxdisplay.log").contains("Start UDP input"));
     }
 };
 
