@@ -1,6 +1,4 @@
-#include "engine_rig.h"
-#include "played_scenario.h"
-#include "traffic/sensor_json.h"
+#include "scenario_rig.h"
 
 #include "sensors/sensor_info.h"
 #include "test_program.h"
@@ -40,25 +38,16 @@ private Q_SLOTS:
     {
         const std::optional<Scenario> scenario = ScenarioReader().read(QString::fromLatin1(QTest::currentDataTag()));
         QVERIFY(scenario);
-        const QJsonObject sensor = sensorJson(*scenario);
-        const bool asterix = sensor["processor"] == "asterix";
-        EngineRig rig;
-        rig.config.processorType = sensor["processor"] == "modes" ? Config::ProcessorType::ModeS
-            : sensor["processor"] == "sirm"                       ? Config::ProcessorType::AleniaSirM
-                                                                  : Config::ProcessorType::Asterix;
-        rig.open(1, SensorInfo::create(sensor));
+        ScenarioRig rig(*scenario);
+        const bool asterix = rig.config.processorType == Config::ProcessorType::Asterix;
         QHash<int, quint64> records;
         quint64 octets = 0;
-        TrafficSource source(*scenario, 1);
-        while (source.nextTime() < 20) {
-            for (const QByteArray &datagram : *source.next().datagrams) {
-                rig.engine.procMessage(datagram);
-                octets += static_cast<quint64>(datagram.size());
-                if (asterix) {
-                    countRecords(datagram, records);
-                }
+        rig.play(20, [&](const QByteArray &datagram, double) {
+            octets += static_cast<quint64>(datagram.size());
+            if (asterix) {
+                countRecords(datagram, records);
             }
-        }
+        });
 
         const auto statistics = rig.statistics();
         quint64 counted = 0;
