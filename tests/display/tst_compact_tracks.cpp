@@ -1,7 +1,5 @@
-#include "app/config.h"
-#include "display/geo_track_display.h"
-#include "painted_view.h"
 #include "test_program.h"
+#include "track_scope.h"
 
 #include <QFontInfo>
 #include <QFontMetricsF>
@@ -37,51 +35,31 @@ const QColor DetailColor(250, 0, 250);
 const QColor AlertColor(255, 0, 0);
 const QColor GroundColor(0, 80, 0);
 
-TrackSnapshot flight()
+TrackSnapshot flight(const QPointF &place = {}, quint64 id = 1)
 {
-    TrackSnapshot track;
-    track.incarnationId = 1;
-    track.type = Track::Smr; // the small filled box
-    track.carCoordinateValid = track.callsignValid = track.levelValid = true;
-    track.callsign = QStringLiteral("HHHHHH");
-    track.level = 35000;
-    return track;
+    return flightAt(place, id, QStringLiteral("HHHHHH"));
 }
 
-// Pure colours; labels alone are on.
-struct Scope {
-    explicit Scope(const TrackSnapshot &track)
+Config pureColors()
+{
+    Config config;
+    config.trackLabelLayout = Config::TrackLabelLayout::Compact;
+    config.trackSymbolColor = SymbolColor;
+    config.trackLeaderColor = LeaderColor;
+    config.trackLabelColor = IdentityColor;
+    config.trackLabelDetailColor = DetailColor;
+    config.trackLabelAlertColor = AlertColor;
+    config.trackLabelBackgroundColor = GroundColor;
+    return config;
+}
+
+// Labels alone are on.
+struct Scope : TrackScope {
+    explicit Scope(const TrackSnapshot &track) : TrackScope(pureColors())
     {
-        Config config;
-        config.trackLabelLayout = Config::TrackLabelLayout::Compact;
-        config.trackSymbolColor = SymbolColor;
-        config.trackLeaderColor = LeaderColor;
-        config.trackLabelColor = IdentityColor;
-        config.trackLabelDetailColor = DetailColor;
-        config.trackLabelAlertColor = AlertColor;
-        config.trackLabelBackgroundColor = GroundColor;
-        display.applyConfig(config);
         display.setSymbolSize(12);
-        display.showVector(false);
-        display.showTrail(false);
-        show(track);
+        show({track});
     }
-
-    void show(const TrackSnapshot &track)
-    {
-        auto snapshot = QSharedPointer<DisplaySnapshot>::create();
-        snapshot->tracks = {track};
-        display.setSnapshot(snapshot);
-    }
-
-    PaintedView painted(double metresPerPixel = 100.0)
-    {
-        PaintedView view(metresPerPixel);
-        view.paint([this](QPainter &painter, const GeoView &) { display.paint(&painter); });
-        return view;
-    }
-
-    GeoTrackDisplay display;
 };
 
 } // namespace
@@ -108,7 +86,7 @@ void TestCompactTracks::linesHaveTheirColors()
 
     TrackSnapshot alerting = flight();
     alerting.alertsString = QStringLiteral("STCA");
-    scope.show(alerting);
+    scope.show({alerting});
     view = scope.painted();
     // A filled head as wide as the label, not just letters of that colour.
     QVERIFY(view.count(AlertColor) > view.extent(IdentityColor).width() * 8);
@@ -122,7 +100,7 @@ void TestCompactTracks::marksThatTheFontLacksAreAsWideAsItsCharacters()
     QVERIFY(look.drawnMarks.contains(QChar(0x2798)));
     const int width = scope.painted().extent(GroundColor).width();
     coasting.coasting = true;
-    scope.show(coasting);
+    scope.show({coasting});
     const int wider = scope.painted().extent(GroundColor).width() - width;
     QVERIFY(std::abs(wider - QFontMetricsF(look.identityFont).horizontalAdvance(QLatin1Char(' '))) <= 1.0);
     QVERIFY(scope.display.frame().tracks.front().label->lines.front().marks.size() == 1);
@@ -231,17 +209,12 @@ void TestCompactTracks::manyVeilsHideWhatOneLetsThrough()
     config.trackSymbolColor = config.trackSymbolCasingColor = config.trackLeaderColor = Qt::transparent;
     QList<TrackSnapshot> tracks;
     for (int i = 0; i < 40; ++i) {
-        tracks.append(flight());
-        tracks.last().incarnationId = quint64(i) + 1;
-        tracks.last().carCoordinate = QPointF(100.0 * (i * 7 % 23), 100.0 * (i * 5 % 11));
+        tracks.append(flight(QPointF(100.0 * (i * 7 % 23), 100.0 * (i * 5 % 11)), quint64(i) + 1));
     }
     const auto paint = [&config](QPainter &painter, const QList<TrackSnapshot> &some) {
-        GeoTrackDisplay display;
-        display.applyConfig(config);
-        auto snapshot = QSharedPointer<DisplaySnapshot>::create();
-        snapshot->tracks = some;
-        display.setSnapshot(snapshot);
-        display.paint(&painter);
+        TrackScope scope(config);
+        scope.show(some);
+        scope.display.paint(&painter);
     };
     PaintedView together(100.0);
     together.paint([&](QPainter &painter, const GeoView &) { paint(painter, tracks); });

@@ -1,6 +1,5 @@
-#include "display/geo_track_display.h"
-#include "painted_view.h"
 #include "test_program.h"
+#include "track_scope.h"
 
 #include <QTest>
 
@@ -35,28 +34,8 @@ const QColor SelectedColor(0, 255, 0);
 const QColor AlertColor(255, 0, 0);
 const QColor GroundColor(80, 0, 80); // no mixture of text and ground looks like it
 
-TrackSnapshot aircraft(quint64 id, const QPointF &place = {})
-{
-    TrackSnapshot track;
-    track.incarnationId = id;
-    track.type = Track::Smr; // the small filled box
-    track.carCoordinate = place;
-    track.carCoordinateValid = true;
-    track.callsign = QStringLiteral("ABC123");
-    track.level = 35000;
-    track.levelValid = true;
-    return track;
-}
-
-QSharedPointer<const DisplaySnapshot> picture(const QList<TrackSnapshot> &tracks)
-{
-    auto snapshot = QSharedPointer<DisplaySnapshot>::create();
-    snapshot->tracks = tracks;
-    return snapshot;
-}
-
 // A display with pure colours that shows tracks as bare symbols.
-struct Scope {
+struct Scope : TrackScope {
     explicit Scope(const QList<TrackSnapshot> &tracks)
     {
         display.setSymbolColor(SymbolColor);
@@ -65,24 +44,15 @@ struct Scope {
         display.setLabelAlertColor(AlertColor);
         display.setLabelBackgroundColor(GroundColor);
         display.showLabel(false);
-        display.showVector(false);
-        display.showTrail(false);
-        display.setSnapshot(picture(tracks));
+        show(tracks);
     }
-
-    void paint(PaintedView &view)
-    {
-        view.paint([this](QPainter &painter, const GeoView &) { display.paint(&painter); });
-    }
-
-    GeoTrackDisplay display;
 };
 
 } // namespace
 
 void TestGeoTrackDisplay::detailsEndAtTheirZoom()
 {
-    TrackSnapshot track = aircraft(1);
+    TrackSnapshot track = flightAt();
     track.headingValid = true;
     track.trail = {QPointF(150000.0, 0.0)};
     Scope scope({track});
@@ -113,7 +83,7 @@ void TestGeoTrackDisplay::vectorReaches()
         double rotation;
         QPointF tip; // from the track, x right, y down; null: shorter than a pixel
     };
-    TrackSnapshot track = aircraft(1);
+    TrackSnapshot track = flightAt();
     track.groundSpeed = 480.0;
     track.groundSpeedValid = track.headingValid = true;
     track.heading = 90.0;
@@ -144,7 +114,7 @@ void TestGeoTrackDisplay::vectorReaches()
 
 void TestGeoTrackDisplay::vectorTicks()
 {
-    TrackSnapshot track = aircraft(1);
+    TrackSnapshot track = flightAt();
     track.headingValid = true;
     track.heading = 90.0;
     Scope scope({track});
@@ -168,7 +138,7 @@ void TestGeoTrackDisplay::vectorTicks()
 // Vector and leader, each for itself: the one to the right, the other down and to the left.
 void TestGeoTrackDisplay::linesOfACoastingTrackAreBroken()
 {
-    TrackSnapshot track = aircraft(1);
+    TrackSnapshot track = flightAt();
     track.headingValid = true;
     track.heading = 90.0;
     Scope scope({track});
@@ -183,7 +153,7 @@ void TestGeoTrackDisplay::linesOfACoastingTrackAreBroken()
         scope.display.setLabelOffset(leader ? -200 : 20, leader ? 4 : 190);
         const auto gaps = [&](bool coasting) {
             track.coasting = coasting;
-            scope.display.setSnapshot(picture({track}));
+            scope.show({track});
             scope.paint(view);
             int empty = 0;
             for (int distance = 15; distance < 60; ++distance) {
@@ -200,7 +170,7 @@ void TestGeoTrackDisplay::linesOfACoastingTrackAreBroken()
 void TestGeoTrackDisplay::trailDots()
 {
     for (const auto &[history, wanted] : QList<std::pair<int, int>>{{12, 5}, {3, 20}}) {
-        TrackSnapshot track = aircraft(1);
+        TrackSnapshot track = flightAt();
         for (int i = 1; i <= history; ++i) {
             track.trail.append(QPointF(i * 1000.0, 0.0));
         }
@@ -219,7 +189,7 @@ void TestGeoTrackDisplay::trailDots()
 
 void TestGeoTrackDisplay::labelLineColors()
 {
-    TrackSnapshot track = aircraft(7);
+    TrackSnapshot track = flightAt({}, 7);
     Scope scope({track});
     scope.display.showLabel(true);
     PaintedView view(100.0);
@@ -227,7 +197,7 @@ void TestGeoTrackDisplay::labelLineColors()
         const bool alert = mask & 1;
         const bool selected = mask & 2;
         track.alertsString = alert ? QStringLiteral("STCA") : QString();
-        scope.display.setSnapshot(picture({track}));
+        scope.show({track});
         scope.display.setSelected(selected ? 7 : 8);
         scope.paint(view);
         QCOMPARE(view.count(AlertColor) > 0, alert);
@@ -242,7 +212,7 @@ void TestGeoTrackDisplay::labelLineColors()
 // The background is the label and the padding round it, except below; upright however the view is turned.
 void TestGeoTrackDisplay::labelGround()
 {
-    Scope scope({aircraft(1)});
+    Scope scope({flightAt()});
     scope.display.showLabel(true);
     scope.display.setLabelOffset(30, 100);
     scope.display.setBackgroundPadding(6);
@@ -264,7 +234,7 @@ void TestGeoTrackDisplay::labelGround()
 // The later track's label lies on the earlier track's place.
 void TestGeoTrackDisplay::nothingHidesATarget()
 {
-    Scope scope({aircraft(1), aircraft(2, QPointF(-8000.0, -3000.0))});
+    Scope scope({flightAt(), flightAt(QPointF(-8000.0, -3000.0), 2)});
     scope.display.showLabel(true);
     scope.display.setTrackLabelOffset(1, 0, 150);
     scope.display.setTrackLabelOffset(2, 60, 60);
@@ -279,7 +249,7 @@ void TestGeoTrackDisplay::crowdLooksAsIfPaintedOneByOne()
 {
     QList<TrackSnapshot> tracks;
     for (int i = 0; i < 60; ++i) {
-        tracks.append(aircraft(quint64(i) + 1, QPointF(i * 7919 % 40000 - 22000, i * 5477 % 44000 - 22000)));
+        tracks.append(flightAt(QPointF(i * 7919 % 40000 - 22000, i * 5477 % 44000 - 22000), quint64(i) + 1));
         tracks.last().alertsString = i < 5 ? QStringLiteral("STCA") : QString();
     }
     QColor ground;
@@ -312,7 +282,7 @@ void TestGeoTrackDisplay::crowdLooksAsIfPaintedOneByOne()
 void TestGeoTrackDisplay::paintsLabelsOfTracksJustOutside()
 {
     for (int pixelsLeftOfTheView : {100, 495, 505}) { // the margin is 500 wide
-        Scope scope({aircraft(1, QPointF(-100.0 * (200 + pixelsLeftOfTheView), 0.0))});
+        Scope scope({flightAt(QPointF(-100.0 * (200 + pixelsLeftOfTheView), 0.0), 1)});
         scope.display.showLabel(true);
         scope.display.setLabelOffset(pixelsLeftOfTheView + 20, 20);
         PaintedView view(100.0);
@@ -323,13 +293,13 @@ void TestGeoTrackDisplay::paintsLabelsOfTracksJustOutside()
 
 void TestGeoTrackDisplay::labelFollowsItsContent()
 {
-    TrackSnapshot track = aircraft(1);
+    TrackSnapshot track = flightAt();
     Scope scope({track});
     scope.display.showLabel(true);
     PaintedView before(100.0);
     scope.paint(before);
     track.callsign = QStringLiteral("ABCDEFGH");
-    scope.display.setSnapshot(picture({track}));
+    scope.show({track});
     scope.display.showHeading(true);
     PaintedView after(100.0);
     scope.paint(after);
@@ -339,9 +309,9 @@ void TestGeoTrackDisplay::labelFollowsItsContent()
 
 void TestGeoTrackDisplay::hitsSymbol()
 {
-    TrackSnapshot unplaced = aircraft(4, QPointF(-19000.0, 19000.0));
+    TrackSnapshot unplaced = flightAt(QPointF(-19000.0, 19000.0), 4);
     unplaced.carCoordinateValid = false;
-    Scope scope({unplaced, aircraft(1), aircraft(2), aircraft(3, QPointF(10000.0, 5000.0))});
+    Scope scope({unplaced, flightAt(), flightAt({}, 2), flightAt(QPointF(10000.0, 5000.0), 3)});
     const QTransform toScreen = PaintedView(100.0).view().screenTransform();
     const QList<std::pair<QPoint, quint64>> hits{// from the middle, where the first of two is hit
         {QPoint(0, 0), 1}, {QPoint(-12, 12), 1}, {QPoint(-13, 0), 0}, {QPoint(0, 13), 0}, {QPoint(100, -50), 3},
@@ -354,7 +324,7 @@ void TestGeoTrackDisplay::hitsSymbol()
 
 void TestGeoTrackDisplay::hitsLabelsWhereTheyWerePainted()
 {
-    Scope scope({aircraft(1), aircraft(2)});
+    Scope scope({flightAt(), flightAt({}, 2)});
     scope.display.showLabel(true);
     scope.display.setBackgroundPadding(5);
     scope.display.setTrackLabelOffset(2, -120, -20);
@@ -375,11 +345,11 @@ void TestGeoTrackDisplay::hitsLabelsWhereTheyWerePainted()
 
 void TestGeoTrackDisplay::forgetsTracksThatAreGone()
 {
-    Scope scope({aircraft(1), aircraft(2)});
+    Scope scope({flightAt(), flightAt({}, 2)});
     scope.display.setTrackLabelOffset(1, 5, 6);
     scope.display.setTrackLabelOffset(2, 7, 8);
     scope.display.setSelected(2);
-    scope.display.setSnapshot(picture({aircraft(1)}));
+    scope.show({flightAt()});
     QCOMPARE(scope.display.trackLabelOffset(1), QPoint(5, 6));
     QVERIFY(!scope.display.trackLabelOffsetDefault(1));
     QVERIFY(scope.display.trackLabelOffsetDefault(2));

@@ -1,36 +1,17 @@
-#include "display/geo_track_display.h"
-#include "painted_view.h"
 #include "test_program.h"
+#include "track_scope.h"
 
 #include <QSignalSpy>
 #include <QTest>
 
 #include <random>
 
-namespace {
-
-TrackSnapshot aircraft(unsigned int number, const QPointF &place)
-{
-    TrackSnapshot track;
-    track.trackNumber = number;
-    track.incarnationId = number;
-    track.carCoordinate = place;
-    track.carCoordinateValid = true;
-    track.callsign = QStringLiteral("TEST%1").arg(number);
-    track.callsignValid = true;
-    track.level = 35000;
-    track.levelValid = true;
-    return track;
-}
-
-} // namespace
-
 class TestTrackLabelPlaces final : public QObject {
     Q_OBJECT
 
 private:
     // Paints the tracks with labels that arrange themselves, north-up at a metre a pixel unless told otherwise.
-    struct Scope {
+    struct Scope : TrackScope {
         explicit Scope(Config::TrackLabelLayout layout = Config::TrackLabelLayout::Compact)
         {
             Config config;
@@ -39,16 +20,6 @@ private:
             display.applyConfig(config);
         }
 
-        void show(const QList<TrackSnapshot> &tracks)
-        {
-            display.setSnapshot(QSharedPointer<DisplaySnapshot>::create(DisplaySnapshot{tracks, {}, {}}));
-        }
-        void paint(PaintedView &view, int frames = 1)
-        {
-            for (int i = 0; i < frames; ++i) {
-                view.paint([this](QPainter &painter, const GeoView &geoView) { display.paint(&painter, geoView); });
-            }
-        }
         QRect rect(unsigned long long id) const
         {
             for (const ShownTrack &shown : display.frame().tracks) {
@@ -58,15 +29,13 @@ private:
             }
             return {};
         }
-
-        GeoTrackDisplay display;
     };
 
     // Of a label that has all its lines.
     static int fullHeight()
     {
         Scope scope;
-        scope.show({aircraft(1, {0, 0})});
+        scope.show({flightAt()});
         PaintedView view(1.0);
         scope.paint(view);
         return scope.rect(1).height();
@@ -77,7 +46,7 @@ private:
         std::mt19937 random(1);
         QList<TrackSnapshot> tracks;
         for (int i = 0; i < count; ++i) {
-            tracks += aircraft(unsigned(i + 1), QPointF(int(random() % 400) - 200, int(random() % 400) - 200));
+            tracks += flightAt(QPointF(int(random() % 400) - 200, int(random() % 400) - 200), quint64(i + 1));
         }
         return tracks;
     }
@@ -88,7 +57,7 @@ private Q_SLOTS:
         for (const auto layout : {Config::TrackLabelLayout::Standard, Config::TrackLabelLayout::Compact}) {
             for (const double rotation : {0.0, 120.0}) {
                 Scope scope(layout);
-                scope.show({aircraft(1, {0, 0}), aircraft(2, {12, 8}), aircraft(3, {-9, 14}), aircraft(4, {150, 150})});
+                scope.show({flightAt(), flightAt({12, 8}, 2), flightAt({-9, 14}, 3), flightAt({150, 150}, 4)});
                 PaintedView view(1.0, {}, rotation);
                 scope.paint(view, 30);
                 for (unsigned int a = 1; a <= 4; ++a) {
@@ -104,7 +73,7 @@ private Q_SLOTS:
     void readOutsOfTheMapAreLeftFree()
     {
         Scope scope;
-        scope.show({aircraft(1, {0, 0})});
+        scope.show({flightAt()});
         PaintedView view(1.0);
         scope.paint(view);
         const QRect usual = scope.rect(1);
@@ -116,7 +85,7 @@ private Q_SLOTS:
     void theOperatorsPlaceStaysUntilItIsReset()
     {
         Scope scope;
-        scope.show({aircraft(1, {0, 0}), aircraft(2, {20, 5})});
+        scope.show({flightAt(), flightAt({20, 5}, 2)});
         PaintedView view(1.0);
         scope.paint(view, 5);
         const QRect arranged = scope.rect(1);
@@ -161,7 +130,7 @@ private Q_SLOTS:
         scope.paint(view);
         QVERIFY(scope.rect(scope.display.hoveredTrackId()).height() >= fullHeight());
         scope.display.setHovered(0);
-        scope.show({aircraft(1, {0, 0})});
+        scope.show({flightAt()});
         scope.paint(view, 30);
         QCOMPARE(counts.last()[0].toInt(), 0);
         // Switched off, all stand in full where they always did.

@@ -1,8 +1,7 @@
 #include "display/conflict_line_painter.h"
-#include "display/geo_track_display.h"
-#include "painted_view.h"
 #include "sensors/radar_sensor_info.h"
 #include "test_program.h"
+#include "track_scope.h"
 #include "tracking/conflict_geometry.h"
 
 #include <QTest>
@@ -17,20 +16,6 @@ const QColor AlertTextColor(1, 2, 3);
 const QColor CautionColor(255, 200, 0);
 const QColor GroundColor(0, 80, 0);
 
-TrackSnapshot aircraft(quint64 id, const QPointF &place)
-{
-    TrackSnapshot track;
-    track.incarnationId = id;
-    track.type = Track::Smr;
-    track.carCoordinate = place;
-    track.carCoordinateValid = true;
-    track.geoCoordinate = GeoCoordinate(place.y() / 111320.0, place.x() / 111320.0);
-    track.geoCoordinateValid = true;
-    track.callsign = QStringLiteral("ABC123");
-    track.callsignValid = true;
-    return track;
-}
-
 AlertSnapshot conflict(quint64 track1, quint64 track2)
 {
     AlertSnapshot alert;
@@ -43,43 +28,33 @@ AlertSnapshot conflict(quint64 track1, quint64 track2)
     return alert;
 }
 
-// A display with pure colours; 100 metres are a pixel.
-class Scope {
-public:
-    explicit Scope(Config::TrackLabelLayout layout = Config::TrackLabelLayout::Compact)
-    {
-        Config config;
-        config.trackLabelLayout = layout;
-        config.trackSymbolColor = SymbolColor;
-        config.trackLabelColor = config.trackLabelDetailColor = LabelColor;
-        config.trackLabelSelectedColor = SelectedColor;
-        config.trackLabelAlertColor = AlertColor;
-        config.trackLabelAlertTextColor = AlertTextColor;
-        config.trackCautionColor = CautionColor;
-        config.trackLabelBackgroundColor = GroundColor;
-        config.trackLabelBackgroundOpacity = 100;
-        display.applyConfig(config);
-        display.showVector(false);
-        display.showTrail(false);
-    }
+Config pureColors(Config::TrackLabelLayout layout)
+{
+    Config config;
+    config.trackLabelLayout = layout;
+    config.trackSymbolColor = SymbolColor;
+    config.trackLabelColor = config.trackLabelDetailColor = LabelColor;
+    config.trackLabelSelectedColor = SelectedColor;
+    config.trackLabelAlertColor = AlertColor;
+    config.trackLabelAlertTextColor = AlertTextColor;
+    config.trackCautionColor = CautionColor;
+    config.trackLabelBackgroundColor = GroundColor;
+    config.trackLabelBackgroundOpacity = 100;
+    return config;
+}
 
-    void show(const QList<TrackSnapshot> &tracks, const QList<AlertSnapshot> &alerts = {})
+// 100 metres are a pixel.
+class Scope : public TrackScope {
+public:
+    explicit Scope(Config::TrackLabelLayout layout = Config::TrackLabelLayout::Compact) : TrackScope(pureColors(layout))
     {
-        auto snapshot = QSharedPointer<DisplaySnapshot>::create();
-        snapshot->tracks = tracks;
-        snapshot->alerts = alerts;
-        display.setSnapshot(snapshot);
     }
 
     PaintedView painted(double rotation = 0.0, bool blinkOn = true)
     {
         display.setBlinkOn(blinkOn);
-        PaintedView view(100.0, {}, rotation);
-        view.paint([this](QPainter &painter, const GeoView &shown) { display.paint(&painter, shown); });
-        return view;
+        return TrackScope::painted(100.0, rotation);
     }
-
-    GeoTrackDisplay display;
 };
 
 } // namespace
@@ -119,7 +94,7 @@ void TestTrackSalience::headsBlinkUntilAcknowledged()
     QFETCH(Config::TrackLabelLayout, layout);
     QFETCH(bool, emergency);
     Scope scope(layout);
-    TrackSnapshot track = aircraft(1, {});
+    TrackSnapshot track = flightAt();
     if (emergency) {
         track.emergency = Track::RadioFailure;
         scope.show({track});
@@ -150,11 +125,11 @@ void TestTrackSalience::headsBlinkUntilAcknowledged()
 void TestTrackSalience::headsAreShownWithoutLabels()
 {
     Scope scope;
-    TrackSnapshot track = aircraft(1, {});
+    TrackSnapshot track = flightAt();
     track.alertsString = QStringLiteral("MSAW");
     scope.display.showLabel(false);
     const auto head = [&] {
-        scope.show({track, aircraft(2, {5000.0, -5000.0})});
+        scope.show({track, flightAt({5000.0, -5000.0}, 2)});
         return scope.painted().count(AlertTextColor);
     };
     QVERIFY(head() > 0);
@@ -169,8 +144,8 @@ void TestTrackSalience::conflictsAreJoined()
 {
     Scope scope;
     scope.display.showLabel(false);
-    const TrackSnapshot one = aircraft(1, {-15000.0, 0.0});
-    const TrackSnapshot other = aircraft(2, {15000.0, 0.0});
+    const TrackSnapshot one = flightAt({-15000.0, 0.0}, 1);
+    const TrackSnapshot other = flightAt({15000.0, 0.0}, 2);
     const auto joins = [&](double rotation) {
         // The text stands in the middle: the line is looked for beside it.
         const PaintedView view = scope.painted(rotation);
@@ -230,7 +205,7 @@ void TestTrackSalience::figuresOfConflictsStandFree()
     config.trackLabelAutoPlace = arranged;
     scope.display.applyConfig(config);
     const QList<TrackSnapshot> tracks{
-        aircraft(1, {-6000.0, -2000.0}), aircraft(2, {6000.0, 2000.0}), aircraft(3, between)};
+        flightAt({-6000.0, -2000.0}, 1), flightAt({6000.0, 2000.0}, 2), flightAt(between, 3)};
     scope.show(tracks, {conflict(1, 2)});
     for (int frame = 0; frame < 5; ++frame) {
         scope.painted();
@@ -275,7 +250,7 @@ void TestTrackSalience::arrowsPointToWhatIsOutside()
     QFETCH(QRect, edge);
     Scope scope;
     scope.display.showLabel(false);
-    TrackSnapshot track = aircraft(1, place);
+    TrackSnapshot track = flightAt(place);
     scope.show({track});
     QCOMPARE(scope.painted(rotation).count(AlertColor), 0);
     track.alertsString = QStringLiteral("STCA");
@@ -298,7 +273,7 @@ void TestTrackSalience::ringsTellSelectedAndHovered()
     for (const auto layout : {Config::TrackLabelLayout::Standard, Config::TrackLabelLayout::Compact}) {
         Scope scope(layout);
         scope.display.showLabel(false);
-        scope.show({aircraft(1, {-5000.0, 0.0}), aircraft(2, {5000.0, 0.0})});
+        scope.show({flightAt({-5000.0, 0.0}, 1), flightAt({5000.0, 0.0}, 2)});
         const int bare = scope.painted().ink();
         scope.display.setSelected(1);
         QVERIFY(scope.painted().count(SelectedColor) > 20);
@@ -319,7 +294,7 @@ void TestTrackSalience::coastingForTooLongNeedsALook()
     const auto caution = [&](int silence, bool known) {
         Scope scope;
         scope.display.setSensor(known ? sensor : QSharedPointer<RadarSensorInfo>());
-        TrackSnapshot track = aircraft(1, {});
+        TrackSnapshot track = flightAt();
         track.coasting = true;
         track.lastUpdate = heard;
         auto snapshot = QSharedPointer<DisplaySnapshot>::create();
@@ -337,12 +312,12 @@ void TestTrackSalience::noSymbolLiesOnTheTextOfAnAlert()
 {
     for (const auto layout : {Config::TrackLabelLayout::Standard, Config::TrackLabelLayout::Compact}) {
         Scope scope(layout);
-        TrackSnapshot track = aircraft(1, {});
+        TrackSnapshot track = flightAt();
         track.alertsString = QStringLiteral("STCA");
         scope.display.setLabelOffset(20, 40);
         scope.show({track});
         const PaintedView alone = scope.painted();
-        scope.show({track, aircraft(2, {4000.0, 2500.0})}); // in the middle of its label
+        scope.show({track, flightAt({4000.0, 2500.0}, 2)}); // in the middle of its label
         const PaintedView crowded = scope.painted();
         QVERIFY(crowded.count(SymbolColor) > alone.count(SymbolColor)); // the target is seen all the same
         for (int y = 150; y < 200; ++y) {

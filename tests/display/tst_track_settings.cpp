@@ -1,7 +1,5 @@
-#include "app/config.h"
-#include "display/geo_track_display.h"
-#include "painted_view.h"
 #include "test_program.h"
+#include "track_scope.h"
 
 #include <QTest>
 
@@ -32,25 +30,12 @@ Config darkConfig()
 
 PaintedView painted(const Config &config)
 {
-    TrackSnapshot track;
-    track.incarnationId = 1;
-    track.type = Track::Smr; // the small filled box
-    track.carCoordinateValid = true;
-    track.callsign = QStringLiteral("HHH");
-    auto snapshot = QSharedPointer<DisplaySnapshot>::create();
-    snapshot->tracks = {track, track, track};
-    snapshot->tracks[1].incarnationId = 2;
-    snapshot->tracks[1].carCoordinate = QPointF(0.0, 12000.0);
-    snapshot->tracks[2].incarnationId = 3;
-    snapshot->tracks[2].carCoordinate = QPointF(0.0, -12000.0);
-    snapshot->tracks[2].alertsString = QStringLiteral("HHHHHH");
-    GeoTrackDisplay display;
-    display.applyConfig(config);
-    display.setSelected(2);
-    display.setSnapshot(snapshot);
-    PaintedView view(100.0);
-    view.paint([&display](QPainter &painter, const GeoView &) { display.paint(&painter); });
-    return view;
+    TrackScope scope(config);
+    scope.display.setSelected(2);
+    QList<TrackSnapshot> tracks{flightAt(), flightAt({0.0, 12000.0}, 2), flightAt({0.0, -12000.0}, 3)};
+    tracks[2].alertsString = QStringLiteral("HHHHHH");
+    scope.show(tracks);
+    return scope.painted();
 }
 
 } // namespace

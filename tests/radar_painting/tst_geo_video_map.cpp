@@ -1,9 +1,5 @@
-#include "app/config.h"
-#include "geo/mercator_projector.h"
-#include "painted_view.h"
 #include "radar_painting/geo_video_map.h"
-#include "sensors/radar_sensor_info.h"
-#include "sensors/smr_sensor_info.h"
+#include "radar_scope.h"
 #include "test_program.h"
 
 #include <QSignalSpy>
@@ -16,15 +12,13 @@ using Radial = VideoProcessor::Radial;
 
 namespace {
 
-const GeoCoordinate Site(60.0, 25.0); // far enough north that the plane is twice as large as the ground
 constexpr double CellSize = 50.0;
 constexpr int Cells = 1000; // 27 nautical miles
 
 QSharedPointer<SensorInfo> radar(unsigned char sac, unsigned char sic, const GeoCoordinate &place = Site)
 {
-    auto sensor = QSharedPointer<RadarSensorInfo>::create();
+    const auto sensor = radarAt(place);
     sensor->setSacSic(sac, sic);
-    sensor->setLocation(place);
     return sensor;
 }
 
@@ -75,7 +69,7 @@ double metres(int cell)
 
 } // namespace
 
-class TestGeoVideoMap : public QObject {
+class TestGeoVideoMap : public QObject, private RadarScope<GeoVideoMap> {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -92,23 +86,9 @@ private Q_SLOTS:
     void survivesNonsense();
 
 private:
-    QPointF plane(const GeoCoordinate &place)
-    {
-        QPointF point;
-        m_projector.toCartesian(&point.rx(), &point.ry(), place.latitude(), place.longitude());
-        return point;
-    }
-
-    QPointF pixel(const PaintedView &view, double metresAway, double azimuth, const GeoCoordinate &from = Site)
-    {
-        return view.view().toScreen(plane(from.atDistanceAndAzimuth(metresAway, azimuth)));
-    }
-
     PaintedView painted(double groundMetresPerPixel, const QPointF &center, double rotation = 0.0)
     {
-        PaintedView view(groundMetresPerPixel * 2.0, center, rotation);
-        repaint(view);
-        return view;
+        return RadarScope::painted(groundMetresPerPixel * 2.0, center, rotation);
     }
 
     // How far a pixel lies inside the range of the radar.
@@ -123,27 +103,15 @@ private:
 
     // Everything around the site.
     PaintedView painted() { return painted(300.0, plane(Site)); }
-
-    void repaint(PaintedView &view)
-    {
-        view.paint([&](QPainter &painter, const GeoView &geoView) { m_layer->paint(painter, geoView); });
-    }
-
-    MercatorProjector m_projector;
-    std::unique_ptr<GeoVideoMap> m_layer;
-    Config m_config;
-    qint64 m_now = 0;
 };
 
 void TestGeoVideoMap::init()
 {
-    m_now = 1000;
     m_config = Config();
     m_config.mapVideoVisible = true;
     m_config.mapVideoHighColor = Qt::white;
     m_config.mapVideoLowColor = Qt::blue;
-    m_layer = std::make_unique<GeoVideoMap>(&m_projector);
-    m_layer->setClock([this] { return m_now; });
+    makeLayer(1000);
     m_layer->setSensor(radar(1, 2));
     m_layer->applyConfig(m_config);
 }

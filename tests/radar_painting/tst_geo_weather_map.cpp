@@ -1,9 +1,6 @@
-#include "app/config.h"
-#include "geo/mercator_projector.h"
-#include "painted_view.h"
 #include "radar_painting/geo_weather_map.h"
+#include "radar_scope.h"
 #include "sensors/adsb_sensor_info.h"
-#include "sensors/radar_sensor_info.h"
 #include "test_program.h"
 
 #include <QHash>
@@ -17,15 +14,6 @@ using Vector = WeatherProcessor::PolarVector;
 using Picture = WeatherProcessor::Picture;
 
 namespace {
-
-const GeoCoordinate Site(60.0, 25.0);
-
-QSharedPointer<SensorInfo> radar()
-{
-    auto sensor = QSharedPointer<RadarSensorInfo>::create();
-    sensor->setLocation(Site);
-    return sensor;
-}
 
 Picture picture(const QList<Vector> &vectors)
 {
@@ -41,7 +29,7 @@ QColor levelColor(int level)
 
 } // namespace
 
-class TestGeoWeatherMap : public QObject {
+class TestGeoWeatherMap : public QObject, private RadarScope<GeoWeatherMap> {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -57,34 +45,20 @@ private Q_SLOTS:
     void ignoresNonsense();
 
 private:
-    QPointF plane(const GeoCoordinate &place)
-    {
-        QPointF point;
-        m_projector.toCartesian(&point.rx(), &point.ry(), place.latitude(), place.longitude());
-        return point;
-    }
-
     QPoint pixel(const PaintedView &view, double miles, double azimuth)
     {
-        return view.view().toScreen(plane(Site.atDistanceAndAzimuth(miles * 1852.0, azimuth))).toPoint();
+        return RadarScope::pixel(view, miles * 1852.0, azimuth).toPoint();
     }
 
+    // Everything around the site.
     PaintedView painted(double metresPerPixel = 2500.0, double rotation = 0.0)
     {
-        PaintedView view(metresPerPixel, plane(Site), rotation);
-        view.paint([&](QPainter &painter, const GeoView &geoView) { m_layer->paint(painter, geoView); });
-        return view;
+        return RadarScope::painted(metresPerPixel, plane(Site), rotation);
     }
-
-    MercatorProjector m_projector;
-    std::unique_ptr<GeoWeatherMap> m_layer;
-    Config m_config;
-    qint64 m_now = 0;
 };
 
 void TestGeoWeatherMap::init()
 {
-    m_now = 0;
     m_config = Config();
     m_config.mapWeatherVisible = true;
     m_config.mapWeatherOpacity = 255;
@@ -94,9 +68,8 @@ void TestGeoWeatherMap::init()
     for (int level = 0; level < GeoWeatherMap::LevelCount; ++level) {
         m_config.mapWeatherColor[level] = levelColor(level);
     }
-    m_layer = std::make_unique<GeoWeatherMap>(&m_projector);
-    m_layer->setClock([this] { return m_now; });
-    m_layer->setSensor(radar());
+    makeLayer(0);
+    m_layer->setSensor(radarAt(Site));
     m_layer->applyConfig(m_config);
 }
 
@@ -200,8 +173,7 @@ void TestGeoWeatherMap::hiddenLevelsAreHatched()
     const PaintedView hatched = painted();
     QVERIFY(hatched.count(levelColor(3)) > filled / 20 && hatched.ink() < filled / 4);
     // It lies on the ground: a view that has moved shows the same lines elsewhere.
-    PaintedView moved(2500.0, plane(Site) + QPointF(3 * 2500.0, -2 * 2500.0));
-    moved.paint([&](QPainter &painter, const GeoView &view) { m_layer->paint(painter, view); });
+    const PaintedView moved = RadarScope::painted(2500.0, plane(Site) + QPointF(3 * 2500.0, -2 * 2500.0));
     QCOMPARE(moved.image().copy(50, 50, 300, 300), hatched.image().copy(53, 52, 300, 300));
 }
 
@@ -211,9 +183,7 @@ void TestGeoWeatherMap::movesWithTheView()
     m_layer->setPicture(picture({{1, 0.0, 90.0, 45.0}, {3, 20.0, 100.0, 135.0}, {5, 30.0, 120.0, 290.0}}));
     m_layer->setLevelVisible(3, false); // hatched
     const auto paintedAt = [this](const QPointF &pixels) {
-        PaintedView view(2500.0, plane(Site) + pixels * 2500.0);
-        view.paint([&](QPainter &painter, const GeoView &shown) { m_layer->paint(painter, shown); });
-        return view.image();
+        return RadarScope::painted(2500.0, plane(Site) + pixels * 2500.0).image();
     };
     for (const QPointF pixels : {QPointF(0, 0), QPointF(9, -5), QPointF(75, -5), QPointF(40, 120), QPointF(-300, 90)}) {
         const QImage moved = paintedAt(pixels);
@@ -277,7 +247,7 @@ void TestGeoWeatherMap::picturesComeAndGo()
         QCOMPARE(painted().ink(), 0);
     }
     QCOMPARE(m_layer->placelessPictures(), quint64(2));
-    m_layer->setSensor(radar());
+    m_layer->setSensor(radarAt(Site));
     m_layer->setPicture(some);
     QVERIFY(painted().ink() > 0);
 }
