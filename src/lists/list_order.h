@@ -26,7 +26,6 @@ public:
     void arrange();
     // Arranges, held or not: it is asked for by the operator. A column of -1: as they came.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
-    int sortColumn() const { return m_column; }
 
     QModelIndex mapToSource(const QModelIndex &proxy) const override;
     QModelIndex mapFromSource(const QModelIndex &source) const override;

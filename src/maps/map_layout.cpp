@@ -129,11 +129,11 @@ void MapLayout::removeLayout(const QString &name)
     m_layouts.remove(name);
 }
 
-void MapLayout::saveCurrentView(const QString &name)
+void MapLayout::saveCurrentView(const QString &name, bool makeCurrent)
 {
     QTransform transform;
     Q_EMIT saveViewport(transform);
-    addLayout(name, transform, true);
+    addLayout(name, transform, makeCurrent);
 }
 
 void MapLayout::setCurrentLayout(const QString &name)

@@ -25,8 +25,8 @@ public:
     // Adds or replaces; a layout without a name or named "default" is ignored.
     void addLayout(const QString &name, const QTransform &transform, bool makeCurrent);
     void removeLayout(const QString &name);
-    // Keeps what saveViewport() yields under the name and makes it current.
-    void saveCurrentView(const QString &name);
+    // Keeps what saveViewport() yields under the name.
+    void saveCurrentView(const QString &name, bool makeCurrent);
 
     // In ascending order, without "default".
     QStringList layoutNames() const { return m_layouts.keys(); }

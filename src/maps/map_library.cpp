@@ -181,11 +181,6 @@ void MapLibrary::revertIndex()
     readIndex();
 }
 
-bool MapLibrary::saveIndex(QString *error)
-{
-    return saveIndexAs(d->indexFile, error);
-}
-
 bool MapLibrary::saveIndexAs(const QString &fileName, QString *error)
 {
     const QFileInfo target(fileName);

@@ -42,10 +42,8 @@ public:
     // Forgets all maps and begins to load those of the index. The error is reported by message().
     void openIndex(const QString &fileName);
     QString indexFile() const;
-    // Writes the index whole; the reason of a failure is in the error, which may be null.
-    bool saveIndex(QString *error);
-    // The same to another file, which becomes the index. Files that are not below its folder are named by absolute
-    // paths.
+    // Writes the index whole to the file, which is the index from then on; files that are not below its folder are
+    // named by absolute paths. The reason of a failure is in the error, which may be null.
     bool saveIndexAs(const QString &fileName, QString *error);
     bool modified() const; // since the index was read or written
     // Back to what is in the file; maps that it names stay loaded.

@@ -55,9 +55,7 @@ void TrackLabelFormatWindow::updatePreview()
 
 void TrackLabelFormatWindow::apply()
 {
-    const TrackDisplayFormat entered = format();
-    entered.applyTo(*m_display);
-    Q_EMIT formatApplied(entered);
+    format().applyTo(*m_display);
 }
 
 void TrackLabelFormatWindow::accept()

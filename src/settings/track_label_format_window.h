@@ -26,9 +26,6 @@ public:
     void apply();
     void accept() override;
 
-Q_SIGNALS:
-    void formatApplied(const TrackDisplayFormat &format);
-
 private:
     void updatePreview();
 

@@ -91,7 +91,6 @@ public:
     void setModeACodeSmoothed(bool smoothed);
     void setModeACodeGarbled(bool garbled);
     // A code that the sensor has not validated stands for no emergency. True at first.
-    bool modeACodeValidated() const { return m_modeACodeValidated; }
     void setModeACodeValidated(bool validated) { m_modeACodeValidated = validated; }
     // Four octal digits, then "G" when garbled, then "S" when smoothed; "----" when not valid.
     QString modeAString() const { return m_modeAString; }

@@ -123,9 +123,7 @@ void LayoutMenu::askForName()
         window->setName(m_layouts.currentLayoutName());
     }
     connect(window, &LayoutSaveWindow::layoutNamed, this, [this](const QString &name, bool makeCurrent) {
-        QTransform view;
-        m_plan->saveViewport(view);
-        m_layouts.addLayout(name, view, makeCurrent);
+        m_layouts.saveCurrentView(name, makeCurrent);
         save();
     });
     window->open();

@@ -44,7 +44,6 @@ public:
     QLabel *rotation() const { return m_rotation; }
     QLabel *localClock() const { return m_localClock; }
     QLabel *utcClock() const { return m_utcClock; }
-    QLabel *netsMark() const { return m_netsMark; }
     // MSAW, APW, STCA.
     QLabel *alertIndicator(int index) const { return m_alerts.at(static_cast<std::size_t>(index)); }
 

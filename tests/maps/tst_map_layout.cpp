@@ -80,10 +80,12 @@ private Q_SLOTS:
         QCOMPARE(layout.defaultlayout(), QTransform(0.00302231, 0, 0, 0.00302231, -3.02231, 6.04462));
         connect(&layout, &MapLayout::saveViewport, this, [](QTransform &view) { view.translate(4, 5); });
         for (const char *ignored : {"", "default"}) {
-            layout.saveCurrentView(ignored);
+            layout.saveCurrentView(ignored, true);
         }
         QVERIFY(layout.layoutNames().isEmpty());
-        layout.saveCurrentView("kept");
+        layout.saveCurrentView("kept", false);
+        QCOMPARE(layout.currentLayout(), layout.defaultlayout());
+        layout.saveCurrentView("kept", true);
         QCOMPARE(layout.currentLayout(), QTransform::fromTranslate(4, 5));
         layout.removeLayout("kept");
         QCOMPARE(layout.currentLayout(), layout.defaultlayout());

@@ -5,7 +5,6 @@
 #include "test_program.h"
 
 #include <QImage>
-#include <QSignalSpy>
 #include <QSpinBox>
 #include <QStandardPaths>
 #include <QTest>
@@ -126,13 +125,11 @@ void TestTrackDisplayFormat::windowChangesTheDisplayOnlyWhenApplied()
     GeoTrackDisplay display;
     display.setTrailDots(20);
     TrackLabelFormatWindow window(&display);
-    const QSignalSpy applied(&window, &TrackLabelFormatWindow::formatApplied);
     auto *dots = window.findChild<QSpinBox *>(QStringLiteral("trailDots"));
     dots->setValue(3);
     QCOMPARE(display.trailDots(), 20);
     window.apply();
     QCOMPARE(display.trailDots(), 3);
-    QCOMPARE(applied.size(), 1);
     dots->setValue(4);
     window.reject();
     QCOMPARE(display.trailDots(), 3);

@@ -11,8 +11,6 @@ public:
     // database is not being loaded.
     ICAOAddrInfo getICAOAddrInfo(const ICAOAddr &address) const;
 
-    int aircraftCount() const;
-
 private:
     friend class LibAirDB;
     std::shared_ptr<const Tables> m_tables;
