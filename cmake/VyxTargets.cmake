@@ -94,11 +94,15 @@ function(vyx_test_folder folder)
     endforeach()
 endfunction()
 
-# vyx_bench(<name> LINKS <targets> [PCH kind]): <name>.cpp in the current folder becomes a Google Benchmark program that
-# the target "bench" runs.
+# vyx_bench(<name> LINKS <targets> [PCH kind] [APPLICATION]): <name>.cpp in the current folder becomes a
+# Google Benchmark program that the target "bench" runs; its main() is its own, or one that makes an application first.
 function(vyx_bench name)
-    cmake_parse_arguments(ARG "" "PCH" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "APPLICATION" "PCH" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
+    if(ARG_APPLICATION)
+        target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/bench/bench_program.cpp)
+    endif()
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/bench)
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} benchmark::benchmark)
     vyx_use_pch(${name} "${ARG_PCH}")
     set_property(GLOBAL APPEND PROPERTY VYX_BENCHES ${name})

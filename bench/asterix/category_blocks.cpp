@@ -1,8 +1,8 @@
 #include "category_blocks.h"
 
 #include "asterix/encoder.h"
+#include "random.h"
 
-#include <random>
 #include <string>
 
 namespace {
@@ -13,15 +13,6 @@ constexpr unsigned Seed = 20240602;
 constexpr std::size_t RecordsPerBlock = 10;
 constexpr int WeatherVectors = 60;
 constexpr std::size_t VideoCells = 1000;
-
-class Random {
-public:
-    double real(double low, double high) { return std::uniform_real_distribution<double>(low, high)(m_engine); }
-    unsigned whole(unsigned limit) { return std::uniform_int_distribution<unsigned>(0, limit - 1)(m_engine); }
-
-private:
-    std::mt19937 m_engine{Seed};
-};
 
 void addMode3A(BlockEncoder &encoder, const char *path, Random &random)
 {
@@ -161,7 +152,7 @@ constexpr Sample Samples[] = {
 SampleBlocks makeCategoryBlocks(int category, const char *edition, std::size_t records)
 {
     SampleBlocks out;
-    Random random;
+    Random random(Seed);
     BlockEncoder encoder(category, edition);
     for (const Sample &sample : Samples) {
         while (sample.category == category && out.records < records) {

@@ -1,8 +1,8 @@
 #include "sample_blocks.h"
 
 #include "asterix/encoder.h"
+#include "random.h"
 
-#include <random>
 #include <string>
 
 namespace {
@@ -12,15 +12,6 @@ using korvane::asterix::BlockEncoder;
 constexpr unsigned Seed = 20240601;
 constexpr std::size_t PlotsPerBlock = 10;
 constexpr std::size_t TracksPerBlock = 12;
-
-class Random {
-public:
-    double real(double low, double high) { return std::uniform_real_distribution<double>(low, high)(m_engine); }
-    unsigned whole(unsigned limit) { return std::uniform_int_distribution<unsigned>(0, limit - 1)(m_engine); }
-
-private:
-    std::mt19937 m_engine{Seed};
-};
 
 void append(SampleBlocks &out, const BlockEncoder &encoder)
 {
@@ -98,7 +89,7 @@ void addTrack(BlockEncoder &encoder, Random &random, double time)
 SampleBlocks makePlotBlocks(std::size_t records)
 {
     SampleBlocks out;
-    Random random;
+    Random random(Seed);
     BlockEncoder sectors(34);
     BlockEncoder plots(48);
     double time = 36000;
@@ -117,7 +108,7 @@ SampleBlocks makePlotBlocks(std::size_t records)
 SampleBlocks makeTrackBlocks(std::size_t records)
 {
     SampleBlocks out;
-    Random random;
+    Random random(Seed);
     BlockEncoder tracks(62);
     double time = 36000;
     while (out.records < records) {

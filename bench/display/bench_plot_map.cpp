@@ -6,7 +6,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 
@@ -68,11 +67,3 @@ BENCHMARK(paintPlots)
     ->Args({20000, 100, 20})
     ->Args({240000, 100, 0})
     ->Unit(benchmark::kMillisecond);
-
-int main(int argc, char **argv)
-{
-    QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -4,7 +4,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 
@@ -142,11 +141,3 @@ void paintNewSnapshots(benchmark::State &state)
 BENCHMARK(paintSameSnapshot)->Arg(200)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(paintCompact)->Arg(200)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(paintNewSnapshots)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
-
-int main(int argc, char **argv)
-{
-    QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -1,12 +1,8 @@
+#include "bench_screen.h"
 #include "geo/mercator_projector.h"
 #include "map_painting/geo_static_map.h"
-#include "view/geo_view.h"
 
 #include <benchmark/benchmark.h>
-
-#include <QGuiApplication>
-#include <QImage>
-#include <QPainter>
 
 #include <cmath>
 #include <random>
@@ -115,31 +111,17 @@ public:
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         }
         const GeoCoordinate middle = metresPerPixel > 5000.0 ? GeoCoordinate(0.0, 0.0) : Site;
-        double x = 0.0;
-        double y = 0.0;
-        m_projector.toCartesian(&x, &y, middle.latitude(), middle.longitude());
-        m_toScreen.translate(Screen.width() / 2.0, Screen.height() / 2.0);
-        m_toScreen.scale(1.0 / metresPerPixel, -1.0 / metresPerPixel);
-        m_toScreen.translate(-x, -y);
-        m_image.fill(QColor(20, 24, 28));
+        m_screen.lookAt(m_projector.toCartesian(middle.latitude(), middle.longitude()), metresPerPixel);
         paint();
     }
 
-    const QImage &image() const { return m_image; }
-    void pan(double pixels) { m_toScreen *= QTransform::fromTranslate(pixels, 0.0); }
-
-    void paint()
-    {
-        QPainter painter(&m_image);
-        painter.setWorldTransform(m_toScreen);
-        m_layer.paint(painter, GeoView(m_toScreen, Screen));
-    }
+    void pan(double pixels) { m_screen.pan(pixels); }
+    void paint() { m_screen.paint(m_layer); }
 
 private:
     MercatorProjector m_projector;
     GeoStaticMap m_layer;
-    QTransform m_toScreen;
-    QImage m_image{Screen, QImage::Format_ARGB32_Premultiplied};
+    BenchScreen m_screen{Screen};
 };
 
 void prepareMap(benchmark::State &state)
@@ -159,27 +141,16 @@ void paintSameView(benchmark::State &state)
     }
 }
 
-// Half a pixel: nothing of the picture can be kept.
 void paintNewView(benchmark::State &state)
 {
     Scope scope(double(state.range(0)), Qt::PenStyle(state.range(1)), int(state.range(2)));
-    double shift = 0.5;
-    for (auto _ : state) {
-        scope.pan(shift);
-        shift = -shift;
-        scope.paint();
-    }
+    paintPanned(state, scope, 0.5);
 }
 
 void paintWhilePanning(benchmark::State &state)
 {
     Scope scope(double(state.range(0)));
-    double shift = 7.0;
-    for (auto _ : state) {
-        scope.pan(shift);
-        shift = -shift;
-        scope.paint();
-    }
+    paintPanned(state, scope, 7.0);
 }
 
 } // namespace
@@ -193,11 +164,3 @@ BENCHMARK(paintNewView)
     ->ArgsProduct({{2000, 500}, {int(Qt::SolidLine), int(Qt::DashLine)}, {2}})
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(paintWhilePanning)->ArgName("metresPerPixel")->Arg(14000)->Arg(100)->Unit(benchmark::kMillisecond);
-
-int main(int argc, char **argv)
-{
-    QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

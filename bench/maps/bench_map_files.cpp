@@ -1,7 +1,6 @@
 #include "maps/map_file.h"
 
 #include <benchmark/benchmark.h>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 
 // A map of a million points to and from the disk, in lines of the length given.
@@ -67,10 +66,3 @@ BENCHMARK_CAPTURE(writes, xml, MapFile::Xml)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(writes, binary, MapFile::Map)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char *argv[])
-{
-    QGuiApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

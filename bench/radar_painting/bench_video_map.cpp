@@ -1,15 +1,11 @@
 #include "app/config.h"
+#include "bench_screen.h"
 #include "geo/mercator_projector.h"
 #include "radar_painting/geo_video_map.h"
 #include "radar_scene.h"
 #include "sensors/radar_sensor_info.h"
-#include "view/geo_view.h"
 
 #include <benchmark/benchmark.h>
-
-#include <QGuiApplication>
-#include <QImage>
-#include <QPainter>
 
 #include <vector>
 
@@ -20,6 +16,7 @@ constexpr int Radials = 4096;
 constexpr int Cells = 2048;
 constexpr double Range = 60.0 * 1852.0; // metres
 constexpr int FramesASecond = 5;
+constexpr double CosineOfLatitude = 0.669;
 
 // A video layer on a screen, with a clock driven by hand, and a revolution of video in the batches of a second.
 class Scope {
@@ -39,25 +36,13 @@ public:
         for (int i = 0; i < FramesASecond; ++i) {
             m_batches.push_back(scene.next((Radials + FramesASecond - 1) / FramesASecond));
         }
-        double x = 0.0;
-        double y = 0.0;
-        m_projector.toCartesian(&x, &y, site.latitude(), site.longitude());
-        const double scale = 0.669 / groundMetresPerPixel; // cosine of the latitude
-        m_toScreen.translate(Screen.width() / 2.0, Screen.height() / 2.0);
-        m_toScreen.scale(scale, -scale);
-        m_toScreen.translate(-x - siteShift, -y);
-        m_image.fill(QColor(173, 173, 173));
+        m_screen.lookAt(m_projector.toCartesian(site.latitude(), site.longitude()) + QPointF(siteShift, 0.0),
+            groundMetresPerPixel / CosineOfLatitude);
         turn();
     }
 
-    void pan(double pixels) { m_toScreen *= QTransform::fromTranslate(pixels, 0.0); }
-
-    void paint()
-    {
-        QPainter painter(&m_image);
-        painter.setWorldTransform(m_toScreen);
-        m_layer.paint(painter, GeoView(m_toScreen, Screen));
-    }
+    void pan(double pixels) { m_screen.pan(pixels); }
+    void paint() { m_screen.paint(m_layer); }
 
     // A revolution of one second.
     void turn()
@@ -76,8 +61,7 @@ private:
     qint64 m_now = 0;
     GeoVideoMap m_layer;
     std::vector<QSharedPointer<const VideoBatch>> m_batches;
-    QTransform m_toScreen;
-    QImage m_image{Screen, QImage::Format_ARGB32_Premultiplied};
+    BenchScreen m_screen{Screen};
 };
 
 // The time of an iteration is what one revolution costs; a revolution takes a second.
@@ -101,12 +85,7 @@ void turnAtOneMile(benchmark::State &state)
 void paintNewView(benchmark::State &state)
 {
     Scope scope(2.0 * Range / Screen.height());
-    double shift = 3.0;
-    for (auto _ : state) {
-        scope.pan(shift);
-        shift = -shift;
-        scope.paint();
-    }
+    paintPanned(state, scope, 3.0);
 }
 
 } // namespace
@@ -114,11 +93,3 @@ void paintNewView(benchmark::State &state)
 BENCHMARK(turnAtFullRange)->Unit(benchmark::kMillisecond);
 BENCHMARK(turnAtOneMile)->ArgName("milesFromSite")->Arg(0)->Arg(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(paintNewView)->Unit(benchmark::kMillisecond);
-
-int main(int argc, char **argv)
-{
-    QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -1,15 +1,13 @@
 #include "app/config.h"
+#include "bench_screen.h"
 #include "geo/mercator_projector.h"
 #include "tile_painting/geo_tile_map.h"
 #include "tile_painting/tile_plane.h"
-#include "view/geo_view.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
 #include <QHash>
 #include <QImage>
-#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
@@ -51,10 +49,7 @@ public:
         m_layer.setSource(source);
         MercatorProjector projector;
         const QPointF middle = projector.toCartesian(48.0, 16.0);
-        m_toScreen.translate(Screen.width() / 2.0, Screen.height() / 2.0);
-        m_toScreen.rotate(rotation);
-        m_toScreen.scale(1.0 / MetresPerPixel, -1.0 / MetresPerPixel);
-        m_toScreen.translate(-middle.x(), -middle.y());
+        m_screen.lookAt(middle, MetresPerPixel, rotation);
         paint();
         for (int i = 0; i < 50; ++i) { // what is toned in the background
             QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
@@ -62,25 +57,15 @@ public:
         }
     }
 
-    void pan(double pixels) { m_toScreen *= QTransform::fromTranslate(pixels, 0.0); }
+    void pan(double pixels) { m_screen.pan(pixels); }
+    void paint() { m_screen.paint(m_layer); }
     void comeTiles() { m_layer.tilesChanged(); }
-    int tiles() const
-    {
-        return int(TilePlane::covering(m_toScreen.inverted().mapRect(QRectF(QPointF(), Screen)), Level).count());
-    }
-
-    void paint()
-    {
-        QPainter painter(&m_image);
-        painter.setWorldTransform(m_toScreen);
-        m_layer.paint(painter, GeoView(m_toScreen, Screen));
-    }
+    int tiles() const { return int(TilePlane::covering(m_screen.planeRect(), Level).count()); }
 
 private:
     QHash<TileIndex, QImage> m_tiles;
     GeoTileMap m_layer;
-    QTransform m_toScreen;
-    QImage m_image{Screen, QImage::Format_ARGB32_Premultiplied};
+    BenchScreen m_screen{Screen};
 };
 
 void unchangedView(benchmark::State &state)
@@ -92,28 +77,17 @@ void unchangedView(benchmark::State &state)
     }
 }
 
-// Half a pixel: nothing of the picture can be kept.
 void newView(benchmark::State &state)
 {
     TileScope scope(double(state.range(0)), int(state.range(1)));
     state.counters["tiles"] = scope.tiles();
-    double shift = 0.5;
-    for (auto _ : state) {
-        scope.pan(shift);
-        shift = -shift;
-        scope.paint();
-    }
+    paintPanned(state, scope, 0.5);
 }
 
 void pannedView(benchmark::State &state)
 {
     TileScope scope(double(state.range(0)), 40);
-    double shift = 7.0;
-    for (auto _ : state) {
-        scope.pan(shift);
-        shift = -shift;
-        scope.paint();
-    }
+    paintPanned(state, scope, 7.0);
 }
 
 // Tiles have come for elsewhere.
@@ -149,11 +123,3 @@ BENCHMARK(newView)
 BENCHMARK(pannedView)->ArgName("rotation")->Arg(0)->Arg(30)->Unit(benchmark::kMillisecond);
 BENCHMARK(checkedView)->Unit(benchmark::kMillisecond);
 BENCHMARK(toneATile)->Unit(benchmark::kMicrosecond);
-
-int main(int argc, char **argv)
-{
-    QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

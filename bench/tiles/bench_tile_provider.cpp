@@ -5,7 +5,6 @@
 
 #include <benchmark/benchmark.h>
 #include <QElapsedTimer>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -147,11 +146,3 @@ BENCHMARK(viewFromService)->Iterations(200)->Unit(benchmark::kMillisecond);
 BENCHMARK(viewFromFiles)->Iterations(200)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char *argv[])
-{
-    QGuiApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -3,7 +3,6 @@
 #include "tracking/radar_tracker.h"
 
 #include <benchmark/benchmark.h>
-#include <QCoreApplication>
 
 #include <vector>
 
@@ -123,10 +122,3 @@ BENCHMARK(radarReport)->ArgName("aircraft")->Arg(200)->Arg(4000);
 } // namespace
 
 // The track manager's timer wants an application on its thread.
-int main(int argc, char **argv)
-{
-    const QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -6,8 +6,6 @@
 
 #include "window_frames.h"
 
-#include "app/app_identity.h"
-#include "app/app_paths.h"
 #include "app/theme_library.h"
 #include "demonstration/demo_traffic.h"
 #include "display/geo_map_display.h"
@@ -17,8 +15,6 @@
 #include "ui/main_window.h"
 #include "ui/theme_menu.h"
 
-#include <QApplication>
-#include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QThread>
@@ -152,18 +148,13 @@ int run(const QString &scenario, const QStringList &themeNames, double seconds, 
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
-    setApplicationIdentity();
-    AppPaths::setProfile("panning");
-    QCommandLineParser parser;
-    parser.addHelpOption();
-    parser.addOptions({
-        {"scenario", "Scenario to play (busy).", "NAME", "busy"},
-        {"themes", "Separated by commas (Night,Classic).", "NAMES", "Night,Classic"},
-        {"seconds", "How long each drag lasts (10).", "S", "10"},
-        {"settling", "Seconds in which tracks come up first (40).", "S", "40"},
-    });
-    parser.process(application);
-    return run(parser.value("scenario"), parser.value("themes").split(','), parser.value("seconds").toDouble(),
-        parser.value("settling").toInt());
+    const WindowProgram program(argc, argv, "panning",
+        {
+            {"scenario", "Scenario to play (busy).", "NAME", "busy"},
+            {"themes", "Separated by commas (Night,Classic).", "NAMES", "Night,Classic"},
+            {"seconds", "How long each drag lasts (10).", "S", "10"},
+            {"settling", "Seconds in which tracks come up first (40).", "S", "40"},
+        });
+    return run(program.text("scenario"), program.text("themes").split(','), program.number("seconds"),
+        program.number("settling"));
 }

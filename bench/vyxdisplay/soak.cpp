@@ -3,14 +3,12 @@
 // window did not answer. The last lines allow to compare what was sent with what was received. Exit status 1 when
 // memory grew by more than 5 % after the first five minutes, or when the window was held up for more than 200 ms.
 
-#include "app/app_identity.h"
-#include "app/app_paths.h"
+#include "window_frames.h"
+
 #include "demonstration/demo_traffic.h"
 #include "engine/data_engine.h"
 #include "ui/main_window.h"
 
-#include <QApplication>
-#include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
@@ -148,16 +146,11 @@ int run(const Soak &soak)
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
-    setApplicationIdentity();
-    AppPaths::setProfile("soak");
-    QCommandLineParser parser;
-    parser.addHelpOption();
-    parser.addOptions({
-        {"scenario", "Scenario to play (busy).", "NAME", "busy"},
-        {"speed", "Times real time (8).", "F", "8"},
-        {"minutes", "How long (30).", "N", "30"},
-    });
-    parser.process(application);
-    return run({parser.value("scenario"), parser.value("speed"), std::max(1, parser.value("minutes").toInt())});
+    const WindowProgram program(argc, argv, "soak",
+        {
+            {"scenario", "Scenario to play (busy).", "NAME", "busy"},
+            {"speed", "Times real time (8).", "F", "8"},
+            {"minutes", "How long (30).", "N", "30"},
+        });
+    return run({program.text("scenario"), program.text("speed"), std::max(1, program.number("minutes"))});
 }

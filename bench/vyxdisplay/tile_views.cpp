@@ -5,14 +5,11 @@
 
 #include "window_frames.h"
 
-#include "app/app_identity.h"
-#include "app/app_paths.h"
 #include "display/geo_map_display.h"
 #include "orientation/geo_range_ring_map.h"
 #include "plan_view/geo_widget.h"
 #include "tile_server.h"
 
-#include <QCommandLineParser>
 #include <QSemaphore>
 
 #include <cmath>
@@ -115,18 +112,13 @@ int run(const QSize &size, int views, int latency)
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
-    setApplicationIdentity();
-    AppPaths::setProfile("tile-views");
-    QCommandLineParser parser;
-    parser.addHelpOption();
-    parser.addOptions({
-        {"views", "How many (200).", "N", "200"},
-        {"latency", "Of the server, milliseconds (50).", "MS", "50"},
-        {"width", "Of the window (1920).", "PIXELS", "1920"},
-        {"height", "Of the window (1080).", "PIXELS", "1080"},
-    });
-    parser.process(application);
-    return run(QSize(parser.value("width").toInt(), parser.value("height").toInt()), parser.value("views").toInt(),
-        parser.value("latency").toInt());
+    const WindowProgram program(argc, argv, "tile-views",
+        {
+            {"views", "How many (200).", "N", "200"},
+            {"latency", "Of the server, milliseconds (50).", "MS", "50"},
+            {"width", "Of the window (1920).", "PIXELS", "1920"},
+            {"height", "Of the window (1080).", "PIXELS", "1080"},
+        });
+    return run(
+        QSize(program.number("width"), program.number("height")), program.number("views"), program.number("latency"));
 }

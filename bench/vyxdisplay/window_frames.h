@@ -2,15 +2,39 @@
 
 // What the programs that drive the terminal's window by hand share.
 
+#include "app/app_identity.h"
+#include "app/app_paths.h"
 #include "ui/main_window.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QThread>
 
 #include <algorithm>
 #include <ctime>
 #include <vector>
+
+// A program that drives the window with settings of its own, and what it was told on its command line.
+class WindowProgram {
+public:
+    WindowProgram(int &argc, char *argv[], const QString &profile, const QList<QCommandLineOption> &options)
+        : m_application(argc, argv)
+    {
+        setApplicationIdentity();
+        AppPaths::setProfile(profile);
+        m_options.addHelpOption();
+        m_options.addOptions(options);
+        m_options.process(m_application);
+    }
+
+    QString text(const QString &option) const { return m_options.value(option); }
+    int number(const QString &option) const { return text(option).toInt(); }
+
+private:
+    QApplication m_application;
+    QCommandLineParser m_options;
+};
 
 inline constexpr double FrameMs = 1000.0 / 60.0;
 
