@@ -1,28 +1,8 @@
 #include "vyx-modes/decode_command.h"
 
-#include <cerrno>
 #include <unistd.h>
 
 namespace {
-
-bool writeAll(int descriptor, std::string_view text)
-{
-    while (!text.empty()) {
-        const ssize_t written = ::write(descriptor, text.data(), text.size());
-        if (written < 0 && errno != EINTR) {
-            return false;
-        }
-        if (written > 0) {
-            text.remove_prefix(static_cast<std::size_t>(written));
-        }
-    }
-    return true;
-}
-
-void printLine(std::string_view line)
-{
-    writeAll(STDERR_FILENO, std::string(line) + '\n');
-}
 
 int run(const CommandLine &command)
 {
