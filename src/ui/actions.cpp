@@ -1,9 +1,9 @@
 #include "ui/actions.h"
 
 #include "widgets/action_icon.h"
+#include "widgets/resize_watch.h"
 
 #include <QAction>
-#include <QEvent>
 #include <QKeySequence>
 #include <QMainWindow>
 #include <QMenu>
@@ -226,7 +226,7 @@ Actions::Actions(QMainWindow *window) : QObject(window), m_window(window)
         makeAction(spec, window);
     }
     updateIcons();
-    window->installEventFilter(this);
+    new ResizeWatch(window, this, [this] { fitToolBars(); });
 }
 
 void Actions::makeMenus(QMainWindow *window)
@@ -338,14 +338,6 @@ void Actions::fitToolBars()
     for (QToolBar *bar : m_toolBars) {
         bar->setToolButtonStyle(shown ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
     }
-}
-
-bool Actions::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_window && event->type() == QEvent::Resize) {
-        fitToolBars();
-    }
-    return QObject::eventFilter(watched, event);
 }
 
 void Actions::updateIcons()

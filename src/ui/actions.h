@@ -133,9 +133,6 @@ public:
     // Draws the icons anew in the colours of the window's palette.
     void updateIcons();
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     void measureToolBars();
     void fitToolBars();

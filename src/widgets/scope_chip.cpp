@@ -1,6 +1,6 @@
 #include "widgets/scope_chip.h"
 
-#include <QEvent>
+#include "widgets/resize_watch.h"
 
 #include <algorithm>
 
@@ -15,7 +15,7 @@ ScopeChip::ScopeChip(QWidget *scope, int row) : QLabel(scope), m_row(row)
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignCenter);
     setStyleSheet("color: white; background-color: rgba(32, 36, 40, 190); padding: 3px 9px; border-radius: 9px");
-    scope->installEventFilter(this);
+    new ResizeWatch(scope, this, [this] { place(); });
     hide();
 }
 
@@ -27,14 +27,6 @@ void ScopeChip::showText(const QString &text)
     setText(text);
     setVisible(!text.isEmpty());
     place();
-}
-
-bool ScopeChip::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::Resize) {
-        place();
-    }
-    return QLabel::eventFilter(watched, event);
 }
 
 void ScopeChip::place()

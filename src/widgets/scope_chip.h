@@ -13,9 +13,6 @@ public:
 
     void showText(const QString &text);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     void place();
 

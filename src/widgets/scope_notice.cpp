@@ -1,6 +1,6 @@
 #include "widgets/scope_notice.h"
 
-#include <QEvent>
+#include "widgets/resize_watch.h"
 
 namespace {
 constexpr int DistanceFromTop = 16;
@@ -10,7 +10,7 @@ ScopeNotice::ScopeNotice(QWidget *scope) : QLabel(scope)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAlignment(Qt::AlignCenter);
-    scope->installEventFilter(this);
+    new ResizeWatch(scope, this, [this] { place(); });
     hide();
 }
 
@@ -35,14 +35,6 @@ void ScopeNotice::show(Urgency urgency, Qt::TextFormat format, const QString &te
     setText(text);
     setVisible(!text.isEmpty());
     place();
-}
-
-bool ScopeNotice::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::Resize) {
-        place();
-    }
-    return QLabel::eventFilter(watched, event);
 }
 
 void ScopeNotice::place()

@@ -16,9 +16,6 @@ public:
     // A headline in large letters over a text, on a ground of its urgency.
     void showWarning(Urgency urgency, const QString &headline, const QString &text);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     void show(Urgency urgency, Qt::TextFormat format, const QString &text);
     void place();

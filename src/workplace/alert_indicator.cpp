@@ -1,8 +1,8 @@
 #include "workplace/alert_indicator.h"
 
+#include "widgets/resize_watch.h"
 #include "widgets/urgency.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 
 namespace {
@@ -41,7 +41,7 @@ AlertIndicator::AlertIndicator(QWidget *scope) : QWidget(scope), m_asking(new QL
     }
     dress(m_asking, urgencyStyle(Urgency::Alarm) + QStringLiteral("; padding: 2px 6px; font-weight: bold"));
     showAlerts({}, 0);
-    scope->installEventFilter(this);
+    new ResizeWatch(scope, this, [this] { place(); });
     hide();
 }
 
@@ -53,14 +53,6 @@ void AlertIndicator::showAlerts(const std::array<bool, 3> &active, int asking)
     m_asking->setText(tr("%n to acknowledge", nullptr, asking));
     m_asking->setVisible(asking > 0);
     place();
-}
-
-bool AlertIndicator::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::Resize) {
-        place();
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void AlertIndicator::place()

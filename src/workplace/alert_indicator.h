@@ -15,9 +15,6 @@ public:
     // MSAW, APW, STCA, and how many alerts and emergencies ask to be acknowledged.
     void showAlerts(const std::array<bool, 3> &active, int asking);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     void place();
 
