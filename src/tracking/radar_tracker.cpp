@@ -105,6 +105,20 @@ Tracker::Taken RadarTracker::procAntennaMessage(const Record &record)
     return {ReportOutcome::SourceStatus};
 }
 
+template <typename Record>
+Tracker::Taken RadarTracker::takeTracked(const QSharedPointer<Track> &track, const Record &record,
+    const Identity &identity, const std::optional<Place> &place, const QDateTime &now)
+{
+    if (!track) {
+        return notNumbered(identity, place);
+    }
+    if (place) {
+        put(*track, *place);
+    }
+    takeReport(*track, record, now);
+    return takenBy(*track, identity, place);
+}
+
 Tracker::Taken RadarTracker::procCat001Message(const _ast_datarecord_001_t &record)
 {
     const auto now = trackManager().now();
@@ -114,15 +128,7 @@ Tracker::Taken RadarTracker::procCat001Message(const _ast_datarecord_001_t &reco
         debug([] { return tr("Radar Tracker: CAT001 message has no valid track number (I001/161), ignore."); });
         return takenAsPlot(place, record.i020.tst);
     }
-    const auto track = findOrCreate(identity.number);
-    if (!track) {
-        return notNumbered(identity, place);
-    }
-    if (place) {
-        put(*track, *place);
-    }
-    takeReport(*track, record, now);
-    return takenBy(*track, identity, place);
+    return takeTracked(findOrCreate(identity.number), record, identity, place, now);
 }
 
 void RadarTracker::takeReport(Track &track, const _ast_datarecord_001_t &record, const QDateTime &now)
@@ -153,15 +159,7 @@ Tracker::Taken RadarTracker::procCat048Message(const _ast_datarecord_048_t &reco
         });
         return takenAsPlot(place, record.i020.tst);
     }
-    const auto track = associate(identity, now);
-    if (!track) {
-        return notNumbered(identity, place);
-    }
-    if (place) {
-        put(*track, *place);
-    }
-    takeReport(*track, record, now);
-    return takenBy(*track, identity, place);
+    return takeTracked(associate(identity, now), record, identity, place, now);
 }
 
 void RadarTracker::takeReport(Track &track, const _ast_datarecord_048_t &record, const QDateTime &now)

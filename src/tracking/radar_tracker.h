@@ -34,6 +34,10 @@ private:
     template <typename Record>
     Taken procAntennaMessage(const Record &record);
 
+    // A target report that names its track; null: the store is full.
+    template <typename Record>
+    Taken takeTracked(const QSharedPointer<Track> &track, const Record &record, const Identity &identity,
+        const std::optional<Place> &place, const QDateTime &now);
     void takeReport(Track &track, const _ast_datarecord_001_t &record, const QDateTime &now);
     void takeReport(Track &track, const _ast_datarecord_048_t &record, const QDateTime &now);
     Identity identityOf(const _ast_datarecord_048_t &record) const;
