@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/lan_interface.h"
 #include "app/setting_group.h"
 #include "app/tile_services.h"
 #include "geo/geo_coordinate.h"
@@ -11,7 +12,6 @@
 #include <QFileInfo>
 #include <QHostAddress>
 #include <QList>
-#include <QNetworkInterface>
 #include <QSharedPointer>
 #include <QString>
 
@@ -72,12 +72,12 @@ public:
     bool inputAutoStart = false; // with the program
     InputComm inputComm = InputComm::Udp;
     bool inputUdpMulticast1 = true;
-    QNetworkInterface inputUdpMcastLanInterface1; // invalid: the system chooses
+    LanInterface inputUdpMcastLanInterface1; // none: the system chooses
     QHostAddress inputUdpMcastAddress1{QStringLiteral("239.0.0.1")};
     quint16 inputUdpPort1 = 50000;
     bool inputEnable2 = false;
     bool inputUdpMulticast2 = true;
-    QNetworkInterface inputUdpMcastLanInterface2;
+    LanInterface inputUdpMcastLanInterface2;
     QHostAddress inputUdpMcastAddress2{QStringLiteral("239.0.0.2")};
     quint16 inputUdpPort2 = 50001;
     QString inputSerialDevice;

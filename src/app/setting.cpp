@@ -26,11 +26,6 @@ bool sameValue(const T &a, const T &b)
     return a == b;
 }
 
-bool sameValue(const QNetworkInterface &a, const QNetworkInterface &b)
-{
-    return a.name() == b.name();
-}
-
 // As named: whether two names lead to one file is for the disk to say, which is not asked here.
 bool sameValue(const QFileInfo &a, const QFileInfo &b)
 {

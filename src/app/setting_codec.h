@@ -81,12 +81,9 @@ struct SettingCodec<korvane::modes::ModeSEncapsulation::Format> {
 };
 
 template <>
-struct SettingCodec<QNetworkInterface> {
-    static QVariant encoded(const QNetworkInterface &value) { return value.name(); }
-    static QNetworkInterface decoded(const QVariant &stored)
-    {
-        return QNetworkInterface::interfaceFromName(stored.toString());
-    }
+struct SettingCodec<LanInterface> {
+    static QVariant encoded(const LanInterface &value) { return value.name(); }
+    static LanInterface decoded(const QVariant &stored) { return LanInterface(stored.toString()); }
 };
 
 template <>

@@ -29,10 +29,10 @@ bool isUsable(const QNetworkInterface &candidate)
 
 // Number and IPv4 addresses of an interface, of all of them without a name; empty while there is none that a group
 // could be received on. Where this has changed, a membership may be lost.
-QString interfaceState(const QString &name)
+QString interfaceState(const LanInterface &chosen)
 {
     const QList<QNetworkInterface> candidates =
-        name.isEmpty() ? QNetworkInterface::allInterfaces() : QList{QNetworkInterface::interfaceFromName(name)};
+        chosen.isChosen() ? QList{chosen.now()} : QNetworkInterface::allInterfaces();
     QStringList parts;
     for (const QNetworkInterface &candidate : candidates) {
         for (const QNetworkAddressEntry &entry : candidate.addressEntries()) {
@@ -149,15 +149,20 @@ bool UdpInput::bindSocket(Source &source)
     return false;
 }
 
+// One that is chosen and absent is no leave for the system to choose another.
+bool UdpInput::join(Source &source)
+{
+    const LanInterface &chosen = source.address.lanInterface;
+    source.joinedInterface = chosen.now();
+    return chosen.isChosen() == source.joinedInterface.isValid()
+        && source.socket->joinMulticastGroup(source.address.group, source.joinedInterface);
+}
+
 bool UdpInput::joinGroup(Source &source)
 {
-    Address &address = source.address;
-    const QString name = address.lanInterface.name();
-    if (!name.isEmpty()) { // as it is now: it may have got its address since
-        address.lanInterface = QNetworkInterface::interfaceFromName(name);
-    }
-    source.joinedOn = interfaceState(name);
-    if (source.socket->joinMulticastGroup(address.group, address.lanInterface)) {
+    const Address &address = source.address;
+    source.joinedOn = interfaceState(address.lanInterface);
+    if (join(source)) {
         Q_EMIT message(LogLevel::Info,
             tr("Start UDP multicast input %1:%2 on interface %3")
                 .arg(address.group.toString())
@@ -175,8 +180,10 @@ void UdpInput::tellWhyNotJoined(const Address &address, const QString &error)
     const QString lanInterface = address.lanInterface.humanReadableName();
     if (!address.group.isMulticast()) {
         reportFault(tr("%1 is no multicast group.").arg(group));
-    } else if (!address.lanInterface.isValid()) {
-        reportFault(tr("The network interface for the multicast group %1 is not there.").arg(group));
+    } else if (address.lanInterface.isChosen() && !address.lanInterface.isValid()) {
+        reportFault(tr("The network interface %1 for the multicast group %2 is not there.").arg(lanInterface, group));
+    } else if (!address.lanInterface.isChosen()) {
+        reportFault(tr("The multicast group %1 cannot be joined: %2").arg(group, error));
     } else {
         reportFault(tr("The multicast group %1 cannot be joined on interface %2: %3").arg(group, lanInterface, error));
     }
@@ -196,9 +203,8 @@ void UdpInput::lookAtInterfaces()
 // An interface that goes and comes between two looks keeps its memberships, unless it is another one by then.
 void UdpInput::lookAtInterface(Source &source)
 {
-    Address &address = source.address;
-    const QString name = address.lanInterface.name();
-    const QString state = interfaceState(name);
+    const Address &address = source.address;
+    const QString state = interfaceState(address.lanInterface);
     if (state.isEmpty()) {
         loseInterface(source, tr("it is down"));
         return;
@@ -206,11 +212,8 @@ void UdpInput::lookAtInterface(Source &source)
     if (state == source.joinedOn && !source.interfaceLost) {
         return;
     }
-    source.socket->leaveMulticastGroup(address.group, address.lanInterface); // where the system still knows of it
-    if (!name.isEmpty()) {
-        address.lanInterface = QNetworkInterface::interfaceFromName(name);
-    }
-    if (!source.socket->joinMulticastGroup(address.group, address.lanInterface)) {
+    source.socket->leaveMulticastGroup(address.group, source.joinedInterface); // where the system still knows of it
+    if (!join(source)) {
         loseInterface(source, source.socket->errorString());
         return;
     }
@@ -331,7 +334,7 @@ void UdpInput::close()
 void UdpInput::closeSource(Source &source)
 {
     if (source.address.multicast) {
-        source.socket->leaveMulticastGroup(source.address.group, source.address.lanInterface);
+        source.socket->leaveMulticastGroup(source.address.group, source.joinedInterface);
     }
     source.socket->disconnect(this);
     source.socket->close();

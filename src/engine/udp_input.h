@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/lan_interface.h"
 #include "engine/input.h"
 
 #include <QByteArray>
@@ -45,7 +46,7 @@ private:
         quint16 port = 0;
         bool multicast = false;
         QHostAddress group;
-        QNetworkInterface lanInterface;
+        LanInterface lanInterface;
     };
     struct Source {
         Address address;
@@ -53,6 +54,7 @@ private:
         int endpoint = 0;
         bool drainScheduled = false; // continues on the next turn of the event loop
         quint32 drops = 0; // at the last backlog warning
+        QNetworkInterface joinedInterface; // as it was then: by it the system knows the membership
         QString joinedOn; // the state of its network interface when its group was joined
         bool interfaceLost = false; // and told so
     };
@@ -60,6 +62,7 @@ private:
     bool openSource(Source &source);
     bool bindSocket(Source &source);
     bool joinGroup(Source &source);
+    static bool join(Source &source);
     void tellWhyNotJoined(const Address &address, const QString &error);
     void lookAtInterface(Source &source);
     void loseInterface(Source &source, const QString &reason);

@@ -204,15 +204,15 @@ QString silenceText(const ProbeResult &result)
 
 // ---- advice ----------------------------------------------------------------------------------------------------
 
-QString interfaceFault(const QNetworkInterface &chosen)
+QString interfaceFault(const LanInterface &chosen)
 {
-    if (!chosen.isValid()) {
+    if (!chosen.isChosen()) {
         return {};
     }
     const QString name = chosen.humanReadableName();
-    const QNetworkInterface now = QNetworkInterface::interfaceFromName(chosen.name());
+    const QNetworkInterface now = chosen.now();
     if (!now.isValid()) {
-        return Text::tr("The interface %1 is not there any more.").arg(name);
+        return Text::tr("The interface %1 is not there.").arg(name);
     }
     if (!now.flags().testFlag(QNetworkInterface::IsUp)) {
         return Text::tr("The interface %1 is switched off.").arg(name);
@@ -240,7 +240,7 @@ QStringList multicastAdvice(const Config &config)
         Text::tr("Is the sender running, and does it send to the group %1 and port %2?")
             .arg(group)
             .arg(config.inputUdpPort1)};
-    lines += config.inputUdpMcastLanInterface1.isValid()
+    lines += config.inputUdpMcastLanInterface1.isChosen()
         ? Text::tr("Is the sender on the network of the interface %1?")
               .arg(config.inputUdpMcastLanInterface1.humanReadableName())
         : Text::tr(

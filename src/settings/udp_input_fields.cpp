@@ -53,9 +53,9 @@ void UdpInputFields::bindTo(ConfigPage *page, const Members &members)
     page->bind<QHostAddress>(
         m_group, members.group, [this](const QHostAddress &group) { m_group->setText(group.toString()); },
         [this] { return group().isNull() ? std::nullopt : std::optional(group()); });
-    page->bind<QNetworkInterface>(
-        m_interface, members.interface, [this](const QNetworkInterface &interface) { showInterface(interface); },
-        [this] { return std::optional(m_known.value(m_interface->currentData().toString())); });
+    page->bind<LanInterface>(
+        m_interface, members.interface, [this](const LanInterface &interface) { showInterface(interface); },
+        [this] { return std::optional(LanInterface(m_interface->currentData().toString())); });
 }
 
 void UdpInputFields::setInterfaces(const QList<QNetworkInterface> &interfaces)
@@ -68,11 +68,11 @@ void UdpInputFields::setInterfaces(const QList<QNetworkInterface> &interfaces)
         m_interface->addItem(tr("Chosen by the system"), QString());
         for (const QNetworkInterface &interface : interfaces) {
             if (interface.flags().testFlag(QNetworkInterface::CanMulticast) || interface.name() == chosen) {
-                addInterface(interface, interfaceText(interface));
+                m_interface->addItem(interfaceText(interface), interface.name());
             }
         }
         if (m_interface->findData(chosen) < 0) {
-            addInterface(m_known[chosen], tr("%1 (not there)").arg(m_known[chosen].humanReadableName()));
+            addAbsent(chosen);
         }
         m_interface->setCurrentIndex(m_interface->findData(chosen));
     }
@@ -81,18 +81,22 @@ void UdpInputFields::setInterfaces(const QList<QNetworkInterface> &interfaces)
     }
 }
 
-void UdpInputFields::addInterface(const QNetworkInterface &interface, const QString &text)
+void UdpInputFields::addAbsent(const QString &name)
 {
-    m_known.insert(interface.name(), interface);
-    m_interface->addItem(text, interface.name());
+    m_interface->addItem(tr("%1 (not there)").arg(name), name);
 }
 
-void UdpInputFields::showInterface(const QNetworkInterface &interface)
+void UdpInputFields::showInterface(const LanInterface &interface)
 {
-    if (interface.isValid() && m_interface->findData(interface.name()) < 0) {
-        addInterface(interface, interfaceText(interface));
+    if (m_interface->findData(interface.name()) < 0) {
+        const QNetworkInterface now = interface.now();
+        if (now.isValid()) {
+            m_interface->addItem(interfaceText(now), now.name());
+        } else {
+            addAbsent(interface.name());
+        }
     }
-    m_interface->setCurrentIndex(interface.isValid() ? m_interface->findData(interface.name()) : 0);
+    m_interface->setCurrentIndex(m_interface->findData(interface.name()));
 }
 
 QHostAddress UdpInputFields::group() const

@@ -2,7 +2,7 @@
 
 #include "app/config.h"
 
-#include <QHash>
+#include <QNetworkInterface>
 #include <QObject>
 
 class ConfigPage;
@@ -21,7 +21,7 @@ public:
         quint16 Config::*port;
         bool Config::*multicast;
         QHostAddress Config::*group;
-        QNetworkInterface Config::*interface;
+        LanInterface Config::*interface;
     };
 
     // The page is the parent. The second of two inputs gets mnemonics of its own.
@@ -47,8 +47,8 @@ private:
     void addRows(bool second);
     void bindTo(ConfigPage *page, const Members &members);
     void connectFields();
-    void addInterface(const QNetworkInterface &interface, const QString &text);
-    void showInterface(const QNetworkInterface &interface);
+    void addAbsent(const QString &name);
+    void showInterface(const LanInterface &interface);
     void updateEnabled();
     QString faultOfGroup() const;
     QHostAddress group() const; // null unless the text is a multicast group
@@ -58,6 +58,5 @@ private:
     QCheckBox *m_multicast = nullptr;
     QLineEdit *m_group = nullptr;
     QComboBox *m_interface = nullptr; // items hold names
-    QHash<QString, QNetworkInterface> m_known; // by name, those that have gone since among them
     QSpinBox *m_port = nullptr;
 };

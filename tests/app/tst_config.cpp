@@ -60,12 +60,12 @@ Texts defaultTexts()
 
 // For values whose texts are not free.
 const Texts chosenTexts{{"displayCenterCoordinate", "335130S0702500W"}, {"inputUdpMcastLanInterface1", "lo"},
-    {"inputUdpMcastLanInterface2", "lo"}, {"inputUdpMcastAddress1", "224.1.2.3"}, {"inputUdpMcastAddress2", "ff02::5"},
-    {"processorModeSEncapsulation", "raw-rssi"}, {"sensorType", "smr"}, {"sensorLocation", "335130.25S0702500.75W"},
-    {"mapTileTopLayerProvider", "faa"}, {"mapTileBottomLayerProvider", "none"}, {"mapBingImagery", "road-gray"},
-    {"mapGoogleLayer", "p"}, {"mapTiandituLayer", "ter"}, {"mapFaaChart", "ifr-high"},
-    {"sensorRadarRotationPeriod", "12.345678901234567"}, {"sensorRadarAntennaAltitude", "-412"},
-    {"mapTileProxyPassword", "@pass\"word;\\1"}};
+    {"inputUdpMcastLanInterface2", "usb7"}, {"inputUdpMcastAddress1", "224.1.2.3"},
+    {"inputUdpMcastAddress2", "ff02::5"}, {"processorModeSEncapsulation", "raw-rssi"}, {"sensorType", "smr"},
+    {"sensorLocation", "335130.25S0702500.75W"}, {"mapTileTopLayerProvider", "faa"},
+    {"mapTileBottomLayerProvider", "none"}, {"mapBingImagery", "road-gray"}, {"mapGoogleLayer", "p"},
+    {"mapTiandituLayer", "ter"}, {"mapFaaChart", "ifr-high"}, {"sensorRadarRotationPeriod", "12.345678901234567"},
+    {"sensorRadarAntennaAltitude", "-412"}, {"mapTileProxyPassword", "@pass\"word;\\1"}};
 
 // Another value than the default for every key, no two alike where the type leaves a choice.
 Texts otherTexts()

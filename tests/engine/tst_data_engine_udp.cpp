@@ -207,6 +207,19 @@ private Q_SLOTS:
         }
     }
 
+    // The system's choice would receive the group from somewhere else.
+    void anAbsentInterfaceIsNotReplacedByAnother()
+    {
+        EngineRig rig;
+        rig.config.inputUdpMulticast1 = true;
+        rig.config.inputUdpMcastAddress1 = QHostAddress("239.255.77.1");
+        rig.config.inputUdpMcastLanInterface1 = LanInterface("usb7");
+        rig.open(6);
+        const QString reason = "The network interface usb7 for the multicast group 239.255.77.1 is not there.";
+        QCOMPARE(rig.faults, QList<QVariantList>({{6ULL, reason}}));
+        QCOMPARE(rig.log.last(), "I Failed to join UDP multicast group 239.255.77.1 on interface usb7");
+    }
+
     void pausedInputsAreDrainedAndNotDecoded()
     {
         EngineRig rig;

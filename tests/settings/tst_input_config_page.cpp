@@ -74,6 +74,14 @@ void TestInputConfigPage::whatIsGoneStaysChosen()
     Config stored;
     page.store(&stored);
     QCOMPARE(stored.inputUdpMcastLanInterface1.name(), "lo");
+
+    config.inputUdpMcastLanInterface1 = LanInterface("usb7"); // not there when the settings were read
+    page.load(config);
+    QCOMPARE(box->currentText(), "usb7 (not there)");
+    page.store(&stored);
+    QCOMPARE(stored.inputUdpMcastLanInterface1.name(), "usb7");
+    config.inputUdpMcastLanInterface1 = LanInterface("lo");
+    page.load(config);
     fields->setInterfaces(QNetworkInterface::allInterfaces());
     QVERIFY2(box->currentText().startsWith("lo (127."), qPrintable(box->currentText()));
 
