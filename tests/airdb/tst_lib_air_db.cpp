@@ -103,6 +103,7 @@ private Q_SLOTS:
 
         // Of an aircraft that is there again the newer row counts, and what was looked up before stays.
         addAircraft(database, "4CA123,EI-NEW,B738,\n");
+        QCOMPARE(database.getICAOAddrDict().aircraftCount(), 2);
         QCOMPARE(whoIs(database, 0x4CA123), QString("Ireland: EI-NEW B738"));
         QCOMPARE(info.aircraft().registration, QString("EI-ABC"));
     }
