@@ -2,6 +2,7 @@
 #include "lists/list_view.h"
 #include "lists/track_list_model.h"
 
+#include <QCoreApplication>
 #include <QLineEdit>
 
 #include <benchmark/benchmark.h>
@@ -42,7 +43,7 @@ void showPicture(benchmark::State &state)
     if (state.range(2)) {
         pane.findChild<QLineEdit *>("trackListFilter")->setText("fl>100 adsb");
     }
-    QApplication::processEvents();
+    QCoreApplication::processEvents();
     qsizetype next = 0;
     for (auto _ : state) {
         pane.takeChange([&] { model.setSnapshot(pictures[next]); });

@@ -4,6 +4,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <QCoreApplication>
+
 #include <cmath>
 #include <random>
 

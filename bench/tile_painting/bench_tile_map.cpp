@@ -6,6 +6,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QImage>
 

@@ -4,6 +4,7 @@
 #include "tiles/tile_providers.h"
 
 #include <benchmark/benchmark.h>
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QThread>
