@@ -3,9 +3,6 @@
 #include "explanation/explained_fields.h"
 
 #include <QCoreApplication>
-#include <QTime>
-
-#include <cmath>
 
 #include <optional>
 
@@ -86,8 +83,7 @@ private:
     QString timeText() const
     {
         const ReportField *time = view() ? view()->find("140") : nullptr;
-        const int ms = time ? static_cast<int>(std::lround(time->value.toDouble() * 1000.0)) : 0;
-        return time ? QTime::fromMSecsSinceStartOfDay(ms).toString("HH:mm:ss.zzz") : QString();
+        return time ? timeOfDayText(time->value.toDouble()) : QString();
     }
 
     QString bitsText() const
@@ -99,17 +95,8 @@ private:
 
     void add(const QString &name, const QString &keys, const QString &text, const QString &rule)
     {
-        auto row = view() ? explainedFields(name, keys, *view(), m_report, m_now) : std::nullopt;
-        if (!row && text.isEmpty()) {
-            return;
-        }
-        if (!row) {
-            row.emplace();
-            row->name = name;
-        }
-        row->value = text.isEmpty() ? row->value : text;
-        row->rule = rule;
-        m_values.append(*row);
+        const auto fields = view() ? explainedFields(name, keys, *view(), m_report, m_now) : std::nullopt;
+        addExplained(m_values, name, fields, text, rule);
     }
 
     void addAmplitude()

@@ -1,6 +1,9 @@
 #include "explanation/explained_fields.h"
 
+#include <QTime>
+
 #include <algorithm>
+#include <cmath>
 
 std::optional<ExplainedValue> explainedFields(
     const QString &name, const QString &keys, const ReportView &view, int report, const QDateTime &now)
@@ -22,4 +25,24 @@ std::optional<ExplainedValue> explainedFields(
         }
     }
     return row;
+}
+
+void addExplained(QList<ExplainedValue> &values, const QString &name, const std::optional<ExplainedValue> &fields,
+    const QString &text, const QString &rule)
+{
+    if (!fields && text.isEmpty()) {
+        return;
+    }
+    ExplainedValue row = fields.value_or(ExplainedValue());
+    row.name = name;
+    row.value = text.isEmpty() ? row.value : text;
+    row.rule = rule;
+    values.append(row);
+}
+
+QString timeOfDayText(double secondsOfDay)
+{
+    constexpr qint64 DayMs = 86400 * 1000;
+    const auto ms = static_cast<int>(std::llround(secondsOfDay * 1000.0) % DayMs);
+    return QTime::fromMSecsSinceStartOfDay(ms).toString("HH:mm:ss.zzz");
 }

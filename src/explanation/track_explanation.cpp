@@ -1,5 +1,6 @@
 #include "explanation/track_explanation.h"
 
+#include "explanation/explained_fields.h"
 #include "explanation/track_value_text.h"
 #include "explanation/value_sources.h"
 
@@ -23,11 +24,6 @@ struct Text {
 QString seconds(qint64 ms)
 {
     return QString::number(static_cast<double>(ms) / 1000.0, 'f', 1);
-}
-
-QString timeOfDayText(double secondsOfDay)
-{
-    return QTime::fromMSecsSinceStartOfDay(static_cast<int>(secondsOfDay * 1000.0) % DayMs).toString("HH:mm:ss.zzz");
 }
 
 // Of these 0 and blanks mean that the sender knows none.

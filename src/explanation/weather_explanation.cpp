@@ -5,7 +5,6 @@
 #include "explanation/report_view_forms.h"
 
 #include <QCoreApplication>
-#include <QTime>
 
 #include <cmath>
 #include <optional>
@@ -62,15 +61,15 @@ private:
 
     void look(const KeptReport &report, const _ast_datarecord_008_t &record)
     {
-        if (record.i020.intensity != m_weather.intensity || m_vectors) {
+        if (record.i020.intensity != m_weather.vector.intensity || m_vectors) {
             return;
         }
         for (int i = 0; i < record.i034.count; ++i) {
             const auto &vector = record.i034.vectors[i];
-            const double unit = m_scale ? std::ldexp(1.0, *m_scale - 7) : m_weather.endRange / vector.endRange;
-            if (std::abs(vector.startRange * unit - m_weather.startRange) <= SameRange
-                && std::abs(vector.endRange * unit - m_weather.endRange) <= SameRange
-                && vector.azimuth == m_weather.azimuth) {
+            const double unit = m_scale ? std::ldexp(1.0, *m_scale - 7) : m_weather.vector.endRange / vector.endRange;
+            if (std::abs(vector.startRange * unit - m_weather.vector.startRange) <= SameRange
+                && std::abs(vector.endRange * unit - m_weather.vector.endRange) <= SameRange
+                && vector.azimuth == m_weather.vector.azimuth) {
                 m_vectors = report;
                 m_element = i + 1;
                 return;
@@ -106,19 +105,19 @@ public:
     QList<ExplainedValue> run()
     {
         add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "Intensity")), "020/I", VectorReport,
-            QString::number(m_weather.intensity), levelRule());
+            QString::number(m_weather.vector.intensity), levelRule());
         add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "From range")), m_element + "STR", VectorReport,
-            miles(m_weather.startRange), rangeRule(m_element + "STR"));
+            miles(m_weather.vector.startRange), rangeRule(m_element + "STR"));
         add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "To range")), m_element + "ENDR", VectorReport,
-            miles(m_weather.endRange), rangeRule(m_element + "ENDR"));
+            miles(m_weather.vector.endRange), rangeRule(m_element + "ENDR"));
         add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "Azimuth")), m_element + "AZ", VectorReport,
-            QString("%1°").arg(m_weather.azimuth, 0, 'f', 2), widthRule());
+            QString("%1°").arg(m_weather.vector.azimuth, 0, 'f', 2), widthRule());
         add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "Source")), "010/SAC 010/SIC", VectorReport,
             sourceText(),
             weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "drawn around the place of the input's sensor")));
         add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "Scaling factor")), "100/F", StartReport, {}, {});
-        add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "Time of picture")), "090", StartReport, timeText(),
-            {});
+        add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "Time of picture")), "090", StartReport,
+            m_weather.timeOfDay < 0.0 ? QString() : timeOfDayText(m_weather.timeOfDay), {});
         add(weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "Vectors in picture")), "120", EndReport, {},
             weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "as its end announces")));
         return m_values;
@@ -127,22 +126,14 @@ public:
 private:
     enum Report { VectorReport, StartReport, EndReport };
 
-    // Without a text of its own the value is the field's; then there is none without the field.
+    // What is no longer kept explains nothing.
     void add(const QString &name, const QString &keys, Report report, const QString &text, const QString &rule)
     {
-        auto row = report < m_views.size() ? explainedFields(name, keys, m_views[report], report, m_now) : std::nullopt;
-        if (!row && text.isEmpty()) {
-            return;
-        }
-        if (!row) {
-            row.emplace();
-            row->name = name;
-        }
-        row->value = text.isEmpty() ? row->value : text;
-        row->rule = m_views.isEmpty()
-            ? weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "its message is kept no more"))
-            : rule;
-        m_values.append(*row);
+        const auto fields =
+            report < m_views.size() ? explainedFields(name, keys, m_views[report], report, m_now) : std::nullopt;
+        addExplained(m_values, name, fields, text,
+            m_views.isEmpty() ? weatherText(QT_TRANSLATE_NOOP("WeatherExplanation", "its message is kept no more"))
+                              : rule);
     }
 
     static QString miles(double range) { return QString("%1 NM").arg(range, 0, 'f', 2); }
@@ -154,14 +145,6 @@ private:
             return field ? field->value : QString();
         };
         return code("010/SAC").isEmpty() ? QString() : code("010/SAC") + '/' + code("010/SIC");
-    }
-
-    QString timeText() const
-    {
-        return m_weather.timeOfDay < 0.0
-            ? QString()
-            : QTime::fromMSecsSinceStartOfDay(static_cast<int>(std::lround(m_weather.timeOfDay * 1000.0)))
-                  .toString("HH:mm:ss.zzz");
     }
 
     QString levelRule() const

@@ -1,18 +1,7 @@
 #pragma once
 
 #include "explanation/track_explanation.h"
-
-// A weather vector as the display draws it.
-struct ShownWeather {
-    int intensity = 0; // 0 to 7
-    double startRange = 0.0; // nautical miles from the radar
-    double endRange = 0.0;
-    double azimuth = 0.0; // degrees clockwise from north
-    double timeOfDay = -1.0; // of its picture, seconds since midnight UTC; -1.0: none was sent
-    double width = 0.0; // degrees
-    bool widthMeasured = false; // so that neighbours touch; else as configured
-    bool hatched = false; // its level is switched off
-};
+#include "processors/shown_cells.h"
 
 // Where it came from.
 struct WeatherOrigin {

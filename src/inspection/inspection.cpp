@@ -8,7 +8,9 @@
 #include "engine/data_engine.h"
 #include "engine/display_snapshot.h"
 #include "engine/engine_host.h"
+#include "explanation/echo_explanation.h"
 #include "explanation/symbol_explanation.h"
+#include "explanation/weather_explanation.h"
 #include "inspection/absence_window.h"
 #include "inspection/inspection_pane.h"
 #include "inspection/scope_targets.h"
@@ -196,12 +198,12 @@ void Inspection::explainWeather(const ShownWeather &weather)
     show(question);
 }
 
-void Inspection::explainEcho(const PlaceContents::Echo &echo)
+void Inspection::explainEcho(const ShownEcho &echo)
 {
-    m_echo = echo.shown;
+    m_echo = echo;
     ReportQuestion question;
     question.about = ReportQuestion::About::Radial;
-    question.radial = echo.radial;
+    question.radial = {echo.sac, echo.sic, echo.azimuth, 180.0 / echo.directions};
     show(question);
 }
 
@@ -271,8 +273,8 @@ void Inspection::showWeather(const AskedReports &reports, const DisplaySnapshot 
     const WeatherOrigin origin = originOf(m_weather, reports.reports);
     const auto views = viewsOf(origin.reports);
     const auto values = ::explainWeather(m_weather, origin, views, snapshot.time);
-    m_pane->explain(tr("Weather, level %1").arg(m_weather.intensity), values, origin.reports, views, snapshot.time,
-        {tr("Its vectors"), tr("Start of its picture"), tr("End of its picture")});
+    m_pane->explain(tr("Weather, level %1").arg(m_weather.vector.intensity), values, origin.reports, views,
+        snapshot.time, {tr("Its vectors"), tr("Start of its picture"), tr("End of its picture")});
 }
 
 void Inspection::showEcho(const AskedReports &reports, const DisplaySnapshot &snapshot)

@@ -79,7 +79,7 @@ private:
     void showAlert(const AskedReports &reports, const DisplaySnapshot &snapshot);
     void explainPlot(const Plot &plot);
     void explainWeather(const ShownWeather &weather);
-    void explainEcho(const PlaceContents::Echo &echo);
+    void explainEcho(const ShownEcho &echo);
     std::optional<QPointF> pointedAt() const;
     bool explainPointedAt();
     void show(const ReportQuestion &question);

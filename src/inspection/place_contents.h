@@ -1,8 +1,6 @@
 #pragma once
 
-#include "engine/radial_watch.h"
-#include "explanation/echo_explanation.h"
-#include "explanation/weather_explanation.h"
+#include "processors/shown_cells.h"
 #include "tracking/plot.h"
 
 #include <optional>
@@ -11,14 +9,9 @@ class GeoWidget;
 
 // What the plan view shows at a place, beside tracks.
 struct PlaceContents {
-    struct Echo {
-        ShownEcho shown;
-        RadialQuestion radial; // that it was drawn from
-    };
-
     std::optional<Plot> plot;
     std::optional<ShownWeather> weather;
-    std::optional<Echo> echo;
+    std::optional<ShownEcho> echo;
 };
 
 // Plane metres.

@@ -248,9 +248,9 @@ void GeoVideoMap::paintRadar(QPainter &painter, const GeoView &view, Radar &rada
     painter.drawImage(target, radar.raster->image(), source);
 }
 
-std::optional<GeoVideoMap::Echo> GeoVideoMap::echoAt(const QPointF &place, double reach) const
+std::optional<ShownEcho> GeoVideoMap::echoAt(const QPointF &place, double reach) const
 {
-    std::optional<Echo> strongest;
+    std::optional<ShownEcho> strongest;
     for (const auto &[source, radar] : m_radars) {
         const auto echo = echoOf(source, *radar, place, reach);
         if (echo && (!strongest || echo->amplitude > strongest->amplitude)) {
@@ -261,7 +261,7 @@ std::optional<GeoVideoMap::Echo> GeoVideoMap::echoAt(const QPointF &place, doubl
 }
 
 // A pixel shows the strongest of the cells that it touches, and so does this.
-std::optional<GeoVideoMap::Echo> GeoVideoMap::echoOf(
+std::optional<ShownEcho> GeoVideoMap::echoOf(
     const Source &source, const Radar &radar, const QPointF &place, double reach) const
 {
     const GeoCoordinate target = m_projector->toWgs84(place);
@@ -281,7 +281,7 @@ std::optional<GeoVideoMap::Echo> GeoVideoMap::echoOf(
         return std::nullopt;
     }
     const int bins = radar.store.binCount();
-    return Echo{source.first, source.second, (strongest.bin + 0.5) * 360.0 / bins,
+    return ShownEcho{source.first, source.second, (strongest.bin + 0.5) * 360.0 / bins,
         (static_cast<double>(strongest.cell) + 0.5) * radar.cellSize, strongest.cell, radar.cellSize,
         strongest.amplitude, m_colors.threshold, bins, m_validity};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geo/geo_coordinate.h"
+#include "processors/shown_cells.h"
 #include "processors/video_processor.h"
 #include "radar_painting/video_palette.h"
 #include "view/geo_layer.h"
@@ -34,20 +35,8 @@ public:
     SettingGroups settings() const override { return SettingGroup::Video; }
 
     // The cell that a place shows.
-    struct Echo {
-        unsigned char sac = 0; // of the radar; 0/0 where it does not say
-        unsigned char sic = 0;
-        double azimuth = 0.0; // degrees clockwise from north, at the radar
-        double range = 0.0; // metres from it
-        quint64 cell = 0; // counted from the antenna
-        double cellSize = 0.0; // metres
-        int amplitude = 0; // 1 to 255
-        int threshold = 0; // amplitudes up to this are not drawn
-        int directions = 0; // a turn, that are told apart
-        qint64 validityMs = 0; // until it has faded
-    };
     // The strongest that is drawn within so many plane metres of a place; nothing where none is.
-    std::optional<Echo> echoAt(const QPointF &place, double reach) const;
+    std::optional<ShownEcho> echoAt(const QPointF &place, double reach) const;
 
     // Replaces the steady clock, milliseconds from any start.
     void setClock(std::function<qint64()> clock);
@@ -77,7 +66,7 @@ private:
 
     static Place placeOf(const SensorInfo &sensor);
     const Place *findPlace(const Source &source) const;
-    std::optional<Echo> echoOf(const Source &source, const Radar &radar, const QPointF &place, double reach) const;
+    std::optional<ShownEcho> echoOf(const Source &source, const Radar &radar, const QPointF &place, double reach) const;
     Radar *radarFor(const VideoProcessor::Radial &radial);
     void paintRadar(QPainter &painter, const GeoView &view, Radar &radar);
 

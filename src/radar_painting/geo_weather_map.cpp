@@ -145,7 +145,7 @@ double GeoWeatherMap::drawnWidth() const
     return m_autoVectorWidth ? touchingWidth(m_picture->vectors, m_vectorWidth) : m_vectorWidth;
 }
 
-std::optional<GeoWeatherMap::Hit> GeoWeatherMap::vectorAt(const QPointF &place) const
+std::optional<ShownWeather> GeoWeatherMap::vectorAt(const QPointF &place) const
 {
     if (!visible() || !m_picture || m_clock() - m_pictureTime > m_validity) {
         return std::nullopt;
@@ -159,7 +159,7 @@ std::optional<GeoWeatherMap::Hit> GeoWeatherMap::vectorAt(const QPointF &place) 
     if (found == m_shapes.rend()) {
         return std::nullopt;
     }
-    return Hit{m_picture->vectors[found->vector], m_picture->timeOfDay, drawnWidth(), m_autoVectorWidth,
+    return ShownWeather{m_picture->vectors[found->vector], m_picture->timeOfDay, drawnWidth(), m_autoVectorWidth,
         !levelVisible(found->level)};
 }
 

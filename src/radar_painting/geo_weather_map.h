@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geo/geo_coordinate.h"
+#include "processors/shown_cells.h"
 #include "radar_painting/quad_canvas.h"
 #include "radar_painting/weather_shapes.h"
 #include "radar_painting/wide_view.h"
@@ -42,16 +43,8 @@ public:
     // Vectors of the level in the picture that is shown; 0 when it has expired.
     int vectorCount(int level) const;
 
-    // A vector as it is drawn.
-    struct Hit {
-        WeatherProcessor::PolarVector vector;
-        double timeOfDay = -1.0; // of its picture, as there
-        double width = 0.0; // degrees
-        bool widthMeasured = false; // so that neighbours touch; else as configured
-        bool hatched = false; // its level is switched off
-    };
-    // The uppermost that is drawn over a place, plane metres; nothing where none is or the layer is hidden.
-    std::optional<Hit> vectorAt(const QPointF &place) const;
+    // The uppermost vector that is drawn over a place, plane metres; nothing where none is or the layer is hidden.
+    std::optional<ShownWeather> vectorAt(const QPointF &place) const;
 
     // Pictures that were not taken, since the start: without vectors; and while the sensor was no radar with a place.
     quint64 emptyPictures() const { return m_emptyPictures; }

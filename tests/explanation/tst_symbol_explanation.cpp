@@ -147,11 +147,11 @@ void TestSymbolExplanation::explainsAlertByItsOwnReport()
 void TestSymbolExplanation::explainsWeatherByItsPicture()
 {
     ShownWeather weather;
-    weather.intensity = 3;
+    weather.vector.intensity = 3;
     weather.timeOfDay = 36000.0;
-    weather.azimuth = 90.0;
-    weather.startRange = 5.5;
-    weather.endRange = 15.0;
+    weather.vector.azimuth = 90.0;
+    weather.vector.startRange = 5.5;
+    weather.vector.endRange = 15.0;
     weather.width = 1.4;
     const auto older = weatherPicture(30, 35990.0, 6, 10);
     const auto shown = weatherPicture(20, 36000.0, 6, 10);
@@ -184,9 +184,9 @@ void TestSymbolExplanation::explainsWeatherByItsPicture()
 void TestSymbolExplanation::explainsWeatherThatIsKeptNoMore()
 {
     ShownWeather weather;
-    weather.intensity = 3;
+    weather.vector.intensity = 3;
     weather.timeOfDay = 36000.0;
-    weather.startRange = 5.0;
+    weather.vector.startRange = 5.0;
     const WeatherOrigin origin = originOf(weather, weatherPicture(10, 36010.0, 6, 10));
     QVERIFY(origin.reports.isEmpty());
     const auto values = explainWeather(weather, origin, {}, SymbolNow);
