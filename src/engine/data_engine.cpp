@@ -26,8 +26,6 @@ DataEngine::DataEngine(Projector *projector, SnapshotSlot<DisplaySnapshot> *disp
     SnapshotSlot<InputStatistics> *statisticsSlot, QObject *parent)
     : QObject(parent), m_projector(projector), m_publisher(displaySlot, videoSlot, weatherSlot, statisticsSlot)
 {
-    m_ledgers.add(&m_sources);
-    m_ledgers.add(&m_archive);
 }
 
 // What is read and written by an input must not go before it.
@@ -59,15 +57,15 @@ void DataEngine::init()
 void DataEngine::makeProcessors()
 {
     m_alertProcessor = QSharedPointer<AlertProcessor>::create(m_alertManager, m_trackManager);
-    m_alertProcessor->setLedger(&m_ledgers);
+    m_alertProcessor->setLedger(&m_ledger);
     connect(m_alertProcessor.data(), &AlertProcessor::message, this, &DataEngine::log);
     connect(m_alertProcessor.data(), &AlertProcessor::alertStatusChanged, this, &DataEngine::alertStatusChanged);
     m_weatherProcessor = QSharedPointer<WeatherProcessor>::create();
-    m_weatherProcessor->setLedger(&m_ledgers);
+    m_weatherProcessor->setLedger(&m_ledger);
     connect(m_weatherProcessor.data(), &WeatherProcessor::message, this, &DataEngine::log);
     connect(m_weatherProcessor.data(), &WeatherProcessor::pictureReady, this, &DataEngine::publishWeatherPicture);
     m_videoProcessor = QSharedPointer<VideoProcessor>::create();
-    m_videoProcessor->setLedger(&m_ledgers);
+    m_videoProcessor->setLedger(&m_ledger);
     connect(m_videoProcessor.data(), &VideoProcessor::message, this, &DataEngine::log);
     connect(m_videoProcessor.data(), &VideoProcessor::radialReady, this, &DataEngine::accumulateVideoRadial);
 }
@@ -228,7 +226,7 @@ void DataEngine::connectInput(Input *input)
 std::unique_ptr<MessageRouter> DataEngine::makeRouter()
 {
     const MessageRouter::Consumers consumers{makeTracker(), m_alertProcessor.data(), m_weatherProcessor.data(),
-        m_videoProcessor.data(), &m_sources, &m_ledgers, &m_taps};
+        m_videoProcessor.data(), &m_sources, &m_ledger, &m_taps};
     auto router = std::make_unique<MessageRouter>(m_config, m_sensor, consumers, m_clock, &m_publisher.meter());
     connect(router.get(), &MessageRouter::message, this, &DataEngine::log);
     return router;
@@ -246,7 +244,7 @@ QSharedPointer<Tracker> DataEngine::makeTracker()
     }
     connect(tracker.data(), &Tracker::message, this, &DataEngine::log);
     tracker->setPlotStore(&m_plots);
-    tracker->setLedger(&m_ledgers);
+    tracker->setLedger(&m_ledger);
     configureTracker(tracker.data());
     return tracker;
 }
@@ -365,12 +363,10 @@ void DataEngine::openTap(const std::shared_ptr<StreamTap> &tap)
 {
     tap->setClock(m_clock);
     m_taps.open(tap);
-    m_ledgers.add(tap.get());
 }
 
 void DataEngine::closeTap(const std::shared_ptr<StreamTap> &tap)
 {
-    m_ledgers.remove(tap.get());
     m_taps.close(tap);
 }
 

@@ -8,6 +8,7 @@
 #include "engine/recording_input.h"
 #include "engine/report_archive.h"
 #include "engine/source_monitor.h"
+#include "engine/stream_ledger.h"
 #include "engine/stream_tap.h"
 #include "processors/video_processor.h"
 #include "tracking/alert.h"
@@ -169,10 +170,10 @@ private:
     std::shared_ptr<Clock> m_clock = std::make_shared<Clock>();
     PlotStore m_plots;
     SourceMonitor m_sources{m_clock};
-    ReportLedgers m_ledgers;
     QSharedPointer<TrackManager> m_trackManager;
     ReportArchive m_archive;
     StreamTaps m_taps;
+    StreamLedger m_ledger{m_sources, m_archive, m_taps};
     QSharedPointer<AlertManager> m_alertManager;
     QSharedPointer<AlertProcessor> m_alertProcessor;
     QSharedPointer<WeatherProcessor> m_weatherProcessor;

@@ -2,120 +2,117 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <vector>
 
 namespace {
 
 constexpr double SamePlace = 1.0; // metres
+constexpr quint32 RoomsAtOnce = 64; // part of all the room that is made at a time
 
 double distanceOf(const QPointF &a, const QPointF &b)
 {
     return std::hypot(a.x() - b.x(), a.y() - b.y());
 }
 
-} // namespace
-
-LooseReports::LooseReports(std::size_t maximumOctets, std::size_t maximumReports)
-    : m_maximumOctets(maximumOctets), m_maximumReports(maximumReports)
+KeptReport keptReport(const LooseReport &kept)
 {
+    const auto *octets = reinterpret_cast<const char *>(kept.octets());
+    return {kept.form, kept.timeMs, kept.uap, QByteArray(octets, static_cast<qsizetype>(kept.size))};
 }
 
-void LooseReports::add(const TakenReport &report, qint64 timeMs)
+} // namespace
+
+// Behind the newest, or at the beginning where too little is left at the end. The oldest in the way go.
+bool LooseReports::makeRoom(quint32 needed)
 {
-    if (m_entries.empty()) {
-        m_octets.resize(m_maximumOctets);
-        m_entries.resize(m_maximumReports);
+    if (needed > m_capacity) {
+        return false;
     }
-    const auto begin = report.octets ? makeRoom(report.size) : std::nullopt;
-    if (!begin) {
-        return;
+    if (!m_memory) {
+        m_memory.reset(new unsigned char[m_capacity]); // not filled: what is not written takes no memory
+        clear();
     }
-    std::copy_n(report.octets, report.size, m_octets.data() + *begin);
-    LooseReport &kept = m_entries[wrapped(m_first + m_count)];
-    kept.timeMs = timeMs;
-    kept.uap = report.record ? report.record->uap : nullptr;
-    kept.placed = report.place.has_value();
-    kept.place = kept.placed ? *report.place : QPointF();
-    kept.size = report.size;
-    kept.address = report.address.value_or(0);
-    kept.sensorNumber = report.sensorTrackNumber;
-    kept.form = report.form;
-    kept.outcome = report.outcome;
-    kept.category = report.category;
-    kept.begin = *begin;
-    ++m_count;
-    ++m_added;
+    const quint32 wanted = std::max(needed, m_capacity / RoomsAtOnce);
+    for (;;) {
+        const bool oldestFollows = m_count > 0 && m_oldest >= m_end;
+        m_free = (oldestFollows ? m_oldest : m_capacity) - m_end;
+        if (m_free >= (oldestFollows ? wanted : needed)) {
+            return true;
+        }
+        if (oldestFollows) {
+            dropOldest();
+        } else {
+            m_wrap = m_end;
+            m_end = 0;
+        }
+    }
 }
 
 void LooseReports::dropOldest()
 {
-    m_first = wrapped(m_first + 1);
-    --m_count;
-}
-
-// Behind the newest, or at the beginning where too little is left at the end. The oldest in the way go.
-std::optional<std::size_t> LooseReports::makeRoom(std::size_t size)
-{
-    if (size > m_maximumOctets) {
-        return std::nullopt;
+    const bool isFresh = m_fresh == m_count;
+    next(m_oldest);
+    if (--m_count == 0) {
+        clear();
+        return;
     }
-    if (m_count == m_maximumReports) {
-        dropOldest();
+    if (m_oldest == m_wrap) {
+        m_freshAt = m_freshAt == m_wrap ? 0 : m_freshAt;
+        m_wrap = m_capacity;
+        m_oldest = 0;
     }
-    if (m_count == 0) {
-        return 0;
+    if (isFresh) {
+        --m_fresh;
+        m_freshAt = m_oldest;
     }
-    const LooseReport &newest = entry(m_count - 1);
-    std::size_t begin = newest.begin + newest.size;
-    if (begin + size > m_maximumOctets) {
-        // What lies behind is passed over: it is older than anything at the beginning.
-        while (m_count > 0 && entry(0).begin >= begin) {
-            dropOldest();
-        }
-        begin = 0;
-    }
-    while (m_count > 0 && entry(0).begin < begin + size && entry(0).begin + entry(0).size > begin) {
-        dropOldest();
-    }
-    return begin;
 }
 
 void LooseReports::clear()
 {
-    m_count = 0;
+    m_free = m_memory ? m_capacity : 0;
+    m_wrap = m_capacity;
+    m_end = m_oldest = m_freshAt = 0;
+    m_count = m_fresh = 0;
 }
 
-KeptReport LooseReports::keptReport(const LooseReport &kept) const
+template <typename Wanted>
+QList<KeptReport> LooseReports::newestOf(Wanted wanted, qsizetype maximum) const
 {
-    const auto *octets = reinterpret_cast<const char *>(m_octets.data() + kept.begin);
-    return {kept.form, kept.timeMs, kept.uap, QByteArray(octets, static_cast<qsizetype>(kept.size))};
-}
-
-QList<KeptReport> LooseReports::newest(int maximum) const
-{
+    std::vector<const LooseReport *> reports;
+    quint32 at = m_oldest;
+    for (quint32 i = 0; i < m_count; ++i) {
+        const LooseReport &report = next(at);
+        if (wanted(report)) {
+            reports.push_back(&report);
+        }
+    }
     QList<KeptReport> found;
-    for (std::size_t i = m_count; i > 0 && found.size() < maximum; --i) {
-        found.append(keptReport(entry(i - 1)));
+    for (auto report = reports.rbegin(); report != reports.rend() && found.size() < maximum; ++report) {
+        found.append(keptReport(**report));
     }
     return found;
 }
 
-QList<KeptReport> LooseReports::near(const QPointF &place, double radius, int maximum) const
+QList<KeptReport> LooseReports::newest(qsizetype maximum) const
+{
+    return newestOf([](const LooseReport &) { return true; }, maximum);
+}
+
+QList<KeptReport> LooseReports::near(const QPointF &place, double radius, qsizetype maximum) const
 {
     std::optional<QPointF> nearest;
     double least = radius;
-    for (std::size_t i = 0; i < m_count; ++i) {
-        const LooseReport &there = entry(i);
+    quint32 at = m_oldest;
+    for (quint32 i = 0; i < m_count; ++i) {
+        const LooseReport &there = next(at);
         if (there.placed && distanceOf(there.place, place) <= least) {
             least = distanceOf(there.place, place);
             nearest = there.place;
         }
     }
-    QList<KeptReport> found;
-    for (std::size_t i = m_count; nearest && i > 0 && found.size() < maximum; --i) {
-        const LooseReport &kept = entry(i - 1);
-        if (kept.placed && distanceOf(kept.place, *nearest) <= SamePlace) {
-            found.append(keptReport(kept));
-        }
-    }
-    return found;
+    const auto isThere = [&nearest](const LooseReport &report) {
+        return nearest && report.placed && distanceOf(report.place, *nearest) <= SamePlace;
+    };
+    return newestOf(isThere, maximum);
 }

@@ -2,69 +2,105 @@
 
 #include "tracking/kept_report.h"
 
+#include <QList>
 #include <QPointF>
 
-#include <algorithm>
-#include <optional>
-#include <vector>
+#include <cstring>
+#include <memory>
+#include <new>
 
 // A report that belongs to no track.
 struct LooseReport {
-    qint64 timeMs = 0;
-    const korvane::asterix::Uap *uap = nullptr;
-    QPointF place; // plane metres, where it is placed
-    quint32 size = 0;
+    quint32 size = 0; // of its octets, which follow
     quint32 address = 0; // 0: none
     quint32 sensorNumber = 0; // 0: none
     TakenReport::Form form = TakenReport::Form::Asterix;
     ReportOutcome outcome = ReportOutcome::Plot;
     quint8 category = 0;
     bool placed = false;
-    std::size_t begin = 0; // of its octets among all, which are in one piece
+    qint64 timeMs = 0;
+    const korvane::asterix::Uap *uap = nullptr;
+    QPointF place; // plane metres, where it is placed
+
+    const unsigned char *octets() const { return reinterpret_cast<const unsigned char *>(this + 1); }
 };
 
-// The newest reports that belong to no track, by the place that they tell: plots, and messages that have none. Bounded
-// by octets and by number; nothing is allocated for a report once both are reached. One thread.
+// The newest reports that belong to no track, by the place that they tell: plots, and messages that have none. They
+// stand one behind the other in memory that is written round and round, the oldest making room for the newest. One
+// thread.
 class LooseReports {
 public:
-    // Memory is taken when the first report comes.
-    LooseReports(std::size_t maximumOctets, std::size_t maximumReports);
+    // Octets in all, what is noted beside each report included. Memory is taken when the first report comes.
+    explicit LooseReports(quint32 room) : m_capacity(room & ~(Alignment - 1)) { }
 
-    // A report larger than all the room is left out.
-    void add(const TakenReport &report, qint64 timeMs);
+    // A report larger than all the room is left out, and one without octets.
+    void add(const TakenReport &report, qint64 timeMs)
+    {
+        const quint32 needed = sizeFor(report.size);
+        if (!report.octets || (needed > m_free && !makeRoom(needed))) {
+            return;
+        }
+        unsigned char *const to = m_memory.get() + m_end;
+        new (to) LooseReport{report.size, report.fate.address.value_or(0), report.fate.sensorTrackNumber, report.form,
+            report.fate.outcome, report.category, report.fate.place.has_value(), timeMs,
+            report.record ? report.record->uap : nullptr, report.fate.place.value_or(QPointF())};
+        std::memcpy(to + sizeof(LooseReport), report.octets, report.size);
+        m_end += needed;
+        m_free -= needed;
+        ++m_count;
+        ++m_fresh;
+    }
     void clear();
 
     // Newest first, at most so many.
-    QList<KeptReport> newest(int maximum) const;
+    QList<KeptReport> newest(qsizetype maximum) const;
     // Of those that told a place within the radius, plane metres, those of the nearest place: a target that stands
     // still is reported there again and again.
-    QList<KeptReport> near(const QPointF &place, double radius, int maximum) const;
+    QList<KeptReport> near(const QPointF &place, double radius, qsizetype maximum) const;
 
     // Those that came since the call before, as far as they are still there, the oldest first.
     template <typename Take>
     void takeNew(Take take)
     {
-        const auto fresh = static_cast<std::size_t>(std::min<quint64>(m_added - m_taken, m_count));
-        for (std::size_t i = m_count - fresh; i < m_count; ++i) {
-            take(entry(i), m_octets.data() + entry(i).begin);
+        quint32 at = m_freshAt;
+        for (quint32 i = 0; i < m_fresh; ++i) {
+            const LooseReport &report = next(at);
+            take(report, report.octets());
         }
-        m_taken = m_added;
+        m_fresh = 0;
+        m_freshAt = at;
     }
 
 private:
-    // By age, 0 is the oldest.
-    const LooseReport &entry(std::size_t i) const { return m_entries[wrapped(m_first + i)]; }
-    std::size_t wrapped(std::size_t i) const { return i < m_maximumReports ? i : i - m_maximumReports; }
-    void dropOldest();
-    std::optional<std::size_t> makeRoom(std::size_t size);
-    KeptReport keptReport(const LooseReport &kept) const;
+    static constexpr quint32 Alignment = alignof(LooseReport);
+    static constexpr quint32 sizeFor(quint32 octets)
+    {
+        return (static_cast<quint32>(sizeof(LooseReport)) + octets + Alignment - 1) & ~(Alignment - 1);
+    }
 
-    const std::size_t m_maximumOctets;
-    const std::size_t m_maximumReports;
-    std::vector<unsigned char> m_octets;
-    std::vector<LooseReport> m_entries; // round and round
-    std::size_t m_first = 0; // the oldest
-    std::size_t m_count = 0;
-    quint64 m_added = 0; // since it was made
-    quint64 m_taken = 0; // of them
+    // The report at a place, or the first one where none follows; at goes on behind it.
+    const LooseReport &next(quint32 &at) const
+    {
+        if (at == m_wrap) {
+            at = 0;
+        }
+        const auto *report = reinterpret_cast<const LooseReport *>(m_memory.get() + at);
+        at += sizeFor(report->size);
+        return *report;
+    }
+    bool makeRoom(quint32 needed);
+    void dropOldest();
+    template <typename Wanted>
+    QList<KeptReport> newestOf(Wanted wanted, qsizetype maximum) const;
+
+    const quint32 m_capacity;
+    std::unique_ptr<unsigned char[]> m_memory;
+    // Where the newest report ends, and what may be written from there on before the oldest, or the end, is reached.
+    quint32 m_end = 0;
+    quint32 m_free = 0;
+    quint32 m_oldest = 0;
+    quint32 m_wrap = 0; // end of the last report before those that begin anew; the capacity while none does
+    quint32 m_count = 0;
+    quint32 m_fresh = 0; // reports that were not taken yet, the newest ones
+    quint32 m_freshAt = 0; // the oldest of them
 };

@@ -167,7 +167,7 @@ void MessageRouter::dropBlock(const unsigned char *octets, ReportOutcome outcome
 void MessageRouter::dropUndecoded(const unsigned char *octets, std::size_t size, ReportOutcome outcome)
 {
     TakenReport report;
-    report.outcome = outcome;
+    report.fate.outcome = outcome;
     report.octets = octets;
     report.size = static_cast<quint32>(size);
     if (outcome != ReportOutcome::Malformed || hasReader(octets[0])) {

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int MaximumLooseReports = 4096; // of one kind that are told: all that are kept
+constexpr int MaximumLooseReports = 4096; // of one kind that are told
 constexpr double SamePlot = 1.0; // metres between a plot and a position of a track
 // Between the stamps of a plot and of the report that it is of: the clock goes on while the report is read. Shorter
 // than two reports of a track follow each other.
@@ -61,28 +61,15 @@ void ReportArchive::clear()
     m_dropped.clear();
 }
 
-// Trackers have just read the clock for each report that they look at.
-void ReportArchive::take(const TakenReport &report)
-{
-    if (report.newestReport) {
-        m_log.add(*report.newestReport, report.form, m_clock->lastMs(), report.record ? report.record->uap : nullptr,
-            report.octets, report.size);
-    }
-    if (report.outcome != ReportOutcome::Track) {
-        keepLoose(report);
-    }
-}
-
 void ReportArchive::keepLoose(const TakenReport &report)
 {
-    switch (report.outcome) {
+    switch (report.fate.outcome) {
     case ReportOutcome::Track: // with the track
+    case ReportOutcome::Plot: // with the plots
     case ReportOutcome::TrackEnd: // noted when the track went
     case ReportOutcome::SourceStatus:
     case ReportOutcome::Malformed:
         return;
-    case ReportOutcome::Plot:
-        return m_plots.add(report, m_clock->lastMs());
     case ReportOutcome::Alert:
         return m_alerts.add(report, m_clock->nowMs());
     case ReportOutcome::Weather:

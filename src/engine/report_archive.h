@@ -60,8 +60,20 @@ public:
     // Of another input, or the next run of a recording.
     void clear();
 
-    // Only copies: who is named in the reports without a track is read later.
-    void take(const TakenReport &report) override;
+    // Only copies: who is named in the reports without a track is read later. Trackers have just read the clock for
+    // each report that they look at.
+    void take(const TakenReport &report) override
+    {
+        if (report.fate.newestReport) {
+            m_log.add(*report.fate.newestReport, report.form, m_clock->lastMs(),
+                report.record ? report.record->uap : nullptr, report.octets, report.size);
+        }
+        if (report.fate.outcome == ReportOutcome::Plot) {
+            m_plots.add(report, m_clock->lastMs());
+        } else if (report.fate.outcome != ReportOutcome::Track) {
+            keepLoose(report);
+        }
+    }
     // To be called once a second: reads whom the reports since the last call have named, and keeps room in step with
     // the number of tracks.
     void endSecond();
@@ -72,7 +84,7 @@ public:
 
 private:
     void readIdentities();
-    void keepLoose(const TakenReport &report);
+    void keepLoose(const TakenReport &report); // that is neither a track nor a plot
     void answerTrack(AskedReports &answer) const;
     void answerPlace(AskedReports &answer) const;
     void noteIdentity(const LooseReport &report, const unsigned char *octets);
@@ -83,11 +95,11 @@ private:
     SharedClock m_clock;
     IdentityDirectory m_directory;
     ReportLog m_log;
-    LooseReports m_plots{768 * 1024, 16384}; // of about half a minute
-    LooseReports m_alerts{64 * 1024, 512};
-    LooseReports m_weather{256 * 1024, 4096}; // of the last pictures
+    LooseReports m_plots{1280 * 1024}; // of about half a minute
+    LooseReports m_alerts{96 * 1024};
+    LooseReports m_weather{448 * 1024}; // of the last pictures
     RadialWatch m_radials;
-    LooseReports m_dropped{256 * 1024, 4096}; // until their identities have been read
+    LooseReports m_dropped{448 * 1024}; // until their identities have been read
     korvane::modes::ModeSDecoder m_modesDecoder;
     korvane::modes::ModeSMessage m_modesMessage;
 };

@@ -6,6 +6,7 @@
 #include "sirm/alenia_sir_m_radar_message.h"
 
 #include <algorithm>
+#include <numeric>
 #include <tuple>
 #include <utility>
 
@@ -32,13 +33,6 @@ std::string_view editionOf(const TakenReport &report)
     return report.record ? korvane::asterix::editionOf(*report.record) : std::string_view();
 }
 
-// All categories have the source as their first item.
-_ast_sacsic_t sourceOfRecord(const _ast_datarecord_t &record)
-{
-    const std::uint16_t at = record.itemOffsets[0];
-    return at == 0 ? _ast_sacsic_t{} : _ast_sacsic_t{true, record.data[at], record.data[at + 1]};
-}
-
 // The source that a block names which could not be decoded.
 _ast_sacsic_t sourceOfBlock(const unsigned char *octets, quint32 size)
 {
@@ -49,11 +43,6 @@ _ast_sacsic_t sourceOfBlock(const unsigned char *octets, quint32 size)
     }
     const bool sent = at + 2 < size && (octets[Header] & 0x80);
     return sent ? _ast_sacsic_t{true, octets[at + 1], octets[at + 2]} : _ast_sacsic_t{};
-}
-
-quint32 packedCode(const _ast_sacsic_t &code, int endpoint)
-{
-    return static_cast<quint32>(endpoint << 17 | code.present << 16 | code.sac << 8 | code.sic);
 }
 
 // Of the antenna's time, where the record has one.
@@ -89,7 +78,6 @@ void addCounts(SourceStatistics &sum, const SourceStatistics &values)
 {
     sum.datagrams += values.datagrams;
     sum.blocks += values.blocks;
-    sum.records += values.records;
     sum.octets += values.octets;
     for (std::size_t i = 0; i < sum.outcomes.size(); ++i) {
         sum.outcomes[i] += values.outcomes[i];
@@ -118,8 +106,7 @@ void SourceMonitor::restart(double reportPeriod)
     m_keys.clear();
     m_sources.clear();
     m_others = {};
-    m_last = nullptr;
-    m_lastUap = nullptr;
+    forgetLast();
     m_nowMs = m_clock ? m_clock->nowMs() : 0;
     setSecond(m_nowMs / 1000);
 }
@@ -148,7 +135,7 @@ void SourceMonitor::endSecond(qint64 passed)
 {
     m_admissions = 0;
     for (const auto &source : m_sources) {
-        const quint64 records = source->values.records;
+        const quint64 records = source->records();
         source->seconds[indexOf(m_second)] =
             static_cast<quint32>(records - std::exchange(source->countedRecords, records));
         for (qint64 i = 1; i <= std::min<qint64>(passed, Seconds - 1); ++i) {
@@ -158,39 +145,16 @@ void SourceMonitor::endSecond(qint64 passed)
     setSecond(m_second + passed);
 }
 
-void SourceMonitor::take(const TakenReport &report)
-{
-    Source &source = sourceOf(report);
-    const auto outcome = static_cast<std::size_t>(report.outcome);
-    ++source.values.records;
-    ++source.values.outcomes[outcome];
-    if (source.lastBlock != m_block) {
-        beginIn(source, report);
-    }
-    if (m_nowMs >= source.nextExampleMs[outcome]) {
-        keepExample(source, report);
-    }
-    if (report.record && report.outcome == ReportOutcome::SourceStatus) {
-        measureAntenna(source, report);
-    } else if (report.record && report.category == 240) {
-        measureVideo(source, report);
-    }
-}
-
-// Most records come from where the last one came.
 SourceMonitor::Source &SourceMonitor::sourceOf(const TakenReport &report)
 {
-    if (!report.record) {
-        m_last = nullptr;
-        return find(report, keyOf(report).packed());
-    }
-    const quint32 code = packedCode(sourceOfRecord(*report.record), m_endpoint);
-    if (!m_last || report.record->uap != m_lastUap || code != m_lastCode) {
-        m_last = &find(report, keyOf(report).packed());
+    forgetLast();
+    Source &source = find(report, keyOf(report).packed());
+    if (report.record) {
+        m_last = &source;
         m_lastUap = report.record->uap;
-        m_lastCode = code;
+        m_lastCode = sourceIn(*report.record);
     }
-    return *m_last;
+    return source;
 }
 
 SourceMonitor::Key SourceMonitor::keyOf(const TakenReport &report) const
@@ -198,7 +162,7 @@ SourceMonitor::Key SourceMonitor::keyOf(const TakenReport &report) const
     Key key{report.form, report.category, static_cast<quint8>(m_endpoint)};
     _ast_sacsic_t code;
     if (report.record) {
-        code = sourceOfRecord(*report.record);
+        code = sourceIn(*report.record);
     } else if (report.sirM) {
         code = {true, 0, static_cast<quint8>(report.sirM->radarId())};
     } else if (report.form == TakenReport::Form::Asterix && report.category != 0) {
@@ -253,7 +217,7 @@ SourceMonitor::Source *SourceMonitor::makeRoom()
     std::size_t victim = m_sources.size();
     for (std::size_t i = 0; i < m_sources.size(); ++i) {
         const auto weight = [](const Source &source) {
-            return std::pair(source.values.records, source.values.lastArrivalMs);
+            return std::pair(source.records(), source.values.lastArrivalMs);
         };
         if (!m_sources[i]->isRegular(m_bucket)
             && (victim == m_sources.size() || weight(*m_sources[i]) < weight(*m_sources[victim]))) {
@@ -269,6 +233,11 @@ SourceMonitor::Source *SourceMonitor::makeRoom()
     m_keys.pop_back();
     *m_sources.back() = {};
     return m_sources.back().get();
+}
+
+quint64 SourceMonitor::Source::records() const
+{
+    return std::accumulate(values.outcomes.begin(), values.outcomes.end(), quint64{0});
 }
 
 // Heard in more than one stretch of ten seconds, and not so long ago.
@@ -289,7 +258,7 @@ quint32 SourceMonitor::Source::recordsIn(qint64 firstSecond, qint64 span) const
 void SourceMonitor::Source::forgetTime()
 {
     seconds.fill(0);
-    countedRecords = values.records;
+    countedRecords = records();
     lastBucket = 0;
     nextExampleMs.fill(0);
     delay = {};
@@ -316,6 +285,15 @@ void SourceMonitor::beginIn(Source &source, const TakenReport &report)
             source.delay.add(m_clock->nowMs(), report.sirM->timeOfDay() / 1000.0, DaySeconds);
         }
         measureSirM(source.antenna, *report.sirM, m_clock->nowMs());
+    }
+}
+
+void SourceMonitor::measure(Source &source, const TakenReport &report) const
+{
+    if (report.record && report.fate.outcome == ReportOutcome::SourceStatus) {
+        measureAntenna(source, report);
+    } else if (report.record) {
+        measureVideo(source, report);
     }
 }
 
@@ -348,7 +326,7 @@ void SourceMonitor::measureVideo(Source &source, const TakenReport &report)
 
 void SourceMonitor::keepExample(Source &source, const TakenReport &report) const
 {
-    const auto outcome = static_cast<std::size_t>(report.outcome);
+    const auto outcome = static_cast<std::size_t>(report.fate.outcome);
     source.nextExampleMs[outcome] = m_nowMs + ExamplePeriodMs;
     ReportExample &example = source.values.examples[outcome];
     const qsizetype kept = std::min<qsizetype>(report.size, ReportExample::LargestSize);
@@ -364,9 +342,11 @@ InputStatistics SourceMonitor::statistics() const
     InputStatistics statistics = m_totals;
     statistics.timeMs = m_nowMs;
     statistics.others = m_others.values;
+    statistics.others.records = m_others.records();
     statistics.sources.reserve(static_cast<qsizetype>(m_sources.size()));
     for (const auto &source : m_sources) {
         SourceStatistics &values = statistics.sources.emplaceBack(source->values);
+        values.records = source->records();
         values.delay = source->delay.statistics();
         values.antenna = source->antenna.statistics();
         addRates(values, *source);

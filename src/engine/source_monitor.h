@@ -1,5 +1,6 @@
 #pragma once
 
+#include "asterix/asterix.h"
 #include "engine/antenna_meter.h"
 #include "engine/delay_meter.h"
 #include "engine/source_statistics.h"
@@ -35,7 +36,10 @@ public:
         ++m_totals.messages;
         m_totals.octets += static_cast<quint64>(octets);
         m_totals.lastMessageMs = m_nowMs;
-        m_endpoint = endpoint;
+        if (endpoint != m_endpoint) {
+            m_endpoint = endpoint;
+            forgetLast();
+        }
     }
     void beginBlock(std::size_t octets)
     {
@@ -47,17 +51,33 @@ public:
 
     void setBacklog(const InputBacklog &backlog) { m_totals.backlog = backlog; }
 
-    void take(const TakenReport &report) override;
+    // Most records come from where the last one came, and need nothing but counting.
+    void take(const TakenReport &report) override
+    {
+        Source &source = report.record && isAsLast(*report.record) ? *m_last : sourceOf(report);
+        const auto outcome = static_cast<std::size_t>(report.fate.outcome);
+        ++source.values.outcomes[outcome];
+        if (source.lastBlock != m_block) {
+            beginIn(source, report);
+        }
+        if (m_nowMs >= source.nextExampleMs[outcome]) {
+            keepExample(source, report);
+        }
+        if (report.fate.outcome == ReportOutcome::SourceStatus || report.category == VideoCategory) {
+            measure(source, report);
+        }
+    }
 
     // Everything but what the engine knows of its input.
     InputStatistics statistics() const;
 
 private:
     // Whole buckets, and the one under way.
+    static constexpr quint8 VideoCategory = 240;
     static constexpr int Seconds = (SourceStatistics::HistoryBuckets + 1) * SourceStatistics::BucketSeconds;
 
     struct Source {
-        SourceStatistics values;
+        SourceStatistics values; // but for the records, which are the sum of the outcomes
         quint64 lastMessage = 0; // as counted by the input
         quint64 lastBlock = 0;
         quint64 countedRecords = 0; // those in the seconds
@@ -69,6 +89,7 @@ private:
         AntennaMeter antenna;
         quint32 videoSequence = 0; // of the last record of CAT240
 
+        quint64 records() const;
         bool isRegular(qint64 bucket) const;
         quint32 recordsIn(qint64 firstSecond, qint64 span) const;
         void forgetTime();
@@ -89,11 +110,30 @@ private:
         quint64 packed() const;
     };
 
+    // All categories have the source as their first item.
+    static _ast_sacsic_t sourceIn(const _ast_datarecord_t &record)
+    {
+        const std::uint16_t at = record.itemOffsets[0];
+        return at == 0 ? _ast_sacsic_t{} : _ast_sacsic_t{true, record.data[at], record.data[at + 1]};
+    }
+    // Whether the last record was of the same source, on the same way, by the same description.
+    bool isAsLast(const _ast_datarecord_t &record) const
+    {
+        const std::uint16_t at = record.itemOffsets[0];
+        return record.uap == m_lastUap && (at != 0) == m_lastCode.present
+            && (at == 0 || (record.data[at] == m_lastCode.sac && record.data[at + 1] == m_lastCode.sic));
+    }
+    void forgetLast()
+    {
+        m_last = nullptr;
+        m_lastUap = nullptr;
+    }
     Source &sourceOf(const TakenReport &report);
     Key keyOf(const TakenReport &report) const;
     Source &find(const TakenReport &report, quint64 key);
     Source *makeRoom();
     void beginIn(Source &source, const TakenReport &report);
+    void measure(Source &source, const TakenReport &report) const;
     void measureAntenna(Source &source, const TakenReport &report) const;
     static void measureVideo(Source &source, const TakenReport &report);
     void keepExample(Source &source, const TakenReport &report) const;
@@ -116,8 +156,8 @@ private:
     std::vector<quint64> m_keys; // of the sources, packed, with their editions: searched through quickly
     std::vector<std::unique_ptr<Source>> m_sources;
     Source m_others;
-    // Where the last record's source was found.
+    // The last record's, where it was decoded.
     Source *m_last = nullptr;
     const void *m_lastUap = nullptr;
-    quint32 m_lastCode = 0; // endpoint, presence, SAC, SIC
+    _ast_sacsic_t m_lastCode;
 };

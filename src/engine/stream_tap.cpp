@@ -67,12 +67,12 @@ void StreamTap::take(const TakenReport &report)
     record.offset = store(batch, report.octets, record.size);
     record.fault = report.fault;
     record.faultOffset = report.faultOffset;
-    record.address = report.address.value_or(StreamBatch::NoAddress);
-    record.trackNumber = report.trackNumber;
-    record.sensorTrackNumber = report.sensorTrackNumber;
+    record.address = report.fate.address.value_or(StreamBatch::NoAddress);
+    record.trackNumber = report.fate.trackNumber;
+    record.sensorTrackNumber = report.fate.sensorTrackNumber;
     record.form = report.form;
     record.category = report.category;
-    record.outcome = report.outcome;
+    record.outcome = report.fate.outcome;
     if (report.record) {
         const _ast_sacsic_t source = ast_datarecord_get_sacsic(*report.record);
         record.uap = report.record->uap;

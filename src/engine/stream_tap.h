@@ -102,7 +102,6 @@ private:
 // The taps that are open on an engine; for its thread.
 class StreamTaps {
 public:
-    // Taps of records are to be told by the ledgers as well.
     void open(const std::shared_ptr<StreamTap> &tap) { m_taps.push_back(tap); }
     void close(const std::shared_ptr<StreamTap> &tap) { std::erase(m_taps, tap); }
 
@@ -110,6 +109,12 @@ public:
     {
         for (const auto &tap : m_taps) {
             tap->addMessage(message);
+        }
+    }
+    void take(const TakenReport &report)
+    {
+        for (const auto &tap : m_taps) {
+            tap->take(report);
         }
     }
     void flush()

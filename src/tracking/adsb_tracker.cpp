@@ -87,7 +87,8 @@ void AdsbTracker::procAsterixMessage(const _ast_datablock_t &block)
         return;
     }
     for (const auto &record : block.records) {
-        handIn(block, record, record.valid ? procCat021Record(record) : Taken{ReportOutcome::Malformed});
+        handIn(
+            block, record, [&] { return record.valid ? procCat021Record(record) : Taken{ReportOutcome::Malformed}; });
     }
 }
 

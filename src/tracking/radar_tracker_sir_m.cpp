@@ -133,14 +133,10 @@ void RadarTracker::handInSirM(const AleniaSirMRadarDataMessage &data, const Reco
     }
     TakenReport report;
     report.form = TakenReport::Form::AleniaSirM;
-    report.outcome = taken.outcome;
     report.octets = record.octets().data();
     report.size = static_cast<quint32>(record.octets().size());
     report.sirM = &data;
-    report.trackNumber = taken.trackNumber;
-    report.newestReport = taken.newestReport;
-    report.sensorTrackNumber = taken.identity.number;
-    report.place = taken.place;
+    report.fate = taken;
     ledger()->take(report);
 }
 
@@ -157,9 +153,9 @@ Tracker::Taken RadarTracker::procAleniaSirMTrackRecord(const AleniaSirMRadarTrac
 {
     const Identity identity{record.trackNumber(), {}, 0.0};
     if (record.trackType() == NoTrack || record.trackEnd()) {
-        const auto ended = trackManager().findTrackByOtherTrackNum(record.trackNumber());
-        trackManager().removeTrack(ended);
-        return {ReportOutcome::TrackEnd, ended ? ended->trackNumber() : 0, identity, {}};
+        const auto gone = trackManager().findTrackByOtherTrackNum(record.trackNumber());
+        trackManager().removeTrack(gone);
+        return ended(identity, gone ? gone->trackNumber() : 0);
     }
     const auto now = trackManager().now();
     const auto place = polarPlace(

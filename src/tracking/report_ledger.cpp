@@ -4,18 +4,11 @@
 #include "modes/mode_s_message.h"
 #include "sirm/alenia_sir_m_radar_message.h"
 
-void ReportLedgers::take(const TakenReport &report)
-{
-    for (ReportLedger *ledger : m_ledgers) {
-        ledger->take(report);
-    }
-}
-
 void ReportLedger::takeRecord(std::uint32_t category, const _ast_datarecord_t &record, ReportOutcome outcome)
 {
     TakenReport report;
     report.category = static_cast<quint8>(category);
-    report.outcome = outcome;
+    report.fate.outcome = outcome;
     report.octets = record.data;
     report.size = record.length;
     report.record = &record;
@@ -43,12 +36,12 @@ void ReportLedger::takeModeS(const korvane::modes::ModeSMessage &message, Report
 {
     TakenReport report;
     report.form = TakenReport::Form::ModeS;
-    report.outcome = outcome;
+    report.fate.outcome = outcome;
     report.octets = message.frame().octets;
     report.size = message.frame().length;
     report.modeS = &message;
     if (message.valid()) {
-        report.address = message.icaoAddr();
+        report.fate.address = message.icaoAddr();
     }
     if (outcome == ReportOutcome::Malformed) {
         report.fault = faultOf(message);
@@ -60,7 +53,7 @@ void ReportLedger::takeSirM(const AleniaSirMRadarMessage &message, ReportOutcome
 {
     TakenReport report;
     report.form = TakenReport::Form::AleniaSirM;
-    report.outcome = outcome;
+    report.fate.outcome = outcome;
     report.sirM = &message;
     const auto *data = dynamic_cast<const AleniaSirMRadarDataMessage *>(&message);
     if (!data || (data->plotRecords().empty() && data->trackRecords().empty())) {

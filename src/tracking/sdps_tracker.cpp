@@ -131,7 +131,7 @@ Tracker::Taken SdpsTracker::procCat062Message(const _ast_datarecord_062_t &recor
         return {ReportOutcome::NoIdentity};
     }
     if (record.i080.present && record.i080.tse) {
-        return {ReportOutcome::TrackEnd, endTrack(identity, now), identity, {}};
+        return ended(identity, endTrack(identity, now));
     }
     const auto plane = planePosition(record.i105, record.i100);
     const auto place = reportedPlace(record.i105, plane);

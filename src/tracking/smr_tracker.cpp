@@ -51,7 +51,7 @@ Tracker::Taken SmrTracker::procCat010Message(const _ast_datarecord_010_t &record
     }
     const Identity identity{record.i161.trackNumber, {}, 0.0};
     if (!record.i040.present) {
-        return place ? takenAsPlot(place, record.i020.tst) : Taken{ReportOutcome::NoPosition, 0, identity, {}};
+        return place ? takenAsPlot(place, record.i020.tst) : notPlaced(identity);
     }
     const auto track = findOrCreate(identity.number);
     if (!track) {

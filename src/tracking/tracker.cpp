@@ -60,33 +60,22 @@ void Tracker::procAleniaSirMMessage(const QSharedPointer<AleniaSirMRadarMessage>
     }
 }
 
-void Tracker::handIn(const _ast_datablock_t &block, const _ast_datarecord_t &record, const Taken &taken) const
-{
-    if (!m_ledger) {
-        return;
-    }
-    // All at once: clearing it first costs more than all the rest. Values that have just been written in parts are not
-    // there yet to be read as a whole.
-    m_ledger->take({TakenReport::Form::Asterix, static_cast<quint8>(block.category), taken.outcome, record.length,
-        record.data, &record, nullptr, nullptr, taken.trackNumber, taken.newestReport, taken.identity.number,
-        taken.identity.address ? std::optional(*taken.identity.address) : std::nullopt,
-        taken.place ? std::optional(QPointF(taken.place->x(), taken.place->y())) : std::nullopt, nullptr, 0});
-}
-
 void Tracker::handIn(const korvane::modes::ModeSMessage &message, const Taken &taken) const
 {
     if (!m_ledger) {
         return;
     }
     const auto &frame = message.frame();
-    m_ledger->take({TakenReport::Form::ModeS, 0, taken.outcome, frame.length, frame.octets, nullptr, &message, nullptr,
-        taken.trackNumber, taken.newestReport, taken.identity.number, message.icaoAddr(), taken.place, nullptr, 0});
+    TakenReport report{
+        TakenReport::Form::ModeS, 0, frame.length, frame.octets, nullptr, &message, nullptr, nullptr, 0, taken};
+    report.fate.address = message.icaoAddr();
+    m_ledger->take(report);
 }
 
 void Tracker::refuse(const _ast_datablock_t &block) const
 {
     for (const auto &record : block.records) {
-        handIn(block, record, {ReportOutcome::WrongSensorKind});
+        handIn(block, record, [] { return Taken{ReportOutcome::WrongSensorKind}; });
     }
 }
 
@@ -171,7 +160,7 @@ unsigned int Tracker::endTrack(const Identity &identity, const QDateTime &now)
 // A track whose report has no place is shown at its last one.
 Tracker::Taken Tracker::takenBy(Track &track, const Identity &identity, const std::optional<Place> &place)
 {
-    Taken taken{ReportOutcome::Track, track.trackNumber(), identity, {}, &track.newestReport()};
+    Taken taken{ReportOutcome::Track, track.trackNumber(), &track.newestReport(), identity.number, identity.address};
     if (place && place->valid) {
         taken.place = place->plane;
     } else if (place) {
@@ -190,13 +179,24 @@ Tracker::Taken Tracker::takenAsPlot(const std::optional<Place> &place, bool isTe
     if (!place->valid) {
         return {ReportOutcome::OutOfRange};
     }
-    return {isTest ? ReportOutcome::TestTarget : ReportOutcome::Plot, 0, {}, place->plane};
+    return {isTest ? ReportOutcome::TestTarget : ReportOutcome::Plot, 0, nullptr, 0, {}, place->plane};
 }
 
 Tracker::Taken Tracker::notNumbered(const Identity &identity, const std::optional<Place> &place)
 {
     const bool placed = place && place->valid;
-    return {ReportOutcome::NoTrackNumber, 0, identity, placed ? std::optional(place->plane) : std::nullopt};
+    return {ReportOutcome::NoTrackNumber, 0, nullptr, identity.number, identity.address,
+        placed ? std::optional(place->plane) : std::nullopt};
+}
+
+Tracker::Taken Tracker::notPlaced(const Identity &identity)
+{
+    return {ReportOutcome::NoPosition, 0, nullptr, identity.number, identity.address};
+}
+
+Tracker::Taken Tracker::ended(const Identity &identity, unsigned int trackNumber)
+{
+    return {ReportOutcome::TrackEnd, trackNumber, nullptr, identity.number, identity.address};
 }
 
 QSharedPointer<Track> Tracker::findByNumber(unsigned int number)

@@ -71,14 +71,7 @@ protected:
         }
     }
 
-    // What became of a report.
-    struct Taken {
-        ReportOutcome outcome = ReportOutcome::NoReader;
-        unsigned int trackNumber = 0; // of the system; 0: none
-        Identity identity = {};
-        std::optional<QPointF> place = {};
-        ReportLink *newestReport = nullptr; // of the track
-    };
+    using Taken = ReportFate;
 
     // Expands every record of a block that the category's disassembler reads and hands it on; the ledger is told what
     // each has become.
@@ -88,10 +81,20 @@ protected:
         for (const auto &generic : block.records) {
             Record record;
             disassemble(&record, generic);
-            handIn(block, generic, record.valid ? takeRecord(record) : Taken{ReportOutcome::Malformed});
+            handIn(block, generic, [&] { return record.valid ? takeRecord(record) : Taken{ReportOutcome::Malformed}; });
         }
     }
-    void handIn(const _ast_datablock_t &block, const _ast_datarecord_t &record, const Taken &taken) const;
+    // take() does what there is to do with the record, and says what became of it: where the ledger is to find it,
+    // since copying it costs more than all that the ledger does.
+    template <typename Take>
+    void handIn(const _ast_datablock_t &block, const _ast_datarecord_t &record, Take take) const
+    {
+        const TakenReport report{TakenReport::Form::Asterix, static_cast<quint8>(block.category), record.length,
+            record.data, &record, nullptr, nullptr, nullptr, 0, take()};
+        if (m_ledger) {
+            m_ledger->take(report);
+        }
+    }
     void handIn(const korvane::modes::ModeSMessage &message, const Taken &taken) const;
     // What sensors of this kind do not send.
     void refuse(const _ast_datablock_t &block) const;
@@ -129,6 +132,9 @@ protected:
     // A report that names no track, or whose track got no number.
     static Taken takenAsPlot(const std::optional<Place> &place, bool isTest);
     static Taken notNumbered(const Identity &identity, const std::optional<Place> &place);
+    static Taken notPlaced(const Identity &identity);
+    // A report that ended a track, which may be none: 0.
+    static Taken ended(const Identity &identity, unsigned int trackNumber);
 
     // The report of now is a plot.
     void addPlot(const QPointF &planePosition, Track::Type type, const QDateTime &now) const

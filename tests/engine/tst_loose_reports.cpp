@@ -3,7 +3,11 @@
 
 #include <QTest>
 
+#include <utility>
+
 namespace {
+
+constexpr int Room = 1000;
 
 void addLoose(LooseReports &reports, const QByteArray &octets, std::optional<QPointF> place = {}, qint64 timeMs = 0)
 {
@@ -11,8 +15,17 @@ void addLoose(LooseReports &reports, const QByteArray &octets, std::optional<QPo
     report.form = TakenReport::Form::ModeS;
     report.octets = reinterpret_cast<const unsigned char *>(octets.constData());
     report.size = static_cast<quint32>(octets.size());
-    report.place = place;
+    report.fate.place = place;
     reports.add(report, timeMs);
+}
+
+QList<QByteArray> takeNewOctets(LooseReports &reports)
+{
+    QList<QByteArray> given;
+    reports.takeNew([&given](const LooseReport &report, const unsigned char *octets) {
+        given.append(QByteArray(reinterpret_cast<const char *>(octets), static_cast<int>(report.size)));
+    });
+    return given;
 }
 
 // Told from all others, of that size.
@@ -41,31 +54,40 @@ void TestLooseReports::keepsNewest_data()
 {
     QTest::addColumn<QList<int>>("sizes"); // in turn
     QTest::addColumn<int>("fewest"); // that must be left
-    QTest::newRow("small ones: by number") << QList<int>{4} << 10;
-    QTest::newRow("large ones: by octets") << QList<int>{30} << 3;
-    QTest::newRow("of uneven sizes") << QList<int>{1, 33, 7, 50, 12} << 1;
-    QTest::newRow("as large as all the room") << QList<int>{100, 3} << 1;
-    QTest::newRow("one too large") << QList<int>{5, 101} << 10;
+    QTest::newRow("small ones") << QList<int>{4} << (Room - 64) / 56;
+    QTest::newRow("large ones") << QList<int>{330} << 1;
+    QTest::newRow("of uneven sizes") << QList<int>{1, 133, 7, 250, 12, 64, 31} << 3;
+    QTest::newRow("as large as all the room") << QList<int>{Room - 48, 3} << 1;
+    QTest::newRow("one too large") << QList<int>{5, Room - 47} << (Room - 64) / 56;
 }
 
-// Whatever makes room, what is left is the newest without a gap, octet for octet.
+// Whatever makes room, what is left is the newest without a gap, octet for octet; and what is new of it is given once.
 void TestLooseReports::keepsNewest()
 {
     QFETCH(QList<int>, sizes);
     QFETCH(int, fewest);
-    LooseReports reports(100, 10);
+    LooseReports reports(Room);
     QList<QByteArray> added;
+    qsizetype fresh = 0;
     for (int i = 0; i < 500; ++i) {
         const QByteArray octets = looseOctets(i, sizes[i % sizes.size()]);
         addLoose(reports, octets);
-        if (octets.size() <= 100) {
+        if (octets.size() <= Room - 48) {
             added.prepend(octets);
+            ++fresh;
         }
         const auto kept = reports.newest(1000);
-        QVERIFY(kept.size() <= 10);
+        QVERIFY(kept.size() * 48 <= Room);
         QVERIFY(kept.size() >= std::min<qsizetype>(fewest, added.size()));
         for (int k = 0; k < kept.size(); ++k) {
             QCOMPARE(kept[k].octets, added[k]);
+        }
+        if (i % 13 == 0) {
+            const QList<QByteArray> given = takeNewOctets(reports);
+            QCOMPARE(given.size(), std::min(std::exchange(fresh, 0), kept.size()));
+            for (int k = 0; k < given.size(); ++k) {
+                QCOMPARE(given[k], added[given.size() - 1 - k]);
+            }
         }
     }
     reports.clear();
@@ -76,7 +98,7 @@ void TestLooseReports::keepsNewest()
 
 void TestLooseReports::findsNearestPlace()
 {
-    LooseReports reports(1000, 100);
+    LooseReports reports(Room);
     addLoose(reports, "far", QPointF(5000.0, 0.0));
     addLoose(reports, "near", QPointF(100.0, 0.0), 1);
     addLoose(reports, "nearer", QPointF(40.0, 0.0), 2);
@@ -92,27 +114,20 @@ void TestLooseReports::findsNearestPlace()
 
 void TestLooseReports::givesEachOnce()
 {
-    LooseReports reports(1000, 10);
-    QStringList given;
-    const auto giveAll = [&] {
-        given.clear();
-        reports.takeNew([&given](const LooseReport &report, const unsigned char *octets) {
-            given.append(QString::fromLatin1(reinterpret_cast<const char *>(octets), static_cast<int>(report.size)));
-        });
-        return given.join(' ');
-    };
-    QCOMPARE(giveAll(), QString());
+    LooseReports reports(560); // ten of them
+    const auto giveAll = [&] { return takeNewOctets(reports).join(' '); };
+    QCOMPARE(giveAll(), QByteArray());
     addLoose(reports, "a");
     addLoose(reports, "b");
-    QCOMPARE(giveAll(), QString("a b"));
-    QCOMPARE(giveAll(), QString());
+    QCOMPARE(giveAll(), QByteArray("a b"));
+    QCOMPARE(giveAll(), QByteArray());
     for (int i = 0; i < 12; ++i) {
         addLoose(reports, QByteArray::number(i));
     }
-    QCOMPARE(giveAll(), QString("2 3 4 5 6 7 8 9 10 11")); // two have gone
+    QCOMPARE(giveAll(), QByteArray("2 3 4 5 6 7 8 9 10 11")); // two have gone
     addLoose(reports, "c");
     reports.clear();
-    QCOMPARE(giveAll(), QString());
+    QCOMPARE(giveAll(), QByteArray());
 }
 
 VYX_TEST(TestLooseReports)

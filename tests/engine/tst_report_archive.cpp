@@ -42,11 +42,11 @@ struct ArchiveRig {
         clock->now();
         TakenReport report;
         report.form = TakenReport::Form::ModeS;
-        report.outcome = outcome;
+        report.fate.outcome = outcome;
         report.octets = reinterpret_cast<const unsigned char *>(octets.constData());
         report.size = static_cast<quint32>(octets.size());
-        report.newestReport = track ? &track->newestReport() : nullptr;
-        report.address = 0x4B1A2C;
+        report.fate.newestReport = track ? &track->newestReport() : nullptr;
+        report.fate.address = 0x4B1A2C;
         archive.take(report);
     }
 
@@ -152,10 +152,10 @@ void TestReportArchive::keepsPlotsAndAlertsApart()
     ArchiveRig rig;
     rig.clock->now();
     TakenReport plot;
-    plot.outcome = ReportOutcome::Plot;
+    plot.fate.outcome = ReportOutcome::Plot;
     plot.octets = reinterpret_cast<const unsigned char *>("plot");
     plot.size = 4;
-    plot.place = QPointF(100.0, 0.0);
+    plot.fate.place = QPointF(100.0, 0.0);
     rig.archive.take(plot);
     rig.take("alert", ReportOutcome::Alert);
     const auto plots = rig.archive.answer({1, ReportQuestion::About::Place, 0, 0, {0.0, 0.0}, 200.0});

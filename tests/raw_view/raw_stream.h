@@ -20,7 +20,7 @@ public:
         for (const _ast_datarecord_t &record : decoded.records) {
             TakenReport report;
             report.category = static_cast<quint8>(decoded.category);
-            report.outcome = outcome;
+            report.fate.outcome = outcome;
             report.octets = record.data;
             report.size = record.length;
             report.record = &record;
