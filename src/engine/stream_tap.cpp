@@ -63,7 +63,7 @@ void StreamTap::take(const TakenReport &report)
     StreamBatch &batch = batchFor(report.size);
     StreamBatch::Record &record = batch.records.emplace_back();
     record.timeMs = m_clock->nowMs();
-    record.size = report.octets ? report.size : 0;
+    record.size = report.size;
     record.offset = store(batch, report.octets, record.size);
     record.fault = report.fault;
     record.faultOffset = report.faultOffset;

@@ -26,7 +26,7 @@ struct StreamBatch {
     struct Record {
         qint64 timeMs = 0;
         quint32 offset = 0;
-        quint32 size = 0; // 0: messages of SIR-M without records
+        quint32 size = 0;
         const korvane::asterix::Uap *uap = nullptr; // that decoded it; null in other forms and where nothing did
         const char *fault = nullptr; // static; null for records that are whole
         quint32 faultOffset = 0;

@@ -60,7 +60,7 @@ QByteArray reportJson(const KeptReport &report)
             korvane::asterix::Expansion::AsObject);
         return {text.text().data(), static_cast<qsizetype>(text.size())};
     }
-    const QByteArray key = report.form == TakenReport::Form::ModeS ? "frame" : "record";
+    const QByteArray key = report.form == TakenReport::Form::ModeS ? "frame" : "message";
     const QByteArray time = QByteArray::number(static_cast<double>(report.timeMs) / 1000.0, 'f', 3);
     return "{\"time\":" + time + ",\"" + key + "\":\"" + report.octets.toHex() + "\"}\n";
 }

@@ -1,5 +1,5 @@
 #include "explanation/report_view_forms.h"
-#include "sirm/alenia_sir_m_radar_records.h"
+#include "sirm/alenia_sir_m_radar_message.h"
 
 #include <QCoreApplication>
 
@@ -20,10 +20,62 @@ QString octal(unsigned code)
     return QString("%1").arg(code, 4, 8, QChar('0'));
 }
 
+// Bits from the first of the record on, which follows what is common to all records of the message.
 ReportField field(const char *key, const char *name, const QString &value, const char *unit, int first, int count)
 {
+    constexpr int FixedBits = 8 * static_cast<int>(AleniaSirMRadarMessage::FixedSize);
     return ReportField{QString::fromLatin1(key), QCoreApplication::translate("ReportView", name), {}, value,
-        QString::fromUtf8(unit), {first, count}};
+        QString::fromUtf8(unit), {FixedBits + first, count}};
+}
+
+ReportField fixedField(const char *key, const char *name, const QString &value, const char *unit, int first, int count)
+{
+    ReportField fixed = field(key, name, value, unit, first, count);
+    fixed.bits = {first, count};
+    return fixed;
+}
+
+QList<ReportField> headerFields(const AleniaSirMRadarMessage &message)
+{
+    const bool timed = message.timeOfDayValid();
+    const QString time = timed ? QString::number(message.timeOfDay() / 1000.0, 'f', 3)
+                               : QCoreApplication::translate("ReportView", "not known");
+    return {
+        fixedField("messageType", QT_TRANSLATE_NOOP("ReportView", "message type"),
+            number(static_cast<int>(message.type())), "", 0, 8),
+        fixedField("radar", QT_TRANSLATE_NOOP("ReportView", "radar"), number(message.radarId()), "", 8, 8),
+        fixedField(
+            "length", QT_TRANSLATE_NOOP("ReportView", "length of the message"), number(message.length()), "", 16, 16),
+        fixedField(timed ? "timeOfDay" : "noTimeOfDay", QT_TRANSLATE_NOOP("ReportView", "time of day"), time,
+            timed ? "s" : "", 32, 32),
+    };
+}
+
+QList<ReportField> northMarkerFields(const AleniaSirMRadarNorthMarkerMessage &message)
+{
+    return headerFields(message)
+        + QList<ReportField>{
+            fixedField("northOff", QT_TRANSLATE_NOOP("ReportView", "north not synchronised"),
+                flag(message.northNotSynchronized()), "", 64, 1),
+            fixedField("clockOff", QT_TRANSLATE_NOOP("ReportView", "clock not synchronised"),
+                flag(message.clockNotSynchronized()), "", 65, 1),
+            fixedField("rotationPeriod", QT_TRANSLATE_NOOP("ReportView", "rotation period"),
+                number(message.rotationPeriod()), "ms", 80, 16),
+        };
+}
+
+QList<ReportField> dataFields(const AleniaSirMRadarDataMessage &message)
+{
+    return headerFields(message)
+        + QList<ReportField>{
+            fixedField(
+                "sectorValid", QT_TRANSLATE_NOOP("ReportView", "sector valid"), flag(message.sectorValid()), "", 64, 1),
+            fixedField("sector", QT_TRANSLATE_NOOP("ReportView", "sector"), number(message.sector()), "", 76, 4),
+            fixedField("plots", QT_TRANSLATE_NOOP("ReportView", "plot records in the message"),
+                number(message.plotCount()), "", 80, 8),
+            fixedField("tracks", QT_TRANSLATE_NOOP("ReportView", "track records in the message"),
+                number(message.trackCount()), "", 88, 8),
+        };
 }
 
 QList<ReportField> plotFields(const AleniaSirMRadarPlotRecord &record)
@@ -71,19 +123,41 @@ QList<ReportField> trackFields(const AleniaSirMRadarTrackRecord &record)
     };
 }
 
+void viewRecord(const unsigned char *octets, qsizetype size, ReportView &view)
+{
+    if (size == static_cast<qsizetype>(AleniaSirMRadarTrackRecord::Size)) {
+        view.name = QCoreApplication::translate("ReportView", "Alenia SIR-M track record");
+        view.fields += trackFields(AleniaSirMRadarTrackRecord::fromOctets(octets));
+    } else if (size == static_cast<qsizetype>(AleniaSirMRadarPlotRecord::Size)) {
+        view.name = QCoreApplication::translate("ReportView", "Alenia SIR-M plot record");
+        view.fields += plotFields(AleniaSirMRadarPlotRecord::fromOctets(octets));
+    } else if (size == 0) {
+        view.name = QCoreApplication::translate("ReportView", "Alenia SIR-M sector without records");
+    } else {
+        view.fields.clear();
+    }
+}
+
 } // namespace
 
 void viewAleniaSirM(const KeptReport &report, ReportView &view)
 {
-    view.name = QCoreApplication::translate("ReportView", "Alenia SIR-M record");
+    constexpr auto FixedSize = static_cast<qsizetype>(AleniaSirMRadarMessage::FixedSize);
+    view.name = QCoreApplication::translate("ReportView", "Alenia SIR-M message that cannot be decoded");
     const auto *octets = reinterpret_cast<const unsigned char *>(report.octets.constData());
-    if (report.octets.size() == static_cast<qsizetype>(AleniaSirMRadarTrackRecord::Size)) {
-        view.category = ReportView::AleniaSirM;
-        view.name = QCoreApplication::translate("ReportView", "Alenia SIR-M track record");
-        view.fields = trackFields(AleniaSirMRadarTrackRecord::fromOctets(octets));
-    } else if (report.octets.size() == static_cast<qsizetype>(AleniaSirMRadarPlotRecord::Size)) {
-        view.category = ReportView::AleniaSirM;
-        view.name = QCoreApplication::translate("ReportView", "Alenia SIR-M plot record");
-        view.fields = plotFields(AleniaSirMRadarPlotRecord::fromOctets(octets));
+    const auto type =
+        report.octets.isEmpty() ? AleniaSirMRadarMessage::Type() : AleniaSirMRadarMessage::Type(octets[0]);
+    const qsizetype recordSize = report.octets.size() - FixedSize;
+    if (type == AleniaSirMRadarMessage::Type::NorthMarker && recordSize == 0) {
+        AleniaSirMRadarNorthMarkerMessage message;
+        message.setFixedOctets(octets);
+        view.name = QCoreApplication::translate("ReportView", "Alenia SIR-M north marker");
+        view.fields = northMarkerFields(message);
+    } else if (type == AleniaSirMRadarMessage::Type::Data && recordSize >= 0) {
+        AleniaSirMRadarDataMessage message;
+        message.setFixedOctets(octets);
+        view.fields = dataFields(message);
+        viewRecord(octets + FixedSize, recordSize, view);
     }
+    view.category = view.fields.isEmpty() ? 0 : ReportView::AleniaSirM;
 }

@@ -72,6 +72,7 @@ constexpr ValueSource Sources[] = {
     {TrackValue::TimeOfDay, 21, "071", Last, ""},
     {TrackValue::TimeOfDay, 21, "030", Last, ""},
     {TrackValue::TimeOfDay, 21, "075", Last, ""},
+    {TrackValue::TimeOfDay, SirM, "timeOfDay", Last, ""},
     {TrackValue::TimeOfDay, 21, "077", Last, ""},
 
     {TrackValue::Position, 48, "040/RHO 040/THETA", Kept, Polar},

@@ -3,6 +3,7 @@
 #include "asterix/asterix.h"
 #include "astfile/pcap_writer.h"
 #include "explanation/report_view.h"
+#include "sirm/alenia_sir_m_radar_encoder.h"
 
 #include <QDateTime>
 #include <QSaveFile>
@@ -14,11 +15,34 @@ namespace {
 constexpr quint32 Loopback = 0x7F000001;
 constexpr quint16 ExportPort = 8600;
 
+// A message of SIR-M of which one record is kept, as if it had no other.
+QByteArray messageOf(const QByteArray &octets)
+{
+    const auto *record =
+        reinterpret_cast<const unsigned char *>(octets.constData()) + AleniaSirMRadarMessage::FixedSize;
+    const auto size = static_cast<std::size_t>(octets.size()) - AleniaSirMRadarMessage::FixedSize;
+    if (size == 0) {
+        return octets;
+    }
+    AleniaSirMRadarDataMessage message;
+    message.setFixedOctets(record - AleniaSirMRadarMessage::FixedSize);
+    if (size == AleniaSirMRadarTrackRecord::Size) {
+        message.addTrackRecord(AleniaSirMRadarTrackRecord::fromOctets(record));
+    } else {
+        message.addPlotRecord(AleniaSirMRadarPlotRecord::fromOctets(record));
+    }
+    const auto encoded = AleniaSirMRadarEncoder::encode(message);
+    return QByteArray(reinterpret_cast<const char *>(encoded.data()), static_cast<qsizetype>(encoded.size()));
+}
+
 // A data block around a record; what was no record stands as it came.
 QByteArray blockOf(const RawRecord &record)
 {
     const StreamBatch::Record &facts = record.facts();
     const QByteArray octets = record.kept().octets;
+    if (facts.form == TakenReport::Form::AleniaSirM && !facts.fault) {
+        return messageOf(octets);
+    }
     if (facts.form != TakenReport::Form::Asterix || !facts.uap) {
         return octets;
     }
@@ -38,10 +62,8 @@ QString exportCapture(const std::vector<RawRecord> &records, const QString &file
         if (!isWritten) {
             break;
         }
-        if (record.facts().size > 0) {
-            const auto time = QDateTime::fromMSecsSinceEpoch(record.facts().timeMs, Qt::UTC);
-            isWritten = writer.write(time, {Loopback, ExportPort}, {Loopback, ExportPort}, blockOf(record));
-        }
+        const auto time = QDateTime::fromMSecsSinceEpoch(record.facts().timeMs, Qt::UTC);
+        isWritten = writer.write(time, {Loopback, ExportPort}, {Loopback, ExportPort}, blockOf(record));
     }
     return isWritten && writer.close() ? QString() : writer.lastError();
 }

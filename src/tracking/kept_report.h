@@ -10,5 +10,5 @@ struct KeptReport {
     TakenReport::Form form = TakenReport::Form::Asterix;
     qint64 timeMs = 0; // when it arrived, since 1970 UTC; a recording's own time
     const korvane::asterix::Uap *uap = nullptr; // with which the record was decoded; null for other formats
-    QByteArray octets; // an ASTERIX record from its FSPEC on, a Mode S frame, a track record of Alenia SIR-M
+    QByteArray octets; // as TakenReport has them
 };

@@ -3,6 +3,8 @@
 #include "sensors/radar_sensor_info.h"
 #include "tracking/tracker.h"
 
+#include <span>
+
 class AleniaSirMRadarDataMessage;
 class AleniaSirMRadarNorthMarkerMessage;
 class AleniaSirMRadarPlotRecord;
@@ -57,8 +59,8 @@ private:
     void procAleniaSirMDataMessage(const AleniaSirMRadarDataMessage &data);
     Taken procAleniaSirMPlotRecord(const AleniaSirMRadarPlotRecord &record);
     Taken procAleniaSirMTrackRecord(const AleniaSirMRadarTrackRecord &record);
-    template <typename Record>
-    void handInSirM(const AleniaSirMRadarDataMessage &data, const Record &record, const Taken &taken) const;
+    void handInSirM(
+        const AleniaSirMRadarDataMessage &data, std::span<const unsigned char> record, const Taken &taken) const;
 
     QSharedPointer<RadarSensorInfo> m_sensor;
     PolarOrigin m_site;

@@ -118,26 +118,19 @@ void RadarTracker::procAleniaSirMDataMessage(const AleniaSirMRadarDataMessage &d
         ledger()->takeSirM(data, data.sectorValid() ? ReportOutcome::SourceStatus : ReportOutcome::Incomplete);
     }
     for (const auto &record : data.plotRecords()) {
-        handInSirM(data, record, procAleniaSirMPlotRecord(record));
+        handInSirM(data, record.octets(), procAleniaSirMPlotRecord(record));
     }
     for (const auto &record : data.trackRecords()) {
-        handInSirM(data, record, procAleniaSirMTrackRecord(record));
+        handInSirM(data, record.octets(), procAleniaSirMTrackRecord(record));
     }
 }
 
-template <typename Record>
-void RadarTracker::handInSirM(const AleniaSirMRadarDataMessage &data, const Record &record, const Taken &taken) const
+void RadarTracker::handInSirM(
+    const AleniaSirMRadarDataMessage &data, std::span<const unsigned char> record, const Taken &taken) const
 {
-    if (!ledger()) {
-        return;
+    if (ledger()) {
+        ledger()->takeSirM(data, record, taken);
     }
-    TakenReport report;
-    report.form = TakenReport::Form::AleniaSirM;
-    report.octets = record.octets().data();
-    report.size = static_cast<quint32>(record.octets().size());
-    report.sirM = &data;
-    report.fate = taken;
-    ledger()->take(report);
 }
 
 Tracker::Taken RadarTracker::procAleniaSirMPlotRecord(const AleniaSirMRadarPlotRecord &record)

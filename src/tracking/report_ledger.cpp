@@ -4,6 +4,9 @@
 #include "modes/mode_s_message.h"
 #include "sirm/alenia_sir_m_radar_message.h"
 
+#include <algorithm>
+#include <array>
+
 void ReportLedger::takeRecord(std::uint32_t category, const _ast_datarecord_t &record, ReportOutcome outcome)
 {
     TakenReport report;
@@ -51,22 +54,30 @@ void ReportLedger::takeModeS(const korvane::modes::ModeSMessage &message, Report
 
 void ReportLedger::takeSirM(const AleniaSirMRadarMessage &message, ReportOutcome outcome)
 {
-    TakenReport report;
-    report.form = TakenReport::Form::AleniaSirM;
-    report.fate.outcome = outcome;
-    report.sirM = &message;
     const auto *data = dynamic_cast<const AleniaSirMRadarDataMessage *>(&message);
     if (!data || (data->plotRecords().empty() && data->trackRecords().empty())) {
-        take(report);
+        takeSirM(message, {}, {outcome});
         return;
     }
-    const auto takeAll = [&](const auto &records) {
-        for (const auto &record : records) {
-            report.octets = record.octets().data();
-            report.size = static_cast<quint32>(record.octets().size());
-            take(report);
-        }
-    };
-    takeAll(data->plotRecords());
-    takeAll(data->trackRecords());
+    for (const auto &record : data->plotRecords()) {
+        takeSirM(message, record.octets(), {outcome});
+    }
+    for (const auto &record : data->trackRecords()) {
+        takeSirM(message, record.octets(), {outcome});
+    }
+}
+
+void ReportLedger::takeSirM(
+    const AleniaSirMRadarMessage &message, std::span<const unsigned char> record, const ReportFate &fate)
+{
+    std::array<unsigned char, AleniaSirMRadarMessage::FixedSize + AleniaSirMRadarTrackRecord::Size> octets;
+    std::copy(record.begin(), record.end(),
+        std::copy(message.fixedOctets().begin(), message.fixedOctets().end(), octets.begin()));
+    TakenReport report;
+    report.form = TakenReport::Form::AleniaSirM;
+    report.octets = octets.data();
+    report.size = static_cast<quint32>(AleniaSirMRadarMessage::FixedSize + record.size());
+    report.sirM = &message;
+    report.fate = fate;
+    take(report);
 }

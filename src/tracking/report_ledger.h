@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 
 class AleniaSirMRadarMessage;
 struct _ast_datarecord_t;
@@ -60,6 +61,8 @@ public:
     void takeModeS(const korvane::modes::ModeSMessage &message, ReportOutcome outcome);
     // Every record of a message, or the message itself where it has none.
     void takeSirM(const AleniaSirMRadarMessage &message, ReportOutcome outcome);
+    // One of them: its octets, none for the message itself.
+    void takeSirM(const AleniaSirMRadarMessage &message, std::span<const unsigned char> record, const ReportFate &fate);
 
 protected:
     ReportLedger() = default;

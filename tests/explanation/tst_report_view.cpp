@@ -1,5 +1,5 @@
 #include "kept_reports.h"
-#include "sirm/alenia_sir_m_radar_records.h"
+#include "sirm/alenia_sir_m_radar_message.h"
 #include "test_program.h"
 
 #include <QTest>
@@ -12,6 +12,17 @@ QString fieldText(const ReportView &view, const char *key)
     return field ? QString("%1 @%2+%3").arg(field->text()).arg(field->bits.first).arg(field->bits.count) : QString();
 }
 
+class KeepingLedger final : public ReportLedger {
+public:
+    void take(const TakenReport &report) override
+    {
+        const auto *octets = reinterpret_cast<const char *>(report.octets);
+        reports.append({report.form, 0, nullptr, QByteArray(octets, static_cast<qsizetype>(report.size))});
+    }
+
+    QList<KeptReport> reports;
+};
+
 } // namespace
 
 class TestReportView : public QObject {
@@ -22,7 +33,7 @@ private Q_SLOTS:
     void takesRegistersApart();
     void takesFrameApart_data();
     void takesFrameApart();
-    void takesSirMRecordApart();
+    void takesSirMMessagesApart();
     void survivesNonsense_data();
     void survivesNonsense();
     void findsNarrowestField();
@@ -95,23 +106,54 @@ void TestReportView::takesFrameApart()
     QTEST(fieldText(view, key.constData()), "field");
 }
 
-void TestReportView::takesSirMRecordApart()
+// What is common to the records of a message stands before each of them, as it came.
+void TestReportView::takesSirMMessagesApart()
 {
-    AleniaSirMRadarTrackRecord record;
-    record.setTrackNumber(77);
-    record.setPosition(12.5, -3.0);
-    record.setModeACode(01234);
-    record.setTrackEnd(true);
-    const auto &octets = record.octets();
-    const auto view = viewReport({TakenReport::Form::AleniaSirM, 0, nullptr,
-        QByteArray(reinterpret_cast<const char *>(octets.data()), static_cast<qsizetype>(octets.size()))});
+    AleniaSirMRadarTrackRecord track;
+    track.setTrackNumber(77);
+    track.setPosition(12.5, -3.0);
+    track.setModeACode(01234);
+    track.setTrackEnd(true);
+    AleniaSirMRadarPlotRecord plot;
+    plot.setPolar(64.0, 90.0);
+    AleniaSirMRadarDataMessage data;
+    data.setRadarId(7);
+    data.setTimeOfDay(36'000'500);
+    data.setSector(13);
+    data.addPlotRecord(plot);
+    data.addTrackRecord(track);
+    AleniaSirMRadarDataMessage empty;
+    empty.setSector(3);
+    AleniaSirMRadarNorthMarkerMessage north;
+    north.setRotationPeriod(4000);
+    KeepingLedger ledger;
+    ledger.takeSirM(data, ReportOutcome::Plot);
+    ledger.takeSirM(empty, ReportOutcome::SourceStatus);
+    ledger.takeSirM(north, ReportOutcome::SourceStatus);
+    QCOMPARE(ledger.reports.size(), 4);
+
+    const auto plotView = viewReport(ledger.reports[0]);
+    QCOMPARE(plotView.name, QString("Alenia SIR-M plot record"));
+    QCOMPARE(fieldText(plotView, "range"), QString("64 km @112+16"));
+    const auto view = viewReport(ledger.reports[1]);
     QCOMPARE(view.category, int(ReportView::AleniaSirM));
-    QCOMPARE(fieldText(view, "number"), QString("77 @0+16"));
-    QCOMPARE(fieldText(view, "x"), QString("12.5 km @32+32"));
-    QCOMPARE(fieldText(view, "squawk"), QString("1234 @132+12"));
+    QCOMPARE(fieldText(view, "radar"), QString("7 @8+8"));
+    QCOMPARE(fieldText(view, "length"), QString("48 @16+16"));
+    QCOMPARE(fieldText(view, "timeOfDay"), QString("36000.500 s @32+32"));
+    QCOMPARE(fieldText(view, "sector"), QString("13 @76+4"));
+    QCOMPARE(fieldText(view, "plots"), QString("1 @80+8"));
+    QCOMPARE(fieldText(view, "number"), QString("77 @96+16"));
+    QCOMPARE(fieldText(view, "x"), QString("12.5 km @128+32"));
+    QCOMPARE(fieldText(view, "squawk"), QString("1234 @228+12"));
     // Each flag stands where its setter put it.
     const ReportField *end = view.find("end");
     QCOMPARE(view.octets[end->bits.first / 8] >> (7 - end->bits.first % 8) & 1, 1);
+
+    QCOMPARE(viewReport(ledger.reports[2]).name, QString("Alenia SIR-M sector without records"));
+    QCOMPARE(fieldText(viewReport(ledger.reports[2]), "noTimeOfDay"), QString("not known @32+32"));
+    const auto northView = viewReport(ledger.reports[3]);
+    QCOMPARE(northView.name, QString("Alenia SIR-M north marker"));
+    QCOMPARE(fieldText(northView, "rotationPeriod"), QString("4000 ms @80+16"));
 }
 
 void TestReportView::survivesNonsense_data()

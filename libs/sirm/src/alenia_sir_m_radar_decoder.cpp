@@ -51,9 +51,7 @@ Error findHeaderFault(const unsigned char *octets, std::size_t length, std::size
 std::unique_ptr<AleniaSirMRadarMessage> decodeNorthMarker(const unsigned char *octets)
 {
     auto message = std::make_unique<AleniaSirMRadarNorthMarkerMessage>();
-    message->setNorthNotSynchronized(bitsOf(octets, north_marker::NorthNotSynchronized) != 0);
-    message->setClockNotSynchronized(bitsOf(octets, north_marker::ClockNotSynchronized) != 0);
-    message->setRotationPeriod(bitsOf(octets, north_marker::RotationPeriod));
+    message->setFixedOctets(octets);
     return message;
 }
 
@@ -62,9 +60,7 @@ std::unique_ptr<AleniaSirMRadarMessage> decodeData(const unsigned char *octets)
     auto message = std::make_unique<AleniaSirMRadarDataMessage>();
     const std::size_t plots = bitsOf(octets, data::PlotCount);
     const std::size_t tracks = bitsOf(octets, data::TrackCount);
-    if (bitsOf(octets, data::SectorValid) != 0) {
-        message->setSector(bitsOf(octets, data::Sector));
-    }
+    message->setFixedOctets(octets);
     message->reserve(plots, tracks);
     const unsigned char *const plotOctets = octets + data::Size;
     for (std::size_t i = 0; i < plots; ++i) {
@@ -97,8 +93,6 @@ AleniaSirMRadarDecoder::Result AleniaSirMRadarDecoder::decode(const unsigned cha
         return failure(Error::LengthMismatch, header::Length.offset);
     }
     result.message = isData ? decodeData(octets) : decodeNorthMarker(octets);
-    result.message->setRadarId(bitsOf(octets, header::RadarId));
-    result.message->setTimeOfDay(bitsOf(octets, header::TimeOfDay));
     return result;
 }
 

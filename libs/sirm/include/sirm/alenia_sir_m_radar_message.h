@@ -5,7 +5,8 @@
 #include <vector>
 
 // What all messages of the radar have in common. Messages are plain values behind a base class: copy them, hold them in
-// any smart pointer. No member function locks or fails.
+// any smart pointer. No member function locks or fails. Like records, they keep the octets that they begin with as they
+// are on the wire: accessors read there, setters write there.
 class AleniaSirMRadarMessage {
 public:
     // Also the octet that names the type on the wire.
@@ -15,45 +16,50 @@ public:
     virtual Type type() const = 0;
 
     // Which radar of a site, 0 to 255.
-    unsigned radarId() const { return m_radarId; }
-    void setRadarId(unsigned id) { m_radarId = id & 0xFF; }
+    unsigned radarId() const;
+    void setRadarId(unsigned id);
 
-    // Milliseconds since midnight UTC, by the radar's clock; not valid from 86,400,000 on.
-    unsigned timeOfDay() const { return m_timeOfDay; }
-    bool timeOfDayValid() const { return m_timeOfDay < 86'400'000; }
-    void setTimeOfDay(unsigned milliseconds) { m_timeOfDay = milliseconds; }
+    // Milliseconds since midnight UTC, by the radar's clock; not valid from 86,400,000 on, as in a new message.
+    unsigned timeOfDay() const;
+    bool timeOfDayValid() const { return timeOfDay() < 86'400'000; }
+    void setTimeOfDay(unsigned milliseconds);
+
+    // Of the whole message, octets.
+    unsigned length() const;
+
+    // What comes before the records; of messages that have none, all of it.
+    static constexpr std::size_t FixedSize = 12; // octets
+    using FixedOctets = std::array<unsigned char, FixedSize>;
+    const FixedOctets &fixedOctets() const { return m_octets; }
+    // As received, in a message of this type. Length and counts are what they say until a record is added.
+    void setFixedOctets(const unsigned char *octets); // reads FixedSize octets
 
 protected:
-    AleniaSirMRadarMessage() = default;
+    explicit AleniaSirMRadarMessage(Type type);
     AleniaSirMRadarMessage(const AleniaSirMRadarMessage &) = default;
     AleniaSirMRadarMessage &operator=(const AleniaSirMRadarMessage &) = default;
 
-private:
-    unsigned m_radarId = 0;
-    unsigned m_timeOfDay = 86'400'000;
+    FixedOctets m_octets{};
 };
 
 // Sent whenever the antenna passes north.
 class AleniaSirMRadarNorthMarkerMessage final : public AleniaSirMRadarMessage {
 public:
+    AleniaSirMRadarNorthMarkerMessage() : AleniaSirMRadarMessage(Type::NorthMarker) { }
+
     Type type() const final { return Type::NorthMarker; }
 
     // The radar's azimuths do not start at true north.
-    bool northNotSynchronized() const { return m_northNotSynchronized; }
-    void setNorthNotSynchronized(bool notSynchronized) { m_northNotSynchronized = notSynchronized; }
+    bool northNotSynchronized() const;
+    void setNorthNotSynchronized(bool notSynchronized);
 
     // The radar's time of day follows no reference.
-    bool clockNotSynchronized() const { return m_clockNotSynchronized; }
-    void setClockNotSynchronized(bool notSynchronized) { m_clockNotSynchronized = notSynchronized; }
+    bool clockNotSynchronized() const;
+    void setClockNotSynchronized(bool notSynchronized);
 
     // One turn of the antenna in milliseconds, 0 to 65535; 0 when the radar does not say.
-    unsigned rotationPeriod() const { return m_rotationPeriod; }
+    unsigned rotationPeriod() const;
     void setRotationPeriod(unsigned milliseconds);
-
-private:
-    bool m_northNotSynchronized = false;
-    bool m_clockNotSynchronized = false;
-    unsigned m_rotationPeriod = 0;
 };
 
 // The plots and tracks of one sector.
@@ -62,13 +68,18 @@ public:
     // Of each kind of record; the counts on the wire are single octets.
     static constexpr std::size_t MaximumRecords = 255;
 
+    AleniaSirMRadarDataMessage() : AleniaSirMRadarMessage(Type::Data) { }
+
     Type type() const final { return Type::Data; }
 
     // One of the sixteen sectors of 22.5 degrees, 0 to 15, the first one beginning at north. Setting it makes it valid.
-    unsigned sector() const { return m_sector; }
-    bool sectorValid() const { return m_sectorValid; }
+    unsigned sector() const;
+    bool sectorValid() const;
     void setSector(unsigned sector);
 
+    // How many records of each kind it says that it has.
+    unsigned plotCount() const;
+    unsigned trackCount() const;
     const std::vector<AleniaSirMRadarPlotRecord> &plotRecords() const { return m_plotRecords; }
     const std::vector<AleniaSirMRadarTrackRecord> &trackRecords() const { return m_trackRecords; }
 
@@ -79,8 +90,8 @@ public:
     void reserve(std::size_t plots, std::size_t tracks);
 
 private:
-    unsigned m_sector = 0;
-    bool m_sectorValid = false;
+    void countRecords();
+
     std::vector<AleniaSirMRadarPlotRecord> m_plotRecords;
     std::vector<AleniaSirMRadarTrackRecord> m_trackRecords;
 };
