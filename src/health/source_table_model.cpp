@@ -10,6 +10,14 @@ namespace {
 
 constexpr int LightSize = 12; // pixels
 
+// Of titles and contents.
+int alignmentOf(int column)
+{
+    const bool isFigure =
+        column == SourceTableModel::Rate || column == SourceTableModel::Delay || column == SourceTableModel::Shown;
+    return int(isFigure ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
+}
+
 QString delayText(const DelayStatistics &delay)
 {
     return delay.samples == 0 ? QStringLiteral("---") : SourceJudge::delayText(delay.median);
@@ -65,8 +73,7 @@ QVariant SourceTableModel::data(const QModelIndex &index, int role) const
         return column == Source ? QVariant(lightPixmap(source.judgement.light, LightSize, qGuiApp->devicePixelRatio()))
                                 : QVariant();
     case Qt::TextAlignmentRole:
-        return int(column == Rate || column == Delay || column == Shown ? Qt::AlignRight | Qt::AlignVCenter
-                                                                        : Qt::AlignLeft | Qt::AlignVCenter);
+        return alignmentOf(column);
     case HistoryRole: {
         const auto &history = source.statistics.history;
         return QVariant::fromValue(QList<quint32>(history.begin(), history.end()));
@@ -100,6 +107,9 @@ QString SourceTableModel::text(const SourceHealth &source, int column) const
 
 QVariant SourceTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole) {
+        return alignmentOf(section);
+    }
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }

@@ -34,8 +34,7 @@ constexpr int Margin = 4;
 // Pixels, at first.
 constexpr int RuleLines = 2; // that the longest rule takes
 constexpr int ValuesWidth = 760;
-constexpr int ReportWidth = 470;
-constexpr int ReportListWidth = 180;
+constexpr int ReportWidth = 290;
 
 QString ageText(qint64 ms)
 {
@@ -100,7 +99,7 @@ QWidget *InspectionPane::makeExplanation()
     splitter->addWidget(left);
     splitter->addWidget(makeReportSide());
     splitter->setStretchFactor(0, 1);
-    splitter->setSizes({ValuesWidth, ReportWidth});
+    splitter->setSizes({ValuesWidth, m_reports->fullWidth() + ReportWidth});
     return splitter;
 }
 
@@ -132,7 +131,7 @@ QWidget *InspectionPane::makeReportSide()
     side->addWidget(m_reports);
     side->addWidget(report);
     side->setStretchFactor(1, 1);
-    side->setSizes({ReportListWidth, ReportWidth - ReportListWidth});
+    side->setSizes({m_reports->fullWidth(), ReportWidth});
     return side;
 }
 

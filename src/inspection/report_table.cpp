@@ -4,9 +4,14 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QStyle>
+
+#include <algorithm>
+#include <numeric>
 
 namespace {
 constexpr int Padding = 16; // pixels beside a cell's text
+constexpr int FirstLong = 2; // of the columns that may hold more than there is room for
 constexpr int LitAlpha = 70; // of the selection's colour
 } // namespace
 
@@ -31,10 +36,17 @@ ReportTable::ReportTable(const QStringList &titles, const QStringList &widest, Q
     horizontalHeader()->setStretchLastSection(true);
     for (int column = 0; column < columnCount(); ++column) {
         const int content = fontMetrics().horizontalAdvance(widest.value(column)) + Padding;
-        setColumnWidth(column, std::max(content, horizontalHeader()->sectionSizeHint(column)));
+        m_widths.append(std::max(content, horizontalHeader()->sectionSizeHint(column)));
+        setColumnWidth(column, m_widths.last());
     }
     connect(this, &QTableWidget::cellEntered, this, &ReportTable::noteHover);
     connect(this, &QAbstractItemView::viewportEntered, this, [this] { noteHover(-1); });
+}
+
+int ReportTable::fullWidth() const
+{
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return std::accumulate(m_widths.begin(), m_widths.end(), scrollBar);
 }
 
 void ReportTable::setRows(const QList<QStringList> &rows)
@@ -56,7 +68,7 @@ void ReportTable::setText(int row, int column, const QString &text)
     }
     if (cell->text() != text) {
         cell->setText(text);
-        cell->setToolTip(column == columnCount() - 1 ? text : QString()); // it may be cut
+        cell->setToolTip(column >= FirstLong ? text : QString()); // it may be cut
     }
 }
 

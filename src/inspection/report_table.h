@@ -11,6 +11,9 @@ public:
     // widest: a text for each column that it should hold; the last column takes what is left.
     ReportTable(const QStringList &titles, const QStringList &widest, QWidget *parent = nullptr);
 
+    // Pixels in which every column has what it should hold, and a scroll bar beside them.
+    int fullWidth() const;
+
     // Selection and scroll position stay with the row's number.
     void setRows(const QList<QStringList> &rows);
     // Lit up because something of the row is pointed at elsewhere.
@@ -28,6 +31,7 @@ private:
     void setText(int row, int column, const QString &text);
     void noteHover(int row);
 
+    QList<int> m_widths; // of the columns, for what they should hold
     QList<int> m_lit;
     int m_hoveredRow = -1;
 };
