@@ -6,9 +6,15 @@
 #include "window_frames.h"
 
 #include "demonstration/demo_traffic.h"
+#include "display/geo_track_display.h"
 #include "engine/data_engine.h"
+#include "engine/display_snapshot.h"
+#include "plan_view/geo_widget.h"
+#include "ui/actions.h"
 #include "ui/main_window.h"
 
+#include <QAction>
+#include <QDockWidget>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
@@ -71,7 +77,26 @@ struct Soak {
     QString scenario;
     QString speed;
     int minutes = 30;
+    bool isInspected = false; // with everything open that looks at what comes in
 };
+
+// A track is explained as soon as there is one.
+void inspect(MainWindow &window)
+{
+    const Actions &actions = *window.findChild<Actions *>();
+    actions[ActionId::RawView]->trigger();
+    window.findChild<QDockWidget *>("healthDock")->show();
+    auto *choose = new QTimer(&window);
+    QObject::connect(choose, &QTimer::timeout, &window, [&window, &actions, choose] {
+        const auto snapshot = window.newestSnapshot();
+        if (snapshot && !snapshot->tracks.isEmpty()) {
+            window.geoWidget()->trackDisplay()->setSelected(snapshot->tracks.first().incarnationId);
+            actions[ActionId::ExplainTrack]->trigger();
+            choose->deleteLater();
+        }
+    });
+    choose->start(1000);
+}
 
 int run(const Soak &soak)
 {
@@ -106,6 +131,9 @@ int run(const Soak &soak)
     double grown = 0.0;
     qint64 longestStall = 0;
     int minute = 0;
+    if (soak.isInspected) {
+        inspect(window);
+    }
     QTimer minutes;
     QObject::connect(&minutes, &QTimer::timeout, &window, [&] {
         ++minute;
@@ -151,6 +179,8 @@ int main(int argc, char *argv[])
             {"scenario", "Scenario to play (busy).", "NAME", "busy"},
             {"speed", "Times real time (8).", "F", "8"},
             {"minutes", "How long (30).", "N", "30"},
+            {"inspected", "With the raw view, input health and the explanation of a track open."},
         });
-    return run({program.text("scenario"), program.text("speed"), std::max(1, program.number("minutes"))});
+    return run({program.text("scenario"), program.text("speed"), std::max(1, program.number("minutes")),
+        program.isSet("inspected")});
 }

@@ -30,6 +30,7 @@ public:
 
     QString text(const QString &option) const { return m_options.value(option); }
     int number(const QString &option) const { return text(option).toInt(); }
+    bool isSet(const QString &option) const { return m_options.isSet(option); }
 
 private:
     QApplication m_application;
