@@ -22,18 +22,12 @@ struct Text {
 constexpr std::array TypesByWorth = {SdpsSensor, AdsbSensor, MlatSensor, RadarSensor, SmrSensor};
 
 // Data that are shown beside the tracks.
-constexpr int AlertCategory = 4;
 constexpr int WeatherCategory = 8;
 constexpr int VideoCategory = 240;
 
 bool hasPicture(const SourceFindings &source)
 {
     return source.find(WeatherCategory) || source.find(VideoCategory);
-}
-
-bool showsBesideTracks(const SourceFindings &source)
-{
-    return source.find(AlertCategory) || hasPicture(source);
 }
 
 // Whether the source had better be shown alone. Numbers of tracks mean nothing without their source, polar positions
@@ -65,9 +59,17 @@ QString whyNoTracks(const SourceFindings &source, SensorType type)
     }
     const bool identified = targetSum(source, type, &CategoryFindings::trackNumbers) > 0
         || (type != SmrSensor && targetSum(source, type, &CategoryFindings::addresses) > 0);
+    if (!identified && type == AdsbSensor) {
+        return Text::tr("Its reports carry no aircraft addresses, so they make no tracks.");
+    }
     if (!identified) {
-        return type == AdsbSensor ? Text::tr("Its reports carry no aircraft addresses, so they make no tracks.")
-                                  : Text::tr("Its reports carry no track numbers, so they make no tracks.");
+        const bool placed = targetSum(source, type, &CategoryFindings::polarPositions)
+                + targetSum(source, type, &CategoryFindings::cartesianPositions)
+                + targetSum(source, type, &CategoryFindings::wgs84Positions)
+            > 0;
+        return placed
+            ? Text::tr("Its reports carry no track numbers, so they make no tracks; the plot layer shows them.")
+            : Text::tr("Its reports carry no track numbers, so they make no tracks.");
     }
     switch (type) {
     case SmrSensor:
@@ -148,10 +150,7 @@ void InputProposal::chooseAsterix(const StreamFindings &findings, const SensorMa
         });
     takeSensor(best.type, source.sac, source.sic, sensors);
     describeSource(source, best.type);
-    const bool tracks = source.trackable(best.type) > 0;
-    m_shortfall = tracks ? QString() : whyNoTracks(source, best.type);
-    m_showsAnything = tracks || showsBesideTracks(source)
-        || (m_sourcesLeftOut == 0 && std::any_of(findings.sources.begin(), findings.sources.end(), showsBesideTracks));
+    m_shortfall = source.trackable(best.type) > 0 ? QString() : whyNoTracks(source, best.type);
 }
 
 // The sensor of the file with this identification, or a new one.
@@ -202,7 +201,6 @@ void InputProposal::chooseModeS(const ModeSFindings &modeS, const SensorManager 
 {
     takeSensor(AdsbSensor, 0, 0, sensors);
     m_sensor->setLocation(modeS.area.center);
-    m_showsAnything = modeS.aircraft > 0;
     if (modeS.aircraft == 0) {
         m_shortfall = Text::tr("It holds no extended squitters, without which there are no tracks.");
     } else if (modeS.area.positions == 0) {
@@ -219,7 +217,6 @@ void InputProposal::chooseSirM(const SirMFindings &sirM, const SensorManager &se
         m_rotationPeriodMissing = sirM.rotationPeriod <= 0.0;
         setRotationPeriod(sirM.rotationPeriod);
     }
-    m_showsAnything = sirM.tracks > 0;
     m_shortfall = sirM.tracks > 0 ? QString() : Text::tr("It holds no tracks.");
 }
 

@@ -21,8 +21,6 @@ public:
     bool siteMissing() const { return m_siteMissing; }
     // Nor was the time for one turn of its antenna found out.
     bool rotationPeriodMissing() const { return m_rotationPeriodMissing; }
-    // Whether there are tracks, weather, video or alerts to be seen.
-    bool showsAnything() const { return m_showsAnything; }
 
     // The answer to what is missing; period in seconds, of radars.
     void setSite(const GeoCoordinate &site);
@@ -51,7 +49,6 @@ private:
     bool m_fromSensorFile = false;
     bool m_siteMissing = false;
     bool m_rotationPeriodMissing = false;
-    bool m_showsAnything = false;
     qsizetype m_sourcesLeftOut = 0;
     QString m_shortfall;
 };
