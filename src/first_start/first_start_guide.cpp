@@ -23,7 +23,7 @@
 
 namespace {
 
-constexpr QSize UsualSize(38, 32); // lines of text
+constexpr QSize UsualSize(40, 39); // lines of text: a sensor, and what was found, without scrolling
 constexpr double StepHeadingScale = 1.3; // of the interface's font
 
 QLabel *makeNote(QWidget *parent)

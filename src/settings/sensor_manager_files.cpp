@@ -1,5 +1,6 @@
 // What the sensor manager does with files.
 
+#include "app/app_paths.h"
 #include "sensors/sensor_manager.h"
 #include "settings/sensor_list.h"
 #include "settings/sensor_manager_window.h"
@@ -146,7 +147,9 @@ bool SensorManagerWindow::save()
 
 bool SensorManagerWindow::saveAs()
 {
-    const QString fileName = QFileDialog::getSaveFileName(this, tr("Save Sensor File"), m_databaseFile, fileFilter());
+    const QString proposed =
+        m_databaseFile.isEmpty() ? AppPaths::appDataDir() + QStringLiteral("/sensors.json") : m_databaseFile;
+    const QString fileName = QFileDialog::getSaveFileName(this, tr("Save Sensor File"), proposed, fileFilter());
     return !fileName.isEmpty() && saveFile(fileName);
 }
 

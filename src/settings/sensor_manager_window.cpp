@@ -28,6 +28,11 @@ SensorManagerWindow::SensorManagerWindow(SensorManager *sensors, const QString &
     m_list->setToolTip(tr("In the order of the file; drag a sensor, or move it with Alt+Up and Alt+Down."));
     m_note->setObjectName(QStringLiteral("note"));
     m_note->setWordWrap(true);
+    // The buttons beside the list stay where they are when there is nothing to say any more.
+    m_note->setMinimumHeight(fontMetrics().height());
+    QSizePolicy policy = m_note->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_note->setSizePolicy(policy);
     auto *panes = new QHBoxLayout;
     panes->addWidget(m_list, 1);
     panes->addLayout(makeButtons());
