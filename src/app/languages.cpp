@@ -15,6 +15,8 @@ const QString English = QStringLiteral("en");
 const QString OwnTexts = QStringLiteral("vyxdisplay_");
 const QString ResourceFolder = QStringLiteral(":/translations");
 
+std::optional<QString> installedCode;
+
 // Of the folders the first wins that has the file, or one for the same language of no particular country.
 void installFirst(const QString &file, const QStringList &folders)
 {
@@ -47,8 +49,14 @@ QList<Languages::Language> Languages::available()
     return languages;
 }
 
+const std::optional<QString> &Languages::installed()
+{
+    return installedCode;
+}
+
 void Languages::install(const QString &code)
 {
+    installedCode = code;
     const QString language = code.isEmpty() ? QLocale::system().name() : code;
     const QString toolkit = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     installFirst("qtbase_" + language, {QString(), toolkit, ResourceFolder});

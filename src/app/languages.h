@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 // The languages that the program speaks. English is the language of the sources; each of the others is a file
 // "vyxdisplay_<code>.qm", in the working directory or among the resources.
 class Languages {
@@ -19,4 +21,6 @@ public:
     // empty code stands for the system's language. What is not translated stays English. Called once, before the first
     // window.
     static void install(const QString &code);
+    // The code that was installed last; nothing before.
+    static const std::optional<QString> &installed();
 };

@@ -148,6 +148,15 @@ void DataEngine::clearPicture()
     m_alertProcessor->resetAlertStatus();
 }
 
+void DataEngine::forgetPicture()
+{
+    if (!m_input) {
+        clearPicture();
+        publishSnapshot();
+        publishStatistics();
+    }
+}
+
 // Numbers and times of the run before mean nothing in the next one.
 void DataEngine::restartPicture()
 {

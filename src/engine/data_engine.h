@@ -69,14 +69,17 @@ public Q_SLOTS:
 
     // Opens the input that the configuration names. Answers with inputOpened or inputOpenFailed, both with requestId;
     // while an input is open it only logs a warning, and when its reading is cancelled the closeInput() that follows
-    // answers. replayStart, for recordings: where to begin; invalid: at the
-    // beginning. Tracks, alerts and counters of the input before are cleared, successful or not.
+    // answers. replayStart, for recordings: where to begin; invalid: at the beginning. Tracks, alerts and counters of
+    // the input before are cleared, successful or not.
     void openInput(const Config &config, const QSharedPointer<SensorInfo> &sensor, const QDateTime &replayStart,
         quint64 requestId);
 
     // Answers with inputClosed and the identifier of the request that opened the input; silent when nothing is open.
     // The last picture stays published and does not age.
     void closeInput();
+
+    // The last picture goes; nothing while an input is open.
+    void forgetPicture();
 
     // A paused live input is read and thrown away; a paused recording holds its position. The picture stands still, and
     // does not age, until a live input is resumed: then it has aged by the time that has passed.

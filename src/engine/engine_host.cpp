@@ -69,6 +69,11 @@ void EngineHost::closeInput()
     });
 }
 
+void EngineHost::forgetPicture()
+{
+    post([](DataEngine *engine) { engine->forgetPicture(); });
+}
+
 void EngineHost::pauseInput(bool paused)
 {
     post([paused](DataEngine *engine) { engine->pauseInput(paused); });

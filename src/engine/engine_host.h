@@ -53,6 +53,7 @@ public:
     void openInput(const Config &config, const QSharedPointer<SensorInfo> &sensor, const QDateTime &replayStart,
         quint64 requestId);
     void closeInput();
+    void forgetPicture();
     void pauseInput(bool paused);
     void setReplaySpeed(ReplaySpeed::Speed speed);
     void setReplayAutoRewind(bool on);

@@ -84,6 +84,7 @@ void ConfigWindow::addPages(SensorManager *sensors)
 {
     auto *display = new DisplayConfigPage(this);
     connect(display, &DisplayConfigPage::themeChosen, this, &ConfigWindow::takeTheme);
+    connect(display, &DisplayConfigPage::restartWanted, this, &ConfigWindow::applyForRestart);
     addPage(display);
     m_input = new InputConfigPage(sensors, this);
     m_input->offerUse();
@@ -282,6 +283,15 @@ bool ConfigWindow::apply()
     markChanges();
     Q_EMIT configApplied(m_config);
     return true;
+}
+
+// Not where the settings could not be saved: the next start would not know them.
+void ConfigWindow::applyForRestart()
+{
+    accept();
+    if (result() == Accepted) {
+        Q_EMIT restartWanted();
+    }
 }
 
 void ConfigWindow::takeTheme(const Theme &theme)

@@ -51,6 +51,8 @@ public:
 
 Q_SIGNALS:
     void configApplied(const Config &config);
+    // The settings are applied and the window is closed; the program is to be started again.
+    void restartWanted();
 
 private:
     void addPages(SensorManager *sensors);
@@ -65,6 +67,7 @@ private:
     void fitPageList();
     int widthOfAllPages() const;
     void showRefused(qsizetype page);
+    void applyForRestart();
     void takeTheme(const Theme &theme);
     void takeFound(const InputProposal &found);
     Config entered() const;

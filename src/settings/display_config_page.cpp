@@ -7,8 +7,10 @@
 #include "widgets/field_form.h"
 
 #include <QCompleter>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStyleFactory>
 #include <QTimeZone>
 
@@ -153,16 +155,35 @@ void DisplayConfigPage::addLanguageRow()
             if (language->findData(code) < 0) { // its file has gone
                 language->addItem(code, code);
             }
-            m_languageAtFirst = code;
+            m_spokenLanguage = Languages::installed().value_or(code);
             language->setCurrentIndex(language->findData(code));
         },
         [language] { return std::optional(language->currentData().toString()); });
-    auto *note = new QLabel(tr("The new language is spoken from the next start on."));
-    note->setObjectName("languageNote");
-    note->hide();
-    form()->addField(note);
+    auto *restart = makeRestartRow();
+    restart->hide();
+    form()->addField(restart);
     connect(language, &QComboBox::currentIndexChanged, this,
-        [this, language, note] { note->setVisible(language->currentData().toString() != m_languageAtFirst); });
+        [this, language, restart] { restart->setVisible(language->currentData().toString() != m_spokenLanguage); });
+}
+
+QWidget *DisplayConfigPage::makeRestartRow()
+{
+    auto *row = new QWidget;
+    row->setObjectName("languageNote");
+    auto *note = new QLabel(tr("The new language is spoken from the next start on."));
+    note->setWordWrap(true);
+    auto *button = new QPushButton(tr("Restart &Now"));
+    button->setObjectName("restartNow");
+    button->setAutoDefault(false);
+    button->setToolTip(
+        tr("Applies the settings, closes the program and starts it again as it was started. A live input "
+           "that is running is opened again."));
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins({});
+    layout->addWidget(note, 1);
+    layout->addWidget(button);
+    connect(button, &QPushButton::clicked, this, &DisplayConfigPage::restartWanted);
+    return row;
 }
 
 QString DisplayConfigPage::timeZoneProblem() const

@@ -17,17 +17,20 @@ public:
 Q_SIGNALS:
     // By the operator, who expects its values in all fields.
     void themeChosen(const Theme &theme);
+    // By the operator, who has chosen another language than the program speaks.
+    void restartWanted();
 
 private:
     void addThemeRow();
     void addPlanViewRows();
     void addWindowRows();
     void addLanguageRow();
+    QWidget *makeRestartRow();
     void addLogFileRows();
     void addLockRow();
     QString timeZoneProblem() const;
 
     CoordinateEdit *m_center = nullptr;
     QComboBox *m_timeZone = nullptr;
-    QString m_languageAtFirst; // before the operator chose another
+    QString m_spokenLanguage; // in this run
 };

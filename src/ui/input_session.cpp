@@ -54,6 +54,11 @@ QString InputSession::notice() const
     case State::Closed:
         break;
     }
+    return m_waiting ? tr("%1\nAnother attempt is made by itself.").arg(closedNotice()) : closedNotice();
+}
+
+QString InputSession::closedNotice() const
+{
     if (!m_sensor) {
         return tr(
             "No sensor is configured. Choose one in Settings (F10), then press Start; or let Help, Getting Started, "
@@ -70,6 +75,13 @@ void InputSession::setState(State state)
 {
     m_state = state;
     m_paused = false;
+    m_waiting = false;
+    Q_EMIT changed();
+}
+
+void InputSession::setWaiting()
+{
+    m_waiting = true;
     Q_EMIT changed();
 }
 
@@ -94,6 +106,12 @@ void InputSession::open()
 
 void InputSession::close()
 {
+    Q_EMIT stopAsked();
+    if (std::exchange(m_waiting, false)) {
+        Q_EMIT logMessage(LogLevel::Info, tr("No further attempt is made to open the input."));
+        Q_EMIT changed();
+        return;
+    }
     if (m_state == State::Closed) {
         Q_EMIT logMessage(LogLevel::Warning, tr("Inpput is not working now."));
         return;
@@ -163,9 +181,18 @@ void InputSession::end()
     }
 }
 
+void InputSession::forgetPicture()
+{
+    m_wasOpen = false;
+    m_fault.clear();
+    m_host->forgetPicture();
+    Q_EMIT changed();
+}
+
 bool InputSession::shutDown()
 {
     m_shuttingDown = true;
+    Q_EMIT stopAsked();
     if (m_state == State::Closed) {
         return false;
     }

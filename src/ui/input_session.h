@@ -45,8 +45,14 @@ public:
     QString description() const;
     // Those on which the open input takes datagrams that are no multicast.
     QSet<quint16> unicastPorts() const;
+    // It is closed, and will be opened again without anybody asking.
+    bool waiting() const { return m_waiting; }
+    void setWaiting();
     // Why the picture is empty or old; empty while it is neither.
     QString notice() const;
+
+    // The picture of the last input is not kept any longer.
+    void forgetPicture();
 
     // Ends the input with the program: whatever is under way, none opens any more. False when none was open; otherwise
     // shutDownDone() follows when the engine has closed it.
@@ -54,6 +60,7 @@ public:
 
 public Q_SLOTS:
     void open();
+    // Also ends the waiting for another attempt.
     void close();
     void pause(bool paused);
 
@@ -82,6 +89,8 @@ Q_SIGNALS:
     void recordingChosen(const QFileInfo &file);
     // Settings of these groups are those of the live input again, which is opened next.
     void settingsBroughtBack(SettingGroups changed);
+    // Nobody wants the input any more, whether or not one is open.
+    void stopAsked();
     // A request goes out: what the last input left behind is of no use now.
     void openingBegun();
     void opened();
@@ -93,6 +102,7 @@ Q_SIGNALS:
 
 private:
     bool isCurrent(quint64 requestId) const { return requestId == m_requestId; }
+    QString closedNotice() const;
     void end();
     void setState(State state);
 
@@ -104,6 +114,7 @@ private:
     bool m_wasOpen = false; // there is a last picture to look at
     QString m_fault; // of the newest request; empty: none
     bool m_paused = false;
+    bool m_waiting = false;
     bool m_shuttingDown = false;
     bool m_reopen = false; // as soon as the one that is being closed has closed
     QDateTime m_replayStart; // of the next opening; invalid: the beginning

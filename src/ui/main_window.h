@@ -68,6 +68,10 @@ public:
     explicit MainWindow(const std::function<void(Config &)> &overrides = {}, QWidget *parent = nullptr);
     ~MainWindow() override;
 
+    // What is to follow when this program has ended.
+    enum class Afterwards { Nothing, Start, StartWithInput };
+    Afterwards afterwards() const { return m_afterwards; }
+
     // Restores layout and window state. To be called once, after show(). A size is for this run only.
     void loadUi(const QSize &size = {});
 
@@ -86,6 +90,8 @@ public:
     RecordingOpener *recordingOpener() const;
     ThemeMenu *themes() const { return m_themes; }
     TileMaps *tileMaps() const { return m_tileMaps.get(); }
+    // From now on an input that the settings start with the program is opened again when it fails or ends by itself.
+    void keepInput();
     // No tile service is asked from now on, whatever the settings say.
     void barTileServices();
 
@@ -177,6 +183,8 @@ public Q_SLOTS:
     void exitApplication();
     // Closes without a question, whatever is open.
     void requestExit();
+    // Closes as the operator's Exit does, but for the question about the input, which is to go on afterwards.
+    void restart();
     void continueShutdown();
 
 Q_SIGNALS:
@@ -275,7 +283,7 @@ private:
     void saveUiState() const;
     void arrangeDocks();
     void connectWorkplace();
-    void closeMapsAndShutDown();
+    void closeMapsAndShutDown(Afterwards afterwards);
     bool confirm(const QString &title, const QString &text);
     void beginShutdown();
     void forceShutdown();
@@ -330,6 +338,7 @@ private:
     QSize m_sizeOfRun; // empty: as stored
     LogLevel m_minimumLevel = LogLevel::Info;
     Shutdown m_shutdown = Shutdown::NotBegun;
+    Afterwards m_afterwards = Afterwards::Nothing;
     struct {
         std::function<bool()> exit;
         std::function<bool()> stop;

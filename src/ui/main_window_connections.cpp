@@ -22,6 +22,7 @@
 #include "ui/layout_menu.h"
 #include "ui/map_windows.h"
 #include "ui/plot_switch.h"
+#include "ui/reopening.h"
 #include "ui/replay_controls.h"
 #include "ui/snapshot_pump.h"
 #include "ui/stats_window.h"
@@ -143,10 +144,27 @@ void MainWindow::connectFirstStart()
         takeRunSettings(changed);
         m_session->restart({});
     });
-    connect(start, &FirstStart::demoEnded, this, &MainWindow::takeRunSettings);
+    connect(start, &FirstStart::demoEnded, this, [this](SettingGroups changed) {
+        takeRunSettings(changed);
+        m_session->forgetPicture(); // made-up traffic over the operator's own maps could be taken for his
+    });
     connect(this, &MainWindow::inputOpened, start, &FirstStart::onInputOpened);
     connect(this, &MainWindow::inputClosed, start, &FirstStart::onInputClosed);
     connect(this, &MainWindow::inputFailed, start, &FirstStart::onInputClosed);
+}
+
+void MainWindow::keepInput()
+{
+    auto *reopening = new Reopening(m_session.get(), this);
+    connect(reopening, &Reopening::message, this, &MainWindow::showLog);
+    connect(reopening, &Reopening::due, this, [this] {
+        if (m_session->state() == InputSession::State::Closed) {
+            openInput();
+        }
+    });
+    // A recording ends as it should.
+    connect(m_session.get(), &InputSession::openingBegun, reopening,
+        [this, reopening] { reopening->setWanted(config().inputAutoStart && !m_session->replaying()); });
 }
 
 void MainWindow::connectInputActions()

@@ -143,6 +143,7 @@ void MainWindow::showConfigWindow()
     connect(m_session.get(), &InputSession::changed, window,
         [this, window] { window->setInputRunning(m_session->state() != InputSession::State::Closed); });
     connect(window, &ConfigWindow::configApplied, this, &MainWindow::takeSettings);
+    connect(window, &ConfigWindow::restartWanted, this, &MainWindow::restart);
     connect(window, &QDialog::finished, m_lock.get(),
         [this, before = m_config.live().settingsLock] { m_lock->lockIfNew(before); });
     connect(&m_config, &RunConfig::writeFailed, window, &ConfigWindow::showSaveProblem);

@@ -51,6 +51,9 @@ void MainWindow::loadUi(const QSize &size)
     if (!m_views->windows().empty()) {
         activateWindow(); // the others came later
     }
+    for (const auto &view : m_views->windows()) {
+        view->raise(); // none is forgotten behind this one
+    }
     m_geoWidget->setFocus();
 }
 
@@ -163,14 +166,24 @@ void MainWindow::closeEvent(QCloseEvent *event)
     if (m_shutdown == Shutdown::Begun || (m_session->state() != InputSession::State::Closed && !m_questions.exit())) {
         return;
     }
-    closeMapsAndShutDown();
+    closeMapsAndShutDown(Afterwards::Nothing);
+}
+
+// A recording and a demonstration are of the run that ends.
+void MainWindow::restart()
+{
+    const bool running = m_session->state() != InputSession::State::Closed || m_session->waiting();
+    const bool goesOn = running && !m_session->liveInputWaits() && !m_config.onTrial();
+    closeMapsAndShutDown(goesOn ? Afterwards::StartWithInput : Afterwards::Start);
 }
 
 // Not when the operator wants to look after his unsaved changes. While he was asked, or a map was written, the program
 // may have been told to end.
-void MainWindow::closeMapsAndShutDown()
+void MainWindow::closeMapsAndShutDown(Afterwards afterwards)
 {
-    if (m_mapWindows->close([this] { closeMapsAndShutDown(); }) && m_shutdown == Shutdown::NotBegun) {
+    if (m_mapWindows->close([this, afterwards] { closeMapsAndShutDown(afterwards); })
+        && m_shutdown == Shutdown::NotBegun) {
+        m_afterwards = afterwards;
         beginShutdown();
     }
 }

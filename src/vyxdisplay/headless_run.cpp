@@ -146,8 +146,7 @@ void HeadlessRun::begin()
     m_service.notify("READY=1");
 }
 
-// As they are in the file now: they may have been mended since, and a network interface may have come that was not
-// there before.
+// As they are in the file now: they may have been mended since.
 void HeadlessRun::readSettings()
 {
     Config config;
@@ -184,7 +183,7 @@ void HeadlessRun::openInput()
     }
     readSettings();
     if (!m_commandLine.exitAtEnd && !m_session.replaying()) { // a recording ends as it should
-        m_reopening.begin();
+        m_reopening.setWanted(true);
     }
     if (m_session.replaying() && (m_commandLine.sensorAuto || !m_session.sensor())) {
         m_opener.open(m_config.live().inputFileName.filePath());
@@ -195,12 +194,11 @@ void HeadlessRun::openInput()
 
 QString HeadlessRun::stop()
 {
-    const bool waited = m_reopening.end();
-    if (m_session.state() != InputSession::State::Closed) {
-        m_session.close();
-        return {};
+    if (m_session.state() == InputSession::State::Closed && !m_session.waiting()) {
+        return tr("No input is open.");
     }
-    return waited ? QString() : tr("No input is open.");
+    m_session.close();
+    return {};
 }
 
 QString HeadlessRun::saveScreenshot(const QString &)
@@ -292,7 +290,6 @@ void HeadlessRun::end()
         return;
     }
     m_service.notify("STOPPING=1");
-    m_reopening.end();
     m_opener.cancel();
     m_snapshotTimer.stop();
     if (!m_commandLine.snapshot.isEmpty()) {

@@ -11,8 +11,8 @@
 #include "silence/geo_last_place_map.h"
 #include "ui/input_session.h"
 #include "ui/recording_opener.h"
+#include "ui/reopening.h"
 #include "vyxdisplay/command_line.h"
-#include "vyxdisplay/reopening.h"
 #include "vyxdisplay/service_notifier.h"
 
 #include <QElapsedTimer>

@@ -21,7 +21,7 @@
 #include "vyxdisplay/exit_report.h"
 #include "vyxdisplay/first_frame.h"
 #include "vyxdisplay/headless_run.h"
-#include "vyxdisplay/reopening.h"
+#include "vyxdisplay/restart.h"
 #include "vyxdisplay/termination_signals.h"
 #include "vyxdisplay/window_control.h"
 #include "widgets/widget_style.h"
@@ -136,19 +136,6 @@ bool startsByItself(const CommandLine &commandLine, const StartGuard &guard, Mai
     return commandLine.demo || commandLine.start || window.config().inputAutoStart;
 }
 
-// At the start of the computer a network or a serial device may come later than the program.
-void keepTrying(Reopening &reopening, MainWindow &window)
-{
-    QObject::connect(&reopening, &Reopening::message, &window, &MainWindow::showLog);
-    QObject::connect(&window, &MainWindow::inputOpened, &reopening, &Reopening::end);
-    QObject::connect(&reopening, &Reopening::due, &window, [&window] {
-        if (window.session().state() == InputSession::State::Closed) {
-            window.openInput();
-        }
-    });
-    reopening.begin();
-}
-
 void offerControl(const CommandLine &commandLine, ControlServer &server, MainWindow &window)
 {
     if (commandLine.control.isEmpty()) {
@@ -161,16 +148,11 @@ void offerControl(const CommandLine &commandLine, ControlServer &server, MainWin
 }
 
 // At once where that was asked for, here or in the settings.
-void startInput(const CommandLine &commandLine, const StartGuard &guard, Reopening &reopening, MainWindow &window)
+void startInput(const CommandLine &commandLine, const StartGuard &guard, MainWindow &window)
 {
-    if (!startsByItself(commandLine, guard, window)) {
-        return;
+    if (startsByItself(commandLine, guard, window)) {
+        openInput(commandLine, window);
     }
-    const bool unattended = window.config().inputAutoStart && !commandLine.demo && !commandLine.exitAtEnd;
-    if (unattended && window.session().sensor()) { // which does not come by itself
-        keepTrying(reopening, window);
-    }
-    openInput(commandLine, window);
 }
 
 // The demonstration begins dark, as long as nobody has chosen another theme for it.
@@ -193,7 +175,7 @@ bool attended(const CommandLine &commandLine)
 
 // From the main window's construction to the end of the event loop.
 int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTraffic *demo, QSplashScreen &splash,
-    const QElapsedTimer &clock)
+    const QElapsedTimer &clock, MainWindow::Afterwards &afterwards)
 {
     MainWindow window([&commandLine, demo](Config &config) {
         if (demo) {
@@ -236,8 +218,10 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
     offerControl(commandLine, server, window);
     tellWhoKeepsSettings(window);
     const StartGuard guard;
-    Reopening reopening(&window.session());
-    startInput(commandLine, guard, reopening, window);
+    if (!demo && !commandLine.exitAtEnd) {
+        window.keepInput();
+    }
+    startInput(commandLine, guard, window);
     openFiles(commandLine, window);
     if (!commandLine.saysWhatToDo() && !QFileInfo::exists(AppPaths::configFile())) {
         window.showGettingStarted();
@@ -246,10 +230,12 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
         QTimer::singleShot(*commandLine.exitAfter, &window, &MainWindow::requestExit);
     }
     const int status = QApplication::exec();
+    afterwards = window.afterwards();
     return status != 0 || report.succeeded() ? status : 1;
 }
 
-int runApplication(int argc, char *argv[], const CommandLine &commandLine, const QElapsedTimer &clock)
+int runApplication(int argc, char *argv[], const CommandLine &commandLine, const QElapsedTimer &clock,
+    MainWindow::Afterwards &afterwards)
 {
     QApplication application(argc, argv);
     setApplicationIdentity();
@@ -280,7 +266,7 @@ int runApplication(int argc, char *argv[], const CommandLine &commandLine, const
     }
     QSplashScreen splash(QPixmap(":resource/local/splash.png"));
     showSplash(splash);
-    return runWindow(commandLine, themes, demo.get(), splash, clock);
+    return runWindow(commandLine, themes, demo.get(), splash, clock, afterwards);
 }
 
 // Without a window. The platform that draws nowhere has what fonts and pictures need.
@@ -368,7 +354,14 @@ int qMain(int argc, char *argv[])
         return complain(QCoreApplication::translate(
             "main", "no screen: set DISPLAY or WAYLAND_DISPLAY, or QT_QPA_PLATFORM=offscreen to run without one"));
     }
-    return runApplication(argc, argv, *commandLine, clock);
+    auto afterwards = MainWindow::Afterwards::Nothing;
+    const int status = runApplication(argc, argv, *commandLine, clock, afterwards);
+    if (afterwards == MainWindow::Afterwards::Nothing) {
+        return status;
+    }
+    // When nothing of this run is left: settings, control socket and serial devices are the next one's.
+    restartProgram(restartArguments(arguments, afterwards == MainWindow::Afterwards::StartWithInput));
+    return complain(QCoreApplication::translate("main", "the program cannot be started again"));
 }
 
 } // namespace

@@ -87,7 +87,8 @@ QString WindowControl::start()
 
 QString WindowControl::stop()
 {
-    if (m_window->session().state() == InputSession::State::Closed) {
+    const InputSession &session = m_window->session();
+    if (session.state() == InputSession::State::Closed && !session.waiting()) {
         return WindowControl::tr("No input is open.");
     }
     m_window->closeInput();

@@ -71,11 +71,15 @@ private Q_SLOTS:
         send({}, rig.port()); // an empty datagram neither ends the drain nor the input
         send(plotBlock(3), rig.port());
         QTRY_COMPARE(rig.tracks().size(), 3);
+        rig.engine.forgetPicture();
+        QCOMPARE(rig.tracks().size(), 3); // of an input that is open
         const quint16 port = rig.port();
         rig.engine.closeInput();
         send(plotBlock(4), port);
         EngineRig::turnEventLoop();
         QCOMPARE(rig.tracks().size(), 3);
+        rig.engine.forgetPicture();
+        QCOMPARE(rig.tracks().size(), 0);
     }
 
     // Two groups on one port: each input must take its own group alone, or everything comes twice.

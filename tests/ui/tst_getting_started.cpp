@@ -5,6 +5,7 @@
 #include "settings/input_config_page.h"
 #include "test_program.h"
 #include "ui/actions.h"
+#include "ui/input_session.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -20,6 +21,7 @@ class TestGettingStarted : public QObject {
 
 private Q_SLOTS:
     void leadsToARunningInput();
+    void theDemonstrationLeavesNothingBehind();
 };
 
 namespace {
@@ -94,6 +96,22 @@ void TestGettingStarted::leadsToARunningInput()
     name->setText("NORTH");
     click(guide, "next");
     QTRY_VERIFY(window->inputOpen() && window->config().sensorName == "NORTH");
+    QVERIFY(WindowFixture::close(*window));
+}
+
+void TestGettingStarted::theDemonstrationLeavesNothingBehind()
+{
+    WindowFixture fixture;
+    const auto window = fixture.makeWindow();
+    click(guideOf(*window), "demo");
+    const auto tracks = [&window] {
+        window->pullSlots();
+        return window->newestSnapshot() ? window->newestSnapshot()->tracks.size() : 0;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(tracks() > 0, 20000);
+    window->closeInput();
+    QTRY_COMPARE(tracks(), 0);
+    QVERIFY(window->session().notice().startsWith("No input is running."));
     QVERIFY(WindowFixture::close(*window));
 }
 

@@ -14,11 +14,13 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineF>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QStyle>
 #include <QStyleFactory>
@@ -34,6 +36,7 @@ private Q_SLOTS:
     void styleAppliesAtOnce();
     void textGrowsAtOnce();
     void saysThatNothingIsSaved();
+    void anotherLanguageComesWithARestart();
 };
 
 namespace {
@@ -158,6 +161,29 @@ void TestMainWindowSettings::saysThatNothingIsSaved()
     QVERIFY2(log.contains("[WARNING ]") && log.contains("Cannot write the settings file"), qPrintable(log));
     QCOMPARE(window->config().mapBackgroundColor, QColor(1, 2, 3)); // for this run
     QVERIFY(WindowFixture::close(*window));
+}
+
+void TestMainWindowSettings::anotherLanguageComesWithARestart()
+{
+    for (const bool running : {true, false}) {
+        WindowFixture fixture;
+        const auto window = fixture.makeWindow();
+        QVERIFY(!running || fixture.openInput(*window));
+        QSignalSpy ended(window.get(), &MainWindow::shutdownComplete);
+        ConfigWindow *settings = opened(*window);
+        auto *language = settings->findChild<QComboBox *>("displayLanguage");
+        auto *now = settings->findChild<QPushButton *>("restartNow");
+        QVERIFY(!now->isVisible());
+        language->setCurrentIndex(language->findData("de"));
+        QVERIFY(now->isVisible());
+        now->click();
+        QTRY_COMPARE(ended.size(), 1);
+        QVERIFY(
+            window->afterwards() == (running ? MainWindow::Afterwards::StartWithInput : MainWindow::Afterwards::Start));
+        Config stored;
+        stored.load(AppPaths::configFile());
+        QCOMPARE(stored.displayLanguage, QString("de"));
+    }
 }
 
 VYX_TEST(TestMainWindowSettings)

@@ -1,6 +1,7 @@
 #include "app/setting.h"
 #include "test_program.h"
 #include "vyxdisplay/command_line.h"
+#include "vyxdisplay/restart.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -31,6 +32,14 @@ class TestCommandLine : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void theNextRunIsAsThisOneWas()
+    {
+        const QStringList arguments{"vyxdisplay", "--profile", "tower", "--start", "--theme=Day"};
+        const QStringList without{"vyxdisplay", "--profile", "tower", "--theme=Day"};
+        QCOMPARE(restartArguments(arguments, false), without);
+        QCOMPARE(restartArguments(arguments, true), without + QStringList("--start"));
+    }
+
     void readsInputs_data()
     {
         QTest::addColumn<QString>("text");

@@ -7,7 +7,7 @@
 #include "test_files.h"
 #include "test_program.h"
 #include "ui/input_session.h"
-#include "vyxdisplay/reopening.h"
+#include "ui/reopening.h"
 
 #include <QDir>
 #include <QFile>
@@ -196,7 +196,7 @@ private Q_SLOTS:
         auto *timer = reopening.findChild<QTimer *>();
         session.onOpenFailed(0);
         QVERIFY(!timer->isActive()); // nobody wants it
-        reopening.begin();
+        reopening.setWanted(true);
         const auto failsAndWaits = [&](int seconds) {
             session.onOpenFailed(0);
             session.onClosed(0);
@@ -211,8 +211,42 @@ private Q_SLOTS:
         Q_EMIT session.opened();
         QVERIFY(failsAndWaits(5));
         session.onOpenFailed(0);
-        QVERIFY(reopening.end() && !timer->isActive());
-        QVERIFY(!reopening.end());
+        QVERIFY(session.waiting() && session.notice().endsWith("Another attempt is made by itself."));
+        session.close();
+        QVERIFY(!session.waiting() && !timer->isActive());
+        session.onOpenFailed(0);
+        QVERIFY(!session.waiting());
+    }
+
+    // Its port comes free, is taken again while the input is stopped, and stopping ends the attempts.
+    void aWindowKeepsItsInput()
+    {
+        QUdpSocket other;
+        const auto take = [&other](quint16 port) {
+            return other.bind(QHostAddress::AnyIPv4, port, QUdpSocket::DontShareAddress);
+        };
+        QVERIFY(take(0));
+        const quint16 port = other.localPort();
+        configure([port](Config &config) {
+            config.inputUdpPort1 = port;
+            config.inputAutoStart = true;
+        });
+        const auto window = started({"--control", m_control});
+        const QString attempts = "Another attempt is made by itself.";
+        QTRY_VERIFY_WITH_TIMEOUT(input("notice").endsWith(attempts), 20000);
+        QCOMPARE(state(), QString("closed"));
+        other.close();
+        QVERIFY(asked({{"command", "start"}})["ok"].toBool());
+        QTRY_COMPARE(state(), QString("open"));
+        QVERIFY(asked({{"command", "stop"}})["ok"].toBool());
+        QTRY_COMPARE(state(), QString("closed"));
+        QVERIFY(!input("notice").contains(attempts));
+        QVERIFY(take(port));
+        QVERIFY(asked({{"command", "start"}})["ok"].toBool());
+        QTRY_VERIFY(input("notice").endsWith(attempts));
+        QVERIFY(asked({{"command", "stop"}})["ok"].toBool());
+        QVERIFY(!input("notice").contains(attempts));
+        QVERIFY(ended(*window));
     }
 
     void aWindowStartsItsInputAndCanBeDriven()

@@ -1,4 +1,4 @@
-#include "vyxdisplay/reopening.h"
+#include "ui/reopening.h"
 
 #include "ui/input_session.h"
 
@@ -11,29 +11,23 @@ constexpr int LongestWaitMs = 5 * 60 * 1000;
 
 } // namespace
 
-Reopening::Reopening(const InputSession *session, QObject *parent) : QObject(parent), m_waitMs(ShortestWaitMs)
+Reopening::Reopening(InputSession *session, QObject *parent)
+    : QObject(parent), m_session(session), m_waitMs(ShortestWaitMs)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &Reopening::due);
-    connect(session, &InputSession::opened, this, [this] {
-        m_timer.stop();
-        m_waitMs = ShortestWaitMs;
-    });
+    connect(session, &InputSession::openingBegun, &m_timer, &QTimer::stop);
+    connect(session, &InputSession::opened, this, [this] { m_waitMs = ShortestWaitMs; });
+    connect(session, &InputSession::stopAsked, this, &Reopening::end);
     connect(session, &InputSession::openFailed, this, &Reopening::wait);
     connect(session, &InputSession::closed, this, &Reopening::wait);
 }
 
-void Reopening::begin()
+void Reopening::end()
 {
-    m_wanted = true;
-}
-
-bool Reopening::end()
-{
-    const bool waited = m_timer.isActive();
     m_wanted = false;
     m_timer.stop();
-    return waited;
+    m_waitMs = ShortestWaitMs;
 }
 
 // A closing that follows a failure finds the timer running.
@@ -45,4 +39,5 @@ void Reopening::wait()
     Q_EMIT message(LogLevel::Info, tr("The input is opened again in %1 s.").arg(m_waitMs / 1000));
     m_timer.start(m_waitMs);
     m_waitMs = std::min(2 * m_waitMs, LongestWaitMs);
+    m_session->setWaiting();
 }
