@@ -53,6 +53,7 @@ void showPicture(benchmark::State &state)
 }
 BENCHMARK(showPicture)
     ->ArgNames({"tracks", "column", "filter"})
+    ->Args({300, TrackListModel::Callsign, 0})
     ->Args({5000, TrackListModel::Callsign, 0})
     ->Args({5000, TrackListModel::Level, 0})
     ->Args({5000, TrackListModel::Level, 1})
