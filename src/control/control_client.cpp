@@ -12,7 +12,9 @@ QByteArray ControlClient::ask(const QString &path, const QJsonObject &request, Q
     QLocalSocket socket;
     socket.connectToServer(QFileInfo(path).absoluteFilePath());
     if (!socket.waitForConnected(left())) {
-        *error = tr("Nobody listens on %1.").arg(path);
+        *error = socket.error() == QLocalSocket::SocketAccessError
+            ? tr("There is no right to speak to %1: only its owner may.").arg(path)
+            : tr("Nobody listens on %1.").arg(path);
         return {};
     }
     socket.write(QJsonDocument(request).toJson(QJsonDocument::Compact) + '\n');

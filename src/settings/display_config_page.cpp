@@ -172,7 +172,7 @@ QWidget *DisplayConfigPage::makeRestartRow()
     row->setObjectName("languageNote");
     auto *note = new QLabel(tr("The new language is spoken from the next start on."));
     note->setWordWrap(true);
-    auto *button = new QPushButton(tr("Restart &Now"));
+    auto *button = new QPushButton(tr("&Restart Now"));
     button->setObjectName("restartNow");
     button->setAutoDefault(false);
     button->setToolTip(

@@ -5,6 +5,7 @@
 #include "test_files.h"
 #include "test_program.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -237,6 +238,14 @@ private Q_SLOTS:
         QString error;
         QCOMPARE(ControlClient::ask(m_directory.filePath("nobody"), {{"command", "status"}}, &error), QByteArray());
         QVERIFY2(error.contains("Nobody listens on"), qPrintable(error));
+        const QString closed = m_directory.filePath("closed");
+        QVERIFY(QDir().mkdir(closed) && QFile::setPermissions(closed, {}));
+        constexpr uid_t AnotherUser = 65534;
+        const bool almighty = geteuid() == 0; // whom no permission stops
+        QVERIFY(!almighty || seteuid(AnotherUser) == 0);
+        ControlClient::ask(closed + "/control", {{"command", "status"}}, &error);
+        QVERIFY(!almighty || seteuid(0) == 0);
+        QVERIFY2(error.contains("only its owner may"), qPrintable(error));
     }
 };
 
