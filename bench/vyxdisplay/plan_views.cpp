@@ -4,8 +4,6 @@
 
 #include "window_frames.h"
 
-#include "app/app_identity.h"
-#include "app/app_paths.h"
 #include "demonstration/demo_traffic.h"
 #include "plan_view/geo_widget.h"
 #include "second_view/plan_view_window.h"
@@ -13,8 +11,6 @@
 #include "ui/main_window.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QCommandLineParser>
 
 #include <algorithm>
 #include <cstdio>
@@ -110,18 +106,13 @@ int run(const QString &scenario, int most, int seconds, int settlingSeconds)
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
-    setApplicationIdentity();
-    AppPaths::setProfile("plan-views");
-    QCommandLineParser parser;
-    parser.addHelpOption();
-    parser.addOptions({
-        {"scenario", "Scenario to play (busy).", "NAME", "busy"},
-        {"views", "The most further views (2).", "N", "2"},
-        {"seconds", "How long each number of them is watched (10).", "S", "10"},
-        {"settling", "Seconds in which tracks come up first (40).", "S", "40"},
-    });
-    parser.process(application);
-    return run(parser.value("scenario"), parser.value("views").toInt(), parser.value("seconds").toInt(),
-        parser.value("settling").toInt());
+    const WindowProgram program(argc, argv, "plan-views",
+        {
+            {"scenario", "Scenario to play (busy).", "NAME", "busy"},
+            {"views", "The most further views (2).", "N", "2"},
+            {"seconds", "How long each number of them is watched (10).", "S", "10"},
+            {"settling", "Seconds in which tracks come up first (40).", "S", "40"},
+        });
+    return run(
+        program.text("scenario"), program.number("views"), program.number("seconds"), program.number("settling"));
 }
