@@ -63,7 +63,11 @@ struct Terminal {
         start();
     }
 
-    void start() { provider = makeTileProvider(TileService::OpenAip, config, &projector); }
+    void start()
+    {
+        provider.reset(); // and with it what is in memory
+        provider = makeTileProvider(TileService::OpenAip, config, &projector, stocks);
+    }
 
     void show(int step)
     {
@@ -89,6 +93,7 @@ struct Terminal {
     QTemporaryDir directory;
     Config config;
     MercatorProjector projector;
+    TileStocks stocks;
     std::unique_ptr<TileProvider> provider;
 };
 

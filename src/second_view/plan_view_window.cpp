@@ -69,18 +69,19 @@ PlanViewWindow::~PlanViewWindow()
 
 void PlanViewWindow::makeTiles()
 {
-    m_tiles = std::make_unique<TileMaps>(
-        this, m_plan.widget(), m_shared.projector, [this](const std::function<void(Config &)> &change) {
-            Config edited = ownConfig();
-            change(edited);
-            m_layers.takeFrom(edited);
-            const bool agreed = edited.mapTileConsent && !m_config.mapTileConsent;
-            m_config.mapTileConsent = edited.mapTileConsent;
-            m_tiles->applyConfig(ownConfig());
-            if (agreed) {
-                Q_EMIT tileConsentGiven();
-            }
-        });
+    const auto edit = [this](const std::function<void(Config &)> &change) {
+        Config edited = ownConfig();
+        change(edited);
+        m_layers.takeFrom(edited);
+        const bool agreed = edited.mapTileConsent && !m_config.mapTileConsent;
+        m_config.mapTileConsent = edited.mapTileConsent;
+        m_tiles->applyConfig(ownConfig());
+        if (agreed) {
+            Q_EMIT tileConsentGiven();
+        }
+    };
+    m_tiles = std::make_unique<TileMaps>(this, m_plan.widget(), m_shared.projector, m_shared.tiles, edit);
+    connect(m_tiles.get(), &TileMaps::logMessage, this, &PlanViewWindow::logMessage);
 }
 
 void PlanViewWindow::makeToolBar()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/config.h"
+#include "app/log_level.h"
 #include "plan_view/plan_display.h"
 #include "second_view/plan_layers.h"
 
@@ -13,6 +14,7 @@ class QLabel;
 class QToolBar;
 class ScopeNotice;
 class TileMaps;
+class TileStocks;
 
 #include <memory>
 #include <utility>
@@ -28,6 +30,7 @@ public:
         Projector *projector;
         MapLibrary *maps;
         const PlanDisplay *main; // whose look and range rings the window follows
+        std::shared_ptr<TileStocks> tiles;
     };
 
     // The number is that which the title has.
@@ -62,6 +65,7 @@ Q_SIGNALS:
     void acknowledgeRequested(unsigned long long id);
     // He lets services of tiles be asked.
     void tileConsentGiven();
+    void logMessage(LogLevel level, const QString &text);
 
 protected:
     void closeEvent(QCloseEvent *event) override;

@@ -85,6 +85,7 @@ PlanViewWindow *SecondViews::add()
     connect(window, &PlanViewWindow::explainRequested, this, &SecondViews::explainRequested);
     connect(window, &PlanViewWindow::acknowledgeRequested, this, &SecondViews::acknowledgeRequested);
     connect(window, &PlanViewWindow::tileConsentGiven, this, &SecondViews::tileConsentGiven);
+    connect(window, &PlanViewWindow::logMessage, this, &SecondViews::logMessage);
     // Later: it is still at work on its closing.
     connect(
         window, &PlanViewWindow::closed, this, [this, window] { forget(window); }, Qt::QueuedConnection);

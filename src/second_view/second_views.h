@@ -52,6 +52,7 @@ Q_SIGNALS:
     void explainRequested();
     void acknowledgeRequested(unsigned long long id);
     void tileConsentGiven();
+    void logMessage(LogLevel level, const QString &text);
 
 private:
     using Notice = std::function<void(PlanViewWindow &)>;

@@ -93,7 +93,8 @@ void ConfigWindow::addPages(SensorManager *sensors)
     addPage(new ProcessorConfigPage(this));
     addPage(new SensorConfigPage(sensors, this));
     addPage(new MapConfigPage(this));
-    addPage(new TileConfigPage(this));
+    m_tiles = new TileConfigPage(this);
+    addPage(m_tiles);
     addPage(new WeatherConfigPage(this));
     addPage(new VideoConfigPage(this));
     addPage(new TrackConfigPage(this));
@@ -336,6 +337,11 @@ Config ConfigWindow::entered() const
         page->store(&config);
     }
     return config;
+}
+
+void ConfigWindow::barTileServices()
+{
+    m_tiles->barServices();
 }
 
 void ConfigWindow::setInputRunning(bool running)

@@ -19,6 +19,7 @@ class QListWidget;
 class QStackedWidget;
 class QTimer;
 class SensorManager;
+class TileConfigPage;
 class Theme;
 
 // The settings window: pages chosen in a list at the left, or by a search over all of them. What the operator did not
@@ -39,6 +40,8 @@ public:
     void setConsent(std::function<bool(const Config &edited)> consent);
     // Of the program's input, for the page that tells what arrives.
     void setEngine(EngineHost *engine);
+    // For the demonstration: not even a trial asks a tile service.
+    void barTileServices();
     // Locks the pages of what an input is opened with.
     void setInputRunning(bool running);
     // Shown above the buttons until the next attempt; the window stays open. For a receiver of configApplied().
@@ -80,6 +83,7 @@ private:
     std::function<bool(const Config &edited)> m_consent;
     QList<ConfigPage *> m_pages;
     InputConfigPage *m_input = nullptr;
+    TileConfigPage *m_tiles = nullptr;
     ConfigSearch *m_search = nullptr; // these in the order of the tab key
     QListWidget *m_pageList = nullptr;
     QStackedWidget *m_stack = nullptr;

@@ -3,6 +3,7 @@
 #include "app/app_paths.h"
 #include "tile_download/tile_trial.h"
 #include "tiles/tile_deployment.h"
+#include "tiles/tile_providers.h"
 #include "widgets/field_form.h"
 #include "widgets/file_edit.h"
 
@@ -200,9 +201,14 @@ void TileConfigPage::tryService()
     }
     Config entered = m_loaded;
     store(&entered);
+    const auto service = static_cast<TileService>(m_shownService->currentData().toInt());
+    if (m_barred && tileServiceSetup(service, entered).archive.isEmpty()) {
+        m_trialWords->setText(tr("The demonstration asks no tile service, only files of tiles are shown."));
+        return;
+    }
     m_try->setEnabled(false);
     m_trialWords->setText(tr("Asking %1 ...").arg(m_shownService->currentText()));
-    m_trial->start(static_cast<TileService>(m_shownService->currentData().toInt()), entered);
+    m_trial->start(service, entered);
 }
 
 QLineEdit *TileConfigPage::addText(const QString &label, QString Config::*member, const QString &toolTip)

@@ -19,6 +19,8 @@ public:
     void load(const Config &config) override;
     bool validate() override;
     QWidget *reveal(QWidget *field) override;
+    // Nothing is tried with a service from now on.
+    void barServices() { m_barred = true; }
 
 protected:
     QString context(const QWidget *field) const override;
@@ -66,6 +68,7 @@ private:
     QPushButton *m_try = nullptr;
     QLabel *m_trialWords = nullptr;
     TileTrial *m_trial = nullptr;
+    bool m_barred = false;
     QHash<const QLineEdit *, QString> m_loadedTexts;
     Config m_loaded; // what the fields of other pages have stays as it was
 };

@@ -32,8 +32,9 @@ bool sameProviders(const Config &one, const Config &other)
 
 } // namespace
 
-TileMaps::TileMaps(QWidget *window, GeoWidget *plan, Projector *projector, Edit edit)
-    : m_window(window), m_projector(projector), m_edit(std::move(edit))
+TileMaps::TileMaps(
+    QWidget *window, GeoWidget *plan, Projector *projector, const std::shared_ptr<TileStocks> &stocks, Edit edit)
+    : m_window(window), m_projector(projector), m_stocks(stocks), m_edit(std::move(edit))
 {
     m_staticMap = plan->mapDisplay()->staticMap();
     m_bottom.map = plan->mapDisplay()->bottomTiles();
@@ -93,7 +94,7 @@ void TileMaps::give(Layer &layer, TileService service, bool anew)
 {
     if (anew || service != layer.service) {
         layer.map->setProvider(nullptr);
-        layer.provider = makeTileProvider(service, allowed(), m_projector);
+        layer.provider = makeTileProvider(service, allowed(), m_projector, *m_stocks);
         layer.service = service;
         if (layer.provider) {
             connect(layer.provider.get(), &TileProvider::message, this, &TileMaps::logMessage);
@@ -162,6 +163,7 @@ void TileMaps::show(bool on)
     }
     const bool agreed = m_config.mapTileConsent || !m_config.mapTileService || services.isEmpty();
     if (on && !agreed && !askConsent(services)) {
+        Q_EMIT logMessage(LogLevel::Info, tr("No tiles are shown: no service is asked before that is agreed to."));
         Q_EMIT changed();
         return;
     }

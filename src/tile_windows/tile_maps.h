@@ -17,6 +17,7 @@ class Projector;
 class QWidget;
 class TileDownloadWindow;
 class TileProvider;
+class TileStocks;
 struct TileArea;
 
 // The map tiles of the window: gives the two tile layers the providers that the settings choose, asks the operator once
@@ -28,13 +29,16 @@ public:
     using Edit = std::function<void(const std::function<void(Config &)> &change)>;
 
     // All must outlive this object; the plan view has its map by now. The window asks questions and is the parent of
-    // the download window. The operator's changes of settings go through edit.
-    TileMaps(QWidget *window, GeoWidget *plan, Projector *projector, Edit edit);
+    // the download window. The operator's changes of settings go through edit. What the views of the program show they
+    // have from the same stocks.
+    TileMaps(
+        QWidget *window, GeoWidget *plan, Projector *projector, const std::shared_ptr<TileStocks> &stocks, Edit edit);
     ~TileMaps() override;
 
     // Nothing is asked of any service from now on, whatever the settings say; tiles on this machine are shown. For the
     // demonstration.
     void barServices();
+    bool barred() const { return m_barred; }
     void applyConfig(const Config &config);
 
     // Whether tiles are switched on: a service that may not be asked yet counts as off.
@@ -74,6 +78,7 @@ private:
 
     QWidget *m_window;
     Projector *m_projector;
+    const std::shared_ptr<TileStocks> m_stocks;
     Edit m_edit;
     Config m_config;
     QPoint m_northWest; // of the view, metres of the plane

@@ -8,6 +8,8 @@
 #include <QNetworkReply>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace {
 
@@ -58,8 +60,7 @@ void setTileUserAgentContact(const QString &contact)
     userAgentContact() = contact.simplified();
 }
 
-TileFetcher::TileFetcher(const TileRequest &request, QObject *parent)
-    : QObject(parent), m_request(request), m_network(new QNetworkAccessManager(this))
+TileFetcher::TileFetcher(const TileRequest &request, QObject *parent) : QObject(parent), m_request(request)
 {
     m_pacingTimer.setSingleShot(true);
     connect(&m_pacingTimer, &QTimer::timeout, this, &TileFetcher::pump);
@@ -143,6 +144,22 @@ void TileFetcher::forget(const InFlight &request)
     request.reply->deleteLater();
 }
 
+// Squared; 0 where no centre is of the tile's level.
+double TileFetcher::distance(const TileIndex &index) const
+{
+    double nearest = std::numeric_limits<double>::infinity();
+    for (const auto &[level, place] : m_centres) {
+        if (level == index.level) {
+            const double columns = 1 << index.level;
+            const double across = std::abs(index.x + 0.5 - place.x());
+            const double dx = std::min(across, std::abs(columns - across));
+            const double dy = index.y + 0.5 - place.y();
+            nearest = std::min(nearest, dx * dx + dy * dy);
+        }
+    }
+    return std::isfinite(nearest) ? nearest : 0.0;
+}
+
 void TileFetcher::pump()
 {
     if (m_queue.isEmpty() || !canAsk()) {
@@ -152,15 +169,9 @@ void TileFetcher::pump()
         m_pacingTimer.start(delay);
         return;
     }
-    const auto distance = [this](const TileIndex &index) {
-        const double columns = 1 << index.level;
-        const double across = std::abs(index.x + 0.5 - m_centre.x());
-        const double dx = std::min(across, std::abs(columns - across));
-        const double dy = index.y + 0.5 - m_centre.y();
-        return dx * dx + dy * dy;
-    };
     while (!m_queue.isEmpty() && m_inFlight.size() < m_maxConcurrent) {
-        const TileIndex nearest = *std::ranges::min_element(m_queue, {}, distance);
+        const auto toCentre = [this](const TileIndex &index) { return distance(index); };
+        const TileIndex nearest = *std::ranges::min_element(m_queue, {}, toCentre);
         m_queue.remove(nearest);
         send(nearest, false);
     }

@@ -24,6 +24,12 @@ class TileFetcher final : public QObject {
 public:
     static constexpr int DefaultConcurrentRequests = 6;
 
+    // The middle of what is wanted, in tiles of its level.
+    struct Centre {
+        quint8 level = 0;
+        QPointF place;
+    };
+
     explicit TileFetcher(const TileRequest &request, QObject *parent = nullptr);
     ~TileFetcher() override;
 
@@ -37,14 +43,15 @@ public:
     int maxConcurrentRequests() const { return m_maxConcurrent; }
     // Whether the operator lets this service be asked. Not by default.
     void setConsent(bool given);
+    bool consent() const { return m_consent; }
 
     // Whether requests can be sent at all: with consent, key and address.
     bool canAsk() const { return m_consent && m_request.problem.isEmpty(); }
     // Whether requests wait after a failure.
     bool paused() const { return m_pacing.authenticationBlocked() || m_pacing.backingOff(); }
 
-    // The requests nearest to this place go first. In tiles of the level asked for.
-    void setCentre(const QPointF &centre) { m_centre = centre; }
+    // The requests nearest to one of these places of their level go first; those of other levels before them.
+    void setCentres(const QList<Centre> &centres) { m_centres = centres; }
     // Ignored when it is on its way or known to be unavailable. Nothing is sent before pump().
     void enqueue(const TileIndex &index);
     // What else is in the queue is dropped; requests in flight go on unless the service takes its time over them.
@@ -95,6 +102,7 @@ private:
     };
 
     QNetworkAccessManager &network();
+    double distance(const TileIndex &index) const;
     void forget(const InFlight &request);
     void forgetCached(const TileIndex &index);
     void send(const TileIndex &index, bool pastCache);
@@ -119,7 +127,7 @@ private:
     TilePacing m_pacing;
     QTimer m_pacingTimer;
     QSet<TileIndex> m_queue;
-    QPointF m_centre;
+    QList<Centre> m_centres;
     QHash<TileIndex, InFlight> m_inFlight;
     QHash<TileIndex, Unavailable> m_unavailable;
     QHash<QString, QDateTime> m_said; // lines of the log, and until when they are not repeated; null: an outage's end

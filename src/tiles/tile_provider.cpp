@@ -2,118 +2,39 @@
 
 #include "geo/projector.h"
 #include "tiles/tile_fetcher.h"
-#include "tiles/tile_file_store.h"
-#include "tiles/tile_image.h"
 
 #include <QPainter>
 #include <QSvgRenderer>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
-constexpr int ChangeDelay = 30; // milliseconds, in which images are gathered for one change
 constexpr int LogoHeight = 20; // pixels
 constexpr int LogoRatio = 2; // device pixels a pixel
 constexpr int MostLevelsTooFine = 2; // where the service has no coarser one; beyond it a tile is a speck
 
-TileLoader::Open readFiles(const TileFileStore &store, const TileRequest &request)
-{
-    return [store, request]() -> TileLoader::Read {
-        return [store, request](const TileIndex &index, QString *) {
-            const QString path = request.filePath(index);
-            const QByteArray octets = store.read(path);
-            const QImage image = octets.isEmpty() ? QImage() : decodeTileImage(octets);
-            if (image.isNull() && !octets.isEmpty()) {
-                store.remove(path);
-            }
-            return image;
-        };
-    };
-}
-
-TileLoader::Save writeFiles(const TileFileStore &store, const TileRequest &request)
-{
-    return [store, request](const TileIndex &index, const QByteArray &octets, QString *error) {
-        store.write(request.filePath(index), octets, error);
-    };
-}
-
 } // namespace
 
-TileProvider::TileProvider(const TileServiceSetup &setup, Projector *projector, QObject *parent)
-    : QObject(parent), m_setup(setup), m_projector(projector), m_fetcher(new TileFetcher(setup.request, this)),
-      m_loader(new TileLoader(this)), m_images(DefaultMemory)
+TileProvider::TileProvider(std::shared_ptr<TileStock> stock, Projector *projector, QObject *parent)
+    : QObject(parent), m_stock(std::move(stock)), m_projector(projector)
 {
-    m_changeTimer.setSingleShot(true);
-    m_changeTimer.setInterval(ChangeDelay);
-    connect(&m_changeTimer, &QTimer::timeout, this, &TileProvider::announceChange);
-    connectFetcher();
-    connectLoader();
-    loadLogos();
-    useTileFiles();
-}
-
-TileProvider::~TileProvider() = default;
-
-void TileProvider::connectFetcher()
-{
-    connect(m_fetcher, &TileFetcher::received, m_loader, &TileLoader::decode);
-    connect(m_fetcher, &TileFetcher::message, this, &TileProvider::message);
-    connect(m_fetcher, &TileFetcher::unavailable, this, &TileProvider::scheduleChange);
-    connect(m_fetcher, &TileFetcher::idle, this, &TileProvider::scheduleChange);
-    connect(m_fetcher, &TileFetcher::stateChanged, this, [this] {
-        const bool wasPaused = std::exchange(m_paused, m_fetcher->paused());
-        if (m_paused && !wasPaused) {
-            turnToStore();
+    m_stock->enter(this);
+    connect(m_stock.get(), &TileStock::changed, this, &TileProvider::announceChange);
+    connect(m_stock.get(), &TileStock::sourceChanged, this, &TileProvider::repeatView);
+    connect(m_stock.get(), &TileStock::message, this, [this](LogLevel level, const QString &text) {
+        if (m_stock->speaks(this)) {
+            Q_EMIT message(level, text);
         }
-        scheduleChange();
     });
+    loadLogos();
 }
 
-void TileProvider::connectLoader()
+TileProvider::~TileProvider()
 {
-    connect(m_loader, &TileLoader::loaded, this, &TileProvider::addImageToCache);
-    connect(m_loader, &TileLoader::absent, this, &TileProvider::enqueueTile);
-    connect(m_loader, &TileLoader::refused, m_fetcher, &TileFetcher::reject);
-    connect(m_loader, &TileLoader::storeFailed, this, &TileProvider::complainOfStore);
-    connect(m_loader, &TileLoader::decoded, this,
-        [this](const TileIndex &index, const QImage &image, const QByteArray &octets) {
-            addImageToCache(index, image);
-            if (m_setup.saveFiles) {
-                m_loader->save(index, octets);
-            }
-        });
-    connect(m_loader, &TileLoader::progressed, this, [this] {
-        m_fetcher->pump();
-        scheduleChange();
-    });
-}
-
-void TileProvider::useTileFiles()
-{
-    if (!m_setup.archive.isEmpty() || m_setup.request.file.isEmpty()) {
-        m_loader->setStore({}, {});
-        return;
-    }
-    const TileFileStore store(m_setup.tileDirectory);
-    m_loader->setStore(readFiles(store, m_setup.request), writeFiles(store, m_setup.request));
-}
-
-void TileProvider::useArchive(TileLoader::Open open, int minLevel, int maxLevel, const QString &copyright)
-{
-    m_setup.request.minLevel = std::clamp(minLevel, TileIndex::MinLevel, TileIndex::MaxLevel);
-    m_setup.request.maxLevel = std::clamp(maxLevel, TileIndex::MinLevel, TileIndex::MaxLevel);
-    m_setup.copyright = copyright;
-    m_storeTrouble.clear();
-    m_loader->setStore(std::move(open), {});
-    repeatView();
-}
-
-void TileProvider::failArchive(const QString &reason)
-{
-    complainOfStore(reason);
+    m_stock->leave(this);
 }
 
 int TileProvider::levelFor(double metresPerPixel) const
@@ -133,80 +54,44 @@ void TileProvider::setVisible(bool visible)
     repeatView();
 }
 
-void TileProvider::setOfflineMode(bool priority, bool only)
-{
-    m_setup.offlinePriority = priority;
-    m_setup.offlineOnly = only;
-    m_fetcher->clear();
-    repeatView();
-}
-
-void TileProvider::setTileFileDir(const QString &directory)
-{
-    m_setup.tileDirectory = directory;
-    useTileFiles();
-}
-
-void TileProvider::setNetworkCacheDir(const QString &directory)
-{
-    m_fetcher->setCacheDirectory(directory);
-}
-
 void TileProvider::setNetworkProxyEnabled(bool enabled)
 {
-    m_proxy.enabled = enabled;
-    applyProxy();
+    TileProxy proxy = m_stock->source().proxy;
+    proxy.enabled = enabled;
+    m_stock->setProxy(proxy);
 }
 
 void TileProvider::setNetworkProxyServer(const QString &host, unsigned short port)
 {
-    m_proxy.host = host;
-    m_proxy.port = port;
-    applyProxy();
+    TileProxy proxy = m_stock->source().proxy;
+    proxy.host = host;
+    proxy.port = port;
+    m_stock->setProxy(proxy);
 }
 
 void TileProvider::setNetworkProxyAuthentication(const QString &user, const QString &password)
 {
-    m_proxy.user = user;
-    m_proxy.password = password;
-    applyProxy();
+    TileProxy proxy = m_stock->source().proxy;
+    proxy.user = user;
+    proxy.password = password;
+    m_stock->setProxy(proxy);
 }
 
 void TileProvider::setNetworkProxyHostnameLookup(bool byProxy)
 {
-    m_proxy.hostNameLookup = byProxy;
-    applyProxy();
-}
-
-void TileProvider::applyProxy()
-{
-    m_fetcher->setProxy(m_proxy.toNetworkProxy());
-}
-
-void TileProvider::setConsent(bool given)
-{
-    m_fetcher->setConsent(given);
-    repeatView();
+    TileProxy proxy = m_stock->source().proxy;
+    proxy.hostNameLookup = byProxy;
+    m_stock->setProxy(proxy);
 }
 
 void TileProvider::setMaxConcurrentRequests(int count)
 {
-    m_fetcher->setMaxConcurrentRequests(count);
+    m_stock->fetcher().setMaxConcurrentRequests(count);
 }
 
 int TileProvider::maxConcurrentRequests() const
 {
-    return m_fetcher->maxConcurrentRequests();
-}
-
-void TileProvider::setMemoryLimit(qsizetype octets)
-{
-    m_images.setMaxCost(octets);
-}
-
-void TileProvider::setClock(TilePacing::Clock clock)
-{
-    m_fetcher->setClock(std::move(clock));
+    return m_stock->fetcher().maxConcurrentRequests();
 }
 
 void TileProvider::requestTiles(const GeoCoordinate &topLeft, const GeoCoordinate &bottomRight, double resolution)
@@ -234,22 +119,13 @@ void TileProvider::repeatView()
     }
 }
 
-// A key or an address that is missing is said once, when there is something to show.
-void TileProvider::sayWhatIsMissing()
-{
-    const QString &problem = m_setup.request.problem;
-    if (!problem.isEmpty() && !std::exchange(m_problemSaid, true)) {
-        Q_EMIT message(LogLevel::Warning, problem);
-    }
-}
-
 // Where the level that suits the view has too many tiles in it, a coarser one is taken.
 void TileProvider::processRequest(const View &view)
 {
     m_wanted.clear();
     m_tooWide = false;
     if (m_enabled && m_visible) {
-        sayWhatIsMissing();
+        m_stock->sayWhatIsMissing();
         int level = levelFor(view.resolution);
         TileRange range = tilesCovering(view.north, view.west, view.south, view.east, level);
         while (range.count() > MaxTilesPerView && level > minLevel()) {
@@ -261,112 +137,38 @@ void TileProvider::processRequest(const View &view)
     } else {
         prepareTiles({});
     }
-    pumpQueue();
-    scheduleChange();
 }
 
 void TileProvider::prepareTiles(const TileRange &range)
 {
-    const std::vector<TileIndex> tiles = range.tiles();
-    m_wanted = {tiles.begin(), tiles.end()};
-    m_fetcher->keepOnly(m_wanted);
-    m_loader->keepOnly(m_wanted);
-    const TileIndex middle = TileRange::wrapped((range.left + range.right) / 2, 0, range.level);
-    m_fetcher->setCentre(
-        {middle.x + ((range.left + range.right) % 2 == 0 ? 0.5 : 1.0), (range.top + range.bottom + 1) / 2.0});
-    for (const TileIndex &index : tiles) {
-        if (m_images.contains(index) || m_loader->holds(index)) {
-            continue;
-        }
-        if (readsStoreFirst() && !m_fetcher->holds(index)) {
-            m_loader->read(index);
-        } else {
-            enqueueTile(index);
-        }
-    }
-    m_loader->startReading();
-}
-
-bool TileProvider::readsStoreFirst() const
-{
-    return m_setup.offlinePriority || m_setup.offlineOnly || m_fetcher->paused() || !asksService();
-}
-
-bool TileProvider::asksService() const
-{
-    return m_setup.archive.isEmpty() && !m_setup.offlineOnly && m_fetcher->canAsk();
-}
-
-// A file that is old is better than nothing.
-void TileProvider::turnToStore()
-{
-    for (const TileIndex &index : std::as_const(m_wanted)) {
-        if (!m_images.contains(index)) {
-            m_loader->read(index);
-        }
-    }
-    m_loader->startReading();
-}
-
-void TileProvider::enqueueTile(const TileIndex &index)
-{
-    if (asksService() && m_wanted.contains(index)) {
-        m_fetcher->enqueue(index);
-    }
-}
-
-void TileProvider::addImageToCache(const TileIndex &index, const QImage &image)
-{
-    m_images.insert(index, new QImage(image), image.sizeInBytes());
-    m_imagesCame = true;
-    scheduleChange();
+    m_wanted = m_stock->want(this, range);
 }
 
 void TileProvider::pumpQueue()
 {
-    m_fetcher->pump();
+    m_stock->fetcher().pump();
 }
 
 void TileProvider::clearRequest()
 {
     m_view.reset();
     m_wanted.clear();
-    m_fetcher->clear();
-    m_loader->clear();
-}
-
-void TileProvider::clearCache()
-{
-    m_images.clear();
-    m_fetcher->clearCache();
-    m_imagesCame = true;
-    scheduleChange();
+    m_stock->wantNothing(this);
 }
 
 void TileProvider::resetBackoff()
 {
-    m_fetcher->resetBackoff();
+    m_stock->fetcher().resetBackoff();
 }
 
 void TileProvider::resetAuthBlock()
 {
-    m_fetcher->resetAuthBlock();
-}
-
-QImage TileProvider::image(const TileIndex &index) const
-{
-    const QImage *found = m_images.object(index);
-    return found ? *found : QImage();
+    m_stock->fetcher().resetAuthBlock();
 }
 
 bool TileProvider::isMissing(const TileIndex &index) const
 {
-    return m_fetcher->isMissing(index);
-}
-
-bool TileProvider::settled() const
-{
-    return m_fetcher->queued() == 0 && m_fetcher->inFlight() == 0 && !m_loader->busy();
+    return m_stock->fetcher().isMissing(index);
 }
 
 QImage TileProvider::logo() const
@@ -403,24 +205,9 @@ void TileProvider::loadLogos()
     setLogo(LogoStyle::Dark, path.arg(QLatin1String("dark")));
 }
 
-void TileProvider::complainOfStore(const QString &reason)
+void TileProvider::announceChange(bool images)
 {
-    if (std::exchange(m_storeTrouble, reason) != reason) {
-        Q_EMIT message(LogLevel::Warning, tr("Tiles of %1: %2").arg(serviceName(), reason));
-        scheduleChange();
-    }
-}
-
-void TileProvider::scheduleChange()
-{
-    if (!m_changeTimer.isActive()) {
-        m_changeTimer.start();
-    }
-}
-
-void TileProvider::announceChange()
-{
-    if (std::exchange(m_imagesCame, false)) {
+    if (images) {
         Q_EMIT tilesChanged();
     }
     const QString state = stateText();
@@ -440,18 +227,18 @@ QString TileProvider::trouble() const
     if (m_tooWide) {
         return tr("there are no tiles for so wide a view");
     }
-    if (!m_setup.archive.isEmpty()) {
-        return m_storeTrouble;
+    if (!m_stock->source().setup.archive.isEmpty()) {
+        return m_stock->storeTrouble();
     }
     const auto lacking =
-        std::ranges::count_if(m_wanted, [this](const TileIndex &index) { return !m_images.contains(index); });
+        std::ranges::count_if(m_wanted, [this](const TileIndex &index) { return !m_stock->holds(index); });
     if (!m_wanted.isEmpty() && lacking == 0) {
         return {};
     }
-    if (m_setup.offlineOnly) {
+    if (m_stock->source().setup.offlineOnly) {
         return lacking > 0 && settled() ? tr("no tiles of this view are saved") : QString();
     }
-    if (const QString text = m_fetcher->stateText(); !text.isEmpty()) {
+    if (const QString text = m_stock->fetcher().stateText(); !text.isEmpty()) {
         return text;
     }
     const auto missing = std::ranges::count_if(m_wanted, [this](const TileIndex &index) { return isMissing(index); });
@@ -465,5 +252,5 @@ void TileProvider::setUserAgentContact(const QString &contact)
 
 QString TileProvider::userAgent() const
 {
-    return m_setup.request.userAgent.isEmpty() ? tileUserAgent() : m_setup.request.userAgent;
+    return request().userAgent.isEmpty() ? tileUserAgent() : request().userAgent;
 }

@@ -3,25 +3,21 @@
 #include "app/log_level.h"
 #include "tiles/tile_deployment.h"
 #include "tiles/tile_geometry.h"
-#include "tiles/tile_loader.h"
-#include "tiles/tile_pacing.h"
-#include "tiles/tile_proxy.h"
-#include "tiles/tile_service_setup.h"
+#include "tiles/tile_stock.h"
 
-#include <QCache>
 #include <QImage>
 #include <QObject>
 #include <QSet>
-#include <QTimer>
 
 #include <array>
+#include <memory>
 #include <optional>
 
 class Projector;
-class TileFetcher;
 
-// The tiles of one service for one layer of the map: works out which cover the view, and has them from memory, from
-// saved files or from the service. For the GUI thread; files are read and images decoded on workers, and nothing waits.
+// The tiles of one service for one layer of one view: works out which cover the view, and has them from a stock that it
+// may share with other views, which then need not ask for them again. What is set here of the service, the network and
+// the files holds for all who share the stock. For the GUI thread.
 class TileProvider : public QObject, public TileGeometry {
     Q_OBJECT
 
@@ -32,20 +28,19 @@ public:
     // Tiles that a view may ask for. A wider view takes a coarser level; where the service has none that is coarse
     // enough, it is asked for nothing.
     static constexpr qint64 MaxTilesPerView = 2048;
-    static constexpr qsizetype DefaultMemory = 256 * 1024 * 1024; // octets of decoded images
 
-    TileProvider(const TileServiceSetup &setup, Projector *projector, QObject *parent = nullptr);
+    TileProvider(std::shared_ptr<TileStock> stock, Projector *projector, QObject *parent = nullptr);
     ~TileProvider() override;
 
-    TileService service() const { return m_setup.request.service; }
+    TileService service() const { return request().service; }
     QString serviceIdentifier() const { return tileServiceIdentifier(service()); }
     QString serviceName() const { return tileServiceName(service()); }
 
-    int minLevel() const { return m_setup.request.minLevel; }
-    int maxLevel() const { return m_setup.request.maxLevel; }
-    int adjustLevel() const { return m_setup.request.adjustLevel; }
-    QString tileFilePath(const TileIndex &index) const { return m_setup.request.filePath(index); }
-    QUrl tileUrl(const TileIndex &index) const { return m_setup.request.url(index); }
+    int minLevel() const { return m_stock->minLevel(); }
+    int maxLevel() const { return m_stock->maxLevel(); }
+    int adjustLevel() const { return request().adjustLevel; }
+    QString tileFilePath(const TileIndex &index) const { return request().filePath(index); }
+    QUrl tileUrl(const TileIndex &index) const { return request().url(index); }
     // The level whose tiles are shown in a view. Metres of the plane per device pixel.
     int levelFor(double metresPerPixel) const;
 
@@ -55,19 +50,19 @@ public:
     void setVisible(bool visible);
     bool visible() const { return m_visible; }
     // Saved files before the service, or nothing but saved files.
-    void setOfflineMode(bool priority, bool only);
-    void setSaveTileFiles(bool save) { m_setup.saveFiles = save; }
-    void setTileFileDir(const QString &directory);
-    void setNetworkCacheDir(const QString &directory);
+    void setOfflineMode(bool priority, bool only) { m_stock->setOfflineMode(priority, only); }
+    void setSaveTileFiles(bool save) { m_stock->setSaveTileFiles(save); }
+    void setTileFileDir(const QString &directory) { m_stock->setTileFileDir(directory); }
+    void setNetworkCacheDir(const QString &directory) { m_stock->setNetworkCacheDir(directory); }
     void setNetworkProxyEnabled(bool enabled);
     void setNetworkProxyServer(const QString &host, unsigned short port);
     void setNetworkProxyAuthentication(const QString &user, const QString &password);
     void setNetworkProxyHostnameLookup(bool byProxy);
-    void setConsent(bool given);
+    void setConsent(bool given) { m_stock->setConsent(given); }
     void setMaxConcurrentRequests(int count); // 1 to 32
     int maxConcurrentRequests() const;
-    void setMemoryLimit(qsizetype octets);
-    void setClock(TilePacing::Clock clock);
+    void setMemoryLimit(qsizetype octets) { m_stock->setMemoryLimit(octets); }
+    void setClock(TilePacing::Clock clock) { m_stock->setClock(std::move(clock)); }
 
     // The view is this rectangle, in degrees; resolution in metres of the plane per device pixel. What an earlier view
     // queued and this one does not need is dropped.
@@ -76,22 +71,22 @@ public:
     void requestView(const QPointF &topLeft, const QPointF &bottomRight, double resolution);
     // Sends what may be sent now; called by itself when something changes.
     void pumpQueue();
-    // The view is forgotten: the queue is emptied, and what is in flight given up.
+    // The view is forgotten: what it alone wanted is not asked for any more, and what is in flight for it given up.
     void clearRequest();
     // Memory and the network cache on disk are emptied; saved tile files stay.
-    void clearCache();
+    void clearCache() { m_stock->clearCache(); }
     void resetBackoff();
     void resetAuthBlock();
 
     // From memory, which remembers that it is used; null when it is not there.
-    QImage image(const TileIndex &index) const;
+    QImage image(const TileIndex &index) const { return m_stock->image(index); }
     bool isMissing(const TileIndex &index) const;
-    // Whether nothing of the view is on its way.
-    bool settled() const;
-    qsizetype memoryUsed() const { return m_images.totalCost(); }
+    // Whether nothing is on its way, for other views that share the stock neither.
+    bool settled() const { return m_stock->settled(); }
+    qsizetype memoryUsed() const { return m_stock->memoryUsed(); }
 
-    QString copyright() const { return m_setup.copyright; }
-    QColor copyrightColor() const { return m_setup.copyrightColor; }
+    QString copyright() const { return m_stock->copyright(); }
+    QColor copyrightColor() const { return m_stock->source().setup.copyrightColor; }
     // In the style that suits the service's images.
     QImage logo() const;
     // 20 pixels high at a device pixel ratio of 2; null where the service has none.
@@ -114,11 +109,6 @@ Q_SIGNALS:
     void message(LogLevel level, const QString &text);
     void stateChanged(); // stateText() may have changed
 
-protected:
-    // An archive's tiles are the only ones: the service is not asked. Until it is used there are none.
-    void useArchive(TileLoader::Open open, int minLevel, int maxLevel, const QString &copyright);
-    void failArchive(const QString &reason);
-
 private:
     struct View {
         double north = 0.0; // degrees
@@ -128,41 +118,21 @@ private:
         double resolution = 0.0; // metres of the plane per device pixel
     };
 
-    void useTileFiles();
-    void applyProxy();
-    bool readsStoreFirst() const;
-    bool asksService() const;
+    const TileRequest &request() const { return m_stock->source().setup.request; }
     void repeatView();
-    void sayWhatIsMissing();
     void processRequest(const View &view);
     void prepareTiles(const TileRange &range);
-    void enqueueTile(const TileIndex &index);
-    void addImageToCache(const TileIndex &index, const QImage &image);
-    void turnToStore();
-    void connectFetcher();
-    void connectLoader();
     void loadLogos();
-    void complainOfStore(const QString &reason);
-    void scheduleChange();
-    void announceChange();
+    void announceChange(bool images);
     QString trouble() const;
 
-    TileServiceSetup m_setup;
+    std::shared_ptr<TileStock> m_stock;
     Projector *m_projector;
-    TileFetcher *m_fetcher;
-    TileLoader *m_loader;
-    mutable QCache<TileIndex, QImage> m_images;
-    QTimer m_changeTimer;
     std::optional<View> m_view;
     QSet<TileIndex> m_wanted; // by the view
     std::array<QImage, 2> m_logos;
-    TileProxy m_proxy;
-    QString m_storeTrouble;
     QString m_lastState;
     bool m_enabled = true;
     bool m_visible = true;
     bool m_tooWide = false; // the view, for the coarsest level
-    bool m_imagesCame = false; // since the last tilesChanged()
-    bool m_paused = false; // the fetcher, when it was last looked at
-    bool m_problemSaid = false;
 };

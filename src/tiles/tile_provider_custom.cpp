@@ -2,8 +2,6 @@
 
 #include "app/app_paths.h"
 #include "app/config.h"
-#include "tiles/mb_tiles_reader.h"
-#include "tiles/tile_image.h"
 
 #include <QCryptographicHash>
 #include <QRegularExpression>
@@ -50,23 +48,6 @@ QString splitAddress(TileRequest &request, const QString &address)
         : TileProviderCustom::tr("The address of the custom tile service is not valid.");
 }
 
-TileLoader::Open readArchive(const std::shared_ptr<const MbTilesReader> &reader)
-{
-    return [reader]() -> TileLoader::Read {
-        return [reader](const TileIndex &index, QString *error) {
-            const QByteArray octets = reader->tile(index);
-            return octets.isEmpty() ? QImage() : decodeTileImage(octets, error);
-        };
-    };
-}
-
-QString plainText(const QString &markup)
-{
-    static const QRegularExpression Tags(QStringLiteral("<[^>]*>"));
-    QString text = markup;
-    return text.remove(Tags).simplified().replace(QLatin1String("&copy;"), QStringLiteral("©"));
-}
-
 // Services are told apart by their addresses, of which nothing can be read in the file system.
 QString directoryOf(const QString &address)
 {
@@ -74,31 +55,6 @@ QString directoryOf(const QString &address)
 }
 
 } // namespace
-
-TileProviderCustom::TileProviderCustom(const TileServiceSetup &setup, Projector *projector, QObject *parent)
-    : TileProvider(setup, projector, parent)
-{
-    if (!setup.archive.isEmpty()) {
-        openArchive(setup.archive);
-    }
-}
-
-void TileProviderCustom::openArchive(const QString &path)
-{
-    const auto open = [path](const BackgroundPass::Token &) {
-        auto reader = std::make_shared<MbTilesReader>();
-        reader->open(path);
-        return reader;
-    };
-    m_opening.start(open, [this](const std::shared_ptr<MbTilesReader> &reader) {
-        if (!reader->isOpen()) {
-            failArchive(reader->error());
-            return;
-        }
-        const MbTilesMetadata &metadata = reader->metadata();
-        useArchive(readArchive(reader), metadata.minLevel, metadata.maxLevel, plainText(metadata.attribution));
-    });
-}
 
 TileServiceSetup TileProviderCustom::setup(const Config &config)
 {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/background_pass.h"
 #include "tiles/tile_provider.h"
 
 class Config;
@@ -10,12 +9,7 @@ class TileProviderCustom final : public TileProvider {
     Q_OBJECT
 
 public:
-    TileProviderCustom(const TileServiceSetup &setup, Projector *projector, QObject *parent = nullptr);
+    using TileProvider::TileProvider;
 
     static TileServiceSetup setup(const Config &config);
-
-private:
-    void openArchive(const QString &path);
-
-    BackgroundPass m_opening;
 };

@@ -36,23 +36,23 @@ TileServiceSetup setupOf(TileService service, const Config &config)
     return {};
 }
 
-std::unique_ptr<TileProvider> made(const TileServiceSetup &setup, Projector *projector, QObject *parent)
+std::unique_ptr<TileProvider> made(TileService service, const std::shared_ptr<TileStock> &stock, Projector *projector)
 {
-    switch (setup.request.service) {
+    switch (service) {
     case TileService::BingMaps:
-        return std::make_unique<TileProviderBing>(setup, projector, parent);
+        return std::make_unique<TileProviderBing>(stock, projector);
     case TileService::OpenAip:
-        return std::make_unique<TileProviderOpenAip>(setup, projector, parent);
+        return std::make_unique<TileProviderOpenAip>(stock, projector);
     case TileService::GoogleMaps:
-        return std::make_unique<TileProviderGoogle>(setup, projector, parent);
+        return std::make_unique<TileProviderGoogle>(stock, projector);
     case TileService::Tianditu:
-        return std::make_unique<TileProviderTianditu>(setup, projector, parent);
+        return std::make_unique<TileProviderTianditu>(stock, projector);
     case TileService::TiandituAnnotation:
-        return std::make_unique<TileProviderTiandituAnnotation>(setup, projector, parent);
+        return std::make_unique<TileProviderTiandituAnnotation>(stock, projector);
     case TileService::Faa:
-        return std::make_unique<TileProviderFaa>(setup, projector, parent);
+        return std::make_unique<TileProviderFaa>(stock, projector);
     case TileService::Custom:
-        return std::make_unique<TileProviderCustom>(setup, projector, parent);
+        return std::make_unique<TileProviderCustom>(stock, projector);
     case TileService::None:
         break;
     }
@@ -83,17 +83,13 @@ QString tileCacheDirectory(const Config &config)
 }
 
 std::unique_ptr<TileProvider> makeTileProvider(
-    TileService service, const Config &config, Projector *projector, QObject *parent)
+    TileService service, const Config &config, Projector *projector, TileStocks &stocks)
 {
-    std::unique_ptr<TileProvider> provider = made(tileServiceSetup(service, config), projector, parent);
-    if (!provider) {
-        return provider;
+    if (service == TileService::None) {
+        return {};
     }
-    provider->setNetworkProxyServer(config.mapTileProxyHostname, config.mapTileProxyPort);
-    provider->setNetworkProxyAuthentication(config.mapTileProxyUser, config.mapTileProxyPassword);
-    provider->setNetworkProxyHostnameLookup(config.mapTileProxyHostnameLookup);
-    provider->setNetworkProxyEnabled(config.mapTileUseProxy);
-    provider->setNetworkCacheDir(tileCacheDirectory(config));
+    const auto stock = stocks.from({tileServiceSetup(service, config), tileProxy(config), tileCacheDirectory(config)});
+    std::unique_ptr<TileProvider> provider = made(service, stock, projector);
     provider->setEnabled(config.mapTileService);
     provider->setVisible(config.mapTileVisible);
     provider->setConsent(config.mapTileConsent);

@@ -16,10 +16,10 @@ TileProxy tileProxy(const Config &config);
 // Absolute.
 QString tileCacheDirectory(const Config &config);
 
-// The provider of a service, with everything that the settings say of it applied; null for None. The projector outlives
-// it.
+// The provider of a service, with everything that the settings say of it applied; null for None. It shares the tiles of
+// another view for which these stocks have the same service with the same settings. The projector outlives it.
 std::unique_ptr<TileProvider> makeTileProvider(
-    TileService service, const Config &config, Projector *projector, QObject *parent = nullptr);
+    TileService service, const Config &config, Projector *projector, TileStocks &stocks);
 
 // The same for single tiles, such as those of a download: proxy, cache and consent applied. Nothing is sent before
 // TileFetcher::pump().

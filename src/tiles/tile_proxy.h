@@ -12,6 +12,8 @@ struct TileProxy {
     QString password;
     bool hostNameLookup = true; // by the proxy, so that this terminal needs no name server
 
+    bool operator==(const TileProxy &) const = default;
+
     // That of the application while none is enabled.
     QNetworkProxy toNetworkProxy() const
     {

@@ -26,6 +26,8 @@ struct TileRequest {
     int adjustLevel = 0; // levels beyond what the view's resolution asks for
     QString problem; // why the service cannot be asked, in words for the operator; empty: it can
 
+    bool operator==(const TileRequest &) const = default;
+
     // Invalid for a tile that is not on the map, and where the patterns make no address of http or https.
     QUrl url(const TileIndex &index) const;
     // Empty for a tile that is not on the map. Holds no "..", whatever the settings say.

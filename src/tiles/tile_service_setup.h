@@ -14,4 +14,6 @@ struct TileServiceSetup {
     bool offlineOnly = false; // whether the service is never asked
     QString copyright;
     QColor copyrightColor{Qt::black}; // on the service's images
+
+    bool operator==(const TileServiceSetup &) const = default;
 };

@@ -22,6 +22,7 @@
 #include "settings/track_label_format_window.h"
 #include "silence/geo_last_place_map.h"
 #include "tile_windows/tile_maps.h"
+#include "tiles/tile_stock.h"
 #include "ui/actions.h"
 #include "ui/empty_scope.h"
 #include "ui/home_view.h"
@@ -209,11 +210,12 @@ void MainWindow::makeParts()
     m_layoutMenu = std::make_unique<LayoutMenu>(this, m_actions, m_geoWidget, &m_config.lock());
     m_mapWindows =
         std::make_unique<MapWindows>(this, m_actions, m_geoWidget, &m_host.shared().projector, &m_config.lock());
-    m_tileMaps = std::make_unique<TileMaps>(this, m_geoWidget, &m_host.shared().projector,
+    const auto tiles = std::make_shared<TileStocks>();
+    m_tileMaps = std::make_unique<TileMaps>(this, m_geoWidget, &m_host.shared().projector, tiles,
         [this](const std::function<void(Config &)> &change) { editConfig(change); });
     m_replay = std::make_unique<ReplayControls>(this, m_actions, &m_config, m_sensors.get(), &m_host, m_session.get());
     m_views = std::make_unique<SecondViews>(
-        PlanViewWindow::Shared{&m_host.shared().projector, m_mapWindows->library(), m_plan.get()},
+        PlanViewWindow::Shared{&m_host.shared().projector, m_mapWindows->library(), m_plan.get(), tiles},
         [this] { return !m_config.lock().locked(); });
 }
 

@@ -270,6 +270,7 @@ void MainWindow::connectSecondViews()
     connect(views, &SecondViews::trackSelected, m_trackCommands.get(), &TrackCommands::select);
     connect(views, &SecondViews::explainRequested, m_trackCommands.get(), &TrackCommands::trackToExplain);
     connect(views, &SecondViews::acknowledgeRequested, m_trackDisplay, &GeoTrackDisplay::acknowledgeTrack);
+    connect(views, &SecondViews::logMessage, this, &MainWindow::showLog);
     connect(views, &SecondViews::tileConsentGiven, this,
         [this] { editConfig([](Config &config) { config.mapTileConsent = true; }); });
 }

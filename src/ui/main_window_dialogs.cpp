@@ -21,6 +21,7 @@
 #include "settings/sensor_manager_window.h"
 #include "settings/settings_reference.h"
 #include "settings/track_label_format_window.h"
+#include "tile_windows/tile_maps.h"
 #include "ui/actions.h"
 #include "ui/home_view.h"
 #include "ui/input_session.h"
@@ -139,6 +140,9 @@ void MainWindow::showConfigWindow()
     auto *window = new ConfigWindow(m_config.live(), m_sensors.get(), this);
     window->setConsent([this](const Config &edited) { return m_mapWindows->settle(edited); });
     window->setEngine(&m_host);
+    if (m_tileMaps->barred()) {
+        window->barTileServices();
+    }
     window->setInputRunning(m_session->state() != InputSession::State::Closed);
     connect(m_session.get(), &InputSession::changed, window,
         [this, window] { window->setInputRunning(m_session->state() != InputSession::State::Closed); });

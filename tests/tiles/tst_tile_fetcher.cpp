@@ -145,7 +145,7 @@ void TestTileFetcher::staysWithinTheLimit()
 void TestTileFetcher::nearestFirst()
 {
     m_fetcher->setMaxConcurrentRequests(1);
-    m_fetcher->setCentre({0.0, 4.5});
+    m_fetcher->setCentres({{4, {0.0, 4.5}}});
     for (const int x : {7, 3, 15, 0, 1}) { // 15 is the neighbour of 0 beyond the 180th meridian
         m_fetcher->enqueue({x, 4, 4});
     }

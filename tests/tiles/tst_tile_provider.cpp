@@ -55,12 +55,6 @@ ViewBox panned(const ViewBox &view, int step)
     return next;
 }
 
-class MemoryProvider final : public TileProvider {
-public:
-    using TileProvider::TileProvider;
-    using TileProvider::useArchive;
-};
-
 } // namespace
 
 class TestTileProvider : public QObject {
@@ -70,6 +64,7 @@ private Q_SLOTS:
     void init();
     void showsAView();
     void asksForNothingNeedless();
+    void sharesWithOtherViews();
     void staysWithinItsMemory();
     void savesAndReadsFiles();
     void mendsFiles();
@@ -86,7 +81,8 @@ private Q_SLOTS:
     void hasLogos();
 
 private:
-    std::unique_ptr<TileProvider> make();
+    // With a memory of its own.
+    std::unique_ptr<TileProvider> make(TileService service = TileService::OpenAip);
     bool saved(const TileProvider &provider, const ViewBox &view) const;
 
     std::unique_ptr<TileServer> m_server;
@@ -109,9 +105,10 @@ void TestTileProvider::init()
     m_config.mapOpenAipTileDir = m_directory->path();
 }
 
-std::unique_ptr<TileProvider> TestTileProvider::make()
+std::unique_ptr<TileProvider> TestTileProvider::make(TileService service)
 {
-    auto provider = makeTileProvider(TileService::OpenAip, m_config, &m_projector);
+    TileStocks stocks;
+    auto provider = makeTileProvider(service, m_config, &m_projector, stocks);
     connect(
         provider.get(), &TileProvider::message, this, [this](LogLevel, const QString &text) { m_log.append(text); });
     return provider;
@@ -174,12 +171,56 @@ void TestTileProvider::asksForNothingNeedless()
     }
 }
 
+// Two views of one program that overlap, one of which moves on while the service takes its time.
+void TestTileProvider::sharesWithOtherViews()
+{
+    m_server->setLatency(50);
+    TileStocks stocks;
+    auto first = makeTileProvider(TileService::OpenAip, m_config, &m_projector, stocks);
+    const auto second = makeTileProvider(TileService::OpenAip, m_config, &m_projector, stocks);
+    QSignalSpy firstLog(first.get(), &TileProvider::message);
+    QSignalSpy secondLog(second.get(), &TileProvider::message);
+    ViewBox aside = Home;
+    aside.pixels.translate(300, 0);
+    ViewBox far = Home;
+    far.pixels.translate(4000, 4000);
+    far.show(*first);
+    aside.show(*second);
+    Home.show(*first); // what is far is left before it was asked for, but for what was sent at once
+    QTRY_VERIFY(shows(*first, Home) && shows(*second, aside));
+    QVERIFY(m_server->mostConcurrent() <= TileFetcher::DefaultConcurrentRequests);
+    QVERIFY(m_server->count() <= (Home.tiles() | aside.tiles()).size() + TileFetcher::DefaultConcurrentRequests);
+    for (const TileServer::Request &request : m_server->requests()) {
+        QCOMPARE(m_server->count(request.target), 1);
+    }
+
+    m_server->setAnswer(TileServer::status(503));
+    m_server->forgetRequests();
+    far.show(*first);
+    QTRY_COMPARE(firstLog.size(), 1); // once for all views
+    const qsizetype asked = m_server->count();
+    far.pixels.translate(1000, 0);
+    far.show(*second); // the pause holds for it too
+    QTest::qWait(80);
+    QCOMPARE(m_server->count(), asked);
+    QCOMPARE(secondLog.size(), 0);
+    QVERIFY(!second->stateText().isEmpty());
+
+    first.reset();
+    Home.show(*second);
+    QVERIFY(shows(*second, Home)); // what the other has left behind
+    m_config.mapOpenAipApiKey = QStringLiteral("another");
+    const auto third = makeTileProvider(TileService::OpenAip, m_config, &m_projector, stocks);
+    QVERIFY(third->image(*Home.tiles().begin()).isNull());
+}
+
 void TestTileProvider::staysWithinItsMemory()
 {
     constexpr qsizetype Limit = 2 * 1024 * 1024;
     std::atomic<int> reads = 0;
     std::atomic<bool> onGuiThread = false;
-    MemoryProvider provider({}, &m_projector);
+    const auto stock = std::make_shared<TileStock>(TileStock::Source());
+    TileProvider provider(stock, &m_projector);
     provider.setMemoryLimit(Limit);
     const auto read = [&](const TileIndex &index, QString *) {
         ++reads;
@@ -188,7 +229,7 @@ void TestTileProvider::staysWithinItsMemory()
         image.fill(TileServer::colorOf(index));
         return image;
     };
-    provider.useArchive([read]() -> TileLoader::Read { return read; }, 1, 23, {});
+    stock->useArchive({[read]() -> TileLoader::Read { return read; }, 1, 23, {}, {}});
     ViewBox view{QRect(256, 256 * 40, 256 * 32 - 2, 256 * 32 - 2), 12};
     while (reads < 100'000) {
         view.show(provider);
@@ -361,7 +402,7 @@ void TestTileProvider::readsArchives()
     m_config.mapTileConsent = false;
     m_config.mapCustomTileFile = path;
     m_config.mapCustomTileUrl = m_server->tileTemplate();
-    const auto provider = makeTileProvider(TileService::Custom, m_config, &m_projector);
+    const auto provider = make(TileService::Custom);
     Home.show(*provider);
     QTRY_VERIFY(shows(*provider, Home));
     QCOMPARE(provider->minLevel(), 6);
@@ -387,11 +428,10 @@ void TestTileProvider::refusesArchives()
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(octets);
     }
-    const auto provider = makeTileProvider(TileService::Custom, m_config, &m_projector);
-    QSignalSpy messages(provider.get(), &TileProvider::message);
+    const auto provider = make(TileService::Custom);
     Home.show(*provider);
     QTRY_VERIFY(provider->stateText().contains(QLatin1String("site.mbtiles")));
-    QCOMPARE(messages.size(), 1);
+    QCOMPARE(m_log.size(), 1);
     QCOMPARE(m_server->count(), 0);
 }
 
@@ -399,7 +439,7 @@ void TestTileProvider::coarsensWideViews()
 {
     m_config.mapFaaTileServer = m_server->address();
     m_config.mapFaaTileDir = m_directory->path();
-    const auto faa = makeTileProvider(TileService::Faa, m_config, &m_projector);
+    const auto faa = make(TileService::Faa);
     faa->requestTiles({60.0, -170.0}, {10.0, 170.0}, 50'000.0); // its coarsest level has thousands of tiles there
     QTRY_VERIFY(faa->stateText().contains(QLatin1String("wide")));
     QTest::qWait(50);
@@ -415,13 +455,14 @@ void TestTileProvider::hasLogos()
 {
     m_config.mapTiandituApiKey = QStringLiteral("key");
     for (int service = 1; service <= 6; ++service) {
-        const auto provider = makeTileProvider(static_cast<TileService>(service), m_config, &m_projector);
+        const auto provider = make(static_cast<TileService>(service));
         for (const auto style : {TileProvider::LogoStyle::Light, TileProvider::LogoStyle::Dark}) {
             QCOMPARE(provider->styledLogo(style).height(), 40);
         }
         QVERIFY(provider->copyright().startsWith(QStringLiteral("Copyright %1 ").arg(QDate::currentDate().year())));
     }
-    QVERIFY(!makeTileProvider(TileService::None, m_config, &m_projector));
+    TileStocks stocks;
+    QVERIFY(!makeTileProvider(TileService::None, m_config, &m_projector, stocks));
 }
 
 VYX_TEST(TestTileProvider)

@@ -1,10 +1,12 @@
 #include "tile_windows/tile_maps.h"
 
 #include "plan_view/geo_widget.h"
+#include "settings/config_window.h"
 #include "test_program.h"
 #include "tile_server.h"
 #include "tile_windows/tile_download_window.h"
 #include "ui/actions.h"
+#include "ui/log_pane.h"
 #include "window_fixture.h"
 
 #include <QAction>
@@ -15,6 +17,8 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+#include <algorithm>
+
 class TestTileMaps : public QObject {
     Q_OBJECT
 
@@ -22,6 +26,7 @@ private Q_SLOTS:
     void init();
     void asksNobodyBeforeTheOperatorAgrees();
     void switchesTilesOffAndOn();
+    void viewsShareTheirTiles();
     void demonstrationAsksNobody();
     void saysWhatIsMissing();
     void downloadsTheAreaOfTheView();
@@ -30,7 +35,8 @@ private Q_SLOTS:
 private:
     std::unique_ptr<MainWindow> makeWindow(const std::function<void(Config &)> &change = {});
     static QAction *toggle(const MainWindow &window);
-    static bool showsTiles(const MainWindow &window);
+    static bool showsTiles(const MainWindow &window) { return showsTiles(window, window.geoWidget()); }
+    static bool showsTiles(const MainWindow &window, GeoWidget *plan);
 
     std::unique_ptr<WindowFixture> m_fixture;
     std::unique_ptr<TileServer> m_server;
@@ -68,9 +74,9 @@ QAction *TestTileMaps::toggle(const MainWindow &window)
 }
 
 // Whether the ground under the pointer is another colour than that of an empty map.
-bool TestTileMaps::showsTiles(const MainWindow &window)
+bool TestTileMaps::showsTiles(const MainWindow &window, GeoWidget *plan)
 {
-    const QImage picture = window.geoWidget()->grab().toImage();
+    const QImage picture = plan->grab().toImage();
     return picture.pixelColor(picture.width() / 3, picture.height() / 3) != window.config().mapBackgroundColor;
 }
 
@@ -90,6 +96,7 @@ void TestTileMaps::asksNobodyBeforeTheOperatorAgrees()
     QVERIFY(!toggle(*window)->isChecked());
     QTest::qWait(100);
     QCOMPARE(m_server->count(), 0);
+    QVERIFY(window->findChild<LogPane *>()->toPlainText().contains(QStringLiteral("No tiles are shown")));
 
     agrees = true;
     toggle(*window)->trigger();
@@ -124,6 +131,23 @@ void TestTileMaps::switchesTilesOffAndOn()
     QTRY_VERIFY(m_server->count() > 0);
 }
 
+void TestTileMaps::viewsShareTheirTiles()
+{
+    m_server->setLatency(20);
+    const auto window = makeWindow([](Config &config) { config.mapTileConsent = true; });
+    (*window->findChild<Actions *>())[ActionId::NewPlanView]->trigger();
+    const auto windows = QApplication::topLevelWidgets();
+    const auto found =
+        std::ranges::find_if(windows, [](const QWidget *one) { return one->inherits("PlanViewWindow"); });
+    QVERIFY(found != windows.end());
+    QTRY_VERIFY(showsTiles(*window) && showsTiles(*window, (*found)->findChild<GeoWidget *>()));
+    QTest::qWait(200);
+    QVERIFY(m_server->mostConcurrent() <= 6);
+    for (const TileServer::Request &request : m_server->requests()) {
+        QCOMPARE(m_server->count(request.target), 1);
+    }
+}
+
 void TestTileMaps::demonstrationAsksNobody()
 {
     const auto window = makeWindow();
@@ -132,6 +156,12 @@ void TestTileMaps::demonstrationAsksNobody()
     toggle(*window)->trigger();
     toggle(*window)->trigger();
     window->geoWidget()->zoomIn();
+    window->showConfigWindow();
+    auto *settings = window->findChild<ConfigWindow *>();
+    settings->findChild<QComboBox *>(QStringLiteral("shownTileService"))
+        ->setCurrentText(QStringLiteral("Custom Tiles"));
+    settings->findChild<QPushButton *>(QStringLiteral("tryTileService"))->click();
+    QVERIFY(!settings->findChild<QLabel *>(QStringLiteral("trialWords"))->text().isEmpty());
     QTest::qWait(100);
     QCOMPARE(m_server->count(), 0);
 }
