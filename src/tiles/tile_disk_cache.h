@@ -2,22 +2,46 @@
 
 #include "app/background_pass.h"
 
+#include <QByteArray>
+#include <QHash>
+#include <QList>
 #include <QNetworkDiskCache>
 
-// A network cache that is cut down to its size by a worker: the search through its directory takes longer than a frame
-// may. For the thread of its network access.
+#include <memory>
+
+class QBuffer;
+
+// A network cache whose files are written, and cut down to their size, by a worker: both take longer than a frame may.
+// What waits to be written is not found yet. For the thread of its network access.
 class TileDiskCache final : public QNetworkDiskCache {
 public:
     static constexpr qint64 MaxOctets = 200 * 1024 * 1024;
 
     explicit TileDiskCache(const QString &directory, QObject *parent = nullptr);
+    ~TileDiskCache() override; // what waits to be written is dropped
+
+    // Memory that takes up an answer; null for one that is not to be kept.
+    QIODevice *prepare(const QNetworkCacheMetaData &metaData) override;
+    void insert(QIODevice *device) override;
+    bool remove(const QUrl &url) override;
 
 protected:
-    // Called for every file stored; returns nothing of use, since nobody here asks for the cache's size.
+    // Returns nothing of use, since nobody here asks for the cache's size.
     qint64 expire() override;
 
 private:
-    int m_stored = 0; // files
+    struct Answer {
+        QNetworkCacheMetaData metaData;
+        QByteArray octets;
+    };
+
+    void startWriting();
+    void startShrinking(qint64 octets);
+
+    QHash<QIODevice *, std::pair<std::shared_ptr<QBuffer>, QNetworkCacheMetaData>> m_arriving;
+    QList<Answer> m_toWrite;
+    int m_stored = 0; // answers
+    BackgroundPass m_writing;
     BackgroundPass m_shrinking;
 };
 

@@ -1,19 +1,59 @@
 #include "tile_server.h"
 
+#include "tile_server_identity.h"
+
 #include <QBuffer>
 #include <QImage>
 #include <QRegularExpression>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslServer>
 #include <QTcpSocket>
 #include <QTimer>
 
 #include <algorithm>
 
-TileServer::TileServer()
+namespace {
+
+QSslCertificate certificate()
 {
-    m_server.listen(QHostAddress::LocalHost);
-    QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] {
-        while (QTcpSocket *socket = m_server.nextPendingConnection()) {
-            QObject::connect(socket, &QTcpSocket::readyRead, &m_server, [this, socket] { read(socket); });
+    return QSslCertificate(TileServerCertificate);
+}
+
+std::unique_ptr<QTcpServer> makeTlsServer()
+{
+    QSslConfiguration identity = QSslConfiguration::defaultConfiguration();
+    identity.setLocalCertificate(certificate());
+    identity.setPrivateKey(QSslKey(TileServerKey, QSsl::Ec));
+    auto server = std::make_unique<QSslServer>();
+    server->setSslConfiguration(identity);
+    return server;
+}
+
+} // namespace
+
+bool TileServer::hasTls()
+{
+    return QSslSocket::supportsSsl();
+}
+
+void TileServer::setTrusted(bool trusted)
+{
+    static const QList<QSslCertificate> Known = QSslConfiguration::defaultConfiguration().caCertificates();
+    QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+    configuration.setCaCertificates(trusted ? Known + QList{certificate()} : Known);
+    QSslConfiguration::setDefaultConfiguration(configuration);
+}
+
+TileServer::TileServer(Transport transport)
+    : m_server(transport == Transport::Tls ? makeTlsServer() : std::make_unique<QTcpServer>())
+{
+    m_server->listen(QHostAddress::LocalHost);
+    QTcpServer *server = m_server.get();
+    QObject::connect(server, &QTcpServer::pendingConnectionAvailable, server, [this, server] {
+        while (QTcpSocket *socket = server->nextPendingConnection()) {
+            QObject::connect(socket, &QTcpSocket::readyRead, server, [this, socket] { read(socket); });
             QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
         }
     });
@@ -21,7 +61,8 @@ TileServer::TileServer()
 
 QString TileServer::address() const
 {
-    return QStringLiteral("http://127.0.0.1:%1").arg(m_server.serverPort());
+    const bool secure = qobject_cast<QSslServer *>(m_server.get());
+    return QStringLiteral("%1://127.0.0.1:%2").arg(secure ? "https" : "http").arg(m_server->serverPort());
 }
 
 void TileServer::read(QTcpSocket *socket)
@@ -65,18 +106,36 @@ ServerAnswer TileServer::answerTo(const QByteArray &target) const
     return index ? content(tile(*index, m_side)) : status(404);
 }
 
+QByteArray TileServer::head(const ServerAnswer &answer)
+{
+    QByteArray octets =
+        "HTTP/1.1 " + QByteArray::number(answer.status) + " Status\r\nContent-Type: " + answer.contentType + "\r\n";
+    octets += answer.chunked ? QByteArray("Transfer-Encoding: chunked\r\n")
+                             : "Content-Length: " + QByteArray::number(answer.body.size()) + "\r\n";
+    for (const auto &[name, value] : answer.headers) {
+        octets += name + ": " + value + "\r\n";
+    }
+    return octets + "\r\n";
+}
+
 void TileServer::write(QTcpSocket *socket, const ServerAnswer &answer)
 {
     if (answer.silent) {
         return;
     }
-    QByteArray octets = "HTTP/1.1 " + QByteArray::number(answer.status) + " Status\r\nContent-Type: "
-        + answer.contentType + "\r\nContent-Length: " + QByteArray::number(answer.body.size()) + "\r\n";
-    for (const auto &[name, value] : answer.headers) {
-        octets += name + ": " + value + "\r\n";
+    socket->write(head(answer));
+    const QByteArray body = answer.cutOff ? answer.body.first(answer.body.size() / 2) : answer.body;
+    if (answer.chunked) {
+        const qsizetype piece = body.size() / 3 + 1;
+        for (qsizetype from = 0; from < body.size(); from += piece) {
+            const QByteArray part = body.mid(from, piece);
+            socket->write(QByteArray::number(part.size(), 16) + "\r\n" + part + "\r\n");
+            socket->flush();
+        }
+        socket->write(answer.cutOff ? "" : "0\r\n\r\n");
+    } else {
+        socket->write(body);
     }
-    octets += "\r\n";
-    socket->write(octets + (answer.cutOff ? answer.body.first(answer.body.size() / 2) : answer.body));
     if (answer.cutOff) {
         socket->disconnectFromHost();
     }

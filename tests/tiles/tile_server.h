@@ -11,6 +11,7 @@
 #include <QTcpServer>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class QTcpSocket;
@@ -21,6 +22,7 @@ struct ServerAnswer {
     QByteArray body;
     QByteArray contentType = "image/png";
     QList<QPair<QByteArray, QByteArray>> headers;
+    bool chunked = false; // in pieces, without saying how long it is
     bool cutOff = false; // half of the body, then the connection is closed
     bool silent = false; // never answered
 };
@@ -29,14 +31,16 @@ struct ServerAnswer {
 // Addresses end with "/{z}/{x}/{y}" and whatever ending. Lives in the thread of the test.
 class TileServer {
 public:
+    enum class Transport { Plain, Tls };
+
     struct Request {
         QByteArray target; // path and query
         QHash<QByteArray, QByteArray> headers; // lower-case names
     };
 
-    TileServer();
+    explicit TileServer(Transport transport = Transport::Plain);
 
-    QString address() const; // "http://127.0.0.1:<port>"
+    QString address() const; // "http://127.0.0.1:<port>", or https
     // The template of the custom service.
     QString tileTemplate() const { return address() + QStringLiteral("/{z}/{x}/{y}.png"); }
 
@@ -65,6 +69,11 @@ public:
     int duplicatesInFlight() const { return m_duplicates; }
     void forgetRequests();
 
+    // Whether this machine can serve over TLS.
+    static bool hasTls();
+    // Trusted by all requests of the process from now on, or no longer.
+    static void setTrusted(bool trusted);
+
     static QColor colorOf(const TileIndex &index);
     static QByteArray tile(const TileIndex &index, int side = 256);
     static std::optional<TileIndex> indexOf(const QByteArray &target);
@@ -79,9 +88,10 @@ private:
     void read(QTcpSocket *socket);
     void serve(QTcpSocket *socket, const QByteArray &head);
     ServerAnswer answerTo(const QByteArray &target) const;
+    static QByteArray head(const ServerAnswer &answer);
     static void write(QTcpSocket *socket, const ServerAnswer &answer);
 
-    QTcpServer m_server;
+    std::unique_ptr<QTcpServer> m_server;
     std::function<std::optional<ServerAnswer>(const QByteArray &)> m_misbehave;
     QList<Request> m_requests;
     QHash<QByteArray, int> m_underWay;

@@ -15,6 +15,13 @@ constexpr TileIndex First{1, 2, 3};
 constexpr TileIndex Second{2, 2, 3};
 constexpr char Secret[] = "s3cr3t";
 
+ServerAnswer chunked(const QByteArray &body)
+{
+    ServerAnswer answer = TileServer::content(body);
+    answer.chunked = true;
+    return answer;
+}
+
 } // namespace
 
 // Against a server on this machine, by the requests that it counts.
@@ -25,6 +32,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void fetches();
+    void readsAnswersInPieces();
     void staysWithinTheLimit();
     void nearestFirst();
     void failures_data();
@@ -39,7 +47,11 @@ private Q_SLOTS:
     void followsRedirects_data();
     void followsRedirects();
     void keepsHeadersFromOtherServers();
+    void staysOnSecureWays_data();
+    void staysOnSecureWays();
+    void distrustsUnknownServers();
     void mendsItsCache();
+    void cachesWholeAnswersOnly();
     void nothingLeavesWithoutConsent();
     void namesItself();
 
@@ -125,6 +137,17 @@ void TestTileFetcher::fetches()
     QCOMPARE(m_log, QStringList());
 }
 
+void TestTileFetcher::readsAnswersInPieces()
+{
+    m_server->setAnswer(chunked(TileServer::tile(First)));
+    QByteArray octets;
+    connect(m_fetcher.get(), &TileFetcher::received, this,
+        [&](const TileIndex &, const QByteArray &came) { octets = came; });
+    ask(First);
+    settle();
+    QCOMPARE(octets, TileServer::tile(First));
+}
+
 void TestTileFetcher::staysWithinTheLimit()
 {
     m_fetcher->setMaxConcurrentRequests(0);
@@ -186,11 +209,15 @@ void TestTileFetcher::failures_data()
         error + "an answer from " + host + " that is no whole image", false);
     row("larger than a tile", TileServer::content(QByteArray(MaxTileOctets + 1, 'x')),
         error + "the answer is larger than a tile can be", false);
+    row("larger than a tile, as is found meanwhile", chunked(QByteArray(MaxTileOctets + 1, 'x')),
+        error + "the answer is larger than a tile can be", false);
+    const QString closed =
+        "Network error while requesting tiles: the connection was closed before the answer was complete (" + host + ')';
     ServerAnswer cutOff = TileServer::content(TileServer::tile(First));
     cutOff.cutOff = true;
-    row("connection closed half way", cutOff,
-        "Network error while requesting tiles: the connection was closed before the answer was complete (" + host + ')',
-        true);
+    row("connection closed half way", cutOff, closed, true);
+    cutOff.chunked = true;
+    row("connection closed between pieces", cutOff, closed, true);
 }
 
 void TestTileFetcher::failures()
@@ -384,6 +411,63 @@ void TestTileFetcher::keepsHeadersFromOtherServers()
     QCOMPARE(m_received.size(), 1);
 }
 
+void TestTileFetcher::staysOnSecureWays_data()
+{
+    using Transport = TileServer::Transport;
+    QTest::addColumn<TileServer::Transport>("from");
+    QTest::addColumn<TileServer::Transport>("to");
+    QTest::addColumn<bool>("key");
+    QTest::addColumn<QString>("refusal");
+    const auto insecure = QStringLiteral("insecure address");
+    QTest::addRow("from secure to insecure") << Transport::Tls << Transport::Plain << false << insecure;
+    QTest::addRow("from secure to insecure, with a key") << Transport::Tls << Transport::Plain << true << insecure;
+    QTest::addRow("from secure to secure") << Transport::Tls << Transport::Tls << false << QString();
+    QTest::addRow("from secure to secure, with a key")
+        << Transport::Tls << Transport::Tls << true << QStringLiteral("must not see the key");
+    QTest::addRow("from insecure to secure") << Transport::Plain << Transport::Tls << false << QString();
+}
+
+// Redirects to another server.
+void TestTileFetcher::staysOnSecureWays()
+{
+    QFETCH(TileServer::Transport, from);
+    QFETCH(TileServer::Transport, to);
+    QFETCH(bool, key);
+    QFETCH(QString, refusal);
+    if (!TileServer::hasTls()) {
+        QSKIP("Qt has no TLS on this machine.");
+    }
+    TileServer::setTrusted(true);
+    TileServer first(from);
+    TileServer second(to);
+    first.setAnswer(TileServer::redirect(second.address() + QStringLiteral("/3/1/2.png")));
+    if (!key) {
+        m_config.mapCustomTileHeader.clear();
+    }
+    make(first.tileTemplate());
+    ask(First);
+    settle();
+    TileServer::setTrusted(false);
+    QCOMPARE(first.count(), 1);
+    QCOMPARE(second.count(), refusal.isEmpty() ? 1 : 0);
+    QCOMPARE(m_received.size(), second.count());
+    QVERIFY2(refusal.isEmpty() ? m_log.isEmpty() : m_log.join(u'|').contains(refusal), qPrintable(m_log.join(u'|')));
+}
+
+void TestTileFetcher::distrustsUnknownServers()
+{
+    if (!TileServer::hasTls()) {
+        QSKIP("Qt has no TLS on this machine.");
+    }
+    TileServer stranger(TileServer::Transport::Tls);
+    make(stranger.tileTemplate());
+    ask(First);
+    settle();
+    QCOMPARE(stranger.count(), 0); // nor has it seen the key
+    QCOMPARE(
+        m_log, QStringList{"Network error while requesting tiles: no secure connection could be made (127.0.0.1)"});
+}
+
 void TestTileFetcher::mendsItsCache()
 {
     const QTemporaryDir directory;
@@ -394,13 +478,18 @@ void TestTileFetcher::mendsItsCache()
     m_server->setAnswer(lasting);
     ask(First);
     settle();
+    QString path;
+    const auto written = [&] {
+        QDirIterator files(directory.path(), {QStringLiteral("*.d")}, QDir::Files, QDirIterator::Subdirectories);
+        path = files.hasNext() ? files.next() : QString();
+        return !path.isEmpty();
+    };
+    QTRY_VERIFY(written());
     ask(First);
     settle();
     QCOMPARE(m_received.size(), 2);
     QCOMPARE(m_server->count(), 1); // the second came from the cache
-    QDirIterator files(directory.path(), QDir::Files, QDirIterator::Subdirectories);
-    QVERIFY(files.hasNext());
-    QFile file(files.next());
+    QFile file(path);
     QVERIFY(file.open(QIODevice::ReadWrite));
     file.seek(file.size() - 40);
     file.write(QByteArray(40, '\0')); // as after a crash
@@ -411,6 +500,34 @@ void TestTileFetcher::mendsItsCache()
     QCOMPARE(m_received.size(), 1);
     QCOMPARE(m_server->count(), 2);
     QCOMPARE(m_log, QStringList());
+}
+
+// What is given up half way, or no longer wanted, leaves nothing behind.
+void TestTileFetcher::cachesWholeAnswersOnly()
+{
+    const QTemporaryDir directory;
+    m_config.mapTileCacheDir = directory.path();
+    make(m_server->tileTemplate());
+    m_server->setAnswer(chunked(QByteArray(MaxTileOctets + 1, 'x')));
+    ask(First);
+    settle();
+    m_server->setAnswer(TileServer::status(500));
+    ask(Second);
+    settle();
+    m_server->behave();
+    ask({3, 2, 3});
+    QTRY_COMPARE(m_received.size(), 1);
+    const auto files = [&] {
+        QDirIterator found(directory.path(), QDir::Files, QDirIterator::Subdirectories);
+        qint64 octets = 0;
+        while (found.hasNext()) {
+            found.next();
+            octets += found.fileInfo().size();
+        }
+        return octets;
+    };
+    QTRY_VERIFY(files() > 0);
+    QVERIFY2(files() < 10'000, qPrintable(QString::number(files())));
 }
 
 void TestTileFetcher::nothingLeavesWithoutConsent()
