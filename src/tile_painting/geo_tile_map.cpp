@@ -9,6 +9,39 @@
 
 #include <algorithm>
 
+namespace {
+
+// More of the screen than this is painted in one go.
+constexpr double MostInParts = 0.6;
+
+// The parts of the screen that cells take, which are given row by row: those beside each other are one part.
+QList<QRect> onScreen(const std::vector<QPoint> &cells, quint8 level, const GeoView &view)
+{
+    QList<QRect> parts;
+    QRect whole;
+    double area = 0.0;
+    for (auto first = cells.begin(); first != cells.end();) {
+        auto last = first;
+        while (last + 1 != cells.end() && *(last + 1) == *last + QPoint(1, 0)) {
+            ++last;
+        }
+        const QRectF plane =
+            TilePlane::planeRect(first->x(), first->y(), level) | TilePlane::planeRect(last->x(), last->y(), level);
+        const QRect part =
+            view.screenTransform().mapRect(plane).toAlignedRect().adjusted(-1, -1, 1, 1) & view.screenRect();
+        if (!part.isEmpty()) {
+            parts.append(part);
+            whole |= part;
+            area += double(part.width()) * part.height();
+        }
+        first = last + 1;
+    }
+    const bool scattered = area < MostInParts * whole.width() * whole.height();
+    return scattered || parts.isEmpty() ? parts : QList{whole};
+}
+
+} // namespace
+
 GeoTileMap::GeoTileMap(Layer layer, QObject *parent)
     : GeoLayer(layer == Layer::Bottom ? tr("Bottom tiles") : tr("Top tiles"), parent), m_layer(layer),
       m_clock(steadyClock())
@@ -126,7 +159,7 @@ quint8 GeoTileMap::levelFor(const GeoView &view) const
 }
 
 // Returns what looks different now of what was shown before, logical pixels.
-QRect GeoTileMap::updateCells(const GeoView &view, quint8 level)
+QList<QRect> GeoTileMap::updateCells(const GeoView &view, quint8 level)
 {
     const TileRange range = TileRowPainter::needed(view, view.screenRect(), level);
     if (range.count() > TileProvider::MaxTilesPerView) {
@@ -135,11 +168,7 @@ QRect GeoTileMap::updateCells(const GeoView &view, quint8 level)
     }
     m_toned.keepAtLeast(range.count());
     const auto images = [this](const TileIndex &index) { return m_toned.image(index, m_source.image(index)); };
-    QRectF changed;
-    for (const QPoint &cell : m_cells.update(range, images, m_source.minLevel, m_source.maxLevel, m_clock())) {
-        changed |= view.screenTransform().mapRect(TilePlane::planeRect(cell.x(), cell.y(), level));
-    }
-    return changed.toAlignedRect().adjusted(-1, -1, 1, 1) & view.screenRect();
+    return onScreen(m_cells.update(range, images, m_source.minLevel, m_source.maxLevel, m_clock()), level, view);
 }
 
 void GeoTileMap::paint(QPainter &painter, const GeoView &view)
@@ -151,9 +180,9 @@ void GeoTileMap::paint(QPainter &painter, const GeoView &view)
     QList<QRect> parts = m_picture.turnTo(view);
     if (!parts.isEmpty() || m_stale || m_cells.fading()) {
         const quint8 level = levelFor(view);
-        const QRect changed = updateCells(view, level);
-        if (!changed.isEmpty() && !parts.contains(view.screenRect())) {
-            parts.append(changed);
+        const QList<QRect> changed = updateCells(view, level);
+        if (!parts.contains(view.screenRect())) {
+            parts += changed;
         }
         m_stale = false;
         for (const QRect &part : std::as_const(parts)) {

@@ -64,7 +64,7 @@ private:
     void followVisibility();
     void followDensity(double devicePixelRatio);
     quint8 levelFor(const GeoView &view) const;
-    QRect updateCells(const GeoView &view, quint8 level);
+    QList<QRect> updateCells(const GeoView &view, quint8 level);
 
     const Layer m_layer;
     QPointer<TileProvider> m_provider;

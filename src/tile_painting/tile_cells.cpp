@@ -7,11 +7,14 @@ namespace {
 constexpr qint64 FadeTime = 400; // milliseconds
 // What the first frame shows already: the plan view is painted five times a second, and should not wait for the next.
 constexpr qint64 FadedAtFirst = 120;
+// Tiles that come one after the other would otherwise all be mixed anew in each other's frames.
+constexpr qint64 FadeStep = 100;
 constexpr int HighestAncestor = 8; // levels up; what is further away shows hardly more than a colour
 
 double opacityAt(qint64 now, qint64 since)
 {
-    return std::clamp(static_cast<double>(now - since + FadedAtFirst) / FadeTime, 0.0, 1.0);
+    const qint64 faded = (now - since) / FadeStep * FadeStep + FadedAtFirst;
+    return std::clamp(static_cast<double>(faded) / FadeTime, 0.0, 1.0);
 }
 
 void findAncestor(TileCell &cell, const TileIndex &index, const TileCells::Images &images, int coarsest)
@@ -69,8 +72,12 @@ std::vector<QPoint> TileCells::update(
                 entry = cells.insert(index, resolve(index, images, coarsest, deepest, now));
             }
             const auto before = m_cells.constFind(index);
-            if (before != m_cells.constEnd() && !entry->cell.looksLike(before->cell)) {
-                changed.emplace_back(column, row);
+            if (before != m_cells.constEnd()) {
+                if (entry->cell.looksLike(before->cell)) {
+                    entry->cell.mixed = before->cell.mixed;
+                } else {
+                    changed.emplace_back(column, row);
+                }
             }
             m_showAnything = m_showAnything || !entry->cell.isBlank();
             m_fading = m_fading || entry->cell.opacity < 1.0;

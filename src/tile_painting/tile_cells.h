@@ -18,6 +18,7 @@ struct TileCell {
     QImage ancestor; // the nearest there is; null: none
     QRectF ancestorPart; // pixels of it
     std::array<QImage, 4> children; // northwest, northeast, southwest, southeast; null: not there
+    mutable QImage mixed; // all of it in one, once it has been painted; null: not kept
 
     bool isBlank() const;
     bool looksLike(const TileCell &other) const;
@@ -28,15 +29,16 @@ class TileCells {
 public:
     using Images = std::function<QImage(const TileIndex &)>;
 
-    // Brings the cells up to date. Returns the columns and rows of the range that look different from before; those
-    // that the last range did not have are not among them. An image that comes into a place that was shown without it
-    // fades in. The time is in milliseconds, the coarsest level that of stand-ins.
+    // Brings the cells up to date. Returns the columns and rows of the range that look different from before, row by
+    // row; those that the last range did not have are not among them. An image that comes into a place that was shown
+    // without it fades in. The time is in milliseconds, the coarsest level that of stand-ins.
     std::vector<QPoint> update(const TileRange &range, const Images &images, int coarsest, int deepest, qint64 now);
     void clear();
 
     // One without images where the range has none.
     const TileCell &at(int column, int row) const;
     bool isEmpty() const { return m_cells.isEmpty(); }
+    qsizetype count() const { return m_cells.size(); }
     // Whether there is any image, be it one that stands in.
     bool showAnything() const { return m_showAnything; }
     // Some image is not yet there in full: what update() returns changes with time.

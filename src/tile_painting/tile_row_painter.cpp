@@ -14,6 +14,8 @@ namespace {
 constexpr int Rim = 1; // rows of pixels of the neighbours above and below: edges are smoothed across them
 constexpr int WidestRow = 32000; // pixels; the painter counts pixels of a picture in 16 bits
 
+constexpr qsizetype MostMixedKept = 256; // cells of a view, so that a wide one does not take half the memory
+
 constexpr double Overlap = 0.1; // screen pixels
 constexpr double NotEnlarged = 1.01; // screen pixels for a tile's pixel
 
@@ -59,6 +61,7 @@ void TileRowPainter::paint(
     // Images of high density are worth their memory only where there are pixels for them.
     const bool fine = cells.widest() > TileGeometry::TileSize && pixelsPerTile > TileGeometry::TileSize;
     m_cellSize = fine ? 2 * TileGeometry::TileSize : TileGeometry::TileSize;
+    m_keepsMixed = cells.count() <= MostMixedKept;
     if (cells.isEmpty() || (range.right - range.left + 1) * m_cellSize > WidestRow) {
         return;
     }
@@ -89,13 +92,29 @@ void TileRowPainter::putTogether(const TileRange &range, int row, const TileCell
     }
 }
 
-void TileRowPainter::paintCell(QPainter &painter, const QRect &target, const TileCell &cell)
+void TileRowPainter::paintCell(QPainter &painter, const QRect &target, const TileCell &cell) const
 {
     if (!cell.image.isNull() && cell.opacity >= 1.0) {
         painter.drawImage(target, cell.image);
         return;
     }
-    painter.fillRect(target, Qt::transparent);
+    if (cell.isBlank()) {
+        painter.fillRect(target, Qt::transparent);
+        return;
+    }
+    const QImage image = cell.mixed.size() == target.size() ? cell.mixed : mixed(cell, target.size());
+    painter.drawImage(target, image);
+    cell.mixed = m_keepsMixed ? image : QImage();
+}
+
+QImage TileRowPainter::mixed(const TileCell &cell, const QSize &size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QRect target(QPoint(0, 0), size);
     if (!cell.ancestor.isNull()) {
         painter.drawImage(QRectF(target), cell.ancestor, cell.ancestorPart);
     }
@@ -108,6 +127,7 @@ void TileRowPainter::paintCell(QPainter &painter, const QRect &target, const Til
     if (!cell.image.isNull()) {
         fadeIn(painter, target, cell.image, cell.opacity);
     }
+    return image;
 }
 
 // Strips reach a little beyond their edges, where the next one has the same: rounding leaves no gap between them.

@@ -25,9 +25,11 @@ public:
 
 private:
     void putTogether(const TileRange &range, int row, const TileCells &cells);
-    static void paintCell(QPainter &painter, const QRect &target, const TileCell &cell);
+    void paintCell(QPainter &painter, const QRect &target, const TileCell &cell) const;
+    static QImage mixed(const TileCell &cell, const QSize &size);
     void drawRow(QPainter &painter, const GeoView &view, const TileRange &range, int row, const QRectF &sight) const;
 
     int m_cellSize = 0; // pixels of the row for a tile
+    bool m_keepsMixed = false; // what is not an image alone
     QImage m_row; // kept for its memory
 };

@@ -10,16 +10,9 @@ constexpr std::size_t MostAtOnce = 64; // so that the first are seen while other
 
 } // namespace
 
-TonedTiles::TonedTiles(QObject *parent) : QObject(parent), m_images(LeastKept)
-{
-    m_pool.setMaxThreadCount(1);
-}
+TonedTiles::TonedTiles(QObject *parent) : QObject(parent), m_images(LeastKept) { }
 
-TonedTiles::~TonedTiles()
-{
-    m_pool.clear();
-    m_pool.waitForDone();
-}
+TonedTiles::~TonedTiles() = default;
 
 void TonedTiles::setTone(const TileTone &tone)
 {
@@ -64,13 +57,16 @@ void TonedTiles::startWork()
             work.emplace_back(asked.key(), asked.value());
             asked = m_asked.erase(asked);
         }
-        m_pool.start([this, work = std::move(work), tone = m_tone] {
+        const auto tint = [work, tone = m_tone](const BackgroundPass::Token &token) {
             Result result;
             for (const auto &[index, original] : work) {
-                result.emplace_back(index, Toned{tone.applied(original), original.cacheKey(), tone});
+                if (!token.cancelled()) {
+                    result.emplace_back(index, Toned{tone.applied(original), original.cacheKey(), tone});
+                }
             }
-            QMetaObject::invokeMethod(this, [this, result = std::move(result)] { take(result); });
-        });
+            return result;
+        };
+        m_pass.start(tint, [this](const Result &result) { take(result); });
     };
     QMetaObject::invokeMethod(this, start, Qt::QueuedConnection);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/background_pass.h"
 #include "tile_painting/tile_tone.h"
 #include "tiles/tile_index.h"
 
@@ -7,7 +8,6 @@
 #include <QHash>
 #include <QImage>
 #include <QObject>
-#include <QThreadPool>
 
 #include <utility>
 #include <vector>
@@ -18,7 +18,7 @@ class TonedTiles final : public QObject {
 
 public:
     explicit TonedTiles(QObject *parent = nullptr);
-    ~TonedTiles() override; // waits for the image that is being made
+    ~TonedTiles() override;
 
     // Images of the former tone are shown until the new ones are there.
     void setTone(const TileTone &tone);
@@ -49,5 +49,5 @@ private:
     QCache<TileIndex, Toned> m_images; // costs are octets
     QHash<TileIndex, QImage> m_asked;
     bool m_working = false;
-    QThreadPool m_pool; // last, so that it ends first
+    BackgroundPass m_pass;
 };
