@@ -154,7 +154,7 @@ void GeoPlotMap::paint(QPainter &painter, const GeoView &view)
             }
             const QPoint pixel(static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y())));
             const QImage &mark = m_marks.mark(plot.type, static_cast<int>(age * PlotMarks::FadeSteps / life));
-            painter.drawImage(pixel - QPoint(reach, reach), mark);
+            painter.drawImage(pixel - QPoint(mark.width() / 2, mark.height() / 2), mark);
             m_painted.set(PlotMarks::kindOf(plot.type));
         }
     }

@@ -109,10 +109,10 @@ void GeoTrackDisplay::paintCompactDetails(QPainter *painter)
     painter->setRenderHint(QPainter::Antialiasing);
     painter->translate(HalfPixel); // a line of one pixel then fills one row of pixels, not two by half
     for (const ShownTrack &shown : m_frame.tracks) {
-        m_vectorPainter.paint(painter, m_frame, shown);
+        m_vectorPainter.paint(painter, m_frame, shown, &m_labelVisibility);
     }
     for (const ShownTrack &shown : m_frame.tracks) {
-        m_leaderPainter.paint(painter, m_frame, shown);
+        m_leaderPainter.paint(painter, m_frame, shown, &m_labelVisibility);
     }
     painter->translate(-HalfPixel);
     painter->setRenderHint(QPainter::Antialiasing, false);

@@ -156,8 +156,9 @@ void LabelField::put(int owner, const QRect &rect)
     put.rect = rect;
     put.leader = QLine(put.place, leaderEnd(put.place, rect));
     put.leaderBounds = boundsOf(put.leader);
+    put.bounds = rect | put.leaderBounds;
     addDensity(rect, int(LabelAreaCost * DensityUnits));
-    const QRect range = cellsOf(rect | put.leaderBounds);
+    const QRect range = cellsOf(put.bounds);
     for (int y = range.top(); y <= range.bottom(); ++y) {
         for (int x = range.left(); x <= range.right(); ++x) {
             m_labelCells[std::size_t(y * m_columns + x)].push_back(owner);
@@ -171,7 +172,7 @@ void LabelField::remove(int owner)
     if (removed.rect.isNull()) {
         return;
     }
-    const QRect range = cellsOf(removed.rect | removed.leaderBounds);
+    const QRect range = cellsOf(removed.bounds);
     for (int y = range.top(); y <= range.bottom(); ++y) {
         for (int x = range.left(); x <= range.right(); ++x) {
             std::vector<int> &cell = m_labelCells[std::size_t(y * m_columns + x)];
@@ -195,24 +196,32 @@ double LabelField::cost(int owner, const QRect &rect, double limit) const
     if (!go) {
         return cost;
     }
-    const Owner &asked = m_owners[std::size_t(owner)];
-    const QLine leader(asked.place, leaderEnd(asked.place, rect));
-    const QRect bounds = boundsOf(leader);
+    Owner asked = m_owners[std::size_t(owner)];
+    asked.rect = rect;
+    asked.leader = QLine(asked.place, leaderEnd(asked.place, rect));
+    asked.leaderBounds = boundsOf(asked.leader);
+    asked.bounds = rect | asked.leaderBounds;
     ++m_question;
-    visit(m_labelCells, m_columns, cellsOf(rect | bounds), [&](int other) {
+    visit(m_labelCells, m_columns, cellsOf(asked.bounds), [&](int other) {
+        const Owner &stands = m_owners[std::size_t(other)];
         unsigned int &visited = m_visited[std::size_t(other)];
-        if (other != owner && visited != m_question) {
+        // Most are only near.
+        if (other != owner && visited != m_question && overlap(asked.bounds, stands.bounds)) {
             visited = m_question;
-            const Owner &stands = m_owners[std::size_t(other)];
-            const double inTheWay = LabelAreaCost * sharedArea(rect, stands.rect)
-                + (cross(leader, bounds, stands.leader, stands.leaderBounds) ? CrossingCost : 0.0)
-                + (cross(rect, stands.leader, stands.leaderBounds) ? ThroughCost : 0.0)
-                + (cross(stands.rect, leader, bounds) ? ThroughCost : 0.0);
-            cost += !asked.yields && stands.yields ? YieldingShare * inTheWay : inTheWay;
+            const double counts = !asked.yields && stands.yields ? YieldingShare : 1.0;
+            cost += counts * inTheWay(asked, stands);
         }
         return cost < limit;
     });
     return cost;
+}
+
+double LabelField::inTheWay(const Owner &label, const Owner &other)
+{
+    return LabelAreaCost * sharedArea(label.rect, other.rect)
+        + (cross(label.leader, label.leaderBounds, other.leader, other.leaderBounds) ? CrossingCost : 0.0)
+        + (cross(label.rect, other.leader, other.leaderBounds) ? ThroughCost : 0.0)
+        + (cross(other.rect, label.leader, label.leaderBounds) ? ThroughCost : 0.0);
 }
 
 int LabelField::crossing(int owner) const

@@ -44,6 +44,7 @@ private:
     struct Owner {
         QPoint place;
         QPointF motion;
+        QRect bounds; // of label and leader
         QRect rect; // of the label; null: none
         QLine leader;
         QRect leaderBounds;
@@ -54,6 +55,7 @@ private:
     template <typename Visit>
     static bool visit(const std::vector<std::vector<int>> &cells, int columns, const QRect &range, Visit &&visit);
     QRect symbolRect(const Owner &owner) const;
+    static double inTheWay(const Owner &label, const Owner &other);
     double freeLineCost(const QRect &rect) const;
     void addDensity(const QRect &rect, int costOfPixel);
 

@@ -395,18 +395,22 @@ LabelPlacer::Found LabelPlacer::bestPlace(int index, Form form, Found best)
         }
         ++m_work;
         const QRect rect(label.place + candidate.offset, size);
-        if (isUrgent(index) || own + RoughShare * m_field.roughCost(rect) < best.cost) {
-            const double cost = placeCost(index, rect, own, best.cost);
+        const double inView = own + edgeCost(index, rect);
+        if (inView >= best.cost) {
+            continue;
+        }
+        if (isUrgent(index) || inView + RoughShare * m_field.roughCost(rect) < best.cost) {
+            const double cost = placeCost(index, rect, inView, best.cost);
             best = cost < best.cost ? Found{candidate.offset, double(candidate.cost), cost, form} : best;
         }
     }
     return best;
 }
 
-// All that a place costs, or any figure from the limit on.
+// All that a place costs, beyond what is known already, or any figure from the limit on.
 double LabelPlacer::placeCost(int index, const QRect &rect, double cost, double limit) const
 {
-    cost += edgeCost(index, rect) + vectorCost(*entry(index).label, rect) + CrowdCost * m_field.crowding(rect.center());
+    cost += vectorCost(*entry(index).label, rect) + CrowdCost * m_field.crowding(rect.center());
     if (cost < limit) {
         cost += m_field.cost(index, rect, limit - cost);
     }

@@ -70,6 +70,20 @@ void drawMark(QPainter &painter, Track::Type type, int reach)
     }
 }
 
+// How far the ink reaches from the middle of a square picture, pixels.
+int inkReach(const QImage &image)
+{
+    const int middle = image.width() / 2;
+    int reach = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const bool ink = qAlpha(image.pixel(x, y)) > 0;
+            reach = std::max(reach, ink ? std::max(std::abs(x - middle), std::abs(y - middle)) : 0);
+        }
+    }
+    return reach;
+}
+
 } // namespace
 
 void PlotMarks::prepare(const QColor &color, double devicePixelRatio)
@@ -93,7 +107,8 @@ const QImage &PlotMarks::mark(Track::Type type, int step) const
     return m_marks[kindOf(type)][static_cast<std::size_t>(step)];
 }
 
-// At full strength first, so that lines that cross are not darker where they do.
+// At full strength first, so that lines that cross are not darker where they do. Without what is empty around it: of
+// many thousands of marks every pixel counts.
 QImage PlotMarks::drawn(Track::Type type, double opacity) const
 {
     const int side = 2 * m_reach + 1;
@@ -106,10 +121,11 @@ QImage PlotMarks::drawn(Track::Type type, double opacity) const
         QPen(QColor(m_color.rgb()), std::max(1.0, std::round(m_ratio)), Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     drawMark(drawing, type, m_reach - 1);
     drawing.end();
-    QImage faded(solid.size(), solid.format());
+    const int reach = inkReach(solid);
+    QImage faded(2 * reach + 1, 2 * reach + 1, solid.format());
     faded.fill(Qt::transparent);
     QPainter fading(&faded);
     fading.setOpacity(opacity * m_color.alphaF());
-    fading.drawImage(0, 0, solid);
+    fading.drawImage(reach - m_reach, reach - m_reach, solid);
     return faded;
 }

@@ -19,10 +19,11 @@ public:
     // To be called before each painting; draws them anew where one of the two has changed.
     void prepare(const QColor &color, double devicePixelRatio);
 
-    // In device pixels, square, with the plot's place in the middle pixel. A step is 0 to FadeSteps - 1.
+    // In device pixels, a square with the plot's place in its middle pixel, as large as its ink. A step is 0 to
+    // FadeSteps - 1.
     const QImage &mark(Track::Type type, int step) const;
     static Track::Type kindOf(Track::Type type) { return type <= Track::Smr ? type : Track::Unknown; }
-    // Device pixels from the edge to the middle.
+    // Device pixels that the largest reaches from its middle.
     int reach() const { return m_reach; }
 
 private:

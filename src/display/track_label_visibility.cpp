@@ -23,6 +23,11 @@ void TrackLabelVisibility::find(TrackFrame &frame)
     }
 }
 
+bool TrackLabelVisibility::isHidden(const QRectF &boundsOfLine) const
+{
+    return m_cover.visiblePart(boundsOfLine.toAlignedRect().adjusted(-1, -1, 1, 1)).isEmpty();
+}
+
 unsigned int TrackLabelVisibility::hiddenLines(const ShownTrack &shown, const QRect &padded) const
 {
     unsigned int hidden = 0;

@@ -2,6 +2,8 @@
 
 #include "display/cover_mask.h"
 
+#include <QRectF>
+
 struct ShownTrack;
 struct TrackFrame;
 
@@ -11,6 +13,8 @@ class TrackLabelVisibility {
 public:
     // Fills labelVisible and hiddenLines of the frame's tracks.
     void find(TrackFrame &frame);
+    // Whether labels hide all of a line that is painted before them. Of the last find().
+    bool isHidden(const QRectF &boundsOfLine) const;
 
 private:
     unsigned int hiddenLines(const ShownTrack &shown, const QRect &padded) const;

@@ -1,6 +1,7 @@
 #include "display/track_leader_painter.h"
 
 #include "display/track_frame.h"
+#include "display/track_label_visibility.h"
 
 #include <QLineF>
 #include <QPainter>
@@ -44,7 +45,8 @@ void TrackLeaderPainter::prepare(const TrackFrame &frame)
     m_pens.prepare(frame.view.devicePixelRatio());
 }
 
-void TrackLeaderPainter::paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown)
+void TrackLeaderPainter::paint(
+    QPainter *painter, const TrackFrame &frame, const ShownTrack &shown, const TrackLabelVisibility *labels)
 {
     if (!shown.label) {
         return;
@@ -54,7 +56,7 @@ void TrackLeaderPainter::paint(QPainter *painter, const TrackFrame &frame, const
     }
     const QLineF line =
         frame.look.isCompact() ? nearest(frame.look, shown) : QLineF(shown.place, corner(frame.look, shown));
-    if (line.isNull()) {
+    if (line.isNull() || (labels && labels->isHidden(QRectF(line.p1(), line.p2()).normalized()))) {
         return;
     }
     painter->setPen(m_pens.line(frame.leaderColor(shown), shown.track->coasting));

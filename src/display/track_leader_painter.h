@@ -3,6 +3,7 @@
 #include "display/track_pens.h"
 
 class QPainter;
+class TrackLabelVisibility;
 struct ShownTrack;
 struct TrackFrame;
 
@@ -11,7 +12,9 @@ class TrackLeaderPainter {
 public:
     // Before the tracks of a frame.
     void prepare(const TrackFrame &frame);
-    void paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown);
+    // With labels that are painted over it: not where these hide all of it.
+    void paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown,
+        const TrackLabelVisibility *labels = nullptr);
 
 private:
     TrackPens m_pens;

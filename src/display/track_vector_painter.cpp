@@ -1,6 +1,7 @@
 #include "display/track_vector_painter.h"
 
 #include "display/track_frame.h"
+#include "display/track_label_visibility.h"
 #include "geo/wgs84.h"
 
 #include <QPainter>
@@ -38,7 +39,8 @@ void TrackVectorPainter::prepare(const TrackFrame &frame)
     m_pens.prepare(frame.view.devicePixelRatio());
 }
 
-void TrackVectorPainter::paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown)
+void TrackVectorPainter::paint(
+    QPainter *painter, const TrackFrame &frame, const ShownTrack &shown, const TrackLabelVisibility *labels)
 {
     const TrackLook &look = frame.look;
     const double unit = look.vectorVisible && shown.track->headingValid ? unitPixels(frame, *shown.track) : 0.0;
@@ -59,6 +61,10 @@ void TrackVectorPainter::paint(QPainter *painter, const TrackFrame &frame, const
     }
     if (look.isCompact()) {
         m_lines.emplace_back(m_lines.front().p2() - across * EndReach, m_lines.front().p2() + across * EndReach);
+    }
+    const QRectF bounds = QRectF(m_lines.front().p1(), m_lines.front().p2()).normalized();
+    if (labels && labels->isHidden(bounds.adjusted(-EndReach, -EndReach, EndReach, EndReach))) {
+        return;
     }
     painter->setPen(m_pens.line(frame.color(shown), shown.track->coasting));
     painter->drawLines(m_lines.data(), int(m_lines.size()));

@@ -7,6 +7,7 @@
 #include <vector>
 
 class QPainter;
+class TrackLabelVisibility;
 struct ShownTrack;
 struct TrackFrame;
 
@@ -16,7 +17,9 @@ class TrackVectorPainter {
 public:
     // Before the tracks of a frame.
     void prepare(const TrackFrame &frame);
-    void paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown);
+    // With labels that are painted over it: not where these hide all of it.
+    void paint(QPainter *painter, const TrackFrame &frame, const ShownTrack &shown,
+        const TrackLabelVisibility *labels = nullptr);
 
 private:
     TrackPens m_pens;
