@@ -12,6 +12,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -209,15 +210,19 @@ void GeoStaticMap::paint(QPainter &painter, const GeoView &view)
     }
     const StaticMapRegion region = StaticMapRegion::around(view);
     if (!m_regionValid || region != m_region) {
+        // Other labels may be chosen in another region; mostly they are the same.
+        const bool beside = m_regionValid && region.toSheet == m_region.toSheet;
+        const QRectF held = m_picture.held();
+        const bool wasCrowded = m_crowded;
+        const QList<QRectF> labelsBefore = labelsIn(held);
         m_region = region;
         decideForRegion(maps, view.metresPerPixel());
+        if (!beside || m_crowded != wasCrowded || labelsIn(held) != labelsBefore) {
+            m_picture.invalidate();
+        }
     }
-    const QList<QRect> parts = m_picture.turnTo(view);
-    for (const QRect &part : parts) {
-        paintPart(view, part, maps);
-    }
-    painter.resetTransform();
-    painter.drawImage(QPointF(0.0, 0.0), m_picture.image());
+    m_picture.turnTo(view, [&](QImage &picture, const GeoView &part) { paintPart(picture, part, maps); });
+    m_picture.paint(painter);
 }
 
 QList<QRectF> GeoStaticMap::textPlaces(const GeoView &view) const
@@ -226,17 +231,23 @@ QList<QRectF> GeoStaticMap::textPlaces(const GeoView &view) const
     const QTransform &to = view.screenTransform();
     const bool sameScale =
         from.m11() == to.m11() && from.m12() == to.m12() && from.m21() == to.m21() && from.m22() == to.m22();
-    QList<QRectF> places;
     if (!visible() || !m_regionValid || !sameScale) {
-        return places;
+        return {};
     }
-    const QPointF shift(to.dx() - from.dx(), to.dy() - from.dy());
-    for (const QRectF &box : m_labels.boxes()) {
-        const QRectF place = box.translated(shift);
-        if (place.intersects(view.screenRect())) {
-            places.append(place);
-        }
+    const QPointF origin(to.dx(), to.dy());
+    QList<QRectF> places = labelsIn(QRectF(view.screenRect()).translated(-origin));
+    for (QRectF &place : places) {
+        place.translate(origin);
     }
+    return places;
+}
+
+// In pixels from where the plane's origin lies.
+QList<QRectF> GeoStaticMap::labelsIn(const QRectF &part) const
+{
+    QList<QRectF> places;
+    std::copy_if(m_labels.boxes().begin(), m_labels.boxes().end(), std::back_inserter(places),
+        [&part](const QRectF &box) { return box.intersects(part); });
     return places;
 }
 
@@ -251,17 +262,15 @@ void GeoStaticMap::decideForRegion(const std::vector<ShownMap> &maps, double met
     }
     m_crowded = points > MostPoints;
     m_regionValid = true;
-    m_picture.invalidate();
 }
 
-void GeoStaticMap::paintPart(const GeoView &view, const QRect &part, const std::vector<ShownMap> &maps)
+void GeoStaticMap::paintPart(QImage &picture, const GeoView &part, const std::vector<ShownMap> &maps)
 {
-    QPainter painter(&m_picture.image());
-    painter.setClipRect(part);
+    QPainter painter(&picture);
     StaticMapFrame frame;
-    frame.sight = PlaneBox::of(view.planeTransform().mapRect(QRectF(part)));
-    frame.metresPerPixel = view.metresPerPixel();
-    frame.devicePixelRatio = view.devicePixelRatio();
+    frame.sight = PlaneBox::of(part.planeRect());
+    frame.metresPerPixel = part.metresPerPixel();
+    frame.devicePixelRatio = part.devicePixelRatio();
     frame.symbolSize = m_symbolSize;
     frame.ground = m_ground;
     frame.smoothImages = m_smoothImages;
@@ -275,7 +284,7 @@ void GeoStaticMap::paintPart(const GeoView &view, const QRect &part, const std::
         for (const auto &elements : m_painters) {
             for (std::size_t i = 0; i < looks.size(); ++i) {
                 paintGroup(
-                    painter, view, frame, map.geometry->groups()[i], map.geometry->period(), looks[i], *elements);
+                    painter, part, frame, map.geometry->groups()[i], map.geometry->period(), looks[i], *elements);
             }
         }
     }

@@ -7,7 +7,7 @@
 #include "maps/map_library.h"
 #include "maps/map_style_sheet.h"
 #include "view/geo_layer.h"
-#include "view/kept_picture.h"
+#include "view/sheet_picture.h"
 
 #include <QHash>
 #include <QList>
@@ -88,7 +88,8 @@ private:
     Look lookOf(const QString &className) const;
     std::vector<ShownMap> shownMaps(double metresPerPixel) const;
     void decideForRegion(const std::vector<ShownMap> &maps, double metresPerPixel);
-    void paintPart(const GeoView &view, const QRect &part, const std::vector<ShownMap> &maps);
+    QList<QRectF> labelsIn(const QRectF &part) const;
+    void paintPart(QImage &picture, const GeoView &part, const std::vector<ShownMap> &maps);
     static void paintGroup(QPainter &painter, const GeoView &view, const StaticMapFrame &frame,
         const StaticMapGroup &group, double period, const Look &look, StaticMapPainter &elements);
 
@@ -107,6 +108,6 @@ private:
     StaticMapRegion m_region; // that what follows was decided for
     StaticMapLabelLayout m_labels;
     bool m_crowded = false;
-    KeptPicture m_picture;
+    SheetPicture m_picture;
     QThreadPool m_pool; // last, so that it ends first
 };

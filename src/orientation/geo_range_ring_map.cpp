@@ -38,7 +38,7 @@ void GeoRangeRingMap::takeLook(const Config &config)
 {
     m_number = std::clamp(config.mapRangeRingNumber, 0, MaximumRings);
     m_distance = config.mapRangeRingDistance;
-    m_ringsValid = false;
+    forgetRings();
     m_labelColor = config.mapRangeRingLabelColor;
     m_labelsVisible = config.mapRangeRingLabelVisible;
     m_ground = config.mapBackgroundColor;
@@ -52,20 +52,27 @@ void GeoRangeRingMap::setRings(const QPointF &center, int number, double distanc
     m_centerSet = true;
     m_number = std::clamp(number, 0, MaximumRings);
     m_distance = distanceNauticalMiles;
-    m_ringsValid = false;
+    forgetRings();
     Q_EMIT polluted();
 }
 
 void GeoRangeRingMap::setDefaultCenter(const QPointF &center)
 {
     m_defaultCenter = center;
-    m_ringsValid = false;
+    forgetRings();
     Q_EMIT polluted();
+}
+
+void GeoRangeRingMap::forgetRings()
+{
+    m_ringsValid = false;
+    m_picture.invalidate();
 }
 
 void GeoRangeRingMap::setColor(const QColor &color)
 {
     m_color = color;
+    m_picture.invalidate();
     Q_EMIT polluted();
 }
 
@@ -124,18 +131,12 @@ void GeoRangeRingMap::placeTexts(const GeoView &view, TextRoom &room)
 
 void GeoRangeRingMap::paint(QPainter &painter, const GeoView &view)
 {
-    painter.setRenderHint(QPainter::Antialiasing);
+    m_picture.turnTo(
+        view, [this](QImage &picture, const GeoView &part) { drawRings(picture, part, rings(), QPen(m_color, 1)); });
+    m_picture.paint(painter, placesOf(m_labels));
     painter.resetTransform();
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(m_color, 1));
-    if (!m_labels.empty()) {
-        painter.setClipRegion(aroundLabels(view, m_labels));
-    }
-    for (const QPolygonF &ring : rings()) {
-        if (view.planeRect().intersects(ring.boundingRect())) {
-            painter.drawPolyline(view.screenTransform().map(ring));
-        }
-    }
-    painter.setClipping(false);
     const QPointF middle = view.toScreen(center());
     painter.drawLine(middle - QPointF(4, 0), middle + QPointF(4, 0));
     painter.drawLine(middle - QPointF(0, 4), middle + QPointF(0, 4));

@@ -2,6 +2,7 @@
 
 #include "orientation/ring_labels.h"
 #include "view/geo_layer.h"
+#include "view/sheet_picture.h"
 
 #include <QColor>
 #include <QPolygonF>
@@ -44,6 +45,7 @@ public Q_SLOTS:
 
 private:
     void takeLook(const Config &config);
+    void forgetRings();
     const std::vector<QPolygonF> &rings();
     int labelledStep(const GeoView &view);
 
@@ -60,4 +62,5 @@ private:
     bool m_ringsValid = false;
     std::vector<QPolygonF> m_rings; // plane, inner first
     std::vector<RingLabel> m_labels; // of the frame
+    SheetPicture m_picture; // of the rings
 };

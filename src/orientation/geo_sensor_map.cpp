@@ -70,6 +70,7 @@ void GeoSensorMap::setClock(std::function<qint64()> clock)
 void GeoSensorMap::applyConfig(const Config &config)
 {
     m_color = config.mapSensorColor;
+    m_coveragePicture.invalidate();
     m_northMarkerColor = config.mapSensorRadarNorthMarkerColor;
     m_antennaLineColor = config.mapSensorRadarAntennaLineColor;
     m_ground = config.mapBackgroundColor;
@@ -96,6 +97,7 @@ void GeoSensorMap::setSensor(const QSharedPointer<SensorInfo> &sensor)
 void GeoSensorMap::layOut()
 {
     m_coverageRings.clear();
+    m_coveragePicture.invalidate();
     m_rim.clear();
     if (!m_location.isValid()) {
         return;
@@ -172,11 +174,11 @@ void GeoSensorMap::paint(QPainter &painter, const GeoView &view)
     if (!m_location.isValid()) {
         return;
     }
-    painter.resetTransform();
-    painter.setRenderHint(QPainter::Antialiasing);
     if (m_coverageVisible) {
         paintCoverage(painter, view);
     }
+    painter.resetTransform();
+    painter.setRenderHint(QPainter::Antialiasing);
     if (m_turning && m_antennaLineVisible) {
         paintAntennaLine(painter, view);
     }
@@ -187,19 +189,11 @@ void GeoSensorMap::paint(QPainter &painter, const GeoView &view)
     drawRingLabels(painter, m_texts, m_color, m_ground);
 }
 
-void GeoSensorMap::paintCoverage(QPainter &painter, const GeoView &view) const
+void GeoSensorMap::paintCoverage(QPainter &painter, const GeoView &view)
 {
-    painter.save();
-    if (!m_texts.empty()) {
-        painter.setClipRegion(aroundLabels(view, m_texts));
-    }
-    painter.setPen(QPen(m_color, 1));
-    for (const QPolygonF &ring : m_coverageRings) {
-        if (view.planeRect().intersects(ring.boundingRect())) {
-            painter.drawPolyline(view.screenTransform().map(ring));
-        }
-    }
-    painter.restore();
+    m_coveragePicture.turnTo(view,
+        [this](QImage &picture, const GeoView &part) { drawRings(picture, part, m_coverageRings, QPen(m_color, 1)); });
+    m_coveragePicture.paint(painter, placesOf(m_texts));
 }
 
 void GeoSensorMap::paintAntennaLine(QPainter &painter, const GeoView &view) const

@@ -4,6 +4,7 @@
 #include "orientation/antenna_sweep.h"
 #include "orientation/ring_labels.h"
 #include "view/geo_layer.h"
+#include "view/sheet_picture.h"
 
 #include <QColor>
 #include <QLineF>
@@ -49,7 +50,7 @@ public Q_SLOTS:
 
 private:
     void layOut();
-    void paintCoverage(QPainter &painter, const GeoView &view) const;
+    void paintCoverage(QPainter &painter, const GeoView &view);
     void paintNorthMarker(QPainter &painter, const GeoView &view) const;
     void paintAntennaLine(QPainter &painter, const GeoView &view) const;
     QLineF northMark(const GeoView &view) const;
@@ -66,6 +67,7 @@ private:
 
     QPointF m_site; // plane
     std::vector<QPolygonF> m_coverageRings; // plane, one a coverage
+    SheetPicture m_coveragePicture;
     std::vector<RingLabel> m_texts; // of the frame: name and ranges
     QPolygonF m_rim; // plane, where the antenna line ends: one point a degree from north, clockwise
 

@@ -2,8 +2,10 @@
 
 #include "view/geo_view.h"
 #include "view/map_text.h"
+#include "view/plane_box.h"
 #include "view/text_room.h"
 
+#include <QImage>
 #include <QLineF>
 #include <QPainter>
 
@@ -17,6 +19,7 @@ constexpr double Quarter = 45.0; // degrees to either side
 constexpr double StepLength = 12.0; // pixels from one place to the next that is tried
 constexpr int MostSteps = 2048; // on one side of the ring
 constexpr double LeastDistance = 160.0; // pixels between two texts of one ring
+constexpr double SmoothEdge = 2.0; // pixels beside a line that smoothing may touch
 
 struct Place {
     QPointF point;
@@ -78,6 +81,27 @@ bool crowds(const std::vector<RingLabel> &labels, const QPointF &point)
         [&point](const RingLabel &label) { return QLineF(label.center, point).length() < LeastDistance; });
 }
 
+// Only those pieces of the line that come into the box: a line costs what its length does.
+void drawWithin(QPainter &painter, const QPolygonF &line, const PlaneBox &box)
+{
+    const auto touches = [&](qsizetype from) {
+        PlaneBox side;
+        side.include(line[from]);
+        side.include(line[from + 1]);
+        return side.touches(box);
+    };
+    const qsizetype sides = line.size() - 1;
+    for (qsizetype side = 0; side < sides; ++side) {
+        const qsizetype first = side;
+        while (side < sides && touches(side)) {
+            ++side;
+        }
+        if (side > first) {
+            painter.drawPolyline(line.constData() + first, int(side - first) + 1);
+        }
+    }
+}
+
 } // namespace
 
 std::vector<RingLabel> placeOnRing(const QPolygonF &ring, const QString &text, TextRoom &room, std::size_t most)
@@ -103,13 +127,27 @@ std::vector<RingLabel> placeOnRing(const QPolygonF &ring, const QString &text, T
     return labels;
 }
 
-QRegion aroundLabels(const GeoView &view, const std::vector<RingLabel> &labels)
+QList<QRect> placesOf(const std::vector<RingLabel> &labels)
 {
-    QRegion region(view.screenRect());
+    QList<QRect> places;
     for (const RingLabel &label : labels) {
-        region -= mapTextRect(label.center, label.text).toAlignedRect();
+        places.append(mapTextRect(label.center, label.text).toAlignedRect());
     }
-    return region;
+    return places;
+}
+
+void drawRings(QImage &picture, const GeoView &view, const std::vector<QPolygonF> &rings, const QPen &pen)
+{
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(pen);
+    const double reach = pen.widthF() + SmoothEdge;
+    const PlaneBox sight = PlaneBox::of(QRectF(view.screenRect()).adjusted(-reach, -reach, reach, reach));
+    for (const QPolygonF &ring : rings) {
+        if (view.planeRect().intersects(ring.boundingRect())) {
+            drawWithin(painter, view.screenTransform().map(ring), sight);
+        }
+    }
 }
 
 void drawRingLabels(QPainter &painter, const std::vector<RingLabel> &labels, const QColor &color, const QColor &ground)

@@ -1,14 +1,17 @@
 #pragma once
 
+#include <QList>
 #include <QPolygonF>
-#include <QRegion>
+#include <QRect>
 #include <QString>
 
 #include <vector>
 
 class GeoView;
 class QColor;
+class QImage;
 class QPainter;
+class QPen;
 class TextRoom;
 
 // A text that stands on a ring, on the screen.
@@ -23,7 +26,10 @@ struct RingLabel {
 // is on the screen, in points evenly by bearing from north clockwise, closed by its first point.
 std::vector<RingLabel> placeOnRing(const QPolygonF &ring, const QString &text, TextRoom &room, std::size_t most = 4);
 
-// The screen without what the texts take up: lines drawn in it leave the texts legible.
-QRegion aroundLabels(const GeoView &view, const std::vector<RingLabel> &labels);
+// What the texts take up: lines that leave it out leave the texts legible.
+QList<QRect> placesOf(const std::vector<RingLabel> &labels);
+
+// Rings of the plane, on a picture of that view.
+void drawRings(QImage &picture, const GeoView &view, const std::vector<QPolygonF> &rings, const QPen &pen);
 
 void drawRingLabels(QPainter &painter, const std::vector<RingLabel> &labels, const QColor &color, const QColor &ground);

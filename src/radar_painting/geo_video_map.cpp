@@ -6,10 +6,10 @@
 #include "radar_painting/radial_store.h"
 #include "radar_painting/site_offsets.h"
 #include "radar_painting/video_raster.h"
-#include "radar_painting/wide_view.h"
 #include "sensors/smr_sensor_info.h"
 #include "view/geo_view.h"
 #include "view/steady_clock.h"
+#include "view/view_sheet.h"
 
 #include <QPainter>
 
@@ -22,8 +22,6 @@ namespace {
 constexpr int UsualAzimuthBins = 8192; // where nothing tells: 0.044 degrees each
 constexpr int FewestAzimuthBins = 2048;
 constexpr int MostAzimuthBins = 16384;
-constexpr qint64 UpdateIntervalMs = 100; // while the view is dragged
-constexpr qint64 LongestUpdateIntervalMs = 300;
 constexpr std::size_t MostReportedSources = 8; // more than that is noise on the line
 
 // As many bins as radials fit into a turn, so that bins and radials fall together. Azimuth pulses, where the sensor
@@ -67,11 +65,9 @@ struct GeoVideoMap::Radar {
     double cellSize = 0.0; // metres
     quint16 videoMode = 0;
     std::unique_ptr<VideoRaster> raster; // null while there is nothing to show
-    WideView wide; // that the raster was made for
-    QTransform paintedTransform; // from the plane to the screen, of the last frame
-    bool dragged = false; // another part of the same raster is shown than in the last frame
-    bool moved = false; // the raster has been moved for this frame
-    qint64 updateTime = 0;
+    ViewSheet sheet; // that the raster lies on
+    QRect seenBefore; // of it, in the last frame
+    bool dragged = false; // another part of the same sheet is seen than in the last frame
 };
 
 GeoVideoMap::GeoVideoMap(Projector *projector, QObject *parent)
@@ -183,7 +179,6 @@ void GeoVideoMap::addRadial(const VideoProcessor::Radial &radial)
 void GeoVideoMap::paint(QPainter &painter, const GeoView &view)
 {
     const qint64 now = m_clock();
-    painter.resetTransform();
     for (auto entry = m_radars.begin(); entry != m_radars.end();) {
         Radar &radar = *entry->second;
         radar.store.dropOlder(now - m_validity);
@@ -198,54 +193,40 @@ void GeoVideoMap::paint(QPainter &painter, const GeoView &view)
 
 void GeoVideoMap::Radar::fitTo(const GeoView &view, Projector &projector)
 {
-    const auto shift = wide.follow(view);
-    const bool usable = shift && raster && store.endCell() <= raster->reach();
-    moved = usable && !shift->isNull();
-    dragged = usable && shift->isNull() && paintedTransform != view.screenTransform();
-    paintedTransform = view.screenTransform();
-    if (usable && shift->isNull()) {
-        return;
-    }
-    const SiteOffsets offsets(projector, place.location, wide.view());
-    if (moved) {
-        raster->moveView(offsets, *shift);
+    const bool usable = sheet.follow(view) && raster && store.endCell() <= raster->reach();
+    const QRect &seen = sheet.seen();
+    dragged = usable && seen != seenBefore;
+    seenBefore = seen;
+    const QTransform toPlane = sheet.fromPlane().inverted();
+    const auto offsetsOf = [&](const QRect &part) {
+        const QTransform fromPart = QTransform::fromTranslate(part.x(), part.y()) * toPlane;
+        return SiteOffsets(projector, place.location, fromPart, part.size());
+    };
+    if (usable) {
+        raster->cover(seen, offsetsOf);
         return;
     }
     if (!raster) {
         raster = std::make_unique<VideoRaster>();
     }
-    raster->setView(offsets, store, cellSize);
+    const QRect part = VideoRaster::tilesOf(seen);
+    raster->reset(offsetsOf(part), part, store, cellSize);
 }
 
-// A view that is dragged comes many times a second: what the antenna brings between two frames need not be in each, and
-// can wait when the frame costs a move already.
+// A view that is dragged comes many times a second: what the antenna brings and what fades need not be in each frame.
 void GeoVideoMap::Radar::update(const VideoPalette &palette, qint64 now, qint64 validity)
 {
-    const qint64 age = now - updateTime;
-    if (dragged && age < UpdateIntervalMs) {
-        return;
-    }
-    if (moved && age < LongestUpdateIntervalMs) {
-        raster->update(store, palette, now, validity, VideoRaster::Extent::Exposed);
-        return;
-    }
-    updateTime = now;
-    raster->update(store, palette, now, validity);
-    store.forgetChanges();
+    const auto extent = dragged ? VideoRaster::Extent::Share : VideoRaster::Extent::All;
+    raster->update(store, palette, now, validity, extent);
 }
 
 void GeoVideoMap::paintRadar(QPainter &painter, const GeoView &view, Radar &radar)
 {
     radar.fitTo(view, *m_projector);
     radar.update(m_palette, m_clock(), m_validity);
-    const QRect seen = radar.wide.seen();
-    const QRectF source = radar.raster->bounds() & seen;
-    if (source.isEmpty()) {
-        return;
-    }
-    const QRectF target(
-        (source.topLeft() - seen.topLeft()) / view.devicePixelRatio(), source.size() / view.devicePixelRatio());
-    painter.drawImage(target, radar.raster->image(), source);
+    const double ratio = view.devicePixelRatio();
+    painter.setWorldTransform(QTransform::fromScale(1.0 / ratio, 1.0 / ratio));
+    radar.raster->paint(painter, radar.sheet.seen());
 }
 
 std::optional<ShownEcho> GeoVideoMap::echoAt(const QPointF &place, double reach) const

@@ -2,6 +2,7 @@
 
 #include "app/config.h"
 #include "geo/projector.h"
+#include "radar_painting/quad_canvas.h"
 #include "sensors/sensor_info.h"
 #include "view/geo_view.h"
 #include "view/steady_clock.h"
@@ -41,7 +42,7 @@ void GeoWeatherMap::applyConfig(const Config &config)
     m_validity = qint64(std::max(config.mapWeatherValidity, 0)) * 1000;
     m_ignoreEmpty = config.mapWeatherIgnoreEmptyPicture;
     setVectorWidth(config.mapWeatherVectorWidth, config.mapWeatherAutoVectorWidth);
-    m_rendered = false;
+    m_drawn.invalidate();
     setVisible(config.mapWeatherVisible);
     Q_EMIT polluted();
 }
@@ -97,7 +98,7 @@ void GeoWeatherMap::setLevelVisible(int level, bool visible)
         return;
     }
     m_levelVisible[std::size_t(level)] = visible;
-    m_rendered = false;
+    m_drawn.invalidate();
     Q_EMIT polluted();
 }
 
@@ -132,7 +133,7 @@ int GeoWeatherMap::vectorCount(int level) const
 
 void GeoWeatherMap::makeShapes()
 {
-    m_rendered = false;
+    m_drawn.invalidate();
     m_shapes.clear();
     if (!m_picture) {
         return;
@@ -176,47 +177,17 @@ void GeoWeatherMap::paint(QPainter &painter, const GeoView &view)
     if (m_shapes.empty()) {
         return;
     }
-    const std::optional<QPoint> shift = m_wide.follow(view);
-    if (!m_rendered || !shift) {
-        render();
-    } else if (!shift->isNull()) {
-        move(*shift);
-    }
-    const double ratio = view.devicePixelRatio();
-    const QRect seen = m_wide.seen();
-    painter.resetTransform();
-    for (const QRect &whole : m_parts) {
-        const QRect part = whole & seen;
-        if (part.isEmpty()) {
-            continue;
-        }
-        const QRectF target(QPointF(part.topLeft() - seen.topLeft()) / ratio, QSizeF(part.size()) / ratio);
-        painter.drawImage(target, m_canvas.image(), part);
-    }
+    m_drawn.turnTo(view, [this](QImage &picture, const GeoView &part) { drawShapes(picture, part); });
+    m_drawn.paint(painter);
 }
 
-void GeoWeatherMap::render()
+void GeoWeatherMap::drawShapes(QImage &picture, const GeoView &part) const
 {
-    m_canvas.reset(m_wide.deviceSize());
-    drawShapes();
-    m_rendered = true;
-}
-
-// Only what has come into the picture is drawn.
-void GeoWeatherMap::move(const QPoint &shift)
-{
-    for (const QRect &exposed : m_canvas.move(shift)) {
-        m_canvas.setClip(exposed);
-        drawShapes();
-    }
-}
-
-void GeoWeatherMap::drawShapes()
-{
-    const double ratio = m_wide.view().devicePixelRatio();
-    const QTransform &toDevice = m_wide.deviceTransform();
+    const double ratio = part.devicePixelRatio();
+    const QTransform toDevice = part.screenTransform() * QTransform::fromScale(ratio, ratio);
+    QuadCanvas canvas(picture);
     // Tied to the ground, so that it moves along with it.
-    m_canvas.setHatching(toDevice.map(m_projector->toCartesian(m_site)), qRound(HatchSpacing * ratio), qRound(ratio));
+    canvas.setHatching(toDevice.map(m_projector->toCartesian(m_site)), qRound(HatchSpacing * ratio), qRound(ratio));
     for (const WeatherShape &shape : m_shapes) {
         const QColor color = isLevel(shape.level) ? drawnColor(shape.level) : QColor();
         if (!color.isValid()) {
@@ -225,8 +196,7 @@ void GeoWeatherMap::drawShapes()
         QuadCanvas::Quad quad;
         std::transform(shape.corners.begin(), shape.corners.end(), quad.begin(),
             [&toDevice](const QPointF &corner) { return toDevice.map(corner); });
-        m_canvas.fill(quad, qPremultiply(color.rgba()),
+        canvas.fill(quad, qPremultiply(color.rgba()),
             levelVisible(shape.level) ? QuadCanvas::Pattern::Solid : QuadCanvas::Pattern::Hatched);
     }
-    m_parts = m_canvas.filledParts();
 }

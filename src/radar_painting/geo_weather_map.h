@@ -2,10 +2,9 @@
 
 #include "geo/geo_coordinate.h"
 #include "processors/shown_cells.h"
-#include "radar_painting/quad_canvas.h"
 #include "radar_painting/weather_shapes.h"
-#include "radar_painting/wide_view.h"
 #include "view/geo_layer.h"
+#include "view/sheet_picture.h"
 
 #include <QColor>
 #include <QList>
@@ -73,9 +72,7 @@ private:
     double drawnWidth() const;
     void makeShapes();
     void dropExpired();
-    void render();
-    void move(const QPoint &shift);
-    void drawShapes();
+    void drawShapes(QImage &picture, const GeoView &part) const;
 
     Projector *m_projector;
     std::function<qint64()> m_clock;
@@ -92,10 +89,7 @@ private:
     std::optional<WeatherProcessor::Picture> m_picture;
     qint64 m_pictureTime = 0;
     std::vector<WeatherShape> m_shapes;
-    bool m_rendered = false;
-    WideView m_wide; // that is rendered
-    QuadCanvas m_canvas; // its device pixels
-    std::vector<QRect> m_parts; // of the canvas that there is something in
+    SheetPicture m_drawn; // of the shapes
     quint64 m_emptyPictures = 0;
     quint64 m_placelessPictures = 0;
 };

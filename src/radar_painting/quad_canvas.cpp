@@ -1,7 +1,5 @@
 #include "radar_painting/quad_canvas.h"
 
-#include <QRegion>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -12,34 +10,10 @@ constexpr double Farthest = 1e7; // pixels
 
 } // namespace
 
-void QuadCanvas::reset(const QSize &size)
+QuadCanvas::QuadCanvas(QImage &picture)
+    : m_area(picture.rect()), m_pixels(reinterpret_cast<QRgb *>(picture.bits())),
+      m_stride(picture.bytesPerLine() / qsizetype(sizeof(QRgb)))
 {
-    if (m_image.size() != size) {
-        m_image = QImage(size, QImage::Format_ARGB32_Premultiplied);
-    }
-    m_image.fill(Qt::transparent);
-    m_clip = m_image.rect();
-    m_pixels = reinterpret_cast<QRgb *>(m_image.bits());
-    m_tileColumns = size.width() / TileWidth + 1;
-    m_filledTiles.assign(std::size_t(m_tileColumns * (size.height() / TileHeight + 1)), false);
-}
-
-std::vector<QRect> QuadCanvas::move(const QPoint &shift)
-{
-    const std::vector<QRect> filled = filledParts();
-    const QImage before = m_image.copy();
-    reset(m_image.size());
-    for (const QRect &part : filled) {
-        const QRect moved = part.translated(shift) & m_image.rect();
-        for (int row = moved.top(); row <= moved.bottom(); ++row) {
-            const auto *from = reinterpret_cast<const QRgb *>(before.constScanLine(row - shift.y()));
-            QRgb *to = m_pixels + std::size_t(row) * std::size_t(m_image.width());
-            std::copy_n(from + moved.left() - shift.x(), moved.width(), to + moved.left());
-            noteFilled(row, moved.left(), moved.right());
-        }
-    }
-    const QRegion exposed = QRegion(m_image.rect()) - m_image.rect().translated(shift);
-    return {exposed.begin(), exposed.end()};
 }
 
 void QuadCanvas::setHatching(const QPointF &origin, int spacing, int width)
@@ -65,11 +39,11 @@ void QuadCanvas::fill(const Quad &quad, QRgb premultiplied, Pattern pattern)
         top = std::min(top, corner.y());
         bottom = std::max(bottom, corner.y());
     }
-    if (right < m_clip.left() || left >= m_clip.right() + 1 || bottom < m_clip.top() || top >= m_clip.bottom() + 1) {
+    if (right < m_area.left() || left >= m_area.right() + 1 || bottom < m_area.top() || top >= m_area.bottom() + 1) {
         return;
     }
-    m_top = std::max(int(std::floor(top)), m_clip.top());
-    const int last = std::min(int(std::floor(bottom)), m_clip.bottom());
+    m_top = std::max(int(std::floor(top)), m_area.top());
+    const int last = std::min(int(std::floor(bottom)), m_area.bottom());
     m_rows.assign(
         std::size_t(last - m_top + 1), {std::numeric_limits<double>::max(), std::numeric_limits<double>::lowest()});
     for (std::size_t i = 0; i < quad.size(); ++i) {
@@ -106,24 +80,16 @@ void QuadCanvas::addEdge(const QPointF &from, const QPointF &to)
 void QuadCanvas::fillRow(int row, QRgb premultiplied, Pattern pattern)
 {
     const Extent &extent = m_rows[std::size_t(row - m_top)];
-    if (extent.right < m_clip.left() || extent.left >= m_clip.right() + 1) {
+    if (extent.right < m_area.left() || extent.left >= m_area.right() + 1) {
         return;
     }
-    const int first = int(std::max(extent.left, double(m_clip.left())));
-    const int last = int(std::min(extent.right, double(m_clip.right())));
-    QRgb *line = m_pixels + std::size_t(row) * std::size_t(m_image.width());
+    const int first = int(std::max(extent.left, double(m_area.left())));
+    const int last = int(std::min(extent.right, double(m_area.right())));
+    QRgb *line = m_pixels + row * m_stride;
     if (pattern == Pattern::Solid) {
         std::fill(line + first, line + last + 1, premultiplied);
     } else {
         hatch(line, row, first, last, premultiplied);
-    }
-    noteFilled(row, first, last);
-}
-
-void QuadCanvas::noteFilled(int row, int first, int last)
-{
-    for (int column = first / TileWidth; column <= last / TileWidth; ++column) {
-        m_filledTiles[std::size_t(row / TileHeight * m_tileColumns + column)] = true;
     }
 }
 
@@ -136,27 +102,4 @@ void QuadCanvas::hatch(QRgb *line, int row, int first, int last, QRgb premultipl
         }
         phase = phase + 1 == m_hatchSpacing ? 0 : phase + 1;
     }
-}
-
-std::vector<QRect> QuadCanvas::filledParts() const
-{
-    std::vector<QRect> parts;
-    for (std::size_t i = 0; i < m_filledTiles.size(); ++i) {
-        if (!m_filledTiles[i]) {
-            continue;
-        }
-        const int column = int(i) % m_tileColumns;
-        const int row = int(i) / m_tileColumns;
-        const QRect tile(column * TileWidth, row * TileHeight, TileWidth, TileHeight);
-        // Neighbours in a row of tiles make one part.
-        if (column > 0 && m_filledTiles[i - 1]) {
-            parts.back() |= tile;
-        } else {
-            parts.push_back(tile);
-        }
-    }
-    for (QRect &part : parts) {
-        part &= m_image.rect();
-    }
-    return parts;
 }

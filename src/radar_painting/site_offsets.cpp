@@ -2,7 +2,6 @@
 
 #include "geo/projector.h"
 #include "geo/wgs84.h"
-#include "view/geo_view.h"
 
 #include <QTransform>
 
@@ -12,20 +11,26 @@
 
 namespace {
 
+constexpr double WidePixel = 2000.0; // plane metres
+
 // Pixels between nodes. The more ground lies between nodes, the more the plane bends there.
-int spacingFor(double metresPerPixel)
+int spacingFor(const QTransform &toPlane)
 {
-    return metresPerPixel > 2000.0 ? 16 : 32;
+    return std::hypot(toPlane.m11(), toPlane.m12()) > WidePixel ? 16 : 32;
+}
+
+// With the nodes behind the last pixels.
+int nodesFor(int pixels, int spacing)
+{
+    return (pixels + spacing - 1) / spacing + 1;
 }
 
 } // namespace
 
-SiteOffsets::SiteOffsets(Projector &projector, const GeoCoordinate &site, const GeoView &view)
-    : m_size(view.screenRect().size() * view.devicePixelRatio()), m_spacing(spacingFor(view.metresPerPixel())),
-      m_columns(m_size.width() / m_spacing + 2), m_rows(m_size.height() / m_spacing + 2)
+SiteOffsets::SiteOffsets(Projector &projector, const GeoCoordinate &site, const QTransform &toPlane, const QSize &size)
+    : m_spacing(spacingFor(toPlane)), m_columns(nodesFor(size.width(), m_spacing)),
+      m_rows(nodesFor(size.height(), m_spacing))
 {
-    const QTransform toPlane =
-        QTransform::fromScale(1.0 / view.devicePixelRatio(), 1.0 / view.devicePixelRatio()) * view.planeTransform();
     m_nodes.reserve(std::size_t(m_columns * m_rows));
     for (int i = 0; i < m_columns * m_rows; ++i) {
         const QPointF point = toPlane.map(QPointF(i % m_columns, i / m_columns) * m_spacing);
@@ -40,22 +45,23 @@ SiteOffsets::SiteOffsets(Projector &projector, const GeoCoordinate &site, const 
     }
 }
 
-void SiteOffsets::row(int y, float *east, float *north) const
+void SiteOffsets::row(int y, int first, int count, float *east, float *north) const
 {
     const int nodeRow = y / m_spacing;
-    const float down = (float(y - nodeRow * m_spacing) + 0.5f) / m_spacing;
+    const float down = (float(y - nodeRow * m_spacing) + 0.5f) / float(m_spacing);
     const auto between = [down](const Offset &above, const Offset &below) {
         return Offset{above.east + (below.east - above.east) * down, above.north + (below.north - above.north) * down};
     };
-    Offset left = between(node(0, nodeRow), node(0, nodeRow + 1));
-    for (int column = 0; column * m_spacing < m_size.width(); ++column) {
-        const Offset right = between(node(column + 1, nodeRow), node(column + 1, nodeRow + 1));
-        const int first = column * m_spacing;
-        const int count = std::min(m_spacing, m_size.width() - first);
+    const auto at = [&](int column) { return between(node(column, nodeRow), node(column, nodeRow + 1)); };
+    int column = first / m_spacing;
+    Offset left = at(column);
+    for (int x = column * m_spacing; x < first + count; x += m_spacing) {
+        const Offset right = at(++column);
         const Offset step{(right.east - left.east) / float(m_spacing), (right.north - left.north) / float(m_spacing)};
-        for (int i = 0; i < count; ++i) {
-            east[first + i] = left.east + step.east * (float(i) + 0.5f);
-            north[first + i] = left.north + step.north * (float(i) + 0.5f);
+        const int end = std::min(m_spacing, first + count - x);
+        for (int i = std::max(first - x, 0); i < end; ++i) {
+            east[x - first + i] = left.east + step.east * (float(i) + 0.5f);
+            north[x - first + i] = left.north + step.north * (float(i) + 0.5f);
         }
         left = right;
     }

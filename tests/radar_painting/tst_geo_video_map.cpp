@@ -81,6 +81,7 @@ private Q_SLOTS:
     void fadesUntilItsValidityEnds();
     void newRadialsReplaceOldOnes();
     void movesWithTheView();
+    void newsComeWhileTheViewIsDragged();
     void joinsPartsOfARadial();
     void drawsOnlyKnownSources();
     void survivesNonsense();
@@ -286,6 +287,25 @@ void TestGeoVideoMap::movesWithTheView()
         // Next to the site, where a pixel spans several radials.
         QVERIFY2(different <= 100, qPrintable(QString::number(different)));
     }
+}
+
+// Not all of it in each frame, but before long.
+void TestGeoVideoMap::newsComeWhileTheViewIsDragged()
+{
+    const auto frame = [this](int number) { return painted(300.0, plane(Site) + QPointF(number * 600.0, 0.0)); };
+    m_layer->addRadial(filled(0, 1));
+    frame(0);
+    for (int azimuth = 0; azimuth < 360; ++azimuth) {
+        m_layer->addRadial(filled(azimuth, (azimuth + 1) % 360));
+    }
+    constexpr int Frames = 8;
+    for (int i = 1; i < Frames; ++i) {
+        frame(i);
+    }
+    const PaintedView dragged = frame(Frames);
+    const PaintedView atRest = frame(Frames);
+    QVERIFY(atRest.ink() > 10000);
+    QCOMPARE(dragged.ink(), atRest.ink());
 }
 
 void TestGeoVideoMap::joinsPartsOfARadial()
