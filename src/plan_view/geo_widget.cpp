@@ -19,6 +19,7 @@ constexpr double SmallestScale = 1e-10;
 // Whole beats: three on, two off.
 constexpr int BlinkPeriodMs = 5 * GeoWidget::RefreshIntervalMs;
 constexpr int BlinkOnMs = 3 * GeoWidget::RefreshIntervalMs;
+constexpr int DragFrameMs = 25; // while the view is dragged news wait so long for the next move to bring a frame
 
 QTransform flipped()
 {
@@ -40,8 +41,10 @@ GeoWidget::GeoWidget(QWidget *parent)
     setMouseTracking(true);
     setFocusPolicy(Qt::WheelFocus);
     m_clock.start();
-    connect(&m_repaintTimer, &QTimer::timeout, this, &GeoWidget::refresh);
+    connect(&m_repaintTimer, &QTimer::timeout, this, &GeoWidget::beat);
     m_repaintTimer.start(RefreshIntervalMs);
+    m_frameTimer.setSingleShot(true);
+    connect(&m_frameTimer, &QTimer::timeout, this, [this] { update(); });
 }
 
 GeoMapDisplay *GeoWidget::mapDisplay() const
@@ -262,6 +265,30 @@ void GeoWidget::showTrack(unsigned long long id)
 
 void GeoWidget::refresh()
 {
+    followPicture();
+    update();
+}
+
+void GeoWidget::beat()
+{
+    followPicture();
+    updateSoon();
+}
+
+// A view that is dragged is painted with each move. What else has news comes along with it rather than in a frame of
+// its own, which would hold the drag up.
+void GeoWidget::updateSoon()
+{
+    const qint64 since = m_sincePaint.isValid() ? m_sincePaint.elapsed() : DragFrameMs;
+    if (!m_panning || since >= DragFrameMs) {
+        update();
+    } else if (!m_frameTimer.isActive()) {
+        m_frameTimer.start(DragFrameMs - int(since));
+    }
+}
+
+void GeoWidget::followPicture()
+{
     if (m_trackDisplay) {
         m_trackDisplay->setBlinkOn(m_clock.elapsed() % BlinkPeriodMs < BlinkOnMs);
     }
@@ -269,7 +296,6 @@ void GeoWidget::refresh()
     if (m_followSelectedTrack) {
         keepSelectedTrackCentred();
     }
-    update();
 }
 
 void GeoWidget::dropLostTracks()
@@ -311,22 +337,22 @@ void GeoWidget::keepSelectedTrackCentred()
 
 void GeoWidget::refreshMap(bool)
 {
-    update();
+    updateSoon();
 }
 
 void GeoWidget::refreshTrack(bool)
 {
-    update();
+    updateSoon();
 }
 
 void GeoWidget::updateMap()
 {
-    update();
+    updateSoon();
 }
 
 void GeoWidget::updateTrack()
 {
-    update();
+    updateSoon();
 }
 
 void GeoWidget::notifyViewRectChange()
@@ -365,6 +391,8 @@ void GeoWidget::paintEvent(QPaintEvent *)
         m_trackDisplay->paint(&painter, m_view);
     }
     painter.end();
+    m_frameTimer.stop();
+    m_sincePaint.start();
     const double paintMs = milliseconds(frameTimer);
     const auto stats = m_paintStats.addFrame(mapMs, paintMs - mapMs, paintMs, m_clock.elapsed());
     if (stats) {

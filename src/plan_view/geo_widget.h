@@ -74,7 +74,8 @@ public Q_SLOTS:
     // Holds the selected track in the centre, until the view is dragged.
     void setFollowSelectedTrack(bool follow);
 
-    // One beat of the repaint timer: ends what its track has left, follows the selected track, asks for a repaint.
+    // Ends what its track has left, follows the selected track, asks for a repaint. Comes with each beat of the repaint
+    // timer.
     void refresh();
     void refreshMap(bool);
     void refreshTrack(bool);
@@ -120,6 +121,9 @@ private:
     void zoomBy(double factor, const QPointF &anchor);
     void translateView(double dx, double dy);
     void notifyViewRectChange();
+    void beat();
+    void updateSoon();
+    void followPicture();
     void dropLostTracks();
     void keepSelectedTrackCentred();
     void startRightDrag(const QPointF &position);
@@ -136,6 +140,8 @@ private:
     bool toolTakes(const QMouseEvent &event, bool (GeoPointerTool::*handler)(const QPointF &, const QTransform &));
 
     QTimer m_repaintTimer;
+    QTimer m_frameTimer; // runs while news wait for a frame
+    QElapsedTimer m_sincePaint;
     QTransform m_viewTransform;
     GeoView m_view;
     QPointer<GeoMapDisplay> m_mapDisplay;

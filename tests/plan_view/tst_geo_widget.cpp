@@ -6,6 +6,7 @@
 #include "plan_view/geo_widget.h"
 #include "test_program.h"
 
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void reportsWhatIsVisible();
     void wheelZoomsAboutThePointer();
     void rightDragPans();
+    void newsComeAlongWithADrag();
     void aDragEndsWhenTheButtonIsUp();
     void rightDragMovesALabel();
     void labelDragEndsWithItsTrack();
@@ -68,6 +70,17 @@ public:
     Qt::CursorShape cursorShape() const override { return Qt::SizeAllCursor; }
 
     int events = 0;
+};
+
+class PaintCounter final : public QObject {
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int paints = 0;
 };
 
 using Pairs = QList<std::pair<double, double>>;
@@ -231,6 +244,31 @@ void TestGeoWidget::rightDragPans()
     QCOMPARE(rects.size() + cursors.size(), 0); // tiles are not asked for while the view is still moving
     sendMouse(QEvent::MouseButtonRelease, QPointF(130, 90), Qt::RightButton, Qt::NoButton);
     QCOMPARE(rects.size(), 1);
+}
+
+void TestGeoWidget::newsComeAlongWithADrag()
+{
+    PaintCounter counter;
+    m_widget->installEventFilter(&counter);
+    m_widget->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_widget.get()));
+    sendMouse(QEvent::MouseButtonPress, QPointF(100, 100), Qt::RightButton, Qt::RightButton);
+    QElapsedTimer timer;
+    do { // until the machine leaves the test alone for so long
+        timer.start();
+        m_widget->repaint();
+        counter.paints = 0;
+        m_tracks->setSymbolSize(20);
+        QCoreApplication::processEvents();
+    } while (timer.elapsed() > 20);
+    QCOMPARE(counter.paints, 0); // a moment ago there was a frame
+    QTRY_COMPARE(counter.paints, 1); // no move has brought another one
+    sendMouse(QEvent::MouseButtonRelease, QPointF(100, 100), Qt::RightButton, Qt::NoButton);
+    m_widget->repaint();
+    counter.paints = 0;
+    m_tracks->setSymbolSize(21);
+    QCoreApplication::processEvents();
+    QVERIFY(counter.paints > 0);
 }
 
 // The release went to a dialog that came up during the drag.
