@@ -49,11 +49,13 @@ void SheetPicture::turnTo(const GeoView &view, const Draw &draw)
         m_columns = (size.width() + CellWidth - 1) / CellWidth;
         m_ink.assign(std::size_t(m_columns) * std::size_t((size.height() + CellHeight - 1) / CellHeight), false);
     }
-    const bool anew = m_held.isEmpty();
-    const QPoint corner = anew ? seen.topLeft() - QPoint(SheetMargin, SheetMargin)
-                               : QPoint(heldFrom(seen.x(), seen.width(), m_held.x(), size.width()),
-                                   heldFrom(seen.y(), seen.height(), m_held.y(), size.height()));
-    const QRect holds(corner, size);
+    QRect holds(seen.topLeft() - QPoint(SheetMargin, SheetMargin), size);
+    if (m_held.isEmpty()) {
+        m_origin = holds.topLeft();
+    } else {
+        holds.moveTo(heldFrom(seen.x(), seen.width(), m_held.x(), size.width()),
+            heldFrom(seen.y(), seen.height(), m_held.y(), size.height()));
+    }
     const QRegion lacking = QRegion(holds) - m_held;
     m_held = holds;
     for (const QRect &part : lacking) {
@@ -76,10 +78,10 @@ void SheetPicture::forPieces(const QRect &part, Visit &&visit) const
 {
     const QSize size = m_image.size();
     for (int y = part.top(); y <= part.bottom();) {
-        const int imageY = modulo(y, size.height());
+        const int imageY = modulo(y - m_origin.y(), size.height());
         const int height = std::min(part.bottom() + 1 - y, size.height() - imageY);
         for (int x = part.left(); x <= part.right();) {
-            const int imageX = modulo(x, size.width());
+            const int imageX = modulo(x - m_origin.x(), size.width());
             const int width = std::min(part.right() + 1 - x, size.width() - imageX);
             visit(QRect(x, y, width, height), QPoint(imageX, imageY));
             x += width;

@@ -50,7 +50,8 @@ private:
 
     ViewSheet m_sheet;
     QRect m_held; // of the sheet; never larger than the image
-    QImage m_image; // a pixel of the sheet is at its place modulo the image's size
+    QPoint m_origin; // of the sheet: the image's first pixel
+    QImage m_image; // pixels of the sheet are at their distance from there, modulo the image's size
     int m_columns = 0;
     std::vector<bool> m_ink; // by cell of the image
 };
