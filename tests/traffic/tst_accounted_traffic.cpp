@@ -2,6 +2,7 @@
 
 #include "sensors/sensor_info.h"
 #include "test_program.h"
+#include "traffic/scenario_reader.h"
 
 #include <QHash>
 

@@ -12,4 +12,9 @@ ICAOAddrInfo ICAOAddrDictionary::getICAOAddrInfo(const ICAOAddr &address) const
     return {m_tables, address.value()};
 }
 
+int ICAOAddrDictionary::aircraftCount() const
+{
+    return static_cast<int>(m_tables->aircraft.size());
+}
+
 } // namespace korvane::airdb

@@ -126,6 +126,11 @@ void ADSBTracker::setReferencePosition(double latitude, double longitude)
     m_reference = LatLon{latitude, longitude};
 }
 
+void ADSBTracker::clearReferencePosition()
+{
+    m_reference.reset();
+}
+
 void ADSBTracker::takeContent(ADSBTarget &target, const ModeSMessage &message)
 {
     const SquitterContent &content = message.content();

@@ -11,6 +11,8 @@ public:
     // database is not being loaded.
     ICAOAddrInfo getICAOAddrInfo(const ICAOAddr &address) const;
 
+    int aircraftCount() const;
+
 private:
     friend class LibAirDB;
     std::shared_ptr<const Tables> m_tables;

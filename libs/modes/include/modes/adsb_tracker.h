@@ -31,6 +31,7 @@ public:
     // The receiver's place, or the middle of what a network of them covers: needed for positions on the surface, where
     // several fit. Positions beyond MaximumRange of it are not taken.
     void setReferencePosition(double latitude, double longitude);
+    void clearReferencePosition();
 
     const std::unordered_map<std::uint64_t, std::shared_ptr<ADSBTarget>> &targets() const { return m_targets; }
 
