@@ -144,9 +144,12 @@ void TileFetcher::forget(const InFlight &request)
     request.reply->deleteLater();
 }
 
-// Squared; 0 where no centre is of the tile's level.
 double TileFetcher::distance(const TileIndex &index) const
 {
+    if (m_centres.isEmpty()) {
+        constexpr double Beyond = 1 << (TileIndex::MaxLevel + 1); // columns and rows
+        return (index.level * Beyond + index.y) * Beyond + index.x;
+    }
     double nearest = std::numeric_limits<double>::infinity();
     for (const auto &[level, place] : m_centres) {
         if (level == index.level) {

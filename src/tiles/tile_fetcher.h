@@ -50,7 +50,8 @@ public:
     // Whether requests wait after a failure.
     bool paused() const { return m_pacing.authenticationBlocked() || m_pacing.backingOff(); }
 
-    // The requests nearest to one of these places of their level go first; those of other levels before them.
+    // The requests nearest to one of these places of their level go first; those of other levels before them. Without
+    // any, the coarsest level goes first, row by row from the north.
     void setCentres(const QList<Centre> &centres) { m_centres = centres; }
     // Ignored when it is on its way or known to be unavailable. Nothing is sent before pump().
     void enqueue(const TileIndex &index);
@@ -102,7 +103,7 @@ private:
     };
 
     QNetworkAccessManager &network();
-    double distance(const TileIndex &index) const;
+    double distance(const TileIndex &index) const; // squared, or a rank where there is no centre
     void forget(const InFlight &request);
     void forgetCached(const TileIndex &index);
     void send(const TileIndex &index, bool pastCache);

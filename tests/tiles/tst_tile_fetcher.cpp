@@ -35,6 +35,7 @@ private Q_SLOTS:
     void readsAnswersInPieces();
     void staysWithinTheLimit();
     void nearestFirst();
+    void inOrderWithoutACentre();
     void failures_data();
     void failures();
     void isBlockedAfterRejection();
@@ -177,6 +178,19 @@ void TestTileFetcher::nearestFirst()
     QCOMPARE(m_received.at(4).x, 7);
     QCOMPARE(m_received.at(3).x, 3);
     QVERIFY(m_received.at(0).x == 0 || m_received.at(0).x == 15);
+}
+
+// As a download wants it, which keeps the place that it has come to.
+void TestTileFetcher::inOrderWithoutACentre()
+{
+    m_fetcher->setMaxConcurrentRequests(1);
+    const QList<TileIndex> order{{3, 1, 2}, {0, 2, 3}, {7, 2, 3}, {1, 3, 3}, {0, 0, 4}};
+    for (const int i : {3, 1, 4, 0, 2}) {
+        m_fetcher->enqueue(order[i]);
+    }
+    m_fetcher->pump();
+    QTRY_COMPARE(m_received.size(), 5);
+    QCOMPARE(m_received, order);
 }
 
 // What is said, and whether the tile is asked for again at once, after a while, or not at all.
