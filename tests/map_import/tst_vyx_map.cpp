@@ -152,7 +152,7 @@ private Q_SLOTS:
     void demoMapsFitTheScenarios()
     {
         const auto places = [](const char *scenario) {
-            QFile file(QStringLiteral(MAPS_FOLDER "/../demo/%1.json").arg(scenario));
+            QFile file(QStringLiteral(SCENARIOS_FOLDER "/%1.json").arg(scenario));
             QHash<QString, GeoCoordinate> result;
             if (file.open(QIODevice::ReadOnly)) {
                 for (const QJsonValue fix : QJsonDocument::fromJson(file.readAll())["fixes"].toArray()) {
