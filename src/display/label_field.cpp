@@ -15,6 +15,7 @@ constexpr double SymbolAreaCost = 2.2;
 constexpr double CrossingCost = 150.0; // of two leaders
 constexpr double ThroughCost = 40.0; // of a leader through a label
 constexpr double YieldingShare = 0.01; // of what a label that yields costs one that does not
+constexpr double UrgentShare = 2.0; // of what a label that does not yield costs one that does
 constexpr double FreeLineCost = 100.0; // of a line that is to stay free under a label
 
 int sharedArea(const QRect &a, const QRect &b)
@@ -28,6 +29,14 @@ int sharedArea(const QRect &a, const QRect &b)
 bool overlap(const QRect &a, const QRect &b)
 {
     return a.left() <= b.right() && b.left() <= a.right() && a.top() <= b.bottom() && b.top() <= a.bottom();
+}
+
+double shareOf(bool asksYields, bool standsYields)
+{
+    if (asksYields == standsYields) {
+        return 1.0;
+    }
+    return asksYields ? UrgentShare : YieldingShare;
 }
 
 // Which side of a line a point is on: the sign.
@@ -208,8 +217,7 @@ double LabelField::cost(int owner, const QRect &rect, double limit) const
         // Most are only near.
         if (other != owner && visited != m_question && overlap(asked.bounds, stands.bounds)) {
             visited = m_question;
-            const double counts = !asked.yields && stands.yields ? YieldingShare : 1.0;
-            cost += counts * inTheWay(asked, stands);
+            cost += shareOf(asked.yields, stands.yields) * inTheWay(asked, stands);
         }
         return cost < limit;
     });

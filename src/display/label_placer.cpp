@@ -11,13 +11,17 @@ constexpr int EdgeGap = 2; // pixels between label and edge
 constexpr int MemoryCalls = 300; // for which a track that is not shown is remembered
 constexpr int RetryCalls = 20; // until a label looks again that found nothing better
 constexpr double Horizon = 75.0; // seconds looked ahead
-constexpr double HorizonCost = 350.0; // of a place that is about to be taken
+constexpr double HorizonCost = 335.0; // of a place that is about to be taken
 constexpr double VectorCost = 3.0; // of covering its own vector
 constexpr double CrowdCost = 0.3; // of each symbol around: the edge of a crowd has more room
 constexpr double EdgeCost = 220.0; // of reaching beyond the edge
 constexpr double EdgePixelCost = 0.5; // of a pixel beyond the edge
 constexpr double BadCost = 60.0; // more than that and a label looks for another place
-constexpr double ShortenedCost = 450.0; // of giving up lines
+// Of giving up lines where there is room, and in a crowd: where whole labels would fill those shares of the view.
+constexpr double ShortenedCost = 470.0;
+constexpr double ShortenedCostInCrowd = 150.0;
+constexpr double RoomyShare = 0.6;
+constexpr double CrowdedShare = 1.0;
 // Of not being shown, with few labels in view; from Few to Many of them it falls, where covering each other helps
 // nobody.
 constexpr double HiddenCostOfFew = 2200.0;
@@ -26,6 +30,8 @@ constexpr int Few = 350;
 constexpr int Many = 600;
 constexpr double ChangeCost = 200.0; // what a move or another form has to be worth
 constexpr double FarPlaceCost = 30.0; // of a place from which a label that has become urgent comes nearer
+constexpr double TooFarPlaceCost = 60.0; // of one from which every label comes nearer when there is room
+constexpr double NearerCost = 120.0; // what that move has to be worth
 constexpr double ExchangeCost = 500.0; // what the moves of two labels have to be worth
 constexpr int WorkLimit = 4500; // candidates a call, from which on what can wait does
 constexpr std::size_t HastyStride = 20; // of the candidates looked at when there is no time for all
@@ -50,11 +56,6 @@ QPoint anchored(const QPoint &offset, const QSize &before, const QSize &after)
 QSize sizeOf(const LabelPlacer::Label &label, LabelPlacer::Form form)
 {
     return form == LabelPlacer::Form::Whole ? label.whole : label.shortened;
-}
-
-double formCost(LabelPlacer::Form form)
-{
-    return form == LabelPlacer::Form::Whole ? 0.0 : ShortenedCost;
 }
 
 } // namespace
@@ -89,6 +90,7 @@ void LabelPlacer::lookAgain()
 {
     for (auto &[id, memory] : m_memories) {
         memory.retry = 0;
+        memory.isNew = memory.isNew || memory.form == Form::Hidden;
     }
 }
 
@@ -108,10 +110,29 @@ void LabelPlacer::collect(const std::vector<Label> &labels)
             m_field.addFreeLine(index, label.place + label.vectorTip);
         }
     }
-    const auto inView = std::count_if(m_entries.begin(), m_entries.end(), [](const Entry &e) { return e.inView; });
-    const double crowd = std::clamp(double(inView - Few) / (Many - Few), 0.0, 1.0);
-    m_hiddenCost = std::lerp(HiddenCostOfFew, HiddenCostOfMany, crowd);
+    setCosts();
     std::erase_if(m_memories, [this](const auto &item) { return m_call - item.second.seen > MemoryCalls; });
+}
+
+void LabelPlacer::setCosts()
+{
+    int count = 0;
+    double area = 0.0;
+    for (const Entry &entry : m_entries) {
+        const bool counts = entry.inView && !entry.label->pinned;
+        count += counts ? 1 : 0;
+        area += counts ? double(entry.label->whole.width()) * entry.label->whole.height() : 0.0;
+    }
+    const double many = std::clamp(double(count - Few) / (Many - Few), 0.0, 1.0);
+    m_hiddenCost = std::lerp(HiddenCostOfFew, HiddenCostOfMany, many);
+    const double share = area / std::max(1.0, double(m_scene.view.width()) * m_scene.view.height());
+    const double crowd = std::clamp((share - RoomyShare) / (CrowdedShare - RoomyShare), 0.0, 1.0);
+    m_shortenedCost = std::lerp(ShortenedCost, ShortenedCostInCrowd, crowd);
+}
+
+double LabelPlacer::formCost(Form form) const
+{
+    return form == Form::Whole ? 0.0 : m_shortenedCost;
 }
 
 // Labels stand where they stood.
@@ -172,8 +193,9 @@ void LabelPlacer::placeNew()
     }
 }
 
-// Labels that have come into others' way move or give up lines, and those that gave up some get them back where there
-// is room. The least important first: that may free the next.
+// Labels that have come into others' way move or give up lines, and those that gave up some, or stand far away, get
+// them back or come nearer where there is room. Those in view first, for there may be no time for all, and of these the
+// least important: that may free the next.
 void LabelPlacer::improve()
 {
     findWanting();
@@ -195,7 +217,7 @@ void LabelPlacer::findWanting()
     }
     const auto rank = [this](int index) {
         const Entry &ranked = entry(index);
-        return std::tuple(ranked.inView, ranked.label->priority, ranked.memory->retry);
+        return std::tuple(!ranked.inView, ranked.label->priority, ranked.memory->retry);
     };
     std::stable_sort(m_wanting.begin(), m_wanting.end(), [&rank](int a, int b) { return rank(a) < rank(b); });
 }
@@ -218,7 +240,7 @@ void LabelPlacer::improve(int index)
     memory.retry = m_call + RetryCalls;
     memory.tolerated = standingCost(index, NoLimit) + BadCost;
     Found best = standing(index);
-    best.cost -= ChangeCost;
+    best.cost -= memory.placeCost < TooFarPlaceCost ? ChangeCost : NearerCost;
     m_field.remove(index); // guesses at costs would count it
     settle(index, bestForm(index, best));
 }
@@ -281,8 +303,9 @@ bool LabelPlacer::isMovable(int index) const
 
 bool LabelPlacer::isGood(int index) const
 {
-    const bool isWhole = entry(index).memory->form == Form::Whole || entry(index).label->whole.isEmpty();
-    return isWhole && standingCost(index, BadCost) < BadCost;
+    const Memory &memory = *entry(index).memory;
+    const bool isWhole = memory.form == Form::Whole || entry(index).label->whole.isEmpty();
+    return isWhole && memory.placeCost < TooFarPlaceCost && standingCost(index, BadCost) < BadCost;
 }
 
 // As the label stands, with all that is in its way.

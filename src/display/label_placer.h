@@ -57,7 +57,7 @@ public:
     // Places all labels anew with the next call, or that of one track.
     void forget();
     void forget(quint64 id);
-    // Labels that found no better place look again at once: the view has changed.
+    // The view has changed: labels that found no better place look again at once, and hidden ones are placed anew.
     void lookAgain();
 
 private:
@@ -87,6 +87,7 @@ private:
     };
 
     void collect(const std::vector<Label> &labels);
+    void setCosts();
     void recall();
     void recall(int index);
     void sortNew();
@@ -99,6 +100,7 @@ private:
     void report();
     Placed hovered(int index);
 
+    double formCost(Form form) const;
     bool staysWhole(int index) const;
     bool isUrgent(int index) const;
     bool isMovable(int index) const;
@@ -129,6 +131,7 @@ private:
     Placed m_hoveredPlace;
     int m_call = 0;
     double m_hiddenCost = 0.0; // of not being shown, in this call
+    double m_shortenedCost = 0.0; // of giving up lines
     int m_work = 0; // candidates looked at in this call
     int m_shortenedCount = 0;
     int m_hiddenCount = 0;

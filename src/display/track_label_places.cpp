@@ -92,6 +92,13 @@ LabelPlacer::Priority priorityOf(const ShownTrack &shown)
     return shown.inDistress ? Priority::Emergency : Priority::Normal;
 }
 
+// Half a text tells nothing of an aircraft that is not seen either.
+bool isCut(const GeoView &view, const ShownTrack &shown, const LabelPlacer::Placed &placed)
+{
+    const QRect screen = view.screenRect();
+    return !screen.contains(shown.place) && !screen.contains(QRect(shown.place + placed.offset, placed.size));
+}
+
 void show(ShownTrack &shown, const QPoint &corner, int lines)
 {
     shown.lines = lines;
@@ -152,7 +159,8 @@ void TrackLabelPlaces::arrange(TrackFrame &frame, const Obstacles &obstacles)
     const QPoint padding = paddingCorner(frame.look);
     for (std::size_t i = 0; i < frame.tracks.size(); ++i) {
         ShownTrack &shown = frame.tracks[i];
-        if (!shown.label || placed[i].form == LabelPlacer::Form::Hidden) {
+        const bool cut = !m_labels[i].pinned && isCut(frame.view, shown, placed[i]);
+        if (!shown.label || placed[i].form == LabelPlacer::Form::Hidden || cut) {
             shown.label = nullptr;
             continue;
         }

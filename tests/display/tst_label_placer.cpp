@@ -307,6 +307,49 @@ private Q_SLOTS:
         QCOMPARE(scope.placer.hiddenCount() + scope.placer.shortenedCount(), 0);
     }
 
+    // Crowds disperse, and views are zoomed into.
+    void comesBackFromFarAwayWhenThereIsRoom()
+    {
+        Scope scope;
+        scope.labels = crowd(250, QSize(1600, 1000));
+        scope.next(60);
+        std::size_t farthest = 0;
+        for (std::size_t i = 0; i < scope.labels.size(); ++i) {
+            farthest = scope.leaderLength(i) > scope.leaderLength(farthest) ? i : farthest;
+        }
+        QVERIFY(scope.leaderLength(farthest) > 150.0);
+        scope.labels = {scope.labels[farthest]};
+        scope.next(40);
+        QVERIFY2(scope.leaderLength(0) < 60.0, qPrintable(QString::number(scope.leaderLength(0))));
+    }
+
+    // Zoomed into a crowd, most of which is out of view then.
+    void aNewViewShowsAtOnceWhatItHasRoomFor()
+    {
+        Scope scope(QSize(800, 600));
+        scope.labels = crowd(1500, QSize(800, 600));
+        scope.next(20);
+        QVERIFY(scope.placer.hiddenCount() > 500);
+        for (Label &label : scope.labels) {
+            label.place = QPoint(400, 300) + 8 * (label.place - QPoint(400, 300));
+        }
+        scope.placer.lookAgain();
+        scope.next();
+        QCOMPARE(scope.placer.hiddenCount(), 0);
+    }
+
+    void evenTheFringeOfAnAlertIsLeftFree()
+    {
+        Scope scope;
+        scope.labels = {aircraft(1, QPoint(800, 500)), aircraft(2, QPoint(1000, 600))};
+        scope.next();
+        const QRect fringe = scope.rect(0).translated(Whole.width() - 3, 0);
+        scope.labels[1].pinned = true;
+        scope.labels[1].pinnedOffset = fringe.topLeft() - scope.labels[1].place;
+        scope.next(40);
+        QCOMPARE(scope.coveredLabels(), 0);
+    }
+
     void othersAvoidAPinnedLabel()
     {
         Scope scope;

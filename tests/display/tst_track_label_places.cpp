@@ -82,6 +82,21 @@ private Q_SLOTS:
         QVERIFY(scope.rect(1).isValid() && !scope.rect(1).intersects(usual));
     }
 
+    void noTextIsCutByTheEdge()
+    {
+        for (const int beyond : {-30, 0, 5, 60}) { // pixels that the aircraft is right of the edge
+            Scope scope;
+            scope.show({aircraft(1, {PaintedView::Size / 2.0 + beyond, 0})});
+            PaintedView view(1.0);
+            scope.paint(view, 2);
+            QVERIFY(scope.rect(1).isNull() || view.image().rect().contains(scope.rect(1)));
+            QVERIFY(beyond >= 0 || scope.rect(1).isValid());
+            scope.display.setTrackLabelOffset(1, 10, 0); // where the operator wants it
+            scope.paint(view);
+            QVERIFY(scope.rect(1).isValid());
+        }
+    }
+
     void theOperatorsPlaceStaysUntilItIsReset()
     {
         Scope scope;
