@@ -179,14 +179,15 @@ void GeoTrackDisplay::noteShortenedLabels()
     }
 }
 
+// Fainter than tracks where themes have a colour for that: one that flies through the key is told from it.
 std::vector<GeoTrackDisplay::SymbolMeaning> GeoTrackDisplay::shownSymbols(double devicePixelRatio)
 {
+    const QColor &color = m_look.isCompact() ? m_look.colors.leader : m_look.colors.symbol;
     std::vector<SymbolMeaning> shown;
     for (int i = 0; i < TrackSymbols::Count; ++i) {
         const auto symbol = static_cast<TrackSymbols::Symbol>(i);
         if (m_symbolPainter.painted().test(std::size_t(i))) {
-            shown.push_back({TrackSymbols::meaning(symbol),
-                m_symbolPainter.pixmap(symbol, m_look.colors.symbol, devicePixelRatio)});
+            shown.push_back({TrackSymbols::meaning(symbol), m_symbolPainter.pixmap(symbol, color, devicePixelRatio)});
         }
     }
     return shown;
