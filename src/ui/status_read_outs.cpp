@@ -7,16 +7,19 @@
 #include "widgets/urgency.h"
 
 #include <QDateTime>
+#include <QEvent>
 #include <QStatusBar>
 
 #include <cmath>
 
 namespace {
 constexpr auto RecordedLook = "color: black; background-color: #e0a030";
-}
+constexpr int OtherWidth = 130; // pixels of the bar for what stands left of the read-outs
+constexpr int Spacing = 6; // of the bar between two of them
+} // namespace
 
 StatusReadOuts::StatusReadOuts(QStatusBar *bar, Projector *projector)
-    : QObject(bar), m_projector(projector),
+    : QObject(bar), m_bar(bar), m_projector(projector),
       m_cursor(addReadOut(bar, "8959599N 17959599W", tr("Position under the pointer"))),
       m_fromSensor(addReadOut(bar, "360° 9999.9 NM", tr("Pointer from the sensor: true bearing and distance"))),
       m_scale(addReadOut(bar, tr("SCL %1").arg(14000), tr("Scale, metres per pixel"))),
@@ -39,6 +42,27 @@ StatusReadOuts::StatusReadOuts(QStatusBar *bar, Projector *projector)
     m_localClock = addReadOut(bar, "CEST 00:00:00", {});
     m_utcClock = addReadOut(bar, "REC UTC 00:00:00", {});
     setTimeZone("UTC");
+    bar->installEventFilter(this);
+}
+
+bool StatusReadOuts::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_bar && (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)) {
+        makeRoom();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void StatusReadOuts::makeRoom()
+{
+    int room = m_bar->width() - OtherWidth;
+    for (const QLabel *kept : {m_alerts[0], m_alerts[1], m_alerts[2], m_netsMark, m_localClock, m_utcClock}) {
+        room -= kept->isHidden() ? 0 : kept->width() + Spacing;
+    }
+    for (QLabel *readOut : {m_cursor, m_fromSensor, m_scale, m_rotation}) {
+        room -= readOut->width() + Spacing;
+        readOut->setVisible(room >= 0);
+    }
 }
 
 QLabel *StatusReadOuts::addReadOut(QStatusBar *bar, const QString &widestText, const QString &toolTip)

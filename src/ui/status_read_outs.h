@@ -12,7 +12,8 @@ class QStatusBar;
 #include <array>
 
 // The read-outs at the right of the status bar: cursor position and where it lies from the sensor, scale, rotation,
-// alert indicators and clock. Each is as wide as its widest text, so that nothing moves when a figure changes.
+// alert indicators and clock. Each is as wide as its widest text, so that nothing moves when a figure changes. What a
+// narrow bar has no room for is left out: rotation first, then scale and the pointer's place.
 class StatusReadOuts final : public QObject {
     Q_OBJECT
 
@@ -47,11 +48,17 @@ public:
     // MSAW, APW, STCA.
     QLabel *alertIndicator(int index) const { return m_alerts.at(static_cast<std::size_t>(index)); }
 
+protected:
+    // The bar's size, and that what needs room has come or gone.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void makeRoom();
     QLabel *addReadOut(QStatusBar *bar, const QString &widestText, const QString &toolTip);
     void showClocks(const QDateTime &time, const QString &utcPattern, const QString &utcToolTip, const QString &look);
     QString zoneLabel(const QDateTime &now) const;
 
+    QStatusBar *m_bar;
     Projector *m_projector;
     GeoCoordinate m_sensorPlace;
     QTimeZone m_zone;

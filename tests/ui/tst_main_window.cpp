@@ -20,6 +20,7 @@
 #include <QDockWidget>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QThread>
 
 namespace {
@@ -73,6 +74,7 @@ class TestMainWindow : public QObject {
 private Q_SLOTS:
     void actionsAreReachable();
     void readOuts();
+    void readOutsKeepApartInANarrowWindow();
     void staleAnswersAreIgnored();
     void failedOpeningIsReported();
     void stopAsksBeforeItEndsALiveInput();
@@ -142,6 +144,27 @@ void TestMainWindow::readOuts()
         QCOMPARE(shown(clocks->localClock()), "CEST 14:00:05");
         QCOMPARE(clocks->localClock()->styleSheet().isEmpty(), show == &StatusReadOuts::showTime);
         QCOMPARE(clocks->utcClock()->toolTip().contains("2024-05-01"), show == &StatusReadOuts::showRecordedTime);
+    }
+}
+
+void TestMainWindow::readOutsKeepApartInANarrowWindow()
+{
+    const WindowFixture fixture;
+    MainWindow window;
+    const auto *readOuts = window.findChild<StatusReadOuts *>();
+    window.resize(1600, 600);
+    window.show();
+    QCoreApplication::processEvents();
+    QVERIFY(readOuts->rotation()->isVisible() && readOuts->cursor()->isVisible());
+    window.resize(400, 300); // or as small as it gets
+    QCoreApplication::processEvents();
+    QVERIFY(readOuts->utcClock()->isVisible() && !readOuts->rotation()->isVisible());
+    const auto labels = window.statusBar()->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        for (const QLabel *other : labels) {
+            const bool both = label != other && label->isVisible() && other->isVisible();
+            QVERIFY2(!both || !label->geometry().intersects(other->geometry()), qPrintable(label->text()));
+        }
     }
 }
 
