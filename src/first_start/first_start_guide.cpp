@@ -38,6 +38,7 @@ QScrollArea *makeScrollable(QWidget *page, QWidget *parent)
 {
     auto *area = new QScrollArea(parent);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus); // it follows the fields
     area->setWidgetResizable(true);
     area->setWidget(page);
     return area;

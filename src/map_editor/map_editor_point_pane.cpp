@@ -63,6 +63,7 @@ MapEditorPointPane::MapEditorPointPane(MapEditorDocument *document, QWidget *par
     m_table->setWordWrap(false);
     // With one fixed height the view does not have to measure every row of a long list.
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->setTabKeyNavigation(false); // it goes through the fields of a point while one is edited
     m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 8);
     m_table->setColumnWidth(0, m_table->fontMetrics().horizontalAdvance(QStringLiteral("395427.35N1162317.08E")) + 24);
     m_table->horizontalHeader()->setStretchLastSection(true);

@@ -61,6 +61,7 @@ StaticMapsWindow::StaticMapsWindow(MapLibrary *library, QWidget *parent)
 void StaticMapsWindow::makeTable()
 {
     m_table = new QTableView(this);
+    m_table->setTabKeyNavigation(false); // it leads on to the buttons
     m_table->setObjectName(QStringLiteral("mapTable"));
     m_table->setAccessibleName(tr("Maps"));
     m_table->setModel(m_model);

@@ -55,6 +55,8 @@ RawViewWindow::RawViewWindow(EngineHost *host, QWidget *parent) : GeometryDialog
 {
     setWindowTitle(tr("Raw View"));
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
+    QWidget *commands = makeBar(); // these in the order of the tab key
+    m_filterBar = new RawFilterBar(this);
     makeList();
     auto *splitter = new QSplitter(Qt::Vertical, this);
     splitter->addWidget(m_list);
@@ -66,8 +68,7 @@ RawViewWindow::RawViewWindow(EngineHost *host, QWidget *parent) : GeometryDialog
     m_state->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_state->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto *layout = new QVBoxLayout(this);
-    m_filterBar = new RawFilterBar(this);
-    layout->addWidget(makeBar());
+    layout->addWidget(commands);
     layout->addWidget(m_filterBar);
     layout->addWidget(splitter, 1);
     layout->addWidget(m_state);
@@ -128,6 +129,7 @@ QWidget *RawViewWindow::makeBar()
     m_searchText->setPlaceholderText(tr("Find a value, an item, a reason"));
     m_searchText->setClearButtonEnabled(true);
     m_searchText->setAccessibleName(m_searchText->placeholderText());
+    m_searchText->setToolTip(m_searchText->placeholderText());
     auto *back = addButton("findPrevious", tr("Find Pre&vious"), tr("The next older record with that text"));
     auto *forth = addButton("findNext", tr("Find &Next"), tr("The next newer record with that text"));
     auto *save = addButton("export", tr("&Export..."), tr("Save the listed records to a file"));

@@ -40,6 +40,7 @@ public:
     PageArea(ConfigPage *page, QWidget *parent) : QScrollArea(parent)
     {
         setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus); // it follows the fields
         setWidgetResizable(true);
         setWidget(page);
     }

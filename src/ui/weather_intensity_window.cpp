@@ -47,6 +47,9 @@ WeatherIntensityWindow::WeatherIntensityWindow(GeoWeatherMap *weather, QWidget *
         grid->addWidget(m_levels[level].box, GeoWeatherMap::LevelCount - level, 0);
         grid->addWidget(m_levels[level].count, GeoWeatherMap::LevelCount - level, 1);
     }
+    for (int level = GeoWeatherMap::LevelCount - 1; level > 0; --level) {
+        setTabOrder(m_levels[level].box, m_levels[level - 1].box);
+    }
     auto *buttons = layOutDialog(this, levels, QDialogButtonBox::Close);
     const auto addButton = [this, buttons](const QString &text, bool visible) {
         auto *button = buttons->addButton(text, QDialogButtonBox::ActionRole);

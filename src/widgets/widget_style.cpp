@@ -3,28 +3,103 @@
 #include "app/config.h"
 #include "app/theme.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFont>
+#include <QPainter>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 #include <QWidget>
 
 #include <algorithm>
 #include <utility>
 #include <vector>
 
+namespace {
+
+// Some styles show the keyboard's place by a shade that is lost in dark colours, and not at all on what scrolls.
+class FocusStyle final : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+
+    using QProxyStyle::polish;
+    void polish(QWidget *widget) override
+    {
+        QProxyStyle::polish(widget);
+        if (auto *buttons = qobject_cast<QDialogButtonBox *>(widget)) {
+            // Otherwise the Tab key comes from the box to its first button wherever the box stands in the order, and
+            // may never get to those behind it.
+            buttons->setFocusProxy(nullptr);
+            buttons->setFocusPolicy(Qt::NoFocus);
+        }
+    }
+
+    void drawPrimitive(
+        PrimitiveElement element, const QStyleOption *option, QPainter *painter, const QWidget *widget) const override
+    {
+        if (element != PE_FrameFocusRect || !option) {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+        } else if (comesByKeys(*option, widget)) {
+            const auto *focus = qstyleoption_cast<const QStyleOptionFocusRect *>(option);
+            const QPalette &palette = option->palette;
+            const bool selected = focus && focus->backgroundColor == palette.color(QPalette::Highlight);
+            drawFrame(painter, option->rect, palette.color(selected ? QPalette::HighlightedText : QPalette::Link));
+        }
+    }
+
+    void drawControl(
+        ControlElement element, const QStyleOption *option, QPainter *painter, const QWidget *widget) const override
+    {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        if (element == CE_ShapedFrame && option && (option->state & State_HasFocus)
+            && qobject_cast<const QAbstractScrollArea *>(widget) && comesByKeys(*option, widget)) {
+            drawFrame(painter, option->rect, option->palette.color(QPalette::Link));
+        }
+    }
+
+private:
+    // Views of items claim it for their items after a click too.
+    static bool comesByKeys(const QStyleOption &option, const QWidget *widget)
+    {
+        return (option.state & State_KeyboardFocusChange)
+            && (!widget || widget->window()->testAttribute(Qt::WA_KeyboardFocusChange));
+    }
+    static void drawFrame(QPainter *painter, const QRect &rect, const QColor &color)
+    {
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing, false);
+        painter->setPen(color);
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(rect.adjusted(0, 0, -1, -1));
+        painter->restore();
+    }
+};
+
+} // namespace
+
+QString widgetStyleName()
+{
+    const QStyle *style = QApplication::style();
+    const auto *proxy = qobject_cast<const QProxyStyle *>(style);
+    return proxy ? proxy->baseStyle()->name() : style->name();
+}
+
 void applyWidgetStyle(const QString &name)
 {
-    static const QString first = QApplication::style()->name();
+    static const QString first = widgetStyleName();
     const QStringList keys = QStyleFactory::keys();
     const auto known = [&keys](const QString &key) { return keys.contains(key, Qt::CaseInsensitive); };
     const QString standard = Config().displayStyle;
     const QString key = known(name) ? name : known(standard) ? standard : first;
-    if (key.compare(QApplication::style()->name(), Qt::CaseInsensitive) == 0) {
+    const bool ours = qobject_cast<const QProxyStyle *>(QApplication::style()) != nullptr;
+    if (ours && key.compare(widgetStyleName(), Qt::CaseInsensitive) == 0) {
         return; // changing it costs a new layout of everything
     }
     if (QStyle *style = QStyleFactory::create(key)) {
-        QApplication::setStyle(style);
+        QApplication::setStyle(new FocusStyle(style));
     }
 }
 

@@ -11,6 +11,7 @@
 #include "ui/log_pane.h"
 #include "widgets/color_button.h"
 #include "widgets/field_form.h"
+#include "widgets/widget_style.h"
 
 #include <QAction>
 #include <QApplication>
@@ -112,7 +113,7 @@ void TestMainWindowSettings::sensorsAreLookedAfterWhileTheInputRuns()
 
 void TestMainWindowSettings::styleAppliesAtOnce()
 {
-    const QString before = QApplication::style()->name();
+    const QString before = widgetStyleName();
     const QStringList styles = QStyleFactory::keys();
     WindowFixture fixture;
     const auto window = fixture.makeWindow();
@@ -120,9 +121,9 @@ void TestMainWindowSettings::styleAppliesAtOnce()
     for (const QString &style : styles) {
         settings->findChild<QComboBox *>("displayStyle")->setCurrentText(style);
         QVERIFY(settings->apply());
-        QCOMPARE(QApplication::style()->name().toLower(), style.toLower());
+        QCOMPARE(widgetStyleName().toLower(), style.toLower());
     }
-    QApplication::setStyle(before);
+    applyWidgetStyle(before);
     QVERIFY(WindowFixture::close(*window));
 }
 
