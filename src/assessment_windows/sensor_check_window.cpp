@@ -115,6 +115,7 @@ void SensorCheckWindow::makeResults(QVBoxLayout *layout)
     m_figures->setSelectionMode(QAbstractItemView::NoSelection);
     m_figures->setFocusPolicy(Qt::NoFocus);
     auto *tabs = new QTabWidget;
+    tabs->setUsesScrollButtons(false); // all of them are to be seen
     for (const Chart chart :
         {Chart::DetectionMap, Chart::DetectionByRange, Chart::RangeErrors, Chart::AzimuthErrors, Chart::Rotation}) {
         m_charts += new ChartView(chart);

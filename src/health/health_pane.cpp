@@ -4,10 +4,13 @@
 #include "health/rate_curve_delegate.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 constexpr int Margin = 4; // pixels
@@ -44,17 +47,26 @@ void HealthPane::makeTable()
     m_table->setItemDelegateForColumn(SourceTableModel::Curve, new RateCurveDelegate(m_table));
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setTabKeyNavigation(false);
     m_table->setShowGrid(false);
     m_table->setFrameShape(QFrame::NoFrame);
     m_table->setWordWrap(false);
     m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
     QHeaderView *header = m_table->horizontalHeader();
     header->setHighlightSections(false);
     header->setStretchLastSection(true);
+    fitColumns();
+    connect(m_table, &QTableView::clicked, this, [this](const QModelIndex &index) { open(index.row()); });
+    connect(m_table, &QTableView::activated, this, [this](const QModelIndex &index) { open(index.row()); });
+}
+
+void HealthPane::fitColumns()
+{
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
     const QFontMetrics metrics = m_table->fontMetrics();
     const auto setWidth = [&](int column, const QString &widest) {
-        m_table->setColumnWidth(column, metrics.horizontalAdvance(widest) + 16);
+        const int title = m_table->horizontalHeader()->sectionSizeHint(column);
+        m_table->setColumnWidth(column, std::max(title, metrics.horizontalAdvance(widest) + 16));
     };
     setWidth(SourceTableModel::Source, "255/255 CAT240 oo");
     setWidth(SourceTableModel::Rate, "1000.0/s");
@@ -62,8 +74,15 @@ void HealthPane::makeTable()
     setWidth(SourceTableModel::Delay, "-10.0 s");
     setWidth(SourceTableModel::Shown, SourceTableModel::tr("Used") + " 1");
     setWidth(SourceTableModel::State, QCoreApplication::translate("SourceJudge", "silent since %1").arg("00:00:00"));
-    connect(m_table, &QTableView::clicked, this, [this](const QModelIndex &index) { open(index.row()); });
-    connect(m_table, &QTableView::activated, this, [this](const QModelIndex &index) { open(index.row()); });
+    setWidth(SourceTableModel::ColumnCount - 1, {}); // takes the rest, where there is any
+}
+
+void HealthPane::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        fitColumns();
+    }
 }
 
 void HealthPane::refresh()

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class InputHealth;
+class QEvent;
 class QLabel;
 class QTableView;
 
@@ -29,7 +30,11 @@ Q_SIGNALS:
     // The operator wants what the judgement of this source proposes.
     void cureRequested(const SourceHealth &source);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void fitColumns();
     void makeTable();
     void open(int row);
 

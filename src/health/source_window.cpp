@@ -61,8 +61,10 @@ SourceWindow::SourceWindow(QWidget *parent)
     m_figures->setTextFormat(Qt::PlainText);
     m_figures->setWordWrap(true);
     m_outcomes->setHorizontalHeaderLabels({tr("What became of its records"), tr("Records"), tr("Share")});
+    m_outcomes->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_outcomes->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_outcomes->verticalHeader()->hide();
+    m_outcomes->setTabKeyNavigation(false);
     m_outcomes->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_outcomes->setSelectionMode(QAbstractItemView::SingleSelection);
     m_outcomes->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -160,6 +162,7 @@ void SourceWindow::showExample()
     const ReportExample example = item
         ? m_source.statistics.examples[static_cast<std::size_t>(item->data(OutcomeRole).toInt())]
         : ReportExample();
+    m_octets->setVisible(!example.octets.isEmpty());
     if (example.octets.isEmpty()) {
         m_decoded->setPlainText(tr("No example is kept."));
         m_octets->clear();

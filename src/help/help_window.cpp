@@ -110,6 +110,7 @@ QWidget *HelpWindow::makeNavigation()
     m_search->setObjectName(QStringLiteral("search"));
     m_search->setPlaceholderText(tr("Search all pages (Ctrl+F)"));
     m_search->setAccessibleName(tr("Search all pages"));
+    m_search->setToolTip(m_search->placeholderText());
     m_search->setClearButtonEnabled(true);
     m_contents = new QTreeWidget(side);
     m_contents->setObjectName(QStringLiteral("contents"));

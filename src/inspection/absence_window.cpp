@@ -23,6 +23,7 @@ AbsenceWindow::AbsenceWindow(QWidget *parent) : GeometryDialog("absenceWindow", 
     m_text->setPlaceholderText(tr("Callsign, squawk, address or track number"));
     m_text->setClearButtonEnabled(true);
     m_text->setAccessibleName(m_text->placeholderText());
+    m_text->setMinimumWidth(m_text->fontMetrics().horizontalAdvance(m_text->placeholderText() + "MMM"));
     m_hint = makeQuietHint(tr("Type whom you miss, such as VYX123, 7000, 4B1A2C or #42."), this);
     auto *content = new QWidget(this);
     m_list = new QVBoxLayout(content);

@@ -36,8 +36,9 @@ MapEditorTreePane::MapEditorTreePane(MapEditorDocument *document, QWidget *paren
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    m_view->header()->resizeSection(MapEditorTreeModel::NameColumn, 190);
-    m_view->header()->resizeSection(MapEditorTreeModel::KindColumn, 70);
+    const int figure = fontMetrics().averageCharWidth();
+    m_view->header()->resizeSection(MapEditorTreeModel::NameColumn, 27 * figure);
+    m_view->header()->resizeSection(MapEditorTreeModel::KindColumn, 11 * figure);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_filter);
     layout->addWidget(m_view, 1);

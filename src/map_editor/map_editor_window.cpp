@@ -24,10 +24,13 @@
 #include <QToolBar>
 #include <QTreeView>
 
+#include <algorithm>
+
 namespace {
 
 const QString stateGroup = QStringLiteral("MapEditorWindow");
 constexpr int MessageMs = 8000;
+constexpr QSize UsualSize(1000, 640); // where that holds the tool bar
 
 } // namespace
 
@@ -45,7 +48,7 @@ MapEditorWindow::MapEditorWindow(QWidget *parent)
     makeAddMenu();
     makePlanMenu();
     connectPanes();
-    resize(1000, 640);
+    resize(std::max(UsualSize.width(), m_toolBar->sizeHint().width()), UsualSize.height());
     restoreGeometry(UiState::geometry(stateGroup));
     updateTitle();
     updateState();
@@ -60,6 +63,7 @@ MapEditorWindow::~MapEditorWindow()
 
 void MapEditorWindow::buildLayout()
 {
+    m_tabs->setDocumentMode(true); // on the ground of the window, like everything else
     m_tabs->addTab(m_element, tr("Element"));
     m_tabs->addTab(m_meta, tr("Map"));
     m_tabs->addTab(m_style, tr("Styles"));

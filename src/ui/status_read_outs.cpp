@@ -13,9 +13,35 @@
 #include <cmath>
 
 namespace {
+
 constexpr auto RecordedLook = "color: black; background-color: #e0a030";
 constexpr int OtherWidth = 130; // pixels of the bar for what stands left of the read-outs
 constexpr int Spacing = 6; // of the bar between two of them
+
+// As wide as its widest text is in the font of the moment, so that nothing jumps.
+class ReadOut final : public QLabel {
+public:
+    ReadOut(const QString &widestText, QWidget *parent) : QLabel(parent), m_widestText(widestText)
+    {
+        setFont(figureFont());
+        fit();
+    }
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        QLabel::changeEvent(event);
+        if (event->type() == QEvent::FontChange) {
+            fit();
+        }
+    }
+
+private:
+    void fit() { setFixedWidth(fontMetrics().horizontalAdvance(m_widestText) + 8); }
+
+    const QString m_widestText;
+};
+
 } // namespace
 
 StatusReadOuts::StatusReadOuts(QStatusBar *bar, Projector *projector)
@@ -67,10 +93,8 @@ void StatusReadOuts::makeRoom()
 
 QLabel *StatusReadOuts::addReadOut(QStatusBar *bar, const QString &widestText, const QString &toolTip)
 {
-    auto *label = new QLabel(bar);
-    label->setFont(figureFont());
+    auto *label = new ReadOut(widestText, bar);
     label->setAlignment(Qt::AlignCenter);
-    label->setFixedWidth(QFontMetrics(label->font()).horizontalAdvance(widestText) + 8);
     label->setToolTip(toolTip);
     label->setTextFormat(Qt::PlainText);
     bar->addPermanentWidget(label);

@@ -86,7 +86,7 @@ private Q_SLOTS:
     {
         for (const int beyond : {-30, 0, 5, 60}) { // pixels that the aircraft is right of the edge
             Scope scope;
-            scope.show({aircraft(1, {PaintedView::Size / 2.0 + beyond, 0})});
+            scope.show({flightAt({PaintedView::Size / 2.0 + beyond, 0})});
             PaintedView view(1.0);
             scope.paint(view, 2);
             QVERIFY(scope.rect(1).isNull() || view.image().rect().contains(scope.rect(1)));
