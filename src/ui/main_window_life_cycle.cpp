@@ -3,10 +3,12 @@
 #include "airdb/lib_air_db.h"
 #include "app/app_paths.h"
 #include "app/ui_state.h"
+#include "display/geo_map_display.h"
 #include "display/geo_track_display.h"
 #include "engine/data_engine.h"
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
+#include "radar_painting/geo_weather_map.h"
 #include "second_view/second_views.h"
 #include "sensors/sensor_manager.h"
 #include "ui/actions.h"
@@ -35,6 +37,16 @@ namespace {
 constexpr double WidestLists = 0.3;
 constexpr auto ArrangementKey = "windowState";
 constexpr auto TrackFormatKey = "trackDisplayFormat";
+constexpr auto WeatherLevelsKey = "weatherLevelsOff";
+
+QByteArray levelsOff(const GeoWeatherMap &weather)
+{
+    QByteArray digits;
+    for (int level = 0; level < GeoWeatherMap::LevelCount; ++level) {
+        digits += weather.levelVisible(level) ? QByteArray() : QByteArray::number(level);
+    }
+    return digits;
+}
 
 } // namespace
 
@@ -74,6 +86,9 @@ void MainWindow::loadUiState(const QSize &size)
     m_workplace->begin();
     m_lists->restore(group);
     m_themes->restoreFormat(UiState::value(group, TrackFormatKey));
+    for (const char level : UiState::value(group, WeatherLevelsKey)) {
+        m_mapDisplay->weatherMap()->setLevelVisible(level - '0', false);
+    }
 }
 
 void MainWindow::saveUiState() const
@@ -85,6 +100,7 @@ void MainWindow::saveUiState() const
     UiState::saveValue(group, ArrangementKey, m_workplace->arrangement());
     m_lists->save(group);
     UiState::saveValue(group, TrackFormatKey, m_themes->formatToStore());
+    UiState::saveValue(group, WeatherLevelsKey, levelsOff(*m_mapDisplay->weatherMap()));
     if (!m_config.onTrial()) {
         m_home->save(group);
     }
