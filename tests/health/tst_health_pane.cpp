@@ -129,8 +129,8 @@ void TestHealthPane::examples_data()
     malformed.faultOffset = 1;
     QTest::newRow("squitter") << Form::ModeS << 0 << QByteArray() << example("8d4840d6202cc371c32ce0576098")
                               << "KLM1023";
-    QTest::newRow("radar plot") << Form::AleniaSirM << 0 << QByteArray() << example("0042 0500 4000 0e40 0000 0000")
-                                << "10 km";
+    QTest::newRow("radar plot") << Form::AleniaSirM << 0 << QByteArray()
+                                << example("0207 0018 05265bff 8001 01 00 0042 0500 4000 0e40 0000 0000") << "10 km";
     QTest::newRow("malformed") << Form::Asterix << 48 << QByteArray("1.32") << malformed
                                << "item overruns the record, at octet 1";
 }
