@@ -7,7 +7,6 @@
 #include "widgets/field_form.h"
 
 #include <QCompleter>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -159,31 +158,21 @@ void DisplayConfigPage::addLanguageRow()
             language->setCurrentIndex(language->findData(code));
         },
         [language] { return std::optional(language->currentData().toString()); });
-    auto *restart = makeRestartRow();
-    restart->hide();
-    form()->addField(restart);
-    connect(language, &QComboBox::currentIndexChanged, this,
-        [this, language, restart] { restart->setVisible(language->currentData().toString() != m_spokenLanguage); });
-}
-
-QWidget *DisplayConfigPage::makeRestartRow()
-{
-    auto *row = new QWidget;
-    row->setObjectName("languageNote");
     auto *note = new QLabel(tr("The new language is spoken from the next start on."));
-    note->setWordWrap(true);
-    auto *button = new QPushButton(tr("&Restart Now"));
-    button->setObjectName("restartNow");
-    button->setAutoDefault(false);
-    button->setToolTip(
+    note->setObjectName("languageNote");
+    auto *restart = new QPushButton(tr("&Restart Now"));
+    restart->setObjectName("restartNow");
+    restart->setAutoDefault(false);
+    restart->setToolTip(
         tr("Applies the settings, closes the program and starts it again as it was started. A live input "
            "that is running is opened again."));
-    auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins({});
-    layout->addWidget(note, 1);
-    layout->addWidget(button);
-    connect(button, &QPushButton::clicked, this, &DisplayConfigPage::restartWanted);
-    return row;
+    connect(restart, &QPushButton::clicked, this, &DisplayConfigPage::restartWanted);
+    for (QWidget *row : QList<QWidget *>{note, restart}) {
+        row->hide();
+        form()->addField(row);
+        connect(language, &QComboBox::currentIndexChanged, row,
+            [this, language, row] { row->setVisible(language->currentData().toString() != m_spokenLanguage); });
+    }
 }
 
 QString DisplayConfigPage::timeZoneProblem() const

@@ -25,7 +25,6 @@ private:
     void addPlanViewRows();
     void addWindowRows();
     void addLanguageRow();
-    QWidget *makeRestartRow();
     void addLogFileRows();
     void addLockRow();
     QString timeZoneProblem() const;

@@ -280,6 +280,7 @@ private:
 
     // Life cycle.
     void loadUiState(const QSize &size);
+    void bringInFront();
     void saveUiState() const;
     void arrangeDocks();
     void connectWorkplace();

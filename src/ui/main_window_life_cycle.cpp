@@ -30,6 +30,7 @@
 #include <QLayout>
 #include <QMessageBox>
 #include <QScreen>
+#include <QWindow>
 
 namespace {
 
@@ -61,12 +62,25 @@ void MainWindow::loadUi(const QSize &size)
     m_mapWindows->load(config());
     m_views->restore();
     if (!m_views->windows().empty()) {
-        activateWindow(); // the others came later
-    }
-    for (const auto &view : m_views->windows()) {
-        view->raise(); // none is forgotten behind this one
+        bringInFront();
     }
     m_geoWidget->setFocus();
+}
+
+// The other views came later. None of them is forgotten behind this window, which the window system puts in front when
+// it gives it the keyboard.
+void MainWindow::bringInFront()
+{
+    auto *once = new QObject(this);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, once, [this, once](const QWindow *window) {
+        if (window && window == windowHandle()) {
+            for (const auto &view : m_views->windows()) {
+                view->raise();
+            }
+            once->deleteLater();
+        }
+    });
+    activateWindow();
 }
 
 void MainWindow::loadUiState(const QSize &size)

@@ -175,7 +175,7 @@ void TestMainWindowSettings::anotherLanguageComesWithARestart()
         auto *language = settings->findChild<QComboBox *>("displayLanguage");
         auto *now = settings->findChild<QPushButton *>("restartNow");
         QVERIFY(!now->isVisible());
-        language->setCurrentIndex(language->findData("de"));
+        language->setCurrentIndex(language->findData(QString())); // the system's
         QVERIFY(now->isVisible());
         now->click();
         QTRY_COMPARE(ended.size(), 1);
@@ -183,7 +183,7 @@ void TestMainWindowSettings::anotherLanguageComesWithARestart()
             window->afterwards() == (running ? MainWindow::Afterwards::StartWithInput : MainWindow::Afterwards::Start));
         Config stored;
         stored.load(AppPaths::configFile());
-        QCOMPARE(stored.displayLanguage, QString("de"));
+        QCOMPARE(stored.displayLanguage, QString());
     }
 }
 
