@@ -4,6 +4,7 @@
 #include <QDirIterator>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -100,7 +101,12 @@ void TileDiskCache::startWriting()
         }
         return true;
     };
-    m_writing.start(write, [this](bool) { startWriting(); });
+    m_writing.start(write, [this](bool) {
+        for (const QUrl &url : std::exchange(m_removed, {})) {
+            QNetworkDiskCache::remove(url);
+        }
+        startWriting();
+    });
 }
 
 // An answer that is given up half way is removed by its address.
@@ -108,6 +114,9 @@ bool TileDiskCache::remove(const QUrl &url)
 {
     const auto arriving = m_arriving.removeIf([&url](const auto &entry) { return entry.value().second.url() == url; });
     const auto waiting = m_toWrite.removeIf([&url](const Answer &answer) { return answer.metaData.url() == url; });
+    if (m_writing.running()) {
+        m_removed.append(url);
+    }
     return QNetworkDiskCache::remove(url) || arriving + waiting > 0;
 }
 

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QList>
 #include <QNetworkDiskCache>
+#include <QUrl>
 
 #include <memory>
 
@@ -40,6 +41,7 @@ private:
 
     QHash<QIODevice *, std::pair<std::shared_ptr<QBuffer>, QNetworkCacheMetaData>> m_arriving;
     QList<Answer> m_toWrite;
+    QList<QUrl> m_removed; // while answers were being written, perhaps theirs
     int m_stored = 0; // answers
     BackgroundPass m_writing;
     BackgroundPass m_shrinking;

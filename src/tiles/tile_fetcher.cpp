@@ -255,8 +255,10 @@ void TileFetcher::finish(const TileIndex &index, QNetworkReply *reply)
         return;
     }
     const TileAnswer answer = TileAnswer::of(reply);
+    if (answer.kind == TileAnswer::ServiceError) {
+        forgetCached(reply->url());
+    }
     if (answer.fromCache && answer.kind == TileAnswer::ServiceError) {
-        forgetCached(index);
         send(index, true); // what the cache holds was damaged
         return;
     }
@@ -370,7 +372,7 @@ void TileFetcher::reject(const TileIndex &index, const QString &reason)
     TileAnswer answer;
     answer.kind = TileAnswer::ServiceError;
     answer.reason = reason;
-    forgetCached(index);
+    forgetCached(m_request.url(index));
     complain(answer.message(), false);
     markUnavailable(index, answer);
 }
@@ -437,10 +439,10 @@ void TileFetcher::clearCache()
     }
 }
 
-void TileFetcher::forgetCached(const TileIndex &index)
+void TileFetcher::forgetCached(const QUrl &url)
 {
     if (QAbstractNetworkCache *cache = network().cache()) {
-        cache->remove(m_request.url(index));
+        cache->remove(url);
     }
 }
 

@@ -105,7 +105,7 @@ private:
     QNetworkAccessManager &network();
     double distance(const TileIndex &index) const; // squared, or a rank where there is no centre
     void forget(const InFlight &request);
-    void forgetCached(const TileIndex &index);
+    void forgetCached(const QUrl &url);
     void send(const TileIndex &index, bool pastCache);
     void get(const TileIndex &index, const QUrl &url, bool pastCache, const InFlight &before);
     void finish(const TileIndex &index, QNetworkReply *reply);
