@@ -82,12 +82,13 @@ bool StatusReadOuts::eventFilter(QObject *watched, QEvent *event)
 void StatusReadOuts::makeRoom()
 {
     int room = m_bar->width() - OtherWidth;
-    for (const QLabel *kept : {m_alerts[0], m_alerts[1], m_alerts[2], m_netsMark, m_localClock, m_utcClock}) {
+    for (const QLabel *kept : {m_alerts[0], m_alerts[1], m_alerts[2], m_netsMark, m_utcClock}) {
         room -= kept->isHidden() ? 0 : kept->width() + Spacing;
     }
-    for (QLabel *readOut : {m_cursor, m_fromSensor, m_scale, m_rotation}) {
-        room -= readOut->width() + Spacing;
-        readOut->setVisible(room >= 0);
+    for (QLabel *readOut : {m_localClock, m_cursor, m_fromSensor, m_scale, m_rotation}) {
+        const bool wanted = readOut != m_localClock || m_ownZone;
+        room -= wanted ? readOut->width() + Spacing : 0;
+        readOut->setVisible(wanted && room >= 0);
     }
 }
 
@@ -151,9 +152,9 @@ void StatusReadOuts::setTimeZone(const QString &name)
 {
     m_systemZone = name == "LCL";
     m_zone = m_systemZone ? QTimeZone::systemTimeZone() : QTimeZone(name.toUtf8());
-    const bool ownZone = m_systemZone || (m_zone.isValid() && !m_zone.id().endsWith("UTC"));
-    m_localClock->setVisible(ownZone);
-    m_localClock->setToolTip(ownZone ? tr("Local time, %1").arg(QString::fromUtf8(m_zone.id())) : QString());
+    m_ownZone = m_systemZone || (m_zone.isValid() && !m_zone.id().endsWith("UTC"));
+    m_localClock->setVisible(m_ownZone);
+    m_localClock->setToolTip(m_ownZone ? tr("Local time, %1").arg(QString::fromUtf8(m_zone.id())) : QString());
 }
 
 void StatusReadOuts::showTime(const QDateTime &now)
@@ -170,7 +171,7 @@ void StatusReadOuts::showRecordedTime(const QDateTime &time)
 void StatusReadOuts::showClocks(
     const QDateTime &time, const QString &utcPattern, const QString &utcToolTip, const QString &look)
 {
-    if (!m_localClock->isHidden()) {
+    if (m_ownZone) {
         m_localClock->setText(tr("%1 %2").arg(zoneLabel(time), time.toTimeZone(m_zone).toString("HH:mm:ss")));
     }
     m_utcClock->setText(time.toUTC().toString(utcPattern));

@@ -13,7 +13,7 @@ class QStatusBar;
 
 // The read-outs at the right of the status bar: cursor position and where it lies from the sensor, scale, rotation,
 // alert indicators and clock. Each is as wide as its widest text, so that nothing moves when a figure changes. What a
-// narrow bar has no room for is left out: rotation first, then scale and the pointer's place.
+// narrow bar has no room for is left out: rotation first, then scale, the pointer's place and local time.
 class StatusReadOuts final : public QObject {
     Q_OBJECT
 
@@ -63,6 +63,7 @@ private:
     GeoCoordinate m_sensorPlace;
     QTimeZone m_zone;
     bool m_systemZone = false;
+    bool m_ownZone = false; // beside UTC
     QLabel *m_cursor;
     QLabel *m_fromSensor;
     QLabel *m_scale;
