@@ -150,9 +150,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("lines");
         QTest::addColumn<QString>("why");
-        const auto row = [](const char *lines, const char *why) {
-            QTest::newRow(lines) << lines << why;
-        };
+        const auto row = [](const char *lines, const char *why) { QTest::newRow(lines) << lines << why; };
         row(Plot, "");
         row("48 040/RHO=5", "the plot layer shows them");
         row("48 070/MODE3A=512", "so they make no tracks.");
