@@ -70,6 +70,7 @@ void InputHealth::take(const InputStatistics &statistics)
 {
     m_basis.nowMs = statistics.timeMs;
     m_basis.live = !statistics.recordedTime;
+    m_basis.inputSilent = m_silence.level() == Level::Silent;
     const QList<SourceWatch::Line> lines = m_sources.take(statistics, m_basis);
     m_silence.setMeasuredPeriod(m_sources.measuredPeriod());
     if (m_silence.level() == Level::Heard) { // else one line has said it for all

@@ -93,7 +93,9 @@ QString Advice::ofTrouble() const
 {
     switch (m_judgement.trouble) {
     case Trouble::Silent:
-        return tr("Nothing has come for three of its periods: check the source and the line to it.");
+        return m_basis.inputSilent
+            ? tr("Nothing arrives from any source: check the sender and the line.")
+            : tr("Nothing has come for three of its periods: check the source and the line to it.");
     case Trouble::CategorySilent:
         return tr("The source is alive, but these reports have stopped.");
     case Trouble::Late:

@@ -40,14 +40,6 @@ public:
     static QString stateText(Trouble trouble, const SourceStatistics &source, const JudgementBasis &basis);
 };
 
-// Whether it sends all the time: targets, video and the antenna's way, unlike pictures, alerts and states.
-bool isSteady(const SourceStatistics &source)
-{
-    constexpr std::array Steady{1, 2, 10, 20, 21, 34, 48, 62, 240};
-    return source.form != TakenReport::Form::Asterix
-        || std::find(Steady.begin(), Steady.end(), source.category) != Steady.end();
-}
-
 // Seconds from one record to the next, on average; 0 where there is but one.
 double spacing(const SourceStatistics &source)
 {
@@ -123,10 +115,11 @@ Trouble Judge::troubleOf(const SourceStatistics &source, const JudgementBasis &b
         return static_cast<double>(basis.nowMs - std::max(heardMs, source.lastArrivalMs)) / 1000.0;
     };
     const double patience = SourceJudge::patience(source);
-    if (secondsSince(basis.stationHeardMs) >= patience) {
+    // Of what comes now and then nobody could tell by itself.
+    if (basis.inputSilent || secondsSince(basis.stationHeardMs) >= patience) {
         return Trouble::Silent;
     }
-    if (!isSteady(source)) {
+    if (!SourceJudge::isSteady(source)) {
         return isUnused(source) ? Trouble::Unused : Trouble::None;
     }
     if (secondsSince(basis.categoryHeardMs) >= std::max(patience, ReportsMissed * spacing(source))) {
@@ -204,6 +197,13 @@ QString SourceJudge::nameOf(const SourceStatistics &source)
         source.identified ? QStringLiteral("%1/%2").arg(source.sac).arg(source.sic) : Judge::unidentified();
     const QString name = QStringLiteral("%1 CAT%2").arg(station).arg(source.category, 3, 10, QLatin1Char('0'));
     return source.endpoint > 0 ? Judge::onEndpoint().arg(name).arg(source.endpoint + 1) : name;
+}
+
+bool SourceJudge::isSteady(const SourceStatistics &source)
+{
+    constexpr std::array Steady{1, 2, 10, 20, 21, 34, 48, 62, 240};
+    return source.form != TakenReport::Form::Asterix
+        || std::find(Steady.begin(), Steady.end(), source.category) != Steady.end();
 }
 
 bool SourceJudge::bringsTargets(const SourceStatistics &source)

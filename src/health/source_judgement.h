@@ -15,6 +15,7 @@ struct JudgementBasis {
     SensorType sensorKind = UnknownSensor; // as configured
     quint8 sensorSac = 0;
     quint8 sensorSic = 0;
+    bool inputSilent = false; // nothing arrives any more, from whichever source
     bool plotsShown = false;
     // When the same SAC/SIC last sent anything at this endpoint, of whatever category and edition; 0: as this one.
     qint64 stationHeardMs = 0;
@@ -62,6 +63,8 @@ SourceJudgement judge(const SourceStatistics &source, const JudgementBasis &basi
 // The basis of this source among all of the input: when its station and its category were heard last.
 JudgementBasis basisFor(const SourceStatistics &source, const InputStatistics &input, JudgementBasis basis);
 
+// Whether it sends all the time: targets, video and the antenna's way, unlike pictures, alerts and states.
+bool isSteady(const SourceStatistics &source);
 // Whether it brings what stands on the scope: tracks, plots, weather or video.
 bool bringsTargets(const SourceStatistics &source);
 // After so many seconds without a record the source is silent.

@@ -15,6 +15,12 @@ QString clockTime(qint64 ms)
     return QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC).toString(QStringLiteral("HH:mm:ss"));
 }
 
+// What belongs to now: the time of a weather picture is that of its beginning.
+bool isMissedWhenLate(const SourceStatistics &source)
+{
+    return SourceJudge::bringsTargets(source) && SourceJudge::isSteady(source);
+}
+
 } // namespace
 
 QList<SourceWatch::Line> SourceWatch::take(const InputStatistics &input, const JudgementBasis &basis)
@@ -24,7 +30,7 @@ QList<SourceWatch::Line> SourceWatch::take(const InputStatistics &input, const J
     judge(basis);
     noteLosses();
     QList<Line> lines;
-    if (basis.expecting) {
+    if (basis.expecting && !basis.inputSilent) { // else no single source is to blame
         noteSilence(lines);
         noteLateness(lines);
     }
@@ -76,7 +82,7 @@ void SourceWatch::noteLateness(QList<Line> &lines)
             continue;
         }
         m_late[name] = delay.median;
-        if (!wasLate && SourceJudge::bringsTargets(source.statistics)) {
+        if (!wasLate && isMissedWhenLate(source.statistics)) {
             lines.append({LogLevel::Warning,
                 tr("The reports of %1 arrive %2 after their time of day.")
                     .arg(name, SourceJudge::delayText(delay.median))});
@@ -139,7 +145,7 @@ std::optional<HealthNotice> SourceWatch::lateNotice() const
     QString name;
     for (const SourceHealth &source : m_sources) {
         const double delay = m_late.value(SourceJudge::nameOf(source.statistics));
-        if (SourceJudge::bringsTargets(source.statistics) && delay > latest) {
+        if (isMissedWhenLate(source.statistics) && delay > latest) {
             latest = delay;
             name = SourceJudge::nameOf(source.statistics);
         }

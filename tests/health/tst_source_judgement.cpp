@@ -59,6 +59,10 @@ void TestSourceJudgement::lights_data()
     };
     usual("a weather picture now and then", [weather](MadeSource &m) { weather(m.silentFor(59.0)); });
     silent("and no more weather", "07:58:59", [weather](MadeSource &m) { weather(m.silentFor(61.0)); });
+    silent("no weather, nor anything else", "07:59:40", [weather](MadeSource &m) {
+        weather(m.silentFor(20.0));
+        m.basis.inputSilent = true;
+    });
     usual("pauses are its habit", [](MadeSource &m) {
         for (std::size_t i = 0; i < 24; ++i) {
             m.silentFor(60.0).source.history[2 + i / 6 * 14 + i % 6] = 0; // four times a minute

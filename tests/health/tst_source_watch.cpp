@@ -96,6 +96,9 @@ void TestSourceWatch::lateness()
         QVERIFY(scene.take({late(delay)}).isEmpty());
         QCOMPARE(scene.watch.notice().has_value(), said);
     }
+    MadeSource weather = late(20.0); // its time is that of the picture's beginning
+    weather.become(ReportOutcome::Weather, 6000).source.category = 8;
+    QVERIFY(scene.take({weather}).isEmpty() && !scene.watch.notice());
     QCOMPARE(scene.take({late(3.1)}).size(), 1);
     scene.basis.live = false; // recorded on another day
     scene.take({late(4.0)});
