@@ -18,7 +18,7 @@ constexpr int ButtonHeight = 2; // lines of text
 
 } // namespace
 
-WelcomePage::WelcomePage(QWidget *parent) : QWidget(parent), m_theme(new QComboBox(this))
+WelcomePage::WelcomePage(QWidget *parent) : QWidget(parent), m_theme(new QComboBox)
 {
     auto *heading = new QLabel(tr("What do you want to see?"), this);
     QFont large = heading->font();

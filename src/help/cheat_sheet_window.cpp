@@ -34,7 +34,6 @@ CheatSheetWindow::CheatSheetWindow(const QMenuBar &menus, QWidget *parent)
     m_search->setPlaceholderText(tr("Search all commands, also those without a key"));
     m_search->setAccessibleName(tr("Search"));
     m_search->setClearButtonEnabled(true);
-    m_text->setFrameShape(QFrame::NoFrame);
     m_text->setAccessibleName(tr("Keys and mouse gestures"));
     connect(m_search, &QLineEdit::textChanged, this, &CheatSheetWindow::showRows);
 

@@ -30,7 +30,6 @@ AbsenceWindow::AbsenceWindow(QWidget *parent) : GeometryDialog("absenceWindow", 
     m_list->addStretch(1);
     auto *scroll = new QScrollArea(this);
     scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setWidget(content);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);

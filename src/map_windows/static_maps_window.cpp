@@ -154,8 +154,9 @@ void StaticMapsWindow::makeLayout()
 
     auto *style = new QHBoxLayout;
     style->addWidget(m_styleLabel, 1);
-    connect(addButton(style, tr("S&tyle Sheet..."), QStringLiteral("styleButton")), &QPushButton::clicked, this,
-        &StaticMapsWindow::chooseStyleSheet);
+    QPushButton *choose = addButton(style, tr("S&tyle Sheet..."), QStringLiteral("styleButton"));
+    connect(choose, &QPushButton::clicked, this, &StaticMapsWindow::chooseStyleSheet);
+    setTabOrder(choose, m_table);
     auto *left = new QVBoxLayout;
     left->addWidget(m_table, 1);
     left->addWidget(m_details);

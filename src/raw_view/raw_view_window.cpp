@@ -205,6 +205,7 @@ QWidget *RawViewWindow::makeDetails()
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidget(m_octets);
+    area->setFocusPolicy(Qt::NoFocus); // it follows what is chosen in the tree
     auto *halves = new QSplitter(Qt::Horizontal, details);
     halves->addWidget(m_tree);
     halves->addWidget(area);

@@ -45,7 +45,6 @@ RecordTree::RecordTree(QWidget *parent) : QTreeWidget(parent)
     setObjectName("recordTree");
     setAccessibleName(tr("Items of the record"));
     setHeaderLabels({tr("Item"), tr("Value"), tr("Meaning")});
-    setFrameShape(NoFrame);
     setUniformRowHeights(true);
     setMouseTracking(true);
     const QFontMetrics figures(figureFont());

@@ -17,7 +17,7 @@ constexpr double UsualPeriod = 4.0;
 
 SensorSiteWindow::SensorSiteWindow(const QString &sensorName, bool periodMissing, QWidget *parent)
     : QDialog(parent), m_form(new FieldForm(this)), m_site(new CoordinateEdit(GeoCoordinate::HighPrecision)),
-      m_name(new QLineEdit(sensorName)), m_period(new QDoubleSpinBox(this))
+      m_name(new QLineEdit(sensorName)), m_period(new QDoubleSpinBox)
 {
     setWindowTitle(tr("Where Does %1 Stand?").arg(sensorName));
     m_site->setObjectName("site");
@@ -31,6 +31,7 @@ SensorSiteWindow::SensorSiteWindow(const QString &sensorName, bool periodMissing
     if (periodMissing) {
         m_form->addField(tr("&Rotation period:"), m_period);
     } else {
+        m_period->setParent(this);
         m_period->hide();
     }
     layOutDialog(this, m_form, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);

@@ -42,13 +42,10 @@ WeatherIntensityWindow::WeatherIntensityWindow(GeoWeatherMap *weather, QWidget *
     grid->setHorizontalSpacing(24);
     grid->setColumnStretch(0, 1);
     // The strongest on top, as on the scale beside a weather picture.
-    for (int level = 0; level < GeoWeatherMap::LevelCount; ++level) {
+    for (int level = GeoWeatherMap::LevelCount - 1; level >= 0; --level) {
         addLevel(level);
-        grid->addWidget(m_levels[level].box, GeoWeatherMap::LevelCount - level, 0);
-        grid->addWidget(m_levels[level].count, GeoWeatherMap::LevelCount - level, 1);
-    }
-    for (int level = GeoWeatherMap::LevelCount - 1; level > 0; --level) {
-        setTabOrder(m_levels[level].box, m_levels[level - 1].box);
+        grid->addWidget(m_levels.first().box, GeoWeatherMap::LevelCount - level, 0);
+        grid->addWidget(m_levels.first().count, GeoWeatherMap::LevelCount - level, 1);
     }
     auto *buttons = layOutDialog(this, levels, QDialogButtonBox::Close);
     const auto addButton = [this, buttons](const QString &text, bool visible) {
@@ -73,7 +70,7 @@ void WeatherIntensityWindow::addLevel(int level)
     count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     count->setMinimumWidth(count->fontMetrics().horizontalAdvance(QStringLiteral("00000")));
     count->setToolTip(tr("Vectors of this level in the picture"));
-    m_levels.append({box, count});
+    m_levels.prepend({box, count});
 }
 
 void WeatherIntensityWindow::refresh()

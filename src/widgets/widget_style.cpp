@@ -54,13 +54,21 @@ public:
         ControlElement element, const QStyleOption *option, QPainter *painter, const QWidget *widget) const override
     {
         QProxyStyle::drawControl(element, option, painter, widget);
-        if (element == CE_ShapedFrame && option && (option->state & State_HasFocus)
-            && qobject_cast<const QAbstractScrollArea *>(widget) && comesByKeys(*option, widget)) {
-            drawFrame(painter, option->rect, option->palette.color(QPalette::Link));
+        if (!option || !(option->state & State_HasFocus) || !comesByKeys(*option, widget)) {
+            return;
+        }
+        const QColor color = option->palette.color(QPalette::Link);
+        if (element == CE_ShapedFrame && qobject_cast<const QAbstractScrollArea *>(widget)) {
+            drawFrame(painter, option->rect, color);
+        } else if (element == CE_PushButton || element == CE_TabBarTab) {
+            // A default button looks as if it had it.
+            drawFrame(painter, option->rect.adjusted(FocusInset, FocusInset, -FocusInset, -FocusInset), color);
         }
     }
 
 private:
+    static constexpr int FocusInset = 3; // pixels
+
     // Views of items claim it for their items after a click too.
     static bool comesByKeys(const QStyleOption &option, const QWidget *widget)
     {
