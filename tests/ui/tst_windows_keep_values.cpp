@@ -16,6 +16,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QDoubleSpinBox>
+#include <QFileInfo>
 #include <QFontComboBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -155,7 +156,7 @@ void TestWindowsKeepValues::fieldsComeBack_data()
     QTest::addColumn<QStringList>("kept");
     QTest::addColumn<int>("atLeast"); // so many fields are different
     const QStringList deciding{"displayTheme", "displayStyle", "displayLanguage", "displayFontScale", "inputComm",
-        "sensorType", "sensorFromFile", "processorType"};
+        "sensorType", "sensorFromFile", "processorType", "differingOnly", "mapWeatherColor%1"};
     QTest::newRow("settings") << int(ActionId::Settings) << deciding << 20;
     QTest::newRow("track label format") << int(ActionId::TrackLabelFormat) << QStringList() << 7;
     QTest::newRow("range rings") << int(ActionId::RangeRings) << QStringList() << 3;
@@ -232,7 +233,7 @@ void TestWindowsKeepValues::placesComeBack()
 void TestWindowsKeepValues::sensorsComeBack()
 {
     const WindowFixture fixture;
-    const QString file = QDir(AppPaths::configFile() + "/..").filePath("sensors.json");
+    const QString file = QFileInfo(AppPaths::configFile()).dir().filePath("sensors.json");
     const auto withFile = [&file](Config &config) { config.sensorDatabase = file; };
     {
         const auto window = WindowFixture::makeWindow(withFile);

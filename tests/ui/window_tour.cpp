@@ -1,10 +1,10 @@
 #include "window_tour.h"
 
 #include "health/source_window.h"
+#include "lists/list_view.h"
 #include "made_source.h"
 #include "map_windows/map_import_window.h"
 #include "played_scenario.h"
-#include "sensors/sensor_info.h"
 #include "sensors/sensor_manager.h"
 #include "settings/config_window.h"
 #include "settings/password_window.h"
@@ -24,6 +24,8 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QUdpSocket>
+
+#include <algorithm>
 
 namespace {
 
@@ -87,8 +89,9 @@ bool WindowTour::fillScope()
             socket.writeDatagram(datagram, QHostAddress::LocalHost, m_port);
         }
     }
-    return QTest::qWaitFor(
-        [this] { return m_window.newestSnapshot() && m_window.newestSnapshot()->tracks.size() >= 3; }, 3000);
+    const auto lists = m_window.findChildren<ListView *>();
+    const auto hasTracks = [](const ListView *list) { return list->model()->rowCount() >= 3; };
+    return QTest::qWaitFor([&] { return std::any_of(lists.begin(), lists.end(), hasTracks); }, 5000);
 }
 
 void WindowTour::run(const Visit &visit)
@@ -149,10 +152,8 @@ void WindowTour::visitActions()
 void WindowTour::visitDialogsOfDialogs()
 {
     const SensorManager sensors;
-    for (const auto type : {RadarSensor, AdsbSensor, MlatSensor, SdpsSensor, SmrSensor}) {
-        SensorEditWindow edit(SensorInfo::create(type), &sensors, &m_window);
-        visitDialog(QStringLiteral("SensorEditWindow, ") + SensorInfo::typeToString(type), &edit);
-    }
+    SensorEditWindow edit(nullptr, &sensors, &m_window);
+    visitDialog("SensorEditWindow", &edit);
     SensorSiteWindow site("TEST", true, &m_window);
     visitDialog("SensorSiteWindow", &site);
     PasswordWindow password(true, &m_window);
