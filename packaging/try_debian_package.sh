@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs the packages that make_debian_package.sh made in a Debian that has nothing else, and uses them there: the
-# terminal with the demonstration, as an ordinary user without a screen; manual pages and completions; a program of
-# somebody else's against the libraries. Needs root and the mirror of /etc/apt; leaves nothing behind but the screenshot.
+# terminal with the demonstration, as an ordinary user without a screen; manual pages and completions; the service, by
+# hand and under a service manager in a container; a program of somebody else's against the libraries. Needs root and the mirror of /etc/apt; leaves nothing behind but the screenshot.
 #     packaging/try_debian_package.sh [SUITE]      # bookworm
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -57,6 +57,23 @@ inside install -d -o vyxdisplay -g vyxdisplay /var/lib/vyxdisplay
 inside setpriv --reuid vyxdisplay --regid vyxdisplay --init-groups env HOME=/var/lib/vyxdisplay \
     vyxdisplay --headless --exit-after 5 --snapshot /var/lib/vyxdisplay/snapshot.json
 inside test -s /var/lib/vyxdisplay/snapshot.json
+
+step "The service, under its manager with all restrictions of the unit"
+inside sh -c 'apt-get install -y -qq -o Dpkg::Use-Pty=0 --no-install-recommends systemd-sysv dbus' >/dev/null
+cat > "$root/etc/systemd/system/ask.service" <<'END'
+[Unit]
+After=vyxdisplay.service
+[Service]
+ExecStart=/bin/sh -c 'vyxdisplay --ask /run/vyxdisplay/control status >/var/answer.json 2>&1; systemctl --no-block poweroff'
+[Install]
+WantedBy=multi-user.target
+END
+inside systemctl enable --quiet vyxdisplay ask
+umount "$root/proc"
+timeout 120 systemd-nspawn --quiet --directory "$root" --register=no --keep-unit --boot </dev/null >/dev/null
+mount -t proc proc "$root/proc"
+grep -q '"ok":true' "$root/var/answer.json" || { echo "The service does not answer: $(cat "$root/var/answer.json")" >&2; exit 1; }
+rm "$root/var/answer.json" "$root/etc/systemd/system/ask.service"
 
 step "The libraries"
 inside sh -c 'apt-get install -y -qq -o Dpkg::Use-Pty=0 --no-install-recommends /packages/libkorvane-dev_*.deb \
