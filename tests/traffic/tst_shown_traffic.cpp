@@ -224,7 +224,7 @@ private Q_SLOTS:
         for (const auto &[kind, more, coasting, ends] : kinds) {
             ScenarioRig rig(scenario(kind, more));
             std::set<QDateTime> coasted;
-            rig.play(ShortEnds + 5, [&](const QByteArray &, double) {
+            rig.play(ShortEnds + 10, [&](const QByteArray &, double) {
                 for (const TrackSnapshot &track : rig.tracks()) {
                     if (track.modeACode == 07700 && track.state == Track::Coasting) {
                         coasted.insert(track.lastUpdate);
@@ -233,8 +233,9 @@ private Q_SLOTS:
             });
             QVERIFY2(coasted.size() == coasting, kind);
             const QList<TrackSnapshot> left = rig.tracks();
-            const bool ended = std::none_of(
-                left.begin(), left.end(), [](const TrackSnapshot &track) { return track.modeACode == 02001; });
+            const bool ended = std::none_of(left.begin(), left.end(), [](const TrackSnapshot &track) {
+                return track.modeACode == 02001 && track.state != Track::Terminated;
+            });
             QVERIFY2(ended == ends, kind);
         }
     }
