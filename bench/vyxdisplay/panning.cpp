@@ -257,9 +257,7 @@ int measureThemes(MainWindow &window, const QStringList &names, const Choice &ch
 int run(const QStringList &themeNames, const Choice &choice)
 {
     DemoTraffic demo(choice.scenario);
-    QString error;
-    if (!demo.prepare(&error)) {
-        std::fprintf(stderr, "%s\n", qPrintable(error));
+    if (!prepared(demo)) {
         return 2;
     }
     MainWindow window([&demo](Config &config) { demo.applyTo(config); });

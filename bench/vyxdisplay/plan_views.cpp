@@ -74,9 +74,7 @@ void measure(MainWindow &window, int seconds)
 int run(const QString &scenario, int most, int seconds, int settlingSeconds)
 {
     DemoTraffic demo(scenario);
-    QString error;
-    if (!demo.prepare(&error)) {
-        std::fprintf(stderr, "%s\n", qPrintable(error));
+    if (!prepared(demo)) {
         return 2;
     }
     MainWindow window([&demo](Config &config) { demo.applyTo(config); });

@@ -101,9 +101,7 @@ void inspect(MainWindow &window)
 int run(const Soak &soak)
 {
     DemoTraffic demo(soak.scenario);
-    QString error;
-    if (!demo.prepare(&error)) {
-        std::fprintf(stderr, "%s\n", qPrintable(error));
+    if (!prepared(demo)) {
         return 2;
     }
     MainWindow window([&demo](Config &config) { demo.applyTo(config); });

@@ -4,6 +4,7 @@
 
 #include "app/app_identity.h"
 #include "app/app_paths.h"
+#include "demonstration/demo_traffic.h"
 #include "ui/main_window.h"
 
 #include <QApplication>
@@ -12,6 +13,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <cstdio>
 #include <ctime>
 #include <vector>
 
@@ -61,6 +63,17 @@ struct Frames {
             .arg(times.back(), 0, 'f', 1);
     }
 };
+
+// Says why it cannot be played.
+inline bool prepared(DemoTraffic &demo)
+{
+    QString error;
+    const bool done = demo.prepare(&error);
+    if (!done) {
+        std::fprintf(stderr, "%s\n", qPrintable(error));
+    }
+    return done;
+}
 
 inline void let(int milliseconds)
 {
