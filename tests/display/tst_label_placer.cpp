@@ -82,6 +82,15 @@ struct Scope {
     }
 
     double leaderLength(std::size_t i) const { return shown(i) ? leader(i).length() : 0.0; }
+    // The label with the longest leader.
+    std::size_t farthest() const
+    {
+        std::size_t found = 0;
+        for (std::size_t i = 0; i < labels.size(); ++i) {
+            found = leaderLength(i) > leaderLength(found) ? i : found;
+        }
+        return found;
+    }
 
     LabelPlacer placer;
     LabelPlacer::Scene scene;
@@ -257,10 +266,7 @@ private Q_SLOTS:
         Scope scope;
         scope.labels = crowd(250, QSize(1600, 1000));
         scope.next(60);
-        std::size_t farthest = 0;
-        for (std::size_t i = 0; i < scope.labels.size(); ++i) {
-            farthest = scope.leaderLength(i) > scope.leaderLength(farthest) ? i : farthest;
-        }
+        const std::size_t farthest = scope.farthest();
         const double before = scope.leaderLength(farthest);
         QVERIFY(before > 150.0);
         scope.labels[farthest].priority = Priority::Alert;
@@ -313,10 +319,7 @@ private Q_SLOTS:
         Scope scope;
         scope.labels = crowd(250, QSize(1600, 1000));
         scope.next(60);
-        std::size_t farthest = 0;
-        for (std::size_t i = 0; i < scope.labels.size(); ++i) {
-            farthest = scope.leaderLength(i) > scope.leaderLength(farthest) ? i : farthest;
-        }
+        const std::size_t farthest = scope.farthest();
         QVERIFY(scope.leaderLength(farthest) > 150.0);
         scope.labels = {scope.labels[farthest]};
         scope.next(40);
