@@ -1600,6 +1600,10 @@
         <source>The terminal on %1 does not answer: %2</source>
         <translation>Das Terminal an %1 antwortet nicht: %2</translation>
     </message>
+    <message>
+        <source>There is no right to speak to %1: only its owner may.</source>
+        <translation>Auf %1 darf nur der Eigentümer zugreifen.</translation>
+    </message>
 </context>
 <context>
     <name>ControlCommands</name>
@@ -1972,6 +1976,14 @@
     <message>
         <source>&amp;Password for settings:</source>
         <translation>Pass&amp;wort für Einstellungen:</translation>
+    </message>
+    <message>
+        <source>&amp;Restart Now</source>
+        <translation>&amp;Jetzt neu starten</translation>
+    </message>
+    <message>
+        <source>Applies the settings, closes the program and starts it again as it was started. A live input that is running is opened again.</source>
+        <translation>Übernimmt die Einstellungen, beendet das Programm und startet es wieder, wie es gestartet wurde. Ein laufender Live-Eingang wird wieder geöffnet.</translation>
     </message>
 </context>
 <context>
@@ -2934,6 +2946,10 @@
         <source>; where it stands is not known, and its positions are relative to that</source>
         <translation>; sein Standort ist nicht bekannt, und die Positionen sind auf ihn bezogen</translation>
     </message>
+    <message>
+        <source>Its reports carry no track numbers, so they make no tracks; the plot layer shows them.</source>
+        <translation>Seine Meldungen tragen keine Tracknummern und ergeben daher keine Tracks; die Plot-Ebene zeigt sie.</translation>
+    </message>
 </context>
 <context>
     <name>InputRecorder</name>
@@ -3001,6 +3017,16 @@ Dies ist das letzte Bild.</translation>
     <message>
         <source>No sensor is configured. Choose one in Settings (F10), then press Start; or let Help, Getting Started, lead you.</source>
         <translation>Kein Sensor ist eingerichtet. Wählen Sie einen in den Einstellungen (F10) und drücken Sie dann Start; oder lassen Sie sich von Hilfe, Erste Schritte führen.</translation>
+    </message>
+    <message>
+        <source>%1
+Another attempt is made by itself.</source>
+        <translation>%1
+Es wird von selbst weiter versucht.</translation>
+    </message>
+    <message>
+        <source>No further attempt is made to open the input.</source>
+        <translation>Es wird nicht weiter versucht, den Eingang zu öffnen.</translation>
     </message>
 </context>
 <context>
@@ -5210,10 +5236,6 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <translation>Auf %1 kommt nichts an, seit %2 s.</translation>
     </message>
     <message>
-        <source>The interface %1 is not there any more.</source>
-        <translation>Die Schnittstelle %1 ist nicht mehr da.</translation>
-    </message>
-    <message>
         <source>The interface %1 is switched off.</source>
         <translation>Die Schnittstelle %1 ist ausgeschaltet.</translation>
     </message>
@@ -5368,6 +5390,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>The time of one turn is not found out yet: listen for some turns more, or enter it.</source>
         <translation>Die Umlaufzeit ist noch nicht ermittelt: hören Sie noch einige Umläufe zu oder geben Sie sie ein.</translation>
+    </message>
+    <message>
+        <source>The interface %1 is not there.</source>
+        <translation>Die Schnittstelle %1 ist nicht da.</translation>
     </message>
 </context>
 <context>
@@ -6503,10 +6529,6 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <translation>Trackende</translation>
     </message>
     <message>
-        <source>Alenia SIR-M record</source>
-        <translation>Alenia-SIR-M-Datensatz</translation>
-    </message>
-    <message>
         <source>Alenia SIR-M track record</source>
         <translation>Alenia-SIR-M-Trackdatensatz</translation>
     </message>
@@ -6525,6 +6547,66 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>Alenia SIR-M plot record</source>
         <translation>Alenia-SIR-M-Plotdatensatz</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
+    </message>
+    <message>
+        <source>message type</source>
+        <translation>Nachrichtentyp</translation>
+    </message>
+    <message>
+        <source>radar</source>
+        <translation>Radar-Nummer</translation>
+    </message>
+    <message>
+        <source>length of the message</source>
+        <translation>Länge der Nachricht</translation>
+    </message>
+    <message>
+        <source>time of day</source>
+        <translation>Tageszeit</translation>
+    </message>
+    <message>
+        <source>north not synchronised</source>
+        <translation>Norden nicht synchronisiert</translation>
+    </message>
+    <message>
+        <source>clock not synchronised</source>
+        <translation>Uhr nicht synchronisiert</translation>
+    </message>
+    <message>
+        <source>rotation period</source>
+        <translation>Umlaufzeit</translation>
+    </message>
+    <message>
+        <source>sector valid</source>
+        <translation>Sektor gültig</translation>
+    </message>
+    <message>
+        <source>sector</source>
+        <translation>Sektor</translation>
+    </message>
+    <message>
+        <source>plot records in the message</source>
+        <translation>Plot-Datensätze in der Nachricht</translation>
+    </message>
+    <message>
+        <source>track records in the message</source>
+        <translation>Track-Datensätze in der Nachricht</translation>
+    </message>
+    <message>
+        <source>Alenia SIR-M sector without records</source>
+        <translation>Alenia-SIR-M-Sektor ohne Datensätze</translation>
+    </message>
+    <message>
+        <source>Alenia SIR-M message that cannot be decoded</source>
+        <translation>Alenia-SIR-M-Nachricht, die sich nicht decodieren lässt</translation>
+    </message>
+    <message>
+        <source>Alenia SIR-M north marker</source>
+        <translation>Alenia-SIR-M-Nordmarke</translation>
     </message>
 </context>
 <context>
@@ -7582,6 +7664,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>Show plots</source>
         <translation>Plots zeigen</translation>
+    </message>
+    <message>
+        <source>Nothing arrives from any source: check the sender and the line.</source>
+        <translation>Von keiner Quelle kommt etwas an: Sender und Leitung prüfen.</translation>
     </message>
 </context>
 <context>
@@ -9155,6 +9241,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <source>Off: this machine looks them up itself.</source>
         <translation>Aus: dieser Rechner löst sie selbst auf.</translation>
     </message>
+    <message>
+        <source>The demonstration asks no tile service, only files of tiles are shown.</source>
+        <translation>Die Demonstration fragt keinen Kacheldienst; nur Kacheldateien werden gezeigt.</translation>
+    </message>
 </context>
 <context>
     <name>TileDeployment</name>
@@ -9464,13 +9554,13 @@ Ab jetzt anfragen?</translation>
         <source>The demonstration asks no tile service, only files of tiles are shown.</source>
         <translation>Die Vorführung fragt keinen Kacheldienst, nur Kacheldateien werden gezeigt.</translation>
     </message>
+    <message>
+        <source>No tiles are shown: no service is asked before that is agreed to.</source>
+        <translation>Es werden keine Kacheln gezeigt: Ohne Zustimmung wird kein Dienst gefragt.</translation>
+    </message>
 </context>
 <context>
     <name>TileProvider</name>
-    <message>
-        <source>Tiles of %1: %2</source>
-        <translation>Kacheln von %1: %2</translation>
-    </message>
     <message>
         <source>there are no tiles for so wide a view</source>
         <translation>für einen so weiten Ausschnitt gibt es keine Kacheln</translation>
@@ -9583,6 +9673,13 @@ Ab jetzt anfragen?</translation>
     <message>
         <source>The address of the tile server is not valid.</source>
         <translation>Die Adresse des Kachelservers ist ungültig.</translation>
+    </message>
+</context>
+<context>
+    <name>TileStock</name>
+    <message>
+        <source>Tiles of %1: %2</source>
+        <translation>Kacheln von %1: %2</translation>
     </message>
 </context>
 <context>
@@ -10628,10 +10725,6 @@ Ab jetzt anfragen?</translation>
         <translation>%1 ist keine Multicast-Gruppe.</translation>
     </message>
     <message>
-        <source>The network interface for the multicast group %1 is not there.</source>
-        <translation>Die Netzwerkschnittstelle für die Multicast-Gruppe %1 ist nicht vorhanden.</translation>
-    </message>
-    <message>
         <source>The multicast group %1 cannot be joined on interface %2: %3</source>
         <translation>Der Multicast-Gruppe %1 kann auf der Schnittstelle %2 nicht beigetreten werden: %3</translation>
     </message>
@@ -10658,6 +10751,14 @@ Ab jetzt anfragen?</translation>
     <message>
         <source>The network interface %1 brings nothing: %2. The multicast group %3 is joined again when it is back.</source>
         <translation>Die Netzwerkschnittstelle %1 liefert nichts: %2. Der Multicast-Gruppe %3 wird wieder beigetreten, sobald sie zurück ist.</translation>
+    </message>
+    <message>
+        <source>The network interface %1 for the multicast group %2 is not there.</source>
+        <translation>Die Netzwerkschnittstelle %1 für die Multicast-Gruppe %2 ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>The multicast group %1 cannot be joined: %2</source>
+        <translation>Der Multicast-Gruppe %1 kann nicht beigetreten werden: %2</translation>
     </message>
 </context>
 <context>
@@ -11324,6 +11425,10 @@ Ab jetzt anfragen?</translation>
     <message>
         <source>no screen: set DISPLAY or WAYLAND_DISPLAY, or QT_QPA_PLATFORM=offscreen to run without one</source>
         <translation>kein Bildschirm: setzen Sie DISPLAY oder WAYLAND_DISPLAY, oder QT_QPA_PLATFORM=offscreen für den Betrieb ohne</translation>
+    </message>
+    <message>
+        <source>the program cannot be started again</source>
+        <translation>das Programm kann nicht wieder gestartet werden</translation>
     </message>
 </context>
 </TS>

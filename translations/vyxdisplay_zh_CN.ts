@@ -1597,6 +1597,10 @@
         <source>The terminal on %1 does not answer: %2</source>
         <translation>%1 上的终端没有响应：%2</translation>
     </message>
+    <message>
+        <source>There is no right to speak to %1: only its owner may.</source>
+        <translation>无权访问 %1：只有其所有者可以。</translation>
+    </message>
 </context>
 <context>
     <name>ControlCommands</name>
@@ -1969,6 +1973,14 @@
     <message>
         <source>&amp;Password for settings:</source>
         <translation>设置密码(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;Restart Now</source>
+        <translation>立即重启(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Applies the settings, closes the program and starts it again as it was started. A live input that is running is opened again.</source>
+        <translation>应用设置，关闭程序，并按原来的方式重新启动。正在运行的实时输入会重新打开。</translation>
     </message>
 </context>
 <context>
@@ -2931,6 +2943,10 @@
         <source>; where it stands is not known, and its positions are relative to that</source>
         <translation>；其位置未知，各目标位置均以其为基准</translation>
     </message>
+    <message>
+        <source>Its reports carry no track numbers, so they make no tracks; the plot layer shows them.</source>
+        <translation>其报告不含航迹号，因此不形成航迹；点迹图层会显示它们。</translation>
+    </message>
 </context>
 <context>
     <name>InputRecorder</name>
@@ -2998,6 +3014,16 @@ This is the last picture.</source>
     <message>
         <source>No sensor is configured. Choose one in Settings (F10), then press Start; or let Help, Getting Started, lead you.</source>
         <translation>未配置传感器。请在“设置”（F10）中选择，然后按“启动”；或使用“帮助”→“入门”的引导。</translation>
+    </message>
+    <message>
+        <source>%1
+Another attempt is made by itself.</source>
+        <translation>%1
+程序会自动再次尝试。</translation>
+    </message>
+    <message>
+        <source>No further attempt is made to open the input.</source>
+        <translation>不再尝试打开输入。</translation>
     </message>
 </context>
 <context>
@@ -5204,10 +5230,6 @@ More: View, Input Health.</source>
         <translation>%1 上已有 %2 s 没有收到数据。</translation>
     </message>
     <message>
-        <source>The interface %1 is not there any more.</source>
-        <translation>接口 %1 已不存在。</translation>
-    </message>
-    <message>
         <source>The interface %1 is switched off.</source>
         <translation>接口 %1 已关闭。</translation>
     </message>
@@ -5362,6 +5384,10 @@ More: View, Input Health.</source>
     <message>
         <source>The time of one turn is not found out yet: listen for some turns more, or enter it.</source>
         <translation>尚未得出旋转周期：请再监听几圈，或直接输入。</translation>
+    </message>
+    <message>
+        <source>The interface %1 is not there.</source>
+        <translation>接口 %1 不存在。</translation>
     </message>
 </context>
 <context>
@@ -6496,10 +6522,6 @@ More: View, Input Health.</source>
         <translation>航迹结束</translation>
     </message>
     <message>
-        <source>Alenia SIR-M record</source>
-        <translation>Alenia SIR-M 记录</translation>
-    </message>
-    <message>
         <source>Alenia SIR-M track record</source>
         <translation>Alenia SIR-M 航迹记录</translation>
     </message>
@@ -6518,6 +6540,66 @@ More: View, Input Health.</source>
     <message>
         <source>Alenia SIR-M plot record</source>
         <translation>Alenia SIR-M 点迹记录</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>message type</source>
+        <translation>报文类型</translation>
+    </message>
+    <message>
+        <source>radar</source>
+        <translation>雷达编号</translation>
+    </message>
+    <message>
+        <source>length of the message</source>
+        <translation>报文长度</translation>
+    </message>
+    <message>
+        <source>time of day</source>
+        <translation>日时间</translation>
+    </message>
+    <message>
+        <source>north not synchronised</source>
+        <translation>正北未同步</translation>
+    </message>
+    <message>
+        <source>clock not synchronised</source>
+        <translation>时钟未同步</translation>
+    </message>
+    <message>
+        <source>rotation period</source>
+        <translation>旋转周期</translation>
+    </message>
+    <message>
+        <source>sector valid</source>
+        <translation>扇区有效</translation>
+    </message>
+    <message>
+        <source>sector</source>
+        <translation>扇区</translation>
+    </message>
+    <message>
+        <source>plot records in the message</source>
+        <translation>报文中的点迹记录</translation>
+    </message>
+    <message>
+        <source>track records in the message</source>
+        <translation>报文中的航迹记录</translation>
+    </message>
+    <message>
+        <source>Alenia SIR-M sector without records</source>
+        <translation>不含记录的 Alenia SIR-M 扇区</translation>
+    </message>
+    <message>
+        <source>Alenia SIR-M message that cannot be decoded</source>
+        <translation>无法解码的 Alenia SIR-M 报文</translation>
+    </message>
+    <message>
+        <source>Alenia SIR-M north marker</source>
+        <translation>Alenia SIR-M 正北标记</translation>
     </message>
 </context>
 <context>
@@ -7573,6 +7655,10 @@ More: View, Input Health.</source>
     <message>
         <source>Show plots</source>
         <translation>显示点迹</translation>
+    </message>
+    <message>
+        <source>Nothing arrives from any source: check the sender and the line.</source>
+        <translation>没有任何来源的数据到达：请检查发送端和线路。</translation>
     </message>
 </context>
 <context>
@@ -9146,6 +9232,10 @@ More: View, Input Health.</source>
         <source>Off: this machine looks them up itself.</source>
         <translation>关闭：由本机自行解析。</translation>
     </message>
+    <message>
+        <source>The demonstration asks no tile service, only files of tiles are shown.</source>
+        <translation>演示不向任何瓦片服务请求，只显示瓦片文件。</translation>
+    </message>
 </context>
 <context>
     <name>TileDeployment</name>
@@ -9455,13 +9545,13 @@ Ask it from now on?</source>
         <source>The demonstration asks no tile service, only files of tiles are shown.</source>
         <translation>演示不请求瓦片服务，只显示瓦片文件。</translation>
     </message>
+    <message>
+        <source>No tiles are shown: no service is asked before that is agreed to.</source>
+        <translation>不显示瓦片：在您同意之前，不会向任何服务请求。</translation>
+    </message>
 </context>
 <context>
     <name>TileProvider</name>
-    <message>
-        <source>Tiles of %1: %2</source>
-        <translation>%1 的瓦片：%2</translation>
-    </message>
     <message>
         <source>there are no tiles for so wide a view</source>
         <translation>没有如此大视图范围的瓦片</translation>
@@ -9574,6 +9664,13 @@ Ask it from now on?</source>
     <message>
         <source>The address of the tile server is not valid.</source>
         <translation>瓦片服务器地址无效。</translation>
+    </message>
+</context>
+<context>
+    <name>TileStock</name>
+    <message>
+        <source>Tiles of %1: %2</source>
+        <translation>%1 的瓦片：%2</translation>
     </message>
 </context>
 <context>
@@ -10618,10 +10715,6 @@ Ask it from now on?</source>
         <translation>%1 不是组播组。</translation>
     </message>
     <message>
-        <source>The network interface for the multicast group %1 is not there.</source>
-        <translation>组播组 %1 的网络接口不存在。</translation>
-    </message>
-    <message>
         <source>The multicast group %1 cannot be joined on interface %2: %3</source>
         <translation>无法在接口 %2 上加入组播组 %1：%3</translation>
     </message>
@@ -10648,6 +10741,14 @@ Ask it from now on?</source>
     <message>
         <source>The network interface %1 brings nothing: %2. The multicast group %3 is joined again when it is back.</source>
         <translation>网络接口 %1 没有数据：%2。恢复后将重新加入组播组 %3。</translation>
+    </message>
+    <message>
+        <source>The network interface %1 for the multicast group %2 is not there.</source>
+        <translation>组播组 %2 的网络接口 %1 不存在。</translation>
+    </message>
+    <message>
+        <source>The multicast group %1 cannot be joined: %2</source>
+        <translation>无法加入组播组 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -11313,6 +11414,10 @@ Ask it from now on?</source>
     <message>
         <source>no screen: set DISPLAY or WAYLAND_DISPLAY, or QT_QPA_PLATFORM=offscreen to run without one</source>
         <translation>没有屏幕：请设置 DISPLAY 或 WAYLAND_DISPLAY，或设 QT_QPA_PLATFORM=offscreen 以无屏运行</translation>
+    </message>
+    <message>
+        <source>the program cannot be started again</source>
+        <translation>无法重新启动程序</translation>
     </message>
 </context>
 </TS>
