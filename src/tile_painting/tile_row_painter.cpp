@@ -26,16 +26,24 @@ double deviceResolution(const GeoView &view)
 }
 
 // What fades in is mixed with what stands in by their shares: one over the other would show the transparent parts of
-// both.
-void fadeIn(QPainter &painter, const QRect &target, const QImage &image, double opacity)
+// both, and a painter that adds them up cuts bright ones off. Both premultiplied, of one size.
+void fadeIn(QImage &standIn, const QImage &image, double opacity)
 {
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    painter.fillRect(target, QColor(0, 0, 0, static_cast<int>(std::lround(255.0 * (1.0 - opacity)))));
-    painter.setCompositionMode(QPainter::CompositionMode_Plus);
-    painter.setOpacity(opacity);
-    painter.drawImage(target, image);
-    painter.setOpacity(1.0);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    const auto share = static_cast<int>(std::lround(256.0 * opacity));
+    for (int y = 0; y < standIn.height(); ++y) {
+        uchar *const to = standIn.scanLine(y);
+        const uchar *const from = image.constScanLine(y);
+        for (int i = 0; i < 4 * standIn.width(); ++i) {
+            to[i] = static_cast<uchar>((to[i] * (256 - share) + from[i] * share + 128) >> 8);
+        }
+    }
+}
+
+QImage fitted(const QImage &image, const QSize &size)
+{
+    const QImage scaled =
+        image.size() == size ? image : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return scaled.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 QRect quarter(const QRect &target, int i)
@@ -124,8 +132,9 @@ QImage TileRowPainter::mixed(const TileCell &cell, const QSize &size)
             painter.drawImage(quarter(target, i), child);
         }
     }
+    painter.end();
     if (!cell.image.isNull()) {
-        fadeIn(painter, target, cell.image, cell.opacity);
+        fadeIn(image, fitted(cell.image, size), cell.opacity);
     }
     return image;
 }

@@ -61,6 +61,7 @@ private Q_SLOTS:
     void coarserAndFinerTilesStandIn();
     void tilesFadeIn();
     void transparentTilesFadeToo();
+    void equalTilesFadeUnseen();
     void nothingIsDoneWhileNothingChanges();
     void densityTakesADeeperLevel();
     void toneIsOfTheBottomLayer();
@@ -266,6 +267,32 @@ void TestGeoTileMap::transparentTilesFadeToo()
     for (; now < 600; now += 100) {
         const int red = view.painted(layer).pixelColor(30, 30).red();
         QVERIFY2(std::abs(red - 128) <= 2, qPrintable(QString::number(red)));
+    }
+}
+
+// Nothing is seen of bright tiles that come and look as what stood in for them.
+void TestGeoTileMap::equalTilesFadeUnseen()
+{
+    const QColor bright(180, 200, 240);
+    qint64 now = 1000;
+    int here = 0;
+    TileSupply supply;
+    supply.make = [&](const TileIndex &index) {
+        return index.level <= 5 || (index.x + index.y) % 4 < here ? plainTile(bright) : QImage();
+    };
+    GeoTileMap layer(GeoTileMap::Layer::Bottom);
+    layer.applyConfig(brightConfig());
+    layer.setClock([&now] { return now; });
+    layer.setSource(supply.source());
+    QImage even(QSize(300, 200), QImage::Format_RGB32);
+    even.fill(bright);
+    const TileView view(1200.0, Steep);
+    for (; here <= 4; ++here) {
+        supply.tiles.removeIf([](const auto &entry) { return entry.value().isNull(); });
+        layer.tilesChanged();
+        for (int frame = 0; frame < 3; ++frame, now += 70) {
+            QCOMPARE(differing(view.painted(layer), even, 1), 0);
+        }
     }
 }
 
