@@ -2,6 +2,7 @@
 
 #include "tiles/tile_deployment.h"
 #include "widgets/coordinate_edit.h"
+#include "widgets/dialog_layout.h"
 #include "widgets/field_form.h"
 #include "widgets/file_edit.h"
 
@@ -144,8 +145,10 @@ void TileDownloadWindow::addTargetRows()
     m_form->addField(tr("Terms:"), m_terms);
     m_form->addField(m_confirmed);
     m_form->setRowVisible(m_archive, false);
-    connect(m_target, &QComboBox::currentIndexChanged, this,
-        [this](int target) { m_form->setRowVisible(m_archive, target == 1); });
+    connect(m_target, &QComboBox::currentIndexChanged, this, [this](int target) {
+        m_form->setRowVisible(m_archive, target == 1);
+        growToContents(this);
+    });
 }
 
 void TileDownloadWindow::addProgress()
@@ -241,6 +244,9 @@ void TileDownloadWindow::showService()
     m_form->setRowVisible(m_terms, !deployment.terms.isEmpty());
     m_form->setRowVisible(m_confirmed, deployment.bulkDownloadForbidden);
     showEstimate();
+    if (isVisible()) {
+        growToContents(this);
+    }
 }
 
 void TileDownloadWindow::showEstimate()
@@ -291,6 +297,7 @@ void TileDownloadWindow::startOrPause()
         break;
     }
     if (!validate()) {
+        growToContents(this);
         m_form->firstWithNote()->setFocus();
         return;
     }
