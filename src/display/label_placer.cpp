@@ -11,17 +11,22 @@ constexpr int EdgeGap = 2; // pixels between label and edge
 constexpr int MemoryCalls = 300; // for which a track that is not shown is remembered
 constexpr int RetryCalls = 20; // until a label looks again that found nothing better
 constexpr double Horizon = 75.0; // seconds looked ahead
-constexpr double HorizonCost = 335.0; // of a place that is about to be taken
+// Of a place that is about to be taken. Where there is room to move to later, near is better.
+constexpr double HorizonCost = 150.0;
+constexpr double HorizonCostInCrowd = 335.0;
 constexpr double VectorCost = 3.0; // of covering its own vector
 constexpr double CrowdCost = 0.3; // of each symbol around: the edge of a crowd has more room
 constexpr double EdgeCost = 220.0; // of reaching beyond the edge
 constexpr double EdgePixelCost = 0.5; // of a pixel beyond the edge
 constexpr double BadCost = 60.0; // more than that and a label looks for another place
-// Of giving up lines where there is room, and in a crowd: where whole labels would fill those shares of the view.
-constexpr double ShortenedCost = 470.0;
-constexpr double ShortenedCostInCrowd = 150.0;
-constexpr double RoomyShare = 0.6;
-constexpr double CrowdedShare = 1.0;
+constexpr double ShortenedCost = 470.0; // of giving up lines
+constexpr double ShortenedCostInThrong = 150.0;
+// The shares of the view that whole labels would fill, from which and up to which costs become those in a crowd, and
+// those in a throng.
+constexpr double LooseShare = 0.17;
+constexpr double CrowdShare = 0.5;
+constexpr double FullShare = 0.6;
+constexpr double ThrongShare = 1.0;
 // Of not being shown, with few labels in view; from Few to Many of them it falls, where covering each other helps
 // nobody.
 constexpr double HiddenCostOfFew = 2200.0;
@@ -30,8 +35,9 @@ constexpr int Few = 350;
 constexpr int Many = 600;
 constexpr double ChangeCost = 200.0; // what a move or another form has to be worth
 constexpr double FarPlaceCost = 30.0; // of a place from which a label that has become urgent comes nearer
-constexpr double TooFarPlaceCost = 60.0; // of one from which every label comes nearer when there is room
-constexpr double NearerCost = 120.0; // what that move has to be worth
+// What a move to a nearer place has to be worth.
+constexpr double NearerCost = 20.0;
+constexpr double NearerCostInCrowd = 120.0;
 constexpr double ExchangeCost = 500.0; // what the moves of two labels have to be worth
 constexpr int WorkLimit = 4500; // candidates a call, from which on what can wait does
 constexpr std::size_t HastyStride = 20; // of the candidates looked at when there is no time for all
@@ -126,8 +132,11 @@ void LabelPlacer::setCosts()
     const double many = std::clamp(double(count - Few) / (Many - Few), 0.0, 1.0);
     m_hiddenCost = std::lerp(HiddenCostOfFew, HiddenCostOfMany, many);
     const double share = area / std::max(1.0, double(m_scene.view.width()) * m_scene.view.height());
-    const double crowd = std::clamp((share - RoomyShare) / (CrowdedShare - RoomyShare), 0.0, 1.0);
-    m_shortenedCost = std::lerp(ShortenedCost, ShortenedCostInCrowd, crowd);
+    const double crowd = std::clamp((share - LooseShare) / (CrowdShare - LooseShare), 0.0, 1.0);
+    m_horizonCost = std::lerp(HorizonCost, HorizonCostInCrowd, crowd);
+    m_nearerCost = std::lerp(NearerCost, NearerCostInCrowd, crowd);
+    const double throng = std::clamp((share - FullShare) / (ThrongShare - FullShare), 0.0, 1.0);
+    m_shortenedCost = std::lerp(ShortenedCost, ShortenedCostInThrong, throng);
 }
 
 double LabelPlacer::formCost(Form form) const
@@ -240,7 +249,7 @@ void LabelPlacer::improve(int index)
     memory.retry = m_call + RetryCalls;
     memory.tolerated = standingCost(index, NoLimit) + BadCost;
     Found best = standing(index);
-    best.cost -= memory.placeCost < TooFarPlaceCost ? ChangeCost : NearerCost;
+    best.cost -= memory.placeCost > m_nearerCost ? m_nearerCost : ChangeCost;
     m_field.remove(index); // guesses at costs would count it
     settle(index, bestForm(index, best));
 }
@@ -305,7 +314,7 @@ bool LabelPlacer::isGood(int index) const
 {
     const Memory &memory = *entry(index).memory;
     const bool isWhole = memory.form == Form::Whole || entry(index).label->whole.isEmpty();
-    return isWhole && memory.placeCost < TooFarPlaceCost && standingCost(index, BadCost) < BadCost;
+    return isWhole && memory.placeCost <= m_nearerCost && standingCost(index, BadCost) < BadCost;
 }
 
 // As the label stands, with all that is in its way.
@@ -440,8 +449,8 @@ double LabelPlacer::placeCost(int index, const QRect &rect, double cost, double 
     if (cost >= limit) {
         return cost;
     }
-    const double least = Horizon * (1.0 - (limit - cost) / HorizonCost); // below that it costs too much
-    return cost + HorizonCost * (1.0 - m_field.freeFor(index, rect, Horizon, std::max(0.0, least)) / Horizon);
+    const double least = Horizon * (1.0 - (limit - cost) / m_horizonCost); // below that it costs too much
+    return cost + m_horizonCost * (1.0 - m_field.freeFor(index, rect, Horizon, std::max(0.0, least)) / Horizon);
 }
 
 void LabelPlacer::settle(int index, const Found &found)

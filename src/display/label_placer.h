@@ -132,6 +132,8 @@ private:
     int m_call = 0;
     double m_hiddenCost = 0.0; // of not being shown, in this call
     double m_shortenedCost = 0.0; // of giving up lines
+    double m_horizonCost = 0.0; // of a place that is about to be taken
+    double m_nearerCost = 0.0; // what a move to a nearer place has to be worth
     int m_work = 0; // candidates looked at in this call
     int m_shortenedCount = 0;
     int m_hiddenCount = 0;
