@@ -124,7 +124,7 @@ void MainWindow::connectHealth()
 {
     InputHealth *health = m_health.get();
     connect(health, &InputHealth::logMessage, this, &MainWindow::showLog);
-    connect(health, &InputHealth::changed, this, &MainWindow::showHealth);
+    connect(health, &InputHealth::changed, this, &MainWindow::updateNotices);
     connect(m_session.get(), &InputSession::openingBegun, health, &InputHealth::beginInput);
     connect(m_pump.get(), &SnapshotPump::snapshotTaken, health, &InputHealth::look);
     connect(m_pump.get(), &SnapshotPump::statisticsTaken, health, &InputHealth::take);
@@ -201,8 +201,10 @@ void MainWindow::updateNotices()
     const QString input = m_session->description();
     showHealth();
     const QString idle = tr("No input is running.");
-    const QString waiting =
-        m_session->replaying() ? tr("No tracks yet in %1.").arg(input) : tr("No tracks. Listening on %1.").arg(input);
+    const QString why = m_health->explanation();
+    const QString waiting = !why.isEmpty() ? tr("No tracks. %1").arg(why)
+        : m_session->replaying()           ? tr("No tracks yet in %1.").arg(input)
+                                           : tr("No tracks. Listening on %1.").arg(input);
     const QString plots = tr("No tracks. The target reports of %1 are shown as plots.").arg(input);
     const QString open = m_plotSwitch->standsIn() ? plots : waiting;
     m_lists->setEmptyTexts(inputOpen() ? open : idle, inputOpen() ? tr("No alerts.") : idle);
