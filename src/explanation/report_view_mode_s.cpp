@@ -1,3 +1,4 @@
+#include "explanation/register_fields.h"
 #include "explanation/report_view_forms.h"
 #include "modes/mode_s_decoder.h"
 
@@ -28,10 +29,7 @@ public:
             addSquitter();
         } else if (format == 20 || format == 21) {
             add("mb", "MB", tr("message field"), messageHex(), {}, 33, 56);
-            if (m_message.registers().only() == 0x20) {
-                add("callsign", "BDS 2,0", tr("aircraft identification"),
-                    QString::fromLatin1(decodeBds20(m_message.messageField())->callsign), {}, 41, 48);
-            }
+            addRegister();
         }
         if (!ownAddress) {
             addAddress(m_message.frame().length * 8 - 23);
@@ -79,6 +77,19 @@ private:
         addKnown("altitude", "AC", tr("altitude"), m_message.altitude(), "ft", 20, 13);
         if (m_message.squawk()) {
             add("squawk", "ID", tr("Mode A code"), octal(*m_message.squawk()), {}, 20, 13);
+        }
+    }
+
+    // Replies do not name the register: it is told where its contents can be of just one.
+    void addRegister()
+    {
+        constexpr int FirstOctet = 4;
+        const int code = m_message.registers().only();
+        if (code == 0x20) {
+            add("callsign", "BDS 2,0", tr("aircraft identification"),
+                QString::fromLatin1(decodeBds20(m_message.messageField())->callsign), {}, 41, 48);
+        } else {
+            m_view.fields += registerFields(code, m_message.frame().octets + FirstOctet, 8 * FirstOctet);
         }
     }
 

@@ -31,6 +31,7 @@ class TestReportView : public QObject {
 private Q_SLOTS:
     void takesRecordApart();
     void takesRegistersApart();
+    void takesAdvisoryApart();
     void takesFrameApart_data();
     void takesFrameApart();
     void takesSirMMessagesApart();
@@ -74,6 +75,26 @@ void TestReportView::takesRegistersApart()
     QCOMPARE(fieldText(view, "bds60/baro"), QString("-512 ft/min @123+10"));
 }
 
+void TestReportView::takesAdvisoryApart()
+{
+    const auto view = viewReport(keptRecord(48, 0, [](BlockEncoder &e) {
+        const unsigned char advisory[] = {0x30, 0xC2, 0x02, 0x05, 0x2C, 0x68, 0xB0};
+        e.addRepetition("250");
+        e.setExplicit("250/MBDATA", advisory);
+        e.set("250/BDS1", 3);
+        const unsigned char filled[] = {0xFA, 0x81, 0, 0, 0, 0, 0};
+        e.addRepetition("250");
+        e.setExplicit("250/MBDATA", filled);
+        e.set("250/BDS1", 1);
+        e.set("250/BDS2", 7);
+    }));
+    QCOMPARE(fieldText(view, "bds30/advisory"), QString("corrective, upwards, climb or descend @32+14"));
+    QCOMPARE(fieldText(view, "bds30/complement"), QString("do not pass below @46+4"));
+    QCOMPARE(fieldText(view, "bds30/address"), QString("4B1A2C @54+24"));
+    QVERIFY(!view.find("bds30/range"));
+    QCOMPARE(fieldText(view, "bds17/registers"), QString("0,5 0,6 0,7 0,8 0,9 2,0 4,0 5,0 @88+29"));
+}
+
 void TestReportView::takesFrameApart_data()
 {
     QTest::addColumn<QByteArray>("frame");
@@ -86,6 +107,10 @@ void TestReportView::takesFrameApart_data()
                                  << QByteArray("address") << "4840D6 @8+24";
     QTest::newRow("altitude of a position") << QByteArray("8D40621D58C382D690C8AC2863A7") << "DF 17, type code 11"
                                             << QByteArray("altitude") << "38000 ft @40+12";
+    QTest::newRow("selected altitude") << QByteArray("A000029C85E42F313000007047D3") << "DF 20"
+                                       << QByteArray("bds40/mcp") << "3008 ft @33+12";
+    QTest::newRow("track angle") << QByteArray("A000139381951536E024D4CCF6B5") << "DF 20" << QByteArray("bds50/track")
+                                 << "114.258 ° @44+11";
     QTest::newRow("even position") << QByteArray("8D40621D58C382D690C8AC2863A7") << "DF 17, type code 11"
                                    << QByteArray("cprFormat") << "even @53+1";
     QTest::newRow("encoded latitude") << QByteArray("8D40621D58C382D690C8AC2863A7") << "DF 17, type code 11"
