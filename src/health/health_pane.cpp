@@ -34,7 +34,7 @@ HealthPane::HealthPane(const InputHealth *health, QWidget *parent)
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(m_remarks);
-    layout->addWidget(m_table);
+    layout->addWidget(m_table, 1);
     layout->addWidget(m_diagnosis);
     refresh();
 }
@@ -48,6 +48,7 @@ void HealthPane::makeTable()
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setTabKeyNavigation(false);
+    m_table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // what is said over it goes first
     m_table->setShowGrid(false);
     m_table->setFrameShape(QFrame::NoFrame);
     m_table->setWordWrap(false);

@@ -14,7 +14,9 @@ namespace {
 
 constexpr auto NotReported = "-";
 constexpr auto LayerPrefix = "layer "; // of the names of their values
-constexpr auto WidestValue = "100000.0/s, 100000.0 KB/s";
+constexpr auto WidestFlow = "100000.0/s, 100000.0 KB/s";
+constexpr auto WidestCost = "1000.0 / 1000.0 ms";
+constexpr int Gap = 24; // pixels
 
 QString fixed(double value)
 {
@@ -26,10 +28,10 @@ QString fixed(double value)
 StatsWindow::StatsWindow(QWidget *parent) : GeometryDialog("StatsWindow", parent)
 {
     setWindowTitle(tr("Statistics"));
-    auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(24);
-    grid->setColumnStretch(1, 1);
-    m_grid = grid;
+    // Beside each other: the layers are many, and the window has to fit onto a small screen.
+    auto *panes = new QHBoxLayout;
+    panes->setSpacing(2 * Gap);
+    QGridLayout *grid = addPane(panes);
     addHeading(grid, tr("Data Pipeline (10 s window)"));
     addValue(grid, "tracks", tr("Tracks in snapshot:"));
     addValue(grid, "alerts", tr("Alerts in snapshot:"));
@@ -47,6 +49,7 @@ StatsWindow::StatsWindow(QWidget *parent) : GeometryDialog("StatsWindow", parent
     addValue(grid, "placelessWeather", tr("Weather pictures without the radar's place:"));
     addValue(grid, "videoDelay", tr("Largest video delay:"));
     addValue(grid, "weatherDelay", tr("Largest weather delay:"));
+    m_grid = grid = addPane(panes);
     addHeading(grid, tr("Painting (10 s window)"));
     addValue(grid, "frames", tr("Frames:"));
     addValue(grid, "mapPaint", tr("Maps, average / maximum:"));
@@ -61,9 +64,20 @@ StatsWindow::StatsWindow(QWidget *parent) : GeometryDialog("StatsWindow", parent
     connect(copy, &QPushButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(clipboardText()); });
     connect(buttons, &QDialogButtonBox::rejected, this, &StatsWindow::reject);
     auto *layout = new QVBoxLayout(this);
-    layout->addLayout(grid);
-    layout->addStretch(1);
+    layout->addLayout(panes, 1);
     layout->addWidget(buttons);
+}
+
+QGridLayout *StatsWindow::addPane(QBoxLayout *panes)
+{
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(Gap);
+    grid->setColumnStretch(1, 1);
+    auto *pane = new QVBoxLayout;
+    pane->addLayout(grid);
+    pane->addStretch(1);
+    panes->addLayout(pane);
+    return grid;
 }
 
 void StatsWindow::addHeading(QGridLayout *grid, const QString &text)
@@ -83,7 +97,7 @@ void StatsWindow::addValue(QGridLayout *grid, const QString &name, const QString
     value->setObjectName(name);
     value->setFont(figureFont());
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(WidestValue));
+    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(grid == m_grid ? WidestCost : WidestFlow));
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     const int row = grid->rowCount();
     grid->addWidget(new QLabel(label), row, 0);

@@ -8,6 +8,7 @@
 
 #include <QHash>
 
+class QBoxLayout;
 class QGridLayout;
 class QLabel;
 
@@ -30,6 +31,7 @@ public:
     QString clipboardText() const;
 
 private:
+    static QGridLayout *addPane(QBoxLayout *panes);
     void addHeading(QGridLayout *grid, const QString &text);
     void addValue(QGridLayout *grid, const QString &name, const QString &label);
     void showValue(const QString &name, const QString &text);

@@ -50,6 +50,13 @@ private Q_SLOTS:
         QVERIFY(lines.contains("DropVideoMaxDelayMs:600"));
         QCOMPARE(lines.filter("Layer"), QStringList({"LayerStaticmapsMs:1.25", "LayerVideoMs:0.5"}));
         QVERIFY(lines.filter("Paint").isEmpty()); // not reported yet
+
+        QList<GeoMapDisplay::LayerTime> layers;
+        for (int i = 0; i < 20; ++i) {
+            layers.append({QString("Layer %1").arg(i), 1.0});
+        }
+        window.setLayerTimes(layers);
+        QVERIFY2(window.minimumSizeHint().height() <= 720, "fits onto a small screen");
     }
 };
 
