@@ -170,25 +170,26 @@ bool UdpInput::joinGroup(Source &source)
                 .arg(address.lanInterface.humanReadableName()));
         return true;
     }
-    tellWhyNotJoined(address, source.socket->errorString());
+    reportFault(whyNotJoined(address, source.socket->errorString()));
+    Q_EMIT message(LogLevel::Info,
+        tr("Failed to join UDP multicast group %1 on interface %2")
+            .arg(address.group.toString(), address.lanInterface.humanReadableName()));
     return false;
 }
 
-void UdpInput::tellWhyNotJoined(const Address &address, const QString &error)
+QString UdpInput::whyNotJoined(const Address &address, const QString &error)
 {
     const QString group = address.group.toString();
     const QString lanInterface = address.lanInterface.humanReadableName();
     if (!address.group.isMulticast()) {
-        reportFault(tr("%1 is no multicast group.").arg(group));
-    } else if (address.lanInterface.isChosen() && !address.lanInterface.isValid()) {
-        reportFault(tr("The network interface %1 for the multicast group %2 is not there.").arg(lanInterface, group));
-    } else if (!address.lanInterface.isChosen()) {
-        reportFault(tr("The multicast group %1 cannot be joined: %2").arg(group, error));
-    } else {
-        reportFault(tr("The multicast group %1 cannot be joined on interface %2: %3").arg(group, lanInterface, error));
+        return tr("%1 is no multicast group.").arg(group);
     }
-    Q_EMIT message(
-        LogLevel::Info, tr("Failed to join UDP multicast group %1 on interface %2").arg(group, lanInterface));
+    if (!address.lanInterface.isChosen()) {
+        return tr("The multicast group %1 cannot be joined: %2").arg(group, error);
+    }
+    return address.lanInterface.isValid()
+        ? tr("The multicast group %1 cannot be joined on interface %2: %3").arg(group, lanInterface, error)
+        : tr("The network interface %1 for the multicast group %2 is not there.").arg(lanInterface, group);
 }
 
 void UdpInput::lookAtInterfaces()

@@ -63,7 +63,7 @@ private:
     bool bindSocket(Source &source);
     bool joinGroup(Source &source);
     static bool join(Source &source);
-    void tellWhyNotJoined(const Address &address, const QString &error);
+    static QString whyNotJoined(const Address &address, const QString &error);
     void lookAtInterface(Source &source);
     void loseInterface(Source &source, const QString &reason);
     void closeSource(Source &source);
