@@ -3546,6 +3546,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
         <source>The input is not started by itself: the program has crashed twice within a minute of its start. Press Start to try again.</source>
         <translation>Der Eingang wird nicht von selbst gestartet: das Programm ist zweimal innerhalb einer Minute nach dem Start abgestürzt. Drücken Sie Start für einen neuen Versuch.</translation>
     </message>
+    <message>
+        <source>No tracks. %1</source>
+        <translation>Keine Tracks. %1</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -6607,6 +6611,122 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>Alenia SIR-M north marker</source>
         <translation>Alenia-SIR-M-Nordmarke</translation>
+    </message>
+    <message>
+        <source>ACAS operational</source>
+        <translation>ACAS in Betrieb</translation>
+    </message>
+    <message>
+        <source>Mode S subnetwork version</source>
+        <translation>Version des Mode-S-Subnetzes</translation>
+    </message>
+    <message>
+        <source>aircraft identification can be read</source>
+        <translation>Luftfahrzeugkennung lesbar</translation>
+    </message>
+    <message>
+        <source>surveillance identifiers are known</source>
+        <translation>Überwachungskennungen bekannt</translation>
+    </message>
+    <message>
+        <source>ACAS with hybrid surveillance</source>
+        <translation>ACAS mit Hybrid-Überwachung</translation>
+    </message>
+    <message>
+        <source>ACAS with resolution advisories</source>
+        <translation>ACAS mit Ausweichempfehlungen</translation>
+    </message>
+    <message>
+        <source>registers that are filled</source>
+        <translation>gefüllte Register</translation>
+    </message>
+    <message>
+        <source>resolution advisory</source>
+        <translation>Ausweichempfehlung</translation>
+    </message>
+    <message>
+        <source>what must not be done</source>
+        <translation>was zu unterlassen ist</translation>
+    </message>
+    <message>
+        <source>advisory has ended</source>
+        <translation>Empfehlung beendet</translation>
+    </message>
+    <message>
+        <source>several threats</source>
+        <translation>mehrere Konflikte</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>corrective</source>
+        <translation>korrigierend</translation>
+    </message>
+    <message>
+        <source>preventive</source>
+        <translation>vorbeugend</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>abwärts</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>aufwärts</translation>
+    </message>
+    <message>
+        <source>climb or descend</source>
+        <translation>steigen oder sinken</translation>
+    </message>
+    <message>
+        <source>limit of vertical speed</source>
+        <translation>Begrenzung der Vertikalgeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>increased rate</source>
+        <translation>erhöhte Rate</translation>
+    </message>
+    <message>
+        <source>sense reversed</source>
+        <translation>Richtung umgekehrt</translation>
+    </message>
+    <message>
+        <source>levels cross</source>
+        <translation>Höhen kreuzen sich</translation>
+    </message>
+    <message>
+        <source>do not pass below</source>
+        <translation>nicht darunter hindurch</translation>
+    </message>
+    <message>
+        <source>do not pass above</source>
+        <translation>nicht darüber hinweg</translation>
+    </message>
+    <message>
+        <source>do not turn left</source>
+        <translation>nicht nach links drehen</translation>
+    </message>
+    <message>
+        <source>do not turn right</source>
+        <translation>nicht nach rechts drehen</translation>
+    </message>
+    <message>
+        <source>threat&apos;s address</source>
+        <translation>Adresse des Konfliktpartners</translation>
+    </message>
+    <message>
+        <source>threat&apos;s altitude</source>
+        <translation>Höhe des Konfliktpartners</translation>
+    </message>
+    <message>
+        <source>threat&apos;s range</source>
+        <translation>Entfernung des Konfliktpartners</translation>
+    </message>
+    <message>
+        <source>threat&apos;s bearing</source>
+        <translation>Peilung des Konfliktpartners</translation>
     </message>
 </context>
 <context>

@@ -3542,6 +3542,10 @@ More: View, Input Health.</source>
         <source>The input is not started by itself: the program has crashed twice within a minute of its start. Press Start to try again.</source>
         <translation>未自动启动输入：程序两次在启动后一分钟内崩溃。按“启动”重试。</translation>
     </message>
+    <message>
+        <source>No tracks. %1</source>
+        <translation>没有航迹。%1</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -6600,6 +6604,122 @@ More: View, Input Health.</source>
     <message>
         <source>Alenia SIR-M north marker</source>
         <translation>Alenia SIR-M 正北标记</translation>
+    </message>
+    <message>
+        <source>ACAS operational</source>
+        <translation>ACAS 工作中</translation>
+    </message>
+    <message>
+        <source>Mode S subnetwork version</source>
+        <translation>S 模式子网版本</translation>
+    </message>
+    <message>
+        <source>aircraft identification can be read</source>
+        <translation>可读取航空器识别</translation>
+    </message>
+    <message>
+        <source>surveillance identifiers are known</source>
+        <translation>支持监视标识码</translation>
+    </message>
+    <message>
+        <source>ACAS with hybrid surveillance</source>
+        <translation>ACAS 具备混合监视</translation>
+    </message>
+    <message>
+        <source>ACAS with resolution advisories</source>
+        <translation>ACAS 可给出决断咨询</translation>
+    </message>
+    <message>
+        <source>registers that are filled</source>
+        <translation>已填充的寄存器</translation>
+    </message>
+    <message>
+        <source>resolution advisory</source>
+        <translation>决断咨询</translation>
+    </message>
+    <message>
+        <source>what must not be done</source>
+        <translation>禁止的动作</translation>
+    </message>
+    <message>
+        <source>advisory has ended</source>
+        <translation>咨询已结束</translation>
+    </message>
+    <message>
+        <source>several threats</source>
+        <translation>多个威胁</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>corrective</source>
+        <translation>纠正性</translation>
+    </message>
+    <message>
+        <source>preventive</source>
+        <translation>预防性</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>向下</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>向上</translation>
+    </message>
+    <message>
+        <source>climb or descend</source>
+        <translation>爬升或下降</translation>
+    </message>
+    <message>
+        <source>limit of vertical speed</source>
+        <translation>垂直速率限制</translation>
+    </message>
+    <message>
+        <source>increased rate</source>
+        <translation>加大速率</translation>
+    </message>
+    <message>
+        <source>sense reversed</source>
+        <translation>方向反转</translation>
+    </message>
+    <message>
+        <source>levels cross</source>
+        <translation>高度穿越</translation>
+    </message>
+    <message>
+        <source>do not pass below</source>
+        <translation>不得从下方通过</translation>
+    </message>
+    <message>
+        <source>do not pass above</source>
+        <translation>不得从上方通过</translation>
+    </message>
+    <message>
+        <source>do not turn left</source>
+        <translation>不得左转</translation>
+    </message>
+    <message>
+        <source>do not turn right</source>
+        <translation>不得右转</translation>
+    </message>
+    <message>
+        <source>threat&apos;s address</source>
+        <translation>威胁机地址</translation>
+    </message>
+    <message>
+        <source>threat&apos;s altitude</source>
+        <translation>威胁机高度</translation>
+    </message>
+    <message>
+        <source>threat&apos;s range</source>
+        <translation>威胁机距离</translation>
+    </message>
+    <message>
+        <source>threat&apos;s bearing</source>
+        <translation>威胁机方位</translation>
     </message>
 </context>
 <context>
