@@ -61,9 +61,12 @@ void TileAttribution::choose()
     if (!m_source) {
         return;
     }
-    const QColor &own = m_source->copyrightColor;
-    m_textColor = own.isValid() && contrastRatio(own, m_ground) >= LegibleContrast ? own : m_plainText;
+    const auto legible = [this](const QColor &color) {
+        return color.isValid() && contrastRatio(color, m_ground) >= LegibleContrast;
+    };
     const bool onDark = groundFor(m_ground) == QColor(Qt::white);
+    const QColor plain = legible(m_plainText) ? m_plainText : QColor(onDark ? Qt::white : Qt::black);
+    m_textColor = legible(m_source->copyrightColor) ? m_source->copyrightColor : plain;
     m_logo = m_source->logo ? m_source->logo(onDark ? TileProvider::LogoStyle::Light : TileProvider::LogoStyle::Dark)
                             : QImage();
 }

@@ -389,7 +389,6 @@ void TestGeoTileMap::saysWhoseTheTilesAre()
     supply.make = [](const TileIndex &) { return plainTile(QColor(200, 200, 180)); };
     TileSource source = supply.source();
     source.copyright = "Copyright 2026 Site.";
-    source.copyrightColor = Qt::black;
     source.logo = [](TileProvider::LogoStyle style) {
         return plainTile(style == TileProvider::LogoStyle::Light ? Qt::white : Qt::darkBlue);
     };
@@ -397,7 +396,9 @@ void TestGeoTileMap::saysWhoseTheTilesAre()
     for (const QColor &ground : {QColor(10, 16, 24), QColor(240, 240, 235)}) {
         Config config = brightConfig();
         config.mapBackgroundColor = ground;
-        config.mapRangeRingLabelColor = ground.lightness() < 128 ? QColor(210, 220, 230) : QColor(40, 50, 60);
+        // Neither the service's own nor the map's stand out enough from the bright one.
+        config.mapRangeRingLabelColor = ground.lightness() < 128 ? QColor(210, 220, 230) : QColor(130, 145, 160);
+        source.copyrightColor = ground.lightness() < 128 ? Qt::black : Qt::white;
         GeoTileMap layer(GeoTileMap::Layer::Top);
         layer.applyConfig(config);
         layer.setSource(source);
