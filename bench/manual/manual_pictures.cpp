@@ -1,5 +1,5 @@
-// Makes the pictures of the manual: the terminal with simulated traffic, and its windows. Run by
-// packaging/make_manual_pictures.sh; by hand: manual_pictures FOLDER [SITTING...]
+// Makes the pictures of the manual, and those that show the terminal to who has not got it: with simulated traffic, and
+// its windows. Run by packaging/make_manual_pictures.sh; by hand: manual_pictures DOCS_FOLDER [SITTING...]
 
 #include "app/app_identity.h"
 #include "app/app_paths.h"
@@ -53,6 +53,7 @@ struct Sitting {
     QSize size;
     int seconds; // of traffic before the first picture
     std::vector<Picture> pictures;
+    const char *folder = "manual/pictures";
 };
 
 void let(int milliseconds)
@@ -216,7 +217,13 @@ std::vector<Sitting> sittings()
     using Id = ActionId;
     const QSize wide(1280, 720);
     const QSize crowded(1230, 692); // costs more octets
+    constexpr auto Shown = "pictures";
     return {
+        {"shown-night", "weather", "Night", wide, 60, {{"night", wholeWindow}}, Shown},
+        {"shown-dusk", "demo", "Dusk", wide, 60, {{"dusk", wholeWindow}}, Shown},
+        {"shown-day", "alerts", "Day", wide, 60, {{"day", wholeWindow}}, Shown},
+        {"shown-classic", "demo", "Classic", wide, 60, {{"classic", wholeWindow}}, Shown},
+        {"shown-surface", "smr", "Night", wide, 60, {{"surface", wholeWindow}}, Shown},
         {"night", "busy", "Night", crowded, 60, {{"busy-night", wholeWindow}}},
         {"dusk", "busy", "Dusk", crowded, 60, {{"busy-dusk", wholeWindow}}},
         {"day", "busy", "Day", crowded, 60, {{"busy-day", wholeWindow}}},
@@ -379,8 +386,9 @@ QString sensorFile(const QTemporaryDir &folder)
     return file.fileName();
 }
 
-bool sit(const Sitting &sitting, const QDir &folder)
+bool sit(const Sitting &sitting, const QDir &docs)
 {
+    const QDir folder(docs.filePath(QString::fromLatin1(sitting.folder)));
     const ThemeLibrary themes;
     DemoTraffic traffic(*sitting.scenario ? sitting.scenario : "demo");
     QString error;
@@ -427,14 +435,14 @@ int main(int argc, char *argv[])
     AppPaths::setProfile("demo");
     QStringList names = QCoreApplication::arguments().mid(1);
     if (names.isEmpty()) {
-        std::fprintf(stderr, "manual_pictures FOLDER [SITTING...]\n");
+        std::fprintf(stderr, "manual_pictures DOCS_FOLDER [SITTING...]\n");
         return 2;
     }
-    const QDir folder(names.takeFirst());
+    const QDir docs(names.takeFirst());
     bool good = true;
     for (const Sitting &sitting : sittings()) {
         if (names.isEmpty() || names.contains(QString::fromLatin1(sitting.name))) {
-            good &= sit(sitting, folder);
+            good &= sit(sitting, docs);
         }
     }
     return good ? 0 : 1;
