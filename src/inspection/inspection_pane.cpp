@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -247,6 +248,9 @@ void InspectionPane::showReport(int report)
     m_shown = report;
     const ReportView view = m_views.value(report);
     m_octets->setOctets(view.octets);
+    // A row would be cut else, as nothing scrolls to the side.
+    m_octetScroll->setMinimumWidth(
+        m_octets->minimumSizeHint().width() + m_octetScroll->verticalScrollBar()->sizeHint().width());
     m_reportTitle->setText(report < 0 ? tr("No report is kept")
                                       : tr("%1: %2, %3 octets").arg(kindOf(report), view.name).arg(view.octets.size()));
     QList<QStringList> rows;
