@@ -103,6 +103,9 @@ void RecordTree::showReport(const ReportView &view)
     for (QTreeWidgetItem *branch : std::as_const(m_branches)) {
         branch->setExpanded(!m_closed.contains(branch->data(Name, PathRole).toString()));
     }
+    if (view.category <= 0) { // names in words, and no meanings beside them
+        header()->resizeSection(Name, std::max(header()->sectionSize(Name), sizeHintForColumn(Name)));
+    }
     setCurrentItem(m_branches.value(current));
     m_filling = false;
 }
