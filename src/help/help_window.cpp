@@ -41,6 +41,7 @@ HelpWindow::HelpWindow(const Manual::MadePages &made, QWidget *parent)
 {
     setWindowTitle(tr("%1 Manual").arg(QGuiApplication::applicationDisplayName()));
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
+    QBoxLayout *bar = makeBar(); // these in the order of the tab key
     auto *split = new QSplitter(this);
     split->addWidget(makeNavigation());
     split->addWidget(m_view);
@@ -48,7 +49,7 @@ HelpWindow::HelpWindow(const Manual::MadePages &made, QWidget *parent)
     split->setSizes({260, 700});
     split->setChildrenCollapsible(false);
     auto *layout = new QVBoxLayout(this);
-    layout->addLayout(makeBar());
+    layout->addLayout(bar);
     layout->addWidget(split, 1);
     makeContents();
     connect(m_view, &QTextBrowser::sourceChanged, this, &HelpWindow::markPlace);

@@ -32,7 +32,6 @@ QColor between(const QColor &a, const QColor &b, double share)
 ManualView::ManualView(const Manual *manual, QWidget *parent) : QTextBrowser(parent), m_manual(manual)
 {
     setOpenExternalLinks(true);
-    setFrameShape(QFrame::NoFrame);
     setAccessibleName(tr("Page of the manual"));
     m_relay.setSingleShot(true);
     m_relay.setInterval(RelayDelayMs);

@@ -60,7 +60,7 @@ StaticMapsWindow::StaticMapsWindow(MapLibrary *library, QWidget *parent)
 
 void StaticMapsWindow::makeTable()
 {
-    m_table = new QTableView(this);
+    m_table = new QTableView;
     m_table->setTabKeyNavigation(false); // it leads on to the buttons
     m_table->setObjectName(QStringLiteral("mapTable"));
     m_table->setAccessibleName(tr("Maps"));
@@ -156,7 +156,8 @@ void StaticMapsWindow::makeLayout()
     style->addWidget(m_styleLabel, 1);
     QPushButton *choose = addButton(style, tr("S&tyle Sheet..."), QStringLiteral("styleButton"));
     connect(choose, &QPushButton::clicked, this, &StaticMapsWindow::chooseStyleSheet);
-    setTabOrder(choose, m_table);
+    m_table->setParent(this); // here in the order of the tab key
+    m_table->setFocus();
     auto *left = new QVBoxLayout;
     left->addWidget(m_table, 1);
     left->addWidget(m_details);

@@ -251,7 +251,8 @@ void TestWindowsKeepValues::sensorsComeBack()
         });
         manager->addSensor();
         QCOMPARE(manager->selectedName(), "EAST");
-        QTest::keyClick(manager, Qt::Key_S, Qt::ControlModifier);
+        QTest::mouseClick(manager->findChild<QPushButton *>("saveButton"), Qt::LeftButton);
+        QVERIFY(!manager->hasUnsavedChanges());
         QTest::mouseClick(manager->findChild<QPushButton *>("useButton"), Qt::LeftButton);
         QCOMPARE(window->config().sensorName, "EAST");
         QVERIFY(WindowFixture::close(*window));
