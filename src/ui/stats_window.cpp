@@ -30,7 +30,6 @@ StatsWindow::StatsWindow(QWidget *parent) : GeometryDialog("StatsWindow", parent
     setWindowTitle(tr("Statistics"));
     // Beside each other: the layers are many, and the window has to fit onto a small screen.
     auto *panes = new QHBoxLayout;
-    panes->setSpacing(2 * Gap);
     QGridLayout *grid = addPane(panes);
     addHeading(grid, tr("Data Pipeline (10 s window)"));
     addValue(grid, "tracks", tr("Tracks in snapshot:"));
@@ -49,6 +48,7 @@ StatsWindow::StatsWindow(QWidget *parent) : GeometryDialog("StatsWindow", parent
     addValue(grid, "placelessWeather", tr("Weather pictures without the radar's place:"));
     addValue(grid, "videoDelay", tr("Largest video delay:"));
     addValue(grid, "weatherDelay", tr("Largest weather delay:"));
+    panes->addSpacing(Gap);
     m_grid = grid = addPane(panes);
     addHeading(grid, tr("Painting (10 s window)"));
     addValue(grid, "frames", tr("Frames:"));
