@@ -2948,7 +2948,7 @@
     </message>
     <message>
         <source>Its reports carry no track numbers, so they make no tracks; the plot layer shows them.</source>
-        <translation>Seine Meldungen tragen keine Tracknummern und ergeben daher keine Tracks; die Plot-Ebene zeigt sie.</translation>
+        <translation>Ihre Meldungen tragen keine Tracknummern und ergeben daher keine Tracks; die Plot-Ebene zeigt sie.</translation>
     </message>
 </context>
 <context>
