@@ -29,7 +29,7 @@ namespace {
 QByteArray plot(double rangeNm, double azimuth, quint32 address)
 {
     const auto timeOfDay =
-        static_cast<quint32>(QTime(0, 0).msecsTo(QDateTime::currentDateTimeUtc().time()) * 128 / 1000);
+        static_cast<quint32>(QTime(0, 0).msecsTo(QDateTime::currentDateTimeUtc().time()) * 128LL / 1000);
     const auto rho = static_cast<quint16>(rangeNm * 256);
     const auto theta = static_cast<quint16>(azimuth * 65536.0 / 360.0);
     QByteArray record;
