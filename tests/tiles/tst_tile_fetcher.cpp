@@ -1,9 +1,6 @@
-#include "app/config.h"
+#include "fetcher_rig.h"
 #include "test_program.h"
-#include "tile_server.h"
-#include "tiles/tile_fetcher.h"
 #include "tiles/tile_image.h"
-#include "tiles/tile_providers.h"
 
 #include <QDirIterator>
 #include <QTemporaryDir>
@@ -11,9 +8,7 @@
 
 namespace {
 
-constexpr TileIndex First{1, 2, 3};
 constexpr TileIndex Second{2, 2, 3};
-constexpr char Secret[] = "s3cr3t";
 
 ServerAnswer chunked(const QByteArray &body)
 {
@@ -25,12 +20,12 @@ ServerAnswer chunked(const QByteArray &body)
 } // namespace
 
 // Against a server on this machine, by the requests that it counts.
-class TestTileFetcher : public QObject {
+class TestTileFetcher : public QObject, FetcherRig {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { begin(); }
+    void cleanup() { end(); }
     void fetches();
     void readsAnswersInPieces();
     void staysWithinTheLimit();
@@ -45,81 +40,11 @@ private Q_SLOTS:
     void letsNoTileHoldUpOthers();
     void givesUpSlowAnswersOfViewsLeft();
     void reportsMissingTilesOnce();
-    void followsRedirects_data();
-    void followsRedirects();
-    void keepsHeadersFromOtherServers();
-    void staysOnSecureWays_data();
-    void staysOnSecureWays();
-    void distrustsUnknownServers();
     void mendsItsCache();
     void cachesWholeAnswersOnly();
     void nothingLeavesWithoutConsent();
     void namesItself();
-
-private:
-    void make(const QString &address);
-    void ask(const TileIndex &index);
-    void settle() { QTRY_COMPARE(m_fetcher->inFlight(), 0); }
-    bool quiet() const;
-
-    std::unique_ptr<TileServer> m_server;
-    std::unique_ptr<TileFetcher> m_fetcher;
-    Config m_config;
-    QDateTime m_now;
-    QStringList m_log;
-    QList<TileIndex> m_received;
-    QList<TileIndex> m_unavailable;
 };
-
-void TestTileFetcher::init()
-{
-    m_server = std::make_unique<TileServer>();
-    m_now = QDateTime(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC);
-    m_config = Config();
-    m_config.mapTileConsent = true;
-    m_config.mapTileCacheDir.clear();
-    m_config.mapCustomTileHeader = QStringLiteral("X-Key: ") + QLatin1String(Secret);
-    make(m_server->tileTemplate() + QStringLiteral("?key=") + QLatin1String(Secret));
-}
-
-void TestTileFetcher::make(const QString &address)
-{
-    m_log.clear();
-    m_received.clear();
-    m_unavailable.clear();
-    m_config.mapCustomTileUrl = address;
-    m_fetcher = makeTileFetcher(TileService::Custom, m_config);
-    m_fetcher->setClock([this] { return m_now; });
-    connect(
-        m_fetcher.get(), &TileFetcher::message, this, [this](LogLevel, const QString &text) { m_log.append(text); });
-    connect(
-        m_fetcher.get(), &TileFetcher::received, this, [this](const TileIndex &index) { m_received.append(index); });
-    connect(m_fetcher.get(), &TileFetcher::unavailable, this,
-        [this](const TileIndex &index) { m_unavailable.append(index); });
-}
-
-// No text holds what the address or the headers keep secret.
-void TestTileFetcher::cleanup()
-{
-    for (const QString &line : m_log + QStringList{m_fetcher->stateText()}) {
-        QVERIFY2(!line.contains(QLatin1String(Secret)) && !line.contains(u'?'), qPrintable(line));
-    }
-    m_fetcher.reset();
-}
-
-void TestTileFetcher::ask(const TileIndex &index)
-{
-    m_fetcher->enqueue(index);
-    m_fetcher->pump();
-}
-
-// Nothing more comes by itself.
-bool TestTileFetcher::quiet() const
-{
-    const qsizetype before = m_server->count();
-    QTest::qWait(60);
-    return m_server->count() == before;
-}
 
 void TestTileFetcher::fetches()
 {
@@ -381,105 +306,6 @@ void TestTileFetcher::reportsMissingTilesOnce()
     settle();
     QCOMPARE(m_log.size(), 1);
     QCOMPARE(m_fetcher->missingCount(), 8);
-}
-
-void TestTileFetcher::followsRedirects_data()
-{
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<int>("requests");
-    QTest::addColumn<bool>("arrives");
-    QTest::addRow("elsewhere on the server") << "/moved/3/1/2.png" << 2 << true;
-    QTest::addRow("a loop") << "/loop/3/1/2.png" << 6 << false;
-    QTest::addRow("a file") << "file:///etc/passwd" << 1 << false;
-}
-
-void TestTileFetcher::followsRedirects()
-{
-    QFETCH(QString, target);
-    QFETCH(int, requests);
-    QFETCH(bool, arrives);
-    m_server->setAnswers([&](const QByteArray &asked) -> std::optional<ServerAnswer> {
-        return asked.startsWith("/moved") ? std::nullopt : std::optional(TileServer::redirect(target));
-    });
-    ask(First);
-    settle();
-    QVERIFY2(m_server->count() <= requests, qPrintable(QString::number(m_server->count())));
-    QCOMPARE(m_received.size(), arrives ? 1 : 0);
-    QCOMPARE(m_log.size(), arrives ? 0 : 1);
-    QVERIFY(arrives || m_log.first().startsWith(QLatin1String("Tile service error: ")));
-}
-
-void TestTileFetcher::keepsHeadersFromOtherServers()
-{
-    TileServer other;
-    m_server->setAnswer(
-        TileServer::redirect(other.tileTemplate().replace(QLatin1String("{z}/{x}/{y}"), QLatin1String("3/1/2"))));
-    ask(First);
-    settle();
-    QCOMPARE(other.count(), 0);
-    m_config.mapCustomTileHeader.clear();
-    make(m_server->tileTemplate());
-    ask(First);
-    settle();
-    QCOMPARE(other.count(), 1);
-    QCOMPARE(m_received.size(), 1);
-}
-
-void TestTileFetcher::staysOnSecureWays_data()
-{
-    using Transport = TileServer::Transport;
-    QTest::addColumn<TileServer::Transport>("from");
-    QTest::addColumn<TileServer::Transport>("to");
-    QTest::addColumn<bool>("key");
-    QTest::addColumn<QString>("refusal");
-    const auto insecure = QStringLiteral("insecure address");
-    QTest::addRow("from secure to insecure") << Transport::Tls << Transport::Plain << false << insecure;
-    QTest::addRow("from secure to insecure, with a key") << Transport::Tls << Transport::Plain << true << insecure;
-    QTest::addRow("from secure to secure") << Transport::Tls << Transport::Tls << false << QString();
-    QTest::addRow("from secure to secure, with a key")
-        << Transport::Tls << Transport::Tls << true << QStringLiteral("must not see the key");
-    QTest::addRow("from insecure to secure") << Transport::Plain << Transport::Tls << false << QString();
-}
-
-// Redirects to another server.
-void TestTileFetcher::staysOnSecureWays()
-{
-    QFETCH(TileServer::Transport, from);
-    QFETCH(TileServer::Transport, to);
-    QFETCH(bool, key);
-    QFETCH(QString, refusal);
-    if (!TileServer::hasTls()) {
-        QSKIP("Qt has no TLS on this machine.");
-    }
-    TileServer::setTrusted(true);
-    TileServer first(from);
-    TileServer second(to);
-    first.setAnswer(TileServer::redirect(second.address() + QStringLiteral("/3/1/2.png")));
-    if (!key) {
-        m_config.mapCustomTileHeader.clear();
-    }
-    make(first.tileTemplate());
-    ask(First);
-    settle();
-    TileServer::setTrusted(false);
-    QCOMPARE(first.count(), 1);
-    QCOMPARE(second.count(), refusal.isEmpty() ? 1 : 0);
-    QCOMPARE(m_received.size(), second.count());
-    QVERIFY2(refusal.isEmpty() ? m_log.isEmpty() : m_log.join(u'|').contains(refusal), qPrintable(m_log.join(u'|')));
-}
-
-void TestTileFetcher::distrustsUnknownServers()
-{
-    if (!TileServer::hasTls()) {
-        QSKIP("Qt has no TLS on this machine.");
-    }
-    TileServer stranger(TileServer::Transport::Tls);
-    make(stranger.tileTemplate());
-    ask(First);
-    settle();
-    QCOMPARE(stranger.count(), 0); // nor has it seen the key
-    QCOMPARE(
-        m_log, QStringList{"Network error while requesting tiles: no secure connection could be made (127.0.0.1)"});
 }
 
 void TestTileFetcher::mendsItsCache()
