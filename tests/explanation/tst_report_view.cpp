@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+#include <array>
+
 namespace {
 
 QString fieldText(const ReportView &view, const char *key)
@@ -22,6 +24,15 @@ public:
 
     QList<KeptReport> reports;
 };
+
+// Contents of the register with that code.
+void addRegister(BlockEncoder &e, int code, const std::array<unsigned char, 7> &contents)
+{
+    e.addRepetition("250");
+    e.setExplicit("250/MBDATA", contents);
+    e.set("250/BDS1", code >> 4);
+    e.set("250/BDS2", code & 0xF);
+}
 
 } // namespace
 
@@ -61,14 +72,8 @@ void TestReportView::takesRegistersApart()
 {
     const auto view = viewReport(keptRecord(48, 0, [](BlockEncoder &e) {
         // Selected altitude 24,000 ft, FMS not told; then a barometric rate of -512 ft/min.
-        const unsigned char intention[] = {0xAE, 0xE0, 0, 0, 0, 0, 0};
-        e.addRepetition("250");
-        e.setExplicit("250/MBDATA", intention);
-        e.set("250/BDS1", 4);
-        const unsigned char speed[] = {0, 0, 0, 0, 0x3F, 0x80, 0};
-        e.addRepetition("250");
-        e.setExplicit("250/MBDATA", speed);
-        e.set("250/BDS1", 6);
+        addRegister(e, 0x40, {0xAE, 0xE0});
+        addRegister(e, 0x60, {0, 0, 0, 0, 0x3F, 0x80});
     }));
     QCOMPARE(fieldText(view, "bds40/mcp"), QString("24000 ft @25+12"));
     QVERIFY(!view.find("bds40/fms"));
@@ -78,15 +83,8 @@ void TestReportView::takesRegistersApart()
 void TestReportView::takesAdvisoryApart()
 {
     const auto view = viewReport(keptRecord(48, 0, [](BlockEncoder &e) {
-        const unsigned char advisory[] = {0x30, 0xC2, 0x02, 0x05, 0x2C, 0x68, 0xB0};
-        e.addRepetition("250");
-        e.setExplicit("250/MBDATA", advisory);
-        e.set("250/BDS1", 3);
-        const unsigned char filled[] = {0xFA, 0x81, 0, 0, 0, 0, 0};
-        e.addRepetition("250");
-        e.setExplicit("250/MBDATA", filled);
-        e.set("250/BDS1", 1);
-        e.set("250/BDS2", 7);
+        addRegister(e, 0x30, {0x30, 0xC2, 0x02, 0x05, 0x2C, 0x68, 0xB0});
+        addRegister(e, 0x17, {0xFA, 0x81});
     }));
     QCOMPARE(fieldText(view, "bds30/advisory"), QString("corrective, upwards, climb or descend @32+14"));
     QCOMPARE(fieldText(view, "bds30/complement"), QString("do not pass below @46+4"));
