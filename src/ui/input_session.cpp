@@ -12,6 +12,11 @@ bool InputSession::replaying() const
     return m_config->live().inputComm == Config::InputComm::File;
 }
 
+QFileInfo InputSession::recording() const
+{
+    return replaying() ? m_config->live().inputFileName : QFileInfo();
+}
+
 QString InputSession::description() const
 {
     const Config &config = m_config->live();

@@ -29,11 +29,15 @@ public:
     InputSession(RunConfig *config, EngineHost *host);
 
     State state() const { return m_state; }
+    bool isOpen() const { return m_state == State::Open; }
+    bool isClosed() const { return m_state == State::Closed; }
     bool paused() const { return m_paused; }
     // Of the newest opening, 0 before the first.
     quint64 requestId() const { return m_requestId; }
     // The input of this run is a recording, whether or not it is open.
     bool replaying() const;
+    // The recording; empty while the input of this run is a live one.
+    QFileInfo recording() const;
     // There is a live input to go back to.
     bool liveInputWaits() const { return m_liveInput.has_value(); }
     ReplaySpeed::Speed replaySpeed() const { return m_replaySpeed; }

@@ -1,57 +1,45 @@
 #pragma once
 
-#include "app/log_file.h"
 #include "app/log_level.h"
 #include "app/run_config.h"
 #include "engine/display_snapshot.h"
 #include "engine/engine_host.h"
 #include "engine/replay_speed.h"
-#include "explanation/absence.h"
 #include "maps/map_file.h"
 #include "processors/video_processor.h"
 #include "processors/weather_processor.h"
 #include "tracking/alert.h"
 #include "ui/drop_stats.h"
+#include "ui/shutdown.h"
 
 #include <QMainWindow>
-#include <QPointer>
-#include <QTimer>
 
 class Actions;
-class EmptyScope;
+class Analysis;
 class FirstStart;
-class GeoMapDisplay;
-class GeoTrackDisplay;
 class GeoWidget;
 class Help;
 class HomeView;
 class InputHealth;
+class InputNotices;
 class InputSession;
-class Inspection;
 class LayoutMenu;
 class LockCommands;
 class ListPanes;
-class LogPane;
 class MapWindows;
+class Messages;
 class PlanDisplay;
-class PlotSwitch;
-class RangeRingWindow;
 class RecordingOpener;
 class ReplayControls;
-class ScopeNotice;
 class SecondViews;
-class SensorCheck;
 class SensorManager;
 class SnapshotPump;
 class StatsWindow;
-class StatusLine;
 class StatusReadOuts;
-class StreamWindows;
 class ThemeMenu;
 class TileMaps;
 class TrackCommands;
-class TrackLabelFormatWindow;
-class WeatherIntensityWindow;
+class ViewWindows;
 class Workplace;
 
 #include <functional>
@@ -69,8 +57,7 @@ public:
     ~MainWindow() override;
 
     // What is to follow when this program has ended.
-    enum class Afterwards { Nothing, Start, StartWithInput };
-    Afterwards afterwards() const { return m_afterwards; }
+    Shutdown::Afterwards afterwards() const { return m_shutdown->afterwards(); }
 
     // Restores layout and window state. To be called once, after show(). A size is for this run only.
     void loadUi(const QSize &size = {});
@@ -82,10 +69,10 @@ public:
     const Config &config() const { return m_config.live(); }
     bool inputOpen() const;
     const InputSession &session() const { return *m_session; }
-    const InputHealth &health() const { return *m_health; }
+    const InputHealth &health() const;
     // Null before the first.
     QSharedPointer<const DisplaySnapshot> newestSnapshot() const;
-    GeoWidget *geoWidget() const { return m_geoWidget; }
+    GeoWidget *geoWidget() const;
     const EngineHost &engineHost() const { return m_host; }
     RecordingOpener *recordingOpener() const;
     ThemeMenu *themes() const { return m_themes; }
@@ -103,7 +90,7 @@ public:
     void setShutdownWaits(int confirmMs, int threadMs);
 
 public Q_SLOTS:
-    // The log: each line goes to the log pane, to the log file, and to the status bar while the pane is out of sight.
+    // The log: see Messages.
     void showLog(LogLevel level, const QString &text);
     void showLogInfo(const QString &text) { showLog(LogLevel::Info, text); }
 
@@ -137,7 +124,6 @@ public Q_SLOTS:
     void clearTrackList();
     void clearAlertList();
     void trackListSelectionChanged();
-    void alertListSelectionChanged();
     void selectTrackInList(unsigned long long id);
     // Any other type than the three is ignored.
     void updateAlertStatus(Alert::Type type, bool on);
@@ -185,6 +171,7 @@ public Q_SLOTS:
     void requestExit();
     // Closes as the operator's Exit does, but for the question about the input, which is to go on afterwards.
     void restart();
+    // See Shutdown.
     void continueShutdown();
 
 Q_SIGNALS:
@@ -209,38 +196,44 @@ protected:
 private:
     // Raised when docks or tool bars change so that an older arrangement no longer fits.
     static constexpr int ArrangementVersion = 2;
-    enum class Shutdown { NotBegun, Begun, Complete };
 
     // Construction.
+    void setQuestions();
     void makeDisplay();
     void makeFurniture();
     void makeResizeMenu();
-    void makeMessagesDock();
     void makeParts();
-    void makeInspection();
+    void makeExplainers();
     void routeLibraryLogs();
-    void connectThemes();
+    void startClock();
+
+    // Parts to each other.
+    void connectLog();
+    void connectSettings();
     void connectEngine();
     void connectSession();
     void connectRecordings();
     void connectDisplay();
-    void connectScopeNotices();
+    void connectMapWindows();
+    void connectSecondViews();
     void connectHealth();
     void connectFirstStart();
+    void connectWorkplace();
+    void connectShutdown();
+
+    // Commands to parts.
     void connectInputActions();
     void connectViewActions();
     void connectTrackActions();
     void connectLabelActions();
     void connectMapActions();
-    void connectMapWindows();
-    void connectTileMaps();
-    void connectSecondViews();
     void connectDialogActions();
-    void connectStreamWindows();
+    void checkSettingToggles();
 
     // Settings.
     // What concerns settings of these groups.
     void applyConfig(SettingGroups changed);
+    void applyLook();
     // Starts the sensor's picture anew; not while an input is open.
     void applySensor();
     void placeDefaultLayout();
@@ -250,102 +243,68 @@ private:
     void showSensorPlace();
     // After a recording has set some, or given them back.
     void takeRunSettings(SettingGroups changed);
-    // Says why, and shows the picture as before.
-    void refuseRecording(const QString &reason);
     // From the settings window.
     void takeSettings(const Config &edited);
     // The same, and opens the input with them.
     void startWith(const Config &edited);
     // Asks for the password first where settings are locked; then the change comes later or never.
     void editConfig(const std::function<void(Config &)> &change);
+    // Takes effect at once: an open input is opened anew.
+    void changeSensor(const std::function<void(Config &)> &change);
+    void chooseSensor(const QSharedPointer<SensorInfo> &sensor);
     void loadSensorDatabase();
     void loadAircraftDatabase();
-    void setRangeRings(const GeoCoordinate &center, int number, double distanceNauticalMiles);
-    void showRangeRings();
-    void chooseSensor(const QSharedPointer<SensorInfo> &sensor);
+    // Absolute; nothing changes where the setting leads to it already.
+    void storeMapFile(QString Config::*member, const QString &file);
 
     // What the window shows of the session.
     void showSession();
-    void updateInputActions();
-    void tellHealthOfInput();
-    void showHealth();
-    // Takes effect at once: an open input is opened anew.
-    void changeSensor(const std::function<void(Config &)> &change);
-    // Why the scope is empty or old, or shows plots; empty when that needs no words.
-    QString scopeNotice() const;
-    QString emptyNotice(const QString &input) const;
-    // For who asks why a target is not shown.
-    AbsenceFacts inputFacts() const;
-    void updateNotices();
+    void showTitle();
 
     // Life cycle.
     void loadUiState(const QSize &size);
-    void bringInFront();
     void saveUiState() const;
+    void storeArrangement();
     void arrangeDocks();
-    void connectWorkplace();
-    void closeMapsAndShutDown(Afterwards afterwards);
+    void bringInFront();
     bool confirm(const QString &title, const QString &text);
-    void beginShutdown();
-    void forceShutdown();
+    void closeMapsAndShutDown(Shutdown::Afterwards afterwards);
 
     RunConfig m_config;
     EngineHost m_host;
     std::unique_ptr<SensorManager> m_sensors;
     std::unique_ptr<PlanDisplay> m_plan;
-    GeoMapDisplay *m_mapDisplay = nullptr; // these two are the plan's
-    GeoTrackDisplay *m_trackDisplay = nullptr;
 
     // Widgets, and what hangs on them, are the window's children.
-    GeoWidget *m_geoWidget = nullptr;
     Workplace *m_workplace = nullptr;
-    ScopeNotice *m_scopeNotice = nullptr;
     Actions *m_actions = nullptr;
     std::unique_ptr<LockCommands> m_lock;
     ThemeMenu *m_themes = nullptr;
     StatusReadOuts *m_readOuts = nullptr;
+    Messages *m_messages = nullptr;
+    StatsWindow *m_stats = nullptr;
     Help *m_help = nullptr;
-    std::unique_ptr<StatusLine> m_statusLine;
-    LogPane *m_logPane = nullptr;
-    LogFile m_logFile;
-    QDockWidget *m_messagesDock = nullptr;
-    struct {
-        StatsWindow *stats = nullptr;
-        QPointer<RangeRingWindow> rangeRing;
-        QPointer<WeatherIntensityWindow> weatherIntensity;
-        QPointer<TrackLabelFormatWindow> trackLabelFormat;
-    } m_windows;
 
     // These work on all of the above, so they go before it.
     std::unique_ptr<InputSession> m_session;
     std::unique_ptr<SnapshotPump> m_pump;
-    std::unique_ptr<PlotSwitch> m_plotSwitch;
-    std::unique_ptr<EmptyScope> m_emptyScope;
-    std::unique_ptr<InputHealth> m_health;
     std::unique_ptr<ListPanes> m_lists;
     std::unique_ptr<TrackCommands> m_trackCommands;
-    std::unique_ptr<Inspection> m_inspection;
-    std::unique_ptr<StreamWindows> m_streamWindows;
     std::unique_ptr<HomeView> m_home;
     std::unique_ptr<LayoutMenu> m_layoutMenu;
     std::unique_ptr<MapWindows> m_mapWindows;
     std::unique_ptr<TileMaps> m_tileMaps;
+    std::unique_ptr<ViewWindows> m_viewWindows;
     std::unique_ptr<ReplayControls> m_replay;
     std::unique_ptr<SecondViews> m_views;
-    std::unique_ptr<SensorCheck> m_sensorCheck;
+    std::unique_ptr<Analysis> m_analysis;
+    std::unique_ptr<InputNotices> m_notices;
     std::unique_ptr<FirstStart> m_firstStart;
-    QTimer m_clockTimer;
+    std::unique_ptr<Shutdown> m_shutdown;
 
     QSize m_sizeOfRun; // empty: as stored
-    LogLevel m_minimumLevel = LogLevel::Info;
-    Shutdown m_shutdown = Shutdown::NotBegun;
-    Afterwards m_afterwards = Afterwards::Nothing;
     struct {
         std::function<bool()> exit;
         std::function<bool()> stop;
     } m_questions;
-    struct {
-        int confirmMs = 10000;
-        int threadMs = 5000;
-    } m_shutdownWaits;
 };

@@ -1,26 +1,20 @@
-// From the first frame to the last: window state, and the shutdown in step with the engine.
+// From the first frame to the last: window state, and the end.
 
-#include "airdb/lib_air_db.h"
-#include "app/app_paths.h"
 #include "app/ui_state.h"
 #include "display/geo_map_display.h"
-#include "display/geo_track_display.h"
-#include "engine/data_engine.h"
 #include "lists/list_panes.h"
 #include "plan_view/geo_widget.h"
+#include "plan_view/plan_display.h"
 #include "radar_painting/geo_weather_map.h"
 #include "second_view/second_views.h"
-#include "sensors/sensor_manager.h"
 #include "ui/actions.h"
 #include "ui/home_view.h"
 #include "ui/input_session.h"
 #include "ui/layout_menu.h"
 #include "ui/main_window.h"
 #include "ui/map_windows.h"
-#include "ui/replay_controls.h"
-#include "ui/snapshot_pump.h"
+#include "ui/messages.h"
 #include "ui/theme_menu.h"
-#include "workplace/alert_indicator.h"
 #include "workplace/workplace.h"
 
 #include <QAction>
@@ -29,7 +23,7 @@
 #include <QGuiApplication>
 #include <QLayout>
 #include <QMessageBox>
-#include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 namespace {
@@ -64,7 +58,7 @@ void MainWindow::loadUi(const QSize &size)
     if (!m_views->windows().empty()) {
         bringInFront();
     }
-    m_geoWidget->setFocus();
+    m_plan->widget()->setFocus();
 }
 
 // The other views came later. None of them is forgotten behind this window, which the window system puts in front when
@@ -101,7 +95,7 @@ void MainWindow::loadUiState(const QSize &size)
     m_lists->restore(group);
     m_themes->restoreFormat(UiState::value(group, TrackFormatKey));
     for (const char level : UiState::value(group, WeatherLevelsKey)) {
-        m_mapDisplay->weatherMap()->setLevelVisible(level - '0', false);
+        m_plan->map()->weatherMap()->setLevelVisible(level - '0', false);
     }
 }
 
@@ -114,9 +108,17 @@ void MainWindow::saveUiState() const
     UiState::saveValue(group, ArrangementKey, m_workplace->arrangement());
     m_lists->save(group);
     UiState::saveValue(group, TrackFormatKey, m_themes->formatToStore());
-    UiState::saveValue(group, WeatherLevelsKey, levelsOff(*m_mapDisplay->weatherMap()));
+    UiState::saveValue(group, WeatherLevelsKey, levelsOff(*m_plan->map()->weatherMap()));
     if (!m_config.onTrial()) {
         m_home->save(group);
+    }
+}
+
+// On disk before it goes out of sight: a crash in full screen must not cost it.
+void MainWindow::storeArrangement()
+{
+    if (m_workplace->active() && !m_config.lock().locked()) {
+        UiState::saveValue(objectName(), ArrangementKey, m_workplace->arrangement());
     }
 }
 
@@ -125,7 +127,7 @@ void MainWindow::arrangeDocks()
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     QDockWidget *alerts = m_lists->alertDock();
     splitDockWidget(m_lists->trackDock(), alerts, Qt::Vertical);
-    for (auto *dock : {m_messagesDock, findChild<QDockWidget *>("healthDock")}) {
+    for (auto *dock : {m_messages->dock(), findChild<QDockWidget *>("healthDock")}) {
         tabifyDockWidget(alerts, dock);
     }
     alerts->raise();
@@ -135,38 +137,15 @@ void MainWindow::arrangeDocks()
     QTimer::singleShot(0, m_lists.get(), &ListPanes::widenToWholeColumns); // when the panes have their sizes
 }
 
-// The arrangement is on disk before it goes out of sight: a crash in full screen must not cost it.
-void MainWindow::connectWorkplace()
+bool MainWindow::confirm(const QString &title, const QString &text)
 {
-    auto *indicator = new AlertIndicator(m_geoWidget);
-    const auto show = [this, indicator] {
-        const auto picture = m_pump->newest();
-        const int asking = static_cast<int>(m_trackDisplay->alertBoard().askingCount());
-        indicator->showAlerts(picture ? picture->alertStatus : std::array<bool, 3>(), asking);
-    };
-    connect(m_pump.get(), &SnapshotPump::snapshotTaken, indicator, show);
-    connect(m_trackDisplay, &GeoTrackDisplay::acknowledged, indicator, show);
-    connect(m_workplace, &Workplace::statusShown, indicator,
-        [this, indicator](bool shown) { indicator->setVisible(m_workplace->active() && !shown); });
-    QAction *edges = (*m_actions)[ActionId::ShowEdges];
-    connect(edges, &QAction::triggered, m_workplace, &Workplace::toggleEdges);
-    edges->setEnabled(false);
-    connect(m_workplace, &Workplace::changed, this, [this, edges](bool active) {
-        edges->setEnabled(active);
-        if (active && !m_config.lock().locked()) {
-            UiState::saveValue(objectName(), ArrangementKey, m_workplace->arrangement());
-        }
-    });
-}
-
-void MainWindow::setShutdownWaits(int confirmMs, int threadMs)
-{
-    m_shutdownWaits = {confirmMs, threadMs};
+    return QMessageBox::question(this, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+        == QMessageBox::Yes;
 }
 
 void MainWindow::exitApplication()
 {
-    if (m_session->state() != InputSession::State::Closed) {
+    if (!m_session->isClosed()) {
         showLog(LogLevel::Info, tr("UDP input is working now, stop it first!"));
         return;
     }
@@ -175,85 +154,41 @@ void MainWindow::exitApplication()
 
 void MainWindow::requestExit()
 {
-    if (m_shutdown == Shutdown::NotBegun) {
-        beginShutdown();
-    }
-}
-
-bool MainWindow::confirm(const QString &title, const QString &text)
-{
-    return QMessageBox::question(this, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
-        == QMessageBox::Yes;
+    m_shutdown->begin(Shutdown::Afterwards::Nothing);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (m_shutdown == Shutdown::Complete) {
-        event->accept();
-        return;
+    event->setAccepted(m_shutdown->complete());
+    if (!m_shutdown->begun() && (m_session->isClosed() || m_questions.exit())) {
+        closeMapsAndShutDown(Shutdown::Afterwards::Nothing);
     }
-    event->ignore();
-    if (m_shutdown == Shutdown::Begun || (m_session->state() != InputSession::State::Closed && !m_questions.exit())) {
-        return;
-    }
-    closeMapsAndShutDown(Afterwards::Nothing);
 }
 
 // A recording and a demonstration are of the run that ends.
 void MainWindow::restart()
 {
-    const bool running = m_session->state() != InputSession::State::Closed || m_session->waiting();
+    const bool running = !m_session->isClosed() || m_session->waiting();
     const bool goesOn = running && !m_session->liveInputWaits() && !m_config.onTrial();
-    closeMapsAndShutDown(goesOn ? Afterwards::StartWithInput : Afterwards::Start);
+    closeMapsAndShutDown(goesOn ? Shutdown::Afterwards::StartWithInput : Shutdown::Afterwards::Start);
 }
 
-// Not when the operator wants to look after his unsaved changes. While he was asked, or a map was written, the program
-// may have been told to end.
-void MainWindow::closeMapsAndShutDown(Afterwards afterwards)
+// Not when the operator wants to look after his unsaved changes; and when a map is being written, after that.
+void MainWindow::closeMapsAndShutDown(Shutdown::Afterwards afterwards)
 {
-    if (m_mapWindows->close([this, afterwards] { closeMapsAndShutDown(afterwards); })
-        && m_shutdown == Shutdown::NotBegun) {
-        m_afterwards = afterwards;
-        beginShutdown();
+    if (m_mapWindows->close([this, afterwards] { closeMapsAndShutDown(afterwards); })) {
+        m_shutdown->begin(afterwards);
     }
 }
 
-void MainWindow::beginShutdown()
+void MainWindow::setShutdownWaits(int confirmMs, int threadMs)
 {
-    Q_EMIT shutdownBegun();
-    saveUiState();
-    m_views->closeAll();
-    m_config.flush();
-    m_shutdown = Shutdown::Begun;
-    m_replay->opener()->cancel();
-    m_pump->stop();
-    if (!m_session->shutDown()) {
-        QTimer::singleShot(0, this, &MainWindow::continueShutdown);
-    }
-    QTimer::singleShot(m_shutdownWaits.confirmMs, this, &MainWindow::forceShutdown);
-}
-
-void MainWindow::forceShutdown()
-{
-    if (m_shutdown != Shutdown::Begun) {
-        return;
-    }
-    showLog(LogLevel::Warning, tr("Data engine did not confirm the input close within 10 s, forcing shutdown."));
-    continueShutdown();
+    m_shutdown->setWaits(confirmMs, threadMs);
 }
 
 void MainWindow::continueShutdown()
 {
-    if (m_shutdown != Shutdown::Begun) {
-        return;
-    }
-    disconnect(m_host.engine(), nullptr, this, nullptr);
-    if (!m_host.stop(m_shutdownWaits.threadMs)) {
-        showLog(LogLevel::Warning, tr("Data processing thread did not stop within 5 s, abandoning it."));
-    }
-    m_shutdown = Shutdown::Complete;
-    close();
-    Q_EMIT shutdownComplete();
+    m_shutdown->proceed();
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -265,22 +200,4 @@ void MainWindow::changeEvent(QEvent *event)
         (*m_actions)[ActionId::FullScreen]->setChecked(isFullScreen());
     }
     QMainWindow::changeEvent(event);
-}
-
-void MainWindow::loadSensorDatabase()
-{
-    const QString file = AppPaths::resolvePath(m_config.live().sensorDatabase);
-    if (!file.isEmpty() && !m_sensors->loadFromJsonFile(QFileInfo(file))) {
-        showLog(LogLevel::Warning, tr("Cannot read the sensor file %1").arg(file));
-    }
-}
-
-void MainWindow::loadAircraftDatabase()
-{
-    const QFileInfo file(AppPaths::exeDir() + "/../share/vyxdisplay/airdb.dat");
-    korvane::airdb::LibAirDB database;
-    if (!database.loadFromDataFile(file)) {
-        showLog(LogLevel::Warning, tr("Cannot load the aircraft database: %1").arg(database.lastError()));
-    }
-    m_lists->setAddresses(database.getICAOAddrDict());
 }

@@ -175,7 +175,7 @@ bool attended(const CommandLine &commandLine)
 
 // From the main window's construction to the end of the event loop.
 int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTraffic *demo, QSplashScreen &splash,
-    const QElapsedTimer &clock, MainWindow::Afterwards &afterwards)
+    const QElapsedTimer &clock, Shutdown::Afterwards &afterwards)
 {
     MainWindow window([&commandLine, demo](Config &config) {
         if (demo) {
@@ -235,7 +235,7 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
 }
 
 int runApplication(int argc, char *argv[], const CommandLine &commandLine, const QElapsedTimer &clock,
-    MainWindow::Afterwards &afterwards)
+    Shutdown::Afterwards &afterwards)
 {
     QApplication application(argc, argv);
     setApplicationIdentity();
@@ -354,13 +354,13 @@ int qMain(int argc, char *argv[])
         return complain(QCoreApplication::translate(
             "main", "no screen: set DISPLAY or WAYLAND_DISPLAY, or QT_QPA_PLATFORM=offscreen to run without one"));
     }
-    auto afterwards = MainWindow::Afterwards::Nothing;
+    auto afterwards = Shutdown::Afterwards::Nothing;
     const int status = runApplication(argc, argv, *commandLine, clock, afterwards);
-    if (afterwards == MainWindow::Afterwards::Nothing) {
+    if (afterwards == Shutdown::Afterwards::Nothing) {
         return status;
     }
     // When nothing of this run is left: settings, control socket and serial devices are the next one's.
-    restartProgram(restartArguments(arguments, afterwards == MainWindow::Afterwards::StartWithInput));
+    restartProgram(restartArguments(arguments, afterwards == Shutdown::Afterwards::StartWithInput));
     return complain(QCoreApplication::translate("main", "the program cannot be started again"));
 }
 

@@ -179,8 +179,7 @@ void TestMainWindowSettings::anotherLanguageComesWithARestart()
         QVERIFY(now->isVisible());
         now->click();
         QTRY_COMPARE(ended.size(), 1);
-        QVERIFY(
-            window->afterwards() == (running ? MainWindow::Afterwards::StartWithInput : MainWindow::Afterwards::Start));
+        QVERIFY(window->afterwards() == (running ? Shutdown::Afterwards::StartWithInput : Shutdown::Afterwards::Start));
         Config stored;
         stored.load(AppPaths::configFile());
         QCOMPARE(stored.displayLanguage, QString());
