@@ -4,6 +4,7 @@
 #include "display/geo_map_display.h"
 #include "sensors/radar_sensor_info.h"
 #include "sensors/sensor_manager.h"
+#include "widgets/window_opening.h"
 
 namespace {
 
@@ -47,9 +48,7 @@ SensorCheckWindow *SensorCheck::show()
         m_window->setInput(m_isInputOpen, m_inputName);
         connect(m_window, &SensorCheckWindow::detectionChosen, this, &SensorCheck::showDetection);
     }
-    m_window->show();
-    m_window->raise();
-    m_window->activateWindow();
+    bringUp(m_window);
     return m_window;
 }
 

@@ -3,6 +3,7 @@
 #include "app/app_identity.h"
 #include "help/library_versions.h"
 #include "help/markdown_window.h"
+#include "widgets/window_opening.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -53,8 +54,7 @@ AboutWindow::AboutWindow(QWidget *parent) : GeometryDialog(QStringLiteral("About
     connect(notices, &QPushButton::clicked, this, [this] {
         auto *window = new MarkdownWindow(
             QStringLiteral("NoticesWindow"), tr("Third-Party Notices"), QString::fromLatin1(NoticesFile), this);
-        window->setAttribute(Qt::WA_DeleteOnClose);
-        window->open();
+        openOver(window);
     });
     connect(buttons, &QDialogButtonBox::rejected, this, &AboutWindow::reject);
     buttons->button(QDialogButtonBox::Close)->setFocus();

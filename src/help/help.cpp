@@ -2,6 +2,7 @@
 
 #include "help/help_topics.h"
 #include "help/help_window.h"
+#include "widgets/window_opening.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -49,9 +50,7 @@ void Help::showPlace(const QString &place)
         m_window = std::make_unique<HelpWindow>(made);
     }
     m_window->showPlace(place);
-    m_window->show();
-    m_window->raise();
-    m_window->activateWindow();
+    bringUp(m_window.get());
 }
 
 void Help::setMadePage(const QString &file, QString (*make)())

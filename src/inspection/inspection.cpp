@@ -16,6 +16,7 @@
 #include "inspection/scope_targets.h"
 #include "plan_view/geo_widget.h"
 #include "sensors/radar_sensor_info.h"
+#include "widgets/window_opening.h"
 
 #include <QAction>
 #include <QCursor>
@@ -319,9 +320,7 @@ void Inspection::showAbsenceWindow()
         connect(m_absence, &AbsenceWindow::asked, this, &Inspection::lookFor);
         connect(m_absence, &AbsenceWindow::cureChosen, this, &Inspection::applyCure);
     }
-    m_absence->show();
-    m_absence->raise();
-    m_absence->activateWindow();
+    bringUp(m_absence);
 }
 
 void Inspection::lookFor(const QString &text)

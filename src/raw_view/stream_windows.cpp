@@ -1,17 +1,7 @@
 #include "raw_view/stream_windows.h"
 
 #include "raw_view/raw_view_window.h"
-
-namespace {
-
-void bringToFront(QDialog *dialog)
-{
-    dialog->show();
-    dialog->raise();
-    dialog->activateWindow();
-}
-
-} // namespace
+#include "widgets/window_opening.h"
 
 StreamWindows::StreamWindows(QWidget *window, EngineHost *host, DiagnosisWindow::InputSettings settings)
     : m_window(window), m_host(host), m_settings(std::move(settings)), m_standing(host, m_settings)
@@ -32,7 +22,7 @@ void StreamWindows::showRawView()
         m_rawView = new RawViewWindow(m_host, m_window);
         connect(m_rawView, &RawViewWindow::diagnosisRequested, this, &StreamWindows::showDiagnosis);
     }
-    bringToFront(m_rawView);
+    bringUp(m_rawView);
 }
 
 void StreamWindows::showDiagnosis()
@@ -40,7 +30,7 @@ void StreamWindows::showDiagnosis()
     if (!m_diagnosis) {
         m_diagnosis = new DiagnosisWindow(m_host, m_settings, m_window);
     }
-    bringToFront(m_diagnosis);
+    bringUp(m_diagnosis);
 }
 
 void StreamWindows::beginInput()

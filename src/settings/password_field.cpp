@@ -1,6 +1,7 @@
 #include "settings/password_field.h"
 
 #include "settings/password_window.h"
+#include "widgets/window_opening.h"
 
 PasswordField::PasswordField(QWidget *parent) : QPushButton(parent)
 {
@@ -22,7 +23,6 @@ void PasswordField::setStored(const QString &stored)
 void PasswordField::choose()
 {
     auto *window = new PasswordWindow(!m_stored.isEmpty(), this);
-    window->setAttribute(Qt::WA_DeleteOnClose);
     connect(window, &PasswordWindow::passwordChosen, this, &PasswordField::setStored);
-    window->open();
+    openOver(window);
 }

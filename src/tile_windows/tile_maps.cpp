@@ -9,6 +9,7 @@
 #include "tile_windows/tile_download_window.h"
 #include "tiles/tile_deployment.h"
 #include "tiles/tile_providers.h"
+#include "widgets/window_opening.h"
 
 #include <QMessageBox>
 
@@ -194,9 +195,7 @@ void TileMaps::showDownloadWindow()
         connect(m_downloads, &TileDownloadWindow::message, this, &TileMaps::logMessage);
     }
     m_downloads->prepare();
-    m_downloads->show();
-    m_downloads->raise();
-    m_downloads->activateWindow();
+    bringUp(m_downloads);
 }
 
 // Off the map, the map's edges.

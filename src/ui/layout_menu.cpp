@@ -5,6 +5,7 @@
 #include "map_windows/layout_save_window.h"
 #include "plan_view/geo_widget.h"
 #include "ui/actions.h"
+#include "widgets/window_opening.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -118,7 +119,6 @@ void LayoutMenu::showSaveWindow()
 void LayoutMenu::askForName()
 {
     auto *window = new LayoutSaveWindow(m_layouts.layoutNames(), m_window);
-    window->setAttribute(Qt::WA_DeleteOnClose);
     if (chosen()) {
         window->setName(m_layouts.currentLayoutName());
     }
@@ -126,5 +126,5 @@ void LayoutMenu::askForName()
         m_layouts.saveCurrentView(name, makeCurrent);
         save();
     });
-    window->open();
+    openOver(window);
 }

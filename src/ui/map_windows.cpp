@@ -11,22 +11,12 @@
 #include "maps/map_library.h"
 #include "plan_view/geo_widget.h"
 #include "ui/actions.h"
+#include "widgets/window_opening.h"
 
 #include <QAction>
 
 #include <algorithm>
 #include <utility>
-
-namespace {
-
-void bringUp(QWidget *window)
-{
-    window->show();
-    window->raise();
-    window->activateWindow();
-}
-
-} // namespace
 
 MapWindows::MapWindows(
     QWidget *window, const Actions *actions, GeoWidget *plan, Projector *projector, const SettingsLock *lock)

@@ -7,6 +7,7 @@
 #include "ui/actions.h"
 #include "ui/input_session.h"
 #include "ui/replay_window.h"
+#include "widgets/window_opening.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -146,9 +147,7 @@ void ReplayControls::showWindow()
         updateFileMeta(m_config->live().inputFileName);
     }
     showSession();
-    m_replayWindow->show();
-    m_replayWindow->raise();
-    m_replayWindow->activateWindow();
+    bringUp(m_replayWindow);
 }
 
 void ReplayControls::recordInput(bool on)

@@ -5,6 +5,7 @@
 #include "display/track_display_format.h"
 #include "ui/actions.h"
 #include "widgets/widget_style.h"
+#include "widgets/window_opening.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -179,11 +180,10 @@ void ThemeMenu::reportProblems()
 void ThemeMenu::askForName()
 {
     auto *question = new QInputDialog(m_window);
-    question->setAttribute(Qt::WA_DeleteOnClose);
     question->setWindowTitle(tr("Save as Theme"));
     question->setLabelText(tr("Colours, fonts and map style as they are now, under the name:"));
     connect(question, &QInputDialog::textValueSelected, this, &ThemeMenu::saveAs);
-    question->open();
+    openOver(question);
 }
 
 bool ThemeMenu::saveAs(const QString &name)
