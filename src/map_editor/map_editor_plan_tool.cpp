@@ -144,15 +144,6 @@ void MapEditorPlanTool::center(qsizetype point)
     }
 }
 
-GeoCoordinate MapEditorPlanTool::viewCoordinate(double xPart, double yPart) const
-{
-    if (!m_widget) {
-        return {};
-    }
-    const QPointF pixel(m_widget->width() * xPart, m_widget->height() * yPart);
-    return m_geometry.unproject(m_widget->screenTransform().inverted().map(pixel));
-}
-
 void MapEditorPlanTool::startDrawing(qsizetype before)
 {
     cancelDrawing();

@@ -40,8 +40,6 @@ public:
 
     // Brings the element, or its point when the index is not -1, to the centre of the view.
     void center(qsizetype point);
-    // Of the view; invalid without a plan view.
-    GeoCoordinate viewCoordinate(double xPart, double yPart) const;
 
     bool pressed(const QPointF &pixel, const QTransform &screenTransform) override;
     bool moved(const QPointF &pixel, const QTransform &screenTransform) override;
