@@ -37,6 +37,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -147,14 +148,6 @@ void offerControl(const CommandLine &commandLine, ControlServer &server, MainWin
     }
 }
 
-// At once where that was asked for, here or in the settings.
-void startInput(const CommandLine &commandLine, const StartGuard &guard, MainWindow &window)
-{
-    if (startsByItself(commandLine, guard, window)) {
-        openInput(commandLine, window);
-    }
-}
-
 // The demonstration begins dark, as long as nobody has chosen another theme for it.
 void setUpLook(const CommandLine &commandLine, const ThemeLibrary &themes, MainWindow &window)
 {
@@ -173,6 +166,46 @@ bool attended(const CommandLine &commandLine)
         && commandLine.snapshot.isEmpty();
 }
 
+// No tile service is asked for made-up traffic.
+void connectDemo(DemoTraffic *demo, MainWindow &window)
+{
+    window.barTileServices();
+    QObject::connect(demo, &DemoTraffic::message, &window, &MainWindow::showLog);
+    QObject::connect(&window, &MainWindow::inputOpened, demo, &DemoTraffic::start);
+}
+
+// Layout and window state are as they were; what somebody may want to read first stands over them.
+void openWindow(const CommandLine &commandLine, MainWindow &window, QSplashScreen &splash)
+{
+    window.show();
+    window.loadUi(commandLine.size);
+    splash.finish(&window);
+    QApplication::processEvents();
+    if (attended(commandLine)) {
+        window.showChangesAfterUpdate();
+    }
+}
+
+// What was asked for, here or in the settings. Who has neither is led.
+void beginWork(const CommandLine &commandLine, const StartGuard &guard, MainWindow &window)
+{
+    setUpRecordings(commandLine, window);
+    tellWhoKeepsSettings(window);
+    if (!commandLine.demo && !commandLine.exitAtEnd) {
+        window.keepInput();
+    }
+    if (startsByItself(commandLine, guard, window)) {
+        openInput(commandLine, window);
+    }
+    openFiles(commandLine, window);
+    if (!commandLine.saysWhatToDo() && !QFileInfo::exists(AppPaths::configFile())) {
+        window.showGettingStarted();
+    }
+    if (commandLine.exitAfter) {
+        QTimer::singleShot(*commandLine.exitAfter, &window, &MainWindow::requestExit);
+    }
+}
+
 // From the main window's construction to the end of the event loop.
 int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTraffic *demo, QSplashScreen &splash,
     const QElapsedTimer &clock, Shutdown::Afterwards &afterwards)
@@ -184,7 +217,7 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
         commandLine.applyTo(config);
     });
     if (demo) {
-        window.barTileServices();
+        connectDemo(demo, window);
     }
     setUpLook(commandLine, themes, window);
     FirstFrame firstFrame(window.geoWidget(), clock);
@@ -192,43 +225,20 @@ int runWindow(const CommandLine &commandLine, const ThemeLibrary &themes, DemoTr
         window.showLog(LogLevel::Debug, MainWindow::tr("First frame after %1 ms").arg(milliseconds));
     });
     ExitReport report(&window, commandLine.screenshot, commandLine.snapshot);
+    if (commandLine.exitAtEnd) {
+        report.exitWithInput();
+    }
     const TerminationSignals signalsToEnd;
     QObject::connect(&signalsToEnd, &TerminationSignals::requested, &window, &MainWindow::requestExit);
     // Told to end from outside, the program does not wait until somebody answers a dialog.
     QObject::connect(&window, &MainWindow::shutdownComplete, qApp, [] { QCoreApplication::exit(); });
-    window.show();
-    window.loadUi(commandLine.size);
-    splash.finish(&window);
-    QApplication::processEvents();
-    if (attended(commandLine)) {
-        window.showChangesAfterUpdate();
-    }
-
-    if (demo) {
-        QObject::connect(demo, &DemoTraffic::message, &window, &MainWindow::showLog);
-        QObject::connect(&window, &MainWindow::inputOpened, demo, &DemoTraffic::start);
-    }
-    if (commandLine.exitAtEnd) {
-        report.exitWithInput();
-    }
-    setUpRecordings(commandLine, window);
+    openWindow(commandLine, window, splash);
     WindowControl control(&window);
     const ControlCommands commands(&control);
     ControlServer server([&commands](const QByteArray &request) { return commands.answer(request); });
     offerControl(commandLine, server, window);
-    tellWhoKeepsSettings(window);
     const StartGuard guard;
-    if (!demo && !commandLine.exitAtEnd) {
-        window.keepInput();
-    }
-    startInput(commandLine, guard, window);
-    openFiles(commandLine, window);
-    if (!commandLine.saysWhatToDo() && !QFileInfo::exists(AppPaths::configFile())) {
-        window.showGettingStarted();
-    }
-    if (commandLine.exitAfter) {
-        QTimer::singleShot(*commandLine.exitAfter, &window, &MainWindow::requestExit);
-    }
+    beginWork(commandLine, guard, window);
     const int status = QApplication::exec();
     afterwards = window.afterwards();
     return status != 0 || report.succeeded() ? status : 1;
@@ -316,6 +326,26 @@ int ask(int argc, char *argv[], const CommandLine::Question &question)
     return QJsonDocument::fromJson(answer)["ok"].toBool() ? 0 : 1;
 }
 
+// What needs no screen; the exit status, or nothing where a window is wanted.
+std::optional<int> runWithoutWindow(int argc, char *argv[], const CommandLine &commandLine)
+{
+    if (commandLine.help) {
+        return print(CommandLine::helpText());
+    }
+    if (commandLine.version) {
+        return print(CommandLine::versionText());
+    }
+    if (commandLine.demo == "list") {
+        QString error;
+        const QString scenarios = DemoTraffic::list(&error);
+        return scenarios.isEmpty() ? complain(error) : print(scenarios);
+    }
+    if (commandLine.ask) {
+        return ask(argc, argv, *commandLine.ask);
+    }
+    return commandLine.headless ? std::optional(runHeadless(argc, argv, commandLine)) : std::nullopt;
+}
+
 int qMain(int argc, char *argv[])
 {
     QElapsedTimer clock;
@@ -334,21 +364,8 @@ int qMain(int argc, char *argv[])
         AppPaths::setProfile(profile);
         installCrashHandler(AppPaths::crashLogFile());
     }
-    if (commandLine->help) {
-        return print(CommandLine::helpText());
-    }
-    if (commandLine->version) {
-        return print(CommandLine::versionText());
-    }
-    if (commandLine->demo == "list") {
-        const QString scenarios = DemoTraffic::list(&error);
-        return scenarios.isEmpty() ? complain(error) : print(scenarios);
-    }
-    if (commandLine->ask) {
-        return ask(argc, argv, *commandLine->ask);
-    }
-    if (commandLine->headless) {
-        return runHeadless(argc, argv, *commandLine);
+    if (const auto status = runWithoutWindow(argc, argv, *commandLine)) {
+        return *status;
     }
     if (!screenAvailable(arguments)) {
         return complain(QCoreApplication::translate(
