@@ -30,7 +30,7 @@ constexpr int RecognitionMs = 6000;
 
 FirstStartGuide *guideOf(MainWindow &window)
 {
-    (*window.findChild<Actions *>())[ActionId::GettingStarted]->trigger();
+    action(window, ActionId::GettingStarted)->trigger();
     return window.findChild<FirstStartGuide *>();
 }
 

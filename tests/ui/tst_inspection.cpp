@@ -39,7 +39,7 @@ private Q_SLOTS:
     void curesByTheButton();
 
 private:
-    QAction *action(ActionId id) const { return (*m_window->findChild<Actions *>())[id]; }
+    QAction *action(ActionId id) const { return ::action(*m_window, id); }
     void send(const char *hex);
     void send(int category, const std::function<void(korvane::asterix::BlockEncoder &)> &fill);
     // Of the sensor's place, by miles east.

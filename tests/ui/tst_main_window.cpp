@@ -11,7 +11,6 @@
 #include "test_program.h"
 #include "ui/actions.h"
 #include "ui/library_log.h"
-#include "ui/log_pane.h"
 #include "ui/status_read_outs.h"
 #include "widgets/scope_notice.h"
 
@@ -49,16 +48,6 @@ QByteArray plot(double rangeNm, double azimuth, quint32 address)
     append(address, 3);
     const auto length = static_cast<char>(record.size() + 3);
     return QByteArray("\x30\x00", 2) + length + record;
-}
-
-QAction *action(const MainWindow &window, ActionId id)
-{
-    return (*window.findChild<Actions *>())[id];
-}
-
-QString logText(const MainWindow &window)
-{
-    return window.findChild<LogPane *>()->toPlainText();
 }
 
 QDockWidget *dock(const MainWindow &window, const char *name)

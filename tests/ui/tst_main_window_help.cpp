@@ -39,11 +39,6 @@ HelpWindow *helpWindow()
     return nullptr;
 }
 
-QAction *action(const MainWindow &window, ActionId id)
-{
-    return (*window.findChild<Actions *>())[id];
-}
-
 } // namespace
 
 void TestMainWindowHelp::aDialogOpensItsPage()

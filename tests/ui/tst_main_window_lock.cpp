@@ -43,11 +43,6 @@ Config onDisk()
     return config;
 }
 
-QAction *action(const MainWindow &window, ActionId id)
-{
-    return (*window.findChild<Actions *>())[id];
-}
-
 bool asked(const MainWindow &window)
 {
     return window.findChild<UnlockWindow *>();

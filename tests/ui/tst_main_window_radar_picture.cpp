@@ -11,7 +11,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -29,14 +28,6 @@ private:
 };
 
 namespace {
-
-QAction *action(const MainWindow &window, const QString &text)
-{
-    const QList<QAction *> actions = window.actions();
-    const auto found =
-        std::find_if(actions.begin(), actions.end(), [&text](const QAction *one) { return one->text() == text; });
-    return found == actions.end() ? nullptr : *found;
-}
 
 QString shownLevels(const WeatherIntensityWindow &window)
 {
@@ -58,11 +49,12 @@ void TestMainWindowRadarPicture::actionsShowTheLayers()
     const QSignalSpy others(map->staticMap(), &GeoLayer::polluted);
     const QSignalSpy tracks(window->geoWidget()->trackDisplay(), &GeoTrackDisplay::polluted);
     const QSignalSpy maps(window->geoWidget()->mapDisplay(), &GeoMapDisplay::polluted);
-    for (const auto &[text, layer] : {std::pair<QString, const GeoLayer *>("Toggle Weather Map", map->weatherMap()),
-             std::pair<QString, const GeoLayer *>("Toggle Video Map", map->videoMap())}) {
-        QVERIFY(!layer->visible() && !action(*window, text)->isChecked());
-        action(*window, text)->trigger();
-        QVERIFY(layer->visible() && action(*window, text)->isChecked());
+    for (const auto &[id, layer] :
+        {std::pair<ActionId, const GeoLayer *>(ActionId::ToggleWeatherMap, map->weatherMap()),
+            std::pair<ActionId, const GeoLayer *>(ActionId::ToggleVideoMap, map->videoMap())}) {
+        QVERIFY(!layer->visible() && !action(*window, id)->isChecked());
+        action(*window, id)->trigger();
+        QVERIFY(layer->visible() && action(*window, id)->isChecked());
     }
     QVERIFY(others.isEmpty() && tracks.isEmpty() && !maps.isEmpty());
     QVERIFY(window->config().mapWeatherVisible && window->config().mapVideoVisible);
@@ -74,7 +66,7 @@ void TestMainWindowRadarPicture::weatherReachesItsLayerAndItsWindow()
     const auto window = WindowFixture::makeWindow();
     GeoWeatherMap *weather = window->geoWidget()->mapDisplay()->weatherMap();
     weather->setLevelVisible(2, false);
-    action(*window, "Weather Intensity")->trigger();
+    action(*window, ActionId::WeatherIntensity)->trigger();
     const auto *intensity = window->findChild<WeatherIntensityWindow *>();
     QCOMPARE(shownLevels(*intensity), QStringLiteral("01-34567"));
     auto picture = QSharedPointer<WeatherProcessor::Picture>::create();
@@ -105,7 +97,7 @@ void TestMainWindowRadarPicture::videoOfStrangersIsReported()
     }
     window->engineHost().shared().video.publish(batch);
     window->pullSlots();
-    const QString log = window->findChild<QPlainTextEdit *>()->toPlainText();
+    const QString log = logText(*window);
     QCOMPARE(log.count("Radar video of SAC 7, SIC 8 is not shown"), 1);
     QCOMPARE(log.count("Radar video of"), 1);
     QVERIFY(WindowFixture::close(*window));

@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMimeData>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
@@ -81,7 +80,7 @@ private Q_SLOTS:
             child<QDateTimeEdit>("jumpTime")->setDateTime(captureBegin().addSecs(5400));
             QTRY_COMPARE(text("lastTime"), QString("2024-05-01 14:00:00"));
             child<QPushButton>("jump")->click();
-            byWindow ? child<QPushButton>("stop")->click() : action("Stop")->trigger();
+            byWindow ? child<QPushButton>("stop")->click() : action(ActionId::Stop)->trigger();
             QTRY_COMPARE(closed.size(), byWindow ? 1 : 2);
             QVERIFY(!m_window->inputOpen());
         }
@@ -91,13 +90,13 @@ private Q_SLOTS:
     {
         play(recording("speed.pcap", {0, 3600000}));
         auto *speed = child<QComboBox>("speed");
-        for (QAction *choice : action("Replay Speed")->menu()->actions()) {
+        for (QAction *choice : action(ActionId::ReplaySpeed)->menu()->actions()) {
             choice->trigger();
             QCOMPARE(speed->currentText(), choice->text());
         }
         speed->setCurrentIndex(0);
         Q_EMIT speed->activated(0);
-        QCOMPARE(action("Replay Speed")->menu()->actions().constFirst()->isChecked(), true);
+        QCOMPARE(action(ActionId::ReplaySpeed)->menu()->actions().constFirst()->isChecked(), true);
     }
 
     void autoRewindHoldsForThePlaybackThatRuns()
@@ -127,11 +126,11 @@ private Q_SLOTS:
 
     void recordingIsOfferedForLiveInputAlone()
     {
-        QVERIFY(!action("Record")->isEnabled());
+        QVERIFY(!action(ActionId::Record)->isEnabled());
         play(recording("replayed.pcap", {0, 3600000}));
-        QVERIFY(!action("Record")->isEnabled());
+        QVERIFY(!action(ActionId::Record)->isEnabled());
         child<QPushButton>("liveInput")->click();
-        QTRY_VERIFY(m_window->inputOpen() && action("Record")->isEnabled());
+        QTRY_VERIFY(m_window->inputOpen() && action(ActionId::Record)->isEnabled());
     }
 
 private:
@@ -147,17 +146,9 @@ private:
         m_window->updateClock();
         return m_window->findChild<StatusReadOuts *>()->utcClock()->text();
     }
-    QString log() const { return m_window->findChild<QPlainTextEdit *>()->toPlainText(); }
+    QString log() const { return logText(*m_window); }
 
-    QAction *action(const QString &beginning) const
-    {
-        for (QAction *one : m_window->actions()) {
-            if (one->text().startsWith(beginning)) {
-                return one;
-            }
-        }
-        return nullptr;
-    }
+    QAction *action(ActionId id) const { return ::action(*m_window, id); }
 
     // Plots of as many aircraft, a packet each, milliseconds after the beginning.
     QString recording(const QString &name, const QList<int> &times)
@@ -191,7 +182,7 @@ private:
 
     void play(const QString &path)
     {
-        action("Playback Window")->trigger();
+        action(ActionId::PlaybackWindow)->trigger();
         m_window->playRecording(path);
         QTRY_VERIFY(m_window->inputOpen());
     }

@@ -44,7 +44,7 @@ namespace {
 
 ConfigWindow *opened(MainWindow &window)
 {
-    (*window.findChild<Actions *>())[ActionId::Settings]->trigger();
+    action(window, ActionId::Settings)->trigger();
     return window.findChild<ConfigWindow *>();
 }
 
@@ -99,7 +99,7 @@ void TestMainWindowSettings::sensorsAreLookedAfterWhileTheInputRuns()
     WindowFixture fixture;
     const auto window = fixture.makeWindow();
     QVERIFY(fixture.openInput(*window));
-    (*window->findChild<Actions *>())[ActionId::SensorManager]->trigger();
+    action(*window, ActionId::SensorManager)->trigger();
     auto *manager = window->findChild<SensorManagerWindow *>();
     const auto sensor = QSharedPointer<RadarSensorInfo>::create();
     sensor->setName("NEW");
@@ -158,7 +158,7 @@ void TestMainWindowSettings::saysThatNothingIsSaved()
     QVERIFY(settings->isVisible());
     const QString text = settings->findChild<QLabel *>("saveProblem")->text();
     QVERIFY2(text.contains(QFileInfo(AppPaths::configFile()).fileName()), qPrintable(text));
-    const QString log = window->findChild<LogPane *>()->toPlainText();
+    const QString log = logText(*window);
     QVERIFY2(log.contains("[WARNING ]") && log.contains("Cannot write the settings file"), qPrintable(log));
     QCOMPARE(window->config().mapBackgroundColor, QColor(1, 2, 3)); // for this run
     QVERIFY(WindowFixture::close(*window));

@@ -3,7 +3,6 @@
 #include "app/ui_state.h"
 #include "engine/data_engine.h"
 #include "test_program.h"
-#include "ui/log_pane.h"
 
 #include <QSemaphore>
 #include <QSignalSpy>
@@ -75,7 +74,7 @@ void TestMainWindowShutdown::anEngineThatHangsDoesNotHoldTheProgram()
         engine, [&release] { release.acquire(); }, Qt::QueuedConnection);
     window->requestExit();
     QTRY_VERIFY(!window->isVisible());
-    const QString log = window->findChild<LogPane *>()->toPlainText();
+    const QString log = logText(*window);
     QVERIFY(log.contains("Data engine did not confirm the input close within 10 s, forcing shutdown."));
     QVERIFY(log.contains("Data processing thread did not stop within 5 s, abandoning it."));
     release.release();
@@ -90,7 +89,7 @@ void TestMainWindowShutdown::aFailedOpeningEndsTheWait()
     window->openInput();
     window->close();
     QTRY_VERIFY(!window->isVisible());
-    QVERIFY(!window->findChild<LogPane *>()->toPlainText().contains("did not confirm"));
+    QVERIFY(!logText(*window).contains("did not confirm"));
 }
 
 VYX_TEST(TestMainWindowShutdown)

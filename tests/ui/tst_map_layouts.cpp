@@ -12,7 +12,6 @@
 #include "test_files.h"
 #include "test_program.h"
 #include "ui/actions.h"
-#include "ui/log_pane.h"
 #include "widgets/file_edit.h"
 
 #include <QAction>
@@ -37,7 +36,6 @@ private Q_SLOTS:
     void exitGoesOnWhenTheMapIsSaved();
 
 private:
-    static QAction *action(const MainWindow &window, ActionId id) { return (*window.findChild<Actions *>())[id]; }
     static QMenu *menu(const MainWindow &window) { return action(window, ActionId::LoadLayout)->menu(); }
     // The names in the menu, the current one in brackets.
     static QString names(const MainWindow &window);
@@ -167,7 +165,7 @@ void TestMapLayouts::mapsAreLoadedAndToggled()
     QTRY_VERIFY(!library->loading());
     QVERIFY(!library->maps().at(0).data && library->maps().at(1).data);
     QVERIFY(library->styleSheet().contains("land"));
-    const QString log = window->findChild<LogPane *>()->toPlainText();
+    const QString log = logText(*window);
     QVERIFY(log.contains("bad.xml") && !log.contains("good.xml"));
     QVERIFY(log.contains("Loading stylesheet: " + maps.filePath("style.mss")));
 

@@ -152,7 +152,7 @@ void TestPlotSwitch::recordingOfPlotsIsSeen()
         config.inputFileName = QFileInfo(path);
     });
     const GeoPlotMap *layer = window->geoWidget()->mapDisplay()->plotMap();
-    QAction *action = (*window->findChild<Actions *>())[ActionId::TogglePlots];
+    QAction *action = ::action(*window, ActionId::TogglePlots);
     QVERIFY(!layer->visible() && !action->isChecked());
     window->setReplaySpeed(ReplaySpeed::Max);
     window->openInput();

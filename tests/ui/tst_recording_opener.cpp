@@ -9,7 +9,6 @@
 #include "written_capture.h"
 
 #include <QDoubleSpinBox>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -139,7 +138,7 @@ private Q_SLOTS:
     }
 
 private:
-    QString log() const { return m_window->findChild<QPlainTextEdit *>()->toPlainText(); }
+    QString log() const { return logText(*m_window); }
 
     void refuseQuestions()
     {

@@ -24,7 +24,6 @@ private Q_SLOTS:
     void buttonsSayWhatIsChosen();
 
 private:
-    static QAction *action(const MainWindow &window, ActionId id) { return (*window.findChild<Actions *>())[id]; }
     static bool shown(const MainWindow &window, const char *dock)
     {
         return window.findChild<QDockWidget *>(dock)->toggleViewAction()->isChecked();

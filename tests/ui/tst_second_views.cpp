@@ -43,7 +43,7 @@ private:
     PlanViewWindow *openView() const
     {
         const auto before = views();
-        (*m_window->findChild<Actions *>())[ActionId::NewPlanView]->trigger();
+        action(*m_window, ActionId::NewPlanView)->trigger();
         for (PlanViewWindow *view : views()) {
             if (!before.contains(view)) {
                 view->activateWindow();
@@ -108,7 +108,7 @@ void TestSecondViews::showsThePictureInItsOwnWay()
     // The look is the main window's, the layers stay the view's own.
     m_tracks->setSymbolSize(37);
     QTRY_COMPARE(view->plan()->tracks()->symbolSize(), 37);
-    (*m_window->findChild<Actions *>())[ActionId::ToggleScaleBar]->trigger();
+    action(*m_window, ActionId::ToggleScaleBar)->trigger();
     QCOMPARE(view->plan()->map()->rangeRingMap()->visible(), !rings);
     QVERIFY(!view->plan()->tracks()->labelVisible());
     m_window->geoWidget()->mapDisplay()->rangeRingMap()->setRings(QPointF(1000, 2000), 4, 7.0);

@@ -61,7 +61,7 @@ Config classicWith(const QColor &labels)
 
 QAction *entry(const MainWindow &window, const QString &text)
 {
-    QMenu *menu = (*window.findChild<Actions *>())[ActionId::Theme]->menu();
+    QMenu *menu = action(window, ActionId::Theme)->menu();
     Q_EMIT menu->aboutToShow();
     const QList<QAction *> actions = menu->actions();
     const auto found = std::find_if(
@@ -120,7 +120,7 @@ void TestThemeMenu::settingsWindowFillsInTheThemeOfItsChoice()
     WindowFixture fixture;
     const Config own = classicWith(Qt::magenta);
     const auto window = fixture.makeWindow();
-    (*window->findChild<Actions *>())[ActionId::Settings]->trigger();
+    action(*window, ActionId::Settings)->trigger();
     auto *settings = window->findChild<ConfigWindow *>();
     auto *theme = settings->findChild<QComboBox *>("displayTheme");
     theme->setCurrentText("Day");
@@ -172,7 +172,7 @@ void TestThemeMenu::firstThemeIsStoredUnlessOneWasChosen()
         window->show();
         QCOMPARE(window->config().displayTheme, chosen ? Theme::Classic : "Night");
         QCOMPARE(tracksOf(*window)->symbolSize() == 12, !chosen);
-        (*window->findChild<Actions *>())[ActionId::ToggleRangeRings]->trigger();
+        action(*window, ActionId::ToggleRangeRings)->trigger();
         QVERIFY(fixture.close(*window));
         QCOMPARE(stored().displayTheme, chosen ? Theme::Classic : "Night");
     }

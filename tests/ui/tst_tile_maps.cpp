@@ -6,7 +6,6 @@
 #include "tile_server.h"
 #include "tile_windows/tile_download_window.h"
 #include "ui/actions.h"
-#include "ui/log_pane.h"
 #include "window_fixture.h"
 
 #include <QAction>
@@ -96,7 +95,7 @@ void TestTileMaps::asksNobodyBeforeTheOperatorAgrees()
     QVERIFY(!toggle(*window)->isChecked());
     QTest::qWait(100);
     QCOMPARE(m_server->count(), 0);
-    QVERIFY(window->findChild<LogPane *>()->toPlainText().contains(QStringLiteral("No tiles are shown")));
+    QVERIFY(logText(*window).contains(QStringLiteral("No tiles are shown")));
 
     agrees = true;
     toggle(*window)->trigger();
@@ -135,7 +134,7 @@ void TestTileMaps::viewsShareTheirTiles()
 {
     m_server->setLatency(20);
     const auto window = makeWindow([](Config &config) { config.mapTileConsent = true; });
-    (*window->findChild<Actions *>())[ActionId::NewPlanView]->trigger();
+    action(*window, ActionId::NewPlanView)->trigger();
     const auto windows = QApplication::topLevelWidgets();
     const auto found =
         std::ranges::find_if(windows, [](const QWidget *one) { return one->inherits("PlanViewWindow"); });

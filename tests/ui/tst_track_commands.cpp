@@ -28,7 +28,7 @@ private Q_SLOTS:
 
 private:
     ListView *list(const char *name) const { return m_window->findChild<ListView *>(name); }
-    QAction *action(ActionId id) const { return (*m_window->findChild<Actions *>())[id]; }
+    QAction *action(ActionId id) const { return ::action(*m_window, id); }
     // The entry of the menu that has come up, triggered; null when there is none or it is switched off.
     QAction *choose(const QString &text) const;
     QPoint cell(ListView *view, int row) const { return view->visualRect(view->model()->index(row, 0)).center(); }

@@ -125,7 +125,7 @@ void changeFields(QWidget *window, const QStringList &kept)
 
 QDialog *open(MainWindow &window, ActionId id)
 {
-    (*window.findChild<Actions *>())[id]->trigger();
+    action(window, id)->trigger();
     QDialog *dialog = nullptr;
     const auto opened = [&dialog, &window] {
         for (auto *candidate : window.findChildren<QDialog *>()) {
@@ -280,7 +280,7 @@ void TestWindowsKeepValues::sizesComeBack()
         const auto window = WindowFixture::makeWindow();
         for (const ActionId id : Windows) {
             QDialog *dialog = open(*window, id);
-            QVERIFY2(dialog, qPrintable((*window->findChild<Actions *>())[id]->text()));
+            QVERIFY2(dialog, qPrintable(action(*window, id)->text()));
             const QString name = QLatin1String(dialog->metaObject()->className());
             if (again) {
                 QVERIFY2(dialog->size() == sizes.value(name), qPrintable(name));

@@ -3,6 +3,8 @@
 #include "app/app_identity.h"
 #include "app/app_paths.h"
 #include "app/config.h"
+#include "ui/actions.h"
+#include "ui/log_pane.h"
 #include "ui/main_window.h"
 
 #include <QTemporaryDir>
@@ -76,3 +78,13 @@ private:
     QTemporaryDir m_directory;
     QUdpSocket m_reservation;
 };
+
+inline QAction *action(const MainWindow &window, ActionId id)
+{
+    return (*window.findChild<Actions *>())[id];
+}
+
+inline QString logText(const MainWindow &window)
+{
+    return window.findChild<LogPane *>()->toPlainText();
+}
