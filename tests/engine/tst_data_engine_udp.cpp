@@ -48,6 +48,14 @@ private:
         QCOMPARE(m_sender.writeDatagram(data, to, port), data.size());
     }
 
+    static void openGroup(EngineRig &rig, const LanInterface &lan)
+    {
+        rig.config.inputUdpMulticast1 = true;
+        rig.config.inputUdpMcastAddress1 = QHostAddress("239.255.77.1");
+        rig.config.inputUdpMcastLanInterface1 = lan;
+        rig.open(6);
+    }
+
 private Q_SLOTS:
     void initTestCase()
     {
@@ -86,10 +94,7 @@ private Q_SLOTS:
     void multicastInputsTakeTheirOwnGroupOnly()
     {
         EngineRig rig;
-        rig.config.inputUdpMulticast1 = true;
-        rig.config.inputUdpMcastAddress1 = QHostAddress("239.255.77.1");
-        rig.config.inputUdpMcastLanInterface1 = m_loopback;
-        rig.open();
+        openGroup(rig, m_loopback);
         QCOMPARE(rig.opened.size(), 1);
         QUdpSocket neighbour;
         QVERIFY(
@@ -105,10 +110,7 @@ private Q_SLOTS:
     void lookingAtAnInterfaceThatStaysSaysNothing()
     {
         EngineRig rig;
-        rig.config.inputUdpMulticast1 = true;
-        rig.config.inputUdpMcastAddress1 = QHostAddress("239.255.77.1");
-        rig.config.inputUdpMcastLanInterface1 = m_loopback;
-        rig.open();
+        openGroup(rig, m_loopback);
         const QStringList before = rig.log;
         for (int time = 0; time < 3; ++time) {
             rig.engine.findChild<UdpInput *>()->lookAtInterfaces();
@@ -134,10 +136,7 @@ private Q_SLOTS:
         };
         QVERIFY(makeInterface("10.7.7.1"));
         EngineRig rig;
-        rig.config.inputUdpMulticast1 = true;
-        rig.config.inputUdpMcastAddress1 = QHostAddress("239.255.77.1");
-        rig.config.inputUdpMcastLanInterface1 = QNetworkInterface::interfaceFromName("near");
-        rig.open();
+        openGroup(rig, QNetworkInterface::interfaceFromName("near"));
         QCOMPARE(rig.opened.size(), 1);
         auto *input = rig.engine.findChild<UdpInput *>();
         quint8 track = 0;
@@ -215,10 +214,7 @@ private Q_SLOTS:
     void anAbsentInterfaceIsNotReplacedByAnother()
     {
         EngineRig rig;
-        rig.config.inputUdpMulticast1 = true;
-        rig.config.inputUdpMcastAddress1 = QHostAddress("239.255.77.1");
-        rig.config.inputUdpMcastLanInterface1 = LanInterface("usb7");
-        rig.open(6);
+        openGroup(rig, LanInterface("usb7"));
         const QString reason = "The network interface usb7 for the multicast group 239.255.77.1 is not there.";
         QCOMPARE(rig.faults, QList<QVariantList>({{6ULL, reason}}));
         QCOMPARE(rig.log.last(), "I Failed to join UDP multicast group 239.255.77.1 on interface usb7");
