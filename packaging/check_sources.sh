@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# What a machine can see of the house style: formatting, and includes that would walk around the floors.
+# What a machine can see of the house style: formatting, conversions, and includes that would walk around the floors.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -12,6 +12,13 @@ fi
 
 if grep -nE '^#include "\.\./' "${files[@]}"; then
     echo "Includes are written \"folder/header.h\", never relative to a parent folder." >&2
+    exit 1
+fi
+# Of a variable; a literal's type may be named so, as in qint64(256).
+types='(std::(size_t|ptrdiff_t|u?int(8|16|32|64)_t)|int|double|float|unsigned|q?u?int(8|16|32|64)|qsizetype|bool)'
+mapfile -t shipped < <(printf '%s\n' "${files[@]}" | grep -E '^(src|libs|tools)/')
+if grep -nP "(?<![\w:<.\"])(?<!operator )$types\((?=[A-Za-z_(])(?!const |\w+ [&*])" "${shipped[@]}" | grep -vE '^[^:]+:[0-9]+: *//'; then
+    echo "Conversions are written static_cast<type>(value)." >&2
     exit 1
 fi
 for file in "${files[@]}"; do

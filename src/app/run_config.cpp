@@ -40,8 +40,8 @@ void copyLook(const Config &from, Config &to)
 void takeOver(const Config &before, const Config &edited, Config &target, SettingGroups wholeGroups)
 {
     for (const Setting &setting : Setting::all()) {
-        const bool ofTheRun = bool(setting.groups() & RunGroups);
-        if (ofTheRun ? bool(setting.groups() & wholeGroups) : !setting.same(before, edited)) {
+        const bool ofTheRun = setting.groups().testAnyFlags(RunGroups);
+        if (ofTheRun ? setting.groups().testAnyFlags(wholeGroups) : !setting.same(before, edited)) {
             setting.copy(edited, target);
         }
     }

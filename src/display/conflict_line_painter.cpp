@@ -32,8 +32,8 @@ QLineF visibleLine(const TrackFrame &frame, const QLineF &whole)
 QSize figuresSize(const QFont &font, const QString &words)
 {
     const QFontMetricsF metrics(font);
-    return QSize(
-        int(std::ceil(metrics.horizontalAdvance(words))) + 2 * FiguresMargin, int(std::ceil(metrics.height())));
+    return QSize(static_cast<int>(std::ceil(metrics.horizontalAdvance(words))) + 2 * FiguresMargin,
+        static_cast<int>(std::ceil(metrics.height())));
 }
 
 // Where the figures may stand, the most usual place first: on the middle of a line that is long enough for them, then
@@ -41,7 +41,7 @@ QSize figuresSize(const QFont &font, const QString &words)
 constexpr int SideCount = 5;
 std::array<QRect, SideCount> figurePlaces(const QLineF &whole, const QSize &size, int symbolSize)
 {
-    const int reach = symbolSize / 2 + int(EndGap);
+    const int reach = symbolSize / 2 + static_cast<int>(EndGap);
     const QPoint middle = whole.center().toPoint();
     const QRect ends = QRect(whole.p1().toPoint(), whole.p2().toPoint()).normalized();
     QRect place(QPoint(), size);
@@ -99,11 +99,12 @@ void ConflictLinePainter::add(const TrackFrame &frame, AlertBoard::Key alert, co
         const auto places =
             figurePlaces(whole, figuresSize(frame.look.labelFont, conflict.words), frame.look.symbolSize);
         int &side = m_sides[alert];
-        for (int tried = 0; tried < SideCount && !isFree(frame, places[std::size_t(side)], keptFree); ++tried) {
+        for (int tried = 0; tried < SideCount && !isFree(frame, places[static_cast<std::size_t>(side)], keptFree);
+             ++tried) {
             side = tried;
         }
-        side = isFree(frame, places[std::size_t(side)], keptFree) ? side : 0;
-        conflict.place = places[std::size_t(side)];
+        side = isFree(frame, places[static_cast<std::size_t>(side)], keptFree) ? side : 0;
+        conflict.place = places[static_cast<std::size_t>(side)];
     }
     m_conflicts.push_back(conflict);
 }
@@ -166,7 +167,7 @@ void ConflictLinePainter::paintTexts(QPainter *painter, const TrackFrame &frame)
     for (const Conflict &conflict : m_conflicts) {
         if (!conflict.words.isEmpty()) {
             painter->fillRect(conflict.place, ground);
-            painter->drawText(conflict.place, int(Qt::AlignCenter | Qt::TextDontClip), conflict.words);
+            painter->drawText(conflict.place, static_cast<int>(Qt::AlignCenter | Qt::TextDontClip), conflict.words);
         }
     }
 }

@@ -7,8 +7,8 @@ void CoverMask::reset(const QSize &screen, int layers)
 {
     m_screen = QRect(QPoint(0, 0), screen);
     m_rowWords = screen.width() / CellPixels / WordBits + 1;
-    m_layerWords = std::size_t(m_rowWords) * std::size_t(screen.height() / CellPixels + 1);
-    m_words.assign(m_layerWords * std::size_t(std::clamp(layers, 1, MostLayers)), 0);
+    m_layerWords = static_cast<std::size_t>(m_rowWords) * static_cast<std::size_t>(screen.height() / CellPixels + 1);
+    m_words.assign(m_layerWords * static_cast<std::size_t>(std::clamp(layers, 1, MostLayers)), 0);
 }
 
 // Calls visit(word index in the row, mask of the cells in that word) for the words that hold the cells.
@@ -18,7 +18,7 @@ void CoverMask::visitRow(int firstCell, int lastCell, Visit &&visit)
     for (int word = firstCell / WordBits; word <= lastCell / WordBits; ++word) {
         const int from = std::max(firstCell - word * WordBits, 0);
         const int to = std::min(lastCell - word * WordBits, WordBits - 1);
-        visit(std::size_t(word), (~Word(0) >> (WordBits - 1 - to)) & (~Word(0) << from));
+        visit(static_cast<std::size_t>(word), (~Word(0) >> (WordBits - 1 - to)) & (~Word(0) << from));
     }
 }
 
@@ -47,7 +47,7 @@ void CoverMask::cover(const QRect &rect)
     const int top = (seen.top() + CellPixels - 1) / CellPixels;
     const int bottom = lastCell(seen.bottom(), m_screen.bottom());
     for (int row = top; row <= bottom && left <= right; ++row) {
-        const std::size_t start = std::size_t(row) * std::size_t(m_rowWords);
+        const std::size_t start = static_cast<std::size_t>(row) * static_cast<std::size_t>(m_rowWords);
         visitRow(left, right, [this, start](std::size_t index, Word cells) { coverCells(start + index, cells); });
     }
 }
@@ -57,14 +57,14 @@ QRect CoverMask::visiblePart(const QRect &rect) const
     const QRect seen = rect & m_screen;
     QRect cells; // that can be seen
     for (int row = seen.top() / CellPixels; row <= seen.bottom() / CellPixels && !seen.isEmpty(); ++row) {
-        const Word *words =
-            m_words.data() + (m_words.size() - m_layerWords) + std::size_t(row) * std::size_t(m_rowWords);
+        const Word *words = m_words.data() + (m_words.size() - m_layerWords)
+            + static_cast<std::size_t>(row) * static_cast<std::size_t>(m_rowWords);
         visitRow(seen.left() / CellPixels, seen.right() / CellPixels, [&](std::size_t index, Word wanted) {
             const Word open = ~words[index] & wanted;
             if (open == 0) {
                 return;
             }
-            const int base = int(index) * WordBits;
+            const int base = static_cast<int>(index) * WordBits;
             const int first = base + std::countr_zero(open);
             const int last = base + WordBits - 1 - std::countl_zero(open);
             cells |= QRect(QPoint(first, row), QPoint(last, row));

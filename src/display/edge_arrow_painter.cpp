@@ -120,7 +120,7 @@ void EdgeArrowPainter::paint(QPainter *painter, const TrackFrame &frame) const
         painter->setBrush(Qt::NoBrush);
         if (!arrow.text.isNull()) {
             painter->fillRect(arrow.text, ground);
-            painter->drawText(arrow.text, int(Qt::AlignCenter | Qt::TextDontClip), arrow.words);
+            painter->drawText(arrow.text, static_cast<int>(Qt::AlignCenter | Qt::TextDontClip), arrow.words);
         }
     }
 }

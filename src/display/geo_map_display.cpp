@@ -79,7 +79,7 @@ void GeoMapDisplay::paint(QPainter &painter, const GeoView &view)
         painter.save();
         entry.layer->paint(painter, view);
         painter.restore();
-        entry.milliseconds = double(timer.nsecsElapsed()) / 1e6;
+        entry.milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
     }
 }
 

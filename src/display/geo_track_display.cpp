@@ -46,7 +46,7 @@ void GeoTrackDisplay::setSnapshot(const QSharedPointer<const DisplaySnapshot> &s
 void GeoTrackDisplay::setSensor(const QSharedPointer<SensorInfo> &sensor)
 {
     const auto life = TrackLifeSpan::forSensor(sensor.data());
-    change(&m_look.longestCoastingMs, life ? int((life->coastingMs + life->terminationMs) / 2) : 0);
+    change(&m_look.longestCoastingMs, life ? static_cast<int>((life->coastingMs + life->terminationMs) / 2) : 0);
 }
 
 void GeoTrackDisplay::applyConfig(const Config &config)

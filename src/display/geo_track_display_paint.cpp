@@ -162,7 +162,7 @@ void GeoTrackDisplay::placeLabels()
     }
     m_places.place(m_frame,
         {m_keptFree + m_edgeArrowPainter.places() + m_conflictLinePainter.textPlaces(), m_conflictLinePainter.lines()});
-    m_labelRects.reserve(qsizetype(m_frame.tracks.size()));
+    m_labelRects.reserve(static_cast<qsizetype>(m_frame.tracks.size()));
     for (const ShownTrack &shown : m_frame.tracks) {
         if (shown.label) {
             m_labelRects.insert(shown.track->incarnationId, shown.labelRect.translated(-shown.place));
@@ -186,7 +186,7 @@ std::vector<GeoTrackDisplay::SymbolMeaning> GeoTrackDisplay::shownSymbols(double
     std::vector<SymbolMeaning> shown;
     for (int i = 0; i < TrackSymbols::Count; ++i) {
         const auto symbol = static_cast<TrackSymbols::Symbol>(i);
-        if (m_symbolPainter.painted().test(std::size_t(i))) {
+        if (m_symbolPainter.painted().test(static_cast<std::size_t>(i))) {
             shown.push_back({TrackSymbols::meaning(symbol), m_symbolPainter.pixmap(symbol, color, devicePixelRatio)});
         }
     }

@@ -42,8 +42,8 @@ float LabelCandidates::cost(const QPoint &offset, const QSize &size) const
     const double cosine = product > 0.0 ? QPointF::dotProduct(wanted, centre) / product : 1.0;
     const int x = std::max({offset.x(), -offset.x() - size.width(), 0});
     const int y = std::max({offset.y(), -offset.y() - size.height(), 0});
-    const float distance = float(std::hypot(x, y));
-    return DistanceCost * distance + FarCost * distance * distance + SideCost * float(1.0 - cosine) / 2.0f;
+    const float distance = static_cast<float>(std::hypot(x, y));
+    return DistanceCost * distance + FarCost * distance * distance + SideCost * static_cast<float>(1.0 - cosine) / 2.0f;
 }
 
 std::vector<LabelCandidates::Candidate> LabelCandidates::make(const QSize &size) const
@@ -62,7 +62,7 @@ void LabelCandidates::addRing(std::vector<Candidate> &candidates, const QSize &s
 {
     const int w = size.width();
     const int h = size.height();
-    const int corner = int(std::lround(float(distance) * DiagonalGap));
+    const int corner = static_cast<int>(std::lround(static_cast<float>(distance) * DiagonalGap));
     const auto add = [&](int x, int y) { candidates.push_back({QPoint(x, y), cost(QPoint(x, y), size)}); };
     for (const int x : {corner, -w - corner}) {
         add(x, -h - corner);

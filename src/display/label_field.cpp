@@ -42,7 +42,7 @@ double shareOf(bool asksYields, bool standsYields)
 // Which side of a line a point is on: the sign.
 qint64 sideOf(const QLine &line, int x, int y)
 {
-    return qint64(line.dx()) * (y - line.y1()) - qint64(line.dy()) * (x - line.x1());
+    return static_cast<qint64>(line.dx()) * (y - line.y1()) - static_cast<qint64>(line.dy()) * (x - line.x1());
 }
 
 QRect boundsOf(const QLine &line)
@@ -124,72 +124,74 @@ void LabelField::reset(const QRect &area, int owners, int symbolReach)
     m_symbolReach = symbolReach;
     m_speed = 0.0;
     m_columns = area.width() / CellPixels + 1;
-    const std::size_t cells = std::size_t(m_columns) * std::size_t(area.height() / CellPixels + 1);
+    const std::size_t cells =
+        static_cast<std::size_t>(m_columns) * static_cast<std::size_t>(area.height() / CellPixels + 1);
     for (auto *table : {&m_symbolCells, &m_labelCells}) {
         table->resize(cells);
         std::for_each(table->begin(), table->end(), [](std::vector<int> &cell) { cell.clear(); });
     }
     m_densityColumns = area.width() / DensityPixels + 1;
-    m_density.assign(std::size_t(m_densityColumns) * std::size_t(area.height() / DensityPixels + 1), 0);
-    m_owners.assign(std::size_t(owners), {});
-    m_visited.assign(std::size_t(owners), 0);
+    m_density.assign(
+        static_cast<std::size_t>(m_densityColumns) * static_cast<std::size_t>(area.height() / DensityPixels + 1), 0);
+    m_owners.assign(static_cast<std::size_t>(owners), {});
+    m_visited.assign(static_cast<std::size_t>(owners), 0);
     m_question = 0;
     m_freeLines.clear();
 }
 
 void LabelField::addSymbol(int owner, const QPoint &place, const QPointF &motion)
 {
-    Owner &added = m_owners[std::size_t(owner)];
+    Owner &added = m_owners[static_cast<std::size_t>(owner)];
     added.place = place;
     added.motion = motion;
     m_speed = std::max({m_speed, std::abs(motion.x()), std::abs(motion.y())});
     const QRect cell = cellsOf(QRect(place, QSize(1, 1)));
-    m_symbolCells[std::size_t(cell.top() * m_columns + cell.left())].push_back(owner);
-    addDensity(symbolRect(added), int(SymbolAreaCost * DensityUnits));
+    m_symbolCells[static_cast<std::size_t>(cell.top() * m_columns + cell.left())].push_back(owner);
+    addDensity(symbolRect(added), static_cast<int>(SymbolAreaCost * DensityUnits));
 }
 
 void LabelField::setYields(int owner, bool yields)
 {
-    m_owners[std::size_t(owner)].yields = yields;
+    m_owners[static_cast<std::size_t>(owner)].yields = yields;
 }
 
 void LabelField::addFreeLine(int owner, const QPoint &tip)
 {
-    m_freeLines.emplace_back(m_owners[std::size_t(owner)].place, tip);
+    m_freeLines.emplace_back(m_owners[static_cast<std::size_t>(owner)].place, tip);
 }
 
 void LabelField::put(int owner, const QRect &rect)
 {
     remove(owner);
-    Owner &put = m_owners[std::size_t(owner)];
+    Owner &put = m_owners[static_cast<std::size_t>(owner)];
     put.rect = rect;
     put.leader = QLine(put.place, leaderEnd(put.place, rect));
     put.leaderBounds = boundsOf(put.leader);
     put.bounds = rect | put.leaderBounds;
-    addDensity(rect, int(LabelAreaCost * DensityUnits));
+    addDensity(rect, static_cast<int>(LabelAreaCost * DensityUnits));
     const QRect range = cellsOf(put.bounds);
     for (int y = range.top(); y <= range.bottom(); ++y) {
         for (int x = range.left(); x <= range.right(); ++x) {
-            m_labelCells[std::size_t(y * m_columns + x)].push_back(owner);
+            m_labelCells[static_cast<std::size_t>(y * m_columns + x)].push_back(owner);
         }
     }
 }
 
 void LabelField::remove(int owner)
 {
-    Owner &removed = m_owners[std::size_t(owner)];
+    Owner &removed = m_owners[static_cast<std::size_t>(owner)];
     if (removed.rect.isNull()) {
         return;
     }
     const QRect range = cellsOf(removed.bounds);
     for (int y = range.top(); y <= range.bottom(); ++y) {
         for (int x = range.left(); x <= range.right(); ++x) {
-            std::vector<int> &cell = m_labelCells[std::size_t(y * m_columns + x)];
+            std::vector<int> &cell = m_labelCells[static_cast<std::size_t>(y * m_columns + x)];
             *std::find(cell.begin(), cell.end(), owner) = cell.back();
             cell.pop_back();
         }
     }
-    addDensity(removed.rect, -int(LabelAreaCost * DensityUnits));
+    addDensity(removed.rect, -static_cast<int>(LabelAreaCost * DensityUnits));
     removed.rect = {};
 }
 
@@ -199,21 +201,21 @@ double LabelField::cost(int owner, const QRect &rect, double limit) const
     const int reach = m_symbolReach;
     const bool go =
         visit(m_symbolCells, m_columns, cellsOf(rect.adjusted(-reach, -reach, reach, reach)), [&](int other) {
-            cost += SymbolAreaCost * sharedArea(rect, symbolRect(m_owners[std::size_t(other)]));
+            cost += SymbolAreaCost * sharedArea(rect, symbolRect(m_owners[static_cast<std::size_t>(other)]));
             return cost < limit;
         });
     if (!go) {
         return cost;
     }
-    Owner asked = m_owners[std::size_t(owner)];
+    Owner asked = m_owners[static_cast<std::size_t>(owner)];
     asked.rect = rect;
     asked.leader = QLine(asked.place, leaderEnd(asked.place, rect));
     asked.leaderBounds = boundsOf(asked.leader);
     asked.bounds = rect | asked.leaderBounds;
     ++m_question;
     visit(m_labelCells, m_columns, cellsOf(asked.bounds), [&](int other) {
-        const Owner &stands = m_owners[std::size_t(other)];
-        unsigned int &visited = m_visited[std::size_t(other)];
+        const Owner &stands = m_owners[static_cast<std::size_t>(other)];
+        unsigned int &visited = m_visited[static_cast<std::size_t>(other)];
         // Most are only near.
         if (other != owner && visited != m_question && overlap(asked.bounds, stands.bounds)) {
             visited = m_question;
@@ -234,10 +236,10 @@ double LabelField::inTheWay(const Owner &label, const Owner &other)
 
 int LabelField::crossing(int owner) const
 {
-    const Owner &asked = m_owners[std::size_t(owner)];
+    const Owner &asked = m_owners[static_cast<std::size_t>(owner)];
     int found = -1;
     visit(m_labelCells, m_columns, cellsOf(asked.leaderBounds), [&](int other) {
-        const Owner &stands = m_owners[std::size_t(other)];
+        const Owner &stands = m_owners[static_cast<std::size_t>(other)];
         const bool crosses =
             other != owner && cross(asked.leader, asked.leaderBounds, stands.leader, stands.leaderBounds);
         found = crosses ? other : -1;
@@ -252,21 +254,23 @@ int LabelField::crowding(const QPoint &place) const
     std::size_t count = 0;
     for (int y = range.top(); y <= range.bottom(); ++y) {
         for (int x = range.left(); x <= range.right(); ++x) {
-            count += m_symbolCells[std::size_t(y * m_columns + x)].size();
+            count += m_symbolCells[static_cast<std::size_t>(y * m_columns + x)].size();
         }
     }
-    return int(count);
+    return static_cast<int>(count);
 }
 
 double LabelField::freeFor(int owner, const QRect &rect, double limit, double least) const
 {
-    const QPointF motion = m_owners[std::size_t(owner)].motion;
+    const QPointF motion = m_owners[static_cast<std::size_t>(owner)].motion;
     // Who comes from ahead closes in quicker than who comes from behind.
-    const auto reach = [&](double ownSpeed) { return int(std::ceil((m_speed + ownSpeed) * limit)) + m_symbolReach; };
+    const auto reach = [&](double ownSpeed) {
+        return static_cast<int>(std::ceil((m_speed + ownSpeed) * limit)) + m_symbolReach;
+    };
     const QRect range =
         cellsOf(rect.adjusted(-reach(-motion.x()), -reach(-motion.y()), reach(motion.x()), reach(motion.y())));
     visit(m_symbolCells, m_columns, range, [&](int other) {
-        const Owner &stands = m_owners[std::size_t(other)];
+        const Owner &stands = m_owners[static_cast<std::size_t>(other)];
         if (other != owner) {
             limit = timeToTouch(rect, symbolRect(stands), stands.motion - motion, limit);
         }
@@ -276,10 +280,10 @@ double LabelField::freeFor(int owner, const QRect &rect, double limit, double le
         return limit;
     }
     ++m_question;
-    const bool yields = m_owners[std::size_t(owner)].yields;
+    const bool yields = m_owners[static_cast<std::size_t>(owner)].yields;
     visit(m_labelCells, m_columns, range, [&](int other) {
-        const Owner &stands = m_owners[std::size_t(other)];
-        unsigned int &visited = m_visited[std::size_t(other)];
+        const Owner &stands = m_owners[static_cast<std::size_t>(other)];
+        unsigned int &visited = m_visited[static_cast<std::size_t>(other)];
         if (other != owner && visited != m_question && (yields || !stands.yields)) {
             visited = m_question;
             limit = timeToTouch(rect, stands.rect, stands.motion - motion, limit);
@@ -310,7 +314,7 @@ bool LabelField::visit(const std::vector<std::vector<int>> &cells, int columns, 
 {
     for (int y = range.top(); y <= range.bottom(); ++y) {
         for (int x = range.left(); x <= range.right(); ++x) {
-            for (const int owner : cells[std::size_t(y * columns + x)]) {
+            for (const int owner : cells[static_cast<std::size_t>(y * columns + x)]) {
                 if (!visit(owner)) {
                     return false;
                 }
@@ -364,7 +368,7 @@ double LabelField::roughCost(const QRect &rect) const
 
 double LabelField::freeLineCost(const QRect &rect) const
 {
-    return FreeLineCost * double(std::count_if(m_freeLines.begin(), m_freeLines.end(), [&rect](const QLine &line) {
-        return cross(rect, line, boundsOf(line));
-    }));
+    return FreeLineCost
+        * static_cast<double>(std::count_if(m_freeLines.begin(), m_freeLines.end(),
+            [&rect](const QLine &line) { return cross(rect, line, boundsOf(line)); }));
 }

@@ -103,10 +103,10 @@ void LabelPlacer::lookAgain()
 void LabelPlacer::collect(const std::vector<Label> &labels)
 {
     const QRect area = m_scene.view.adjusted(-OutsideMargin, -OutsideMargin, OutsideMargin, OutsideMargin);
-    m_field.reset(area, int(labels.size()), m_scene.symbolReach);
+    m_field.reset(area, static_cast<int>(labels.size()), m_scene.symbolReach);
     m_entries.clear();
     for (const Label &label : labels) {
-        const int index = int(m_entries.size());
+        const int index = static_cast<int>(m_entries.size());
         Memory &memory = m_memories[label.id];
         memory.seen = m_call;
         m_entries.push_back({&label, &memory, m_scene.view.contains(label.place)});
@@ -127,11 +127,11 @@ void LabelPlacer::setCosts()
     for (const Entry &entry : m_entries) {
         const bool counts = entry.inView && !entry.label->pinned;
         count += counts ? 1 : 0;
-        area += counts ? double(entry.label->whole.width()) * entry.label->whole.height() : 0.0;
+        area += counts ? static_cast<double>(entry.label->whole.width()) * entry.label->whole.height() : 0.0;
     }
-    const double many = std::clamp(double(count - Few) / (Many - Few), 0.0, 1.0);
+    const double many = std::clamp(static_cast<double>(count - Few) / (Many - Few), 0.0, 1.0);
     m_hiddenCost = std::lerp(HiddenCostOfFew, HiddenCostOfMany, many);
-    const double share = area / std::max(1.0, double(m_scene.view.width()) * m_scene.view.height());
+    const double share = area / std::max(1.0, static_cast<double>(m_scene.view.width()) * m_scene.view.height());
     const double crowd = std::clamp((share - LooseShare) / (CrowdShare - LooseShare), 0.0, 1.0);
     m_horizonCost = std::lerp(HorizonCost, HorizonCostInCrowd, crowd);
     m_nearerCost = std::lerp(NearerCost, NearerCostInCrowd, crowd);
@@ -148,7 +148,7 @@ double LabelPlacer::formCost(Form form) const
 void LabelPlacer::recall()
 {
     m_new.clear();
-    for (int i = 0; i < int(m_entries.size()); ++i) {
+    for (int i = 0; i < static_cast<int>(m_entries.size()); ++i) {
         recall(i);
     }
 }
@@ -184,7 +184,7 @@ void LabelPlacer::recall(int index)
 void LabelPlacer::sortNew()
 {
     for (const int index : m_new) {
-        m_entries[std::size_t(index)].crowding = m_field.crowding(entry(index).label->place);
+        m_entries[static_cast<std::size_t>(index)].crowding = m_field.crowding(entry(index).label->place);
     }
     const auto rank = [this](int index) {
         const Entry &ranked = entry(index);
@@ -219,7 +219,7 @@ void LabelPlacer::improve()
 void LabelPlacer::findWanting()
 {
     m_wanting.clear();
-    for (int i = 0; i < int(m_entries.size()); ++i) {
+    for (int i = 0; i < static_cast<int>(m_entries.size()); ++i) {
         if (isWanting(i)) {
             m_wanting.push_back(i);
         }
@@ -260,7 +260,7 @@ void LabelPlacer::report()
     m_shortenedCount = 0;
     m_hiddenCount = 0;
     quint64 hoveredTrack = 0;
-    for (int i = 0; i < int(m_entries.size()); ++i) {
+    for (int i = 0; i < static_cast<int>(m_entries.size()); ++i) {
         const Memory &memory = *entry(i).memory;
         const bool counts = entry(i).inView && !entry(i).label->whole.isEmpty();
         m_shortenedCount += counts && memory.form == Form::Shortened ? 1 : 0;
@@ -285,7 +285,7 @@ LabelPlacer::Placed LabelPlacer::hovered(int index)
     Found best{m_scene.preferredOffset, 0.0, NoLimit, Form::Whole};
     for (const LabelCandidates::Candidate &candidate : m_candidates.of(label.whole)) {
         const QRect rect(label.place + candidate.offset, label.whole);
-        const double cost = double(candidate.cost) + m_field.cost(index, rect, best.cost);
+        const double cost = static_cast<double>(candidate.cost) + m_field.cost(index, rect, best.cost);
         if (edgeCost(index, rect) <= 0.0 && cost < best.cost) {
             best = {candidate.offset, 0.0, cost, Form::Whole};
         }
@@ -374,7 +374,7 @@ bool LabelPlacer::exchange(int index)
     for (const auto &[moved, corner] : {std::pair(index, otherRect.topLeft()), std::pair(other, rect.topLeft())}) {
         Memory &memory = *entry(moved).memory;
         memory.offset = corner - entry(moved).label->place;
-        memory.placeCost = double(m_candidates.cost(memory.offset, memory.size));
+        memory.placeCost = static_cast<double>(m_candidates.cost(memory.offset, memory.size));
     }
     return true;
 }
@@ -383,8 +383,8 @@ double LabelPlacer::exchangedCost(int index, const QPoint &corner)
 {
     const Memory &memory = *entry(index).memory;
     const QRect rect(corner, memory.size);
-    return double(m_candidates.cost(corner - entry(index).label->place, memory.size)) + formCost(memory.form)
-        + edgeCost(index, rect) + m_field.cost(index, rect, NoLimit);
+    return static_cast<double>(m_candidates.cost(corner - entry(index).label->place, memory.size))
+        + formCost(memory.form) + edgeCost(index, rect) + m_field.cost(index, rect, NoLimit);
 }
 
 // What costs less than the best so far, or that: a nearby place that is out of others' way, and likely to stay so.
@@ -421,7 +421,7 @@ LabelPlacer::Found LabelPlacer::bestPlace(int index, Form form, Found best)
     const std::size_t stride = m_work > WorkLimit ? HastyStride : 1;
     for (std::size_t i = 0; i < candidates.size(); i += stride) {
         const LabelCandidates::Candidate &candidate = candidates[i];
-        const double own = double(candidate.cost) + formCost(form);
+        const double own = static_cast<double>(candidate.cost) + formCost(form);
         if (own >= best.cost) {
             break;
         }
@@ -433,7 +433,7 @@ LabelPlacer::Found LabelPlacer::bestPlace(int index, Form form, Found best)
         }
         if (isUrgent(index) || inView + RoughShare * m_field.roughCost(rect) < best.cost) {
             const double cost = placeCost(index, rect, inView, best.cost);
-            best = cost < best.cost ? Found{candidate.offset, double(candidate.cost), cost, form} : best;
+            best = cost < best.cost ? Found{candidate.offset, static_cast<double>(candidate.cost), cost, form} : best;
         }
     }
     return best;

@@ -117,7 +117,7 @@ private:
     void settle(int index, const Found &found);
     QRect rectOf(int index) const;
 
-    const Entry &entry(int index) const { return m_entries[std::size_t(index)]; }
+    const Entry &entry(int index) const { return m_entries[static_cast<std::size_t>(index)]; }
 
     std::unordered_map<quint64, Memory> m_memories;
     LabelCandidates m_candidates;

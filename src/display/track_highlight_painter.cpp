@@ -58,5 +58,5 @@ void TrackHighlightPainter::paintHead(QPainter *painter, const TrackFrame &frame
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(head.adjusted(0, 0, -1, -1));
     painter->setPen(shown.blinkedOff ? color : colors.labelAlertText);
-    painter->drawText(head, int(Qt::AlignCenter | Qt::TextDontClip), words);
+    painter->drawText(head, static_cast<int>(Qt::AlignCenter | Qt::TextDontClip), words);
 }

@@ -83,7 +83,7 @@ void Layouter::layOut(TrackLabelLayout &label)
     std::vector<Line> before = std::exchange(label.lines, {});
     double width = 0.0;
     for (int i = 0; i < TrackLabelLines::Count; ++i) {
-        const QString &text = label.content.text[std::size_t(i)];
+        const QString &text = label.content.text[static_cast<std::size_t>(i)];
         if (text.isEmpty()) {
             continue;
         }
@@ -91,14 +91,14 @@ void Layouter::layOut(TrackLabelLayout &label)
         const auto same = std::find_if(
             before.begin(), before.end(), [&](const Line &line) { return line.kind == kind && line.text == text; });
         Line line = same != before.end() ? std::move(*same) : textLine(kind, text);
-        line.y = double(label.lines.size()) * m_metrics.lineSpacing();
+        line.y = static_cast<double>(label.lines.size()) * m_metrics.lineSpacing();
         width = std::max(width, line.width);
         label.lines.push_back(std::move(line));
     }
     const bool alert = !label.lines.empty() && label.lines.front().kind == Kind::Alert;
-    const double above = (double(label.lines.size()) - 1.0) * m_metrics.lineSpacing();
+    const double above = (static_cast<double>(label.lines.size()) - 1.0) * m_metrics.lineSpacing();
     label.alertHeight = alert ? qRound(m_metrics.lineSpacing()) : 0;
-    label.size = QSize(int(std::ceil(width)), int(std::ceil(above + m_metrics.height())));
+    label.size = QSize(static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(above + m_metrics.height())));
 }
 
 } // namespace

@@ -83,7 +83,7 @@ QString extras(const TrackSnapshot &track, const TrackLabelFields &fields)
     if (fields.trackNum) {
         separate(line);
         line += QLatin1Char('#');
-        appendNumber(line, int(track.trackNumber), 4);
+        appendNumber(line, static_cast<int>(track.trackNumber), 4);
     }
     return line;
 }
@@ -92,7 +92,7 @@ QString extras(const TrackSnapshot &track, const TrackLabelFields &fields)
 void appendSilence(QString &line, const TrackSnapshot &track, const QDateTime &time)
 {
     if (time.isValid() && track.lastUpdate.isValid()) {
-        appendNumber(line, int(std::max<qint64>(0, track.lastUpdate.msecsTo(time) / 1000)), 1);
+        appendNumber(line, static_cast<int>(std::max<qint64>(0, track.lastUpdate.msecsTo(time) / 1000)), 1);
         line += QLatin1Char('s');
     }
 }

@@ -31,7 +31,7 @@ QString identityLine(const TrackSnapshot &track, const TrackLabelFields &fields)
     QString line;
     if (fields.trackNum) {
         line = QLatin1Char('#');
-        appendNumber(line, int(track.trackNumber), 4);
+        appendNumber(line, static_cast<int>(track.trackNumber), 4);
     }
     if (fields.icaoAddr) {
         appendBlank(line);

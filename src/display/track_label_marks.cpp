@@ -54,6 +54,6 @@ void tracklabel::paintMark(QPainter *painter, QChar mark, const QRectF &cell)
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(QPen(before.color(), std::max(1.0, cell.width() / 6.0), Qt::SolidLine, Qt::RoundCap));
     const std::array lines{line, barb(145.0), barb(-145.0)};
-    painter->drawLines(lines.data(), int(lines.size()));
+    painter->drawLines(lines.data(), static_cast<int>(lines.size()));
     painter->restore();
 }

@@ -21,14 +21,14 @@ int shortenedLines(const TrackLabelLayout &layout)
         return line.kind == Kind::Alert || line.kind == Kind::Caution;
     };
     const auto name = std::find_if_not(layout.lines.begin(), layout.lines.end(), isUrgent);
-    return int(name - layout.lines.begin()) + (name == layout.lines.end() ? 0 : 1);
+    return static_cast<int>(name - layout.lines.begin()) + (name == layout.lines.end() ? 0 : 1);
 }
 
 // Of that many lines from the top, without padding.
 QSize textSize(const TrackLabelLayout &layout, int lines)
 {
     const auto all = layout.lines.size();
-    const auto kept = std::size_t(lines);
+    const auto kept = static_cast<std::size_t>(lines);
     if (kept >= all) {
         return layout.size;
     }
@@ -37,7 +37,7 @@ QSize textSize(const TrackLabelLayout &layout, int lines)
         width = std::max(width, layout.lines[i].width);
     }
     const double below = layout.lines[all - 1].y - layout.lines[kept - 1].y;
-    return QSize(int(std::ceil(width)), layout.size.height() - int(std::floor(below)));
+    return QSize(static_cast<int>(std::ceil(width)), layout.size.height() - static_cast<int>(std::floor(below)));
 }
 
 // From a label's padded corner to that of its text.
@@ -136,7 +136,7 @@ void TrackLabelPlaces::place(TrackFrame &frame, const Obstacles &obstacles)
     for (ShownTrack &shown : frame.tracks) {
         if (shown.label) {
             const QPoint offset = m_pinned.value(shown.track->incarnationId, frame.look.labelOffset);
-            show(shown, QPoint(offset.x(), -offset.y()), int(shown.label->lines.size()));
+            show(shown, QPoint(offset.x(), -offset.y()), static_cast<int>(shown.label->lines.size()));
         }
     }
 }
@@ -165,7 +165,8 @@ void TrackLabelPlaces::arrange(TrackFrame &frame, const Obstacles &obstacles)
             continue;
         }
         const bool whole = placed[i].form == LabelPlacer::Form::Whole;
-        show(shown, placed[i].offset + padding, whole ? int(shown.label->lines.size()) : shortenedLines(*shown.label));
+        show(shown, placed[i].offset + padding,
+            whole ? static_cast<int>(shown.label->lines.size()) : shortenedLines(*shown.label));
     }
 }
 

@@ -15,7 +15,7 @@ void appendNumber(QString &line, int number, int width)
 
 int hundreds(int value)
 {
-    return int(std::lround(value / 100.0));
+    return static_cast<int>(std::lround(value / 100.0));
 }
 
 int shownLevel(int feet)
@@ -25,12 +25,12 @@ int shownLevel(int feet)
 
 int shownSpeed(double knots)
 {
-    return int(std::lround(knots));
+    return static_cast<int>(std::lround(knots));
 }
 
 int shownHeading(double degrees)
 {
-    return int(std::lround(degrees));
+    return static_cast<int>(std::lround(degrees));
 }
 
 void appendTrend(QString &line, Track::VerticalTrend trend)

@@ -33,11 +33,12 @@ unsigned int TrackLabelVisibility::hiddenLines(const ShownTrack &shown, const QR
     unsigned int hidden = 0;
     const std::vector<TrackLabelLayout::Line> &lines = shown.label->lines;
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        const int top = shown.labelRect.top() + int(lines[i].y);
-        const int bottom = i + 1 < lines.size() ? shown.labelRect.top() + int(lines[i + 1].y) : padded.bottom();
+        const int top = shown.labelRect.top() + static_cast<int>(lines[i].y);
+        const int bottom =
+            i + 1 < lines.size() ? shown.labelRect.top() + static_cast<int>(lines[i + 1].y) : padded.bottom();
         // Glyphs may lean out of their line a little.
         const QRect line(QPoint(padded.left(), top - 2), QPoint(padded.right(), bottom + 2));
-        hidden |= int(i) >= shown.lines || m_cover.visiblePart(line).isEmpty() ? 1u << i : 0u;
+        hidden |= static_cast<int>(i) >= shown.lines || m_cover.visiblePart(line).isEmpty() ? 1u << i : 0u;
     }
     return hidden;
 }

@@ -28,7 +28,7 @@ QFont defaultLabelFont()
 
 QColor withOpacity(QColor color, int percent)
 {
-    color.setAlphaF(float(std::clamp(percent, 0, 100)) / 100.0f);
+    color.setAlphaF(static_cast<float>(std::clamp(percent, 0, 100)) / 100.0f);
     return color;
 }
 
@@ -72,7 +72,7 @@ int TrackLook::coveringLabels() const
 {
     constexpr double Unseen = 0.03; // of what lies below
     constexpr int Most = CoverMask::MostLayers;
-    const double through = backgroundVisible ? 1.0 - double(colors.labelBackground.alphaF()) : 1.0;
+    const double through = backgroundVisible ? 1.0 - static_cast<double>(colors.labelBackground.alphaF()) : 1.0;
     int labels = 1;
     for (double left = through; left > Unseen && labels <= Most; left *= through) {
         ++labels;

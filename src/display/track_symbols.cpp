@@ -84,7 +84,8 @@ QPixmap &TrackSymbols::kept(int symbol, int turn, const QColor &color, double de
         m_pixmaps.clear();
         m_ratio = devicePixelRatio;
     }
-    QPixmap &pixmap = m_pixmaps[quint64(color.rgba()) << 32 | quint64(symbol) << 16 | quint64(turn)];
+    QPixmap &pixmap = m_pixmaps[static_cast<quint64>(color.rgba()) << 32 | static_cast<quint64>(symbol) << 16
+        | static_cast<quint64>(turn)];
     if (pixmap.isNull()) {
         pixmap = render(symbol, turn, color);
     }
@@ -93,7 +94,7 @@ QPixmap &TrackSymbols::kept(int symbol, int turn, const QColor &color, double de
 
 QPixmap TrackSymbols::render(int symbol, int turn, const QColor &color) const
 {
-    SvgSymbol drawing = m_symbols[std::size_t(symbol)];
+    SvgSymbol drawing = m_symbols[static_cast<std::size_t>(symbol)];
     drawing.setColor(color);
     const QPixmap upright = drawing.render(m_ratio);
     return cased(turn == 0 ? upright : turned(upright, turn));

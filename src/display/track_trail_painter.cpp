@@ -46,7 +46,7 @@ void TrackTrailPainter::paintFading(QPainter *painter, const TrackFrame &frame)
             const QRect dot = dotAt(frame, shown.track->trail[i]);
             const QPoint step = dot.center() - last;
             if (std::max(std::abs(step.x()), std::abs(step.y())) >= apart) {
-                m_dots[std::size_t(i) * Steps / std::size_t(dots)].push_back(dot);
+                m_dots[static_cast<std::size_t>(i) * Steps / static_cast<std::size_t>(dots)].push_back(dot);
                 last = dot.center();
                 apart = DotsApart;
             }
@@ -54,7 +54,7 @@ void TrackTrailPainter::paintFading(QPainter *painter, const TrackFrame &frame)
     }
     QColor color = frame.look.colors.symbol;
     for (std::size_t step = 0; step < Steps; ++step) {
-        color.setAlphaF(Freshest + (Faintest - Freshest) * float(step) / float(Steps - 1));
+        color.setAlphaF(Freshest + (Faintest - Freshest) * static_cast<float>(step) / static_cast<float>(Steps - 1));
         drawDots(painter, step, color);
     }
 }
@@ -68,7 +68,7 @@ void TrackTrailPainter::drawDots(QPainter *painter, std::size_t step, const QCol
     }
     painter->setPen(Qt::NoPen);
     painter->setBrush(color);
-    painter->drawRects(dots.data(), int(dots.size()));
+    painter->drawRects(dots.data(), static_cast<int>(dots.size()));
     painter->setBrush(Qt::NoBrush);
     dots.clear();
 }

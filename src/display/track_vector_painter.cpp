@@ -67,5 +67,5 @@ void TrackVectorPainter::paint(
         return;
     }
     painter->setPen(m_pens.line(frame.color(shown), shown.track->coasting));
-    painter->drawLines(m_lines.data(), int(m_lines.size()));
+    painter->drawLines(m_lines.data(), static_cast<int>(m_lines.size()));
 }

@@ -75,7 +75,7 @@ quint64 IdentityDirectory::keyOf(const SeenIdentity &seen)
             who = who * 131 + static_cast<unsigned char>(character);
         }
     }
-    const quint64 source = quint64(seen.category) << 16 | quint64(seen.sac) << 8 | seen.sic;
+    const quint64 source = static_cast<quint64>(seen.category) << 16 | static_cast<quint64>(seen.sac) << 8 | seen.sic;
     return mixed(mixed(who) ^ source << 1 ^ (seen.hasEnded() ? 1 : 0));
 }
 

@@ -15,7 +15,7 @@ int alignmentOf(int column)
 {
     const bool isFigure =
         column == SourceTableModel::Rate || column == SourceTableModel::Delay || column == SourceTableModel::Shown;
-    return int(isFigure ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
+    return static_cast<int>(isFigure ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 QString delayText(const DelayStatistics &delay)

@@ -153,7 +153,8 @@ QList<Field> alertFields()
             "begin", AlertListModel::tr("Begin UTC"), {}, "00:00:00", true,
             [](const E &entry) { return timeText(entry.startTime); },
             [](const E &entry) {
-                return entry.startTime.isValid() ? Number(double(entry.startTime.toMSecsSinceEpoch())) : Number();
+                return entry.startTime.isValid() ? Number(static_cast<double>(entry.startTime.toMSecsSinceEpoch()))
+                                                 : Number();
             }),
         field("area", AlertListModel::tr("Area"), {}, "WWWWWWWWWW", true,
             [](const E &entry) { return entry.objectName; }),
@@ -161,7 +162,8 @@ QList<Field> alertFields()
             "end", AlertListModel::tr("End UTC"), {}, "00:00:00", true,
             [](const E &entry) { return timeText(entry.endTime); },
             [](const E &entry) {
-                return entry.endTime.isValid() ? Number(double(entry.endTime.toMSecsSinceEpoch())) : Number();
+                return entry.endTime.isValid() ? Number(static_cast<double>(entry.endTime.toMSecsSinceEpoch()))
+                                               : Number();
             }),
     };
 }

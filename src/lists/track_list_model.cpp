@@ -115,7 +115,8 @@ Number age(const Entry &entry)
 {
     const QDateTime &heard = entry.track->lastUpdate;
     const bool known = heard.isValid() && entry.context->time.isValid();
-    return known ? Number(double(std::max<qint64>(0, heard.msecsTo(entry.context->time) / 1000))) : Number();
+    return known ? Number(static_cast<double>(std::max<qint64>(0, heard.msecsTo(entry.context->time) / 1000)))
+                 : Number();
 }
 
 QString alertText(const Entry &entry)

@@ -331,7 +331,7 @@ bool LayerReader::reportProgress(qint64 read, qint64 total) const
     if (!m_progress || (read % Step != 0 && read != total)) {
         return true;
     }
-    const double part = total > 0 ? std::min(1.0, double(read) / double(total)) : 0.0;
+    const double part = total > 0 ? std::min(1.0, static_cast<double>(read) / static_cast<double>(total)) : 0.0;
     return m_progress(static_cast<int>(100.0 * (m_layer + part) / m_layerCount));
 }
 

@@ -29,7 +29,7 @@ void fill(QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &
         }
         clip.clipArea(area, area.level(frame.metresPerPixel));
         if (clip.points().size() > 2) {
-            painter.drawPolygon(clip.points().data(), int(clip.points().size()));
+            painter.drawPolygon(clip.points().data(), static_cast<int>(clip.points().size()));
         }
     }
 }

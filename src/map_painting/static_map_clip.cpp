@@ -47,7 +47,7 @@ void StaticMapClip::endRun()
 int StaticMapClip::stepsOf(const QPointF &from, const QPointF &to) const
 {
     const double extent = std::max(std::abs(to.x() - from.x()), std::abs(to.y() - from.y()));
-    return extent <= m_longest ? 1 : int(std::exp2(std::ceil(std::log2(extent / m_longest))));
+    return extent <= m_longest ? 1 : static_cast<int>(std::exp2(std::ceil(std::log2(extent / m_longest))));
 }
 
 void StaticMapClip::clipLine(const StaticMapShape::Level &level, bool withDistances)
@@ -175,8 +175,8 @@ void StaticMapClip::clipArea(const StaticMapShape &shape, const StaticMapShape::
     // Of what lies wholly on one side of what is seen it does not matter how it gets from its first point to its last.
     for (const StaticMapShape::Block &block : level.blocks) {
         const std::size_t last = m_sight.touches(block.bounds) ? block.last : block.first + 1;
-        m_points.insert(m_points.end(), level.points.begin() + std::ptrdiff_t(block.first),
-            level.points.begin() + std::ptrdiff_t(last));
+        m_points.insert(m_points.end(), level.points.begin() + static_cast<std::ptrdiff_t>(block.first),
+            level.points.begin() + static_cast<std::ptrdiff_t>(last));
     }
     if (!m_sight.contains(shape.bounds())) {
         cutOff([this](const QPointF &point) { return m_sight.west - point.x(); });

@@ -49,5 +49,6 @@ inline std::pair<int, int> copiesInSight(const PlaneBox &sight, double period)
     if (period <= 0.0) {
         return {0, 0};
     }
-    return {int(std::floor(sight.west / period)) - 1, int(std::ceil(sight.east / period)) + 1};
+    return {
+        static_cast<int>(std::floor(sight.west / period)) - 1, static_cast<int>(std::ceil(sight.east / period)) + 1};
 }

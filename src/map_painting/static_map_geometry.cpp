@@ -50,9 +50,9 @@ std::vector<double> rowEdges(const StaticMapProjection &projection, const MapIma
 
 bool evenlySpaced(const std::vector<double> &edges)
 {
-    const double height = (edges.front() - edges.back()) / double(edges.size() - 1);
+    const double height = (edges.front() - edges.back()) / static_cast<double>(edges.size() - 1);
     for (std::size_t i = 0; i < edges.size(); ++i) {
-        if (std::abs(edges.front() - height * double(i) - edges[i]) > height / 4.0) {
+        if (std::abs(edges.front() - height * static_cast<double>(i) - edges[i]) > height / 4.0) {
             return false;
         }
     }
@@ -62,7 +62,7 @@ bool evenlySpaced(const std::vector<double> &edges)
 // The picture's row for each of as many rows as it takes to lose none.
 std::vector<int> rowsInPlane(const std::vector<double> &edges)
 {
-    const int rowCount = int(edges.size()) - 1;
+    const int rowCount = static_cast<int>(edges.size()) - 1;
     if (rowCount < 1 || evenlySpaced(edges)) {
         return {};
     }
@@ -71,14 +71,14 @@ std::vector<int> rowsInPlane(const std::vector<double> &edges)
         lowest = std::min(lowest, edges[i - 1] - edges[i]);
     }
     const double wanted = (edges.front() - edges.back()) / std::max(lowest, 1e-3);
-    const int count = int(std::min(std::ceil(wanted), double(rowCount) * MostRowsPerRow));
+    const int count = static_cast<int>(std::min(std::ceil(wanted), static_cast<double>(rowCount) * MostRowsPerRow));
     const double height = (edges.front() - edges.back()) / count;
     std::vector<int> rows;
-    rows.reserve(std::size_t(count));
+    rows.reserve(static_cast<std::size_t>(count));
     int row = 0;
     for (int i = 0; i < count; ++i) {
         const double middle = edges.front() - height * (i + 0.5);
-        while (row + 1 < rowCount && edges[std::size_t(row) + 1] > middle) {
+        while (row + 1 < rowCount && edges[static_cast<std::size_t>(row) + 1] > middle) {
             ++row;
         }
         rows.push_back(row);
@@ -211,7 +211,7 @@ StaticMapGeometry::Pointer StaticMapGeometry::make(
     const Builder builder(*data, projector, cancelled);
     geometry->m_data = data;
     geometry->m_period = builder.period();
-    geometry->m_groups.reserve(std::size_t(data->groups.size()));
+    geometry->m_groups.reserve(static_cast<std::size_t>(data->groups.size()));
     for (const MapElementGroup &group : data->groups) {
         geometry->m_groups.push_back(builder.make(group));
     }

@@ -10,9 +10,10 @@ namespace {
 
 QImage withRows(const QImage &image, const std::vector<int> &rows)
 {
-    QImage result(image.width(), int(rows.size()), image.format());
+    QImage result(image.width(), static_cast<int>(rows.size()), image.format());
     for (int y = 0; y < result.height(); ++y) {
-        std::memcpy(result.scanLine(y), image.constScanLine(rows[std::size_t(y)]), std::size_t(image.bytesPerLine()));
+        std::memcpy(result.scanLine(y), image.constScanLine(rows[static_cast<std::size_t>(y)]),
+            static_cast<std::size_t>(image.bytesPerLine()));
     }
     return result;
 }

@@ -22,7 +22,7 @@ QSizeF sizeOf(const QString &caption, const QFontMetricsF &metrics)
         width = std::max(width, metrics.horizontalAdvance(line));
     }
     const double height = metrics.height() + 2.0 * Halo;
-    return QSizeF(std::ceil(width + 2.0 * Halo), std::ceil(height) * double(lines.size()));
+    return QSizeF(std::ceil(width + 2.0 * Halo), std::ceil(height) * static_cast<double>(lines.size()));
 }
 
 } // namespace
@@ -31,8 +31,9 @@ QSizeF sizeOf(const QString &caption, const QFontMetricsF &metrics)
 class StaticMapLabelLayout::Taken {
 public:
     explicit Taken(const QRectF &region)
-        : m_region(region), m_columns(int(region.width() / CellSize) + 1), m_rows(int(region.height() / CellSize) + 1),
-          m_cells(std::size_t(m_columns) * std::size_t(m_rows))
+        : m_region(region), m_columns(static_cast<int>(region.width() / CellSize) + 1),
+          m_rows(static_cast<int>(region.height() / CellSize) + 1),
+          m_cells(static_cast<std::size_t>(m_columns) * static_cast<std::size_t>(m_rows))
     {
     }
 
@@ -57,13 +58,14 @@ private:
     template <typename Function>
     bool forCells(const QRectF &box, Function &&function)
     {
-        const int left = std::clamp(int((box.left() - m_region.left()) / CellSize), 0, m_columns - 1);
-        const int right = std::clamp(int((box.right() - m_region.left()) / CellSize), 0, m_columns - 1);
-        const int top = std::clamp(int((box.top() - m_region.top()) / CellSize), 0, m_rows - 1);
-        const int bottom = std::clamp(int((box.bottom() - m_region.top()) / CellSize), 0, m_rows - 1);
+        const int left = std::clamp(static_cast<int>((box.left() - m_region.left()) / CellSize), 0, m_columns - 1);
+        const int right = std::clamp(static_cast<int>((box.right() - m_region.left()) / CellSize), 0, m_columns - 1);
+        const int top = std::clamp(static_cast<int>((box.top() - m_region.top()) / CellSize), 0, m_rows - 1);
+        const int bottom = std::clamp(static_cast<int>((box.bottom() - m_region.top()) / CellSize), 0, m_rows - 1);
         for (int row = top; row <= bottom; ++row) {
             for (int column = left; column <= right; ++column) {
-                if (!function(m_cells[std::size_t(row) * std::size_t(m_columns) + std::size_t(column)])) {
+                if (!function(m_cells[static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns)
+                        + static_cast<std::size_t>(column)])) {
                     return false;
                 }
             }
@@ -131,8 +133,8 @@ void StaticMapLabelLayout::forCopies(const QPointF &place, double period, Functi
     int first = 0;
     int last = 0;
     if (period > 0.0) {
-        first = int(std::ceil((m_region.plane.west - place.x()) / period));
-        last = int(std::floor((m_region.plane.east - place.x()) / period));
+        first = static_cast<int>(std::ceil((m_region.plane.west - place.x()) / period));
+        last = static_cast<int>(std::floor((m_region.plane.east - place.x()) / period));
     }
     for (int copy = first; copy <= last; ++copy) {
         const QPointF pixel = m_region.toSheet.map(place + QPointF(copy * period, 0.0));

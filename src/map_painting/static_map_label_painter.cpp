@@ -20,7 +20,7 @@ QImage draw(const StaticMapLabelLayout::Placed &placed, const MapStyleClass &sty
     QPainter painter(&image);
     painter.setFont(style.font);
     const QStringList lines = placed.label->caption.split(QLatin1Char('\n'));
-    const double lineHeight = placed.size.height() / double(lines.size());
+    const double lineHeight = placed.size.height() / static_cast<double>(lines.size());
     QPointF center(placed.size.width() / 2.0, lineHeight / 2.0);
     for (const QString &line : lines) {
         drawMapText(painter, center, line, style.color, frame.ground);

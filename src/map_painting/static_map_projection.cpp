@@ -26,8 +26,8 @@ struct StaticMapProjection::Chain {
 
     explicit Chain(const QList<GeoCoordinate> &points)
     {
-        latitudes.reserve(std::size_t(points.size()) + 1);
-        longitudes.reserve(std::size_t(points.size()) + 1);
+        latitudes.reserve(static_cast<std::size_t>(points.size()) + 1);
+        longitudes.reserve(static_cast<std::size_t>(points.size()) + 1);
         for (const GeoCoordinate &point : points) {
             if (point.isValid()) {
                 append(point.latitude(), point.longitude());

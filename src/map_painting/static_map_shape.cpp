@@ -49,7 +49,7 @@ double firstTolerance(const std::vector<QPointF> &points)
     for (std::size_t i = 1; i < points.size(); ++i) {
         length += distanceBetween(points[i - 1], points[i]);
     }
-    const double spacing = length / double(points.size());
+    const double spacing = length / static_cast<double>(points.size());
     return std::exp2(std::floor(std::log2(std::max(spacing / 8.0, 0.1)))) * TolerancePerPixel;
 }
 
@@ -74,7 +74,7 @@ void StaticMapShape::addLevels()
     for (double tolerance = firstTolerance(m_levels.front().points); tolerance <= coarsest; tolerance *= 2.0) {
         const std::vector<QPointF> &finer = m_levels.back().points;
         std::vector<QPointF> points = simplified(finer, tolerance);
-        if (double(points.size()) < WorthKeeping * double(finer.size())) {
+        if (static_cast<double>(points.size()) < WorthKeeping * static_cast<double>(finer.size())) {
             m_levels.push_back(makeLevel(std::move(points), tolerance));
         }
         if (m_levels.back().points.size() < SmallestSimplified) {

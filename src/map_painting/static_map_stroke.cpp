@@ -90,7 +90,7 @@ void StaticMapStroke::draw(const StaticMapShape &shape)
         if (m_segmentWise) {
             drawSegments(run);
         } else {
-            m_painter.drawPolyline(m_clip.points().data() + run.first, int(run.count));
+            m_painter.drawPolyline(m_clip.points().data() + run.first, static_cast<int>(run.count));
         }
     }
 }
@@ -102,5 +102,5 @@ void StaticMapStroke::drawSegments(const StaticMapClip::Run &run)
     for (std::size_t i = 1; i < run.count; ++i, ++point) {
         m_segments.emplace_back(point[0], point[1]);
     }
-    m_painter.drawLines(m_segments.data(), int(m_segments.size()));
+    m_painter.drawLines(m_segments.data(), static_cast<int>(m_segments.size()));
 }

@@ -46,7 +46,7 @@ const QImage &StaticMapSymbolPainter::drawing(const QString &type, const QColor 
     m_ratio = frame.devicePixelRatio;
     QImage &image = m_drawings[{type, color.rgba()}];
     if (image.isNull()) {
-        const int pixels = int(std::ceil(m_size * m_ratio));
+        const int pixels = static_cast<int>(std::ceil(m_size * m_ratio));
         image = QImage(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
         image.setDevicePixelRatio(m_ratio);
         image.fill(Qt::transparent);

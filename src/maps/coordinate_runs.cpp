@@ -43,7 +43,8 @@ bool takeElement(std::string_view &document, std::string_view &text)
 
 std::string_view view(const QByteArray &octets, qsizetype from = 0)
 {
-    return std::string_view(octets.constData(), static_cast<std::size_t>(octets.size())).substr(std::size_t(from));
+    return std::string_view(octets.constData(), static_cast<std::size_t>(octets.size()))
+        .substr(static_cast<std::size_t>(from));
 }
 
 } // namespace
@@ -61,7 +62,7 @@ CoordinateRuns::CoordinateRuns(const QByteArray &document) : m_document(document
 void CoordinateRuns::shorten()
 {
     qsizetype copied = 0;
-    const QByteArrayView startTag(StartTag.data(), qsizetype(StartTag.size()));
+    const QByteArrayView startTag(StartTag.data(), static_cast<qsizetype>(StartTag.size()));
     for (qsizetype at = m_document.indexOf(startTag); at >= 0; at = m_document.indexOf(startTag, at)) {
         const qsizetype begin = at;
         if (!takeRun(at)) {
@@ -87,7 +88,8 @@ bool CoordinateRuns::takeRun(qsizetype &at)
     while (takeElement(rest, text)) {
         ++count;
     }
-    at = std::max(m_document.size() - qsizetype(rest.size()), begin + qsizetype(StartTag.size()));
+    at = std::max(
+        m_document.size() - static_cast<qsizetype>(rest.size()), begin + static_cast<qsizetype>(StartTag.size()));
     if (count < ShortestRun) {
         return false;
     }
@@ -97,7 +99,7 @@ bool CoordinateRuns::takeRun(qsizetype &at)
 
 bool CoordinateRuns::isRun(QStringView instructionTarget)
 {
-    return instructionTarget == QLatin1String(Target.data(), qsizetype(Target.size()));
+    return instructionTarget == QLatin1String(Target.data(), static_cast<qsizetype>(Target.size()));
 }
 
 void CoordinateRuns::append(QStringView instructionData, QList<GeoCoordinate> &points) const
@@ -112,6 +114,6 @@ void CoordinateRuns::append(QStringView instructionData, QList<GeoCoordinate> &p
     std::string_view rest = view(m_document, run.begin);
     std::string_view text;
     for (qsizetype i = 0; i < run.count && takeElement(rest, text); ++i) {
-        points.append(GeoCoordinate::fromATCString(QLatin1String(text.data(), qsizetype(text.size()))));
+        points.append(GeoCoordinate::fromATCString(QLatin1String(text.data(), static_cast<qsizetype>(text.size()))));
     }
 }

@@ -45,7 +45,7 @@ QPixmap MapImageReader::read(QImageReader &reader, qint64 fileSize)
         return {};
     }
     const QSize size = reader.size();
-    const qint64 pixels = qint64(size.width()) * size.height();
+    const qint64 pixels = static_cast<qint64>(size.width()) * size.height();
     const bool packed = reader.format() == "png";
     if (size.isEmpty() || pixels > m_octetsLeft / OctetsPerPixel || (packed && pixels / MaxPixelsPerOctet > fileSize)) {
         return {};

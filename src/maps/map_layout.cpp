@@ -33,7 +33,7 @@ std::optional<QTransform> toTransform(const QVariant &value)
 {
     const QStringList parts = value.toStringList().join(u',').split(u',');
     std::array<double, 6> numbers{};
-    if (parts.size() != qsizetype(numbers.size())) {
+    if (parts.size() != static_cast<qsizetype>(numbers.size())) {
         return std::nullopt;
     }
     std::transform(parts.begin(), parts.end(), numbers.begin(), [](const QString &part) { return part.toDouble(); });
@@ -62,7 +62,7 @@ QMap<QString, QString> MapLayout::loadArray(QSettings &settings)
 {
     QMap<QString, QString> positions;
     settings.beginGroup(LayoutsKey);
-    const int present = int(settings.childGroups().size());
+    const int present = static_cast<int>(settings.childGroups().size());
     settings.endGroup();
     const int size = std::min(settings.beginReadArray(LayoutsKey), present);
     for (int i = 0; i < size; ++i) {
@@ -97,7 +97,7 @@ bool MapLayout::save(const QString &fileName) const
     QSettings settings(fileName, QSettings::IniFormat);
     settings.remove(LayoutsKey);
     QString current = DefaultName;
-    settings.beginWriteArray(LayoutsKey, int(m_layouts.size()));
+    settings.beginWriteArray(LayoutsKey, static_cast<int>(m_layouts.size()));
     int index = 0;
     for (auto it = m_layouts.cbegin(); it != m_layouts.cend(); ++it, ++index) {
         settings.setArrayIndex(index);

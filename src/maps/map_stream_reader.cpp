@@ -63,7 +63,7 @@ bool MapStreamReader::checkStep()
 template <class Number>
 Number MapStreamReader::number()
 {
-    constexpr auto Octets = qsizetype(sizeof(Number));
+    constexpr auto Octets = static_cast<qsizetype>(sizeof(Number));
     return take(Octets) ? qFromBigEndian<Number>(m_octets.constData() + m_at - Octets) : Number();
 }
 
@@ -74,11 +74,11 @@ QString MapStreamReader::text()
         return {};
     }
     m_good = m_good && size % 2 == 0;
-    if (!take(qsizetype(size))) {
+    if (!take(static_cast<qsizetype>(size))) {
         return {};
     }
-    QString text(qsizetype(size / 2), Qt::Uninitialized);
-    qFromBigEndian<char16_t>(m_octets.constData() + m_at - size, qsizetype(size / 2), text.data());
+    QString text(static_cast<qsizetype>(size / 2), Qt::Uninitialized);
+    qFromBigEndian<char16_t>(m_octets.constData() + m_at - size, static_cast<qsizetype>(size / 2), text.data());
     return text;
 }
 
@@ -120,7 +120,7 @@ qsizetype MapStreamReader::pngSize() const
     }
     qsizetype at = PngSignatureSize;
     while (rest.size() - at >= PngFrameSize) {
-        const auto length = qsizetype(qFromBigEndian<quint32>(rest.data() + at));
+        const auto length = static_cast<qsizetype>(qFromBigEndian<quint32>(rest.data() + at));
         if (length > rest.size() - at - PngFrameSize) {
             return 0;
         }
@@ -136,7 +136,7 @@ qsizetype MapStreamReader::pngSize() const
 template <class Element>
 bool MapStreamReader::readList(QList<Element> &list, qsizetype smallest)
 {
-    const auto count = qsizetype(number<quint32>());
+    const auto count = static_cast<qsizetype>(number<quint32>());
     m_good = m_good && count <= left() / smallest;
     if (!m_good) {
         return false;

@@ -34,7 +34,7 @@ public:
     template <class Element>
     bool writeList(const QList<Element> &list)
     {
-        m_stream << quint32(list.size());
+        m_stream << static_cast<quint32>(list.size());
         return std::all_of(list.begin(), list.end(), [this](const Element &element) { return write(element); });
     }
 
@@ -42,7 +42,7 @@ private:
     template <class Shape>
     bool write(const Shape &shape)
     {
-        m_stream << shape.name << quint32(shape.points.size());
+        m_stream << shape.name << static_cast<quint32>(shape.points.size());
         for (const GeoCoordinate &point : shape.points) {
             m_stream << point;
         }

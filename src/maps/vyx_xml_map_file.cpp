@@ -327,8 +327,11 @@ MapData VyxXmlMapFile::readFile()
     const QByteArray document = m_file.readAll();
     const CoordinateRuns runs(document);
     MapXmlReader xml(runs.shortDocument());
-    const double scale = double(document.size()) / double(std::max<qsizetype>(runs.shortDocument().size(), 1));
-    xml.setStep([this, scale](qint64 characters) { return reportProgress(qint64(double(characters) * scale)); });
+    const double scale =
+        static_cast<double>(document.size()) / static_cast<double>(std::max<qsizetype>(runs.shortDocument().size(), 1));
+    xml.setStep([this, scale](qint64 characters) {
+        return reportProgress(static_cast<qint64>(static_cast<double>(characters) * scale));
+    });
     const bool valid = xml.nextChild() && xml.name() == QLatin1String("map");
     const MapData map = valid ? Reader(xml, runs, m_info.absoluteDir()).read() : MapData{};
     if (!valid && !xml.hasError()) {

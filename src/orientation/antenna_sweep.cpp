@@ -57,7 +57,7 @@ void AntennaSweep::revolutionBegun(double azimuth, qint64 nowMs)
 {
     if (m_revolutionStart) {
         const double turned = 360.0 + azimuth - m_revolutionStart->azimuth;
-        const double seconds = double(nowMs - m_revolutionStart->time) / 1000.0 * 360.0 / turned;
+        const double seconds = static_cast<double>(nowMs - m_revolutionStart->time) / 1000.0 * 360.0 / turned;
         const double shortest = m_nominalPeriod > 0.0 ? ShortestRevolution * m_nominalPeriod : FastestPeriod;
         const double longest = LongestRevolution * (m_nominalPeriod > 0.0 ? m_nominalPeriod : UnknownPeriod);
         if (seconds >= shortest && seconds <= longest) {
@@ -72,7 +72,7 @@ std::optional<double> AntennaSweep::azimuth(qint64 nowMs) const
     if (!m_lastHeard) {
         return std::nullopt;
     }
-    const double seconds = double(nowMs - m_lastHeard->time) / 1000.0;
+    const double seconds = static_cast<double>(nowMs - m_lastHeard->time) / 1000.0;
     const double turn = period();
     if (seconds > SilentRevolutions * (turn > 0.0 ? turn : UnknownPeriod)) {
         return std::nullopt;

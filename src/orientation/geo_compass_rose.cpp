@@ -122,13 +122,13 @@ void GeoCompassRose::marksOnRim(const GeoView &view)
     };
     for (int side = 0; side < 4; ++side) {
         const QLineF line(corners[side], corners[side + 1]);
-        const int steps = std::max(1, int(line.length() / RimStep));
+        const int steps = std::max(1, static_cast<int>(line.length() / RimStep));
         std::optional<double> before = bearingOf(line.p1());
         for (int i = 1; i <= steps; ++i) {
-            const std::optional<double> here = bearingOf(line.pointAt(double(i) / steps));
+            const std::optional<double> here = bearingOf(line.pointAt(static_cast<double>(i) / steps));
             if (before && here) {
-                markBetween(line.pointAt((i - 1.0) / steps), *before, line.pointAt(double(i) / steps), *here,
-                    inward[side], middle);
+                markBetween(line.pointAt((i - 1.0) / steps), *before, line.pointAt(static_cast<double>(i) / steps),
+                    *here, inward[side], middle);
             }
             before = here;
         }
@@ -143,7 +143,7 @@ void GeoCompassRose::markBetween(const QPointF &one, double oneBearing, const QP
     if (std::abs(turn) > 2.0 * TickStep) { // next to the centre itself
         return;
     }
-    const int first = int(std::ceil(std::min(oneBearing, oneBearing + turn) / TickStep)) * TickStep;
+    const int first = static_cast<int>(std::ceil(std::min(oneBearing, oneBearing + turn) / TickStep)) * TickStep;
     for (int bearing = first; bearing < std::max(oneBearing, oneBearing + turn); bearing += TickStep) {
         const QPointF foot = one + (other - one) * ((bearing - oneBearing) / turn);
         const QLineF ray(middle, foot);

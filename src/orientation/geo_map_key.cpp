@@ -89,8 +89,9 @@ void GeoMapKey::placeTexts(const GeoView &view, TextRoom &room)
     m_levelsPlace = corner - QPointF(0.0, levelsHeight);
     placeSymbols(std::move(symbols), m_levelsPlace, screen.height() * TallestPart - levelsHeight);
 
-    const double levelsWidth =
-        m_levels.empty() ? 0.0 : double(m_levels.size()) * SwatchSize.width() + Padding + levelsTitleWidth();
+    const double levelsWidth = m_levels.empty()
+        ? 0.0
+        : static_cast<double>(m_levels.size()) * SwatchSize.width() + Padding + levelsTitleWidth();
     QRectF place(m_levelsPlace, QSizeF(levelsWidth, levelsHeight));
     for (const Item &item : m_items) {
         place = place.isEmpty() ? item.place : place.united(item.place);
@@ -104,14 +105,14 @@ void GeoMapKey::placeTexts(const GeoView &view, TextRoom &room)
 void GeoMapKey::placeSymbols(std::vector<Symbol> symbols, QPointF bottomLeft, double height)
 {
     m_items.clear();
-    const std::size_t rows = std::size_t(std::max(1.0, std::floor(height / RowHeight)));
+    const std::size_t rows = static_cast<std::size_t>(std::max(1.0, std::floor(height / RowHeight)));
     for (std::size_t first = 0; first < symbols.size(); first += rows) {
         const std::size_t count = std::min(rows, symbols.size() - first);
         double width = 0.0;
         for (std::size_t i = 0; i < count; ++i) {
             Symbol &symbol = symbols[first + i];
             const double textWidth = mapTextRect({}, symbol.meaning).width();
-            const QPointF place = bottomLeft - QPointF(0.0, double(count - i) * RowHeight);
+            const QPointF place = bottomLeft - QPointF(0.0, static_cast<double>(count - i) * RowHeight);
             m_items.push_back({std::move(symbol), QRectF(place, QSizeF(PictureWidth + textWidth, RowHeight))});
             width = std::max(width, PictureWidth + textWidth);
         }

@@ -107,7 +107,7 @@ int GeoRangeRingMap::labelledStep(const GeoView &view)
     }
     const double gap = QLineF(view.toScreen(center()), view.toScreen(rings().front().first())).length();
     const double step = std::ceil(SmallestLabelledGap / gap);
-    return step <= double(rings().size()) ? int(step) : 0;
+    return step <= static_cast<double>(rings().size()) ? static_cast<int>(step) : 0;
 }
 
 void GeoRangeRingMap::placeTexts(const GeoView &view, TextRoom &room)
@@ -117,13 +117,13 @@ void GeoRangeRingMap::placeTexts(const GeoView &view, TextRoom &room)
     if (step == 0) {
         return;
     }
-    const std::size_t every = std::size_t(step);
+    const std::size_t every = static_cast<std::size_t>(step);
     for (std::size_t i = every; i <= rings().size(); i += every) {
         const QPolygonF &ring = rings()[i - 1];
         if (!view.planeRect().intersects(ring.boundingRect())) {
             continue;
         }
-        const QString text = tr("%1 NM").arg(double(i) * m_distance, 0, 'g', 4);
+        const QString text = tr("%1 NM").arg(static_cast<double>(i) * m_distance, 0, 'g', 4);
         const auto labels = placeOnRing(view.screenTransform().map(ring), text, room);
         m_labels.insert(m_labels.end(), labels.begin(), labels.end());
     }

@@ -30,18 +30,18 @@ struct Place {
 std::vector<Place> placesInSight(const QPolygonF &ring, const QRectF &sight)
 {
     std::vector<Place> places;
-    const double degrees = 360.0 / double(ring.size() - 1);
+    const double degrees = 360.0 / static_cast<double>(ring.size() - 1);
     for (qsizetype i = 0; i + 1 < ring.size(); ++i) {
         const QLineF side(ring[i], ring[i + 1]);
         if (!QRectF(side.p1(), side.p2()).normalized().adjusted(-1, -1, 1, 1).intersects(sight)) {
             continue;
         }
         // An even number: one step is at the middle, where the bearings are.
-        const int steps = std::clamp(2 * int(std::ceil(side.length() / (2.0 * StepLength))), 2, MostSteps);
+        const int steps = std::clamp(2 * static_cast<int>(std::ceil(side.length() / (2.0 * StepLength))), 2, MostSteps);
         for (int k = 0; k < steps; ++k) {
-            const double part = double(k) / steps;
+            const double part = static_cast<double>(k) / steps;
             if (sight.contains(side.pointAt(part))) {
-                places.push_back({side.pointAt(part), (double(i) + part) * degrees});
+                places.push_back({side.pointAt(part), (static_cast<double>(i) + part) * degrees});
             }
         }
     }
@@ -97,7 +97,7 @@ void drawWithin(QPainter &painter, const QPolygonF &line, const PlaneBox &box)
             ++side;
         }
         if (side > first) {
-            painter.drawPolyline(line.constData() + first, int(side - first) + 1);
+            painter.drawPolyline(line.constData() + first, static_cast<int>(side - first) + 1);
         }
     }
 }

@@ -28,7 +28,7 @@ QTransform flipped()
 
 double milliseconds(const QElapsedTimer &timer)
 {
-    return double(timer.nsecsElapsed()) / 1e6;
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
 } // namespace
@@ -283,7 +283,7 @@ void GeoWidget::updateSoon()
     if (!m_panning || since >= DragFrameMs) {
         update();
     } else if (!m_frameTimer.isActive()) {
-        m_frameTimer.start(DragFrameMs - int(since));
+        m_frameTimer.start(DragFrameMs - static_cast<int>(since));
     }
 }
 

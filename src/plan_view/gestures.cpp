@@ -53,9 +53,9 @@ std::span<const Gestures::KeyRow> Gestures::keys()
 
 double Gestures::rotationOf(const QKeyEvent &event)
 {
-    const bool fine = bool(event.modifiers() & Fine);
+    const bool fine = event.modifiers().testAnyFlags(Fine);
     for (const KeyRow &row : KeyRows) {
-        if (row.key.key() == event.key() && fine == bool(row.key.keyboardModifiers())) {
+        if (row.key.key() == event.key() && fine == (row.key.keyboardModifiers() != Qt::NoModifier)) {
             return row.degrees;
         }
     }

@@ -32,7 +32,9 @@ int azimuthBins(int statedSteps, const VideoProcessor::Radial &radial)
         return statedSteps;
     }
     const double width = std::abs(std::remainder(radial.endAzimuth - radial.startAzimuth, 360.0));
-    return width > 0.0 ? int(std::clamp(360.0 / width, double(FewestAzimuthBins), double(MostAzimuthBins)) + 0.5)
+    return width > 0.0 ? static_cast<int>(
+               std::clamp(360.0 / width, static_cast<double>(FewestAzimuthBins), static_cast<double>(MostAzimuthBins))
+               + 0.5)
                        : UsualAzimuthBins;
 }
 
@@ -96,7 +98,7 @@ void GeoVideoMap::applyConfig(const Config &config)
             }
         }
     }
-    m_validity = qint64(std::max(config.mapVideoValidity, 0)) * 1000;
+    m_validity = static_cast<qint64>(std::max(config.mapVideoValidity, 0)) * 1000;
     setVisible(config.mapVideoVisible);
     if (!visible()) {
         clear();
@@ -107,7 +109,8 @@ void GeoVideoMap::applyConfig(const Config &config)
 GeoVideoMap::Place GeoVideoMap::placeOf(const SensorInfo &sensor)
 {
     const auto *surfaceRadar = dynamic_cast<const SmrSensorInfo *>(&sensor);
-    return {sensor.location(), surfaceRadar ? int(std::min<unsigned int>(surfaceRadar->acp(), MostAzimuthBins)) : 0};
+    return {sensor.location(),
+        surfaceRadar ? static_cast<int>(std::min<unsigned int>(surfaceRadar->acp(), MostAzimuthBins)) : 0};
 }
 
 void GeoVideoMap::setSensor(const QSharedPointer<SensorInfo> &sensor)

@@ -39,7 +39,7 @@ void GeoWeatherMap::applyConfig(const Config &config)
 {
     m_colors = config.mapWeatherColor;
     m_opacity = std::clamp(config.mapWeatherOpacity, 0, 255);
-    m_validity = qint64(std::max(config.mapWeatherValidity, 0)) * 1000;
+    m_validity = static_cast<qint64>(std::max(config.mapWeatherValidity, 0)) * 1000;
     m_ignoreEmpty = config.mapWeatherIgnoreEmptyPicture;
     setVectorWidth(config.mapWeatherVectorWidth, config.mapWeatherAutoVectorWidth);
     m_drawn.invalidate();
@@ -97,7 +97,7 @@ void GeoWeatherMap::setLevelVisible(int level, bool visible)
     if (!isLevel(level) || levelVisible(level) == visible) {
         return;
     }
-    m_levelVisible[std::size_t(level)] = visible;
+    m_levelVisible[static_cast<std::size_t>(level)] = visible;
     m_drawn.invalidate();
     Q_EMIT polluted();
 }
@@ -127,7 +127,7 @@ int GeoWeatherMap::vectorCount(int level) const
     if (!m_picture || m_clock() - m_pictureTime > m_validity) {
         return 0;
     }
-    return int(std::count_if(m_picture->vectors.begin(), m_picture->vectors.end(),
+    return static_cast<int>(std::count_if(m_picture->vectors.begin(), m_picture->vectors.end(),
         [level](const WeatherProcessor::PolarVector &vector) { return vector.intensity == level; }));
 }
 

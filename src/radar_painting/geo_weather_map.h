@@ -35,7 +35,7 @@ public:
 
     // Levels are 0 to LevelCount - 1. A level without a valid colour is never shown; one that is not
     // visible is hatched.
-    bool levelVisible(int level) const { return m_levelVisible[std::size_t(level)]; }
+    bool levelVisible(int level) const { return m_levelVisible[static_cast<std::size_t>(level)]; }
     QColor levelColor(int level) const { return m_colors.value(level); }
     // As it is drawn, filled or hatched; invalid without a colour.
     QColor drawnColor(int level) const;

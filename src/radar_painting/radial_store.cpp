@@ -18,7 +18,10 @@ double wrapped(double azimuth)
 
 } // namespace
 
-RadialStore::RadialStore(int binCount) : m_bins(std::size_t(binCount)), m_changed(std::size_t(binCount), false) { }
+RadialStore::RadialStore(int binCount)
+    : m_bins(static_cast<std::size_t>(binCount)), m_changed(static_cast<std::size_t>(binCount), false)
+{
+}
 
 RadialStore::Extent RadialStore::extentOf(const VideoProcessor::Radial &radial)
 {
@@ -51,7 +54,7 @@ bool RadialStore::continuesLast(const VideoProcessor::Radial &radial) const
 
 bool RadialStore::extendLast(const VideoProcessor::Radial &radial)
 {
-    const quint64 end = quint64(radial.startCell) + quint64(radial.amplitudes.size());
+    const quint64 end = static_cast<quint64>(radial.startCell) + static_cast<quint64>(radial.amplitudes.size());
     if (end - m_lastRow->startCell > LongestRow) {
         return false;
     }
@@ -63,13 +66,13 @@ bool RadialStore::extendLast(const VideoProcessor::Radial &radial)
 // Keeps the stronger of two amplitudes of the same cell.
 void RadialStore::mergeInto(Row &row, const VideoProcessor::Radial &radial)
 {
-    const quint64 radialEnd = quint64(radial.startCell) + quint64(radial.amplitudes.size());
+    const quint64 radialEnd = static_cast<quint64>(radial.startCell) + static_cast<quint64>(radial.amplitudes.size());
     const quint32 start = std::min(row.startCell, radial.startCell);
     const quint64 end = std::max(row.endCell(), radialEnd);
     if (end - start > LongestRow) {
         return;
     }
-    QList<unsigned char> merged(qsizetype(end - start), 0);
+    QList<unsigned char> merged(static_cast<qsizetype>(end - start), 0);
     std::copy(row.amplitudes.cbegin(), row.amplitudes.cend(), merged.begin() + (row.startCell - start));
     const auto target = merged.begin() + (radial.startCell - start);
     std::transform(radial.amplitudes.cbegin(), radial.amplitudes.cend(), target, target,
@@ -83,19 +86,19 @@ void RadialStore::markBinsOf(const Row *row)
 {
     for (int i = 0; i < binCount(); ++i) {
         const int bin = (m_lastFirstBin + i) % binCount();
-        if (m_bins[std::size_t(bin)].get() != row) {
+        if (m_bins[static_cast<std::size_t>(bin)].get() != row) {
             break;
         }
-        m_changed[std::size_t(bin)] = true;
+        m_changed[static_cast<std::size_t>(bin)] = true;
     }
 }
 
 void RadialStore::put(int bin, const std::shared_ptr<Row> &row)
 {
-    auto &place = m_bins[std::size_t(bin)];
-    m_filled += int(row != nullptr) - int(place != nullptr);
+    auto &place = m_bins[static_cast<std::size_t>(bin)];
+    m_filled += static_cast<int>(row != nullptr) - static_cast<int>(place != nullptr);
     place = row;
-    m_changed[std::size_t(bin)] = true;
+    m_changed[static_cast<std::size_t>(bin)] = true;
 }
 
 RadialStore::BinSpan RadialStore::binsOf(const Extent &extent) const
@@ -103,10 +106,10 @@ RadialStore::BinSpan RadialStore::binsOf(const Extent &extent) const
     const double perDegree = binCount() / 360.0;
     if (extent.width * perDegree < 1.0) {
         // It can miss the middle of every bin: it belongs to the one that holds its own middle.
-        return {int((extent.start + extent.width / 2.0) * perDegree) % binCount(), 1, true};
+        return {static_cast<int>((extent.start + extent.width / 2.0) * perDegree) % binCount(), 1, true};
     }
-    const int first = int(std::ceil(extent.start * perDegree - 0.5));
-    const int end = int(std::ceil((extent.start + extent.width) * perDegree - 0.5));
+    const int first = static_cast<int>(std::ceil(extent.start * perDegree - 0.5));
+    const int end = static_cast<int>(std::ceil((extent.start + extent.width) * perDegree - 0.5));
     return {first % binCount(), end - first, false};
 }
 

@@ -18,12 +18,12 @@ public:
         quint32 startCell = 0;
         qint64 time = 0;
 
-        quint64 endCell() const { return quint64(startCell) + quint64(amplitudes.size()); }
+        quint64 endCell() const { return static_cast<quint64>(startCell) + static_cast<quint64>(amplitudes.size()); }
     };
 
     explicit RadialStore(int binCount);
 
-    int binCount() const { return int(m_bins.size()); }
+    int binCount() const { return static_cast<int>(m_bins.size()); }
 
     // Small gaps to the radial before are closed; a radial that repeats the azimuths of the one before with other
     // cells continues it in range. Azimuths that are no numbers are ignored.
@@ -32,7 +32,7 @@ public:
     void dropOlder(qint64 oldest);
 
     // Null where nothing was received.
-    const Row *row(int bin) const { return m_bins[std::size_t(bin)].get(); }
+    const Row *row(int bin) const { return m_bins[static_cast<std::size_t>(bin)].get(); }
     bool empty() const { return m_filled == 0; }
     // One behind the last cell ever stored.
     quint64 endCell() const { return m_endCell; }
@@ -53,7 +53,7 @@ public:
     Cell strongest(const Sector &sector, qint64 oldest) const;
 
     // Since the last forgetChanges().
-    bool changed(int bin) const { return m_changed[std::size_t(bin)]; }
+    bool changed(int bin) const { return m_changed[static_cast<std::size_t>(bin)]; }
     void forgetChanges();
 
 private:

@@ -31,7 +31,7 @@ SiteOffsets::SiteOffsets(Projector &projector, const GeoCoordinate &site, const 
     : m_spacing(spacingFor(toPlane)), m_columns(nodesFor(size.width(), m_spacing)),
       m_rows(nodesFor(size.height(), m_spacing))
 {
-    m_nodes.reserve(std::size_t(m_columns * m_rows));
+    m_nodes.reserve(static_cast<std::size_t>(m_columns * m_rows));
     for (int i = 0; i < m_columns * m_rows; ++i) {
         const QPointF point = toPlane.map(QPointF(i % m_columns, i / m_columns) * m_spacing);
         double latitude = 0.0;
@@ -41,14 +41,15 @@ SiteOffsets::SiteOffsets(Projector &projector, const GeoCoordinate &site, const 
         const QGeoCoordinate place(std::clamp(latitude, -90.0, 90.0), std::remainder(longitude, 360.0));
         const double distance = site.distanceTo(place);
         const double azimuth = wgs84::radians(site.azimuthTo(place));
-        m_nodes.push_back({float(distance * std::sin(azimuth)), float(distance * std::cos(azimuth))});
+        m_nodes.push_back(
+            {static_cast<float>(distance * std::sin(azimuth)), static_cast<float>(distance * std::cos(azimuth))});
     }
 }
 
 void SiteOffsets::row(int y, int first, int count, float *east, float *north) const
 {
     const int nodeRow = y / m_spacing;
-    const float down = (float(y - nodeRow * m_spacing) + 0.5f) / float(m_spacing);
+    const float down = (static_cast<float>(y - nodeRow * m_spacing) + 0.5f) / static_cast<float>(m_spacing);
     const auto between = [down](const Offset &above, const Offset &below) {
         return Offset{above.east + (below.east - above.east) * down, above.north + (below.north - above.north) * down};
     };
@@ -57,11 +58,12 @@ void SiteOffsets::row(int y, int first, int count, float *east, float *north) co
     Offset left = at(column);
     for (int x = column * m_spacing; x < first + count; x += m_spacing) {
         const Offset right = at(++column);
-        const Offset step{(right.east - left.east) / float(m_spacing), (right.north - left.north) / float(m_spacing)};
+        const Offset step{(right.east - left.east) / static_cast<float>(m_spacing),
+            (right.north - left.north) / static_cast<float>(m_spacing)};
         const int end = std::min(m_spacing, first + count - x);
         for (int i = std::max(first - x, 0); i < end; ++i) {
-            east[x - first + i] = left.east + step.east * (float(i) + 0.5f);
-            north[x - first + i] = left.north + step.north * (float(i) + 0.5f);
+            east[x - first + i] = left.east + step.east * (static_cast<float>(i) + 0.5f);
+            north[x - first + i] = left.north + step.north * (static_cast<float>(i) + 0.5f);
         }
         left = right;
     }

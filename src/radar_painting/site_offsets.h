@@ -28,7 +28,10 @@ private:
         float north = 0.0f;
     };
 
-    const Offset &node(int column, int row) const { return m_nodes[std::size_t(row * m_columns + column)]; }
+    const Offset &node(int column, int row) const
+    {
+        return m_nodes[static_cast<std::size_t>(row * m_columns + column)];
+    }
     double stepMetres(int column, int row) const;
 
     int m_spacing = 32; // device pixels between nodes

@@ -8,14 +8,14 @@
 
 void VideoCells::reset(int binCount)
 {
-    m_rows.assign(std::size_t(binCount), Row());
-    m_ageSteps.assign(std::size_t(binCount), 0);
+    m_rows.assign(static_cast<std::size_t>(binCount), Row());
+    m_ageSteps.assign(static_cast<std::size_t>(binCount), 0);
     m_changes = {};
 }
 
 void VideoCells::read(RadialStore &store, qint64 now, qint64 validity)
 {
-    const int binCount = int(m_rows.size());
+    const int binCount = static_cast<int>(m_rows.size());
     const auto note = [this](std::size_t sector, bool changed) {
         m_changes.echoes[sector] = m_changes.echoes[sector] || changed;
         m_changes.colors[sector] = true;
@@ -29,7 +29,7 @@ void VideoCells::read(RadialStore &store, qint64 now, qint64 validity)
         const int sector = bin * SectorCount / binCount;
         // A pixel next to the sector's edge sees bins on both sides of it.
         for (const int neighbour : {sector + SectorCount - 1, sector, sector + 1}) {
-            note(std::size_t(neighbour % SectorCount), changed);
+            note(static_cast<std::size_t>(neighbour % SectorCount), changed);
         }
         note(Core, changed);
     }
@@ -40,13 +40,13 @@ void VideoCells::read(RadialStore &store, qint64 now, qint64 validity)
 bool VideoCells::readBin(const RadialStore &store, int bin, qint64 now, qint64 validity)
 {
     const RadialStore::Row *row = store.row(bin);
-    Row &cells = m_rows[std::size_t(bin)];
+    Row &cells = m_rows[static_cast<std::size_t>(bin)];
     if (!row) {
         cells = Row();
         return false;
     }
-    cells = {row->amplitudes.constData(), qint64(row->startCell), qint64(row->endCell())};
+    cells = {row->amplitudes.constData(), static_cast<qint64>(row->startCell), static_cast<qint64>(row->endCell())};
     const qint64 step = validity > 0 ? (now - row->time) * VideoPalette::AgeSteps / validity : VideoPalette::AgeSteps;
-    const auto ageStep = quint8(std::clamp<qint64>(step, 0, VideoPalette::AgeSteps));
-    return std::exchange(m_ageSteps[std::size_t(bin)], ageStep) != ageStep;
+    const auto ageStep = static_cast<quint8>(std::clamp<qint64>(step, 0, VideoPalette::AgeSteps));
+    return std::exchange(m_ageSteps[static_cast<std::size_t>(bin)], ageStep) != ageStep;
 }

@@ -41,8 +41,8 @@ public:
     // the palette's end after the validity; milliseconds.
     void read(RadialStore &store, qint64 now, qint64 validity);
 
-    const Row &row(int bin) const { return m_rows[std::size_t(bin)]; }
-    int ageStep(int bin) const { return m_ageSteps[std::size_t(bin)]; }
+    const Row &row(int bin) const { return m_rows[static_cast<std::size_t>(bin)]; }
+    int ageStep(int bin) const { return m_ageSteps[static_cast<std::size_t>(bin)]; }
 
     // What has changed since the last call.
     Changes takeChanges() { return std::exchange(m_changes, {}); }

@@ -23,7 +23,7 @@ public:
     explicit VideoPalette(const Settings &settings);
 
     // Premultiplied ARGB of the 256 amplitudes; the step is 0 to AgeSteps, at AgeSteps all is transparent.
-    const QRgb *colors(int ageStep) const { return m_colors[std::size_t(ageStep)].data(); }
+    const QRgb *colors(int ageStep) const { return m_colors[static_cast<std::size_t>(ageStep)].data(); }
 
 private:
     std::array<std::array<QRgb, 256>, AgeSteps + 1> m_colors = {};

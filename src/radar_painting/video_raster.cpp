@@ -40,11 +40,12 @@ void VideoRaster::reset(const SiteOffsets &offsets, const QRect &part, const Rad
     m_reach = store.endCell() + store.endCell() / 8 + 1;
     m_scale.binCount = store.binCount();
     m_scale.cellSize = cellSizeMetres;
-    m_scale.reach = float(m_reach);
-    const double pixelCells = offsets.pixelMetres(double(m_reach) * cellSizeMetres) / cellSizeMetres;
-    m_scale.halfRange = float(HalfDiagonal * pixelCells);
-    m_scale.halfAngle = float(m_scale.halfRange * m_scale.binCount / (2.0 * wgs84::Pi));
-    m_scale.coreRange = m_scale.halfAngle * float(VideoCells::SectorCount) / float(m_scale.binCount);
+    m_scale.reach = static_cast<float>(m_reach);
+    const double pixelCells = offsets.pixelMetres(static_cast<double>(m_reach) * cellSizeMetres) / cellSizeMetres;
+    m_scale.halfRange = static_cast<float>(HalfDiagonal * pixelCells);
+    m_scale.halfAngle = static_cast<float>(m_scale.halfRange * m_scale.binCount / (2.0 * wgs84::Pi));
+    m_scale.coreRange =
+        m_scale.halfAngle * static_cast<float>(VideoCells::SectorCount) / static_cast<float>(m_scale.binCount);
     m_cells.reset(m_scale.binCount);
     dropFarFrom({});
     const QRect places = placesOf(part);

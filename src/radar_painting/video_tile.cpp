@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::size_t PixelCount = std::size_t(VideoTile::Size) * VideoTile::Size;
+constexpr std::size_t PixelCount = static_cast<std::size_t>(VideoTile::Size) * VideoTile::Size;
 
 // The direction of (east, north) clockwise from north as a part of a turn, 0 to 1. Good to 2 millionths of a turn and
 // free of branches, so that the compiler can work on several pixels at a time.
@@ -25,7 +25,7 @@ inline float turnOf(float east, float north)
     const float angle =
         ((((((-0.0117212f * s + 0.05265332f) * s - 0.11643287f) * s + 0.19354346f) * s - 0.33262347f) * s + 0.99997726f)
             * a)
-        * float(0.5 / wgs84::Pi);
+        * static_cast<float>(0.5 / wgs84::Pi);
     const float octant = y > x ? 0.25f - angle : angle;
     const float half = north < 0.0f ? 0.5f - octant : octant;
     return east < 0.0f ? 1.0f - half : half;
@@ -38,8 +38,8 @@ int VideoScale::sectorOf(float range, float bin) const
     if (range < coreRange) {
         return VideoCells::Core;
     }
-    const float sectorsPerBin = float(VideoCells::SectorCount) / float(binCount);
-    return std::min(int(bin * sectorsPerBin), VideoCells::SectorCount - 1);
+    const float sectorsPerBin = static_cast<float>(VideoCells::SectorCount) / static_cast<float>(binCount);
+    return std::min(static_cast<int>(bin * sectorsPerBin), VideoCells::SectorCount - 1);
 }
 
 void VideoTile::place(const SiteOffsets &offsets, const QPoint &corner, const VideoScale &scale)
@@ -49,12 +49,12 @@ void VideoTile::place(const SiteOffsets &offsets, const QPoint &corner, const Vi
     m_unsorted.clear();
     std::array<float, Size> east{};
     std::array<float, Size> north{};
-    const float perMetre = float(1.0 / scale.cellSize);
-    const float bins = float(scale.binCount);
+    const float perMetre = static_cast<float>(1.0 / scale.cellSize);
+    const float bins = static_cast<float>(scale.binCount);
     for (int y = 0; y < Size; ++y) {
         offsets.row(corner.y() + y, corner.x(), Size, east.data(), north.data());
-        float *range = m_range.data() + std::size_t(y) * Size;
-        float *bin = m_bin.data() + std::size_t(y) * Size;
+        float *range = m_range.data() + static_cast<std::size_t>(y) * Size;
+        float *bin = m_bin.data() + static_cast<std::size_t>(y) * Size;
         for (std::size_t x = 0; x < Size; ++x) {
             range[x] = std::sqrt(east[x] * east[x] + north[x] * north[x]) * perMetre;
             bin[x] = turnOf(east[x], north[x]) * bins;
@@ -72,7 +72,7 @@ void VideoTile::place(const SiteOffsets &offsets, const QPoint &corner, const Vi
 
 void VideoTile::addRuns(int y, const VideoScale &scale)
 {
-    const auto start = std::size_t(y) * Size;
+    const auto start = static_cast<std::size_t>(y) * Size;
     const float reach = scale.reach + scale.halfRange;
     Run run;
     const auto finish = [this, &run] {
@@ -89,7 +89,7 @@ void VideoTile::addRuns(int y, const VideoScale &scale)
         const int sector = scale.sectorOf(m_range[pixel], m_bin[pixel]);
         if (run.count == 0 || sector != run.sector) {
             finish();
-            run = {quint16(pixel), 0, quint16(sector)};
+            run = {static_cast<quint16>(pixel), 0, static_cast<quint16>(sector)};
         }
         ++run.count;
     }
@@ -106,7 +106,7 @@ void VideoTile::sortRuns()
     for (std::size_t sector = 0; sector + 1 < next.size(); ++sector) {
         next[sector + 1] += next[sector];
         if (next[sector + 1] > next[sector]) {
-            m_parts.push_back({quint16(sector), false, false, next[sector], next[sector + 1]});
+            m_parts.push_back({static_cast<quint16>(sector), false, false, next[sector], next[sector + 1]});
         }
     }
     m_runs.resize(m_unsorted.size());
@@ -151,7 +151,7 @@ bool VideoTile::resolve(const Part &part, const VideoCells &cells, const VideoSc
     bool lit = false;
     for (std::size_t i = part.firstRun; i < part.endRun; ++i) {
         const Run &run = m_runs[i];
-        for (std::size_t pixel = run.pixel; pixel < std::size_t(run.pixel) + run.count; ++pixel) {
+        for (std::size_t pixel = run.pixel; pixel < static_cast<std::size_t>(run.pixel) + run.count; ++pixel) {
             m_echoes[pixel] = strongest(pixel, cells, scale);
             lit = lit || m_echoes[pixel].amplitude > 0;
         }
@@ -163,16 +163,17 @@ VideoTile::Echo VideoTile::strongest(std::size_t pixel, const VideoCells &cells,
 {
     const float range = m_range[pixel];
     const int binCount = scale.binCount;
-    const auto firstCell = qint64(std::max(range - scale.halfRange, 0.0f));
-    const auto endCell = qint64(range + scale.halfRange) + 1;
+    const auto firstCell = static_cast<qint64>(std::max(range - scale.halfRange, 0.0f));
+    const auto endCell = static_cast<qint64>(range + scale.halfRange) + 1;
     int first = 0;
     int count = binCount;
     if (range > scale.halfRange) {
         // Close to the site a pixel spans a wider angle than its width suggests, half a turn where it touches the site.
         const float halfAngle =
-            scale.halfAngle / range * (range < 4.0f * scale.halfRange ? float(wgs84::Pi / 2.0) : 1.0f);
-        first = int(m_bin[pixel] + float(binCount) - halfAngle);
-        count = std::min(int(m_bin[pixel] + float(binCount) + halfAngle) - first + 1, binCount);
+            scale.halfAngle / range * (range < 4.0f * scale.halfRange ? static_cast<float>(wgs84::Pi / 2.0) : 1.0f);
+        first = static_cast<int>(m_bin[pixel] + static_cast<float>(binCount) - halfAngle);
+        count =
+            std::min(static_cast<int>(m_bin[pixel] + static_cast<float>(binCount) + halfAngle) - first + 1, binCount);
         first -= first >= binCount ? binCount : 0;
     }
     Echo strongest;
@@ -190,7 +191,7 @@ VideoTile::Echo VideoTile::strongest(std::size_t pixel, const VideoCells &cells,
             amplitude = std::max(amplitude, row.amplitudes[cell - row.start]);
         }
         if (amplitude > strongest.amplitude) {
-            strongest = {quint16(bin), amplitude};
+            strongest = {static_cast<quint16>(bin), amplitude};
         }
     }
     return strongest;
@@ -203,7 +204,7 @@ bool VideoTile::colorize(const Part &part, const VideoCells &cells, const VideoP
     QRgb any = 0;
     for (std::size_t i = part.firstRun; i < part.endRun; ++i) {
         const Run &run = m_runs[i];
-        for (std::size_t pixel = run.pixel; pixel < std::size_t(run.pixel) + run.count; ++pixel) {
+        for (std::size_t pixel = run.pixel; pixel < static_cast<std::size_t>(run.pixel) + run.count; ++pixel) {
             const Echo echo = m_echoes[pixel];
             pixels[pixel] = palette.colors(cells.ageStep(echo.bin))[echo.amplitude];
             any |= pixels[pixel];

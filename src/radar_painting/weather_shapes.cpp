@@ -21,8 +21,8 @@ public:
     void addPieces(std::vector<WeatherShape> &shapes, const WeatherProcessor::PolarVector &vector, qsizetype number,
         double width) const
     {
-        const int across = int(std::ceil(width / WidestPiece));
-        const int along = int(std::ceil((vector.endRange - vector.startRange) / LongestPiece));
+        const int across = static_cast<int>(std::ceil(width / WidestPiece));
+        const int along = static_cast<int>(std::ceil((vector.endRange - vector.startRange) / LongestPiece));
         const double left = vector.azimuth - width / 2.0;
         const double length = (vector.endRange - vector.startRange) / along;
         for (int i = 0; i < across; ++i) {
@@ -65,7 +65,7 @@ std::vector<WeatherShape> weatherShapes(
     if (!site.isValid() || !(width > 0.0)) {
         return shapes;
     }
-    shapes.reserve(std::size_t(vectors.size()));
+    shapes.reserve(static_cast<std::size_t>(vectors.size()));
     const ShapeMaker maker(projector, site);
     for (qsizetype i = 0; i < vectors.size(); ++i) {
         if (drawable(vectors[i])) {
@@ -97,7 +97,7 @@ double touchingWidth(const QList<WeatherProcessor::PolarVector> &vectors, double
     if (steps.size() < 2) {
         return fallback;
     }
-    const auto middle = steps.begin() + qsizetype(steps.size() / 2);
+    const auto middle = steps.begin() + static_cast<qsizetype>(steps.size() / 2);
     std::nth_element(steps.begin(), middle, steps.end());
     return *middle;
 }

@@ -83,7 +83,7 @@ void ConfigPage::store(Config *config) const
 void ConfigPage::setInputRunning(bool running)
 {
     const bool ofTheRun = std::any_of(m_settings.begin(), m_settings.end(),
-        [](const Setting *setting) { return bool(setting->groups() & RunGroups); });
+        [](const Setting *setting) { return setting->groups().testAnyFlags(RunGroups); });
     m_lock->setVisible(running && ofTheRun);
     m_form->setEnabled(!(running && ofTheRun));
 }

@@ -95,7 +95,7 @@ void TileTrial::noteReceived(const QByteArray &octets)
                           : tr("A tile of %1 x %2 pixels came after %3 s (%4).")
                                 .arg(image.width())
                                 .arg(image.height())
-                                .arg(double(m_time.elapsed()) / 1000.0, 0, 'f', 2)
+                                .arg(static_cast<double>(m_time.elapsed()) / 1000.0, 0, 'f', 2)
                                 .arg(QLocale().formattedDataSize(octets.size())));
 }
 

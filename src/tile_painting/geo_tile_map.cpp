@@ -32,7 +32,7 @@ QList<QRect> onScreen(const std::vector<QPoint> &cells, quint8 level, const GeoV
         if (!part.isEmpty()) {
             parts.append(part);
             whole |= part;
-            area += double(part.width()) * part.height();
+            area += static_cast<double>(part.width()) * part.height();
         }
         first = last + 1;
     }

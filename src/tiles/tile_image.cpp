@@ -23,7 +23,7 @@ bool isWholeWebP(const QByteArray &octets)
     for (int i = 3; i >= 0; --i) {
         size = size << 8 | static_cast<uchar>(octets.at(4 + i));
     }
-    return octets.size() >= qint64(size) + 8;
+    return octets.size() >= static_cast<qint64>(size) + 8;
 }
 
 struct Text {

@@ -226,7 +226,7 @@ void AdsbTracker::cleanUpTargets()
 {
     const auto now = trackManager().now();
     if (m_lastTargetCleanup.isValid() && m_lastTargetCleanup.msecsTo(now) > CleanupPauseMs) {
-        const auto oldest = now.toMSecsSinceEpoch() - qint64(m_noUpdatedTargetDeletionTime) * 1000;
+        const auto oldest = now.toMSecsSinceEpoch() - static_cast<qint64>(m_noUpdatedTargetDeletionTime) * 1000;
         m_modesTracker.killTargets(static_cast<unsigned long long>(oldest));
     }
     m_lastTargetCleanup = now;

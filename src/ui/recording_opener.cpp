@@ -113,7 +113,7 @@ void RecordingOpener::take(const RecordingFindings &findings)
     if (m_named) {
         m_named(named);
     }
-    const bool sensorNamed = bool(Config::changedGroups(proposed, named) & SettingGroup::Sensor);
+    const bool sensorNamed = Config::changedGroups(proposed, named).testFlag(SettingGroup::Sensor);
     if (!sensorNamed) {
         if (!settleSite(&proposal)) {
             return;

@@ -29,7 +29,7 @@ std::optional<PaintStats> PaintStatsCollector::addFrame(double mapMs, double tra
 PaintStats PaintStatsCollector::averages() const
 {
     PaintStats stats = m_sums;
-    const double frames = double(m_sums.frameCount);
+    const double frames = static_cast<double>(m_sums.frameCount);
     stats.mapAverage /= frames;
     stats.trackAverage /= frames;
     stats.paintAverage /= frames;

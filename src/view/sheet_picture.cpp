@@ -47,7 +47,9 @@ void SheetPicture::turnTo(const GeoView &view, const Draw &draw)
     if (m_image.size() != size) {
         m_image = QImage(size, QImage::Format_ARGB32_Premultiplied);
         m_columns = (size.width() + CellWidth - 1) / CellWidth;
-        m_ink.assign(std::size_t(m_columns) * std::size_t((size.height() + CellHeight - 1) / CellHeight), false);
+        m_ink.assign(static_cast<std::size_t>(m_columns)
+                * static_cast<std::size_t>((size.height() + CellHeight - 1) / CellHeight),
+            false);
     }
     QRect holds(seen.topLeft() - QPoint(SheetMargin, SheetMargin), size);
     if (m_held.isEmpty()) {
@@ -93,12 +95,14 @@ void SheetPicture::forPieces(const QRect &part, Visit &&visit) const
 void SheetPicture::drawPiece(const GeoView &view, const QRect &piece, const QPoint &corner, const Draw &draw)
 {
     const double ratio = m_sheet.devicePixelRatio();
-    QImage part(m_image.scanLine(corner.y()) + qsizetype(corner.x()) * qsizetype(sizeof(QRgb)), piece.width(),
-        piece.height(), m_image.bytesPerLine(), m_image.format());
+    QImage part(
+        m_image.scanLine(corner.y()) + static_cast<qsizetype>(corner.x()) * static_cast<qsizetype>(sizeof(QRgb)),
+        piece.width(), piece.height(), m_image.bytesPerLine(), m_image.format());
     part.fill(Qt::transparent);
     part.setDevicePixelRatio(ratio);
     const QPointF away = QPointF(m_sheet.seen().topLeft() - piece.topLeft()) / ratio;
-    const QSize logical(int(std::ceil(piece.width() / ratio)), int(std::ceil(piece.height() / ratio)));
+    const QSize logical(
+        static_cast<int>(std::ceil(piece.width() / ratio)), static_cast<int>(std::ceil(piece.height() / ratio)));
     draw(part, GeoView(view.screenTransform() * QTransform::fromTranslate(away.x(), away.y()), logical, ratio));
     noteInk(QRect(corner, piece.size()));
 }
@@ -109,8 +113,8 @@ void SheetPicture::noteInk(const QRect &part)
     for (int row = part.top() / CellHeight; row <= part.bottom() / CellHeight; ++row) {
         for (int column = part.left() / CellWidth; column <= part.right() / CellWidth; ++column) {
             const QRect cell(column * CellWidth, row * CellHeight, CellWidth, CellHeight);
-            m_ink[std::size_t(row) * std::size_t(m_columns) + std::size_t(column)] =
-                !isBlank(m_image, cell & m_image.rect());
+            m_ink[static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns)
+                + static_cast<std::size_t>(column)] = !isBlank(m_image, cell & m_image.rect());
         }
     }
 }

@@ -44,7 +44,8 @@ private:
     void noteInk(const QRect &cells);
     bool hasInk(int column, int row) const
     {
-        return m_ink[std::size_t(row) * std::size_t(m_columns) + std::size_t(column)];
+        return m_ink[static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns)
+            + static_cast<std::size_t>(column)];
     }
     void paintPiece(QPainter &painter, const QRect &piece, const QPoint &corner, const QRegion &gaps) const;
 

@@ -72,7 +72,7 @@ void readPicture(_ast_datarecord_008_t &out, Items items)
 _ast_weather_segment_t shadingSegment(const _ast_weather_cartesian_vector_t &vector, double orientation)
 {
     const double radians = orientation * (std::numbers::pi / 180);
-    return {double(vector.x), double(vector.y), vector.x + vector.length * std::sin(radians),
+    return {static_cast<double>(vector.x), static_cast<double>(vector.y), vector.x + vector.length * std::sin(radians),
         vector.y + vector.length * std::cos(radians)};
 }
 
@@ -80,7 +80,8 @@ _ast_weather_segment_t contourSegment(const _ast_datarecord_008_t &record, unsig
 {
     const _ast_weather_point_t &point = record.i050.points[index];
     const _ast_weather_point_t &next = record.i050.points[index + 1 < record.i050.count ? index + 1 : index];
-    return {double(point.x), double(point.y), double(next.x), double(next.y)};
+    return {static_cast<double>(point.x), static_cast<double>(point.y), static_cast<double>(next.x),
+        static_cast<double>(next.y)};
 }
 
 } // namespace
@@ -125,7 +126,8 @@ bool ast_weather_segment_get(
         *segment = shadingSegment(record.i036.vectors[index], record.i020.orientation);
     } else if (line < record.i038.count) {
         const _ast_weather_line_t &ends = record.i038.lines[line];
-        *segment = {double(ends.x1), double(ends.y1), double(ends.x2), double(ends.y2)};
+        *segment = {static_cast<double>(ends.x1), static_cast<double>(ends.y1), static_cast<double>(ends.x2),
+            static_cast<double>(ends.y2)};
     } else {
         *segment = contourSegment(record, line - record.i038.count);
     }

@@ -166,7 +166,7 @@ void ModeSDecoder::decodeSquitterFrame(ModeSMessage &message) const
 {
     enum ControlField { AdsbIcao = 0, AdsbOther = 1, TisbFine = 2, TisbCoarse = 3, TisbOther = 5, Rebroadcast = 6 };
     const std::uint64_t me = load64(message.m_frame.octets + 4) >> 8;
-    const int control = message.m_downlinkFormat == 17 ? int(AdsbIcao) : message.m_status;
+    const int control = message.m_downlinkFormat == 17 ? static_cast<int>(AdsbIcao) : message.m_status;
     bool isOther = control == AdsbOther || control == TisbOther;
     message.m_messageField = me;
     if (control == TisbCoarse) {

@@ -52,7 +52,7 @@ double terrain(double x, double y, std::uint64_t seed)
 
 unsigned char added(unsigned char amplitude, double more)
 {
-    return static_cast<unsigned char>(std::clamp(amplitude + more, 0.0, double(Highest)));
+    return static_cast<unsigned char>(std::clamp(amplitude + more, 0.0, static_cast<double>(Highest)));
 }
 
 } // namespace
