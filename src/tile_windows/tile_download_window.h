@@ -31,7 +31,7 @@ public:
     // Fills in the view's area unless a download is under way.
     void prepare();
 
-    // What the fields say; see problem().
+    // What the fields say; its plan is empty where area or levels are not complete.
     TileDownloadJob job() const;
 
 Q_SIGNALS:

@@ -61,7 +61,6 @@ public:
     void setConsent(bool given) { m_stock->setConsent(given); }
     void setMaxConcurrentRequests(int count); // 1 to 32
     int maxConcurrentRequests() const;
-    void setMemoryLimit(qsizetype octets) { m_stock->setMemoryLimit(octets); }
     void setClock(TilePacing::Clock clock) { m_stock->setClock(std::move(clock)); }
 
     // The view is this rectangle, in degrees; resolution in metres of the plane per device pixel. What an earlier view
@@ -83,7 +82,6 @@ public:
     bool isMissing(const TileIndex &index) const;
     // Whether nothing is on its way, for other views that share the stock neither.
     bool settled() const { return m_stock->settled(); }
-    qsizetype memoryUsed() const { return m_stock->memoryUsed(); }
 
     QString copyright() const { return m_stock->copyright(); }
     QColor copyrightColor() const { return m_stock->source().setup.copyrightColor; }

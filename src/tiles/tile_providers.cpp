@@ -95,12 +95,3 @@ std::unique_ptr<TileProvider> makeTileProvider(
     provider->setConsent(config.mapTileConsent);
     return provider;
 }
-
-std::unique_ptr<TileFetcher> makeTileFetcher(TileService service, const Config &config, QObject *parent)
-{
-    auto fetcher = std::make_unique<TileFetcher>(tileServiceSetup(service, config).request, parent);
-    fetcher->setProxy(tileProxy(config).toNetworkProxy());
-    fetcher->setCacheDirectory(tileCacheDirectory(config));
-    fetcher->setConsent(config.mapTileConsent);
-    return fetcher;
-}

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/tile_services.h"
-#include "tiles/tile_fetcher.h"
 #include "tiles/tile_provider.h"
 #include "tiles/tile_proxy.h"
 
@@ -20,7 +19,3 @@ QString tileCacheDirectory(const Config &config);
 // another view for which these stocks have the same service with the same settings. The projector outlives it.
 std::unique_ptr<TileProvider> makeTileProvider(
     TileService service, const Config &config, Projector *projector, TileStocks &stocks);
-
-// The same for single tiles, such as those of a download: proxy, cache and consent applied. Nothing is sent before
-// TileFetcher::pump().
-std::unique_ptr<TileFetcher> makeTileFetcher(TileService service, const Config &config, QObject *parent = nullptr);

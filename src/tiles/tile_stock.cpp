@@ -42,9 +42,9 @@ QPointF centreOf(const TileRange &range)
 
 } // namespace
 
-TileStock::TileStock(const Source &source)
+TileStock::TileStock(const Source &source, qsizetype memory)
     : m_source(source), m_fetcher(new TileFetcher(source.setup.request, this)), m_loader(new TileLoader(this)),
-      m_images(DefaultMemory)
+      m_images(memory)
 {
     m_changeTimer.setSingleShot(true);
     m_changeTimer.setInterval(ChangeDelay);

@@ -37,10 +37,10 @@ public:
         bool operator==(const Source &) const = default;
     };
 
-    static constexpr qsizetype DefaultMemory = 256 * 1024 * 1024; // octets of decoded images
+    static constexpr qsizetype DefaultMemory = 256 * 1024 * 1024;
 
-    // An archive of the setup is opened on a worker.
-    explicit TileStock(const Source &source);
+    // An archive of the setup is opened on a worker. The memory is the bound of decoded images, octets.
+    explicit TileStock(const Source &source, qsizetype memory = DefaultMemory);
     ~TileStock() override;
 
     const Source &source() const { return m_source; }
@@ -55,7 +55,6 @@ public:
     void setNetworkCacheDir(const QString &directory);
     void setProxy(const TileProxy &proxy);
     void setConsent(bool given);
-    void setMemoryLimit(qsizetype octets) { m_images.setMaxCost(octets); }
     void setClock(TilePacing::Clock clock);
     // Tiles from there and nowhere else, as those of an archive.
     void useArchive(const TileArchive &archive);
@@ -74,7 +73,6 @@ public:
     // From memory, which remembers that it is used; null when it is not there.
     QImage image(const TileIndex &index) const;
     bool holds(const TileIndex &index) const { return m_images.contains(index); }
-    qsizetype memoryUsed() const { return m_images.totalCost(); }
     // Whether nothing is on its way.
     bool settled() const;
     // Memory and the network cache on disk are emptied; saved tile files stay.

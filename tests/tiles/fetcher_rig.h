@@ -51,7 +51,10 @@ inline void FetcherRig::make(const QString &address)
     m_received.clear();
     m_unavailable.clear();
     m_config.mapCustomTileUrl = address;
-    m_fetcher = makeTileFetcher(TileService::Custom, m_config);
+    m_fetcher = std::make_unique<TileFetcher>(tileServiceSetup(TileService::Custom, m_config).request);
+    m_fetcher->setProxy(tileProxy(m_config).toNetworkProxy());
+    m_fetcher->setCacheDirectory(tileCacheDirectory(m_config));
+    m_fetcher->setConsent(m_config.mapTileConsent);
     m_fetcher->setClock([this] { return m_now; });
     QObject::connect(m_fetcher.get(), &TileFetcher::message, m_fetcher.get(),
         [this](LogLevel, const QString &text) { m_log.append(text); });
