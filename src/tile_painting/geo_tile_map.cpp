@@ -1,52 +1,18 @@
 #include "tile_painting/geo_tile_map.h"
 
 #include "app/config.h"
-#include "tile_painting/tile_plane.h"
+#include "tile_painting/tile_row_painter.h"
 #include "view/geo_view.h"
 #include "view/steady_clock.h"
 
 #include <QPainter>
-
-#include <algorithm>
-
-namespace {
-
-// More of the screen than this is painted in one go.
-constexpr double MostInParts = 0.6;
-
-// The parts of the screen that cells take, which are given row by row: those beside each other are one part.
-QList<QRect> onScreen(const std::vector<QPoint> &cells, quint8 level, const GeoView &view)
-{
-    QList<QRect> parts;
-    QRect whole;
-    double area = 0.0;
-    for (auto first = cells.begin(); first != cells.end();) {
-        auto last = first;
-        while (last + 1 != cells.end() && *(last + 1) == *last + QPoint(1, 0)) {
-            ++last;
-        }
-        const QRectF plane =
-            TilePlane::planeRect(first->x(), first->y(), level) | TilePlane::planeRect(last->x(), last->y(), level);
-        const QRect part =
-            view.screenTransform().mapRect(plane).toAlignedRect().adjusted(-1, -1, 1, 1) & view.screenRect();
-        if (!part.isEmpty()) {
-            parts.append(part);
-            whole |= part;
-            area += static_cast<double>(part.width()) * part.height();
-        }
-        first = last + 1;
-    }
-    const bool scattered = area < MostInParts * whole.width() * whole.height();
-    return scattered || parts.isEmpty() ? parts : QList{whole};
-}
-
-} // namespace
 
 GeoTileMap::GeoTileMap(Layer layer, QObject *parent)
     : GeoLayer(layer == Layer::Bottom ? tr("Bottom tiles") : tr("Top tiles"), parent), m_layer(layer),
       m_clock(steadyClock())
 {
     connect(&m_toned, &TonedTiles::changed, this, &GeoTileMap::tilesChanged);
+    connect(&m_picture, &TilePicture::changed, this, &GeoLayer::polluted);
     connect(this, &GeoLayer::polluted, this, &GeoTileMap::followVisibility);
     m_attribution.setSource(m_source);
     GeoTileMap::applyConfig(Config());
@@ -90,7 +56,7 @@ void GeoTileMap::setSource(const TileSource &source)
 
 void GeoTileMap::applyConfig(const Config &config)
 {
-    m_smooth = config.mapSmoothPixmapTransform;
+    m_picture.setSmooth(config.mapSmoothPixmapTransform);
     m_attribution.setColors(config.mapBackgroundColor, config.mapRangeRingLabelColor);
     if (m_layer == Layer::Bottom) {
         m_toned.setTone({config.mapTileDimming, config.mapTileDesaturation, config.mapBackgroundColor});
@@ -102,15 +68,21 @@ void GeoTileMap::applyConfig(const Config &config)
 
 void GeoTileMap::forgetPainted()
 {
-    m_cells.clear();
-    m_picture.invalidate();
+    m_picture.forget();
     Q_EMIT polluted();
 }
 
+// The next frame comes when there is something to see in it.
 void GeoTileMap::tilesChanged()
 {
     m_stale = true;
-    Q_EMIT polluted();
+    const bool drawn = m_picture.showsAnything();
+    if (visible() && m_picture.view() && m_source.image) {
+        updatePicture();
+    }
+    if (m_stale || (drawn && !m_picture.showsAnything())) {
+        Q_EMIT polluted();
+    }
 }
 
 void GeoTileMap::requestTiles(const QPointF &topLeft, const QPointF &bottomRight, double metresPerPixel)
@@ -149,26 +121,23 @@ void GeoTileMap::followDensity(double devicePixelRatio)
 // Nobody is named for what is not there: without consent, network or key there is no tile.
 void GeoTileMap::placeTexts(const GeoView &view, TextRoom &room)
 {
-    m_attribution.setShown(m_cells.showAnything());
+    m_attribution.setShown(m_picture.showsAnything());
     m_attribution.place(view, room);
 }
 
-quint8 GeoTileMap::levelFor(const GeoView &view) const
+void GeoTileMap::updatePicture()
 {
-    return static_cast<quint8>(m_source.levelFor(view.metresPerPixel() / view.devicePixelRatio()));
-}
-
-// Returns what looks different now of what was shown before, logical pixels.
-QList<QRect> GeoTileMap::updateCells(const GeoView &view, quint8 level)
-{
+    m_stale = false;
+    const GeoView &view = *m_picture.view();
+    const auto level = static_cast<quint8>(m_source.levelFor(view.metresPerPixel() / view.devicePixelRatio()));
     const TileRange range = TileRowPainter::needed(view, view.screenRect(), level);
     if (range.count() > TileProvider::MaxTilesPerView) {
-        m_cells.clear();
-        return {};
+        m_picture.clear();
+        return;
     }
     m_toned.keepAtLeast(range.count());
     const auto images = [this](const TileIndex &index) { return m_toned.image(index, m_source.image(index)); };
-    return onScreen(m_cells.update(range, images, m_source.minLevel, m_source.maxLevel, m_clock()), level, view);
+    m_picture.update(range, {images, m_source.minLevel, m_source.maxLevel}, m_clock());
 }
 
 void GeoTileMap::paint(QPainter &painter, const GeoView &view)
@@ -177,24 +146,12 @@ void GeoTileMap::paint(QPainter &painter, const GeoView &view)
         return;
     }
     followDensity(view.devicePixelRatio());
-    QList<QRect> parts = m_picture.turnTo(view);
-    if (!parts.isEmpty() || m_stale || m_cells.fading()) {
-        const quint8 level = levelFor(view);
-        const QList<QRect> changed = updateCells(view, level);
-        if (!parts.contains(view.screenRect())) {
-            parts += changed;
-        }
-        m_stale = false;
-        for (const QRect &part : std::as_const(parts)) {
-            QPainter onPicture(&m_picture.image());
-            onPicture.setClipRect(part);
-            m_rows.paint(onPicture, view, part, m_cells, level, m_smooth);
-        }
+    if (m_picture.turnTo(view) || m_stale || m_picture.fading()) {
+        updatePicture();
     }
-    if (!m_cells.showAnything()) {
-        return;
+    if (m_picture.showsAnything()) {
+        painter.resetTransform();
+        m_picture.paint(painter);
+        m_attribution.paint(painter);
     }
-    painter.resetTransform();
-    painter.drawImage(QPointF(0.0, 0.0), m_picture.image());
-    m_attribution.paint(painter);
 }

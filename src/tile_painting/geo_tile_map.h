@@ -1,12 +1,10 @@
 #pragma once
 
 #include "tile_painting/tile_attribution.h"
-#include "tile_painting/tile_cells.h"
-#include "tile_painting/tile_row_painter.h"
+#include "tile_painting/tile_picture.h"
 #include "tile_painting/tile_source.h"
 #include "tile_painting/toned_tiles.h"
 #include "view/geo_layer.h"
-#include "view/kept_picture.h"
 
 #include <QPointer>
 
@@ -14,7 +12,7 @@
 
 // Online tiles under or over the static maps. While a tile is not there, coarser or finer ones stand in for it; it
 // fades in when it comes, as the plan view's frames follow each other. The drawn picture is kept until tiles or view
-// change, and moved along with the view. On a screen of twice the density tiles are a level deeper.
+// change, and moved along with the view; see TilePicture. On a screen of twice the density tiles are a level deeper.
 class GeoTileMap final : public GeoLayer {
     Q_OBJECT
 
@@ -45,6 +43,9 @@ public:
         return SettingGroup::Tiles | SettingGroup::PlanView | SettingGroup::Orientation;
     }
 
+    // A drawing of tiles is under way in the background; polluted() follows it.
+    bool drawing() const { return m_picture.drawing(); }
+
     // Milliseconds; tests have a clock of their own.
     void setClock(const std::function<qint64()> &clock) { m_clock = clock; }
 
@@ -63,20 +64,16 @@ private:
     void sendRequest();
     void followVisibility();
     void followDensity(double devicePixelRatio);
-    quint8 levelFor(const GeoView &view) const;
-    QList<QRect> updateCells(const GeoView &view, quint8 level);
+    void updatePicture();
 
     const Layer m_layer;
     QPointer<TileProvider> m_provider;
     TileSource m_source;
     Request m_request;
     double m_devicePixelRatio = 1.0;
-    bool m_smooth = false;
-    bool m_stale = true; // tiles have come or gone since the last frame
+    bool m_stale = true; // tiles may have come or gone since the picture was last brought up to date
     TonedTiles m_toned;
-    TileCells m_cells;
-    TileRowPainter m_rows;
+    TilePicture m_picture;
     TileAttribution m_attribution;
-    KeptPicture m_picture;
     std::function<qint64()> m_clock;
 };

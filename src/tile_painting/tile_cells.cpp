@@ -116,6 +116,23 @@ void TileCells::clear()
     m_showAnything = false;
 }
 
+std::shared_ptr<const TileCells> TileCells::copy() const
+{
+    auto cells = std::make_shared<TileCells>(*this);
+    cells->m_cells.detach();
+    return cells;
+}
+
+void TileCells::keepMixed(const TileCells &copy)
+{
+    for (auto entry = m_cells.begin(); entry != m_cells.end(); ++entry) {
+        const auto other = copy.m_cells.constFind(entry.key());
+        if (other != copy.m_cells.constEnd() && entry->cell.looksLike(other->cell)) {
+            entry->cell.mixed = other->cell.mixed;
+        }
+    }
+}
+
 const TileCell &TileCells::at(int column, int row) const
 {
     static const TileCell None;

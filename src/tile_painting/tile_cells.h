@@ -9,6 +9,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <vector>
 
 // What is shown in the place of one tile: its image or, while that is not there or fades in, what can stand in for it.
@@ -34,6 +35,11 @@ public:
     // without it fades in. The time is in milliseconds, the coarsest level that of stand-ins.
     std::vector<QPoint> update(const TileRange &range, const Images &images, int coarsest, int deepest, qint64 now);
     void clear();
+
+    // For another thread: what is mixed there is not seen here.
+    std::shared_ptr<const TileCells> copy() const;
+    // Takes over what has been mixed in a copy and still looks the same.
+    void keepMixed(const TileCells &copy);
 
     // One without images where the range has none.
     const TileCell &at(int column, int row) const;

@@ -36,6 +36,21 @@ QList<QRect> KeptPicture::turnTo(const GeoView &view)
     return {screen};
 }
 
+bool KeptPicture::put(const QImage &picture, const QList<QRect> &parts, const GeoView &of)
+{
+    QPoint shift; // from the present view to that of the parts
+    if (!m_valid || !findShift(of, shift)) {
+        return false;
+    }
+    QPainter painter(&m_image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    for (const QRect &part : parts) {
+        painter.setClipRect(part.translated(-shift));
+        painter.drawImage(-shift, picture);
+    }
+    return true;
+}
+
 // Whether the view differs from the picture by whole pixels and by fewer than there are.
 bool KeptPicture::findShift(const GeoView &view, QPoint &shift) const
 {

@@ -16,6 +16,9 @@ public:
     // Brings the picture to another view. Returns the parts of the screen that have to be painted: they are transparent
     // now. Logical pixels.
     QList<QRect> turnTo(const GeoView &view);
+    // Takes parts, in logical pixels, of a picture of a view that may lie beside the present one. False: they are of
+    // no use for it, nothing is taken.
+    bool put(const QImage &picture, const QList<QRect> &parts, const GeoView &of);
 
     const QImage &image() const { return m_image; }
     QImage &image() { return m_image; }

@@ -5,6 +5,7 @@
 #include "tile_painting/tile_plane.h"
 #include "view/geo_view.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QImage>
 #include <QPainter>
@@ -88,7 +89,8 @@ public:
     GeoView view() const { return GeoView(m_toScreen, m_size, m_ratio); }
     void pan(int x, int y) { m_toScreen *= QTransform::fromTranslate(x, y); }
 
-    QImage painted(GeoLayer &layer, const QColor &ground = Qt::black) const
+    // One frame.
+    QImage frame(GeoLayer &layer, const QColor &ground = Qt::black) const
     {
         QImage image(m_size * m_ratio, QImage::Format_ARGB32_Premultiplied);
         image.setDevicePixelRatio(m_ratio);
@@ -96,6 +98,17 @@ public:
         QPainter painter(&image);
         painter.setWorldTransform(m_toScreen);
         layer.paint(painter, view());
+        return image;
+    }
+
+    // The first frame for which nothing is under way in the background.
+    QImage painted(GeoTileMap &layer, const QColor &ground = Qt::black) const
+    {
+        QImage image = frame(layer, ground);
+        while (layer.drawing()) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+            image = frame(layer, ground);
+        }
         return image;
     }
 
