@@ -30,11 +30,13 @@ public:
 
     void pan(double pixels) { m_toScreen *= QTransform::fromTranslate(pixels, 0.0); }
 
+    GeoView view() const { return GeoView(m_toScreen, size()); }
+
     void paint(GeoLayer &layer)
     {
         QPainter painter(&m_image);
         painter.setWorldTransform(m_toScreen);
-        layer.paint(painter, GeoView(m_toScreen, size()));
+        layer.paint(painter, view());
     }
 
 private:

@@ -2,7 +2,9 @@
 #include "bench_screen.h"
 #include "geo/mercator_projector.h"
 #include "tile_painting/geo_tile_map.h"
+#include "tile_painting/tile_cells.h"
 #include "tile_painting/tile_plane.h"
+#include "tile_painting/tile_row_painter.h"
 
 #include <benchmark/benchmark.h>
 
@@ -61,7 +63,7 @@ public:
     void pan(double pixels) { m_screen.pan(pixels); }
     void paint() { m_screen.paint(m_layer); }
     void comeTiles() { m_layer.tilesChanged(); }
-    int tiles() const { return int(TilePlane::covering(m_screen.planeRect(), Level).count()); }
+    int tiles() const { return static_cast<int>(TilePlane::covering(m_screen.planeRect(), Level).count()); }
 
 private:
     QHash<TileIndex, QImage> m_tiles;
@@ -71,7 +73,7 @@ private:
 
 void unchangedView(benchmark::State &state)
 {
-    TileScope scope(double(state.range(0)), 40);
+    TileScope scope(static_cast<double>(state.range(0)), 40);
     state.counters["tiles"] = scope.tiles();
     for (auto _ : state) {
         scope.paint();
@@ -80,14 +82,37 @@ void unchangedView(benchmark::State &state)
 
 void newView(benchmark::State &state)
 {
-    TileScope scope(double(state.range(0)), int(state.range(1)));
+    TileScope scope(static_cast<double>(state.range(0)), static_cast<int>(state.range(1)));
     state.counters["tiles"] = scope.tiles();
     paintPanned(state, scope, 0.5);
 }
 
+// What the worker does for a new view, with the tiles themselves or with coarser ones in their place.
+void drawnView(benchmark::State &state)
+{
+    BenchScreen screen(Screen);
+    screen.lookAt(MercatorProjector().toCartesian(48.0, 16.0), MetresPerPixel, static_cast<double>(state.range(0)));
+    const GeoView view = screen.view();
+    const bool standIns = state.range(1) != 0;
+    QHash<TileIndex, QImage> tiles;
+    TileCells cells;
+    const auto images = [&](const TileIndex &index) {
+        if (index.level == (standIns ? Level - 1 : Level) && !tiles.contains(index)) {
+            tiles.insert(index, someTile(index));
+        }
+        return tiles.value(index);
+    };
+    cells.update(TileRowPainter::needed(view, view.screenRect(), Level), images, 1, Level, 0);
+    QImage image(screen.size(), QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : state) {
+        QPainter painter(&image);
+        TileRowPainter().paint(painter, view, view.screenRect(), *cells.copy(), Level, false);
+    }
+}
+
 void pannedView(benchmark::State &state)
 {
-    TileScope scope(double(state.range(0)), 40);
+    TileScope scope(static_cast<double>(state.range(0)), 40);
     paintPanned(state, scope, 7.0);
 }
 
@@ -119,6 +144,14 @@ BENCHMARK(newView)
     ->Args({0, 40})
     ->Args({30, 0})
     ->Args({30, 40})
+    ->Args({90, 0})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(drawnView)
+    ->ArgNames({"rotation", "stand-ins"})
+    ->Args({0, 0})
+    ->Args({0, 1})
+    ->Args({30, 0})
+    ->Args({30, 1})
     ->Args({90, 0})
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(pannedView)->ArgName("rotation")->Arg(0)->Arg(30)->Unit(benchmark::kMillisecond);

@@ -15,7 +15,48 @@
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <utility>
 #include <vector>
+
+// Processor time of this thread so far.
+inline double threadMs()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1000.0 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+// Tells what the window's thread spends its time on, event by event.
+class WatchedApplication final : public QApplication {
+public:
+    struct Handled {
+        QString what; // receiver and kind of the event
+        double milliseconds = 0.0; // processor time, with that of the events that it led to
+    };
+
+    using QApplication::QApplication;
+
+    // Those that took long enough to be seen in a frame, since the last call.
+    std::vector<Handled> takeHandled() { return std::exchange(m_handled, {}); }
+
+    bool notify(QObject *receiver, QEvent *event) override
+    {
+        const bool onWindow = QThread::currentThread() == thread();
+        const QString what = QStringLiteral("%1 %2").arg(receiver->metaObject()->className()).arg(event->type());
+        const double before = threadMs();
+        const bool done = QApplication::notify(receiver, event);
+        const double taken = threadMs() - before;
+        if (onWindow && taken > LeastMs) {
+            m_handled.push_back({what, taken});
+        }
+        return done;
+    }
+
+private:
+    static constexpr double LeastMs = 0.5;
+
+    std::vector<Handled> m_handled;
+};
 
 // A program that drives the window with settings of its own, and what it was told on its command line.
 class WindowProgram {
@@ -33,21 +74,14 @@ public:
     QString text(const QString &option) const { return m_options.value(option); }
     int number(const QString &option) const { return text(option).toInt(); }
     bool isSet(const QString &option) const { return m_options.isSet(option); }
+    WatchedApplication &application() { return m_application; }
 
 private:
-    QApplication m_application;
+    WatchedApplication m_application;
     QCommandLineParser m_options;
 };
 
 inline constexpr double FrameMs = 1000.0 / 60.0;
-
-// Processor time of this thread so far.
-inline double threadMs()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1000.0 + static_cast<double>(time.tv_nsec) / 1e6;
-}
 
 // What frames took, milliseconds, in ascending order once they have been sorted.
 struct Frames {
