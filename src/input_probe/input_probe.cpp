@@ -4,6 +4,7 @@
 #include "engine/engine_host.h"
 #include "input_probe/udp_port_users.h"
 #include "recognition/stream_analyser.h"
+#include "recognition/stream_diagnosis.h"
 
 #include <QUdpSocket>
 

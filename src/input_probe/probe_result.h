@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recognition/stream_diagnosis.h"
+#include "recognition/diagnosis_remark.h"
 #include "recognition/stream_findings.h"
 
 #include <QString>

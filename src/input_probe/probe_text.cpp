@@ -53,11 +53,6 @@ QString messageRate(const ProbeResult &result)
                                                  : Text::tr("%1 messages/s").arg(rate);
 }
 
-StreamFormat formatOf(const StreamFindings &findings)
-{
-    return {*findings.kind, findings.asterixFormat, findings.modeSEncapsulation, findings.aleniaSirMFormat};
-}
-
 // ---- sources of ASTERIX ----------------------------------------------------------------------------------------
 
 struct TargetCounts {
@@ -152,7 +147,7 @@ QString asterixText(const StreamFindings &findings)
 QString modeSText(const StreamFindings &findings)
 {
     const ModeSFindings &modeS = findings.modeS;
-    QStringList parts = {formatText(formatOf(findings)),
+    QStringList parts = {formatText(findings.format()),
         Text::tr("%1 frames a second").arg(rateNumber(perSecond(findings, modeS.frames))),
         Text::tr("%1 aircraft with extended squitters").arg(modeS.aircraft)};
     if (modeS.area.positions == 0) {
@@ -164,7 +159,7 @@ QString modeSText(const StreamFindings &findings)
 QString sirMText(const StreamFindings &findings)
 {
     const SirMFindings &sirM = findings.sirM;
-    return QStringList{Text::tr("%1 radar %2").arg(formatText(formatOf(findings))).arg(sirM.radarId),
+    return QStringList{Text::tr("%1 radar %2").arg(formatText(findings.format())).arg(sirM.radarId),
         Text::tr("%1 plots a second").arg(rateNumber(perSecond(findings, sirM.plots))),
         Text::tr("%1 track reports a second").arg(rateNumber(perSecond(findings, sirM.tracks)))}
         .join(QStringLiteral(", "));
@@ -322,7 +317,7 @@ ProbeText::Row wholeStream(const StreamFindings &findings)
     const bool isModeS = findings.kind == Config::ProcessorType::ModeS;
     ProbeText::Row row;
     row.source = isModeS ? Text::tr("Receiver") : Text::tr("Radar %1").arg(findings.sirM.radarId);
-    row.category = formatText(formatOf(findings));
+    row.category = formatText(findings.format());
     const qint64 count = isModeS ? findings.modeS.frames : findings.sirM.plots + findings.sirM.tracks;
     row.rate = Text::tr("%1 /s").arg(rateNumber(perSecond(findings, count)));
     row.contents = isModeS
@@ -367,7 +362,7 @@ QString ProbeText::figures(const ProbeResult &result)
     }
     QStringList parts = {messageRate(result), octetRate(result.octetRate)};
     if (result.isRecognised()) {
-        parts += formatText(formatOf(result.findings));
+        parts += formatText(result.findings.format());
     }
     return parts.join(QStringLiteral(", "));
 }

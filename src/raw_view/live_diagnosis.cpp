@@ -1,7 +1,9 @@
 #include "raw_view/live_diagnosis.h"
 
 #include "engine/engine_host.h"
+#include "recognition/settings_diagnosis.h"
 #include "recognition/stream_analyser.h"
+#include "recognition/stream_diagnosis.h"
 
 #include <QDateTime>
 
@@ -94,5 +96,8 @@ void LiveDiagnosis::analyse(bool isFinal)
         }
         return result;
     };
+    if (isFinal) {
+        m_heard.clear(); // the work holds what it needs
+    }
     m_analysis.start(work, [this](const Result &result) { Q_EMIT found(result); });
 }

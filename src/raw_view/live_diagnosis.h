@@ -3,7 +3,7 @@
 #include "app/background_pass.h"
 #include "app/config.h"
 #include "engine/stream_tap.h"
-#include "recognition/stream_diagnosis.h"
+#include "recognition/diagnosis_remark.h"
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -150,6 +150,9 @@ struct StreamFindings {
     QList<SourceFindings> sources; // ASTERIX; by SAC/SIC
     ModeSFindings modeS;
     SirMFindings sirM;
+
+    // Where the kind is known.
+    StreamFormat format() const { return {*kind, asterixFormat, modeSEncapsulation, aleniaSirMFormat}; }
 };
 
 // "ASTERIX", "ASTERIX in HDLC Frame", "Mode S (Beast)".

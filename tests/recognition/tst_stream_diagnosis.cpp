@@ -4,6 +4,7 @@
 
 #include "modes/encoder.h"
 #include "recognition/recording_analysis.h"
+#include "recognition/settings_diagnosis.h"
 #include "recognition/stream_diagnosis.h"
 
 #include <QTemporaryDir>
