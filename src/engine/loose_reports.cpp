@@ -23,6 +23,11 @@ KeptReport keptReport(const LooseReport &kept)
 
 } // namespace
 
+bool LooseReports::makeRoomFor(const TakenReport &report)
+{
+    return report.octets && makeRoom(sizeFor(report.size));
+}
+
 // Behind the newest, or at the beginning where too little is left at the end. The oldest in the way go.
 bool LooseReports::makeRoom(quint32 needed)
 {

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "tracking/kept_report.h"
+#include "tracking/octet_copy.h"
 
 #include <QList>
 #include <QPointF>
 
-#include <cstring>
 #include <memory>
 #include <new>
 
@@ -33,20 +33,22 @@ public:
     // Octets in all, what is noted beside each report included. Memory is taken when the first report comes.
     explicit LooseReports(quint32 room) : m_capacity(room & ~(Alignment - 1)) { }
 
+    // Whether the report needs nothing but writing.
+    bool hasRoomFor(const TakenReport &report) const { return report.octets && sizeFor(report.size) <= m_free; }
+
     // A report larger than all the room is left out, and one without octets.
     void add(const TakenReport &report, qint64 timeMs)
     {
-        const quint32 needed = sizeFor(report.size);
-        if (!report.octets || (needed > m_free && !makeRoom(needed))) {
+        if (!hasRoomFor(report) && !makeRoomFor(report)) {
             return;
         }
         unsigned char *const to = m_memory.get() + m_end;
         new (to) LooseReport{report.size, report.fate.address.value_or(0), report.fate.sensorTrackNumber, report.form,
             report.fate.outcome, report.category, report.fate.place.has_value(), timeMs,
             report.record ? report.record->uap : nullptr, report.fate.place.value_or(QPointF())};
-        std::memcpy(to + sizeof(LooseReport), report.octets, report.size);
-        m_end += needed;
-        m_free -= needed;
+        copyOctets(to + sizeof(LooseReport), report.octets, report.size);
+        m_end += sizeFor(report.size);
+        m_free -= sizeFor(report.size);
         ++m_count;
         ++m_fresh;
     }
@@ -88,6 +90,7 @@ private:
         at += sizeFor(report->size);
         return *report;
     }
+    bool makeRoomFor(const TakenReport &report);
     bool makeRoom(quint32 needed);
     void dropOldest();
     template <typename Wanted>

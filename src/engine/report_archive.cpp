@@ -61,15 +61,25 @@ void ReportArchive::clear()
     m_dropped.clear();
 }
 
+// A report may belong to a track and be of no use for it.
+void ReportArchive::take(const TakenReport &report)
+{
+    if (report.fate.newestReport) {
+        log(report);
+    }
+    keepLoose(report);
+}
+
 void ReportArchive::keepLoose(const TakenReport &report)
 {
     switch (report.fate.outcome) {
     case ReportOutcome::Track: // with the track
-    case ReportOutcome::Plot: // with the plots
     case ReportOutcome::TrackEnd: // noted when the track went
     case ReportOutcome::SourceStatus:
     case ReportOutcome::Malformed:
         return;
+    case ReportOutcome::Plot:
+        return m_plots.add(report, m_clock->lastMs());
     case ReportOutcome::Alert:
         return m_alerts.add(report, m_clock->nowMs());
     case ReportOutcome::Weather:

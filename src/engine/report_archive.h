@@ -60,20 +60,24 @@ public:
     // Of another input, or the next run of a recording.
     void clear();
 
-    // Only copies: who is named in the reports without a track is read later. Trackers have just read the clock for
-    // each report that they look at.
-    void take(const TakenReport &report) override
+    // What made a track or a plot is copied, and mostly there is room for it.
+    bool needsCopyingOnly(const TakenReport &report) const
     {
-        if (report.fate.newestReport) {
-            m_log.add(*report.fate.newestReport, report.form, m_clock->lastMs(),
-                report.record ? report.record->uap : nullptr, report.octets, report.size);
-        }
-        if (report.fate.outcome == ReportOutcome::Plot) {
+        return report.fate.outcome == ReportOutcome::Track
+            ? report.fate.newestReport && m_log.hasRoomFor(report.size)
+            : report.fate.outcome == ReportOutcome::Plot && m_plots.hasRoomFor(report);
+    }
+    void copy(const TakenReport &report)
+    {
+        if (report.fate.outcome == ReportOutcome::Track) {
+            log(report);
+        } else {
             m_plots.add(report, m_clock->lastMs());
-        } else if (report.fate.outcome != ReportOutcome::Track) {
-            keepLoose(report);
         }
     }
+
+    // Only copies: who is named in the reports without a track is read later.
+    void take(const TakenReport &report) override;
     // To be called once a second: reads whom the reports since the last call have named, and keeps room in step with
     // the number of tracks.
     void endSecond();
@@ -84,7 +88,13 @@ public:
 
 private:
     void readIdentities();
-    void keepLoose(const TakenReport &report); // that is neither a track nor a plot
+    // Trackers have just read the clock for each report that they look at.
+    void log(const TakenReport &report)
+    {
+        m_log.add(*report.fate.newestReport, report.form, m_clock->lastMs(),
+            report.record ? report.record->uap : nullptr, report.octets, report.size);
+    }
+    void keepLoose(const TakenReport &report); // with others of its outcome
     void answerTrack(AskedReports &answer) const;
     void answerPlace(AskedReports &answer) const;
     void noteIdentity(const LooseReport &report, const unsigned char *octets);

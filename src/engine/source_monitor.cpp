@@ -145,14 +145,39 @@ void SourceMonitor::endSecond(qint64 passed)
     setSecond(m_second + passed);
 }
 
+// All that is done once a block is done with the first of its records that has the outcome. Each message of the antenna
+// and each radial is looked at.
+void SourceMonitor::take(const TakenReport &report)
+{
+    Source &source = sourceOf(report);
+    const auto outcome = static_cast<std::size_t>(report.fate.outcome);
+    ++source.values.outcomes[outcome];
+    if (source.lastBlock != m_block) {
+        beginIn(source, report);
+    }
+    if (m_nowMs >= source.nextExampleMs[outcome]) {
+        keepExample(source, report);
+    }
+    if (report.fate.outcome == ReportOutcome::SourceStatus || report.category == VideoCategory) {
+        measure(source, report);
+    } else {
+        source.lookedAt[outcome] = m_block;
+    }
+}
+
 SourceMonitor::Source &SourceMonitor::sourceOf(const TakenReport &report)
+{
+    return report.record && isAsLast(*report.record) ? *m_last : findSource(report);
+}
+
+SourceMonitor::Source &SourceMonitor::findSource(const TakenReport &report)
 {
     forgetLast();
     Source &source = find(report, keyOf(report).packed());
-    if (report.record) {
+    if (report.record && report.record->itemOffsets[0] != 0) {
         m_last = &source;
         m_lastUap = report.record->uap;
-        m_lastCode = sourceIn(*report.record);
+        m_lastCode = codeAt(report.record->data + report.record->itemOffsets[0]);
     }
     return source;
 }

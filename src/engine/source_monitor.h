@@ -6,6 +6,8 @@
 #include "engine/source_statistics.h"
 #include "tracking/clock.h"
 
+#include <cstdint>
+#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -51,22 +53,16 @@ public:
 
     void setBacklog(const InputBacklog &backlog) { m_totals.backlog = backlog; }
 
-    // Most records come from where the last one came, and need nothing but counting.
-    void take(const TakenReport &report) override
+    // Most records come from where the last one came and became what others of their block did: those need nothing but
+    // counting.
+    bool needsCountingOnly(const TakenReport &report) const
     {
-        Source &source = report.record && isAsLast(*report.record) ? *m_last : sourceOf(report);
-        const auto outcome = static_cast<std::size_t>(report.fate.outcome);
-        ++source.values.outcomes[outcome];
-        if (source.lastBlock != m_block) {
-            beginIn(source, report);
-        }
-        if (m_nowMs >= source.nextExampleMs[outcome]) {
-            keepExample(source, report);
-        }
-        if (report.fate.outcome == ReportOutcome::SourceStatus || report.category == VideoCategory) {
-            measure(source, report);
-        }
+        return report.record && isAsLast(*report.record)
+            && m_last->lookedAt[static_cast<std::size_t>(report.fate.outcome)] == m_block;
     }
+    void count(const TakenReport &report) { ++m_last->values.outcomes[static_cast<std::size_t>(report.fate.outcome)]; }
+
+    void take(const TakenReport &report) override;
 
     // Everything but what the engine knows of its input.
     InputStatistics statistics() const;
@@ -84,6 +80,8 @@ private:
         qint64 lastBucket = 0; // the stretch of ten seconds in which it was heard last
         int buckets = 0; // in how many it was heard
         std::array<quint32, Seconds> seconds{}; // records in each of the last seconds, by indexOf()
+        // By outcome: the block in which a record of it was looked at last, and when the next one is to be an example.
+        std::array<quint64, ReportOutcomeCount> lookedAt{};
         std::array<qint64, ReportOutcomeCount> nextExampleMs{};
         DelayMeter delay;
         AntennaMeter antenna;
@@ -116,12 +114,18 @@ private:
         const std::uint16_t at = record.itemOffsets[0];
         return at == 0 ? _ast_sacsic_t{} : _ast_sacsic_t{true, record.data[at], record.data[at + 1]};
     }
-    // Whether the last record was of the same source, on the same way, by the same description.
+    // Whether it names its source, and the last record was of the same one, on the same way, by the same description.
     bool isAsLast(const _ast_datarecord_t &record) const
     {
         const std::uint16_t at = record.itemOffsets[0];
-        return record.uap == m_lastUap && (at != 0) == m_lastCode.present
-            && (at == 0 || (record.data[at] == m_lastCode.sac && record.data[at + 1] == m_lastCode.sic));
+        return at != 0 && record.uap == m_lastUap && codeAt(record.data + at) == m_lastCode;
+    }
+    // SAC and SIC, in whatever order.
+    static std::uint16_t codeAt(const unsigned char *octets)
+    {
+        std::uint16_t code = 0;
+        std::memcpy(&code, octets, sizeof code);
+        return code;
     }
     void forgetLast()
     {
@@ -129,6 +133,7 @@ private:
         m_lastUap = nullptr;
     }
     Source &sourceOf(const TakenReport &report);
+    Source &findSource(const TakenReport &report);
     Key keyOf(const TakenReport &report) const;
     Source &find(const TakenReport &report, quint64 key);
     Source *makeRoom();
@@ -149,15 +154,15 @@ private:
     qint64 m_second = 0; // the one under way, since 1970
     qint64 m_bucket = 0; // the stretch of ten of them under way
     int m_endpoint = 0;
-    quint64 m_block = 0;
+    quint64 m_block = 0; // counted from 1 on
     std::size_t m_blockOctets = 0;
     int m_admissions = 0; // of sources for which another had to go, in this second
 
     std::vector<quint64> m_keys; // of the sources, packed, with their editions: searched through quickly
     std::vector<std::unique_ptr<Source>> m_sources;
     Source m_others;
-    // The last record's, where it was decoded.
+    // The last record's, where it was decoded and names its source.
     Source *m_last = nullptr;
     const void *m_lastUap = nullptr;
-    _ast_sacsic_t m_lastCode;
+    std::uint16_t m_lastCode = 0;
 };

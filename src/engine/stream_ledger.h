@@ -12,14 +12,20 @@ public:
     {
     }
 
+    // No call is made for most records, so that nothing has to be saved for it.
     void take(const TakenReport &report) override
     {
-        m_sources.take(report);
-        m_archive.take(report);
-        m_taps.take(report);
+        if (m_taps.isEmpty() && m_sources.needsCountingOnly(report) && m_archive.needsCopyingOnly(report)) [[likely]] {
+            m_archive.copy(report);
+            m_sources.count(report);
+        } else {
+            tellAll(report);
+        }
     }
 
 private:
+    void tellAll(const TakenReport &report);
+
     SourceMonitor &m_sources;
     ReportArchive &m_archive;
     StreamTaps &m_taps;

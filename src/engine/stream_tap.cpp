@@ -8,6 +8,16 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+// A batch that is handed over because it is time, not because it is full, tells little of the next one.
+std::size_t usualRoom(std::size_t before, std::size_t taken)
+{
+    return std::max(taken, before - before / 4);
+}
+
+} // namespace
+
 StreamTap::Taken StreamTap::takeAll()
 {
     Taken taken;
@@ -90,8 +100,8 @@ void StreamTap::flush()
     if (!m_batch) {
         return;
     }
-    m_usualEntries = m_batch->messages.size() + m_batch->records.size();
-    m_usualOctets = m_batch->octets.size();
+    m_usualEntries = usualRoom(m_usualEntries, m_batch->messages.size() + m_batch->records.size());
+    m_usualOctets = usualRoom(m_usualOctets, m_batch->octets.size());
     std::shared_ptr<const StreamBatch> oldest; // freed after the lock
     const QMutexLocker lock(&m_mutex);
     m_waiting.push_back(std::move(m_batch));

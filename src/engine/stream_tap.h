@@ -59,7 +59,7 @@ struct StreamBatch {
 
 // Copies of what an input receives, for somebody on another thread who looks at the stream as it comes. What waits is
 // bounded: a reader who is too slow, or does not read at all, gets the newest and is told how many he missed. A
-// batch begins with the room that the one before it took, so that hardly anything is allocated in between. The engine
+// batch begins with the room that those before it took, so that hardly anything is allocated in between. The engine
 // never waits for the reader longer than for moving a pointer.
 class StreamTap final : public ReportLedger {
 public:
@@ -92,7 +92,7 @@ private:
     const Content m_content;
     SharedClock m_clock;
     std::shared_ptr<StreamBatch> m_batch; // that is being filled; null: none
-    std::size_t m_usualEntries = 0; // of the batch before
+    std::size_t m_usualEntries = 0; // of the largest of the last few batches
     std::size_t m_usualOctets = 0;
     QMutex m_mutex; // of all below
     std::vector<std::shared_ptr<const StreamBatch>> m_waiting;
@@ -104,6 +104,7 @@ class StreamTaps {
 public:
     void open(const std::shared_ptr<StreamTap> &tap) { m_taps.push_back(tap); }
     void close(const std::shared_ptr<StreamTap> &tap) { std::erase(m_taps, tap); }
+    bool isEmpty() const { return m_taps.empty(); }
 
     void addMessage(std::span<const unsigned char> message)
     {

@@ -23,7 +23,8 @@ struct ReportFate {
     // What it names its track by, where a tracker has looked.
     unsigned int sensorTrackNumber = 0; // 0: none
     std::optional<unsigned int> address = {}; // 24 bits
-    std::optional<QPointF> place = {}; // of the target, plane metres; nothing where it has none or one off the globe
+    // Of a target without a track, plane metres; nothing where it has no place, or one off the globe.
+    std::optional<QPointF> place = {};
 };
 
 // One record and what became of it. Everything that it points at lives during the call only.

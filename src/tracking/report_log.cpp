@@ -1,6 +1,7 @@
 #include "tracking/report_log.h"
 
 #include <algorithm>
+#include <cstring>
 
 void ReportLog::setTrackCount(int count)
 {

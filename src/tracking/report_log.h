@@ -1,11 +1,11 @@
 #pragma once
 
 #include "tracking/kept_report.h"
+#include "tracking/octet_copy.h"
 #include "tracking/report_link.h"
 
 #include <QList>
 
-#include <cstring>
 #include <memory>
 #include <new>
 
@@ -23,19 +23,21 @@ public:
     // Room for so many tracks from the next round on; more are taken account of before it begins.
     void setTrackCount(int count);
 
+    // Whether a report of so many octets needs nothing but writing.
+    bool hasRoomFor(std::size_t size) const { return sizeFor(size) <= m_room - m_end; }
+
     // Behind the newest report of its track, which is then this one. Memory is taken with the first.
     void add(ReportLink &newest, TakenReport::Form form, qint64 timeMs, const korvane::asterix::Uap *uap,
         const unsigned char *octets, std::size_t size)
     {
-        const std::size_t needed = HeaderSize + ((size + Alignment - 1) & ~(Alignment - 1));
-        if (needed > m_room - m_end && !makeRoom(needed)) {
+        if (!hasRoomFor(size) && !makeRoom(sizeFor(size))) {
             return;
         }
         unsigned char *const to = m_octets.get() + m_end;
         new (to) Header{newest, timeMs, uap, static_cast<quint32>(size), form};
-        std::memcpy(to + HeaderSize, octets, size);
+        copyOctets(to + HeaderSize, octets, size);
         newest = m_round << RoundShift | m_end;
-        m_end += needed;
+        m_end += sizeFor(size);
     }
 
     // Copies of a track's reports, newest first, as far as they are still there.
@@ -56,6 +58,10 @@ private:
     static constexpr std::size_t HeaderSize = sizeof(Header);
     static constexpr std::size_t Alignment = alignof(Header);
     static constexpr int RoundShift = 32;
+    static constexpr std::size_t sizeFor(std::size_t octets)
+    {
+        return (HeaderSize + octets + Alignment - 1) & ~(Alignment - 1);
+    }
 
     // A link is the round, from 1 on, and the place in it.
     bool isThere(ReportLink link) const;

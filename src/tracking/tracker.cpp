@@ -161,11 +161,9 @@ unsigned int Tracker::endTrack(const Identity &identity, const QDateTime &now)
 Tracker::Taken Tracker::takenBy(Track &track, const Identity &identity, const std::optional<Place> &place)
 {
     Taken taken{ReportOutcome::Track, track.trackNumber(), &track.newestReport(), identity.number, identity.address};
-    if (place && place->valid) {
-        taken.place = place->plane;
-    } else if (place) {
+    if (place && !place->valid) {
         taken.outcome = ReportOutcome::OutOfRange;
-    } else if (!track.carCoordinateValid()) {
+    } else if (!place && !track.carCoordinateValid()) {
         taken.outcome = ReportOutcome::NoPosition;
     }
     return taken;

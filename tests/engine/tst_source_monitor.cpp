@@ -45,6 +45,19 @@ QByteArray sectorCrossing(double azimuth, double timeOfDay)
     return encodedReport(34, QStringLiteral("000=2 020=%1 030=%2").arg(azimuth, 0, 'f', 6).arg(timeOfDay, 0, 'f', 6));
 }
 
+// The records of blocks of one category.
+QByteArray inOneBlock(const QByteArrayList &blocks)
+{
+    constexpr qsizetype Header = 3;
+    QByteArray merged = blocks.first().left(Header);
+    for (const QByteArray &block : blocks) {
+        merged += block.mid(Header);
+    }
+    merged[1] = static_cast<char>(merged.size() >> 8);
+    merged[2] = static_cast<char>(merged.size());
+    return merged;
+}
+
 } // namespace
 
 class TestSourceMonitor final : public QObject {
@@ -236,6 +249,34 @@ private Q_SLOTS:
         const ReportExample &example = malformed->example(ReportOutcome::Malformed);
         QCOMPARE(example.octets, broken);
         QVERIFY(!example.fault.isEmpty() && example.faultOffset >= 6);
+    }
+
+    // What needs counting only is not looked at: all that does must be, wherever in a block it stands.
+    void recordsWithinABlockAreLookedAt()
+    {
+        EngineRig rig;
+        open(rig, EngineRig::radar());
+        rig.engine.procMessage(inOneBlock({northMarker(3600), sectorCrossing(90, 3601), sectorCrossing(180, 3602),
+            sectorCrossing(270, 3603), northMarker(3604)}));
+        const auto send = [&rig](int range) {
+            rig.engine.procMessage(inOneBlock({encodedReport(48, "161/TRN=7"), encodedReport(48, "161/TRN=8"),
+                encodedReport(48, QStringLiteral("040/RHO=%1 040/THETA=20").arg(range)),
+                encodedReport(48, "161/TRN=7")}));
+        };
+        const auto examplePlot = [&rig] { return rig.statistics()->sources[1].example(ReportOutcome::Plot).octets; };
+        send(10);
+        const QByteArray first = examplePlot();
+        pass(rig, 500);
+        send(20);
+        QCOMPARE(examplePlot(), first);
+        pass(rig, 600);
+        send(30);
+        QCOMPARE(examplePlot(), encodedReport(48, "040/RHO=30 040/THETA=20").mid(3));
+        const auto statistics = rig.statistics();
+        QCOMPARE(told(*statistics), "34 25/0 sourceStatus=5; 48 25/0 plot=3 noPosition=9");
+        QCOMPARE(statistics->sources[0].antenna.sectorCrossings, 3ULL);
+        QCOMPARE(statistics->sources[0].antenna.northMarkers, 2ULL);
+        QCOMPARE(statistics->sources[1].blocks, 3ULL);
     }
 
     // A source that is heard every four seconds, beside others in ever new numbers.
