@@ -2866,6 +2866,39 @@
     </message>
 </context>
 <context>
+    <name>InputNotices</name>
+    <message>
+        <source>No input is running.</source>
+        <translation>Kein Eingang läuft.</translation>
+    </message>
+    <message>
+        <source>No alerts.</source>
+        <translation>Keine Alarme.</translation>
+    </message>
+    <message>
+        <source>Nothing of what %1 brings is seen. %2
+More: View, Input Health.</source>
+        <translation>Nichts von dem, was %1 bringt, ist zu sehen. %2
+Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
+    </message>
+    <message>
+        <source>No tracks. The target reports of %1 are shown as plots.</source>
+        <translation>Keine Tracks. Die Zielmeldungen von %1 werden als Plots gezeigt.</translation>
+    </message>
+    <message>
+        <source>No tracks. %1</source>
+        <translation>Keine Tracks. %1</translation>
+    </message>
+    <message>
+        <source>No tracks yet in %1.</source>
+        <translation>Noch keine Tracks in %1.</translation>
+    </message>
+    <message>
+        <source>No tracks. Listening on %1.</source>
+        <translation>Keine Tracks. Es wird auf %1 gehört.</translation>
+    </message>
+</context>
+<context>
     <name>InputProbe</name>
     <message>
         <source>UDP port %1</source>
@@ -3453,38 +3486,8 @@ Es wird von selbst weiter versucht.</translation>
         <translation>%1 x %2</translation>
     </message>
     <message>
-        <source>Messages</source>
-        <translation>Meldungen</translation>
-    </message>
-    <message>
         <source>Debug functions enabled</source>
         <translation>Diagnosefunktionen eingeschaltet</translation>
-    </message>
-    <message>
-        <source>Nothing of what %1 brings is seen. %2
-More: View, Input Health.</source>
-        <translation>Nichts von dem, was %1 bringt, ist zu sehen. %2
-Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
-    </message>
-    <message>
-        <source>No input is running.</source>
-        <translation>Kein Eingang läuft.</translation>
-    </message>
-    <message>
-        <source>No tracks yet in %1.</source>
-        <translation>Noch keine Tracks in %1.</translation>
-    </message>
-    <message>
-        <source>No tracks. Listening on %1.</source>
-        <translation>Keine Tracks. Es wird auf %1 gehört.</translation>
-    </message>
-    <message>
-        <source>No tracks. The target reports of %1 are shown as plots.</source>
-        <translation>Keine Tracks. Die Zielmeldungen von %1 werden als Plots gezeigt.</translation>
-    </message>
-    <message>
-        <source>No alerts.</source>
-        <translation>Keine Alarme.</translation>
     </message>
     <message>
         <source>%1 - %2</source>
@@ -3509,14 +3512,6 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>UDP input is working now, stop it first!</source>
         <translation>Der UDP-Eingang läuft, bitte zuerst stoppen!</translation>
-    </message>
-    <message>
-        <source>Data engine did not confirm the input close within 10 s, forcing shutdown.</source>
-        <translation>Das Schließen des Eingangs wurde nicht innerhalb von 10 s bestätigt, das Beenden wird erzwungen.</translation>
-    </message>
-    <message>
-        <source>Data processing thread did not stop within 5 s, abandoning it.</source>
-        <translation>Der Verarbeitungs-Thread hielt nicht innerhalb von 5 s an, er wird aufgegeben.</translation>
     </message>
     <message>
         <source>Cannot read the sensor file %1</source>
@@ -3545,10 +3540,6 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>The input is not started by itself: the program has crashed twice within a minute of its start. Press Start to try again.</source>
         <translation>Der Eingang wird nicht von selbst gestartet: das Programm ist zweimal innerhalb einer Minute nach dem Start abgestürzt. Drücken Sie Start für einen neuen Versuch.</translation>
-    </message>
-    <message>
-        <source>No tracks. %1</source>
-        <translation>Keine Tracks. %1</translation>
     </message>
 </context>
 <context>
@@ -4912,6 +4903,13 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>Failed to decode Alenia SIR-M message (%1 bytes), further failures are logged as debug.</source>
         <translation>Eine Alenia-SIR-M-Nachricht konnte nicht decodiert werden (%1 Bytes), weitere Fehler werden als Debug protokolliert.</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
     </message>
 </context>
 <context>
@@ -7658,6 +7656,17 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>The fields of the settings window, page by page. &quot;Key&quot; is the name under which the settings file has a setting. A sensor that is chosen there brings settings of its own.</source>
         <translation>Die Felder des Einstellungsfensters, Seite für Seite. „Schlüssel“ ist der Name, unter dem die Einstellungsdatei eine Einstellung hat. Ein dort gewählter Sensor bringt eigene Einstellungen mit.</translation>
+    </message>
+</context>
+<context>
+    <name>Shutdown</name>
+    <message>
+        <source>Data engine did not confirm the input close within 10 s, forcing shutdown.</source>
+        <translation>Das Schließen des Eingangs wurde nicht innerhalb von 10 s bestätigt, das Beenden wird erzwungen.</translation>
+    </message>
+    <message>
+        <source>Data processing thread did not stop within 5 s, abandoning it.</source>
+        <translation>Der Verarbeitungs-Thread hielt nicht innerhalb von 5 s an, er wird aufgegeben.</translation>
     </message>
 </context>
 <context>

@@ -2863,6 +2863,39 @@
     </message>
 </context>
 <context>
+    <name>InputNotices</name>
+    <message>
+        <source>No input is running.</source>
+        <translation>没有输入在运行。</translation>
+    </message>
+    <message>
+        <source>No alerts.</source>
+        <translation>没有告警。</translation>
+    </message>
+    <message>
+        <source>Nothing of what %1 brings is seen. %2
+More: View, Input Health.</source>
+        <translation>%1 的数据均不可见。%2
+详情：视图 → 输入健康状况。</translation>
+    </message>
+    <message>
+        <source>No tracks. The target reports of %1 are shown as plots.</source>
+        <translation>没有航迹。%1 的目标报告以点迹显示。</translation>
+    </message>
+    <message>
+        <source>No tracks. %1</source>
+        <translation>没有航迹。%1</translation>
+    </message>
+    <message>
+        <source>No tracks yet in %1.</source>
+        <translation>%1 中尚无航迹。</translation>
+    </message>
+    <message>
+        <source>No tracks. Listening on %1.</source>
+        <translation>没有航迹。正在监听 %1。</translation>
+    </message>
+</context>
+<context>
     <name>InputProbe</name>
     <message>
         <source>UDP port %1</source>
@@ -3449,38 +3482,8 @@ Another attempt is made by itself.</source>
         <translation>%1 x %2</translation>
     </message>
     <message>
-        <source>Messages</source>
-        <translation>消息</translation>
-    </message>
-    <message>
         <source>Debug functions enabled</source>
         <translation>已启用调试功能</translation>
-    </message>
-    <message>
-        <source>Nothing of what %1 brings is seen. %2
-More: View, Input Health.</source>
-        <translation>%1 的数据均不可见。%2
-详情：视图 → 输入健康状况。</translation>
-    </message>
-    <message>
-        <source>No input is running.</source>
-        <translation>没有输入在运行。</translation>
-    </message>
-    <message>
-        <source>No tracks yet in %1.</source>
-        <translation>%1 中尚无航迹。</translation>
-    </message>
-    <message>
-        <source>No tracks. Listening on %1.</source>
-        <translation>没有航迹。正在监听 %1。</translation>
-    </message>
-    <message>
-        <source>No tracks. The target reports of %1 are shown as plots.</source>
-        <translation>没有航迹。%1 的目标报告以点迹显示。</translation>
-    </message>
-    <message>
-        <source>No alerts.</source>
-        <translation>没有告警。</translation>
     </message>
     <message>
         <source>%1 - %2</source>
@@ -3505,14 +3508,6 @@ More: View, Input Health.</source>
     <message>
         <source>UDP input is working now, stop it first!</source>
         <translation>UDP 输入正在运行，请先停止！</translation>
-    </message>
-    <message>
-        <source>Data engine did not confirm the input close within 10 s, forcing shutdown.</source>
-        <translation>数据引擎未在 10 s 内确认关闭输入，强制退出。</translation>
-    </message>
-    <message>
-        <source>Data processing thread did not stop within 5 s, abandoning it.</source>
-        <translation>数据处理线程未在 5 s 内停止，放弃等待。</translation>
     </message>
     <message>
         <source>Cannot read the sensor file %1</source>
@@ -3541,10 +3536,6 @@ More: View, Input Health.</source>
     <message>
         <source>The input is not started by itself: the program has crashed twice within a minute of its start. Press Start to try again.</source>
         <translation>未自动启动输入：程序两次在启动后一分钟内崩溃。按“启动”重试。</translation>
-    </message>
-    <message>
-        <source>No tracks. %1</source>
-        <translation>没有航迹。%1</translation>
     </message>
 </context>
 <context>
@@ -4906,6 +4897,13 @@ More: View, Input Health.</source>
     <message>
         <source>Failed to decode Alenia SIR-M message (%1 bytes), further failures are logged as debug.</source>
         <translation>Alenia SIR-M 报文解码失败（%1 字节），后续失败以调试级别记录。</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
     </message>
 </context>
 <context>
@@ -7649,6 +7647,17 @@ More: View, Input Health.</source>
     <message>
         <source>The fields of the settings window, page by page. &quot;Key&quot; is the name under which the settings file has a setting. A sensor that is chosen there brings settings of its own.</source>
         <translation>设置窗口中的各字段，逐页列出。“键”是设置文件中该设置的名称。在该处选择的传感器带有自己的设置。</translation>
+    </message>
+</context>
+<context>
+    <name>Shutdown</name>
+    <message>
+        <source>Data engine did not confirm the input close within 10 s, forcing shutdown.</source>
+        <translation>数据引擎未在 10 s 内确认关闭输入，强制退出。</translation>
+    </message>
+    <message>
+        <source>Data processing thread did not stop within 5 s, abandoning it.</source>
+        <translation>数据处理线程未在 5 s 内停止，放弃等待。</translation>
     </message>
 </context>
 <context>
