@@ -73,8 +73,11 @@ void ManualView::dress(const QUrl &url)
 {
     document()->setDocumentMargin(Margin);
     m_laidWidth = textWidth();
+    QTextCursor allAtOnce(document()); // after each change by itself a table of many rows would be laid out again
+    allAtOnce.beginEditBlock();
     markHeadings();
     drawTables();
+    allAtOnce.endEditBlock();
     markWords();
     if (!url.fragment().isEmpty()) {
         scrollToAnchor(url.fragment());
