@@ -39,26 +39,14 @@ void fill(QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &
 void StaticMapAreaPainter::paint(
     QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group, const MapStyleClass &style)
 {
-    if (group.areas.empty()) {
-        return;
-    }
-    if (style.brush.style() != Qt::NoBrush) {
+    if (!group.areas.empty() && style.brush.style() != Qt::NoBrush) {
         fill(painter, frame, group, style.brush);
     }
-    if (style.pen.style() == Qt::NoPen) {
-        return;
-    }
-    StaticMapStroke stroke(painter, frame, style.pen);
-    for (const StaticMapShape &area : group.areas) {
-        stroke.draw(area);
-    }
+    strokeShapes(painter, frame, group.areas, style.pen);
 }
 
 void StaticMapAreaPainter::paintCasing(
     QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group, const MapStyleClass &style)
 {
-    MapStyleClass casing = style;
-    casing.pen = casingPen(style.pen);
-    casing.brush = Qt::NoBrush;
-    paint(painter, frame, group, casing);
+    strokeShapes(painter, frame, group.areas, casingPen(style.pen));
 }

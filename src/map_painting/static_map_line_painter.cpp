@@ -9,19 +9,11 @@
 void StaticMapLinePainter::paint(
     QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group, const MapStyleClass &style)
 {
-    if (group.lines.empty() || style.pen.style() == Qt::NoPen) {
-        return;
-    }
-    StaticMapStroke stroke(painter, frame, style.pen);
-    for (const StaticMapShape &line : group.lines) {
-        stroke.draw(line);
-    }
+    strokeShapes(painter, frame, group.lines, style.pen);
 }
 
 void StaticMapLinePainter::paintCasing(
     QPainter &painter, const StaticMapFrame &frame, const StaticMapGroup &group, const MapStyleClass &style)
 {
-    MapStyleClass casing = style;
-    casing.pen = casingPen(style.pen);
-    paint(painter, frame, group, casing);
+    strokeShapes(painter, frame, group.lines, casingPen(style.pen));
 }

@@ -1,13 +1,16 @@
 #include "map_painting/static_map_stroke.h"
 
+#include "map_painting/static_map_clip.h"
 #include "map_painting/static_map_frame.h"
 #include "map_painting/static_map_shape.h"
 #include "view/contrast.h"
 
+#include <QLineF>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace {
 
@@ -56,13 +59,25 @@ double dashLength(const QPen &pen)
     return length * dashUnit(pen);
 }
 
-} // namespace
+class StaticMapStroke {
+public:
+    // All must outlive this.
+    StaticMapStroke(QPainter &painter, const StaticMapFrame &frame, const QPen &pen);
 
-QPen casingPen(const QPen &pen)
-{
-    constexpr double Rim = 1.0; // pixels on each side
-    return QPen(groundFor(pen.color()), std::max(pen.widthF(), 1.0) + 2.0 * Rim);
-}
+    void draw(const StaticMapShape &shape);
+
+private:
+    void drawSegments(const StaticMapClip::Run &run);
+
+    QPainter &m_painter;
+    const StaticMapFrame &m_frame;
+    QPen m_pen;
+    StaticMapClip m_clip;
+    double m_dashLength = 0.0; // pixels after which the pattern repeats; 0 for a solid line
+    bool m_segmentWise = false;
+    double m_detailScale = 1.0; // metres per pixel of the detail that the pen can show
+    std::vector<QLineF> m_segments;
+};
 
 StaticMapStroke::StaticMapStroke(QPainter &painter, const StaticMapFrame &frame, const QPen &pen)
     : m_painter(painter), m_frame(frame), m_pen(affordable(pen, frame.crowded)), m_clip(frame, pen.widthF() + Softness),
@@ -103,4 +118,24 @@ void StaticMapStroke::drawSegments(const StaticMapClip::Run &run)
         m_segments.emplace_back(point[0], point[1]);
     }
     m_painter.drawLines(m_segments.data(), static_cast<int>(m_segments.size()));
+}
+
+} // namespace
+
+QPen casingPen(const QPen &pen)
+{
+    constexpr double Rim = 1.0; // pixels on each side
+    return QPen(groundFor(pen.color()), std::max(pen.widthF(), 1.0) + 2.0 * Rim);
+}
+
+void strokeShapes(
+    QPainter &painter, const StaticMapFrame &frame, const std::vector<StaticMapShape> &shapes, const QPen &pen)
+{
+    if (shapes.empty() || pen.style() == Qt::NoPen) {
+        return;
+    }
+    StaticMapStroke stroke(painter, frame, pen);
+    for (const StaticMapShape &shape : shapes) {
+        stroke.draw(shape);
+    }
 }
