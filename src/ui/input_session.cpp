@@ -92,6 +92,9 @@ void InputSession::setWaiting()
 
 void InputSession::open()
 {
+    if (m_shuttingDown) {
+        return;
+    }
     if (m_state != State::Closed) {
         Q_EMIT logMessage(LogLevel::Warning, tr("Input is working now, stop first!"));
         return;

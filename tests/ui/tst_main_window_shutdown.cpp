@@ -16,6 +16,7 @@ private Q_SLOTS:
     void answeringNoLeavesEverythingRunning();
     void anEngineThatHangsDoesNotHoldTheProgram();
     void aFailedOpeningEndsTheWait();
+    void nothingIsOpenedAnyMore();
 };
 
 void TestMainWindowShutdown::closesInOrder()
@@ -90,6 +91,18 @@ void TestMainWindowShutdown::aFailedOpeningEndsTheWait()
     window->close();
     QTRY_VERIFY(!window->isVisible());
     QVERIFY(!logText(*window).contains("did not confirm"));
+}
+
+// As a script may ask for it in that moment.
+void TestMainWindowShutdown::nothingIsOpenedAnyMore()
+{
+    WindowFixture fixture;
+    const auto window = fixture.makeWindow();
+    QVERIFY(fixture.openInput(*window));
+    window->requestExit();
+    window->openInput();
+    QTRY_VERIFY(!window->isVisible());
+    QVERIFY(!window->findChild<LogPane *>()->toPlainText().contains("did not confirm"));
 }
 
 VYX_TEST(TestMainWindowShutdown)
