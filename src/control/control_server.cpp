@@ -2,6 +2,7 @@
 
 #include "control/control_connection.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalSocket>
@@ -51,8 +52,10 @@ QString ControlServer::obstacle([[maybe_unused]] const QString &path)
 #ifdef Q_OS_UNIX
     if (!isSocket(path)) {
         const QFileInfo file(path);
-        return file.exists() || file.isSymLink() ? tr("%1 is there already, and is no control socket.").arg(path)
-                                                 : QString();
+        if (file.exists() || file.isSymLink()) {
+            return tr("%1 is there already, and is no control socket.").arg(path);
+        }
+        return file.dir().exists() ? QString() : tr("The folder of the control socket %1 is not there.").arg(path);
     }
     QLocalSocket probe;
     probe.connectToServer(path);

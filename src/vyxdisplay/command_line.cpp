@@ -218,7 +218,7 @@ private:
         }
     }
 
-    // PATH COMMAND [PARAMETERS]
+    // PATH COMMAND [PARAMETERS], and nothing behind it: what was meant for a terminal would go unheard.
     void takeQuestion()
     {
         CommandLine::Question question;
@@ -228,8 +228,11 @@ private:
             m_error = CommandLine::tr("--ask needs the path of a control socket and a command");
             return;
         }
-        if (!m_arguments.isEmpty() && m_arguments.constFirst().startsWith(QLatin1Char('{'))) {
+        if (!m_arguments.isEmpty()) {
             question.request = parsedValue(m_arguments.takeFirst(), parsedParameters).value_or(QJsonObject());
+        }
+        if (m_error.isEmpty() && !m_arguments.isEmpty()) {
+            m_error = CommandLine::tr("unexpected argument '%1'").arg(m_arguments.constFirst());
         }
         question.request.insert("command", command);
         m_result.ask = question;

@@ -240,6 +240,8 @@ private Q_SLOTS:
         row("snapshots into nothing", {"--snapshot-every", "5", "--headless"}, "--snapshot");
         row("nothing asked", {"--ask", "/run/c"}, "command");
         row("parameters that are none", {"--ask", "/run/c", "view", "{rotation"}, "JSON");
+        row("parameters in an array", {"--ask", "/run/c", "view", "[1]"}, "JSON");
+        row("more than a question", {"--ask", "/run/c", "view", "{}", "--headless"}, "unexpected");
         row("demo with an input", {"--demo", "--input", "udp:8600"}, "--demo");
     }
 
