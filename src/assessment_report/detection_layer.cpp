@@ -43,7 +43,7 @@ double keyHeight()
 } // namespace
 
 DetectionLayer::DetectionLayer(Projector *projector, QObject *parent)
-    : GeoLayer(QStringLiteral("detection"), parent), m_projector(projector), m_ground(Config().mapBackgroundColor)
+    : GeoLayer(tr("Detection"), parent), m_projector(projector), m_ground(Config().mapBackgroundColor)
 {
     setVisible(false);
 }
