@@ -8,6 +8,8 @@
 #include "demonstration/demo_traffic.h"
 #include "display/geo_track_display.h"
 #include "engine/display_snapshot.h"
+#include "inspection/absence_window.h"
+#include "manual/picture_palette.h"
 #include "plan_view/geo_widget.h"
 #include "ui/actions.h"
 #include "ui/main_window.h"
@@ -25,19 +27,18 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLabel>
+#include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTreeView>
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
-#include <map>
 
 namespace {
-
-constexpr int PaletteSize = 256;
 
 // What is to be seen of the widget, and what is to be done before.
 struct Picture {
@@ -169,14 +170,38 @@ QWidget *sensorCheck(MainWindow &window)
     return check;
 }
 
-// The page of the settings window with that number.
-std::function<QWidget *(MainWindow &)> settingsPage(int page)
+// Of some that are in the view, and some that are not.
+QWidget *absence(MainWindow &window)
 {
-    return [page](MainWindow &window) -> QWidget * {
+    const double before = window.geoWidget()->currentZoom();
+    scopeWith({}, 150.0)(window);
+    QWidget *opened = windowOf(ActionId::WhyNotShown, {520, 300})(window);
+    if (auto *question = qobject_cast<AbsenceWindow *>(opened)) {
+        question->setText(QStringLiteral("VYX"));
+        let(2500);
+    }
+    scopeWith({}, before)(window);
+    return opened;
+}
+
+QWidget *rawView(MainWindow &window)
+{
+    QWidget *raw = windowOf(ActionId::RawView, {900, 560}, 6000)(window);
+    if (auto *records = raw ? raw->findChild<QAbstractItemView *>("records") : nullptr) {
+        records->setCurrentIndex(records->model()->index(records->model()->rowCount() - 4, 0));
+        let(500);
+    }
+    return raw;
+}
+
+// The page of the settings window with that number, after so many milliseconds.
+std::function<QWidget *(MainWindow &)> settingsPage(int page, int waitMs = 500)
+{
+    return [page, waitMs](MainWindow &window) -> QWidget * {
         QWidget *settings = windowOf(ActionId::Settings, {760, 620}, 300)(window);
         if (auto *list = settings ? settings->findChild<QAbstractItemView *>() : nullptr) {
             list->setCurrentIndex(list->model()->index(page, 0));
-            let(500);
+            let(waitMs);
         }
         return settings;
     };
@@ -197,7 +222,7 @@ QWidget *pane(MainWindow &window, const char *name, const QSize &size)
 
 QWidget *health(MainWindow &window)
 {
-    return pane(window, "healthDock", {900, 260});
+    return pane(window, "healthDock", {900, 130});
 }
 
 // Of the first track that has told its callsign.
@@ -238,117 +263,54 @@ std::vector<Sitting> sittings()
                 {"orientation",
                     scopeWith({Id::ToggleRangeRings, Id::ToggleRangeRingLabels, Id::ToggleCompassRose,
                         Id::ToggleScaleBar, Id::ToggleKey})},
-                {"key", scopeWith({Id::ToggleKey}), QRect(4, -180, 220, 145)},
+                {"key", scopeWith({Id::ToggleKey}), QRect(4, -144, 190, 118)},
                 {"label-format", windowOf(Id::TrackLabelFormat)},
-                {"settings-input", settingsPage(1)},
+                {"settings-input", settingsPage(1, 12000)},
                 {"settings-tracks", settingsPage(8)},
-                {"sensors", windowOf(Id::SensorManager)},
-                {"static-maps", windowOf(Id::StaticMaps, {760, 420})},
+                {"sensors", windowOf(Id::SensorManager, {1020, 350})},
+                {"static-maps", windowOf(Id::StaticMaps, {940, 380})},
                 {"map-editor", mapEditor},
                 {"statistics", windowOf(Id::Statistics, {}, 11000)},
-                {"raw-view", windowOf(Id::RawView, {900, 560}, 6000)},
-                {"diagnosis", windowOf(Id::DiagnoseInput, {}, 12000)},
+                {"raw-view", rawView},
+                {"diagnosis", windowOf(Id::DiagnoseInput, {720, 240}, 12000)},
                 {"sensor-check", sensorCheck},
+                {"getting-started", windowOf(Id::GettingStarted, {560, 360})},
+                {"absence", absence},
+                {"plan-view", windowOf(Id::NewPlanView, {720, 480}, 3000)},
                 {"manual", windowOf(Id::Contents, {900, 600})},
                 {"cheat-sheet", windowOf(Id::CheatSheet)},
                 {"health", health},
                 {"explanation", explanation},
             }},
-        {"playback", "", "Night", wide, 20, {{"playback", windowOf(Id::PlaybackWindow, {620, 220}, 6000)}}},
+        {"playback", "", "Night", wide, 20, {{"playback", windowOf(Id::PlaybackWindow, {620, 190}, 6000)}}},
     };
 }
 
-// The colours that a picture has most need of: boxes of colours are cut in two at their middle until there are as many
-// as a palette holds.
-class Palette {
-public:
-    explicit Palette(const QImage &picture)
-    {
-        std::map<QRgb, int> counts;
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                ++counts[picture.pixel(x, y) | 0xFF000000];
-            }
-        }
-        std::vector<std::vector<Color>> boxes(1);
-        for (const auto &[color, count] : counts) {
-            boxes[0].push_back({color, count});
-        }
-        while (boxes.size() < PaletteSize && cutWidest(boxes)) { }
-        for (const std::vector<Color> &box : boxes) {
-            const QRgb mean = meanOf(box);
-            for (const Color &color : box) {
-                m_index[color.rgb] = static_cast<uchar>(m_colors.size());
-            }
-            m_colors.append(mean);
-        }
-    }
+// Paths as they are where the program is installed.
+QString asInstalled(QString text)
+{
+    const QString share = QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/../share")).canonicalPath();
+    static const QRegularExpression Temporary(
+        QRegularExpression::escape(QDir::tempPath()) + QStringLiteral("/VyxDisplay-\\w+"));
+    return text.replace(share, QStringLiteral("/usr/share")).replace(Temporary, QStringLiteral("/home/user"));
+}
 
-    QImage apply(const QImage &picture) const
-    {
-        QImage indexed(picture.size(), QImage::Format_Indexed8);
-        indexed.setColorTable(m_colors);
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                indexed.scanLine(y)[x] = m_index.at(picture.pixel(x, y) | 0xFF000000);
-            }
+void showPathsAsInstalled(const QWidget &widget)
+{
+    const auto show = [](auto *field) {
+        const QString shown = asInstalled(field->text());
+        if (shown != field->text()) {
+            const QSignalBlocker blocker(field);
+            field->setText(shown);
         }
-        return indexed;
-    }
-
-private:
-    struct Color {
-        QRgb rgb;
-        int count;
     };
-
-    static int channel(QRgb color, int which) { return static_cast<int>(color >> (8 * which)) & 0xFF; }
-
-    static std::pair<int, int> widest(const std::vector<Color> &box)
-    {
-        std::pair<int, int> found{0, 0}; // width, channel
-        for (int which = 0; which < 3; ++which) {
-            const auto [low, high] = std::minmax_element(box.begin(), box.end(),
-                [which](const Color &a, const Color &b) { return channel(a.rgb, which) < channel(b.rgb, which); });
-            found = std::max(found, {channel(high->rgb, which) - channel(low->rgb, which), which});
-        }
-        return found;
+    for (QLabel *label : widget.findChildren<QLabel *>()) {
+        show(label);
     }
-
-    // False when every box has one colour.
-    static bool cutWidest(std::vector<std::vector<Color>> &boxes)
-    {
-        const auto box = std::max_element(
-            boxes.begin(), boxes.end(), [](const auto &a, const auto &b) { return widest(a).first < widest(b).first; });
-        const auto [width, which] = widest(*box);
-        if (width == 0) {
-            return false;
-        }
-        std::sort(box->begin(), box->end(),
-            [which = which](const Color &a, const Color &b) { return channel(a.rgb, which) < channel(b.rgb, which); });
-        const auto middle = box->begin() + static_cast<std::ptrdiff_t>(box->size() / 2);
-        std::vector<Color> upper(middle, box->end());
-        box->erase(middle, box->end());
-        boxes.push_back(std::move(upper));
-        return true;
+    for (QLineEdit *edit : widget.findChildren<QLineEdit *>()) {
+        show(edit);
     }
-
-    static QRgb meanOf(const std::vector<Color> &box)
-    {
-        std::array<qint64, 3> sums{};
-        qint64 all = 0;
-        for (const Color &color : box) {
-            for (int which = 0; which < 3; ++which) {
-                sums[static_cast<std::size_t>(which)] += qint64(channel(color.rgb, which)) * color.count;
-            }
-            all += color.count;
-        }
-        return qRgb(int(sums[2] / all), int(sums[1] / all), int(sums[0] / all));
-    }
-
-    QList<QRgb> m_colors;
-    std::map<QRgb, uchar> m_index;
-};
+}
 
 bool write(QWidget *widget, const Picture &picture, const QDir &folder)
 {
@@ -356,13 +318,14 @@ bool write(QWidget *widget, const Picture &picture, const QDir &folder)
         std::fprintf(stderr, "manual_pictures: nothing to see of %s\n", picture.name);
         return false;
     }
+    showPathsAsInstalled(*widget);
     QRect part = picture.part.isNull() ? widget->rect() : picture.part;
     if (part.y() < 0) {
         part.translate(0, widget->height());
     }
     const QImage taken = widget->grab(part).toImage();
     const QString file = folder.filePath(QString::fromLatin1(picture.name) + ".png");
-    const bool written = Palette(taken).apply(taken).save(file, "PNG", 0); // as small as it goes
+    const bool written = PicturePalette(taken).apply(taken).save(file, "PNG", 0); // as small as it goes
     std::printf("%s %d x %d, %lld octets\n", qPrintable(file), taken.width(), taken.height(),
         static_cast<long long>(QFileInfo(file).size()));
     std::fflush(stdout);
