@@ -9,7 +9,6 @@
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
-#include <QTimer>
 
 namespace {
 constexpr int NameLength = 32; // characters shown
@@ -53,7 +52,6 @@ void ProfileWindow::accept()
 {
     const QString name = m_name->currentText().trimmed();
     if (!m_form->check(m_name, problem(name))) {
-        QTimer::singleShot(0, this, &QWidget::adjustSize); // there is room for the note when it is laid out
         return;
     }
     Q_EMIT profileChosen(name);

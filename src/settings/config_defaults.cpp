@@ -74,13 +74,13 @@ void ConfigDefaults::fill(QMenu *menu, ConfigPage *page, QWidget *field)
 {
     menu->clear();
     const QSet<QString> keys = differing(m_entered());
-    const auto add = [&](const QString &text, const ConfigPage::Which &which) {
+    const auto add = [&](const QString &text, const ConfigPage::Which &wanted) {
+        const auto which = [page, wanted](const Setting &setting) { return wanted(setting) && !page->locks(setting); };
         QAction *action =
             menu->addAction(text, this, [this, page, which] { page->showSettings(defaults(m_entered()), which); });
         const QList<const Setting *> &settings = page->settings();
-        action->setEnabled(page->form()->isEnabled()
-            && std::any_of(settings.begin(), settings.end(),
-                [&](const Setting *setting) { return which(*setting) && keys.contains(setting->key()); }));
+        action->setEnabled(std::any_of(settings.begin(), settings.end(),
+            [&](const Setting *setting) { return which(*setting) && keys.contains(setting->key()); }));
     };
     if (field) {
         const QString key = field->objectName();

@@ -82,10 +82,25 @@ void ConfigPage::store(Config *config) const
 
 void ConfigPage::setInputRunning(bool running)
 {
-    const bool ofTheRun = std::any_of(m_settings.begin(), m_settings.end(),
-        [](const Setting *setting) { return setting->groups().testAnyFlags(RunGroups); });
-    m_lock->setVisible(running && ofTheRun);
-    m_form->setEnabled(!(running && ofTheRun));
+    m_inputRunning = running;
+    const bool locked = hasLockedRows();
+    m_lock->setVisible(locked);
+    for (QWidget *field : m_form->fields()) {
+        m_form->setRowLocked(field, locked && !isOfUnlockedSetting(field));
+    }
+}
+
+bool ConfigPage::hasLockedRows() const
+{
+    return std::any_of(
+        m_settings.begin(), m_settings.end(), [this](const Setting *setting) { return locks(*setting); });
+}
+
+// What is no setting itself fills in those of its page.
+bool ConfigPage::isOfUnlockedSetting(const QWidget *field) const
+{
+    return std::any_of(m_settings.begin(), m_settings.end(),
+        [this, field](const Setting *setting) { return setting->key() == field->objectName() && !locks(*setting); });
 }
 
 void ConfigPage::finish()
@@ -169,7 +184,7 @@ void ConfigPage::paintEvent(QPaintEvent *)
         if (row.isEmpty()) {
             continue;
         }
-        if (m_found.contains(field)) {
+        if (m_found.contains(field) || field == m_current) {
             painter.setPen(field == m_current ? QPen(strong, 2.0) : QPen(Qt::NoPen));
             painter.setBrush(light);
             painter.drawRoundedRect(row.adjusted(-1, -1, 1, 1), HitRadius, HitRadius);
@@ -183,7 +198,7 @@ void ConfigPage::paintEvent(QPaintEvent *)
 void ConfigPage::contextMenuEvent(QContextMenuEvent *event)
 {
     QWidget *field = m_form->fieldAt(m_form->mapFrom(this, event->pos()));
-    if (field && m_form->isEnabled()) {
+    if (field && !m_form->isRowLocked(field)) {
         Q_EMIT menuRequested(field, event->globalPos());
     } else {
         event->ignore();

@@ -46,8 +46,11 @@ public:
     // Only after a successful validate().
     virtual void store(Config *config) const;
 
-    // Locks the page, and says why, if it edits what an input is opened with.
+    // Locks the rows of what an input is opened with, and says why.
     virtual void setInputRunning(bool running);
+    bool hasLockedRows() const;
+    // Whether the setting cannot be changed just now.
+    bool locks(const Setting &setting) const { return m_inputRunning && setting.groups().testAnyFlags(RunGroups); }
 
     // Whether a search for these words, in lower case, finds the row: each of them stands in it, over it, among what
     // can be chosen there or in the key, or begins a word of the explanation.
@@ -151,6 +154,7 @@ private:
     static void giveRange(QSpinBox *field, const Setting &setting);
     void addRangeToToolTip(QWidget *field, const Setting &setting);
     void tellOfEdits(QWidget *field);
+    bool isOfUnlockedSetting(const QWidget *field) const;
 
     QString m_title;
     QLabel *m_lock = nullptr;
@@ -158,6 +162,7 @@ private:
     QList<const Setting *> m_settings;
     QList<Binding> m_bindings;
     QWidget *m_chooser = nullptr;
+    bool m_inputRunning = false;
     QSet<QString> m_changed; // keys
     QList<QWidget *> m_found;
     const QWidget *m_current = nullptr; // of those found

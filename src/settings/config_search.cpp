@@ -128,6 +128,7 @@ void ConfigSearch::showHit(const Hit &hit)
                               .arg(page->form()->title(field), page->form()->title(shown)));
     }
     mark();
+    page->markFound(m_hits.value(page), shown);
     Q_EMIT reached(page, shown);
 }
 

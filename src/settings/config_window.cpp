@@ -261,7 +261,7 @@ bool ConfigWindow::apply()
     qsizetype refused = -1;
     for (qsizetype i = m_pages.size() - 1; i >= 0; --i) {
         // What is locked cannot be put right either.
-        if (m_pages.at(i)->form()->isEnabled() && !m_pages.at(i)->validate()) {
+        if (!m_pages.at(i)->hasLockedRows() && !m_pages.at(i)->validate()) {
             refused = i;
         }
     }

@@ -60,7 +60,7 @@ InputConfigPage::InputConfigPage(const SensorManager *sensors, QWidget *parent, 
     addFileRows();
     if (offer == Offer::Everything) {
         form()->addSpacing();
-        addSwitch(tr("Start &input at program start"), &Config::inputAutoStart,
+        addSwitch(tr("Start input a&t program start"), &Config::inputAutoStart,
             tr("The input is opened by itself as soon as the program runs."));
     }
     layout()->setSpacing(2 * layout()->spacing());
@@ -143,7 +143,7 @@ void InputConfigPage::addSerialRows()
                                                                 : std::nullopt;
         });
     m_serialFields = {m_serialDevice, m_baudRate,
-        addChoice(tr("Da&ta bits:"), &Config::inputSerialDataBits,
+        addChoice(tr("Data b&its:"), &Config::inputSerialDataBits,
             {{QStringLiteral("5"), 5}, {QStringLiteral("6"), 6}, {QStringLiteral("7"), 7}, {QStringLiteral("8"), 8}},
             tr("Bits of a character on the line.")),
         addChoice(tr("&Parity:"), &Config::inputSerialParity,

@@ -61,7 +61,6 @@ void PasswordWindow::accept()
     m_form->check(m_password, longEnough ? QString() : tr("At least %1 characters.").arg(ShortestPassword));
     m_form->check(m_again, same ? QString() : tr("The two are not the same."));
     if (QWidget *refused = m_form->firstWithNote()) {
-        growToContents(this);
         refused->setFocus();
         return;
     }

@@ -71,8 +71,8 @@ void ProcessorConfigPage::addModeSRows()
         tr("An altitude that differs by more from the last one is dropped."));
     m_modeSFields += {m_baroCheck, time, change};
     for (QSpinBox *box : {time, change}) {
-        box->setEnabled(false);
-        connect(m_baroCheck, &QCheckBox::toggled, box, &QSpinBox::setEnabled);
+        form()->setRowEnabled(box, false);
+        connect(m_baroCheck, &QCheckBox::toggled, box, [this, box](bool on) { form()->setRowEnabled(box, on); });
     }
 }
 

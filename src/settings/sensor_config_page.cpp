@@ -25,7 +25,7 @@ void SensorConfigPage::fillChoice()
     for (const auto &sensor : sensors) {
         m_choice->addItem(sensor->name(), sensor->name());
     }
-    m_choice->setEnabled(!sensors.isEmpty());
+    form()->setRowEnabled(m_choice, !sensors.isEmpty());
     m_choice->setToolTip(sensors.isEmpty() ? tr("The sensor file holds no sensor.")
                                            : tr("Fills the fields below from the sensor file."));
 }

@@ -73,7 +73,7 @@ public:
         // A Mode S radar is a secondary one.
         QObject::connect(m_modeS, &QCheckBox::toggled, m_secondary, [this](bool on) {
             m_secondary->setChecked(on || m_secondary->isChecked());
-            m_secondary->setEnabled(!on);
+            this->form()->setRowEnabled(m_secondary, !on);
         });
         if (details) {
             m_slantRange = new QCheckBox(Text::tr("Correct s&lant range"));

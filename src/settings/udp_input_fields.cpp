@@ -153,8 +153,8 @@ void UdpInputFields::setEnabled(bool enabled)
 void UdpInputFields::updateEnabled()
 {
     const bool multicast = m_enabled && m_multicast->isChecked();
-    m_port->setEnabled(m_enabled);
-    m_multicast->setEnabled(m_enabled);
-    m_group->setEnabled(multicast);
-    m_interface->setEnabled(multicast);
+    m_form->setRowEnabled(m_port, m_enabled);
+    m_form->setRowEnabled(m_multicast, m_enabled);
+    m_form->setRowEnabled(m_group, multicast);
+    m_form->setRowEnabled(m_interface, multicast);
 }

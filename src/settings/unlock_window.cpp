@@ -61,7 +61,6 @@ void UnlockWindow::showWait()
     m_form->check(m_password,
         seconds > 0 ? tr("This is not the password. Try again in %n s.", nullptr, seconds)
                     : tr("This is not the password."));
-    growToContents(this);
     m_open->setEnabled(seconds == 0);
     seconds > 0 ? m_waitTimer.start() : m_waitTimer.stop();
 }

@@ -262,4 +262,5 @@ void InputSession::setAutoRewind(bool on)
 {
     m_config->edit([on](Config &config) { config.inputFileAutoRewind = on; });
     m_host->setReplayAutoRewind(on);
+    Q_EMIT changed();
 }

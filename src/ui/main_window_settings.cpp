@@ -120,6 +120,9 @@ void MainWindow::takeSettings(const Config &edited)
     if (changed & SettingGroup::Sensor) {
         applySensor();
     }
+    if (changed & SettingGroup::Replay) {
+        m_session->setAutoRewind(m_config.live().inputFileAutoRewind);
+    }
     if (m_config.live().sensorName != before.sensorName || m_home->place() != place) {
         showSensorPlace();
     }

@@ -1,13 +1,17 @@
 #include "widgets/field_form.h"
 
 #include "widgets/coordinate_edit.h"
+#include "widgets/dialog_layout.h"
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
+#include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPalette>
 #include <QRegularExpression>
+#include <QTimer>
 
 namespace {
 
@@ -114,6 +118,27 @@ void FieldForm::setRowVisible(QWidget *field, bool visible)
     }
 }
 
+void FieldForm::setRowEnabled(QWidget *field, bool enabled)
+{
+    m_rows[field].enabled = enabled;
+    updateEnabled(field);
+}
+
+void FieldForm::setRowLocked(QWidget *field, bool locked)
+{
+    m_rows[field].locked = locked;
+    updateEnabled(field);
+}
+
+void FieldForm::updateEnabled(QWidget *field)
+{
+    const Row row = m_rows.value(field);
+    field->setEnabled(row.enabled && !row.locked);
+    if (row.label) {
+        row.label->setEnabled(!row.locked);
+    }
+}
+
 QString FieldForm::title(const QWidget *field) const
 {
     if (const QLabel *label = m_rows.value(field).label) {
@@ -160,8 +185,22 @@ bool FieldForm::check(QWidget *field, const QString &problem)
         row.note->setPalette(colors);
         row.note->setText(problem);
         row.note->setVisible(!problem.isEmpty());
+        QTimer::singleShot(0, this, &FieldForm::makeRoom);
     }
     return problem.isEmpty();
+}
+
+// For what is said now, where nothing scrolls.
+void FieldForm::makeRoom()
+{
+    for (const QWidget *around = parentWidget(); around; around = around->parentWidget()) {
+        if (qobject_cast<const QAbstractScrollArea *>(around)) {
+            return;
+        }
+    }
+    if (auto *dialog = qobject_cast<QDialog *>(window()); dialog && dialog->isVisible()) {
+        growToContents(dialog);
+    }
 }
 
 bool FieldForm::checkCoordinate(CoordinateEdit *field)

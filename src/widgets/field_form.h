@@ -25,6 +25,11 @@ public:
     void addSpacing();
     void addStretch();
     void setRowVisible(QWidget *field, bool visible);
+    // A row can be worked with while it is enabled and not locked. What other fields say enables it, and whoever shows
+    // the form locks it: neither undoes the other.
+    void setRowEnabled(QWidget *field, bool enabled);
+    void setRowLocked(QWidget *field, bool locked);
+    bool isRowLocked(const QWidget *field) const { return m_rows.value(field).locked; }
 
     // From top to bottom.
     const QList<QWidget *> &fields() const { return m_order; }
@@ -39,7 +44,8 @@ public:
     // On the label too, so that the whole row answers.
     void setToolTip(QWidget *field, const QString &text);
 
-    // Shows the problem under the field, or removes the note when the problem is empty; true when it is empty.
+    // Shows the problem under the field, or removes the note when the problem is empty; true when it is empty. A dialog
+    // that is on the screen grows to hold it.
     bool check(QWidget *field, const QString &problem);
     // The same with what is wrong with the coordinate. The note follows what is typed from then on, and goes when that
     // is a coordinate.
@@ -54,7 +60,11 @@ private:
         QLabel *label = nullptr;
         QLabel *note = nullptr;
         QString heading;
+        bool enabled = true;
+        bool locked = false;
     };
+    void updateEnabled(QWidget *field);
+    void makeRoom();
     void place(QWidget *field, QLabel *label);
 
     QGridLayout *m_grid = nullptr;

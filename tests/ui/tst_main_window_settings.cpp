@@ -10,7 +10,6 @@
 #include "ui/actions.h"
 #include "ui/log_pane.h"
 #include "widgets/color_button.h"
-#include "widgets/field_form.h"
 #include "widgets/widget_style.h"
 
 #include <QAction>
@@ -50,7 +49,7 @@ ConfigWindow *opened(MainWindow &window)
 
 bool locked(const ConfigWindow &settings)
 {
-    return !settings.pages().at(1)->form()->isEnabled();
+    return settings.pages().at(1)->hasLockedRows();
 }
 
 } // namespace
