@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr int Columns = 64; // of the window, in characters
+
 // What the settings start with is a good start for a new record, too.
 void fillDefaults(SensorForm *form)
 {
@@ -44,6 +46,7 @@ SensorEditWindow::SensorEditWindow(
     layout->addSpacing(8);
     layout->addStretch(1);
     layout->addWidget(buttons);
+    setMinimumWidth(fontMetrics().averageCharWidth() * Columns);
 }
 
 void SensorEditWindow::accept()

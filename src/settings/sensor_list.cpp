@@ -7,13 +7,15 @@
 
 namespace {
 
+constexpr int SourceColumn = 2; // SAC/SIC
+
 QTreeWidgetItem *makeItem(const SensorInfo &sensor)
 {
     auto *item = new QTreeWidgetItem(
         {sensor.name(), sensorTypeText(sensor.type()), QStringLiteral("%1/%2").arg(sensor.sac()).arg(sensor.sic()),
             sensor.location().toATCString(GeoCoordinate::HighPrecision),
             QStringLiteral("%1 %2").arg(sensor.manufacturer(), sensor.model()).trimmed(), sensor.description()});
-    item->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
+    item->setTextAlignment(SourceColumn, Qt::AlignRight | Qt::AlignVCenter);
     item->setFlags(item->flags() & ~Qt::ItemIsDropEnabled); // between others, not into them
     return item;
 }
@@ -24,6 +26,7 @@ SensorList::SensorList(QWidget *parent) : QTreeWidget(parent)
 {
     setHeaderLabels(
         {tr("Name"), tr("Type"), tr("SAC/SIC"), tr("Location"), tr("Manufacturer, model"), tr("Description")});
+    headerItem()->setTextAlignment(SourceColumn, Qt::AlignRight | Qt::AlignVCenter);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
@@ -50,6 +53,7 @@ void SensorList::setSensors(const QList<QSharedPointer<SensorInfo>> &sensors)
         addTopLevelItem(makeItem(*sensor));
     }
     sortAsAsked();
+    markUsed();
     for (int column = 0; column < columnCount(); ++column) {
         resizeColumnToContents(column);
     }
@@ -62,6 +66,25 @@ void SensorList::sortAsAsked()
         sortItems(header()->sortIndicatorSection(), header()->sortIndicatorOrder());
     }
     setDragEnabled(inOwnOrder());
+}
+
+void SensorList::setUsed(const QString &name)
+{
+    m_used = name;
+    markUsed();
+}
+
+void SensorList::markUsed()
+{
+    for (int row = 0; row < topLevelItemCount(); ++row) {
+        QTreeWidgetItem *item = topLevelItem(row);
+        const bool used = item->text(0) == m_used;
+        QFont font = item->font(0);
+        font.setBold(used);
+        item->setFont(0, font);
+        item->setToolTip(0, used ? tr("The sensor of the input") : QString());
+        item->setData(0, Qt::AccessibleTextRole, used ? tr("%1, the sensor of the input").arg(m_used) : QVariant());
+    }
 }
 
 QStringList SensorList::names() const

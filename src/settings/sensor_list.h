@@ -17,6 +17,8 @@ public:
 
     // Keeps what is selected, as far as it is still there.
     void setSensors(const QList<QSharedPointer<SensorInfo>> &sensors);
+    // The one that the input has stands out.
+    void setUsed(const QString &name);
     // From top to bottom.
     QStringList selectedNames() const;
     void select(const QStringList &names);
@@ -33,5 +35,8 @@ private:
     QStringList names() const;
     void sortAsAsked();
 
+    void markUsed();
+
     QList<QSharedPointer<SensorInfo>> m_sensors;
+    QString m_used;
 };

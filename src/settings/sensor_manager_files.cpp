@@ -30,6 +30,17 @@ QString fileFilter()
     return SensorManagerWindow::tr("Sensor files (*.json);;All files (*)");
 }
 
+// Empty: the dialog was cancelled. A name without a suffix gets that of sensor files before an existing file is asked
+// about.
+QString fileToWrite(QWidget *parent, const QString &title, const QString &proposed)
+{
+    QFileDialog dialog(parent, title, QFileInfo(proposed).path(), fileFilter());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("json"));
+    dialog.selectFile(QFileInfo(proposed).fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().constFirst() : QString();
+}
+
 } // namespace
 
 QString SensorManagerWindow::shortened(const QStringList &lines)
@@ -118,7 +129,7 @@ bool SensorManagerWindow::importFile(const QString &fileName)
 
 void SensorManagerWindow::chooseExport()
 {
-    const QString fileName = QFileDialog::getSaveFileName(this, tr("Export Sensors"), QString(), fileFilter());
+    const QString fileName = fileToWrite(this, tr("Export Sensors"), QString());
     if (!fileName.isEmpty()) {
         exportFile(fileName);
     }
@@ -149,7 +160,7 @@ bool SensorManagerWindow::saveAs()
 {
     const QString proposed =
         m_databaseFile.isEmpty() ? AppPaths::appDataDir() + QStringLiteral("/sensors.json") : m_databaseFile;
-    const QString fileName = QFileDialog::getSaveFileName(this, tr("Save Sensor File"), proposed, fileFilter());
+    const QString fileName = fileToWrite(this, tr("Save Sensor File"), proposed);
     return !fileName.isEmpty() && saveFile(fileName);
 }
 

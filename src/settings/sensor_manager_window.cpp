@@ -1,5 +1,6 @@
 #include "settings/sensor_manager_window.h"
 
+#include "app/setting.h"
 #include "sensors/sensor_manager.h"
 #include "settings/sensor_edit_window.h"
 #include "settings/sensor_list.h"
@@ -17,10 +18,26 @@
 
 #include <algorithm>
 
+namespace {
+
+// In all that an input knows of its sensor, as far as files tell it.
+bool areSame(const QSharedPointer<SensorInfo> &one, const QSharedPointer<SensorInfo> &other)
+{
+    Config a;
+    Config b;
+    a.setSensor(one);
+    b.setSensor(other);
+    const auto settings = Setting::all();
+    return std::all_of(settings.begin(), settings.end(),
+        [&a, &b](const Setting &setting) { return setting.values(a) == setting.values(b); });
+}
+
+} // namespace
+
 SensorManagerWindow::SensorManagerWindow(SensorManager *sensors, const QString &databaseFile, QWidget *parent)
     : GeometryDialog(QStringLiteral("SensorManagerWindow"), parent), m_sensors(sensors), m_history(sensors),
-      m_databaseFile(databaseFile), m_fileLabel(new QLabel(this)), m_note(new QLabel(this)),
-      m_list(new SensorList(this))
+      m_databaseFile(databaseFile), m_fileLabel(new QLabel(this)), m_inputLabel(new QLabel(this)),
+      m_note(new QLabel(this)), m_list(new SensorList(this))
 {
     setWindowTitle(tr("Sensor Manager"));
     m_list->setObjectName(QStringLiteral("sensorList"));
@@ -41,12 +58,15 @@ SensorManagerWindow::SensorManagerWindow(SensorManager *sensors, const QString &
     notes->addWidget(m_reloadButton);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_fileLabel);
+    layout->addWidget(m_inputLabel);
     layout->addLayout(notes);
     layout->addLayout(panes, 1);
     makeKeys();
     connect(m_list, &SensorList::itemSelectionChanged, this, &SensorManagerWindow::updateState);
     connect(m_list, &SensorList::itemActivated, this, &SensorManagerWindow::editSelected);
     connect(m_list, &SensorList::orderChanged, this, &SensorManagerWindow::takeOrder, Qt::QueuedConnection);
+    m_inputLabel->setObjectName(QStringLiteral("inputSensor"));
+    m_inputLabel->setTextFormat(Qt::PlainText);
     showSensors();
     selectSensor(m_sensors->sensors().isEmpty() ? QString() : m_sensors->sensors().constFirst()->name());
     m_list->setFocus();
@@ -122,6 +142,28 @@ void SensorManagerWindow::showSensors()
     m_list->setSensors(m_sensors->sensors());
     updateState();
     updateNote();
+    showInputSensor();
+}
+
+void SensorManagerWindow::setInputSensor(const QSharedPointer<SensorInfo> &sensor)
+{
+    m_inputSensor = sensor;
+    m_list->setUsed(sensor ? sensor->name() : QString());
+    showInputSensor();
+}
+
+// The input has values of its own, which do not follow when the record is edited.
+void SensorManagerWindow::showInputSensor()
+{
+    if (!m_inputSensor) {
+        m_inputLabel->setText(tr("Sensor of the input: none"));
+        return;
+    }
+    const QString name = m_inputSensor->name();
+    const QSharedPointer<SensorInfo> record = m_sensors->findSensor(name);
+    m_inputLabel->setText(record && !areSame(m_inputSensor, record)
+            ? tr("Sensor of the input: %1. Its record has other values by now: use it again to take them.").arg(name)
+            : tr("Sensor of the input: %1").arg(name));
 }
 
 void SensorManagerWindow::updateState()
@@ -275,8 +317,16 @@ void SensorManagerWindow::removeSelected()
     const qsizetype place = first - records.begin();
     records.removeIf([&names](const auto &sensor) { return names.contains(sensor->name()); });
     change(records);
-    if (!names.isEmpty() && !records.isEmpty()) {
-        selectSensor(records.at(std::min(place, records.size() - 1))->name());
+    if (!names.isEmpty()) {
+        selectAt(place);
+    }
+}
+
+void SensorManagerWindow::selectAt(qsizetype place)
+{
+    const SensorHistory::Records records = m_sensors->sensors();
+    if (!records.isEmpty()) {
+        selectSensor(records.at(std::clamp<qsizetype>(place, 0, records.size() - 1))->name());
     }
 }
 
@@ -293,11 +343,16 @@ void SensorManagerWindow::moveSelected(int places)
 
 void SensorManagerWindow::undo()
 {
-    if (m_history.canUndo()) {
-        m_history.undo();
-        showSensors();
-        Q_EMIT sensorsChanged();
+    if (!m_history.canUndo()) {
+        return;
     }
+    const int place = m_list->currentIndex().row();
+    m_history.undo();
+    showSensors();
+    if (m_list->selectedNames().isEmpty()) { // it has gone: the keys go on from its place
+        selectAt(place);
+    }
+    Q_EMIT sensorsChanged();
 }
 
 void SensorManagerWindow::useSelected()

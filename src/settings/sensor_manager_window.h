@@ -22,6 +22,8 @@ public:
     // The manager must outlive the window. The file may be empty: none yet.
     SensorManagerWindow(SensorManager *sensors, const QString &databaseFile, QWidget *parent = nullptr);
 
+    // What the input has, or will be started with; null for none.
+    void setInputSensor(const QSharedPointer<SensorInfo> &sensor);
     // While one runs its sensor stays as it is; the list may be changed all the same.
     void setInputRunning(bool running);
 
@@ -78,10 +80,12 @@ private:
     void reload();
 
     void change(const SensorHistory::Records &records);
+    void selectAt(qsizetype place);
     void takeOrder(const QStringList &names);
     void showSensors();
     void updateState();
     void updateNote();
+    void showInputSensor();
     void setDatabaseFile(const QString &fileName);
     // The name wanted or one that is made of it.
     static QString freeName(const QString &wanted, const SensorHistory::Records &taken);
@@ -96,7 +100,9 @@ private:
     SensorHistory m_history;
     QString m_databaseFile;
     bool m_inputRunning = false;
+    QSharedPointer<SensorInfo> m_inputSensor;
     QLabel *m_fileLabel;
+    QLabel *m_inputLabel;
     QLabel *m_note;
     QPushButton *m_reloadButton = nullptr;
     SensorList *m_list;

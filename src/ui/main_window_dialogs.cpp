@@ -97,10 +97,14 @@ void MainWindow::launchSensorManager()
 {
     auto *window =
         new SensorManagerWindow(m_sensors.get(), AppPaths::resolvePath(m_config.live().sensorDatabase), this);
-    window->setInputRunning(!m_session->isClosed());
-    connect(m_session.get(), &InputSession::changed, window,
-        [this, window] { window->setInputRunning(!m_session->isClosed()); });
+    const auto tell = [this, window] {
+        window->setInputRunning(!m_session->isClosed());
+        window->setInputSensor(m_session->sensor());
+    };
+    tell();
+    connect(m_session.get(), &InputSession::changed, window, tell);
     connect(window, &SensorManagerWindow::sensorChosen, this, &MainWindow::chooseSensor);
+    connect(window, &SensorManagerWindow::sensorChosen, window, tell); // after it has been taken over
     connect(window, &SensorManagerWindow::databaseFileChanged, this, [this](const QString &file) {
         editConfig([&file](Config &config) { config.sensorDatabase = AppPaths::storePath(file); });
     });

@@ -20,6 +20,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
+
 class TestSensorWindows : public QObject {
     Q_OBJECT
 
@@ -28,6 +30,7 @@ private Q_SLOTS:
     void init();
     void editingKeepsEveryField();
     void refusesInWords();
+    void hasRoomForWhatIsRefused();
     void renamingReplacesTheRecord();
     void closingWithChangesAsks_data();
     void closingWithChangesAsks();
@@ -214,6 +217,28 @@ void TestSensorWindows::offersEverySensorForInput()
         use->click();
         QCOMPARE(chosen.last().first().value<QSharedPointer<SensorInfo>>()->name(), QString::fromLatin1(name));
     }
+    const auto *ofInput = field<QLabel>(window, "inputSensor");
+    QVERIFY(ofInput->text().endsWith("none"));
+    window.setInputSensor(makeRadar(QStringLiteral("R1")));
+    QVERIFY(ofInput->text().endsWith("R1"));
+    const auto edited = makeRadar(QStringLiteral("R1"));
+    edited->setSacSic(7, 8);
+    window.putSensor(edited, QStringLiteral("R1"));
+    QVERIFY2(ofInput->text().contains("other values"), "the input does not follow by itself");
+}
+
+void TestSensorWindows::hasRoomForWhatIsRefused()
+{
+    const SensorManager sensors;
+    SensorEditWindow window(nullptr, &sensors);
+    window.show();
+    window.accept();
+    const auto notes = window.findChild<FieldForm *>()->findChildren<QLabel *>();
+    const auto cut = [](const QLabel *note) {
+        return note->isVisible() && note->wordWrap() && note->height() < note->heightForWidth(note->width());
+    };
+    QVERIFY(window.findChild<FieldForm *>()->firstWithNote());
+    QTRY_VERIFY(std::none_of(notes.begin(), notes.end(), cut));
 }
 
 // A person's way through the list without a mouse, to the file and back.
