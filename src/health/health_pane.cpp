@@ -2,6 +2,7 @@
 
 #include "health/input_health.h"
 #include "health/rate_curve_delegate.h"
+#include "widgets/arrow_keys.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -48,6 +49,7 @@ void HealthPane::makeTable()
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setTabKeyNavigation(false);
+    new ArrowKeys(m_table);
     m_table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // what is said over it goes first
     m_table->setShowGrid(false);
     m_table->setFrameShape(QFrame::NoFrame);

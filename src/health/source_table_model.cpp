@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -21,6 +22,13 @@ int alignmentOf(int column)
 QString delayText(const DelayStatistics &delay)
 {
     return delay.samples == 0 ? QStringLiteral("---") : SourceJudge::delayText(delay.median);
+}
+
+// For whom the picture is nothing.
+QString spokenCurve(const SourceStatistics &statistics)
+{
+    const auto count = std::accumulate(statistics.history.begin(), statistics.history.end(), quint64{0});
+    return SourceTableModel::tr("%n report(s)", nullptr, static_cast<int>(count));
 }
 
 } // namespace
@@ -74,6 +82,8 @@ QVariant SourceTableModel::data(const QModelIndex &index, int role) const
                                 : QVariant();
     case Qt::TextAlignmentRole:
         return alignmentOf(column);
+    case Qt::AccessibleTextRole:
+        return column == Curve ? QVariant(spokenCurve(source.statistics)) : QVariant();
     case HistoryRole: {
         const auto &history = source.statistics.history;
         return QVariant::fromValue(QList<quint32>(history.begin(), history.end()));

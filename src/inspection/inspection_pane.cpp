@@ -85,7 +85,7 @@ QWidget *InspectionPane::makeExplanation()
     m_values->setObjectName("explainedValues");
     m_values->setAccessibleName(tr("Values shown"));
     m_values->setSelectionMode(QAbstractItemView::NoSelection);
-    connect(m_values, &ReportTable::rowHovered, this, [this](int row) { pointAt(Place::Values, row); });
+    connect(m_values, &ReportTable::rowPointed, this, [this](int row) { pointAt(Place::Values, row); });
     m_rule = new QLabel(this);
     m_rule->setObjectName("rule");
     m_rule->setTextFormat(Qt::PlainText);
@@ -124,7 +124,7 @@ QWidget *InspectionPane::makeReportSide()
     m_fields->setObjectName("reportFields");
     m_fields->setAccessibleName(tr("Items of the report"));
     m_fields->setSelectionMode(QAbstractItemView::NoSelection);
-    connect(m_fields, &ReportTable::rowHovered, this, [this](int row) { pointAt(Place::Fields, row); });
+    connect(m_fields, &ReportTable::rowPointed, this, [this](int row) { pointAt(Place::Fields, row); });
     auto *report = new QSplitter(Qt::Vertical, this);
     report->addWidget(column({m_reportTitle, m_octetScroll}, this));
     report->addWidget(m_fields);

@@ -1,9 +1,9 @@
 #include "inspection/report_table.h"
 
+#include "widgets/arrow_keys.h"
 #include "widgets/figure_font.h"
 
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QStyle>
 
 #include <algorithm>
@@ -39,8 +39,14 @@ ReportTable::ReportTable(const QStringList &titles, const QStringList &widest, Q
         m_widths.append(std::max(content, horizontalHeader()->sectionSizeHint(column)));
         setColumnWidth(column, m_widths.last());
     }
-    connect(this, &QTableWidget::cellEntered, this, &ReportTable::noteHover);
-    connect(this, &QAbstractItemView::viewportEntered, this, [this] { noteHover(-1); });
+    new ArrowKeys(this);
+    connect(this, &QTableWidget::cellEntered, this, &ReportTable::notePointed);
+    connect(this, &QAbstractItemView::viewportEntered, this, [this] { notePointed(-1); });
+    connect(this, &QTableWidget::currentCellChanged, this, [this](int row) {
+        if (hasFocus()) {
+            notePointed(row);
+        }
+    });
 }
 
 int ReportTable::fullWidth() const
@@ -94,28 +100,28 @@ void ReportTable::setLitRows(const QList<int> &rows)
     }
 }
 
-bool ReportTable::event(QEvent *event)
-{
-    if (event->type() == QEvent::ShortcutOverride) {
-        const auto *key = static_cast<QKeyEvent *>(event);
-        if (key->key() >= Qt::Key_Left && key->key() <= Qt::Key_Down && !(key->modifiers() & Qt::ControlModifier)) {
-            event->accept();
-            return true;
-        }
-    }
-    return QTableWidget::event(event);
-}
-
 void ReportTable::leaveEvent(QEvent *event)
 {
     QTableWidget::leaveEvent(event);
-    noteHover(-1);
+    notePointed(-1);
 }
 
-void ReportTable::noteHover(int row)
+void ReportTable::focusInEvent(QFocusEvent *event)
 {
-    if (m_hoveredRow != row) {
-        m_hoveredRow = row;
-        Q_EMIT rowHovered(row);
+    QTableWidget::focusInEvent(event);
+    notePointed(currentRow());
+}
+
+void ReportTable::focusOutEvent(QFocusEvent *event)
+{
+    QTableWidget::focusOutEvent(event);
+    notePointed(-1);
+}
+
+void ReportTable::notePointed(int row)
+{
+    if (m_pointedRow != row) {
+        m_pointedRow = row;
+        Q_EMIT rowPointed(row);
     }
 }

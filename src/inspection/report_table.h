@@ -20,18 +20,19 @@ public:
     void setLitRows(const QList<int> &rows);
 
 Q_SIGNALS:
-    // -1: none any more.
-    void rowHovered(int row);
+    // By the pointer, or with the keys. -1: none any more.
+    void rowPointed(int row);
 
 protected:
-    bool event(QEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     void setText(int row, int column, const QString &text);
-    void noteHover(int row);
+    void notePointed(int row);
 
     QList<int> m_widths; // of the columns, for what they should hold
     QList<int> m_lit;
-    int m_hoveredRow = -1;
+    int m_pointedRow = -1;
 };

@@ -1,6 +1,7 @@
 #include "lists/list_view.h"
 
 #include "lists/list_order.h"
+#include "widgets/arrow_keys.h"
 #include "widgets/figure_font.h"
 #include "widgets/text_colors.h"
 
@@ -22,26 +23,6 @@ constexpr int LitAlpha = 70; // of the selection's colour
 int rowHeightOfFigures()
 {
     return QFontMetrics(figureFont()).height() + 2;
-}
-
-// Keys that move within the list; the window has shortcuts on some of them.
-bool isListKey(const QKeyEvent &event)
-{
-    if (event.matches(QKeySequence::Copy)) {
-        return true;
-    }
-    if (event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) {
-        return false;
-    }
-    switch (event.key()) {
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        return true;
-    default:
-        return false;
-    }
 }
 
 // Cells with room at both sides, so that a number does not run into the text of the next column.
@@ -102,6 +83,7 @@ void ListView::setUpTable()
     setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // columns stay where they are when rows come
     setFrameShape(NoFrame);
+    new ArrowKeys(this);
     setSortingEnabled(true);
     setMouseTracking(true);
     verticalHeader()->hide();
@@ -147,14 +129,17 @@ void ListView::connectRows()
     connect(m_order, &QAbstractItemModel::dataChanged, this, &ListView::leaveEmptyLine);
 }
 
+int ListView::fittingWidth(int column) const
+{
+    const int title = horizontalHeader()->sectionSizeHint(column);
+    const int content = QFontMetrics(figureFont()).horizontalAdvance(m_model->columns()[column].widestText);
+    return std::max(title, content + 2 * CellPadding + 2);
+}
+
 void ListView::fitColumns()
 {
-    const QFontMetrics figures(figureFont());
-    const QList<ListColumn> &columns = m_model->columns();
-    for (int column = 0; column < columns.size(); ++column) {
-        const int title = horizontalHeader()->sectionSizeHint(column);
-        const int content = figures.horizontalAdvance(columns[column].widestText) + 2 * CellPadding + 2;
-        horizontalHeader()->resizeSection(column, std::max(title, content));
+    for (int column = 0; column < m_model->columns().size(); ++column) {
+        horizontalHeader()->resizeSection(column, fittingWidth(column));
     }
 }
 
@@ -190,8 +175,7 @@ int ListView::widthOfWholeColumns(int most) const
     int width = beside;
     for (const int column : shownColumns()) {
         // The last one may have been stretched.
-        const int wanted = std::max(horizontalHeader()->sectionSizeHint(column),
-            QFontMetrics(figureFont()).horizontalAdvance(m_model->columns()[column].widestText) + 2 * CellPadding + 2);
+        const int wanted = fittingWidth(column);
         if (width > beside && width + wanted > most) {
             break;
         }
@@ -347,8 +331,7 @@ void ListView::contextMenuEvent(QContextMenuEvent *event)
 
 bool ListView::event(QEvent *event)
 {
-    // Claiming the key makes it come as a key press instead of setting off the window's shortcut.
-    if (event->type() == QEvent::ShortcutOverride && isListKey(*static_cast<QKeyEvent *>(event))) {
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Copy)) {
         event->accept();
         return true;
     }

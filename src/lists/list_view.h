@@ -34,6 +34,8 @@ public:
     QList<int> shownColumns() const;
     // The first columns that fit into so many pixels, with what stands beside them; at least one.
     int widthOfWholeColumns(int most) const;
+    // What a column needs for its title and its widest text.
+    int fittingWidth(int column) const;
     // The last column that is whole in the view as it is now takes what is left of its width.
     void widenToWholeColumns();
     // As the model has them.

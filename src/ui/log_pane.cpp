@@ -1,6 +1,7 @@
 #include "ui/log_pane.h"
 
 #include "app/log_file.h"
+#include "widgets/arrow_keys.h"
 #include "widgets/figure_font.h"
 #include "widgets/text_colors.h"
 
@@ -24,6 +25,7 @@ LogPane::LogPane(QWidget *parent) : QPlainTextEdit(parent)
     setFrameShape(NoFrame);
     setFont(figureFont());
     document()->setDocumentMargin(6);
+    new ArrowKeys(this);
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &LogPane::keepAtEnd);
 }
 
@@ -61,19 +63,6 @@ void LogPane::keepAtEnd(int, int maximum)
     if (following) {
         showEnd();
     }
-}
-
-bool LogPane::event(QEvent *event)
-{
-    // Page and arrow keys scroll the log; the window has shortcuts on the arrows.
-    if (event->type() == QEvent::ShortcutOverride) {
-        const auto *key = static_cast<QKeyEvent *>(event);
-        if (key->key() >= Qt::Key_Left && key->key() <= Qt::Key_Down && !(key->modifiers() & Qt::ControlModifier)) {
-            event->accept();
-            return true;
-        }
-    }
-    return QPlainTextEdit::event(event);
 }
 
 // Colours that stand out from one ground may be lost on another.

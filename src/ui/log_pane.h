@@ -17,7 +17,6 @@ public:
     void appendLine(LogLevel level, const QString &line);
 
 protected:
-    bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 

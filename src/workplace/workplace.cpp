@@ -34,6 +34,10 @@ Workplace::Workplace(QMainWindow *window, ScopeHolder *holder, int arrangementVe
 void Workplace::begin()
 {
     m_begun = true;
+    const auto docks = m_window->findChildren<QDockWidget *>(Qt::FindDirectChildrenOnly);
+    for (QDockWidget *dock : docks) {
+        dock->installEventFilter(this); // floating it is a window of its own
+    }
     follow();
 }
 
@@ -230,7 +234,14 @@ bool Workplace::eventFilter(QObject *watched, QEvent *event)
             }
         });
     }
-    if (!m_active || !m_holder) {
+    if (!m_holder) {
+        return QObject::eventFilter(watched, event);
+    }
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape
+        && goBack(watched)) {
+        return true;
+    }
+    if (!m_active) {
         return QObject::eventFilter(watched, event);
     }
     if (watched == m_holder->scope() && event->type() == QEvent::MouseMove) {
@@ -238,10 +249,29 @@ bool Workplace::eventFilter(QObject *watched, QEvent *event)
     } else if (watched == m_holder->scope() && event->type() == QEvent::Leave) {
         m_dwell.stop();
         m_leaving.stop();
-    } else if (watched == m_window && event->type() == QEvent::KeyPress
-        && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) { // nobody below wanted it
-        m_window->setWindowState(m_window->windowState() & ~Qt::WindowFullScreen);
-        return true;
     }
     return QObject::eventFilter(watched, event);
+}
+
+// Nobody below wanted the key: from a pane or a bar it leads to the scope, from there out of full screen.
+bool Workplace::goBack(const QObject *from)
+{
+    const auto *dock = qobject_cast<const QDockWidget *>(from);
+    if (dock && dock->isFloating()) {
+        m_window->activateWindow();
+        m_holder->scope()->setFocus(Qt::OtherFocusReason);
+        return true;
+    }
+    if (from != m_window) {
+        return false; // it comes to the window yet
+    }
+    if (m_window->focusWidget() != m_holder->scope()) {
+        m_active ? hideAll() : m_holder->scope()->setFocus(Qt::OtherFocusReason);
+        return true;
+    }
+    if (!m_active) {
+        return false;
+    }
+    m_window->setWindowState(m_window->windowState() & ~Qt::WindowFullScreen);
+    return true;
 }

@@ -17,7 +17,8 @@ class QMouseEvent;
 
 // Full screen is the scope's alone: bars and panes of the window are out of sight. Those of an edge come back over the
 // scope, which stays as it is, while the pointer is pushed against that edge, and go when it leaves them; the keyboard
-// brings all of them. Without full screen they are where they were before. GUI thread.
+// brings all of them. Without full screen they are where they were before. Escape leads from panes and bars to the
+// scope, and from there out of full screen. GUI thread.
 class Workplace final : public QObject {
     Q_OBJECT
 
@@ -66,6 +67,7 @@ private:
     bool anyShown() const;
     void watchPointer(const QMouseEvent &event);
     void hideLeft();
+    bool goBack(const QObject *from);
     Edge edgeAt(const QPoint &position) const;
     static Edge edgeOf(Qt::DockWidgetArea area);
 

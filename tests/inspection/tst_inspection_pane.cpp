@@ -99,21 +99,31 @@ void TestInspectionPane::marksBitsOfPointedValue()
 {
     PaneRig rig;
     rig.explain({paneReport(1, 350, nullptr), paneReport(5, 340, "VYX1")});
-    Q_EMIT rig.values->rowHovered(rig.rowOf(rig.values, "Level"));
+    Q_EMIT rig.values->rowPointed(rig.rowOf(rig.values, "Level"));
     QCOMPARE(rig.octets->marks(), QList<BitRange>({{10, 14}}));
     QVERIFY(isLit(rig.fields, rig.rowOf(rig.fields, "I048/090/FL")));
     const auto *rule = rig.pane.findChild<QLabel *>("rule");
-    Q_EMIT rig.values->rowHovered(rig.rowOf(rig.values, "State"));
+    Q_EMIT rig.values->rowPointed(rig.rowOf(rig.values, "State"));
     QCOMPARE(rule->text(), rig.values->item(rig.rowOf(rig.values, "State"), 4)->text());
     QVERIFY(!rule->text().isEmpty());
 
     // The call sign is the older report's: that one is shown while it is pointed at.
-    Q_EMIT rig.values->rowHovered(rig.rowOf(rig.values, "Callsign"));
+    Q_EMIT rig.values->rowPointed(rig.rowOf(rig.values, "Callsign"));
     QVERIFY(rig.rowOf(rig.fields, "I048/240") >= 0);
     QCOMPARE(rig.octets->marks(), QList<BitRange>({{32, 48}}));
-    Q_EMIT rig.values->rowHovered(-1);
+    Q_EMIT rig.values->rowPointed(-1);
     QVERIFY(rig.octets->marks().isEmpty());
     QCOMPARE(rig.rowOf(rig.fields, "I048/240"), -1);
+
+    // The same with the keys.
+    QVERIFY(QTest::qWaitForWindowActive(&rig.pane));
+    rig.values->setFocus(Qt::TabFocusReason);
+    while (rig.values->currentRow() < rig.rowOf(rig.values, "Level")) {
+        QTest::keyClick(rig.values, Qt::Key_Down);
+    }
+    QCOMPARE(rig.octets->marks(), QList<BitRange>({{10, 14}}));
+    rig.reports->setFocus();
+    QVERIFY2(rig.octets->marks().isEmpty(), "nothing is pointed at any more");
 }
 
 void TestInspectionPane::marksValueOfPointedBit()
@@ -185,7 +195,7 @@ void TestInspectionPane::saysWhatToDo()
     QVERIFY(hint->isVisible());
     QCOMPARE(hint->text(), QString("Select a track."));
     QCOMPARE(rig.pane.shownReport(), -1);
-    Q_EMIT rig.values->rowHovered(0); // nothing is there any more
+    Q_EMIT rig.values->rowPointed(0); // nothing is there any more
     rig.choose("Report as Text");
     rig.explain({paneReport(1, 350, nullptr)});
     QVERIFY(!hint->isVisible());

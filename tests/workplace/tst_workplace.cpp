@@ -33,6 +33,7 @@ private:
         auto *dock = new QDockWidget(name, m_window.get());
         dock->setObjectName(name);
         dock->setWidget(new QLabel(name));
+        dock->widget()->setFocusPolicy(Qt::StrongFocus);
         m_window->addDockWidget(area, dock);
         return dock;
     }
@@ -151,9 +152,17 @@ void TestWorkplace::keyboardBringsAllAndEscapeEnds()
     m_workplace->toggleEdges();
     QVERIFY(!m_bar->isVisible());
     QCOMPARE(m_window->focusWidget(), m_scope);
+    m_workplace->toggleEdges();
+    m_tracks->widget()->setFocus();
+    QTest::keyClick(m_tracks->widget(), Qt::Key_Escape);
+    QVERIFY2(m_window->isFullScreen() && !m_tracks->isVisible(), "from a pane it leads to the scope");
+    QCOMPARE(m_window->focusWidget(), m_scope);
     QTest::keyClick(m_scope, Qt::Key_Escape);
     QVERIFY(!m_window->isFullScreen());
     QTRY_VERIFY(m_bar->isVisible());
+    m_log->widget()->setFocus();
+    QTest::keyClick(m_log->widget(), Qt::Key_Escape);
+    QCOMPARE(m_window->focusWidget(), m_scope);
 }
 
 // What is stored in full screen, and with panes brought back there, is what there was before.
