@@ -30,12 +30,13 @@ int columnWithKey(const QString &key, const QList<ListColumn> &columns)
     return -1;
 }
 
-// Hidden columns have no width of their own.
-QJsonObject columnToJson(const QHeaderView &header, int column, const QString &key)
+// Hidden columns have no width of their own. That of one that nobody has changed follows title and font, which may be
+// others at the next start.
+QJsonObject columnToJson(const ListView &list, int column, const QString &key)
 {
-    QJsonObject json{{"key", key}, {"shown", !header.isSectionHidden(column)}};
-    if (!header.isSectionHidden(column)) {
-        json["width"] = header.sectionSize(column);
+    QJsonObject json{{"key", key}, {"shown", !list.isColumnHidden(column)}};
+    if (!list.isColumnHidden(column) && list.columnWidth(column) != list.fittingWidth(column)) {
+        json["width"] = list.columnWidth(column);
     }
     return json;
 }
@@ -59,7 +60,7 @@ QByteArray ColumnChoice::toBytes(const ListView &list)
     QJsonArray shown;
     for (int place = 0; place < header->count(); ++place) {
         const int column = header->logicalIndex(place);
-        shown.append(columnToJson(*header, column, columns[column].key));
+        shown.append(columnToJson(list, column, columns[column].key));
     }
     const QJsonObject choice{{"columns", shown}, {"sortedBy", columns.value(header->sortIndicatorSection()).key},
         {"descending", header->sortIndicatorOrder() == Qt::DescendingOrder}};

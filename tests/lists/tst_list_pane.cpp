@@ -210,6 +210,14 @@ void TestListPane::columnsAreChosenAndKept()
     ColumnChoice::fromBytes(kept, other);
     QCOMPARE(other.shownColumns(), chosen);
     QCOMPARE(other.columnWidth(M::Level), 123);
+    ListView larger(m_model.get()); // by now the titles need more: another language, or text size
+    QFont font = larger.horizontalHeader()->font();
+    font.setPointSizeF(font.pointSizeF() * 2.0);
+    larger.horizontalHeader()->setFont(font);
+    larger.showDefaultColumns();
+    ColumnChoice::fromBytes(kept, larger);
+    QVERIFY(larger.fittingWidth(M::Squawk) > other.columnWidth(M::Squawk));
+    QCOMPARE(larger.columnWidth(M::Squawk), larger.fittingWidth(M::Squawk));
     QCOMPARE(other.horizontalHeader()->sortIndicatorSection(), int(M::GroundSpeed));
     QCOMPARE(other.horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
     for (const char *damaged : {"", "{", "{\"columns\":[{\"key\":\"nonsense\"},7]}"}) {
