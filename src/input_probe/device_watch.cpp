@@ -60,7 +60,8 @@ void DeviceWatch::take(const Devices &devices)
 {
     QStringList found = devices.serialPorts;
     for (const QNetworkInterface &interface : devices.interfaces) {
-        found += interface.name() + u' ' + interfaceText(interface);
+        const bool multicast = interface.flags().testFlag(QNetworkInterface::CanMulticast); // may come later
+        found += QStringLiteral("%1 %2 %3").arg(interface.name(), interfaceText(interface)).arg(multicast);
     }
     if (found != m_known) {
         m_known = found;

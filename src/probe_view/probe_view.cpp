@@ -140,6 +140,7 @@ void ProbeView::showRows(const ProbeResult &result)
         const QString texts[] = {row.source, row.category, row.edition, row.rate, row.contents};
         for (int column = 0; column < static_cast<int>(std::size(texts)); ++column) {
             item->setText(column, texts[column]);
+            item->setToolTip(column, texts[column]); // it may be cut
         }
     }
     m_table->setVisible(!rows.isEmpty());

@@ -66,6 +66,13 @@ public:
         }
     }
 
+    // In dark colours a light edge makes what is greyed out look doubled.
+    int styleHint(
+        StyleHint hint, const QStyleOption *option, const QWidget *widget, QStyleHintReturn *returnData) const override
+    {
+        return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+
 private:
     static constexpr int FocusInset = 3; // pixels
 
