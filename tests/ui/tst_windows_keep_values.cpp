@@ -1,3 +1,4 @@
+#include "app/setting.h"
 #include "plan_view/geo_widget.h"
 #include "settings/config_window.h"
 #include "settings/sensor_edit_window.h"
@@ -6,12 +7,15 @@
 #include "ui/actions.h"
 #include "widgets/color_button.h"
 #include "widgets/coordinate_edit.h"
+#include "widgets/file_edit.h"
 #include "widgets/geometry_dialog.h"
 #include "window_fixture.h"
+#include "written_capture.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -34,6 +38,7 @@ class TestWindowsKeepValues : public QObject {
 private Q_SLOTS:
     void fieldsComeBack_data();
     void fieldsComeBack();
+    void settingsComeBack();
     void placesComeBack();
     void sensorsComeBack();
     void sizesComeBack();
@@ -43,13 +48,14 @@ namespace {
 
 using Values = QMap<QString, QString>; // as shown, by the fields' names
 
-// What is entered by hand, in the order of the tab key. Colours are chosen in a dialog of the toolkit.
+// What is entered by hand, in the order of the tab key.
 QWidgetList fieldsOf(QWidget *window)
 {
     QWidgetList fields;
     for (QWidget *widget = window->nextInFocusChain(); widget != window; widget = widget->nextInFocusChain()) {
         const bool isField = qobject_cast<QCheckBox *>(widget) || qobject_cast<QComboBox *>(widget)
-            || qobject_cast<QAbstractSpinBox *>(widget) || qobject_cast<CoordinateEdit *>(widget);
+            || qobject_cast<QAbstractSpinBox *>(widget) || qobject_cast<QLineEdit *>(widget)
+            || qobject_cast<FileEdit *>(widget) || qobject_cast<ColorButton *>(widget);
         if (isField && !widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_")) {
             fields.append(widget);
         }
@@ -65,7 +71,8 @@ QString shown(const QWidget *field)
     if (const auto *box = qobject_cast<const QComboBox *>(field)) {
         return box->currentText();
     }
-    return field->property("text").toString();
+    const auto *file = qobject_cast<const FileEdit *>(field);
+    return file ? file->path() : field->property("text").toString();
 }
 
 Values valuesOf(QWidget *window)
@@ -77,13 +84,46 @@ Values valuesOf(QWidget *window)
     return values;
 }
 
+QString textFor(const QWidget *field)
+{
+    const QString folder = qEnvironmentVariable("XDG_DATA_HOME");
+    const QHash<QString, QString> notFree{{"inputUdpMcastAddress1", "239.7.7.7"},
+        {"inputUdpMcastAddress2", "239.7.7.8"}, {"mapCustomTileUrl", "https://tiles.example/{z}/{x}/{y}.png"},
+        {"mapCustomTileHeader", "Key: value"}, {"inputFileName", folder + "/x.pcap"}};
+    const QString name = field->objectName();
+    if (notFree.contains(name)) {
+        return notFree.value(name);
+    }
+    return qobject_cast<const CoordinateEdit *>(field) ? "481500N0161500E"
+        : qobject_cast<const FileEdit *>(field)        ? folder + u'/' + name
+        : name.endsWith("TileServer")                  ? "https://tiles.example"
+                                                       : "vyx7";
+}
+
+// In the dialog that opens.
+void chooseColor(QWidget *field)
+{
+    QTimer::singleShot(0, field, [] {
+        auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+        dialog->setCurrentColor(QColor(dialog->currentColor().red() ^ 0x41, 20, 30));
+        QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    QTest::keyClick(field, Qt::Key_Space);
+}
+
 // With the keys; what is at an end goes the other way.
 void change(QWidget *field)
 {
     const QString before = shown(field);
-    if (qobject_cast<CoordinateEdit *>(field)) {
-        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(field, "481500N0161500E");
+    if (qobject_cast<ColorButton *>(field)) {
+        chooseColor(field);
+        return;
+    }
+    auto *box = qobject_cast<QComboBox *>(field);
+    if (qobject_cast<QLineEdit *>(field) || qobject_cast<FileEdit *>(field) || (box && box->count() == 0)) {
+        QWidget *line = qobject_cast<QLineEdit *>(field) ? field : field->findChild<QLineEdit *>();
+        QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(line, textFor(field));
         return;
     }
     const bool isSwitch = qobject_cast<QCheckBox *>(field) != nullptr;
@@ -109,18 +149,53 @@ void visitPages(QWidget *window, const std::function<void()> &visit)
     }
 }
 
-// Those that are in sight. What decides over others, or takes effect on the test itself, stays.
-void changeFields(QWidget *window, const QStringList &kept)
+// Those that are in sight and have not been changed yet.
+void changeFields(QWidget *window, QStringList *done)
 {
-    visitPages(window, [window, &kept] {
-        QWidgetList fields = fieldsOf(window);
-        std::reverse(fields.begin(), fields.end()); // what is switched off locks what is below it
-        for (QWidget *field : std::as_const(fields)) {
-            if (field->isVisible() && field->isEnabled() && !kept.contains(field->objectName())) {
+    QWidgetList fields = fieldsOf(window);
+    std::reverse(fields.begin(), fields.end()); // what is switched off locks what is below it
+    for (QWidget *field : std::as_const(fields)) {
+        if (field->isVisible() && field->isEnabled() && !done->contains(field->objectName())) {
+            change(field);
+            done->append(field->objectName());
+        }
+    }
+}
+
+// The fields that show something else, with both.
+QStringList differing(const Values &before, const Values &after)
+{
+    QStringList names;
+    for (auto value = before.cbegin(); value != before.cend(); ++value) {
+        if (after.value(value.key()) != value.value()) {
+            names += QStringLiteral("%1: \"%2\", \"%3\"").arg(value.key(), value.value(), after.value(value.key()));
+        }
+    }
+    return names;
+}
+
+// By so many steps each.
+void choose(QWidget *window, const QMap<QString, int> &choices)
+{
+    visitPages(window, [window, &choices] {
+        for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
+            auto *field = window->findChild<QWidget *>(choice.key());
+            for (int step = 0; field->isVisible() && step < choice.value(); ++step) {
                 change(field);
             }
         }
     });
+}
+
+QSet<QString> changedSettings(const Config &before, const Config &after)
+{
+    QSet<QString> keys;
+    for (const Setting &setting : Setting::all()) {
+        if (!setting.same(before, after)) {
+            keys += setting.key();
+        }
+    }
+    return keys;
 }
 
 QDialog *open(MainWindow &window, ActionId id)
@@ -155,9 +230,6 @@ void TestWindowsKeepValues::fieldsComeBack_data()
     QTest::addColumn<int>("action");
     QTest::addColumn<QStringList>("kept");
     QTest::addColumn<int>("atLeast"); // so many fields are different
-    const QStringList deciding{"displayTheme", "displayStyle", "displayLanguage", "displayFontScale", "inputComm",
-        "sensorType", "sensorFromFile", "processorType", "differingOnly", "mapWeatherColor%1"};
-    QTest::newRow("settings") << int(ActionId::Settings) << deciding << 20;
     QTest::newRow("track label format") << int(ActionId::TrackLabelFormat) << QStringList() << 7;
     QTest::newRow("range rings") << int(ActionId::RangeRings) << QStringList() << 3;
     QTest::newRow("rotation") << int(ActionId::Rotate) << QStringList() << 1;
@@ -177,13 +249,10 @@ void TestWindowsKeepValues::fieldsComeBack()
         QDialog *dialog = open(*window, ActionId(action));
         QVERIFY(dialog);
         const Values before = valuesOf(dialog);
-        changeFields(dialog, kept);
+        changeFields(dialog, &kept);
         entered = valuesOf(dialog);
-        int different = 0;
-        for (auto value = entered.cbegin(); value != entered.cend(); ++value) {
-            different += before.value(value.key()) != value.value() ? 1 : 0;
-        }
-        QVERIFY2(different >= atLeast, qPrintable(QString::number(different)));
+        const auto different = differing(before, entered);
+        QVERIFY2(different.size() >= atLeast, qPrintable(different.join('\n')));
         press(dialog, {QDialogButtonBox::Ok, QDialogButtonBox::Close});
         QVERIFY2(!dialog->isVisible() || ActionId(action) == ActionId::PlaybackWindow, "it was accepted");
         QVERIFY(WindowFixture::close(*window));
@@ -191,15 +260,60 @@ void TestWindowsKeepValues::fieldsComeBack()
     const auto window = WindowFixture::makeWindow();
     QDialog *dialog = open(*window, ActionId(action));
     QVERIFY(dialog);
-    const Values found = valuesOf(dialog);
-    QStringList lost;
-    for (auto value = entered.cbegin(); value != entered.cend(); ++value) {
-        if (found.value(value.key()) != value.value()) {
-            lost += QStringLiteral("%1: \"%2\", not \"%3\"").arg(value.key(), found.value(value.key()), value.value());
+    QCOMPARE(differing(entered, valuesOf(dialog)).join('\n'), QString());
+    QVERIFY(WindowFixture::close(*window));
+}
+
+// Every field of every page. What decides over other fields is moved by so many steps before.
+void TestWindowsKeepValues::settingsComeBack()
+{
+    const QList<QMap<QString, int>> choices{{}, {{"inputComm", 1}, {"processorType", 1}, {"sensorType", 1}},
+        {{"inputComm", 2}, {"processorType", 2}, {"sensorType", 2}, {"shownTileService", 1}},
+        {{"sensorType", 3}, {"shownTileService", 2}}, {{"sensorType", 4}, {"shownTileService", 3}},
+        {{"shownTileService", 4}, {"displayStyle", 1}, {"displayLanguage", 1}},
+        {{"shownTileService", 5}, {"displayTheme", 1}, {"displayFontScale", 1}}};
+    QStringList done{"displayStyle", "displayLanguage", "displayTheme", "displayFontScale", "inputComm",
+        "processorType", "sensorType", "sensorChoice", "shownTileService", "differingOnly", "searchLine"};
+    QSet<QString> changed;
+    for (const auto &choice : choices) {
+        const WindowFixture fixture;
+        QVERIFY(!writtenCapture(qEnvironmentVariable("XDG_DATA_HOME") + "/x.pcap", {{0, "x"}}).isEmpty());
+        Values entered;
+        Config config;
+        {
+            const auto window = WindowFixture::makeWindow();
+            const Config before = window->config();
+            QDialog *dialog = open(*window, ActionId::Settings);
+            QVERIFY(dialog);
+            choose(dialog, choice);
+            for (int round = 0; round < 2; ++round) { // what is switched on brings other fields
+                visitPages(dialog, [dialog, &done] { changeFields(dialog, &done); });
+            }
+            entered = valuesOf(dialog);
+            press(dialog, {QDialogButtonBox::Ok});
+            QVERIFY2(!dialog->isVisible(), qPrintable(choice.keys().join(' ')));
+            config = window->config();
+            changed += changedSettings(before, config);
+            QVERIFY(WindowFixture::close(*window));
+        }
+        const auto window = WindowFixture::makeWindow();
+        QCOMPARE(changedSettings(config, window->config()), QSet<QString>());
+        QDialog *dialog = open(*window, ActionId::Settings);
+        QVERIFY(dialog);
+        for (const char *name : {"shownTileService", "mapWeatherColor%1"}) {
+            entered.remove(name); // these choose what other fields show, and are no values
+        }
+        QCOMPARE(differing(entered, valuesOf(dialog)).join('\n'), QString());
+        QVERIFY(WindowFixture::close(*window));
+    }
+    QStringList never;
+    for (const Setting &setting : Setting::all()) {
+        // The one locks the rest, the other has its window.
+        if (!changed.contains(setting.key()) && setting.key() != "settingsLock" && setting.key() != "sensorDatabase") {
+            never += setting.key();
         }
     }
-    QVERIFY2(lost.isEmpty(), qPrintable(lost.join('\n')));
-    QVERIFY(WindowFixture::close(*window));
+    QCOMPARE(never.join(' '), QString());
 }
 
 void TestWindowsKeepValues::placesComeBack()
