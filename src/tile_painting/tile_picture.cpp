@@ -13,8 +13,8 @@ namespace {
 
 // More of the screen than this is drawn in one go.
 constexpr double MostInParts = 0.6;
-// More of the screen than this takes too long for a frame.
-constexpr double MostInAFrame = 0.2;
+// Where less of the screen is left of the last view, drawing the rest takes too long for a frame.
+constexpr double LeastKept = 0.8;
 
 double areaOf(const QRect &rect)
 {
@@ -72,9 +72,15 @@ void TilePicture::clear()
 
 bool TilePicture::turnTo(const GeoView &view)
 {
-    m_bare = m_picture.turnTo(view);
+    const bool same = m_turned && view.screenTransform() == m_view.screenTransform()
+        && view.screenRect() == m_view.screenRect() && view.devicePixelRatio() == m_view.devicePixelRatio();
     m_view = view;
     m_turned = true;
+    if (m_picture.share(view) < LeastKept) {
+        m_picture.invalidate();
+        return !same;
+    }
+    m_bare = m_picture.turnTo(view);
     return !m_bare.isEmpty();
 }
 
@@ -83,23 +89,15 @@ void TilePicture::update(const TileRange &range, const Tiles &tiles, qint64 now)
     const std::vector<QPoint> different = m_cells.update(range, tiles.images, tiles.coarsest, tiles.deepest, now);
     m_changed.insert(m_changed.end(), different.begin(), different.end());
     m_drawAll = std::exchange(m_level, range.level) != range.level || m_drawAll;
-    for (const QRect &part : std::exchange(m_bare, {})) {
-        fill(part);
-    }
+    drawBare();
     startDrawing();
 }
 
-void TilePicture::fill(const QRect &part)
+void TilePicture::drawBare()
 {
-    if (!m_cells.showAnything()) {
-        return;
-    }
-    QPainter painter(&m_picture.image());
-    painter.setClipRect(part);
-    if (areaOf(part) > MostInAFrame * areaOf(m_view.screenRect())) {
-        sketchTiles(painter, m_view, part, m_cells, m_level);
-        m_drawAll = true;
-    } else {
+    for (const QRect &part : std::exchange(m_bare, {})) {
+        QPainter painter(&m_picture.image());
+        painter.setClipRect(part);
         m_rows.paint(painter, m_view, part, m_cells, m_level, m_smooth);
     }
 }
@@ -125,7 +123,7 @@ void TilePicture::startDrawing()
 QList<QRect> TilePicture::takeParts()
 {
     std::vector<QPoint> cells = std::exchange(m_changed, {});
-    if (std::exchange(m_drawAll, false)) {
+    if (std::exchange(m_drawAll, false) || !m_picture.isValid()) {
         return {m_view.screenRect()};
     }
     const auto place = [](const QPoint &cell) { return std::tuple(cell.y(), cell.x()); };
@@ -156,14 +154,32 @@ QImage TilePicture::drawn(
 void TilePicture::take(const Drawn &drawn)
 {
     m_cells.keepMixed(*drawn.cells);
-    const bool fits = m_picture.put(drawn.image, drawn.parts, drawn.view);
+    const bool whole = drawn.parts.contains(drawn.view.screenRect());
+    const bool fits = whole ? takeWhole(drawn) : m_picture.put(drawn.image, drawn.parts, drawn.view);
     startDrawing();
     if (fits) {
         Q_EMIT changed();
     }
 }
 
+bool TilePicture::takeWhole(const Drawn &drawn)
+{
+    KeptPicture picture;
+    picture.set(drawn.image, drawn.view);
+    if (picture.share(m_view) < LeastKept) {
+        return false;
+    }
+    m_picture.set(drawn.image, drawn.view);
+    m_bare = m_picture.turnTo(m_view);
+    drawBare();
+    return true;
+}
+
 void TilePicture::paint(QPainter &painter) const
 {
-    painter.drawImage(QPointF(0.0, 0.0), m_picture.image());
+    if (m_picture.isValid()) {
+        painter.drawImage(QPointF(0.0, 0.0), m_picture.image());
+    } else {
+        sketchTiles(painter, m_view, m_cells, m_level);
+    }
 }

@@ -17,9 +17,9 @@
 
 class QPainter;
 
-// The tiles of a view as a picture, which is kept while the view stays and moved along with it. What comes into sight
-// is there at once, as a sketch where it is much. In place of a sketch, and where tiles come or fade in, what a worker
-// has drawn follows: a frame pays for neither. GUI thread.
+// The tiles of a view as a picture, which is kept while the view stays and moved along with it. A worker draws it, and
+// what tiles change in it that come or fade in: a frame pays for neither. Until the picture of a new view is there the
+// view is sketched; the little that comes into sight while it is dragged is drawn at once. GUI thread.
 class TilePicture final : public QObject {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ public:
     void setSmooth(bool smooth) { m_smooth = smooth; }
     // Nothing that was drawn is of use any more.
     void forget();
-    // Another view. True: something has come into sight, and update() has to follow.
+    // True: something has come into sight, and update() has to follow.
     bool turnTo(const GeoView &view);
     // The tiles of the range, which the view needs, as they are now. Milliseconds.
     void update(const TileRange &range, const Tiles &tiles, qint64 now);
@@ -68,12 +68,13 @@ private:
         std::shared_ptr<const TileCells> cells;
     };
 
-    void fill(const QRect &part);
+    void drawBare();
     void startDrawing();
     QList<QRect> takeParts();
     static QImage drawn(
         const GeoView &view, const QList<QRect> &parts, const TileCells &cells, quint8 level, bool smooth);
     void take(const Drawn &drawn);
+    bool takeWhole(const Drawn &drawn);
 
     GeoView m_view;
     bool m_turned = false;
@@ -81,8 +82,8 @@ private:
     quint8 m_level = 0; // of the cells; 0: there are none
     TileCells m_cells;
     TileRowPainter m_rows;
-    KeptPicture m_picture;
-    QList<QRect> m_bare; // parts of the view in which nothing is drawn yet
+    KeptPicture m_picture; // invalid: the view is sketched
+    QList<QRect> m_bare; // its parts in which nothing is drawn yet
     bool m_drawAll = false; // the worker has to, else
     std::vector<QPoint> m_changed; // the columns and rows that it has to draw
     BackgroundPass m_drawing;

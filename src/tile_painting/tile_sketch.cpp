@@ -34,12 +34,14 @@ void sketchCell(QPainter &painter, const QRectF &target, const TileCell &cell)
 
 } // namespace
 
-void sketchTiles(QPainter &painter, const GeoView &view, const QRect &part, const TileCells &cells, quint8 level)
+void sketchTiles(QPainter &painter, const GeoView &view, const TileCells &cells, quint8 level)
 {
-    const TileRange range = TileRowPainter::needed(view, part, level);
+    const TileRange range = TileRowPainter::needed(view, view.screenRect(), level);
     const double size = TileGeometry::TileSize;
     const double reach = SketchOverlap / 2.0 * view.metresPerPixel() * size / TilePlane::span(level);
     const QRectF target = QRectF(0.0, 0.0, size, size).adjusted(-reach, -reach, reach, reach);
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
     for (int row = range.top; row <= range.bottom; ++row) {
         for (int column = range.left; column <= range.right; ++column) {
             const QRectF plane = TilePlane::planeRect(column, row, level);
@@ -49,4 +51,5 @@ void sketchTiles(QPainter &painter, const GeoView &view, const QRect &part, cons
             sketchCell(painter, target, cells.at(column, row));
         }
     }
+    painter.restore();
 }

@@ -7,14 +7,19 @@
 
 class GeoView;
 
-// A picture of a view that is kept while the view stays, and moved along with it.
+// A picture of a view that is kept while the view stays, and moved along with it by whole device pixels.
 class KeptPicture {
 public:
-    // To be painted anew.
+    // To be drawn anew.
     void invalidate() { m_valid = false; }
+    bool isValid() const { return m_valid; }
 
-    // Brings the picture to another view. Returns the parts of the screen that have to be painted: they are transparent
-    // now. Logical pixels.
+    // Takes a picture of that view, with its device pixel ratio (ARGB32_Premultiplied).
+    void set(const QImage &picture, const GeoView &of);
+    // How much of a view it can show, from 0 to 1.
+    double share(const GeoView &view) const;
+    // Moves it to a view of which it can show something. Returns the parts of the screen that have to be painted: they
+    // are transparent now. Logical pixels.
     QList<QRect> turnTo(const GeoView &view);
     // Takes parts, in logical pixels, of a picture of a view that may lie beside the present one. False: they are of
     // no use for it, nothing is taken.
@@ -25,7 +30,6 @@ public:
 
 private:
     bool findShift(const GeoView &view, QPoint &shift) const;
-    QList<QRect> move(const QRect &screen, const QPoint &shift);
 
     bool m_valid = false;
     QTransform m_transform; // of the view that it shows

@@ -143,15 +143,20 @@ void TestGeoTileMap::movedPictureLooksAsIfDrawnAnew()
     GeoTileMap moving(GeoTileMap::Layer::Bottom);
     moving.applyConfig(brightConfig());
     moving.setSource(supply.source());
-    for (const double rotation : {0.0, 20.0}) {
-        TileView view(500.0, Steep, rotation);
-        view.painted(moving);
-        for (const QPoint step : {QPoint(40, 0), QPoint(-9, 130), QPoint(0, -300)}) {
-            view.pan(step.x(), step.y());
-            GeoTileMap anew(GeoTileMap::Layer::Bottom);
-            anew.applyConfig(brightConfig());
-            anew.setSource(supply.source());
-            QCOMPARE(differing(view.painted(moving), view.painted(anew), 3), 0);
+    for (const double ratio : {1.0, 1.5, 2.0}) {
+        for (const double rotation : {0.0, 20.0}) {
+            TileView view(500.0, Steep, rotation, ratio);
+            view.painted(moving);
+            for (const QPoint step : {QPoint(40, 0), QPoint(-8, 20), QPoint(-10, 130), QPoint(0, -300)}) {
+                view.pan(step.x(), step.y());
+                GeoTileMap anew(GeoTileMap::Layer::Bottom);
+                anew.applyConfig(brightConfig());
+                anew.setSource(supply.source());
+                const bool isSmall = std::abs(step.y()) <= 20; // what comes into sight then is drawn at once
+                const QImage moved = isSmall ? view.frame(moving) : view.painted(moving);
+                QCOMPARE(differing(moved, view.painted(anew), 3), 0);
+                QVERIFY(!moving.drawing());
+            }
         }
     }
 }
