@@ -342,6 +342,9 @@ void TileDownloadWindow::showProgress(const TileDownloadProgress &progress)
     QStringList parts{tr("%1: %2 of %3 tiles, %4 fetched (%5)")
                           .arg(stateText(progress), countText(progress.done()), countText(progress.total),
                               countText(progress.fetched), sizeText(progress.octets))};
+    if (progress.present > 0) {
+        parts.append(tr("%1 were there already").arg(countText(progress.present)));
+    }
     if (progress.unavailable > 0) {
         parts.append(tr("%1 the service does not have").arg(countText(progress.unavailable)));
     }
