@@ -16,17 +16,20 @@ const QString OwnTexts = QStringLiteral("vyxdisplay_");
 const QString ResourceFolder = QStringLiteral(":/translations");
 
 std::optional<QString> installedCode;
+QString spokenCode = English;
 
-// Of the folders the first wins that has the file, or one for the same language of no particular country.
-void installFirst(const QString &file, const QStringList &folders)
+// Of the folders the first wins that has the file, or one for the same language of no particular country. Returns the
+// language of what was found.
+QString installFirst(const QString &file, const QStringList &folders)
 {
     auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
     for (const QString &folder : folders) {
         if (translator->load(file, folder)) {
-            QCoreApplication::installTranslator(translator.release());
-            return;
+            QCoreApplication::installTranslator(translator.get());
+            return translator.release()->language();
         }
     }
+    return {};
 }
 
 } // namespace
@@ -54,6 +57,11 @@ const std::optional<QString> &Languages::installed()
     return installedCode;
 }
 
+const QString &Languages::spoken()
+{
+    return spokenCode;
+}
+
 void Languages::install(const QString &code)
 {
     installedCode = code;
@@ -61,5 +69,6 @@ void Languages::install(const QString &code)
     const QString toolkit = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     installFirst("qtbase_" + language, {QString(), toolkit, ResourceFolder});
     installFirst("qt_" + language, {QString()});
-    installFirst(OwnTexts + language, {QString(), ResourceFolder});
+    const QString found = installFirst(OwnTexts + language, {QString(), ResourceFolder});
+    spokenCode = found.isEmpty() ? English : found;
 }

@@ -23,4 +23,6 @@ public:
     static void install(const QString &code);
     // The code that was installed last; nothing before.
     static const std::optional<QString> &installed();
+    // The code of the language that the texts are in since then: English where the chosen one is not there.
+    static const QString &spoken();
 };

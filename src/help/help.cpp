@@ -1,5 +1,6 @@
 #include "help/help.h"
 
+#include "app/languages.h"
 #include "help/help_topics.h"
 #include "help/help_window.h"
 #include "widgets/window_opening.h"
@@ -47,7 +48,7 @@ void Help::showPlace(const QString &place)
         for (auto page = m_made.cbegin(); page != m_made.cend(); ++page) {
             made.insert(page.key(), page.value()());
         }
-        m_window = std::make_unique<HelpWindow>(made);
+        m_window = std::make_unique<HelpWindow>(made, Languages::spoken());
     }
     m_window->showPlace(place);
     bringUp(m_window.get());

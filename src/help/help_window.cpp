@@ -36,8 +36,9 @@ QTreeWidgetItem *makeItem(const QString &text, const QString &place)
 
 } // namespace
 
-HelpWindow::HelpWindow(const Manual::MadePages &made, QWidget *parent)
-    : GeometryDialog(QStringLiteral("HelpWindow"), parent), m_manual(made), m_view(new ManualView(&m_manual, this))
+HelpWindow::HelpWindow(const Manual::MadePages &made, const QString &language)
+    : GeometryDialog(QStringLiteral("HelpWindow")), m_manual(made, language), m_view(new ManualView(&m_manual, this)),
+      m_notTranslated(new QLabel(tr("This page is available in English only."), this))
 {
     setWindowTitle(tr("%1 Manual").arg(QGuiApplication::applicationDisplayName()));
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
@@ -50,7 +51,10 @@ HelpWindow::HelpWindow(const Manual::MadePages &made, QWidget *parent)
     split->setChildrenCollapsible(false);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(bar);
+    layout->addWidget(m_notTranslated);
     layout->addWidget(split, 1);
+    m_notTranslated->setObjectName(QStringLiteral("notTranslated"));
+    m_notTranslated->setWordWrap(true);
     makeContents();
     connect(m_view, &QTextBrowser::sourceChanged, this, &HelpWindow::markPlace);
     changeTextSize(UiState::value(objectName(), QString::fromLatin1(TextSizeKey)).toInt());
@@ -190,6 +194,8 @@ void HelpWindow::markPlace(const QUrl &url)
     const QSignalBlocker blocker(m_contents);
     const QString shown = ManualView::placeOf(url);
     const QString page = shown.section(u'#', 0, 0);
+    const Manual::Page *found = m_manual.page(page);
+    m_notTranslated->setVisible(found && found->language != m_manual.language());
     QTreeWidgetItem *mark = nullptr;
     for (QTreeWidgetItemIterator item(m_contents); *item; ++item) {
         const QString at = (*item)->data(0, PlaceRole).toString();

@@ -5,6 +5,7 @@
 
 class ManualView;
 class QBoxLayout;
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QStackedWidget;
@@ -16,7 +17,8 @@ class HelpWindow final : public GeometryDialog {
     Q_OBJECT
 
 public:
-    explicit HelpWindow(const Manual::MadePages &made = {}, QWidget *parent = nullptr);
+    // As Manual takes them.
+    explicit HelpWindow(const Manual::MadePages &made = {}, const QString &language = QStringLiteral("en"));
     ~HelpWindow() override;
 
     const Manual &manual() const { return m_manual; }
@@ -40,5 +42,6 @@ private:
     QStackedWidget *m_navigation = nullptr; // contents, hits
     QTreeWidget *m_contents = nullptr;
     QListWidget *m_hits = nullptr;
+    QLabel *m_notTranslated = nullptr;
     int m_textSize = 0; // steps from the ordinary one
 };

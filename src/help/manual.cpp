@@ -13,6 +13,7 @@ static void loadManualResource()
 
 namespace {
 
+constexpr auto OriginalLanguage = "en";
 constexpr qsizetype ExcerptLength = 140;
 constexpr qsizetype ExcerptLead = 40; // characters before the word that was looked for
 
@@ -27,8 +28,7 @@ QString withoutMarks(QString line)
     static const QRegularExpression Picture(QStringLiteral(R"(!\[[^\]]*\]\([^)]*\))"));
     static const QRegularExpression Link(QStringLiteral(R"(\[([^\]]*)\]\([^)]*\))"));
     static const QRegularExpression Rule(QStringLiteral(R"(^[\s|:-]+$)"));
-    static const QRegularExpression Item(QStringLiteral(R"(^(\s*[-*]|\s*\d+\.|>)\s+)"));
-    line.remove(Picture).replace(Link, QStringLiteral("\\1")).remove(Rule).remove(Item);
+    line.remove(Picture).replace(Link, QStringLiteral("\\1")).remove(Rule);
     line.remove(QStringLiteral("**")).remove(u'`').replace(u'|', u' ');
     return line.simplified();
 }
@@ -43,6 +43,7 @@ Manual::Section sectionOf(const QString &heading)
 QList<Manual::Section> sectionsOf(const QString &markdown)
 {
     static const QRegularExpression Heading(QStringLiteral("^#{1,6} "));
+    static const QRegularExpression Item(QStringLiteral(R"(^(\s*[-*]|\s*\d+\.|>)\s+)"));
     QList<Manual::Section> sections;
     bool literal = false;
     for (const QString &line : markdown.split(u'\n')) {
@@ -50,7 +51,7 @@ QList<Manual::Section> sectionsOf(const QString &markdown)
         if (!literal && Heading.match(line).hasMatch()) {
             sections.append(sectionOf(line));
         } else if (!sections.isEmpty()) {
-            const QString text = literal ? line.simplified() : withoutMarks(line);
+            const QString text = literal ? line.simplified() : withoutMarks(QString(line).remove(Item));
             sections.last().text += text.isEmpty() ? text : text + u' ';
         }
     }
@@ -80,34 +81,56 @@ QString excerptOf(const QString &text, const QRegularExpression &word)
 
 } // namespace
 
-Manual::Manual(const MadePages &made, const QString &folder)
+Manual::Manual(const MadePages &made, const QString &language, const QString &folder)
+    : m_language(language), m_folder(folder)
 {
     loadManualResource();
-    readIndex(folder, made);
+    readIndex(made);
 }
 
-void Manual::readIndex(const QString &folder, const MadePages &made)
+void Manual::readIndex(const MadePages &made)
 {
     static const QRegularExpression Entry(QStringLiteral(R"(^- \[[^\]]*\]\(([a-z0-9-]+\.md)\))"));
-    const QString index = QString::fromLatin1(IndexPage);
+    Page index = readPage(QString::fromLatin1(IndexPage));
     QString shown;
     QString chapter;
     QList<Page> pages;
-    for (const QString &line : readFile(folder + u'/' + index).split(u'\n')) {
+    for (const QString &line : index.markdown.split(u'\n')) {
         if (line.startsWith(QLatin1String("## "))) {
             chapter = line.mid(3).trimmed();
         }
         const QString file = Entry.match(line).captured(1);
-        const QString markdown = file.isEmpty() ? QString() : made.value(file, readFile(folder + u'/' + file));
-        if (!markdown.isEmpty()) {
-            pages.append({file, chapter, markdown, sectionsOf(markdown)});
+        if (!file.isEmpty()) {
+            const QString own = made.value(file);
+            Page page = own.isEmpty() ? readPage(file) : Page{file, {}, m_language, own, sectionsOf(own)};
+            if (page.markdown.isEmpty()) {
+                continue;
+            }
+            page.chapter = chapter;
+            pages.append(page);
         }
-        if (file.isEmpty() || !markdown.isEmpty()) {
-            shown += line + u'\n';
-        }
+        shown += line + u'\n';
     }
-    m_pages.append({index, {}, shown, sectionsOf(shown)});
+    index.markdown = shown;
+    m_pages.append(index);
     m_pages += pages;
+}
+
+Manual::Page Manual::readPage(const QString &file) const
+{
+    const QString original = readFile(m_folder + u'/' + file);
+    Page page{file, {}, QString::fromLatin1(OriginalLanguage), original, sectionsOf(original)};
+    QString translated = readFile(m_folder + u'/' + m_language + u'/' + file);
+    if (translated.isEmpty()) {
+        return page;
+    }
+    // From its folder, untranslated pages and all pictures are one folder up.
+    translated.replace(QLatin1String("](../"), QLatin1String("]("));
+    QList<Section> sections = sectionsOf(translated);
+    for (qsizetype at = 0; at < std::min(sections.size(), page.sections.size()); ++at) {
+        sections[at].anchor = page.sections.at(at).anchor;
+    }
+    return {file, {}, m_language, translated, sections};
 }
 
 const Manual::Page *Manual::page(const QString &file) const

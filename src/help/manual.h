@@ -7,7 +7,8 @@
 #include <QString>
 
 // The manual as it is compiled in: Markdown pages, which the page index.md lists by chapter. A place in it is written
-// as the file of the page, with "#" and the anchor of a section behind it where one is meant: "scope.md#zooming".
+// as the file of the page, with "#" and the anchor of a section behind it where one is meant: "scope.md#zooming". Pages
+// that are translated stand in a folder of their language, beside the others; the places of those are theirs, too.
 class Manual {
     Q_DECLARE_TR_FUNCTIONS(Manual)
 
@@ -23,6 +24,7 @@ public:
     struct Page {
         QString file;
         QString chapter;
+        QString language; // its code, "en" where the page is not translated
         QString markdown;
         QList<Section> sections; // the first one is the page's title, with what stands before the next heading
 
@@ -37,8 +39,12 @@ public:
     // Pages that are made as the program runs, in Markdown by file.
     using MadePages = QHash<QString, QString>;
 
-    // Pages that the index lists and that are not there are left out, of the index too.
-    explicit Manual(const MadePages &made = {}, const QString &folder = QStringLiteral(":/manual"));
+    // In that language as far as it is translated; made pages are in that language. Pages that the index lists and that
+    // are not there are left out, of the index too.
+    explicit Manual(const MadePages &made = {}, const QString &language = QStringLiteral("en"),
+        const QString &folder = QStringLiteral(":/manual"));
+
+    const QString &language() const { return m_language; }
 
     // The index first, the others in its order.
     const QList<Page> &pages() const { return m_pages; }
@@ -56,7 +62,10 @@ public:
     static QString anchorOf(const QString &heading);
 
 private:
-    void readIndex(const QString &folder, const MadePages &made);
+    void readIndex(const MadePages &made);
+    Page readPage(const QString &file) const;
 
+    const QString m_language;
+    const QString m_folder;
     QList<Page> m_pages;
 };

@@ -75,7 +75,7 @@ void ManualView::dress(const QUrl &url)
     m_laidWidth = textWidth();
     QTextCursor allAtOnce(document()); // after each change by itself a table of many rows would be laid out again
     allAtOnce.beginEditBlock();
-    markHeadings();
+    markHeadings(m_manual->page(url.fileName()));
     drawTables();
     allAtOnce.endEditBlock();
     markWords();
@@ -84,8 +84,9 @@ void ManualView::dress(const QUrl &url)
     }
 }
 
-void ManualView::markHeadings()
+void ManualView::markHeadings(const Manual::Page *page)
 {
+    qsizetype heading = 0;
     QTextCursor cursor(document());
     QTextBlockFormat spaced;
     spaced.setLineHeight(LineHeight, QTextBlockFormat::ProportionalHeight);
@@ -98,8 +99,11 @@ void ManualView::markHeadings()
         cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
         QTextCharFormat anchor;
         anchor.setAnchor(true);
-        anchor.setAnchorNames({Manual::anchorOf(block.text())});
+        if (page && heading < page->sections.size()) {
+            anchor.setAnchorNames({page->sections.at(heading).anchor});
+        }
         cursor.mergeCharFormat(anchor);
+        ++heading;
     }
 }
 

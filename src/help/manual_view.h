@@ -30,7 +30,7 @@ protected:
 
 private:
     void dress(const QUrl &url);
-    void markHeadings();
+    void markHeadings(const Manual::Page *page);
     void drawTables();
     void markWords();
     // At the same place, for another width or palette.

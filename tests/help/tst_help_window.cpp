@@ -19,6 +19,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextTable>
 #include <QTreeWidget>
@@ -30,6 +31,8 @@ class TestHelpWindow : public QObject {
 private Q_SLOTS:
     void init();
     void showsAPlaceAndComesBack();
+    void everyHeadingCanBeReached();
+    void saysThatAPageIsNotTranslated();
     void searchesAndMarks();
     void showsPicturesAsWideAsThePage();
     void tablesFollowThePalette();
@@ -94,6 +97,39 @@ void TestHelpWindow::showsAPlaceAndComesBack()
     textOf(window)->verticalScrollBar()->setValue(0);
     window.showPlace("scope.md#range-rings-and-compass-rose");
     QTRY_VERIFY(textOf(window)->verticalScrollBar()->value() > 0);
+}
+
+void TestHelpWindow::everyHeadingCanBeReached()
+{
+    HelpWindow window;
+    for (const Manual::Page &page : window.manual().pages()) {
+        window.showPlace(page.file);
+        QStringList headings;
+        for (QTextBlock block = textOf(window)->document()->begin(); block.isValid(); block = block.next()) {
+            if (block.blockFormat().headingLevel() > 0) {
+                headings.append(block.text().simplified());
+            }
+        }
+        QStringList sections;
+        for (const Manual::Section &section : page.sections) {
+            sections.append(section.title);
+        }
+        QCOMPARE(headings, sections);
+    }
+}
+
+void TestHelpWindow::saysThatAPageIsNotTranslated()
+{
+    const Manual::MadePages made{{"settings-reference.md", "# 设置\n"}};
+    for (const bool translated : {false, true}) {
+        HelpWindow window(made, translated ? "en" : "xx");
+        const auto *note = window.findChild<QWidget *>("notTranslated");
+        QCOMPARE(note->isHidden(), translated);
+        window.showPlace("settings-reference.md");
+        QVERIFY(note->isHidden());
+        window.showPlace("scope.md");
+        QCOMPARE(note->isHidden(), translated);
+    }
 }
 
 void TestHelpWindow::searchesAndMarks()

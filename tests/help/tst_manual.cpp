@@ -20,6 +20,8 @@ private Q_SLOTS:
     void findsSections_data();
     void findsSections();
     void linksLeadSomewhere();
+    void readsTranslatedPages();
+    void translationsFollowTheirOriginals();
     void hasAPlaceForEveryWindow();
 };
 
@@ -30,6 +32,40 @@ void write(const QString &file, const char *text)
     QFile page(file);
     QVERIFY(page.open(QIODevice::WriteOnly));
     page.write(text);
+}
+
+QStringList translationsOfTheManual()
+{
+    QStringList folders = QDir(":/manual").entryList(QDir::Dirs);
+    folders.removeAll("pictures");
+    return folders;
+}
+
+// In order of their targets: sentences may have them in another one.
+QStringList linksOf(const Manual::Page &page)
+{
+    static const QRegularExpression Link(QStringLiteral(R"(\]\(([^)\s]+)\))"));
+    QStringList targets;
+    QRegularExpressionMatchIterator links = Link.globalMatch(page.markdown);
+    while (links.hasNext()) {
+        targets.append(links.next().captured(1));
+    }
+    targets.sort();
+    return targets;
+}
+
+// Headings, rows of tables, items of lists and examples.
+QStringList outlineOf(const Manual::Page &page)
+{
+    QStringList outline{page.file};
+    for (const QString &line : page.markdown.split('\n')) {
+        static const QRegularExpression Mark(QStringLiteral(R"(^(#+ |\|--|\||- |\d\. |    \S|```))"));
+        const QString mark = Mark.match(line).captured(1);
+        if (!mark.isEmpty()) {
+            outline.append(mark);
+        }
+    }
+    return outline;
 }
 
 // Classes of windows, panes and pages of settings, as the sources declare them.
@@ -64,7 +100,7 @@ void TestManual::readsThePagesOfTheIndex()
     write(folder.filePath("a.md"),
         "# The **first** page\n\nWords.\n\n```\n# no heading\n```\n\n## Range & `rings`\n\nMore.\n");
     write(folder.filePath("b.md"), "# Other\n");
-    const Manual manual({}, folder.path());
+    const Manual manual({}, "en", folder.path());
     QCOMPARE(manual.pages().size(), 3);
     QVERIFY(!manual.pages().at(0).markdown.contains("gone.md"));
     const Manual::Page *page = manual.page("a.md");
@@ -98,7 +134,7 @@ void TestManual::findsSections()
     write(folder.filePath("index.md"), "# Rose\n\n- [A](a.md)\n");
     write(folder.filePath("a.md"), "# Scope\n\nA rose and a **ward**robe.\n\n## Rose\n\nThe [link](b.md) of\nwind.\n");
     QStringList places;
-    for (const Manual::Hit &hit : Manual({}, folder.path()).search(words)) {
+    for (const Manual::Hit &hit : Manual({}, "en", folder.path()).search(words)) {
         places.append(hit.place);
     }
     QTEST(places, "places");
@@ -106,14 +142,11 @@ void TestManual::findsSections()
 
 void TestManual::linksLeadSomewhere()
 {
-    static const QRegularExpression Link(QStringLiteral(R"(\]\(([^)\s]+)\))"));
     const Manual manual({{"settings-reference.md", "# All Settings\n"}});
     QVERIFY(manual.pages().size() > 20);
     QSet<QString> shown;
     for (const Manual::Page &page : manual.pages()) {
-        QRegularExpressionMatchIterator links = Link.globalMatch(page.markdown);
-        while (links.hasNext()) {
-            const QString target = links.next().captured(1);
+        for (const QString &target : linksOf(page)) {
             const QString place = target.startsWith(u'#') ? page.file + target : target;
             if (target.endsWith(".png")) {
                 QVERIFY2(QImageReader(":/manual/" + target).canRead(), qPrintable(page.file + ": " + target));
@@ -126,8 +159,48 @@ void TestManual::linksLeadSomewhere()
     // What nobody can come to, need not be in the program.
     QDirIterator files(QStringLiteral(":/manual"), QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
-        const QString file = files.next().mid(int(qstrlen(":/manual/")));
+        QString file = files.next().mid(static_cast<int>(qstrlen(":/manual/")));
+        file.remove(QRegularExpression("^(" + translationsOfTheManual().join('|') + ")/"));
         QVERIFY2(file == Manual::IndexPage || shown.contains(file), qPrintable(file));
+    }
+}
+
+void TestManual::readsTranslatedPages()
+{
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir("de"));
+    write(folder.filePath("index.md"), "# Manual\n\n## First\n\n- [A](a.md)\n- [B](b.md)\n- [Made](made.md)\n");
+    write(folder.filePath("a.md"), "# Scope\n\n## Range rings\n");
+    write(folder.filePath("b.md"), "# Other\n");
+    write(folder.filePath("de/a.md"), "# Lagebild\n\n[B](../b.md#x), ![P](../pictures/p.png)\n\n## Ringe\n");
+    const Manual manual({{"made.md", "# Gemacht\n"}}, "de", folder.path());
+    QCOMPARE(manual.pages().size(), 4);
+    const Manual::Page *page = manual.page("a.md");
+    QCOMPARE(page->title(), "Lagebild");
+    QCOMPARE(page->language, "de");
+    QCOMPARE(page->chapter, "First");
+    QVERIFY2(manual.has("a.md#range-rings"), "windows and other pages name sections as they are in the original");
+    QVERIFY2(
+        page->markdown.contains("(b.md#x)") && page->markdown.contains("(pictures/p.png)"), qPrintable(page->markdown));
+    QCOMPARE(manual.page("b.md")->language, "en");
+    QCOMPARE(manual.page("made.md")->language, "de");
+}
+
+void TestManual::translationsFollowTheirOriginals()
+{
+    const Manual originals;
+    for (const QString &language : translationsOfTheManual()) {
+        const Manual translated({}, language);
+        for (const Manual::Page &page : translated.pages()) {
+            const Manual::Page *original = originals.page(page.file);
+            QVERIFY2(original, qPrintable(page.file));
+            QCOMPARE(outlineOf(page), outlineOf(*original));
+            QCOMPARE(linksOf(page), linksOf(*original));
+        }
+        const QStringList files = QDir(":/manual/" + language).entryList();
+        for (const QString &file : files) {
+            QVERIFY2(translated.page(file), qPrintable(language + '/' + file));
+        }
     }
 }
 

@@ -42,7 +42,10 @@ void TestLanguages::englishCounts()
 
 void TestLanguages::speaksTheLanguageChosen()
 {
+    Languages::install("fi");
+    QCOMPARE(Languages::spoken(), QString("en"));
     Languages::install("de_AT"); // of no country of its own
+    QCOMPARE(Languages::spoken(), QString("de"));
     QCOMPARE(QCoreApplication::translate("Actions", "Start Input"), QString("Eingang starten"));
     Languages::install("zh_CN");
     QCOMPARE(QCoreApplication::translate("Actions", "Start Input"), QString::fromUtf8("启动输入"));
