@@ -105,6 +105,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
+    bool inputRunning() const { return m_inputRunning; }
+
     // What a row belongs to that its own texts do not say.
     virtual QString context(const QWidget *) const { return {}; }
     // The field whose choice shows and hides others.

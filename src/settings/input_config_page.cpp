@@ -206,9 +206,9 @@ void InputConfigPage::load(const Config &config)
 
 void InputConfigPage::setInputRunning(bool running)
 {
+    const bool before = inputRunning();
     ConfigPage::setInputRunning(running);
-    if (running != m_inputRunning) {
-        m_inputRunning = running;
+    if (running != before) {
         m_probe.stop(); // at once: the input may want the same line
         if (m_isUseOffered) {
             offerUse();
@@ -323,14 +323,14 @@ void InputConfigPage::listen()
     m_listenTimer.stop();
     Config config = m_loaded;
     store(&config);
-    m_probeView->setVisible(m_inputRunning || chosen() != Config::InputComm::File);
-    if (m_inputRunning && m_engine) {
+    m_probeView->setVisible(inputRunning() || chosen() != Config::InputComm::File);
+    if (inputRunning() && m_engine) {
         m_probe.watch(m_engine, config);
-    } else if (!m_inputRunning && chosen() != Config::InputComm::File && isComplete()) {
+    } else if (!inputRunning() && chosen() != Config::InputComm::File && isComplete()) {
         m_probe.listen(config);
     } else {
         m_probe.stop();
-        m_probeView->showHint(m_inputRunning ? QString() : tr("Complete the fields above to see what arrives."));
+        m_probeView->showHint(inputRunning() ? QString() : tr("Complete the fields above to see what arrives."));
     }
 }
 
@@ -346,7 +346,7 @@ void InputConfigPage::offerUse()
 {
     m_isUseOffered = true;
     m_probeView->offerUse(
-        m_inputRunning ? tr("Stop the input first: its settings are locked while it runs.") : QString());
+        inputRunning() ? tr("Stop the input first: its settings are locked while it runs.") : QString());
 }
 
 std::optional<InputProposal> InputConfigPage::proposal() const

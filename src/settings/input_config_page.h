@@ -77,7 +77,6 @@ private:
     const Offer m_offer;
     const SensorManager *m_sensors;
     QPointer<EngineHost> m_engine;
-    bool m_inputRunning = false;
     bool m_isUseOffered = false;
     Config m_loaded; // what the fields do not hold
     QComboBox *m_comm = nullptr;

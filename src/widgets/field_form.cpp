@@ -126,8 +126,11 @@ void FieldForm::setRowEnabled(QWidget *field, bool enabled)
 
 void FieldForm::setRowLocked(QWidget *field, bool locked)
 {
-    m_rows[field].locked = locked;
-    updateEnabled(field);
+    Row &row = m_rows[field];
+    if (row.locked != locked) { // who enables his fields himself is left alone
+        row.locked = locked;
+        updateEnabled(field);
+    }
 }
 
 void FieldForm::updateEnabled(QWidget *field)
