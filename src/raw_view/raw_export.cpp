@@ -38,7 +38,7 @@ QByteArray messageOf(const QByteArray &octets)
 // A data block around a record; what was no record stands as it came.
 QByteArray blockOf(const RawRecord &record)
 {
-    const StreamBatch::Record &facts = record.facts();
+    const StreamBatch::Record &facts = record.facts;
     const QByteArray octets = record.kept().octets;
     if (facts.form == TakenReport::Form::AleniaSirM && !facts.fault) {
         return messageOf(octets);
@@ -62,7 +62,7 @@ QString exportCapture(const std::vector<RawRecord> &records, const QString &file
         if (!isWritten) {
             break;
         }
-        const auto time = QDateTime::fromMSecsSinceEpoch(record.facts().timeMs, Qt::UTC);
+        const auto time = QDateTime::fromMSecsSinceEpoch(record.facts.timeMs, Qt::UTC);
         isWritten = writer.write(time, {Loopback, ExportPort}, {Loopback, ExportPort}, blockOf(record));
     }
     return isWritten && writer.close() ? QString() : writer.lastError();
@@ -70,17 +70,17 @@ QString exportCapture(const std::vector<RawRecord> &records, const QString &file
 
 QByteArray hexLine(const RawRecord &record)
 {
-    const auto time = QDateTime::fromMSecsSinceEpoch(record.facts().timeMs, Qt::UTC);
+    const auto time = QDateTime::fromMSecsSinceEpoch(record.facts.timeMs, Qt::UTC);
     return QStringLiteral("%1 %2 %3 ")
                .arg(time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")), formText(record),
-                   record.facts().identified ? sourceText(record) : QStringLiteral("-"))
+                   record.facts.identified ? sourceText(record) : QStringLiteral("-"))
                .toUtf8()
         + record.kept().octets.toHex(' ') + '\n';
 }
 
 QByteArray jsonLineOf(const RawRecord &record)
 {
-    const bool isReadable = record.facts().form != TakenReport::Form::Asterix || record.facts().uap;
+    const bool isReadable = record.facts.form != TakenReport::Form::Asterix || record.facts.uap;
     return isReadable ? reportJson(record.kept()) : QByteArray();
 }
 

@@ -22,7 +22,7 @@ bool hasFate(const StreamBatch::Record &record, RawFilter::Fate fate)
 // What takes the octets apart comes last.
 bool RawFilter::matches(const RawRecord &record) const
 {
-    const StreamBatch::Record &facts = record.facts();
+    const StreamBatch::Record &facts = record.facts;
     if (category && (facts.form != TakenReport::Form::Asterix || facts.category != *category)) {
         return false;
     }

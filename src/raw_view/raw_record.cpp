@@ -29,8 +29,8 @@ QString addressText(quint32 address)
 
 void addAsterixIdentity(const RawRecord &raw, QStringList &parts)
 {
-    const StreamBatch::Record &facts = raw.facts();
-    const auto octets = raw.batch->octetsOf(facts);
+    const StreamBatch::Record &facts = raw.facts;
+    const auto octets = raw.octets();
     _ast_datarecord_t record;
     if (!facts.uap || !korvane::asterix::decodeRecord(&record, octets.data(), octets.size(), facts.uap)) {
         return;
@@ -53,19 +53,19 @@ void addAsterixIdentity(const RawRecord &raw, QStringList &parts)
 KeptReport RawRecord::kept() const
 {
     KeptReport report;
-    report.form = facts().form;
-    report.timeMs = facts().timeMs;
-    report.uap = facts().uap;
-    const auto octets = batch->octetsOf(facts());
-    report.octets = QByteArray(reinterpret_cast<const char *>(octets.data()), static_cast<qsizetype>(octets.size()));
+    report.form = facts.form;
+    report.timeMs = facts.timeMs;
+    report.uap = facts.uap;
+    const auto held = octets();
+    report.octets = QByteArray(reinterpret_cast<const char *>(held.data()), static_cast<qsizetype>(held.size()));
     return report;
 }
 
 QString formText(const RawRecord &record)
 {
-    switch (record.facts().form) {
+    switch (record.facts.form) {
     case TakenReport::Form::Asterix:
-        return categoryName(record.facts().category);
+        return categoryName(record.facts.category);
     case TakenReport::Form::ModeS:
         return Text::tr("Mode S");
     case TakenReport::Form::AleniaSirM:
@@ -76,13 +76,13 @@ QString formText(const RawRecord &record)
 
 QString sourceText(const RawRecord &record)
 {
-    const StreamBatch::Record &facts = record.facts();
+    const StreamBatch::Record &facts = record.facts;
     return facts.identified ? QStringLiteral("%1/%2").arg(facts.sac).arg(facts.sic) : QString();
 }
 
 QString identityText(const RawRecord &record)
 {
-    const StreamBatch::Record &facts = record.facts();
+    const StreamBatch::Record &facts = record.facts;
     QStringList parts;
     if (facts.form == TakenReport::Form::Asterix) {
         addAsterixIdentity(record, parts);
@@ -98,7 +98,7 @@ QString identityText(const RawRecord &record)
 
 QString outcomeText(const RawRecord &record)
 {
-    const StreamBatch::Record &facts = record.facts();
+    const StreamBatch::Record &facts = record.facts;
     const QString outcome = reportOutcomeText(facts.outcome);
     return facts.fault ? Text::tr("%1: %2, at octet %3")
                              .arg(outcome, faultText(QString::fromLatin1(facts.fault)))
@@ -108,7 +108,7 @@ QString outcomeText(const RawRecord &record)
 
 QString contentsText(const RawRecord &record)
 {
-    if (record.facts().form != TakenReport::Form::Asterix) {
+    if (record.facts.form != TakenReport::Form::Asterix) {
         return viewReport(record.kept()).name;
     }
     QStringList items;

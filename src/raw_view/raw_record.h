@@ -1,19 +1,20 @@
 #pragma once
 
 #include "engine/stream_tap.h"
+#include "raw_view/raw_page.h"
 #include "tracking/kept_report.h"
 
 #include <QString>
 
 #include <memory>
 
-// One record of the stream as it came: a place in the batch that it came in. Cheap to copy; keeps the batch alive.
+// One record of the stream as it came. Cheap to copy; keeps the page alive that its octets stand in.
 struct RawRecord {
-    std::shared_ptr<const StreamBatch> batch;
-    quint32 index = 0;
+    StreamBatch::Record facts; // its place is that in the page
+    std::shared_ptr<const RawPage> page;
     quint64 number = 0; // from 1, without a gap
 
-    const StreamBatch::Record &facts() const { return batch->records[index]; }
+    std::span<const unsigned char> octets() const { return page->octets(facts.offset, facts.size); }
 
     // With its octets, to be taken apart.
     KeptReport kept() const;

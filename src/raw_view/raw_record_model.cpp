@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 
 #include <algorithm>
+#include <atomic>
 
 namespace {
 
@@ -30,6 +31,14 @@ constexpr ColumnSpec Columns[] = {
     {QT_TRANSLATE_NOOP("RawRecordModel", "Holds"), "010 140 020 040 070 090 220 240 250 161", Qt::AlignLeft},
 };
 static_assert(std::size(Columns) == RawRecordModel::ColumnCount);
+
+// Whether nobody else reads it any more, on whichever thread.
+bool isUnshared(const std::shared_ptr<RawPage> &page)
+{
+    const bool isUnshared = page.use_count() == 1;
+    std::atomic_thread_fence(std::memory_order_acquire); // after what the last reader did
+    return isUnshared;
+}
 
 } // namespace
 
@@ -80,10 +89,10 @@ QVariant RawRecordModel::look(const RawRecord &record, int column, int role) con
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Columns[column].alignment | Qt::AlignVCenter);
     case Qt::ForegroundRole:
-        if (record.facts().outcome == ReportOutcome::Malformed) {
+        if (record.facts.outcome == ReportOutcome::Malformed) {
             return alarmTextColor(QGuiApplication::palette());
         }
-        return isShown(record.facts().outcome) ? QVariant() : quietTextColor(QGuiApplication::palette());
+        return isShown(record.facts.outcome) ? QVariant() : quietTextColor(QGuiApplication::palette());
     case Qt::ToolTipRole:
         return column == Outcome || column == Contents ? text(record, column) : QVariant();
     default:
@@ -95,13 +104,13 @@ QString RawRecordModel::text(const RawRecord &record, int column) const
 {
     switch (column) {
     case Time:
-        return QDateTime::fromMSecsSinceEpoch(record.facts().timeMs, Qt::UTC).toString(QStringLiteral("HH:mm:ss.zzz"));
+        return QDateTime::fromMSecsSinceEpoch(record.facts.timeMs, Qt::UTC).toString(QStringLiteral("HH:mm:ss.zzz"));
     case Form:
         return formText(record);
     case Source:
         return sourceText(record);
     case Size:
-        return QString::number(record.facts().size);
+        return QString::number(record.facts.size);
     case Identity:
         return identityText(record);
     case Outcome:
@@ -115,9 +124,11 @@ void RawRecordModel::append(const std::vector<std::shared_ptr<const StreamBatch>
 {
     std::vector<quint64> rows;
     for (const auto &batch : batches) {
-        for (std::size_t i = 0; i < batch->records.size(); ++i) {
-            const RawRecord &record = m_records.emplace_back(RawRecord{batch, static_cast<quint32>(i), m_nextNumber++});
-            m_octets += record.facts().size;
+        for (const StreamBatch::Record &received : batch->records) {
+            const auto &page = pageFor(received.size);
+            RawRecord &record = m_records.emplace_back(RawRecord{received, page, m_nextNumber++});
+            record.facts.offset = page->add(batch->octetsOf(received));
+            m_octets += received.size;
             if (m_filter.matches(record)) {
                 rows.push_back(record.number);
             }
@@ -131,6 +142,32 @@ void RawRecordModel::append(const std::vector<std::shared_ptr<const StreamBatch>
     dropOldest();
 }
 
+// The newest one, or one behind it.
+const std::shared_ptr<RawPage> &RawRecordModel::pageFor(std::size_t octets)
+{
+    if (!m_pages.empty() && m_pages.back()->hasRoomFor(octets)) {
+        return m_pages.back();
+    }
+    if (m_sparePages.empty() || octets > RawPage::UsualRoom) {
+        return m_pages.emplace_back(std::make_shared<RawPage>(std::max(octets, RawPage::UsualRoom)));
+    }
+    m_pages.push_back(std::move(m_sparePages.back()));
+    m_sparePages.pop_back();
+    return m_pages.back();
+}
+
+// Those before the oldest record's.
+void RawRecordModel::dropPages()
+{
+    while (m_pages.front() != m_records.front().page) {
+        if (m_pages.front()->room() == RawPage::UsualRoom && isUnshared(m_pages.front())) {
+            m_pages.front()->clear();
+            m_sparePages.push_back(std::move(m_pages.front()));
+        }
+        m_pages.pop_front();
+    }
+}
+
 void RawRecordModel::dropOldest()
 {
     if (m_records.size() <= MostRecords + MostRecords / DropShare && m_octets <= MostOctets + MostOctets / DropShare) {
@@ -139,7 +176,7 @@ void RawRecordModel::dropOldest()
     std::size_t going = 0;
     std::size_t octets = m_octets;
     while (m_records.size() - going > MostRecords || octets > MostOctets) {
-        octets -= m_records[going++].facts().size;
+        octets -= m_records[going++].facts.size;
     }
     const auto end = std::lower_bound(m_rows.begin(), m_rows.end(), m_records.front().number + going);
     const int rows = static_cast<int>(end - m_rows.begin());
@@ -148,6 +185,7 @@ void RawRecordModel::dropOldest()
     }
     m_records.erase(m_records.begin(), m_records.begin() + static_cast<std::ptrdiff_t>(going));
     m_octets = octets;
+    dropPages();
     if (rows > 0) {
         m_rows.erase(m_rows.begin(), end);
         endRemoveRows();
@@ -159,6 +197,8 @@ void RawRecordModel::clear()
     beginResetModel();
     m_records.clear();
     m_rows.clear();
+    m_pages.clear();
+    m_sparePages.clear();
     m_octets = 0;
     endResetModel();
 }

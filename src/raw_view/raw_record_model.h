@@ -43,12 +43,18 @@ public:
     std::size_t held() const { return m_records.size(); }
 
 private:
+    const std::shared_ptr<RawPage> &pageFor(std::size_t octets);
     void dropOldest();
+    void dropPages();
     QVariant look(const RawRecord &record, int column, int role) const;
     QString text(const RawRecord &record, int column) const;
 
     RawFilter m_filter;
     std::deque<RawRecord> m_records;
+    // Of the records, the oldest first; and those whose records have gone: were they given back, others would take
+    // pieces of their memory, and more would be needed every time.
+    std::deque<std::shared_ptr<RawPage>> m_pages;
+    std::vector<std::shared_ptr<RawPage>> m_sparePages;
     std::size_t m_octets = 0; // of all that are held
     std::deque<quint64> m_rows; // numbers of the listed ones
     quint64 m_nextNumber = 1;

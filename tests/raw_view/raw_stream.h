@@ -3,6 +3,7 @@
 #include "asterix/asterix.h"
 #include "encoded_report.h"
 #include "engine/stream_tap.h"
+#include "sirm/alenia_sir_m_radar_message.h"
 
 // Batches as the engine hands them over, of records made by hand; a millisecond from one to the next.
 class RawStream {
@@ -41,6 +42,14 @@ public:
     RawStream &add(int category, const QString &report, ReportOutcome outcome = ReportOutcome::Track)
     {
         return add(encodedReport(category, report), outcome);
+    }
+
+    // Each record of a message of SIR-M, or the message itself where it has none.
+    RawStream &add(const AleniaSirMRadarMessage &message, ReportOutcome outcome = ReportOutcome::Plot)
+    {
+        ++m_nowMs;
+        m_tap.takeSirM(message, outcome);
+        return *this;
     }
 
     Batches batches()

@@ -4,10 +4,13 @@
 #include "test_program.h"
 
 #include "astfile/file_reader.h"
+#include "sirm/alenia_sir_m_radar_decoder.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
 
 using Fate = RawFilter::Fate;
 Q_DECLARE_METATYPE(RawFilter)
@@ -34,6 +37,22 @@ private:
             texts += model.index(row, column).data().toString();
         }
         return texts;
+    }
+
+    static QString toldBy(const AleniaSirMRadarMessage &message)
+    {
+        if (const auto *marker = dynamic_cast<const AleniaSirMRadarNorthMarkerMessage *>(&message)) {
+            return QStringLiteral("turn %1").arg(marker->rotationPeriod());
+        }
+        const auto &data = dynamic_cast<const AleniaSirMRadarDataMessage &>(message);
+        QString text = QStringLiteral("%1: sector %2").arg(data.radarId()).arg(data.sector());
+        for (const auto &plot : data.plotRecords()) {
+            text += QStringLiteral(", plot at %1").arg(qRound(plot.azimuth()));
+        }
+        for (const auto &track : data.trackRecords()) {
+            text += QStringLiteral(", track %1").arg(track.trackNumber());
+        }
+        return text;
     }
 
 private Q_SLOTS:
@@ -97,15 +116,21 @@ private Q_SLOTS:
         QPersistentModelIndex early;
         QPersistentModelIndex late;
         const QByteArray plot = encodedReport(48, "161/TRN=7");
-        const QByteArray other = encodedReport(34, "000=1");
+        const auto damaged = [](qsizetype number) {
+            return QByteArray::fromHex("2203e8") + QByteArray(996, '\xff') + static_cast<char>(number);
+        };
+        std::vector<RawRecord> lookedAt; // by somebody who takes his time
         const auto most = static_cast<qsizetype>(RawRecordModel::MostRecords);
         for (qsizetype sent = 0; sent < most * 3 / 2; sent += 1000) {
             RawStream stream;
             for (int i = 0; i < 500; ++i) {
-                stream.add(plot).add(other);
+                stream.add(plot).add(damaged(sent / 1000));
             }
             model.append(stream.batches());
             if (sent == 0) {
+                model.setFilter({.category = 34});
+                lookedAt = model.listed();
+                model.setFilter({.category = 48});
                 early = model.index(3, 0);
             } else if (sent == most) {
                 late = model.index(model.rowCount() - 1, 0);
@@ -117,9 +142,14 @@ private Q_SLOTS:
         QVERIFY(!early.isValid() && late.isValid());
         const RawRecord &kept = model.record(late.row());
         QCOMPARE(model.rowOf(kept.number), late.row());
-        QCOMPARE(int(kept.facts().category), 48);
+        QCOMPARE(int(kept.facts.category), 48);
         QCOMPARE(kept.number, quint64(most + 999));
         QCOMPARE(model.rowOf(1), -1);
+        model.setFilter({.category = 34});
+        QCOMPARE(model.record(model.rowCount() - 1).kept().octets, damaged(most * 3 / 2000 - 1));
+        QCOMPARE(model.record(0).kept().octets, damaged((model.record(0).number - 1) / 1000));
+        QVERIFY(std::all_of(lookedAt.begin(), lookedAt.end(),
+            [&damaged](const RawRecord &record) { return record.kept().octets == damaged(0); }));
     }
 
     void exports()
@@ -150,6 +180,43 @@ private Q_SLOTS:
             reader->read(&packet);
         }
         QCOMPARE(packet.data, QByteArray::fromHex("300006e01900"));
+    }
+
+    // Each record as if its message had no other, so that other programs read it.
+    void capturesOfSirMCanBePlayed()
+    {
+        AleniaSirMRadarDataMessage data;
+        data.setRadarId(3);
+        data.setTimeOfDay(43200000);
+        data.setSector(5);
+        for (const double azimuth : {10.0, 20.0}) {
+            AleniaSirMRadarPlotRecord plot;
+            plot.setPolar(50.0, azimuth);
+            data.addPlotRecord(plot);
+        }
+        AleniaSirMRadarTrackRecord track;
+        track.setTrackNumber(77);
+        data.addTrackRecord(track);
+        AleniaSirMRadarNorthMarkerMessage marker;
+        marker.setRotationPeriod(4000);
+        RawStream stream;
+        RawRecordModel model;
+        model.append(stream.add(data).add(marker, ReportOutcome::SourceStatus).batches());
+        const QTemporaryDir folder;
+        QCOMPARE(exportRecords(model.listed(), folder.filePath("a.pcap")), QString());
+
+        const auto reader = korvane::astfile::FileReader::create(korvane::astfile::RecFile::Pcap);
+        QVERIFY(reader->open(folder.filePath("a.pcap"), korvane::astfile::RecFile::Pcap));
+        QStringList told;
+        for (auto packet = reader->read(); !reader->atEnd(); packet = reader->read()) {
+            const auto decoded =
+                AleniaSirMRadarDecoder::decode(reinterpret_cast<const unsigned char *>(packet.data.constData()),
+                    static_cast<std::size_t>(packet.data.size()));
+            QCOMPARE(decoded.size, static_cast<std::size_t>(packet.data.size()));
+            told += toldBy(*decoded.message);
+        }
+        QCOMPARE(told,
+            QStringList({"3: sector 5, plot at 10", "3: sector 5, plot at 20", "3: sector 5, track 77", "turn 4000"}));
     }
 };
 
