@@ -52,6 +52,14 @@ qint64 targetSum(const SourceFindings &source, SensorType type, qint64 CategoryF
     return total;
 }
 
+// Positions that mean nothing without the place of the sensor.
+bool hasRelativePlaces(const SourceFindings &source, SensorType type)
+{
+    return targetSum(source, type, &CategoryFindings::polarPositions)
+        + targetSum(source, type, &CategoryFindings::cartesianPositions)
+        > 0;
+}
+
 QString whyNoTracks(const SourceFindings &source, SensorType type)
 {
     if (targetSum(source, type, &CategoryFindings::records) == 0) {
@@ -63,11 +71,7 @@ QString whyNoTracks(const SourceFindings &source, SensorType type)
         return Text::tr("Its reports carry no aircraft addresses, so they make no tracks.");
     }
     if (!identified) {
-        const bool placed = targetSum(source, type, &CategoryFindings::polarPositions)
-                + targetSum(source, type, &CategoryFindings::cartesianPositions)
-                + targetSum(source, type, &CategoryFindings::wgs84Positions)
-            > 0;
-        return placed
+        return hasRelativePlaces(source, type) || targetSum(source, type, &CategoryFindings::wgs84Positions) > 0
             ? Text::tr("Its reports carry no track numbers, so they make no tracks; the plot layer shows them.")
             : Text::tr("Its reports carry no track numbers, so they make no tracks.");
     }
@@ -188,12 +192,13 @@ void InputProposal::describeSource(const SourceFindings &source, SensorType type
     setRotationPeriod(source.rotationPeriod);
 }
 
+// Reports without a track are drawn as plots.
 void InputProposal::placeSource(const SourceFindings &source, SensorType type)
 {
     const bool relative =
         type == RadarSensor || type == SmrSensor || !m_processor.processorAsterixIgnoreCartesianCoordinates;
-    m_siteMissing =
-        relative && type != AdsbSensor && !source.site.isValid() && (source.trackable(type) > 0 || hasPicture(source));
+    m_siteMissing = relative && type != AdsbSensor && !source.site.isValid()
+        && (hasRelativePlaces(source, type) || hasPicture(source));
     m_sensor->setLocation(source.site.isValid() ? source.site : m_siteMissing ? GeoCoordinate() : source.area.center);
 }
 
@@ -217,7 +222,10 @@ void InputProposal::chooseSirM(const SirMFindings &sirM, const SensorManager &se
         m_rotationPeriodMissing = sirM.rotationPeriod <= 0.0;
         setRotationPeriod(sirM.rotationPeriod);
     }
-    m_shortfall = sirM.tracks > 0 ? QString() : Text::tr("It holds no tracks.");
+    if (sirM.tracks == 0) {
+        m_shortfall = sirM.plots > 0 ? Text::tr("It holds no tracks; the plot layer shows its plots.")
+                                     : Text::tr("It holds no tracks.");
+    }
 }
 
 void InputProposal::setSite(const GeoCoordinate &site)

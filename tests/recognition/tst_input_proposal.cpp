@@ -111,7 +111,9 @@ private Q_SLOTS:
         QVERIFY(!proposal("62 040=9 105/LAT=50 105/LON=8").siteMissing());
         QVERIFY(proposal("62 040=9 100/X=50 100/Y=8").siteMissing());
         QVERIFY(proposal("10 000=1 161/TRK=5 040/RHO=800 040/TH=90").siteMissing());
-        QVERIFY(!proposal("34 000=1").siteMissing()); // nothing of it is drawn
+        QVERIFY(proposal("48 040/RHO=50 040/THETA=90").siteMissing()); // plots
+        QVERIFY(!proposal("48 070/MODE3A=07421").siteMissing()); // these two draw nothing
+        QVERIFY(!proposal("34 000=1").siteMissing());
     }
 
     void theSensorFileAnswers()
