@@ -50,9 +50,21 @@ QString basisText(RotationReport::Basis basis)
     return {};
 }
 
-Table rotationTable(const RotationReport &rotation)
+// Errors are errors against where the antenna is taken to stand.
+Row siteRow(const GeoCoordinate &site)
 {
+    const QString height = std::isnan(site.altitude()) ? Text::tr("height not known, taken as 0 m")
+                                                       : Text::tr("%1 m high").arg(number(site.altitude(), 0));
+    return Row{Text::tr("Place"), site.toATCString(GeoCoordinate::HighPrecision), height};
+}
+
+Table antennaTable(const SensorReport &report)
+{
+    const RotationReport &rotation = report.rotation;
     Table table{Text::tr("Antenna"), {}};
+    if (report.isSite()) {
+        table.rows += siteRow(report.site);
+    }
     if (rotation.basis == RotationReport::Basis::None) {
         table.rows += Row{Text::tr("Rotation period"), Text::tr("not known"), Text::tr("too few reports")};
         return table;
@@ -162,7 +174,7 @@ Table biasTable(const BiasReport &bias)
     if (!bias.solved) {
         return table;
     }
-    const QString interval = Text::tr("95 % confidence");
+    const QString interval = Text::tr("measured less reference, 95 % confidence");
     table.rows += Row{Text::tr("Range bias"), withConfidence(bias.rangeBias, 1.0, 1, Text::tr("m")), interval};
     table.rows += Row{Text::tr("Range gain"),
         withConfidence(bias.rangeGain, wgs84::MetresPerNauticalMile, 3, Text::tr("m/NM")), interval};
@@ -315,7 +327,7 @@ QString assessment::nameOf(ReferenceKind kind)
 QList<Table> assessment::tablesOf(const SensorReport &report)
 {
     QList<Table> tables{
-        rotationTable(report.rotation), delayTable(report), detectionTable(report), falsePlotTable(report.falsePlots)};
+        antennaTable(report), delayTable(report), detectionTable(report), falsePlotTable(report.falsePlots)};
     for (const BiasReport &bias : report.biases) {
         tables += biasTable(bias);
     }
