@@ -46,7 +46,7 @@ bool LooseReports::makeRoom(quint32 needed)
             return true;
         }
         if (oldestFollows) {
-            dropOldest();
+            dropBefore(m_end + wanted);
         } else {
             m_wrap = m_end;
             m_end = 0;
@@ -54,21 +54,27 @@ bool LooseReports::makeRoom(quint32 needed)
     }
 }
 
-void LooseReports::dropOldest()
+// Those in the way of what is to end at the place, up to the last one before those that begin anew.
+void LooseReports::dropBefore(quint32 end)
 {
-    const bool isFresh = m_fresh == m_count;
-    next(m_oldest);
-    if (--m_count == 0) {
+    quint32 at = m_oldest;
+    quint32 left = m_count;
+    for (; left > 0 && at < end && at != m_wrap; --left) {
+        at += sizeFor(reinterpret_cast<const LooseReport *>(m_memory.get() + at)->size);
+    }
+    if (left == 0) {
         clear();
         return;
     }
+    m_oldest = at;
+    m_count = left;
     if (m_oldest == m_wrap) {
         m_freshAt = m_freshAt == m_wrap ? 0 : m_freshAt;
         m_wrap = m_capacity;
         m_oldest = 0;
     }
-    if (isFresh) {
-        --m_fresh;
+    if (m_fresh > m_count) {
+        m_fresh = m_count;
         m_freshAt = m_oldest;
     }
 }

@@ -92,7 +92,7 @@ private:
     }
     bool makeRoomFor(const TakenReport &report);
     bool makeRoom(quint32 needed);
-    void dropOldest();
+    void dropBefore(quint32 end);
     template <typename Wanted>
     QList<KeptReport> newestOf(Wanted wanted, qsizetype maximum) const;
 
