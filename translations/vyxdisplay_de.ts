@@ -1075,10 +1075,6 @@
         <translation>zu wenige oder in zu wenigen Richtungen</translation>
     </message>
     <message>
-        <source>95 % confidence</source>
-        <translation>95 % Konfidenz</translation>
-    </message>
-    <message>
         <source>Range bias</source>
         <translation>Entfernungsablage</translation>
     </message>
@@ -1273,6 +1269,22 @@
     <message>
         <source>Methods</source>
         <translation>Verfahren</translation>
+    </message>
+    <message>
+        <source>height not known, taken as 0 m</source>
+        <translation>Höhe nicht bekannt, als 0 m angenommen</translation>
+    </message>
+    <message>
+        <source>%1 m high</source>
+        <translation>Höhe %1 m</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>measured less reference, 95 % confidence</source>
+        <translation>gemessen minus Referenz, Konfidenz 95 %</translation>
     </message>
 </context>
 <context>
@@ -1665,6 +1677,10 @@
         <source>Another program listens on the control socket %1.</source>
         <translation>Am Steuer-Socket %1 hört ein anderes Programm.</translation>
     </message>
+    <message>
+        <source>The folder of the control socket %1 is not there.</source>
+        <translation>Den Ordner des Steuer-Sockets %1 gibt es nicht.</translation>
+    </message>
 </context>
 <context>
     <name>CoordinateEdit</name>
@@ -1767,6 +1783,13 @@
     <message>
         <source>The demonstration traffic crashed or was killed.</source>
         <translation>Der Verkehr der Vorführung ist abgestürzt oder wurde beendet.</translation>
+    </message>
+</context>
+<context>
+    <name>DetectionLayer</name>
+    <message>
+        <source>Detection</source>
+        <translation>Erfassung</translation>
     </message>
 </context>
 <context>
@@ -2642,6 +2665,10 @@
         <source>No page has all of these words.</source>
         <translation>Keine Seite enthält alle diese Wörter.</translation>
     </message>
+    <message>
+        <source>This page is available in English only.</source>
+        <translation>Diese Seite gibt es nur auf Englisch.</translation>
+    </message>
 </context>
 <context>
     <name>InputConfigPage</name>
@@ -2680,10 +2707,6 @@
     <message>
         <source>&amp;Baud rate:</source>
         <translation>&amp;Baudrate:</translation>
-    </message>
-    <message>
-        <source>Da&amp;ta bits:</source>
-        <translation>Da&amp;tenbits:</translation>
     </message>
     <message>
         <source>&amp;Parity:</source>
@@ -2754,10 +2777,6 @@
         <translation>Wie die Nachrichten des Sensors hereinkommen: über ein Netz, eine serielle Leitung oder aus einer Aufzeichnung.</translation>
     </message>
     <message>
-        <source>Start &amp;input at program start</source>
-        <translation>Eingang beim Programmstart st&amp;arten</translation>
-    </message>
-    <message>
         <source>The input is opened by itself as soon as the program runs.</source>
         <translation>Der Eingang wird von selbst geöffnet, sobald das Programm läuft.</translation>
     </message>
@@ -2800,6 +2819,14 @@
     <message>
         <source>Stop the input first: its settings are locked while it runs.</source>
         <translation>Stoppen Sie zuerst den Eingang: seine Einstellungen sind gesperrt, solange er läuft.</translation>
+    </message>
+    <message>
+        <source>Start input a&amp;t program start</source>
+        <translation>Eingang beim Programms&amp;tart starten</translation>
+    </message>
+    <message>
+        <source>Data b&amp;its:</source>
+        <translation>Datenb&amp;its:</translation>
     </message>
 </context>
 <context>
@@ -2982,6 +3009,10 @@ Mehr dazu: Ansicht, Zustand des Eingangs.</translation>
     <message>
         <source>Its reports carry no track numbers, so they make no tracks; the plot layer shows them.</source>
         <translation>Ihre Meldungen tragen keine Tracknummern und ergeben daher keine Tracks; die Plot-Ebene zeigt sie.</translation>
+    </message>
+    <message>
+        <source>It holds no tracks; the plot layer shows its plots.</source>
+        <translation>Sie enthält keine Tracks; die Plot-Ebene zeigt ihre Plots.</translation>
     </message>
 </context>
 <context>
@@ -7088,6 +7119,14 @@ Es wird von selbst weiter versucht.</translation>
         <source>Description</source>
         <translation>Beschreibung</translation>
     </message>
+    <message>
+        <source>The sensor of the input</source>
+        <translation>Der Sensor des Eingangs</translation>
+    </message>
+    <message>
+        <source>%1, the sensor of the input</source>
+        <translation>%1, der Sensor des Eingangs</translation>
+    </message>
 </context>
 <context>
     <name>SensorManager</name>
@@ -7315,6 +7354,18 @@ Es wird von selbst weiter versucht.</translation>
     <message>
         <source>No sensors yet. Add one, or import a file.</source>
         <translation>Noch keine Sensoren. Fügen Sie einen hinzu oder importieren Sie eine Datei.</translation>
+    </message>
+    <message>
+        <source>Sensor of the input: none</source>
+        <translation>Sensor des Eingangs: keiner</translation>
+    </message>
+    <message>
+        <source>Sensor of the input: %1. Its record has other values by now: use it again to take them.</source>
+        <translation>Sensor des Eingangs: %1. Sein Datensatz hat inzwischen andere Werte: verwenden Sie ihn erneut, um sie zu übernehmen.</translation>
+    </message>
+    <message>
+        <source>Sensor of the input: %1</source>
+        <translation>Sensor des Eingangs: %1</translation>
     </message>
 </context>
 <context>
@@ -7871,6 +7922,13 @@ Es wird von selbst weiter versucht.</translation>
     <message>
         <source>Not used, mostly because</source>
         <translation>Nicht verwendet, meist weil</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n report(s)</source>
+        <translation>
+            <numerusform>%n Meldung</numerusform>
+            <numerusform>%n Meldungen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -9594,6 +9652,10 @@ Es wird von selbst weiter versucht.</translation>
     <message>
         <source>&amp;Resume</source>
         <translation>Fo&amp;rtsetzen</translation>
+    </message>
+    <message>
+        <source>%1 were there already</source>
+        <translation>%1 waren schon da</translation>
     </message>
 </context>
 <context>

@@ -86,6 +86,16 @@
     </message>
 </context>
 <context>
+    <name>SourceTableModel</name>
+    <message numerus="yes">
+        <source>%n report(s)</source>
+        <translation>
+            <numerusform>%n report</numerusform>
+            <numerusform>%n reports</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>TrackExplanation</name>
     <message numerus="yes">
         <source>in none of the last %n report(s)</source>

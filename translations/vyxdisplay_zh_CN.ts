@@ -1074,10 +1074,6 @@
         <translation>太少或方向太少</translation>
     </message>
     <message>
-        <source>95 % confidence</source>
-        <translation>95 % 置信度</translation>
-    </message>
-    <message>
         <source>Range bias</source>
         <translation>距离系统误差</translation>
     </message>
@@ -1272,6 +1268,22 @@
     <message>
         <source>Methods</source>
         <translation>方法</translation>
+    </message>
+    <message>
+        <source>height not known, taken as 0 m</source>
+        <translation>高度未知，按 0 m 计</translation>
+    </message>
+    <message>
+        <source>%1 m high</source>
+        <translation>高度 %1 m</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>measured less reference, 95 % confidence</source>
+        <translation>测量值减参考值，置信度 95 %</translation>
     </message>
 </context>
 <context>
@@ -1662,6 +1674,10 @@
         <source>Another program listens on the control socket %1.</source>
         <translation>另一个程序正在监听控制套接字 %1。</translation>
     </message>
+    <message>
+        <source>The folder of the control socket %1 is not there.</source>
+        <translation>控制套接字 %1 所在的文件夹不存在。</translation>
+    </message>
 </context>
 <context>
     <name>CoordinateEdit</name>
@@ -1764,6 +1780,13 @@
     <message>
         <source>The demonstration traffic crashed or was killed.</source>
         <translation>演示交通崩溃或被终止。</translation>
+    </message>
+</context>
+<context>
+    <name>DetectionLayer</name>
+    <message>
+        <source>Detection</source>
+        <translation>探测</translation>
     </message>
 </context>
 <context>
@@ -2639,6 +2662,10 @@
         <source>No page has all of these words.</source>
         <translation>没有页面包含所有这些文字。</translation>
     </message>
+    <message>
+        <source>This page is available in English only.</source>
+        <translation>本页仅有英文版。</translation>
+    </message>
 </context>
 <context>
     <name>InputConfigPage</name>
@@ -2677,10 +2704,6 @@
     <message>
         <source>&amp;Baud rate:</source>
         <translation>波特率(&amp;B)：</translation>
-    </message>
-    <message>
-        <source>Da&amp;ta bits:</source>
-        <translation>数据位(&amp;T)：</translation>
     </message>
     <message>
         <source>&amp;Parity:</source>
@@ -2751,10 +2774,6 @@
         <translation>传感器报文的来源：网络、串口或记录文件。</translation>
     </message>
     <message>
-        <source>Start &amp;input at program start</source>
-        <translation>程序启动时启动输入(&amp;W)</translation>
-    </message>
-    <message>
         <source>The input is opened by itself as soon as the program runs.</source>
         <translation>程序运行后自动打开输入。</translation>
     </message>
@@ -2797,6 +2816,14 @@
     <message>
         <source>Stop the input first: its settings are locked while it runs.</source>
         <translation>请先停止输入：运行时其设置被锁定。</translation>
+    </message>
+    <message>
+        <source>Start input a&amp;t program start</source>
+        <translation>程序启动时启动输入(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Data b&amp;its:</source>
+        <translation>数据位(&amp;I):</translation>
     </message>
 </context>
 <context>
@@ -2979,6 +3006,10 @@ More: View, Input Health.</source>
     <message>
         <source>Its reports carry no track numbers, so they make no tracks; the plot layer shows them.</source>
         <translation>其报告不含航迹号，因此不形成航迹；点迹图层会显示它们。</translation>
+    </message>
+    <message>
+        <source>It holds no tracks; the plot layer shows its plots.</source>
+        <translation>其中没有航迹；点迹图层显示其点迹。</translation>
     </message>
 </context>
 <context>
@@ -7081,6 +7112,14 @@ Another attempt is made by itself.</source>
         <source>Description</source>
         <translation>说明</translation>
     </message>
+    <message>
+        <source>The sensor of the input</source>
+        <translation>输入所用的传感器</translation>
+    </message>
+    <message>
+        <source>%1, the sensor of the input</source>
+        <translation>%1，输入所用的传感器</translation>
+    </message>
 </context>
 <context>
     <name>SensorManager</name>
@@ -7306,6 +7345,18 @@ Another attempt is made by itself.</source>
     <message>
         <source>No sensors yet. Add one, or import a file.</source>
         <translation>尚无传感器。请添加，或导入文件。</translation>
+    </message>
+    <message>
+        <source>Sensor of the input: none</source>
+        <translation>输入所用的传感器：无</translation>
+    </message>
+    <message>
+        <source>Sensor of the input: %1. Its record has other values by now: use it again to take them.</source>
+        <translation>输入所用的传感器：%1。其记录现已有其他值：请再次使用以采用这些值。</translation>
+    </message>
+    <message>
+        <source>Sensor of the input: %1</source>
+        <translation>输入所用的传感器：%1</translation>
     </message>
 </context>
 <context>
@@ -7862,6 +7913,12 @@ Another attempt is made by itself.</source>
     <message>
         <source>Not used, mostly because</source>
         <translation>未使用，主要原因</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n report(s)</source>
+        <translation>
+            <numerusform>%n 条报告</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -9585,6 +9642,10 @@ Another attempt is made by itself.</source>
     <message>
         <source>&amp;Resume</source>
         <translation>继续(&amp;R)</translation>
+    </message>
+    <message>
+        <source>%1 were there already</source>
+        <translation>%1 个已存在</translation>
     </message>
 </context>
 <context>
