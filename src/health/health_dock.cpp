@@ -25,7 +25,7 @@ HealthDock::HealthDock(const InputHealth *health, QMainWindow *window, QDockWidg
     connect(m_pane, &HealthPane::cureRequested, this, &HealthDock::cureRequested);
     connect(health, &InputHealth::sourcesChanged, this, &HealthDock::refresh);
     connect(health, &InputHealth::changed, this, &HealthDock::refresh);
-    connect(this, &QDockWidget::visibilityChanged, this, &HealthDock::refresh);
+    connect(this, &QDockWidget::visibilityChanged, health, [this] { refresh(); }); // the health may go before the window
 }
 
 void HealthDock::setDiagnosis(const QStringList &sentences)
