@@ -8,9 +8,11 @@
 #include <QDialogButtonBox>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
-constexpr int Columns = 64; // of the window, in characters
+constexpr int Columns = 64; // of the window at first, in characters
 
 // What the settings start with is a good start for a new record, too.
 void fillDefaults(SensorForm *form)
@@ -46,7 +48,8 @@ SensorEditWindow::SensorEditWindow(
     layout->addSpacing(8);
     layout->addStretch(1);
     layout->addWidget(buttons);
-    setMinimumWidth(fontMetrics().averageCharWidth() * Columns);
+    const QSize needed = sizeHint();
+    resize(std::max(needed.width(), fontMetrics().averageCharWidth() * Columns), needed.height());
 }
 
 void SensorEditWindow::accept()
