@@ -121,8 +121,7 @@ void InputConfigPage::addSerialRows()
     m_serialDevice->setToolTip(tr("The serial port that the sensor's line is plugged into."));
     form()->addField(tr("D&evice:"), m_serialDevice);
     bind<QString>(
-        m_serialDevice, &Config::inputSerialDevice,
-        [this](const QString &device) { m_serialDevice->setCurrentText(device); },
+        m_serialDevice, &Config::inputSerialDevice, [this](const QString &device) { showDevice(device); },
         [this] { return std::optional(m_serialDevice->currentText().trimmed()); });
 
     m_baudRate = new QComboBox;
@@ -271,10 +270,17 @@ void InputConfigPage::takeDevices(const DeviceWatch::Devices &devices)
         const QSignalBlocker blocker(m_serialDevice);
         m_serialDevice->clear();
         m_serialDevice->addItems(m_serialPorts);
-        m_serialDevice->setCurrentText(entered);
+        showDevice(entered);
     }
     noteMissingDevice();
     listenSoon();
+}
+
+// A name that is not offered has no place among them, so that the keys lead from it to the first.
+void InputConfigPage::showDevice(const QString &device)
+{
+    m_serialDevice->setCurrentIndex(m_serialDevice->findText(device));
+    m_serialDevice->setCurrentText(device);
 }
 
 void InputConfigPage::noteMissingDevice()

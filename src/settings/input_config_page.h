@@ -68,6 +68,7 @@ private:
     bool validateSerial();
     bool validateFile();
     void takeDevices(const DeviceWatch::Devices &devices);
+    void showDevice(const QString &device);
     void noteMissingDevice();
     bool isComplete() const;
     void listenSoon();
