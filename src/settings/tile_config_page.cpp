@@ -177,21 +177,18 @@ void TileConfigPage::addCustomRows()
 void TileConfigPage::addTrialRow()
 {
     m_trial = new TileTrial(this);
-    m_try = new QPushButton(tr("&Try"));
-    m_try->setObjectName(QStringLiteral("tryTileService"));
-    m_try->setAutoDefault(false);
-    m_try->setToolTip(tr("Fetches one tile from this service with the values of this page."));
+    auto *attempt = new QPushButton(tr("&Try"));
+    attempt->setObjectName(QStringLiteral("tryTileService"));
+    attempt->setAutoDefault(false);
+    attempt->setToolTip(tr("Fetches one tile from this service with the values of this page."));
     m_trialWords = new QLabel;
     m_trialWords->setObjectName(QStringLiteral("trialWords"));
     m_trialWords->setTextFormat(Qt::PlainText);
     m_trialWords->setWordWrap(true);
-    form()->addField(m_try);
+    form()->addField(attempt);
     form()->addField(m_trialWords);
-    connect(m_try, &QPushButton::clicked, this, &TileConfigPage::tryService);
-    connect(m_trial, &TileTrial::finished, this, [this](const QString &words) {
-        m_trialWords->setText(words);
-        m_try->setEnabled(true);
-    });
+    connect(attempt, &QPushButton::clicked, this, &TileConfigPage::tryService);
+    connect(m_trial, &TileTrial::finished, m_trialWords, &QLabel::setText);
 }
 
 void TileConfigPage::tryService()
@@ -206,7 +203,6 @@ void TileConfigPage::tryService()
         m_trialWords->setText(tr("The demonstration asks no tile service, only files of tiles are shown."));
         return;
     }
-    m_try->setEnabled(false);
     m_trialWords->setText(tr("Asking %1 ...").arg(m_shownService->currentText()));
     m_trial->start(service, entered);
 }

@@ -65,7 +65,6 @@ private:
     QList<QLineEdit *> m_servers;
     QLineEdit *m_template = nullptr;
     QLineEdit *m_header = nullptr;
-    QPushButton *m_try = nullptr;
     QLabel *m_trialWords = nullptr;
     TileTrial *m_trial = nullptr;
     bool m_barred = false;
