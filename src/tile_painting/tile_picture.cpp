@@ -128,8 +128,7 @@ QList<QRect> TilePicture::takeParts()
     }
     const auto place = [](const QPoint &cell) { return std::tuple(cell.y(), cell.x()); };
     std::ranges::sort(cells, {}, place);
-    const auto same = std::ranges::unique(cells);
-    cells.erase(same.begin(), same.end());
+    cells.erase(std::unique(cells.begin(), cells.end()), cells.end());
     return onScreen(cells, m_level, m_view);
 }
 
