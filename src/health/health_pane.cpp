@@ -71,7 +71,7 @@ void HealthPane::fitColumns()
         const int title = m_table->horizontalHeader()->sectionSizeHint(column);
         m_table->setColumnWidth(column, std::max(title, metrics.horizontalAdvance(widest) + 16));
     };
-    setWidth(SourceTableModel::Source, "255/255 CAT240 oo");
+    setWidth(SourceTableModel::Source, QCoreApplication::translate("SourceJudge", "no SAC/SIC") + " CAT240 oo");
     setWidth(SourceTableModel::Rate, "1000.0/s");
     setWidth(SourceTableModel::Curve, SourceTableModel::tr("Last 10 minutes"));
     setWidth(SourceTableModel::Delay, "-10.0 s");

@@ -29,6 +29,7 @@ class Judge {
 
 public:
     static QString unidentified() { return tr("no SAC/SIC"); }
+    static QString noBlocks() { return tr("no data blocks"); }
     static QString sirM() { return tr("SIR-M %1"); }
     static QString onEndpoint() { return tr("%1 (input %2)"); }
     static QString timeText(qint64 ms)
@@ -195,7 +196,9 @@ QString SourceJudge::nameOf(const SourceStatistics &source)
     }
     const QString station =
         source.identified ? QStringLiteral("%1/%2").arg(source.sac).arg(source.sic) : Judge::unidentified();
-    const QString name = QStringLiteral("%1 CAT%2").arg(station).arg(source.category, 3, 10, QLatin1Char('0'));
+    const QString name = source.category == 0
+        ? Judge::noBlocks()
+        : QStringLiteral("%1 CAT%2").arg(station).arg(source.category, 3, 10, QLatin1Char('0'));
     return source.endpoint > 0 ? Judge::onEndpoint().arg(name).arg(source.endpoint + 1) : name;
 }
 

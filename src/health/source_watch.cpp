@@ -171,7 +171,8 @@ std::optional<HealthNotice> SourceWatch::lossNotice() const
 QString SourceWatch::remarks() const
 {
     QStringList sentences;
-    if (m_drops > 0) {
+    const auto loss = lossNotice();
+    if (m_drops > 0 && (!loss || notice() != loss)) { // else it is said with it
         sentences += tr("%1 datagrams found no room in the system's buffer.").arg(m_drops);
     }
     if (m_input.undecodableMessages > 0) {

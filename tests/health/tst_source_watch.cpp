@@ -116,6 +116,7 @@ void TestSourceWatch::losses()
     scene.input.backlog.kernelDrops = 7;
     scene.take({});
     QCOMPARE(scene.headline(), QString("DATA LOST: 7 datagrams since 08:00:00"));
+    QVERIFY2(scene.watch.remarks().isEmpty(), "what the headline says is not said again");
     scene.input.timeMs += SourceWatch::LossShownMs;
     scene.take({});
     QVERIFY(!scene.watch.notice());
