@@ -249,9 +249,9 @@ QJsonObject delayJson(const DelayReport &delay)
 
 QJsonObject rotationJson(const RotationReport &rotation)
 {
-    static const QString Names[] = {QStringLiteral("none"), QStringLiteral("northMarkers"), QStringLiteral("sectors"),
+    static const QString names[] = {QStringLiteral("none"), QStringLiteral("northMarkers"), QStringLiteral("sectors"),
         QStringLiteral("reported"), QStringLiteral("trackUpdates")};
-    return {{QStringLiteral("basis"), Names[static_cast<int>(rotation.basis)]},
+    return {{QStringLiteral("basis"), names[static_cast<int>(rotation.basis)]},
         {QStringLiteral("turns"), rotation.turns}, {QStringLiteral("period"), rotation.period},
         {QStringLiteral("jitter"), rotation.jitter}, {QStringLiteral("shortest"), rotation.shortest},
         {QStringLiteral("longest"), rotation.longest}};
