@@ -7884,6 +7884,10 @@ Es wird von selbst weiter versucht.</translation>
         <source>arrives as usual</source>
         <translation>kommt wie üblich</translation>
     </message>
+    <message>
+        <source>no data blocks</source>
+        <translation>keine Datenblöcke</translation>
+    </message>
 </context>
 <context>
     <name>SourceTableModel</name>

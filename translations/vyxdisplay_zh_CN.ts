@@ -7875,6 +7875,10 @@ Another attempt is made by itself.</source>
         <source>arrives as usual</source>
         <translation>正常到达</translation>
     </message>
+    <message>
+        <source>no data blocks</source>
+        <translation>非数据块</translation>
+    </message>
 </context>
 <context>
     <name>SourceTableModel</name>

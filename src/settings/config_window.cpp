@@ -51,6 +51,16 @@ public:
         const int most = screen()->availableSize().width() * 7 / 10;
         return {std::min(wanted, most), QScrollArea::minimumSizeHint().height()};
     }
+
+protected:
+    // A row that appears may be wider than those that were there.
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::LayoutRequest) {
+            updateGeometry();
+        }
+        return QScrollArea::eventFilter(watched, event);
+    }
 };
 
 } // namespace
