@@ -290,9 +290,9 @@ std::vector<Sitting> sittings()
 QString asInstalled(QString text)
 {
     const QString share = QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/../share")).canonicalPath();
-    static const QRegularExpression Temporary(
+    static const QRegularExpression temporary(
         QRegularExpression::escape(QDir::tempPath()) + QStringLiteral("/VyxDisplay-\\w+"));
-    return text.replace(share, QStringLiteral("/usr/share")).replace(Temporary, QStringLiteral("/home/user"));
+    return text.replace(share, QStringLiteral("/usr/share")).replace(temporary, QStringLiteral("/home/user"));
 }
 
 void showPathsAsInstalled(const QWidget &widget)

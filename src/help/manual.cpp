@@ -25,10 +25,10 @@ QString readFile(const QString &path)
 
 QString withoutMarks(QString line)
 {
-    static const QRegularExpression Picture(QStringLiteral(R"(!\[[^\]]*\]\([^)]*\))"));
-    static const QRegularExpression Link(QStringLiteral(R"(\[([^\]]*)\]\([^)]*\))"));
-    static const QRegularExpression Rule(QStringLiteral(R"(^[\s|:-]+$)"));
-    line.remove(Picture).replace(Link, QStringLiteral("\\1")).remove(Rule);
+    static const QRegularExpression picture(QStringLiteral(R"(!\[[^\]]*\]\([^)]*\))"));
+    static const QRegularExpression link(QStringLiteral(R"(\[([^\]]*)\]\([^)]*\))"));
+    static const QRegularExpression rule(QStringLiteral(R"(^[\s|:-]+$)"));
+    line.remove(picture).replace(link, QStringLiteral("\\1")).remove(rule);
     line.remove(QStringLiteral("**")).remove(u'`').replace(u'|', u' ');
     return line.simplified();
 }
@@ -42,16 +42,16 @@ Manual::Section sectionOf(const QString &heading)
 
 QList<Manual::Section> sectionsOf(const QString &markdown)
 {
-    static const QRegularExpression Heading(QStringLiteral("^#{1,6} "));
-    static const QRegularExpression Item(QStringLiteral(R"(^(\s*[-*]|\s*\d+\.|>)\s+)"));
+    static const QRegularExpression heading(QStringLiteral("^#{1,6} "));
+    static const QRegularExpression item(QStringLiteral(R"(^(\s*[-*]|\s*\d+\.|>)\s+)"));
     QList<Manual::Section> sections;
     bool literal = false;
     for (const QString &line : markdown.split(u'\n')) {
         literal = literal != line.startsWith(QLatin1String("```"));
-        if (!literal && Heading.match(line).hasMatch()) {
+        if (!literal && heading.match(line).hasMatch()) {
             sections.append(sectionOf(line));
         } else if (!sections.isEmpty()) {
-            const QString text = literal ? line.simplified() : withoutMarks(QString(line).remove(Item));
+            const QString text = literal ? line.simplified() : withoutMarks(QString(line).remove(item));
             sections.last().text += text.isEmpty() ? text : text + u' ';
         }
     }
@@ -90,7 +90,7 @@ Manual::Manual(const MadePages &made, const QString &language, const QString &fo
 
 void Manual::readIndex(const MadePages &made)
 {
-    static const QRegularExpression Entry(QStringLiteral(R"(^- \[[^\]]*\]\(([a-z0-9-]+\.md)\))"));
+    static const QRegularExpression entry(QStringLiteral(R"(^- \[[^\]]*\]\(([a-z0-9-]+\.md)\))"));
     Page index = readPage(QString::fromLatin1(IndexPage));
     QString shown;
     QString chapter;
@@ -99,7 +99,7 @@ void Manual::readIndex(const MadePages &made)
         if (line.startsWith(QLatin1String("## "))) {
             chapter = line.mid(3).trimmed();
         }
-        const QString file = Entry.match(line).captured(1);
+        const QString file = entry.match(line).captured(1);
         if (!file.isEmpty()) {
             const QString own = made.value(file);
             Page page = own.isEmpty() ? readPage(file) : Page{file, {}, m_language, own, sectionsOf(own)};

@@ -44,9 +44,9 @@ QStringList translationsOfTheManual()
 // In order of their targets: sentences may have them in another one.
 QStringList linksOf(const Manual::Page &page)
 {
-    static const QRegularExpression Link(QStringLiteral(R"(\]\(([^)\s]+)\))"));
+    static const QRegularExpression link(QStringLiteral(R"(\]\(([^)\s]+)\))"));
     QStringList targets;
-    QRegularExpressionMatchIterator links = Link.globalMatch(page.markdown);
+    QRegularExpressionMatchIterator links = link.globalMatch(page.markdown);
     while (links.hasNext()) {
         targets.append(links.next().captured(1));
     }
@@ -59,8 +59,8 @@ QStringList outlineOf(const Manual::Page &page)
 {
     QStringList outline{page.file};
     for (const QString &line : page.markdown.split('\n')) {
-        static const QRegularExpression Mark(QStringLiteral(R"(^(#+ |\|--|\||- |\d\. |    \S|```))"));
-        const QString mark = Mark.match(line).captured(1);
+        static const QRegularExpression marked(QStringLiteral(R"(^(#+ |\|--|\||- |\d\. |    \S|```))"));
+        const QString mark = marked.match(line).captured(1);
         if (!mark.isEmpty()) {
             outline.append(mark);
         }
@@ -71,7 +71,7 @@ QStringList outlineOf(const Manual::Page &page)
 // Classes of windows, panes and pages of settings, as the sources declare them.
 QSet<QString> windowsOfTheProgram()
 {
-    static const QRegularExpression Window(QStringLiteral(
+    static const QRegularExpression window(QStringLiteral(
         R"(class (\w+)(?: final)? : public (?:QDialog|QMainWindow|QDockWidget|GeometryDialog|MarkdownWindow|ConfigPage)\b)"));
     QSet<QString> classes;
     QDirIterator files(
@@ -81,7 +81,7 @@ QSet<QString> windowsOfTheProgram()
         if (!file.open(QIODevice::ReadOnly)) {
             continue;
         }
-        QRegularExpressionMatchIterator found = Window.globalMatch(QString::fromUtf8(file.readAll()));
+        QRegularExpressionMatchIterator found = window.globalMatch(QString::fromUtf8(file.readAll()));
         while (found.hasNext()) {
             classes.insert(found.next().captured(1));
         }

@@ -27,8 +27,8 @@ namespace {
 // As the manual writes it.
 QString nameOf(QString text)
 {
-    static const QRegularExpression Dots(QStringLiteral(R"(\s*\.\.\.$)"));
-    return text.remove('&').replace(Dots, QStringLiteral("…"));
+    static const QRegularExpression dots(QStringLiteral(R"(\s*\.\.\.$)"));
+    return text.remove('&').replace(dots, QStringLiteral("…"));
 }
 
 // "File → Settings…", with the keys.
