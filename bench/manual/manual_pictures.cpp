@@ -170,17 +170,15 @@ QWidget *sensorCheck(MainWindow &window)
     return check;
 }
 
-// Of some that are in the view, and some that are not.
+// Of some that are in the view, and some that are not; it stays as near as that.
 QWidget *absence(MainWindow &window)
 {
-    const double before = window.geoWidget()->currentZoom();
     scopeWith({}, 150.0)(window);
     QWidget *opened = windowOf(ActionId::WhyNotShown, {520, 300})(window);
     if (auto *question = qobject_cast<AbsenceWindow *>(opened)) {
         question->setText(QStringLiteral("VYX"));
         let(2500);
     }
-    scopeWith({}, before)(window);
     return opened;
 }
 
@@ -275,12 +273,12 @@ std::vector<Sitting> sittings()
                 {"diagnosis", windowOf(Id::DiagnoseInput, {720, 240}, 12000)},
                 {"sensor-check", sensorCheck},
                 {"getting-started", windowOf(Id::GettingStarted, {560, 360})},
-                {"absence", absence},
                 {"plan-view", windowOf(Id::NewPlanView, {720, 480}, 3000)},
                 {"manual", windowOf(Id::Contents, {900, 600})},
                 {"cheat-sheet", windowOf(Id::CheatSheet)},
                 {"health", health},
                 {"explanation", explanation},
+                {"absence", absence},
             }},
         {"playback", "", "Night", wide, 20, {{"playback", windowOf(Id::PlaybackWindow, {620, 190}, 6000)}}},
     };
