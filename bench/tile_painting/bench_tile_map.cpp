@@ -9,8 +9,10 @@
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QHash>
 #include <QImage>
+#include <QThread>
 
 #include <algorithm>
 #include <cmath>
@@ -53,11 +55,7 @@ public:
         MercatorProjector projector;
         const QPointF middle = projector.toCartesian(48.0, 16.0);
         m_screen.lookAt(middle, MetresPerPixel, rotation);
-        paint();
-        for (int i = 0; i < 50; ++i) { // what is toned in the background
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-            paint();
-        }
+        settle();
     }
 
     void pan(double pixels) { m_screen.pan(pixels); }
@@ -66,6 +64,21 @@ public:
     int tiles() const { return static_cast<int>(TilePlane::covering(m_screen.planeRect(), Level).count()); }
 
 private:
+    // Until what is toned and drawn in the background has come.
+    void settle()
+    {
+        QElapsedTimer quiet;
+        quiet.start();
+        while (quiet.elapsed() < 300) {
+            paint();
+            if (m_layer.drawing()) {
+                quiet.restart();
+            }
+            QCoreApplication::processEvents();
+            QThread::msleep(1);
+        }
+    }
+
     QHash<TileIndex, QImage> m_tiles;
     GeoTileMap m_layer;
     BenchScreen m_screen{Screen};

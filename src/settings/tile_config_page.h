@@ -5,7 +5,6 @@
 #include <QHash>
 
 class FileEdit;
-class QPushButton;
 class TileTrial;
 
 // Settings of the map tiles: which services lie under and over the static maps, what each of them needs, and how the
