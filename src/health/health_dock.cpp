@@ -25,7 +25,8 @@ HealthDock::HealthDock(const InputHealth *health, QMainWindow *window, QDockWidg
     connect(m_pane, &HealthPane::cureRequested, this, &HealthDock::cureRequested);
     connect(health, &InputHealth::sourcesChanged, this, &HealthDock::refresh);
     connect(health, &InputHealth::changed, this, &HealthDock::refresh);
-    connect(this, &QDockWidget::visibilityChanged, health, [this] { refresh(); }); // the health may go before the window
+    // The health may go before the window.
+    connect(this, &QDockWidget::visibilityChanged, health, [this] { refresh(); });
 }
 
 void HealthDock::setDiagnosis(const QStringList &sentences)
