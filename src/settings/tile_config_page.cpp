@@ -347,9 +347,9 @@ bool TileConfigPage::validateCustom()
             && (address.contains(QStringLiteral("{y}")) || address.contains(QStringLiteral("{-y}"))));
     const bool good = address.isEmpty() || !edited(m_template) || (tiled && isWebAddress(address));
     const bool headed = m_header->text().isEmpty() || !edited(m_header) || m_header->text().indexOf(u':') > 0;
-    return form()->check(m_template,
-               good ? QString() : tr("An address with http:// or https://, and {z}, {x} and {y} or {quadkey} in it."))
-        & form()->check(m_header, headed ? QString() : tr("A name, a colon and a value."));
+    const bool addressed = form()->check(m_template,
+        good ? QString() : tr("An address with http:// or https://, and {z}, {x} and {y} or {quadkey} in it."));
+    return form()->check(m_header, headed ? QString() : tr("A name, a colon and a value.")) && addressed;
 }
 
 bool TileConfigPage::checkServer(QLineEdit *field)
