@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/config.h"
 #include "geo/mercator_projector.h"
 #include "tile_painting/geo_tile_map.h"
 #include "tile_painting/tile_plane.h"
@@ -126,3 +127,47 @@ private:
     QSize m_size;
     double m_ratio;
 };
+
+inline const GeoCoordinate Steep(35.3, 25.0); // where sphere and plane drift apart the quickest
+
+inline int differing(const QImage &image, const QColor &color)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            count += image.pixelColor(x, y) != color;
+        }
+    }
+    return count;
+}
+
+// Pixels whose red or green differ by more than that.
+inline int differing(const QImage &one, const QImage &other, int shades)
+{
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb here = one.pixel(x, y);
+            const QRgb there = other.pixel(x, y);
+            const int most = std::max(std::abs(qRed(here) - qRed(there)), std::abs(qGreen(here) - qGreen(there)));
+            count += most > shades ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+inline Config brightConfig()
+{
+    Config config;
+    config.mapTileDimming = 0;
+    config.mapTileDesaturation = 0;
+    config.mapBackgroundColor = Qt::black;
+    return config;
+}
+
+// In the colours of its tiles.
+inline void showBright(GeoTileMap &layer, TileSupply &supply)
+{
+    layer.applyConfig(brightConfig());
+    layer.setSource(supply.source());
+}

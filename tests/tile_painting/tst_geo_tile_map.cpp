@@ -8,47 +8,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-namespace {
-
-const GeoCoordinate Steep(35.3, 25.0); // where sphere and plane drift apart the quickest
-
-int differing(const QImage &image, const QColor &color)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            count += image.pixelColor(x, y) != color;
-        }
-    }
-    return count;
-}
-
-// Pixels whose red or green differ by more than that.
-int differing(const QImage &one, const QImage &other, int shades)
-{
-    int count = 0;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            const QRgb here = one.pixel(x, y);
-            const QRgb there = other.pixel(x, y);
-            const int most = std::max(std::abs(qRed(here) - qRed(there)), std::abs(qGreen(here) - qGreen(there)));
-            count += most > shades ? 1 : 0;
-        }
-    }
-    return count;
-}
-
-Config brightConfig()
-{
-    Config config;
-    config.mapTileDimming = 0;
-    config.mapTileDesaturation = 0;
-    config.mapBackgroundColor = Qt::black;
-    return config;
-}
-
-} // namespace
-
 class TestGeoTileMap : public QObject {
     Q_OBJECT
 
@@ -59,11 +18,6 @@ private Q_SLOTS:
     void movedPictureLooksAsIfDrawnAnew();
     void newViewIsSketchedAtOnce();
     void drawingOfALeftViewIsNoHarm();
-    void tilesThatComeLookAsIfDrawnAnew();
-    void coarserAndFinerTilesStandIn();
-    void tilesFadeIn();
-    void transparentTilesFadeToo();
-    void equalTilesFadeUnseen();
     void nothingIsDoneWhileNothingChanges();
     void densityTakesADeeperLevel();
     void toneIsOfTheBottomLayer();
@@ -124,8 +78,7 @@ void TestGeoTileMap::noSeams()
     TileSupply supply;
     supply.make = [green](const TileIndex &) { return plainTile(green); };
     GeoTileMap layer(GeoTileMap::Layer::Bottom);
-    layer.applyConfig(brightConfig());
-    layer.setSource(supply.source());
+    showBright(layer, supply);
     for (const double metresPerPixel : {11000.0, 700.0, 87.3, 4.1, 0.3}) {
         for (const double ratio : {1.0, 1.5, 2.0}) {
             for (const double rotation : {0.0, 1.0, 33.0, 45.0, 90.0, -127.3}) {
@@ -141,8 +94,7 @@ void TestGeoTileMap::movedPictureLooksAsIfDrawnAnew()
     TileSupply supply;
     supply.make = TileWaves::tile;
     GeoTileMap moving(GeoTileMap::Layer::Bottom);
-    moving.applyConfig(brightConfig());
-    moving.setSource(supply.source());
+    showBright(moving, supply);
     for (const double ratio : {1.0, 1.5, 2.0}) {
         for (const double rotation : {0.0, 20.0}) {
             TileView view(500.0, Steep, rotation, ratio);
@@ -150,8 +102,7 @@ void TestGeoTileMap::movedPictureLooksAsIfDrawnAnew()
             for (const QPoint step : {QPoint(40, 0), QPoint(-8, 20), QPoint(-10, 130), QPoint(0, -300)}) {
                 view.pan(step.x(), step.y());
                 GeoTileMap anew(GeoTileMap::Layer::Bottom);
-                anew.applyConfig(brightConfig());
-                anew.setSource(supply.source());
+                showBright(anew, supply);
                 const bool isSmall = std::abs(step.y()) <= 20; // what comes into sight then is drawn at once
                 const QImage moved = isSmall ? view.frame(moving) : view.painted(moving);
                 QCOMPARE(differing(moved, view.painted(anew), 3), 0);
@@ -174,8 +125,7 @@ void TestGeoTileMap::newViewIsSketchedAtOnce()
                     return index.level == level ? TileWaves::tile(index) : QImage();
                 };
                 GeoTileMap layer(GeoTileMap::Layer::Bottom);
-                layer.applyConfig(brightConfig());
-                layer.setSource(supply.source());
+                showBright(layer, supply);
                 const QImage image = view.frame(layer);
                 QVERIFY(layer.drawing());
                 for (int i = 0; i < image.width() * image.height(); i += 7) {
@@ -199,158 +149,14 @@ void TestGeoTileMap::drawingOfALeftViewIsNoHarm()
     for (const double rotation : {0.0, 20.0}) {
         for (const double metresPerPixel : {500.0, 350.0}) {
             GeoTileMap layer(GeoTileMap::Layer::Bottom);
-            layer.applyConfig(brightConfig());
-            layer.setSource(supply.source());
+            showBright(layer, supply);
             TileView view(500.0, Steep, rotation);
             view.frame(layer);
             view = TileView(metresPerPixel, Steep, rotation);
             view.pan(21, -13);
             GeoTileMap anew(GeoTileMap::Layer::Bottom);
-            anew.applyConfig(brightConfig());
-            anew.setSource(supply.source());
+            showBright(anew, supply);
             QCOMPARE(differing(view.painted(layer), view.painted(anew), 3), 0);
-        }
-    }
-}
-
-// Tiles that come here and there, over stand-ins, until all are there.
-void TestGeoTileMap::tilesThatComeLookAsIfDrawnAnew()
-{
-    for (const double rotation : {0.0, 20.0}) {
-        qint64 now = 10'000;
-        TileSupply supply;
-        supply.make = [](const TileIndex &index) { return index.level == 7 ? TileWaves::tile(index) : QImage(); };
-        GeoTileMap layer(GeoTileMap::Layer::Bottom);
-        layer.applyConfig(brightConfig());
-        layer.setClock([&now] { return now; });
-        layer.setSource(supply.source());
-        const TileView view(350.0, Steep, rotation, 1.0, QSize(600, 400));
-        view.painted(layer);
-        for (int parts = 0; parts < 3; ++parts) {
-            supply.make = [parts](const TileIndex &index) {
-                return index.level == 7 || (index.x + 3 * index.y) % 4 <= parts + 1 ? TileWaves::tile(index) : QImage();
-            };
-            supply.tiles.removeIf([](const auto &entry) { return entry.value().isNull(); });
-            layer.tilesChanged();
-            for (int frame = 0; frame < 5; ++frame, now += 70) {
-                view.painted(layer);
-            }
-            now += 400;
-            const QImage one = view.painted(layer);
-            GeoTileMap anew(GeoTileMap::Layer::Bottom);
-            anew.applyConfig(brightConfig());
-            anew.setSource(supply.source());
-            QVERIFY(differing(one, view.painted(anew), 8) < 20); // here and there a pixel where parts meet
-        }
-    }
-}
-
-void TestGeoTileMap::coarserAndFinerTilesStandIn()
-{
-    const TileView view(2000.0, {4.2, 4.2}, 0.0, 1.0, QSize(200, 200));
-    QCOMPARE(TileGeometry::groundResolutionToLevel(2000.0), 7);
-    TileSupply supply;
-    GeoTileMap layer(GeoTileMap::Layer::Bottom);
-    layer.applyConfig(brightConfig());
-    layer.setSource(supply.source());
-    const TileIndex middle = {65, 62, 7}; // the tile of the view's middle
-    const QRectF rect = view.view().screenTransform().mapRect(TilePlane::planeRect(65, 62, 7));
-    const auto seen = [&](double x, double y) {
-        layer.tilesChanged();
-        const QPointF at = rect.topLeft() + QPointF(x * rect.width(), y * rect.height());
-        return view.painted(layer).pixelColor(at.toPoint());
-    };
-    QCOMPARE(seen(0.5, 0.5), QColor(Qt::black));
-    // The ancestor two levels up has this tile in the second column and the third row of sixteen.
-    QImage patched = plainTile(Qt::red);
-    QPainter(&patched).fillRect(QRect(64, 128, 64, 64), Qt::cyan);
-    supply.tiles[{16, 15, 5}] = patched;
-    QCOMPARE(seen(0.5, 0.5), QColor(Qt::cyan));
-    QCOMPARE(seen(0.1, 0.9), QColor(Qt::cyan));
-    supply.tiles[{131, 124, 8}] = plainTile(Qt::yellow); // the northeastern quarter
-    QCOMPARE(seen(0.75, 0.25), QColor(Qt::yellow));
-    QCOMPARE(seen(0.25, 0.25), QColor(Qt::cyan));
-    supply.tiles[middle] = plainTile(Qt::white);
-    QTRY_COMPARE(seen(0.75, 0.25), QColor(Qt::white));
-    QCOMPARE(seen(0.25, 0.75), QColor(Qt::white));
-}
-
-void TestGeoTileMap::tilesFadeIn()
-{
-    qint64 now = 10000;
-    TileSupply supply;
-    for (int x = 14; x < 18; ++x) {
-        for (int y = 14; y < 18; ++y) {
-            supply.tiles[{x, y, 5}] = plainTile(QColor(0, 0, 200));
-        }
-    }
-    GeoTileMap layer(GeoTileMap::Layer::Bottom);
-    layer.applyConfig(brightConfig());
-    layer.setClock([&now] { return now; });
-    layer.setSource(supply.source());
-    TileView view(2000.0, {0.0, 0.0}, 0.0, 1.0, QSize(200, 200));
-    const auto blue = [&] { return view.painted(layer).pixelColor(150, 150).blue(); };
-    QCOMPARE(blue(), 200);
-    supply.make = [](const TileIndex &index) { return index.level == 7 ? plainTile(QColor(0, 0, 100)) : QImage(); };
-    QSignalSpy polluted(&layer, &GeoLayer::polluted);
-    layer.tilesChanged();
-    QVERIFY(polluted.wait());
-    const int first = blue();
-    now += 200; // frames come by themselves
-    const int second = blue();
-    QVERIFY2(first > 150 && first < 195, qPrintable(QString::number(first)));
-    QVERIFY2(second > 105 && second < first - 20, qPrintable(QString::number(second)));
-    now += 200;
-    QCOMPARE(blue(), 100);
-    view.pan(-120, 0); // what is there when it comes into view does not fade
-    QCOMPARE(view.painted(layer).pixelColor(199, 150).blue(), 100);
-}
-
-// Of two half transparent tiles no more is ever seen than of one.
-void TestGeoTileMap::transparentTilesFadeToo()
-{
-    qint64 now = 0;
-    const QColor veil(255, 255, 255, 128);
-    QImage image(256, 256, QImage::Format_ARGB32_Premultiplied);
-    image.fill(veil);
-    TileSupply supply;
-    supply.tiles[{16, 15, 5}] = image;
-    GeoTileMap layer(GeoTileMap::Layer::Top);
-    layer.applyConfig(brightConfig());
-    layer.setClock([&now] { return now; });
-    layer.setSource(supply.source());
-    const TileView view(2000.0, {2.8, 2.8}, 0.0, 1.0, QSize(60, 60));
-    QCOMPARE(view.painted(layer).pixelColor(30, 30).red(), 128);
-    supply.make = [&image](const TileIndex &) { return image; };
-    layer.tilesChanged();
-    for (; now < 600; now += 100) {
-        const int red = view.painted(layer).pixelColor(30, 30).red();
-        QVERIFY2(std::abs(red - 128) <= 2, qPrintable(QString::number(red)));
-    }
-}
-
-// Nothing is seen of bright tiles that come and look as what stood in for them.
-void TestGeoTileMap::equalTilesFadeUnseen()
-{
-    const QColor bright(180, 200, 240);
-    qint64 now = 1000;
-    int here = 0;
-    TileSupply supply;
-    supply.make = [&](const TileIndex &index) {
-        return index.level <= 5 || (index.x + index.y) % 4 < here ? plainTile(bright) : QImage();
-    };
-    GeoTileMap layer(GeoTileMap::Layer::Bottom);
-    layer.applyConfig(brightConfig());
-    layer.setClock([&now] { return now; });
-    layer.setSource(supply.source());
-    QImage even(QSize(300, 200), QImage::Format_RGB32);
-    even.fill(bright);
-    const TileView view(1200.0, Steep);
-    for (; here <= 4; ++here) {
-        supply.tiles.removeIf([](const auto &entry) { return entry.value().isNull(); });
-        layer.tilesChanged();
-        for (int frame = 0; frame < 3; ++frame, now += 70) {
-            QCOMPARE(differing(view.painted(layer), even, 1), 0);
         }
     }
 }
@@ -360,8 +166,7 @@ void TestGeoTileMap::nothingIsDoneWhileNothingChanges()
     TileSupply supply;
     supply.make = TileWaves::tile;
     GeoTileMap layer(GeoTileMap::Layer::Bottom);
-    layer.applyConfig(brightConfig());
-    layer.setSource(supply.source());
+    showBright(layer, supply);
     TileView view(500.0, Steep, 10.0);
     const QImage first = view.painted(layer);
     supply.asked = 0;
@@ -477,8 +282,8 @@ void TestGeoTileMap::saysWhoseTheTilesAre()
         int legible = 0;
         int ofLogo = 0;
         const bool isDark = ground.lightness() < 128;
-        for (int y = int(place.top()) + 1; y < int(place.bottom()); ++y) {
-            for (int x = int(place.left()) + 1; x < int(place.right()); ++x) {
+        for (int y = static_cast<int>(place.top()) + 1; y < static_cast<int>(place.bottom()); ++y) {
+            for (int x = static_cast<int>(place.left()) + 1; x < int(place.right()); ++x) {
                 const int lightness = image.pixelColor(x, y).lightness();
                 legible += isDark ? lightness > 150 : lightness < 100;
                 ofLogo += image.pixelColor(x, y) == QColor(isDark ? Qt::white : Qt::darkBlue);
@@ -499,8 +304,7 @@ void TestGeoTileMap::viewsThatNeedTooManyTilesShowNone()
     supply.minLevel = 12;
     supply.make = [](const TileIndex &) { return plainTile(Qt::red); };
     GeoTileMap layer(GeoTileMap::Layer::Bottom);
-    layer.applyConfig(brightConfig());
-    layer.setSource(supply.source());
+    showBright(layer, supply);
     QCOMPARE(differing(TileView(14000.0, Steep).painted(layer), Qt::black), 0);
     QCOMPARE(supply.asked, 0);
     QCOMPARE(differing(TileView(30.0, Steep).painted(layer), Qt::red), 0);
